@@ -1,0 +1,44 @@
+# What every target of the tree shares.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
+endif()
+
+find_program(TAVI_CCACHE ccache)
+if(TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # A precompiled header defeats the cache unless its defines and times are allowed to differ.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} ${TAVI_CCACHE})
+endif()
+
+function(tavi_target_defaults target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror)
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+  endif()
+  if(TAVI_SANITIZE)
+    list(JOIN TAVI_SANITIZE "," sanitizers)
+    target_compile_options(${target} PRIVATE -fsanitize=${sanitizers} -fno-omit-frame-pointer
+      -fno-sanitize-recover=all)
+    target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
+  endif()
+endfunction()
+
+# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header.
+function(tavi_exclude_other_platforms list_name)
+  set(files ${${list_name}})
+  if(WIN32)
+    list(FILTER files EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
+  endif()
+  set(${list_name} ${files} PARENT_SCOPE)
+endfunction()

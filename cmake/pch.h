@@ -1,0 +1,14 @@
+// Heads that most files of the library read and nobody changes.
+#include <QEvent>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QPoint>
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <QVector>
+#include <cmath>
+#include <functional>
+#include <memory>

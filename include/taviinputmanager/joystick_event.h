@@ -1,0 +1,37 @@
+// The gamepad events that a host builds and hands to OnJoystickEvent. Header only: a host makes them on its stack.
+//
+// Their types are the static members of tavikeymapmanager::JoystickEvent.
+#ifndef TAVIINPUTMANAGER_JOYSTICK_EVENT_H_
+#define TAVIINPUTMANAGER_JOYSTICK_EVENT_H_
+
+#include <QEvent>
+#include <QString>
+
+namespace taviinputmanager {
+
+// A button of a gamepad went down or up: type ButtonPress or ButtonRelease.
+class JoystickButtonEvent : public QEvent {
+ public:
+  JoystickButtonEvent(QEvent::Type type, const QString& text, int code, int device)
+      : QEvent(type), text(text), code(code), device(device) {}
+
+  QString text;  // the button's name, or its digit; an arrow character for the hat
+  int code;      // the host's own code; the library does not read it
+  int device;    // the host's id of the gamepad
+};
+
+// A stick of a gamepad moved: type AxisTriggle.
+class JoystickAxisEvent : public QEvent {
+ public:
+  JoystickAxisEvent(QEvent::Type type, double x, double y, int stick, int device)
+      : QEvent(type), x(x), y(y), stick(stick), device(device) {}
+
+  double x;    // -1 (left) to 1 (right)
+  double y;    // -1 (up) to 1 (down)
+  int stick;   // 0 left, 1 right
+  int device;  // the host's id of the gamepad
+};
+
+}  // namespace taviinputmanager
+
+#endif  // TAVIINPUTMANAGER_JOYSTICK_EVENT_H_

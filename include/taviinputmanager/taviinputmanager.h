@@ -1,0 +1,169 @@
+// The input layer of a desktop front end that shows an Android guest in a window.
+//
+// The host hands over the Qt events of its guest view; the library decides by a keymap what each becomes and hands back
+// lines of text for the guest through the host's send functions.
+//
+// Call order: SetInputEventSendFunc and SetInputTextSendFunc (SetInputEventSyncFunc and SetInputTextSyncFunc where
+// input is mirrored), Initialize, InitializeRecordCallbacks and InitializeReplayCallbacks, OnLoadKeymapConfigAndInfo at
+// each change of the app in front; then events. The send functions are not tested: a line before they are set is a
+// fault.
+//
+// Threads: every function is called on the host's main thread, the one of QCoreApplication. Lines leave on it too, with
+// one exception told under hazards.
+//
+// Ownership: tables, events and strings stay the caller's. Tables live as long as the library is used.
+//
+// Errors: nothing throws and nothing is reported, unless a function says so. What cannot be done is left out.
+//
+// Hazards:
+// - Several gestures block the calling thread on purpose for a few milliseconds (a swipe of a cast, a wheel notch).
+// - GetScriptAppAndPackage does not return for a file whose first action has no `data`. A macro loop without a pause
+// may
+//   never return.
+// - At the natural end of a replay the reset of its contacts runs on the replay's thread: those lines, the status
+//   callback and `finished` arrive there, and may come before the lines of the last action.
+// - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
+// - UpdateRecordTimestamp lets the exception of its JSON parser through.
+// - A host does not load a keymap, reset or change the display from inside a callback.
+//
+// Leaving main with gestures, macros or replays under way is safe.
+#ifndef TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
+#define TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
+
+#include <QList>
+#include <QString>
+#include <QVector>
+
+#include "taviinputmanager/callbacks.h"
+#include "taviinputmanager/export.h"
+#include "taviinputmanager/joystick_event.h"
+#include "taviinputmanager/types.h"
+#include "taviinputmanager/virtual_time.h"
+
+class QEvent;
+
+namespace taviinputmanager {
+
+// ---- Input events --------------------------------------------------------------------------------------------------
+
+// A Qt event of the guest view: keys, mouse buttons and moves, wheel, touch, input method. Positions are relative to
+// the view. Native scan codes are those of Windows with the extended bit as 0x100; converting is the host's duty. Other
+// types are dropped, and all before Initialize. Not kept after the call.
+TAVI_EXPORT void OnQtInputEvent(QEvent* event);
+
+// A gamepad event (joystick_event.h). Other types are dropped, and all before Initialize. Not kept after the call.
+TAVI_EXPORT void OnJoystickEvent(QEvent* event);
+
+// Relative mouse counts, taken from the window system while the pointer is captured.
+TAVI_EXPORT void OnWindowsWmRelativeInputEvent(int dx, int dy);
+
+// A ready guest line, newline included, for `display`; sent, mirrored and recorded unchanged.
+TAVI_EXPORT void OnInputRawEventData(const QString& command, int display);
+
+// A ready text line, newline included.
+TAVI_EXPORT void OnInputRawTextData(const QString& command);
+
+// Clicks the guest's back key on `display`: the press goes out at once, the release 8 ms later.
+TAVI_EXPORT void doBackAction(int display);
+
+// ---- Configuration and state ---------------------------------------------------------------------------------------
+
+// Stores the host's table (null: the library works with a display of 1280 x 720 and calls nobody) and loads an empty
+// keymap and an empty joystick keymap. Both ints are ignored.
+TAVI_EXPORT void Initialize(InputManagerCallbacks* callbacks, int, int);
+
+// Takes the keymap at `path` in place of the one before, resets all input on the display held so far, and makes
+// `display` the one that input goes to. With an empty path and a `package` of the system's own, the system keymap is
+// loaded. `extra` is kept and not read.
+TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra,
+                                           int display);
+
+// Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored.
+TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
+
+// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps.
+TAVI_EXPORT void OnResetInputStatus(bool full, int display);
+
+TAVI_EXPORT InputStatus GetInputStatus();
+
+// Resets all input on the current display; from then on input goes to `display`.
+TAVI_EXPORT void UpdateDisplayId(int display);
+
+// While on, keys of `display` pass through whatever the keymap says, and so do wheel and mouse but for the left button.
+// A host resets input when it changes this.
+TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
+
+// Puts the guest's pointer at a position of the guest view in window pixels, in keymaps whose mouse is transparent.
+TAVI_EXPORT void UpdateMousePosition(int x, int y);
+
+// Scales a position of the guest view to the guest's display, both in place, without turning it.
+TAVI_EXPORT void ConvertWindowPositionToAndroid(int& x, int& y);
+
+// Factors on the view sensitivity of each axis: 1 leaves it, 0 takes it to 1 per cent, 2 to 200 per cent. Kept across
+// keymap loads.
+TAVI_EXPORT void SetHandyStaringSensitivity(double x, double y);
+
+// Whether a macro asked for input to stay pressed when the window loses the focus.
+TAVI_EXPORT bool isInputHoldWhenWindowDeactivate();
+
+// ---- Command functions and mirroring -------------------------------------------------------------------------------
+
+// Each takes a pointer to a function of the type of the same name (types.h). Null leaves the function as it was; the
+// first two then log an error.
+TAVI_EXPORT void SetInputEventSendFunc(void* func);
+TAVI_EXPORT void SetInputTextSendFunc(void* func);
+TAVI_EXPORT void SetInputEventSyncFunc(void* func);
+TAVI_EXPORT void SetInputTextSyncFunc(void* func);
+
+// Adds `target` to the names that the mirror functions get, once. The other two are ignored.
+TAVI_EXPORT void StartSync(const QString& target, const QString&, const QString&);
+
+// Removes `target` from those names. PauseSync is the same operation: StartSync adds the target again.
+TAVI_EXPORT void StopSync(const QString& target);
+TAVI_EXPORT void PauseSync(const QString& target);
+
+// ---- Recording -----------------------------------------------------------------------------------------------------
+
+// The table is the host's; null is allowed.
+TAVI_EXPORT void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks);
+TAVI_EXPORT RecordStatus GetRecordStatus();
+// Starts a recording; both names are put in front of it, for GetScriptAppAndPackage.
+TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
+TAVI_EXPORT void PauseRecord();
+TAVI_EXPORT void ResumeRecord();
+// Ends the recording and saves it to `filename`, UTF-8 JSON. The result comes through the callback `stopped`.
+TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
+// Adds a command of the host's own to the recording. Nothing for empty `data`.
+TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
+// Sets the time of creation in a record file to now. Throws what the JSON parser throws.
+TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
+// Captures input as lines of the macro language under a name, and hands them out.
+TAVI_EXPORT void StartRecordMacroInstruction(QString name);
+TAVI_EXPORT void StopRecordMacroInstruction(QString name);
+TAVI_EXPORT QList<QString> getRecordMacroInstruction(QString name);
+// Reads the header of a record file. False when it cannot be read; `info` is the caller's.
+TAVI_EXPORT bool GetRecordInfo(const QString& file, RecordInfo* info);
+// Reads the names that StartRecord was given.
+TAVI_EXPORT void GetScriptAppAndPackage(const QString& file, QString& app, QString& package);
+// Writes the record files named in `params`, in order, as one merged record to `file`.
+TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& params);
+
+// ---- Replay --------------------------------------------------------------------------------------------------------
+
+// The table is the host's; null is allowed. A replay keeps the table of its start.
+TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
+// Plays `filename` on a thread of its own, known by `task_id` and `filename` from then on. The first int and the first
+// string are ignored. A file that cannot be read starts nothing, and `started` is not called.
+TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& filename, ReplayParam param);
+TAVI_EXPORT void PauseReplay(int task_id, const QString& file);
+TAVI_EXPORT void ResumeReplay(int task_id, const QString& file);
+// Plays from the start again, at the speed that the replay was started with.
+TAVI_EXPORT void RestartReplay(int task_id, const QString& file, ReplayParam param);
+TAVI_EXPORT void StopReplay(int task_id, const QString& file, bool stop_by_user);
+TAVI_EXPORT void StopAllReplay();
+// The display that all replays send to; 0 at start.
+TAVI_EXPORT void UpdateReplayDisplayId(int display);
+
+}  // namespace taviinputmanager
+
+#endif  // TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_

@@ -1,0 +1,21 @@
+// A finger that follows a stored list of points: type "Curve".
+#ifndef KEYMAP_CURVE_CONFIG_ITEM_H_
+#define KEYMAP_CURVE_CONFIG_ITEM_H_
+
+#include <QPointF>
+
+#include "keymap/composable_config_item.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD CurveConfigItem : ComposableConfigItem {
+  QPointF curve_start;  // ends of a generated straight curve, offsets from the item's point
+  QPointF curve_end;
+  QString curve_points;          // "x,y;x,y;...", offsets from the item's point
+  bool curve_straight = false;   // generate the list from the two ends
+  int curve_first_delay_ms = 0;  // below 1: 8 ms
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_CURVE_CONFIG_ITEM_H_

@@ -1,0 +1,31 @@
+// What a keymap file becomes.
+#ifndef KEYMAP_KEYMAP_CONFIG_H_
+#define KEYMAP_KEYMAP_CONFIG_H_
+
+#include <QList>
+
+#include "keymap/config_item.h"
+#include "keymap/keymap_settings.h"
+#include "keymap/wheel_settings.h"
+
+namespace tavikeymapmanager {
+
+// Owns all that it points to; the input manager owns the config and destroys it before the next load.
+struct TAVI_KEYMAP_RECORD KeymapConfig {
+  KeymapConfig() = default;
+  KeymapConfig(const KeymapConfig&) = delete;
+  KeymapConfig& operator=(const KeymapConfig&) = delete;
+  ~KeymapConfig() {
+    qDeleteAll(items);
+    delete settings;
+    delete wheel_settings;
+  }
+
+  QList<ConfigItem*> items;            // in the order of matching
+  KeymapSettings* settings = nullptr;  // null reads as defaults
+  WheelSettings* wheel_settings = nullptr;
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_KEYMAP_CONFIG_H_

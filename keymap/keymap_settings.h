@@ -1,0 +1,23 @@
+// The keymap-wide settings of the handlers.
+#ifndef KEYMAP_KEYMAP_SETTINGS_H_
+#define KEYMAP_KEYMAP_SETTINGS_H_
+
+#include <QString>
+
+#include "keymap/keymap_export.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD KeymapSettings {
+  QString mouse_mode = QStringLiteral("Mouse_No_Transparent");  // or "Mouse_OtherButton_...", "Mouse_AllButton_..."
+  bool escape_to_guest = false;       // Escape is the guest's key 1; false: it may act as back
+  bool wheel_transparent = false;     // the wheel passes through
+  int relative_interval_ms = 0;       // least time between relative moves of the guest's pointer
+  double relative_factor = 1.0;       // on relative counts
+  bool keyboard_transparent = false;  // keys that the keymap does not take pass through
+  bool joystick_transparent = false;  // the same for gamepads, in a joystick keymap
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_KEYMAP_SETTINGS_H_

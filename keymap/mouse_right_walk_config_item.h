@@ -1,0 +1,21 @@
+// Walking towards a right click: type "RightWalk". The item's point is the centre of the guest's stick.
+#ifndef KEYMAP_MOUSE_RIGHT_WALK_CONFIG_ITEM_H_
+#define KEYMAP_MOUSE_RIGHT_WALK_CONFIG_ITEM_H_
+
+#include "keymap/composable_config_item.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD MouseRightWalkConfigItem : ComposableConfigItem {
+  double character_rel_x = 0.5;  // the character on screen
+  double character_rel_y = 0.5;
+  double continue_factor = 1.0;  // on the time that a short click walks on
+  int press_hold_ms = 0;         // of the slide to the target
+  int swipe_steps = 1;
+  int swipe_step_ms = 0;
+  double walk_radius = 0;  // fraction of the display width
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_MOUSE_RIGHT_WALK_CONFIG_ITEM_H_

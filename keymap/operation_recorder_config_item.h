@@ -1,0 +1,13 @@
+// A macro that tells the host its length: type "OperationRecorder".
+#ifndef KEYMAP_OPERATION_RECORDER_CONFIG_ITEM_H_
+#define KEYMAP_OPERATION_RECORDER_CONFIG_ITEM_H_
+
+#include "keymap/macro_config_item.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD OperationRecorderConfigItem : MacroConfigItem {};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_OPERATION_RECORDER_CONFIG_ITEM_H_

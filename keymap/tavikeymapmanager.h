@@ -1,0 +1,38 @@
+// The keymap contract: the records that a keymap library makes and the functions that it offers.
+#ifndef KEYMAP_TAVIKEYMAPMANAGER_H_
+#define KEYMAP_TAVIKEYMAPMANAGER_H_
+
+#include "keymap/bunch_click_config_item.h"
+#include "keymap/composable_config_item.h"
+#include "keymap/config_item.h"
+#include "keymap/config_key.h"
+#include "keymap/curve_config_item.h"
+#include "keymap/eye_config_item.h"
+#include "keymap/fire_config_item.h"
+#include "keymap/four_key_match.h"
+#include "keymap/gravity_config_item.h"
+#include "keymap/joystick_event.h"
+#include "keymap/joystick_left_walk_config_item.h"
+#include "keymap/joystick_right_eye_config_item.h"
+#include "keymap/keymap_config.h"
+#include "keymap/keymap_export.h"
+#include "keymap/keymap_functions.h"
+#include "keymap/keymap_settings.h"
+#include "keymap/keywords.h"
+#include "keymap/macro_config_item.h"
+#include "keymap/mouse_right_walk_config_item.h"
+#include "keymap/observe_config_item.h"
+#include "keymap/operation_recorder_config_item.h"
+#include "keymap/spell_cancel_config_item.h"
+#include "keymap/spell_config_item.h"
+#include "keymap/staring_config_item.h"
+#include "keymap/swipehold_config_item.h"
+#include "keymap/tip_config_item.h"
+#include "keymap/virtual_joystick_bunch_button_config_item.h"
+#include "keymap/virtual_joystick_button_config_item.h"
+#include "keymap/virtual_stick_left_shift_button_config_item.h"
+#include "keymap/wheel_config_item.h"
+#include "keymap/wheel_settings.h"
+#include "keymap/zoom_config_item.h"
+
+#endif  // KEYMAP_TAVIKEYMAPMANAGER_H_

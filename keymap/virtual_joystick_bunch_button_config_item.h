@@ -1,0 +1,19 @@
+// Rapid presses of a virtual gamepad button: type "VirtualJoystickBunchButton".
+#ifndef KEYMAP_VIRTUAL_JOYSTICK_BUNCH_BUTTON_CONFIG_ITEM_H_
+#define KEYMAP_VIRTUAL_JOYSTICK_BUNCH_BUTTON_CONFIG_ITEM_H_
+
+#include "keymap/composable_config_item.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD VirtualJoystickBunchButtonConfigItem : ComposableConfigItem {
+  QString map_text;            // the virtual button's name
+  bool bunch_enabled = false;  // false: a plain button
+  QString bunch_mode;          // as in BunchClickConfigItem
+  int bunch_frequency = 10;
+  int bunch_count = 1;
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_VIRTUAL_JOYSTICK_BUNCH_BUTTON_CONFIG_ITEM_H_

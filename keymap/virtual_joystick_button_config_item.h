@@ -1,0 +1,15 @@
+// A key that is a virtual gamepad button: type "VirtualJoystickButton".
+#ifndef KEYMAP_VIRTUAL_JOYSTICK_BUTTON_CONFIG_ITEM_H_
+#define KEYMAP_VIRTUAL_JOYSTICK_BUTTON_CONFIG_ITEM_H_
+
+#include "keymap/composable_config_item.h"
+
+namespace tavikeymapmanager {
+
+struct TAVI_KEYMAP_RECORD VirtualJoystickButtonConfigItem : ComposableConfigItem {
+  QString map_text;  // the virtual button's name
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_VIRTUAL_JOYSTICK_BUTTON_CONFIG_ITEM_H_
