@@ -1,0 +1,177 @@
+// The 46 functions of the public header. Each finds the singleton that knows, and hands on.
+#include <QEvent>
+
+#include "core/clock.h"
+#include "core/display_geometry.h"
+#include "core/host_functions.h"
+#include "core/input_event_sender.h"
+#include "core/input_logger.h"
+#include "core/input_manager.h"
+#include "core/input_status_manager.h"
+#include "core/input_sync_manager.h"
+#include "handlers/transaction_handler.h"
+#include "record/record_file_utils.h"
+#include "record/record_manager.h"
+#include "record/replay_manager.h"
+#include "simulators/workers/staring_wm_relative_input_worker.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace taviinputmanager {
+
+// ---- Input events --------------------------------------------------------------------------------------------------
+
+void OnQtInputEvent(QEvent* event) { InputManager::GetInstance()->OnQtInputEvent(event); }
+
+void OnJoystickEvent(QEvent* event) { InputManager::GetInstance()->OnJoystickEvent(event); }
+
+void OnWindowsWmRelativeInputEvent(int dx, int dy) {
+  InputManager::GetInstance()->OnWindowsWmRelativeInputEvent(dx, dy);
+}
+
+void OnInputRawEventData(const QString& command, int display) {
+  InputEventSender::GetInstance()->SendEvent(command, display);
+}
+
+void OnInputRawTextData(const QString& command) { InputEventSender::GetInstance()->SendText(command); }
+
+void doBackAction(int display) { TransactionHandler::GetInstance()->doBackAction(display); }
+
+// ---- Configuration and state ---------------------------------------------------------------------------------------
+
+void Initialize(InputManagerCallbacks* callbacks, int, int) {
+  Clock::FindVirtualTime();  // first: singletons read the time as they are made
+  InputManager::GetInstance()->Initialize(callbacks);
+}
+
+void OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra, int display) {
+  InputManager::GetInstance()->OnLoadKeymapConfigAndInfo(path, package, extra, display);
+}
+
+void OnLoadJoystickConfigAndInfo(const QString& path, int) {
+  InputManager::GetInstance()->OnLoadJoystickConfigAndInfo(path);
+}
+
+void OnResetInputStatus(bool full, int display) {
+  if (!InputManager::GetInstance()->HasKeymapConfig()) return;
+  InputStatusManager::GetInstance()->ResetInputStatus(full ? kResetFull : kResetInput, display);
+}
+
+InputStatus GetInputStatus() { return InputStatusManager::GetInstance()->GetStatus(); }
+
+void UpdateDisplayId(int display) { InputStatusManager::GetInstance()->UpdateDisplayId(display); }
+
+void UpdateDisplayForceTransparent(int display, bool on) {
+  InputStatusManager::GetInstance()->SetForceTransparent(display, on);
+}
+
+void UpdateMousePosition(int x, int y) { InputManager::GetInstance()->UpdateMousePosition(x, y); }
+
+void ConvertWindowPositionToAndroid(int& x, int& y) { DisplayGeometry::GetInstance()->WindowPositionToAndroid(x, y); }
+
+void SetHandyStaringSensitivity(double x, double y) {
+  StaringWmRelativeInputWorker::GetInstance()->SetHandyStaringSensitivity(x, y);
+}
+
+bool isInputHoldWhenWindowDeactivate() { return InputStatusManager::GetInstance()->IsInputHold(); }
+
+// ---- Command functions and mirroring -------------------------------------------------------------------------------
+
+void SetInputEventSendFunc(void* func) {
+  if (!func) return InputLogger::GetInstance()->Error("SetInputEventSendFunc fail with nullptr variable");
+  GetHostFunctions().send_event = reinterpret_cast<InputEventSendFunc>(func);
+}
+
+void SetInputTextSendFunc(void* func) {
+  if (!func) return InputLogger::GetInstance()->Error("SetInputTextSendFunc fail with nullptr variable");
+  GetHostFunctions().send_text = reinterpret_cast<InputTextSendFunc>(func);
+}
+
+void SetInputEventSyncFunc(void* func) {
+  if (func) GetHostFunctions().sync_event = reinterpret_cast<InputEventSyncFunc>(func);
+}
+
+void SetInputTextSyncFunc(void* func) {
+  if (func) GetHostFunctions().sync_text = reinterpret_cast<InputTextSyncFunc>(func);
+}
+
+void StartSync(const QString& target, const QString&, const QString&) {
+  InputSyncManager::GetInstance()->StartSync(target);
+}
+
+void StopSync(const QString& target) { InputSyncManager::GetInstance()->StopSync(target); }
+
+void PauseSync(const QString& target) { StopSync(target); }
+
+// ---- Recording -----------------------------------------------------------------------------------------------------
+
+void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks) {
+  RecordManager::GetInstance()->SetCallbacks(callbacks);
+}
+
+RecordStatus GetRecordStatus() { return RecordManager::GetInstance()->GetStatus(); }
+
+void StartRecord(const QString& package, const QString& app) {
+  RecordManager::GetInstance()->StartRecord(package, app);
+}
+
+void PauseRecord() { RecordManager::GetInstance()->PauseRecord(); }
+
+void ResumeRecord() { RecordManager::GetInstance()->ResumeRecord(); }
+
+void StopRecord(const QString& package_name, const QString& filename) {
+  RecordManager::GetInstance()->StopRecord(package_name, filename);
+}
+
+void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2) {
+  RecordManager::GetInstance()->AddVControlCommand(data, extra1, extra2);
+}
+
+void UpdateRecordTimestamp(const QString& filename) { RecordFileUtils::GetInstance()->UpdateRecordTimestamp(filename); }
+
+void StartRecordMacroInstruction(QString name) { RecordManager::GetInstance()->StartRecordMacroInstruction(name); }
+
+void StopRecordMacroInstruction(QString name) { RecordManager::GetInstance()->StopRecordMacroInstruction(name); }
+
+QList<QString> getRecordMacroInstruction(QString name) {
+  return RecordManager::GetInstance()->GetRecordMacroInstruction(name);
+}
+
+bool GetRecordInfo(const QString& file, RecordInfo* info) {
+  return RecordFileUtils::GetInstance()->GetRecordInfo(file, info);
+}
+
+void GetScriptAppAndPackage(const QString& file, QString& app, QString& package) {
+  RecordFileUtils::GetInstance()->GetScriptAppAndPackage(file, app, package);
+}
+
+bool MergeRecord(const QString& file, const QVector<MergeParam>& params) {
+  return RecordFileUtils::GetInstance()->MergeRecord(file, params);
+}
+
+// ---- Replay --------------------------------------------------------------------------------------------------------
+
+void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks) {
+  ReplayManager::GetInstance()->SetCallbacks(callbacks);
+}
+
+void StartReplay(int unused, int task_id, const QString&, const QString& filename, ReplayParam param) {
+  ReplayManager::GetInstance()->StartReplay(unused, task_id, filename, param);
+}
+
+void PauseReplay(int task_id, const QString& file) { ReplayManager::GetInstance()->PauseReplay(task_id, file); }
+
+void ResumeReplay(int task_id, const QString& file) { ReplayManager::GetInstance()->ResumeReplay(task_id, file); }
+
+void RestartReplay(int task_id, const QString& file, ReplayParam) {
+  ReplayManager::GetInstance()->RestartReplay(task_id, file);
+}
+
+void StopReplay(int task_id, const QString& file, bool stop_by_user) {
+  ReplayManager::GetInstance()->StopReplay(task_id, file, stop_by_user);
+}
+
+void StopAllReplay() { ReplayManager::GetInstance()->StopAllReplay(); }
+
+void UpdateReplayDisplayId(int display) { InputStatusManager::GetInstance()->SetReplayDisplayId(display); }
+
+}  // namespace taviinputmanager

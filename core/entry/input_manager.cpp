@@ -1,0 +1,177 @@
+// Start, keymaps, and input made inside the library. The ways of events are in the file of routes.
+#include "core/input_manager.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include "core/clock.h"
+#include "core/display_geometry.h"
+#include "core/input_event_sender.h"
+#include "core/input_logger.h"
+#include "core/input_status_manager.h"
+#include "core/keymap_access.h"
+#include "core/virtual_keyboard_event.h"
+#include "core/virtual_mouse_event.h"
+#include "handlers/joystick_event_simulate_handler.h"
+#include "handlers/joystick_event_transparent_handler.h"
+#include "handlers/qt_input_method_event_handler.h"
+#include "handlers/qt_keyboard_event_transparent_handler.h"
+#include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
+#include "handlers/qt_wheel_event_simulate_handler.h"
+#include "keymap/joystick_event.h"
+#include "keymap/keymap_config.h"
+#include "keymap/keymap_functions.h"
+#include "taviinputmanager/callbacks.h"
+#include "taviinputmanager/joystick_event.h"
+
+namespace taviinputmanager {
+
+namespace keywords = tavikeymapmanager::keywords;
+using tavikeymapmanager::JoystickEvent;
+using tavikeymapmanager::KeymapConfig;
+using tavikeymapmanager::kUnsetCode;
+using tavikeymapmanager::kWheelDownCode;
+using tavikeymapmanager::kWheelUpCode;
+
+namespace {
+
+constexpr int kNotch = 120;             // eighths of a degree
+constexpr int kMacroWheelUpCode = 224;  // the wheel as macros name it
+constexpr int kMacroWheelDownCode = 225;
+constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
+
+void LogDebug(const char* text, const QString& detail) {
+  InputLogger* log = InputLogger::GetInstance();
+  if (log->IsDebugOn()) log->Debug(text + detail.toStdString());
+}
+
+}  // namespace
+
+InputManager* InputManager::GetInstance() {
+  static InputManager instance;
+  return &instance;
+}
+
+InputManager::InputManager() : last_mouse_move_ms_(Clock::NowMs()) {}
+
+InputManager::~InputManager() = default;
+
+void InputManager::Initialize(InputManagerCallbacks* callbacks) {
+  callbacks_ = callbacks;
+  DisplayGeometry::GetInstance()->SetCallbacks(callbacks);
+  InputStatusManager::GetInstance()->SetCallbacks(callbacks);
+  JoystickEventTransparentHandler::GetInstance()->SetCallbacks(callbacks);
+  JoystickEventSimulateHandler::GetInstance()->SetCallbacks(callbacks);
+  QtKeyboardMouseEventSimulateHandler::GetInstance()->Initialize(callbacks);
+  InputEventSender::GetInstance()->SetCallbacks(callbacks);
+  OnLoadKeymapConfigAndInfo(QString(), QString(), QString(), 0);
+  OnLoadJoystickConfigAndInfo(QString());
+}
+
+bool InputManager::IsOwnPackage(const QString& package) {
+  return package.startsWith(QLatin1String("com.android.")) || package.startsWith(QLatin1String("com.rolo.")) ||
+         package.startsWith(QLatin1String("com.halvane.rolo.")) || package == QLatin1String("app.lawnchair");
+}
+
+void InputManager::OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra,
+                                             int display) {
+  QString source = path;
+  if (source.isEmpty() && IsOwnPackage(package)) {
+    source = keywords::kSystemKeymap;
+    LogDebug("use system config for: ", package);
+  }
+  LogDebug("on load keymap config and info: ", path + QString::number(display));
+
+  QtKeyboardMouseEventSimulateHandler::GetInstance()->ForgetConfig();
+  QtWheelEventSimulateHandler::GetInstance()->ForgetConfig();
+  keymap_config_.reset();
+  keymap_config_.reset(tavikeymapmanager::LoadKeymapConfigAndInfo(source));
+  if (!keymap_config_) return;  // a library that failed: events are dropped until a load succeeds
+
+  const auto& wheel_settings = WheelSettingsOf(keymap_config_.get());
+  if (callbacks_ && callbacks_->OnVirtualJoystickChanged) {
+    JoystickEventTransparentHandler::GetInstance()->SetVirtualJoystick(wheel_settings.virtual_joystick);
+    callbacks_->OnVirtualJoystickChanged(wheel_settings.virtual_joystick);
+  }
+  QtKeyboardMouseEventSimulateHandler::GetInstance()->SetConfig(keymap_config_.get());
+  InputStatusManager::GetInstance()->ResetForKeymap(keymap_config_.get(), package, extra, !source.isEmpty(),
+                                                    wheel_settings.simulate_mode, display);
+  QtWheelEventSimulateHandler::GetInstance()->SetConfig(keymap_config_.get());
+}
+
+void InputManager::OnLoadJoystickConfigAndInfo(const QString& path) {
+  JoystickEventSimulateHandler* handler = JoystickEventSimulateHandler::GetInstance();
+  handler->ForgetConfig();
+  joystick_config_.reset();
+  joystick_config_.reset(tavikeymapmanager::LoadJoystickConfigAndInfo(path));
+  handler->SetConfig(joystick_config_.get());
+}
+
+bool InputManager::isConfigHasSpeicalTypeKey(const QString& type) const {
+  return tavikeymapmanager::isConfigHasSpeicalTypeKey(keymap_config_.get(), type);
+}
+
+void InputManager::SwitchStaring(bool enter) {
+  const InputStatusManager* status = InputStatusManager::GetInstance();
+  const auto& key = status->GetStaringKey();
+  if (key.device.isEmpty()) return;  // the keymap has no view control
+  if (key.device == keywords::kDeviceJoystick) {
+    if (key.text.isEmpty()) return;
+  } else if (key.virtual_key == kUnsetCode || key.scancode == kUnsetCode) {
+    return;
+  }
+  if (status->GetStatus() != (enter ? InputStatus::StaringOff : InputStatus::Staring)) return;
+  DispatchVirtualEvent(key.device, 0, key.scancode, true, QPointF());  // never released: it acts on the press alone
+}
+
+void InputManager::InjectText(const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QtInputMethodEventHandler::GetInstance()->OnInputMethod(&event);
+}
+
+void InputManager::DispatchVirtualEvent(const QString& device, qint64 id, int code, bool press, const QPointF& point) {
+  if (device == keywords::kDeviceMouse) return DispatchVirtualMouse(id, code, press, point);
+  if (device != keywords::kDeviceKeyboard) return;
+  // Past recording, text mode and forced transparency: this is not the user.
+  VirtualKeyboardEvent event(press ? QEvent::KeyPress : QEvent::KeyRelease, code, id);
+  if (QtKeyboardMouseEventSimulateHandler::GetInstance()->HandleKeyEvent(&event)) return;
+  QtKeyboardEventTransparentHandler::GetInstance()->HandleKeyEvent(&event);
+}
+
+void InputManager::DispatchVirtualMouse(qint64 id, int code, bool press, const QPointF& point) {
+  if (id == 0 && (code == kWheelUpCode || code == kWheelDownCode)) {
+    return DispatchWheelAt(point, code == kWheelUpCode ? kNotch : -kNotch);
+  }
+  const QEvent::Type type = press ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease;
+  const auto button = static_cast<Qt::MouseButton>(code);
+  const Qt::MouseButtons held = press ? Qt::MouseButtons(button) : Qt::NoButton;
+  if (id != 0) {
+    VirtualMouseEvent event(type, point, button, held, id);
+    return OnQtInputEvent(&event);
+  }
+  QMouseEvent event(type, point, button, held, Qt::NoModifier);
+  OnQtInputEvent(&event);
+}
+
+void InputManager::DispatchVirtualWheel(const QString& device, int delta, int code, const QPointF& point) {
+  if (device != keywords::kDeviceMouse) return;
+  if (code != kMacroWheelUpCode && code != kMacroWheelDownCode) return;
+  DispatchWheelAt(point, delta);
+}
+
+void InputManager::DispatchWheelAt(const QPointF& point, int delta) {
+  QWheelEvent event(point, point, QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  OnQtInputEvent(&event);
+}
+
+void InputManager::DispatchVirtualJoystickButton(const QString& device, const QString& text, bool press) {
+  if (device != keywords::kDeviceJoystick) return;
+  JoystickButtonEvent event(press ? JoystickEvent::ButtonPress : JoystickEvent::ButtonRelease, text, 0,
+                            kMacroJoystickDevice);
+  OnJoystickEvent(&event);
+}
+
+}  // namespace taviinputmanager

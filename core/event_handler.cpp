@@ -1,0 +1,24 @@
+#include "core/event_handler.h"
+
+#include "core/input_event_sender.h"
+#include "core/input_status_manager.h"
+
+namespace taviinputmanager {
+
+EventHandler::EventHandler() : sender_(InputEventSender::GetInstance()) {}
+
+EventHandler::~EventHandler() = default;
+
+void EventHandler::SendEvent(const QString& command) {
+  SendEventTo(command, InputStatusManager::GetInstance()->GetDisplayId());
+}
+
+void EventHandler::SendEventTo(const QString& command, int display) {
+  if (!command.isEmpty()) sender_->SendEvent(command, display);
+}
+
+void EventHandler::SendText(const QString& command) {
+  if (!command.isEmpty()) sender_->SendText(command);
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,31 @@
+// The base of everything that takes an event and sends lines: handlers, simulators, and workers of the main thread.
+#ifndef CORE_EVENT_HANDLER_H_
+#define CORE_EVENT_HANDLER_H_
+
+#include <QObject>
+#include <QString>
+
+namespace taviinputmanager {
+
+class InputEventSender;
+
+// Main thread. An empty command means that there is nothing to send, and is dropped.
+class EventHandler : public QObject {
+  Q_OBJECT
+
+ public:
+  EventHandler();
+  ~EventHandler() override;
+
+  // To the display that live input goes to.
+  void SendEvent(const QString& command);
+  void SendEventTo(const QString& command, int display);
+  void SendText(const QString& command);
+
+ private:
+  InputEventSender* sender_;  // the singleton
+};
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_EVENT_HANDLER_H_

@@ -1,0 +1,30 @@
+// The only way out: every line for the guest passes here.
+#ifndef CORE_INPUT_EVENT_SENDER_H_
+#define CORE_INPUT_EVENT_SENDER_H_
+
+#include <QString>
+
+namespace taviinputmanager {
+
+struct InputManagerCallbacks;
+
+// Main thread, but for the reset at the natural end of a replay. No lock, no queue, no retry.
+class InputEventSender {
+ public:
+  static InputEventSender* GetInstance();
+
+  void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
+
+  // Sends `command` to `display` with the display's number in front. A primary display's lines are then mirrored and
+  // offered to the recorder.
+  void SendEvent(const QString& command, int display);
+  // Sends a text line, which has no display; always mirrored and offered.
+  void SendText(const QString& command);
+
+ private:
+  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
+};
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_INPUT_EVENT_SENDER_H_

@@ -1,0 +1,59 @@
+#include "core/input_logger.h"
+
+#include <Poco/AutoPtr.h>
+#include <Poco/Exception.h>
+#include <Poco/FileChannel.h>
+#include <Poco/FormattingChannel.h>
+#include <Poco/Logger.h>
+#include <Poco/Message.h>
+#include <Poco/PatternFormatter.h>
+#include <Poco/Process.h>
+
+namespace taviinputmanager {
+namespace {
+
+constexpr char kLoggerName[] = "input_logger";
+constexpr char kBaseFileName[] = "input_looger.txt";
+
+Poco::Logger& Logger() { return Poco::Logger::get(kLoggerName); }
+
+// A log that cannot be written must not stop the input: a file that does not open is no error of the caller's.
+template <typename Function>
+void Write(Function&& function) {
+  try {
+    function();
+  } catch (const Poco::Exception&) {
+  }
+}
+
+}  // namespace
+
+InputLogger* InputLogger::GetInstance() {
+  static InputLogger instance;
+  return &instance;
+}
+
+InputLogger::InputLogger() {
+  Poco::AutoPtr<Poco::FileChannel> file(new Poco::FileChannel);
+  file->setProperty("path", std::string(kBaseFileName) + "_" + std::to_string(Poco::Process::id()));
+  file->setProperty("rotation", "64 K");
+  file->setProperty("archive", "timestamp");
+  file->setProperty("purgeCount", "2");
+  Poco::AutoPtr<Poco::PatternFormatter> formatter(
+      new Poco::PatternFormatter("%L%Y-%m-%d %H:%M:%S:%i [Thread-%I]: %t"));
+  Poco::AutoPtr<Poco::FormattingChannel> channel(new Poco::FormattingChannel(formatter, file));
+  Logger().setChannel(channel);
+  Logger().setLevel(Poco::Message::PRIO_ERROR);
+}
+
+void InputLogger::Debug(const std::string& message) {
+  Write([&] { Logger().debug(message); });
+}
+
+void InputLogger::Error(const std::string& message) {
+  Write([&] { Logger().error(message); });
+}
+
+bool InputLogger::IsDebugOn() const { return Logger().debug(); }
+
+}  // namespace taviinputmanager

@@ -1,0 +1,124 @@
+#include "core/input_status_manager.h"
+
+#include <utility>
+
+#include <QMutexLocker>
+
+#include "core/guest_command.h"
+#include "core/input_event_sender.h"
+#include "keymap/keymap_functions.h"
+#include "taviinputmanager/callbacks.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::KeymapConfig;
+
+namespace {
+
+constexpr int kLastFixedSlot = 10;
+constexpr int kLastTapSlot = 17;
+constexpr int kFirstMacroSlot = 18;
+constexpr int kLastMacroSlot = 25;
+
+}  // namespace
+
+InputStatusManager* InputStatusManager::GetInstance() {
+  static InputStatusManager instance;
+  return &instance;
+}
+
+void InputStatusManager::SetStatus(InputStatus status, const QString& message) {
+  status_ = status;
+  status_message_ = message;
+  NotifyStatus();
+}
+
+void InputStatusManager::NotifyStatus() const {
+  if (callbacks_) callbacks_->OnInputStatusChanged(static_cast<int>(status_), status_message_);
+}
+
+void InputStatusManager::LeaveModes() {
+  if (status_ != InputStatus::Normal) status_ = InputStatus::StaringOff;
+  NotifyStatus();
+}
+
+void InputStatusManager::ResetForKeymap(const KeymapConfig* config, const QString& package, const QString& extra,
+                                        bool has_path, int mode, int display) {
+  status_ = InputStatus::Normal;
+  staring_key_ = ConfigKey();
+  package_name_ = package;
+  extra_ = extra;
+  has_keymap_ = has_path;
+  TakeStaringKey(config);
+  mode_ = mode;
+  LeaveModes();
+  ResetGuestState(kResetAll, 0);
+  input_hold_ = false;
+  display_id_ = display;
+}
+
+void InputStatusManager::TakeStaringKey(const KeymapConfig* config) {
+  for (const ConfigItem* item : config->items) {
+    if (!item || item->type != tavikeymapmanager::keywords::kTypeStaring) continue;
+    status_ = InputStatus::StaringOff;
+    staring_key_ = item->key;
+    ConfigKey named = item->key;
+    tavikeymapmanager::SetTextForConfigKey(&named);
+    status_message_ = named.text;
+    return;
+  }
+}
+
+void InputStatusManager::UpdateDisplayId(int display) {
+  LeaveModes();
+  ResetGuestState(kResetAll, 0);
+  display_id_ = display;
+  input_hold_ = false;
+}
+
+void InputStatusManager::ResetInputStatus(int mode, int display) {
+  LeaveModes();
+  ResetGuestState(mode, display);
+}
+
+void InputStatusManager::SetForceTransparent(int display, bool on) {
+  const QMutexLocker locker(&force_transparent_mutex_);
+  force_transparent_[display] = on;
+}
+
+bool InputStatusManager::IsDisplayForceTransparent(int display) const {
+  const QMutexLocker locker(&force_transparent_mutex_);
+  return force_transparent_.value(display, false);
+}
+
+void InputStatusManager::ReleaseHeldKeys() { ReleaseHeldKeysOn(display_id_); }
+
+void InputStatusManager::ReleaseHeldKeysOn(int display) {
+  const CodeSet codes = std::exchange(held_keys_, {});  // sending may reach code that adds a key
+  for (const int code : codes) InputEventSender::GetInstance()->SendEvent(guest_command::KeyRelease(code), display);
+}
+
+void InputStatusManager::ReleaseSlots(int mode, int display) {
+  switch (mode) {
+    case 0: return ReleaseSlotRange(0, kLastFixedSlot, display);
+    case 1: return ReleaseSlotRange(0, kLastTapSlot, display);
+    case 2: return InputEventSender::GetInstance()->SendEvent(guest_command::SlotReleaseAll(), display);
+    case 4: return ReleaseSlotRange(kFirstMacroSlot, kLastMacroSlot, display);
+    default: return;
+  }
+}
+
+void InputStatusManager::ReleaseSlotRange(int first, int last, int display) {
+  for (int slot = first; slot <= last; ++slot) {
+    InputEventSender::GetInstance()->SendEvent(guest_command::SlotRelease(slot), display);
+  }
+}
+
+bool InputStatusManager::ToggleInputHold() {
+  input_hold_ = !input_hold_;
+  return input_hold_;
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,117 @@
+// What the input layer knows of itself: its mode, its displays, the keys that are down, and how all of it is reset.
+#ifndef CORE_INPUT_STATUS_MANAGER_H_
+#define CORE_INPUT_STATUS_MANAGER_H_
+
+#include <QMap>
+#include <QMutex>
+#include <QString>
+
+#include "core/code_set.h"
+#include "keymap/config_key.h"
+#include "taviinputmanager/types.h"
+
+namespace tavikeymapmanager {
+struct KeymapConfig;
+}
+
+namespace taviinputmanager {
+
+struct InputManagerCallbacks;
+
+// How much ResetGuestState clears.
+enum ResetMode : int {
+  kResetInput = 0,  // fingers and keys
+  kResetFull = 1,   // and taps, and the macros that wait for a release
+  kResetAll = 2,    // everything that the live display can hold
+  kResetMacro = 4,  // the macro slots alone
+};
+
+// Main thread, but for the reset at the natural end of a replay, and for the transparency of displays, which any thread
+// may ask.
+class InputStatusManager {
+ public:
+  static InputStatusManager* GetInstance();
+
+  void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
+
+  // ---- Status ----
+  InputStatus GetStatus() const { return status_; }
+  // Stores both and tells the host, also without a change. `message` is the name of the key that caused it.
+  void SetStatus(InputStatus status, const QString& message);
+
+  // ---- Keymap and displays ----
+  // Takes over what a fresh keymap means for the status, resets everything on the display held so far, and moves on to
+  // `display`. `extra` is kept and not read.
+  void ResetForKeymap(const tavikeymapmanager::KeymapConfig* config, const QString& package, const QString& extra,
+                      bool has_path, int mode, int display);
+  // Resets everything on the present display and moves on to `display`.
+  void UpdateDisplayId(int display);
+  int GetDisplayId() const { return display_id_; }
+  int GetReplayDisplayId() const { return replay_display_id_; }
+  void SetReplayDisplayId(int display) { replay_display_id_ = display; }
+  void SetForceTransparent(int display, bool on);
+  bool IsDisplayForceTransparent(int display) const;
+
+  const QString& GetPackageName() const { return package_name_; }
+  // A keymap path was in effect at the last load.
+  bool HasKeymap() const { return has_keymap_; }
+  // The setting simulate_mode of the last keymap.
+  int GetMode() const { return mode_; }
+  // The key of the keymap's Staring item; unset when there is none. A joystick key is known by its text, any other by
+  // its codes.
+  const tavikeymapmanager::ConfigKey& GetStaringKey() const { return staring_key_; }
+
+  // ---- Keys that are down in the guest ----
+  void AddHeldKey(int code) { held_keys_.Add(code); }
+  void RemoveHeldKey(int code) { held_keys_.Remove(code); }
+  // Releases them on the present display, in ascending order, and forgets them.
+  void ReleaseHeldKeys();
+  // The same record for the display that replays go to.
+  CodeSet& ReplayHeldKeys() { return replay_held_keys_; }
+
+  // ---- Reset ----
+  // Leaves view control and observing, tells the host, and resets. `mode` is a ResetMode; display 0 is the present one.
+  void ResetInputStatus(int mode, int display);
+  // Clears the managers and simulators first, so that no later update can press again, then sweeps the guest. `mode`
+  // and `display` as above.
+  void ResetGuestState(int mode, int display);
+  // The sweep. 0: slots 0 to 10; 1: 0 to 17; 2: all at once; 3: nothing; 4: 18 to 25.
+  void ReleaseSlots(int mode, int display);
+
+  // ---- Switches of macros ----
+  bool IsInputHold() const { return input_hold_; }
+  bool ToggleInputHold();
+  double GetSwipeholdFactor() const { return swipehold_factor_; }
+  // Between 1.0 and `value`; the walk follows at once.
+  void ToggleSwipeholdFactor(double value);
+
+ private:
+  InputStatusManager() = default;
+
+  void LeaveModes();
+  void NotifyStatus() const;
+  void ReleaseSlotRange(int first, int last, int display);
+  void ReleaseHeldKeysOn(int display);
+  void TakeStaringKey(const tavikeymapmanager::KeymapConfig* config);
+
+  InputStatus status_ = InputStatus::Normal;
+  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
+  QString status_message_;                      // kept when a keymap has no Staring item
+  CodeSet held_keys_;
+  CodeSet replay_held_keys_;
+  mutable QMutex force_transparent_mutex_;  // guards force_transparent_ only
+  QMap<int, bool> force_transparent_;
+  QString package_name_;
+  QString extra_;
+  bool has_keymap_ = false;
+  tavikeymapmanager::ConfigKey staring_key_;
+  int display_id_ = 0;
+  int replay_display_id_ = 0;
+  bool input_hold_ = false;
+  double swipehold_factor_ = 1.0;
+  int mode_ = 0;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_INPUT_STATUS_MANAGER_H_

@@ -1,0 +1,27 @@
+// From the host's key codes to the guest's.
+#ifndef CORE_KEY_CODE_CONVERTER_H_
+#define CORE_KEY_CODE_CONVERTER_H_
+
+namespace taviinputmanager {
+
+// The guest speaks Linux input event codes. The host delivers Windows scan codes with the extended bit as 0x100.
+// Stateless; any thread.
+class KeyCodeConverter {
+ public:
+  static KeyCodeConverter* GetInstance();
+
+  // Codes without a row of their own pass through; the unset code is Escape.
+  int KeyToGuestCode(int scan) const;
+  // Takes a Qt::MouseButton. -1 for a button that the guest does not know.
+  int MouseButtonToGuestCode(int button) const;
+  // Whether a guest code is a key that moves or controls instead of writing, in a text field.
+  bool IsControlKey(int code) const;
+};
+
+// Guest codes with a meaning of their own.
+constexpr int kEscapeCode = 1;
+constexpr int kBackCode = 158;  // Android's back key
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_KEY_CODE_CONVERTER_H_

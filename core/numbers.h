@@ -1,0 +1,29 @@
+// From doubles to ints: the only two ways in use. They are not interchangeable.
+#ifndef CORE_NUMBERS_H_
+#define CORE_NUMBERS_H_
+
+#include <cmath>
+#include <limits>
+
+namespace taviinputmanager {
+
+// Towards zero. NaN gives 0; what no int can hold gives the nearest one that an int can.
+inline int Truncate(double v) {
+  constexpr double kLowest = std::numeric_limits<int>::min();
+  constexpr double kHighest = std::numeric_limits<int>::max();
+  if (std::isnan(v)) return 0;
+  if (v <= kLowest) return std::numeric_limits<int>::min();
+  if (v >= kHighest) return std::numeric_limits<int>::max();
+  return static_cast<int>(v);
+}
+
+// To the nearest, halves upwards: -0.5 gives 0, -1.5 gives -1. The same limits as Truncate.
+inline int Round(double v) {
+  if (v >= 0) return Truncate(v + 0.5);
+  const double k = Truncate(v - 1);
+  return Truncate(static_cast<double>(Truncate(v - k + 0.5)) + k);
+}
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_NUMBERS_H_

@@ -1,0 +1,15 @@
+// What the sender offers to the recorder. Declared here, where lines are sent; defined where they are recorded.
+#ifndef CORE_RECORDER_OFFER_H_
+#define CORE_RECORDER_OFFER_H_
+
+class QString;
+
+namespace taviinputmanager {
+
+// A line that went to a primary display, and a text line. Both with their newline, which the recorder does not keep.
+void OfferEventLine(const QString& line);
+void OfferTextLine(const QString& line);
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_RECORDER_OFFER_H_

@@ -1,0 +1,27 @@
+// The base of what a gamepad's events become.
+#ifndef HANDLERS_JOYSTICK_EVENT_HANDLER_H_
+#define HANDLERS_JOYSTICK_EVENT_HANDLER_H_
+
+#include "core/event_handler.h"
+
+namespace taviinputmanager {
+
+class JoystickAxisEvent;
+class JoystickButtonEvent;
+
+// Each operation tells whether the event was used up.
+class JoystickEventHandler : public EventHandler {
+ public:
+  virtual bool OnAxis(JoystickAxisEvent* event) = 0;
+
+  // `simulate_mode` is the keymap's.
+  bool HandleButtonEvent(JoystickButtonEvent* event, int simulate_mode);
+
+ protected:
+  virtual bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) = 0;
+  virtual bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) = 0;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_JOYSTICK_EVENT_HANDLER_H_

@@ -1,0 +1,51 @@
+#include "handlers/qt_keyboard_event_transparent_handler.h"
+
+#include <string>
+
+#include <QKeyEvent>
+
+#include "core/guest_command.h"
+#include "core/input_logger.h"
+#include "core/input_status_manager.h"
+#include "core/key_code_converter.h"
+
+namespace taviinputmanager {
+namespace {
+
+int GuestCodeOf(const QKeyEvent* event) {
+  return KeyCodeConverter::GetInstance()->KeyToGuestCode(static_cast<int>(event->nativeScanCode()));
+}
+
+void LogKey(const QKeyEvent* event) {
+  InputLogger* log = InputLogger::GetInstance();
+  if (!log->IsDebugOn()) return;
+  log->Debug("keyboard press, qt key: " + std::to_string(event->key()));
+  log->Debug("keyboard press, windows virtual key: " + std::to_string(event->nativeVirtualKey()));
+  log->Debug("keyboard press, scan code: " + std::to_string(event->nativeScanCode()));
+}
+
+}  // namespace
+
+QtKeyboardEventTransparentHandler* QtKeyboardEventTransparentHandler::GetInstance() {
+  static QtKeyboardEventTransparentHandler instance;
+  return &instance;
+}
+
+bool QtKeyboardEventTransparentHandler::OnKeyPress(QKeyEvent* event) {
+  LogKey(event);
+  const int code = GuestCodeOf(event);
+  SendEvent(guest_command::KeyPress(code));
+  InputStatusManager::GetInstance()->AddHeldKey(code);
+  return true;
+}
+
+bool QtKeyboardEventTransparentHandler::OnKeyRelease(QKeyEvent* event) {
+  const int code = GuestCodeOf(event);
+  SendEvent(guest_command::KeyRelease(code));
+  InputStatusManager::GetInstance()->RemoveHeldKey(code);
+  return true;
+}
+
+bool QtKeyboardEventTransparentHandler::AcceptsAutoRepeat(QKeyEvent* /*event*/) { return false; }
+
+}  // namespace taviinputmanager

@@ -1,0 +1,25 @@
+// A host key that stays a key.
+#ifndef HANDLERS_QT_KEYBOARD_EVENT_TRANSPARENT_HANDLER_H_
+#define HANDLERS_QT_KEYBOARD_EVENT_TRANSPARENT_HANDLER_H_
+
+#include "handlers/qt_keyboard_event_handler.h"
+
+namespace taviinputmanager {
+
+// Passes every press and release, whether or not one went before the other. Repeats are the guest's own business.
+class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
+ public:
+  static QtKeyboardEventTransparentHandler* GetInstance();
+
+ protected:
+  bool OnKeyPress(QKeyEvent* event) override;
+  bool OnKeyRelease(QKeyEvent* event) override;
+  bool AcceptsAutoRepeat(QKeyEvent* event) override;
+
+ private:
+  QtKeyboardEventTransparentHandler() = default;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_QT_KEYBOARD_EVENT_TRANSPARENT_HANDLER_H_

@@ -1,0 +1,210 @@
+#include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
+
+#include <QKeyEvent>
+
+#include "core/guest_command.h"
+#include "core/input_status_manager.h"
+#include "core/key_code_converter.h"
+#include "core/keymap_access.h"
+#include "core/virtual_keyboard_event.h"
+#include "handlers/simulator_table.h"
+#include "keymap/composable_config_item.h"
+#include "keymap/keymap_config.h"
+#include "keymap/keymap_functions.h"
+#include "keymap/tip_config_item.h"
+#include "simulators/event_simulator.h"
+#include "slots/mouse_slot_manager.h"
+#include "taviinputmanager/callbacks.h"
+
+// The keyboard side, and what both sides share. The mouse side is in the file beside this one.
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ComposableConfigItem;
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::KeymapConfig;
+using tavikeymapmanager::TipConfigItem;
+
+namespace {
+
+constexpr int kEscapeScanCode = 1;
+
+ConfigKey KeyOf(const QKeyEvent* event) {
+  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceKeyboard,
+                                            static_cast<int>(event->nativeVirtualKey()),
+                                            static_cast<int>(event->nativeScanCode()));
+}
+
+bool IsEscape(const ConfigKey& key) {
+  return KeyCodeConverter::GetInstance()->KeyToGuestCode(key.scancode) == kEscapeCode;
+}
+
+bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
+
+// Whether an item can be reached by one key: a chord cannot.
+bool IsSingleKeyItem(const ConfigItem* item) {
+  const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
+  return !composable || !IsKeySet(composable->first_key);
+}
+
+bool IsTip(const ConfigItem* item) { return dynamic_cast<const TipConfigItem*>(item) != nullptr; }
+
+}  // namespace
+
+QtKeyboardMouseEventSimulateHandler* QtKeyboardMouseEventSimulateHandler::GetInstance() {
+  static QtKeyboardMouseEventSimulateHandler instance;
+  return &instance;
+}
+
+QtKeyboardMouseEventSimulateHandler::QtKeyboardMouseEventSimulateHandler()
+    : default_mouse_slot_(MouseSlotManager::GetInstance()) {
+  mouse_buttons_[0] = 0;
+}
+
+QtKeyboardMouseEventSimulateHandler::~QtKeyboardMouseEventSimulateHandler() = default;
+
+void QtKeyboardMouseEventSimulateHandler::Initialize(InputManagerCallbacks* callbacks) {
+  callbacks_ = callbacks;
+  ClearCurrentKey();
+  chord_items_.clear();
+  mouse_buttons_[0] = 0;
+}
+
+void QtKeyboardMouseEventSimulateHandler::SetConfig(KeymapConfig* config) {
+  config_ = config;
+  UpdateEscapeState();
+}
+
+void QtKeyboardMouseEventSimulateHandler::ForgetConfig() {
+  config_ = nullptr;
+  chord_items_.clear();
+}
+
+void QtKeyboardMouseEventSimulateHandler::ResetKeyState() {
+  ClearCurrentKey();
+  chord_items_.clear();
+  mouse_buttons_[0] = 0;
+}
+
+ConfigItem* QtKeyboardMouseEventSimulateHandler::FindConfigItem(const ConfigKey& key) const {
+  if (!config_) return nullptr;
+  for (ConfigItem* item : qAsConst(config_->items)) {
+    if (!item || IsTip(item) || !item->IsKeyMatch(key) || !IsSingleKeyItem(item)) continue;
+    if (callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(true);
+    return item;
+  }
+  return nullptr;
+}
+
+ConfigItem* QtKeyboardMouseEventSimulateHandler::FindChordItem(const ConfigKey& key) const {
+  if (!config_) return nullptr;
+  for (ConfigItem* item : qAsConst(config_->items)) {
+    const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
+    if (composable && !IsTip(item) && composable->IsChordMatch(current_key_, key)) return item;
+  }
+  return nullptr;
+}
+
+EventSimulator* QtKeyboardMouseEventSimulateHandler::GetSimulator(const ConfigItem* item) { return SimulatorOf(item); }
+
+ConfigItem* QtKeyboardMouseEventSimulateHandler::FindPressedItem(const ConfigKey& key) {
+  if (IsKeySet(current_key_)) {
+    if (ConfigItem* chord = FindChordItem(key)) {
+      chord_items_[key.scancode] = chord;  // its release reaches the same item, whatever is armed by then
+      return chord;
+    }
+  }
+  return FindConfigItem(key);
+}
+
+ConfigItem* QtKeyboardMouseEventSimulateHandler::FindReleasedItem(const ConfigKey& key) {
+  ConfigItem* chord = chord_items_.take(key.scancode);
+  return chord ? chord : FindConfigItem(key);
+}
+
+bool QtKeyboardMouseEventSimulateHandler::OnKeyPress(QKeyEvent* event) {
+  ConfigKey key = KeyOf(event);
+  ConfigItem* item = FindPressedItem(key);
+  if (EventSimulator* simulator = item ? GetSimulator(item) : nullptr) {
+    simulator->Press(item, &key);
+    return true;
+  }
+  if (IsEscape(key) && PressEscape(event)) return true;
+  current_key_ = key;
+  UpdateEscapeState();
+  return false;
+}
+
+bool QtKeyboardMouseEventSimulateHandler::OnKeyRelease(QKeyEvent* event) {
+  ConfigKey key = KeyOf(event);
+  ConfigItem* item = FindReleasedItem(key);
+  if (EventSimulator* simulator = item ? GetSimulator(item) : nullptr) {
+    simulator->Release(item, &key);
+    return true;
+  }
+  if (IsEscape(key) && ReleaseEscape(event)) return true;
+  if (IsSameKey(key, current_key_)) ClearCurrentKey();
+  return false;
+}
+
+bool QtKeyboardMouseEventSimulateHandler::AcceptsAutoRepeat(QKeyEvent* /*event*/) { return false; }
+
+bool QtKeyboardMouseEventSimulateHandler::IsEscapeToGuest() const { return SettingsOf(config_).escape_to_guest; }
+
+bool QtKeyboardMouseEventSimulateHandler::IsEscapeBack() const {
+  return callbacks_ && callbacks_->IsEscapeBackEnabled();
+}
+
+bool QtKeyboardMouseEventSimulateHandler::PressEscape(const QKeyEvent* event) {
+  InputStatusManager* status = InputStatusManager::GetInstance();
+  if (IsVirtual(event)) {
+    const int code = IsEscapeToGuest() ? kEscapeCode : kBackCode;
+    SendEvent(guest_command::KeyPress(code));
+    status->AddHeldKey(code);
+    return true;
+  }
+  if (IsEscapeToGuest()) return false;  // a key like any other
+  if (IsEscapeBack()) {
+    SendEvent(guest_command::KeyPress(kBackCode));
+    status->AddHeldKey(kBackCode);
+  }
+  return true;  // it never reaches the guest as Escape
+}
+
+bool QtKeyboardMouseEventSimulateHandler::ReleaseEscape(const QKeyEvent* event) {
+  InputStatusManager* status = InputStatusManager::GetInstance();
+  if (IsVirtual(event)) {
+    const int code = IsEscapeToGuest() ? kEscapeCode : kBackCode;
+    SendEvent(guest_command::KeyRelease(code));
+    status->AddHeldKey(code);  // not removed: the next reset releases a macro's Escape once more
+    return true;
+  }
+  if (IsEscapeToGuest()) return false;
+  if (IsEscapeBack()) {
+    SendEvent(guest_command::KeyRelease(kBackCode));
+    status->RemoveHeldKey(kBackCode);
+  }
+  return true;
+}
+
+void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
+  current_key_ = ConfigKey();
+  UpdateEscapeState();
+}
+
+void QtKeyboardMouseEventSimulateHandler::UpdateEscapeState() {
+  bool occupied = false;
+  if (config_) {
+    ConfigKey escape;
+    escape.device = tavikeymapmanager::keywords::kDeviceKeyboard;
+    escape.scancode = kEscapeScanCode;
+    occupied = tavikeymapmanager::isConfigKeyMatch(config_, &escape, &current_key_) ||
+               (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &current_key_, &escape));
+    const auto& settings = SettingsOf(config_);
+    if (settings.keyboard_transparent && settings.escape_to_guest) occupied = true;
+  }
+  if (callbacks_ && callbacks_->OnEscapeKeyOccupied) callbacks_->OnEscapeKeyOccupied(occupied);
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,101 @@
+// Where a host key or mouse button meets the keymap.
+#ifndef HANDLERS_QT_KEYBOARD_MOUSE_EVENT_SIMULATE_HANDLER_H_
+#define HANDLERS_QT_KEYBOARD_MOUSE_EVENT_SIMULATE_HANDLER_H_
+
+#include <map>
+#include <memory>
+
+#include <QMap>
+
+#include "handlers/qt_keyboard_event_handler.h"
+#include "handlers/qt_mouse_event_handler.h"
+#include "keymap/config_key.h"
+
+namespace tavikeymapmanager {
+struct ConfigItem;
+struct KeymapConfig;
+}  // namespace tavikeymapmanager
+
+namespace taviinputmanager {
+
+struct InputManagerCallbacks;
+class EventSimulator;
+class MouseSlotManager;
+
+// Finds the item of a key, chords of two keys included, and hands the press or release to the item's simulator. What no
+// item takes: Escape, which may act as the guest's back key, and the left button, which is a finger.
+//
+// Two QObject bases, so never a sender, receiver or context of a connection. Main thread only.
+class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, public QtMouseEventHandler {
+ public:
+  static QtKeyboardMouseEventSimulateHandler* GetInstance();
+
+  void Initialize(InputManagerCallbacks* callbacks);
+  void SetConfig(tavikeymapmanager::KeymapConfig* config);
+  // The config is about to go: follows no pointer into it any more and tells nobody.
+  void ForgetConfig();
+  // Forgets armed and chorded keys and the real mouse's buttons; those of virtual pointers stay.
+  void ResetKeyState();
+
+  // The first item that answers to `key` alone, or null. Tells the host that a mapped device is in use.
+  tavikeymapmanager::ConfigItem* FindConfigItem(const tavikeymapmanager::ConfigKey& key) const;
+  // What an item does at run time; null for an item that does nothing by itself.
+  static EventSimulator* GetSimulator(const tavikeymapmanager::ConfigItem* item);
+
+  // For a press or release: whether an item answers to the button.
+  bool IsMouseButtonMapped(QMouseEvent* event) const;
+  // For a move: whether the left button is held and an item answers to it.
+  bool IsHeldLeftMapped(QMouseEvent* event) const;
+
+ protected:
+  bool OnKeyPress(QKeyEvent* event) override;
+  bool OnKeyRelease(QKeyEvent* event) override;
+  bool AcceptsAutoRepeat(QKeyEvent* event) override;
+
+  void OnMousePress(QMouseEvent* event) override;
+  void OnMouseRelease(QMouseEvent* event) override;
+  void OnMouseMove(QMouseEvent* event) override;
+
+ private:
+  QtKeyboardMouseEventSimulateHandler();
+  ~QtKeyboardMouseEventSimulateHandler() override;
+
+  // Through the first of the two bases, which is as good as the other.
+  void SendEvent(const QString& command) { static_cast<QtKeyboardEventHandler*>(this)->SendEvent(command); }
+
+  tavikeymapmanager::ConfigItem* FindChordItem(const tavikeymapmanager::ConfigKey& key) const;
+  tavikeymapmanager::ConfigItem* FindPressedItem(const tavikeymapmanager::ConfigKey& key);
+  tavikeymapmanager::ConfigItem* FindReleasedItem(const tavikeymapmanager::ConfigKey& key);
+  bool IsEscapeToGuest() const;
+  // Whether an Escape that is not mapped acts as back, for a real key.
+  bool IsEscapeBack() const;
+  // Both take the event of an Escape that is not mapped, and tell whether it was used up.
+  bool PressEscape(const QKeyEvent* event);
+  bool ReleaseEscape(const QKeyEvent* event);
+  void ClearCurrentKey();
+  // Tells the host whether Escape is taken.
+  void UpdateEscapeState();
+
+  void PressLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
+  void ReleaseLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
+  void MoveLeftFinger(QMouseEvent* event);
+  // The finger of a virtual pointer, made at its first use; null when the macro pool has no slot left.
+  MouseSlotManager* GetMouseSlot(qint64 id);
+  // The finger that an event moves: the real mouse's, or its virtual pointer's. May be null, as above.
+  MouseSlotManager* FingerOf(const QMouseEvent* event);
+  void GiveBackMouseSlot(qint64 id);
+  void SetButton(qint64 id, Qt::MouseButton button, bool down);
+  bool IsButtonHeld(qint64 id, Qt::MouseButton button) const;
+
+  tavikeymapmanager::KeymapConfig* config_ = nullptr;                // the input manager's
+  MouseSlotManager* default_mouse_slot_;                             // the singleton
+  std::map<qint64, std::unique_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
+  InputManagerCallbacks* callbacks_ = nullptr;                       // the host's
+  tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord
+  QMap<int, tavikeymapmanager::ConfigItem*> chord_items_;  // by scan code of the second key, while that is down
+  QMap<qint64, unsigned> mouse_buttons_;                   // Qt::MouseButton bits held, by pointer; 0 is the real mouse
+};
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_QT_KEYBOARD_MOUSE_EVENT_SIMULATE_HANDLER_H_

@@ -1,0 +1,141 @@
+// The mouse side of the handler.
+#include <QMouseEvent>
+
+#include "core/input_status_manager.h"
+#include "core/virtual_mouse_event.h"
+#include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
+#include "keymap/config_item.h"
+#include "keymap/keymap_functions.h"
+#include "simulators/right_walk_event_simulator.h"
+#include "simulators/staring_and_fire_event_simulator.h"
+#include "slots/macro_slot_manager.h"
+#include "slots/mouse_slot_manager.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+
+namespace {
+
+ConfigKey KeyOf(Qt::MouseButton button) {
+  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
+}
+
+const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) { return dynamic_cast<const VirtualMouseEvent*>(event); }
+
+// The pointer that an event is of; 0 is the real mouse.
+qint64 PointerOf(const QMouseEvent* event) {
+  const VirtualMouseEvent* virtual_event = AsVirtual(event);
+  return virtual_event ? virtual_event->slot_index : 0;
+}
+
+bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring; }
+
+bool IsFire(const ConfigItem* item) { return item && item->type == tavikeymapmanager::keywords::kTypeFire; }
+
+}  // namespace
+
+bool QtKeyboardMouseEventSimulateHandler::IsMouseButtonMapped(QMouseEvent* event) const {
+  if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) return false;
+  return FindConfigItem(KeyOf(event->button())) != nullptr;
+}
+
+bool QtKeyboardMouseEventSimulateHandler::IsHeldLeftMapped(QMouseEvent* event) const {
+  return IsButtonHeld(PointerOf(event), Qt::LeftButton) && FindConfigItem(KeyOf(Qt::LeftButton)) != nullptr;
+}
+
+void QtKeyboardMouseEventSimulateHandler::OnMousePress(QMouseEvent* event) {
+  SetButton(PointerOf(event), event->button(), true);
+  ConfigKey key = KeyOf(event->button());
+  ConfigItem* item = FindConfigItem(key);
+  if (event->button() == Qt::LeftButton) return PressLeft(event, item, &key);
+  EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
+  if (!simulator) return;
+  if (simulator == RightWalkEventSimulator::GetInstance()) {
+    RightWalkEventSimulator::GetInstance()->OnMousePress(item, event);
+  } else {
+    simulator->Press(item, &key);
+  }
+}
+
+void QtKeyboardMouseEventSimulateHandler::OnMouseRelease(QMouseEvent* event) {
+  SetButton(PointerOf(event), event->button(), false);
+  ConfigKey key = KeyOf(event->button());
+  ConfigItem* item = FindConfigItem(key);
+  if (event->button() == Qt::LeftButton) return ReleaseLeft(event, item, &key);
+  EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
+  if (!simulator) return;
+  if (simulator == RightWalkEventSimulator::GetInstance()) {
+    RightWalkEventSimulator::GetInstance()->OnMouseRelease(item, event);
+  } else {
+    simulator->Release(item, &key);
+  }
+}
+
+void QtKeyboardMouseEventSimulateHandler::OnMouseMove(QMouseEvent* event) {
+  const qint64 id = PointerOf(event);
+  if (IsButtonHeld(id, Qt::LeftButton)) return MoveLeftFinger(event);
+  if (IsButtonHeld(id, Qt::RightButton)) RightWalkEventSimulator::GetInstance()->OnMouseMove(event);
+}
+
+void QtKeyboardMouseEventSimulateHandler::PressLeft(QMouseEvent* event, ConfigItem* item, ConfigKey* key) {
+  if (IsStaring()) {
+    if (IsFire(item)) StaringAndFireEventSimulator::GetInstance()->Press(item, key);
+    return;  // while staring the left button makes no touch of its own
+  }
+  MoveLeftFinger(event);
+}
+
+void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, ConfigItem* item, ConfigKey* key) {
+  if (IsStaring()) {
+    if (IsFire(item)) StaringAndFireEventSimulator::GetInstance()->Release(item, key);
+    return;
+  }
+  MouseSlotManager* finger = FingerOf(event);
+  if (!finger) return;  // the pool is empty
+  finger->Reset();
+  SendEvent(finger->BuildUpdateCommand());
+  if (AsVirtual(event)) GiveBackMouseSlot(PointerOf(event));
+}
+
+void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
+  MouseSlotManager* finger = FingerOf(event);
+  if (!finger) return;  // the pool is empty: the press is given up
+  finger->position = event->pos();
+  SendEvent(finger->BuildUpdateCommand());
+}
+
+MouseSlotManager* QtKeyboardMouseEventSimulateHandler::FingerOf(const QMouseEvent* event) {
+  return AsVirtual(event) ? GetMouseSlot(PointerOf(event)) : default_mouse_slot_;
+}
+
+MouseSlotManager* QtKeyboardMouseEventSimulateHandler::GetMouseSlot(qint64 id) {
+  const auto known = mouse_slots_.find(id);
+  if (known != mouse_slots_.end()) return known->second.get();
+  MacroSlotManager* pool = MacroSlotManager::GetInstance();
+  const int slot = pool->FindFree();
+  if (slot == SlotManager::kNoSlot) return nullptr;
+  pool->Reserve(slot);
+  return mouse_slots_.emplace(id, std::make_unique<MouseSlotManager>(slot)).first->second.get();
+}
+
+void QtKeyboardMouseEventSimulateHandler::GiveBackMouseSlot(qint64 id) {
+  const auto known = mouse_slots_.find(id);
+  if (known == mouse_slots_.end()) return;
+  MacroSlotManager::GetInstance()->Free(known->second->GetSlotId());
+  mouse_slots_.erase(known);
+}
+
+void QtKeyboardMouseEventSimulateHandler::SetButton(qint64 id, Qt::MouseButton button, bool down) {
+  unsigned& held = mouse_buttons_[id];
+  const auto bit = static_cast<unsigned>(button);
+  held = down ? held | bit : held & ~bit;
+  if (held == 0 && id != 0) mouse_buttons_.remove(id);  // virtual pointers come and go
+}
+
+bool QtKeyboardMouseEventSimulateHandler::IsButtonHeld(qint64 id, Qt::MouseButton button) const {
+  return (mouse_buttons_.value(id, 0) & static_cast<unsigned>(button)) != 0;
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,23 @@
+// The base of what a mouse button or move of the host becomes.
+#ifndef HANDLERS_QT_MOUSE_EVENT_HANDLER_H_
+#define HANDLERS_QT_MOUSE_EVENT_HANDLER_H_
+
+#include "core/event_handler.h"
+
+class QMouseEvent;
+
+namespace taviinputmanager {
+
+class QtMouseEventHandler : public EventHandler {
+ public:
+  void HandleMouseEvent(QMouseEvent* event);
+
+ protected:
+  virtual void OnMousePress(QMouseEvent* event) = 0;
+  virtual void OnMouseRelease(QMouseEvent* event) = 0;
+  virtual void OnMouseMove(QMouseEvent* event) = 0;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_QT_MOUSE_EVENT_HANDLER_H_

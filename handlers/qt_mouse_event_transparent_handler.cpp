@@ -1,0 +1,42 @@
+#include "handlers/qt_mouse_event_transparent_handler.h"
+
+#include <QMouseEvent>
+
+#include "core/clock.h"
+#include "handlers/mouse_transparent_manager.h"
+
+namespace taviinputmanager {
+
+QtMouseEventTransparentHandler* QtMouseEventTransparentHandler::GetInstance() {
+  static QtMouseEventTransparentHandler instance;
+  return &instance;
+}
+
+QtMouseEventTransparentHandler::QtMouseEventTransparentHandler() : last_relative_send_ms_(Clock::NowMs()) {}
+
+void QtMouseEventTransparentHandler::UpdatePosition(int x, int y) {
+  MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
+  pointer->SetPosition(x, y);
+  SendEvent(pointer->BuildMoveCommand());
+}
+
+void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interval_ms, double factor) {
+  MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
+  pointer->AddRelative(dx * factor, dy * factor);
+  const qint64 now = Clock::NowMs();
+  if (now - last_relative_send_ms_ < interval_ms) return;  // the next send carries this movement too
+  SendEvent(pointer->BuildMoveCommand());
+  last_relative_send_ms_ = now;
+}
+
+void QtMouseEventTransparentHandler::OnMousePress(QMouseEvent* event) {
+  SendEvent(MouseTransparentManager::GetInstance()->BuildButtonPressCommand(event->button()));
+}
+
+void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
+  SendEvent(MouseTransparentManager::GetInstance()->BuildButtonReleaseCommand(event->button()));
+}
+
+void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) { UpdatePosition(event->x(), event->y()); }
+
+}  // namespace taviinputmanager

@@ -1,0 +1,23 @@
+// The base of what a turn of the host's wheel becomes.
+#ifndef HANDLERS_QT_WHEEL_EVENT_HANDLER_H_
+#define HANDLERS_QT_WHEEL_EVENT_HANDLER_H_
+
+#include "core/event_handler.h"
+
+class QWheelEvent;
+
+namespace taviinputmanager {
+
+class QtWheelEventHandler : public EventHandler {
+ public:
+  // `transparent_pointer`: the guest's pointer may be elsewhere than the host's. `delta` and `use_delta` are the
+  // keymap's wheel_delta and wheel_use_delta.
+  virtual void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) = 0;
+};
+
+// The turn in eighths of a degree; positive is up, away from the user.
+int WheelDelta(const QWheelEvent* event);
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_QT_WHEEL_EVENT_HANDLER_H_

@@ -1,0 +1,28 @@
+// Aimed casts.
+#ifndef SIMULATORS_SPELL_EVENT_SIMULATOR_H_
+#define SIMULATORS_SPELL_EVENT_SIMULATOR_H_
+
+#include "simulators/event_simulator.h"
+
+class QMouseEvent;
+
+namespace taviinputmanager {
+
+class SpellEventSimulator : public EventSimulator {
+ public:
+  static SpellEventSimulator* GetInstance();
+
+  void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  // Whether a mouse event ends a cast that waits for it, and is used up by that.
+  bool OnMouseEvent(QMouseEvent* event);
+  // Ends a cast in progress.
+  void ForceStop();
+
+ private:
+  SpellEventSimulator() = default;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_SPELL_EVENT_SIMULATOR_H_

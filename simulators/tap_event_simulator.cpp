@@ -1,0 +1,28 @@
+#include "simulators/tap_event_simulator.h"
+
+#include "keymap/config_item.h"
+#include "slots/multipoint_slot_manager.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+
+TapEventSimulator* TapEventSimulator::GetInstance() {
+  static TapEventSimulator instance;
+  return &instance;
+}
+
+void TapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
+  MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
+  if (!pool->PressAt(item->rel_x, item->rel_y)) return;  // every finger of the pool is down: the press is lost
+  SendEvent(pool->BuildUpdateCommand());
+}
+
+void TapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
+  MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
+  if (!pool->ReleaseAt(item->rel_x, item->rel_y)) return;  // no finger was ever put down at this point
+  SendEvent(pool->BuildUpdateCommand());
+}
+
+}  // namespace taviinputmanager

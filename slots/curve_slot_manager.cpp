@@ -1,0 +1,28 @@
+#include "slots/curve_slot_manager.h"
+
+namespace taviinputmanager {
+namespace {
+
+constexpr int kSlot = 5;
+
+}  // namespace
+
+CurveSlotManager* CurveSlotManager::GetInstance() {
+  static CurveSlotManager instance;
+  return &instance;
+}
+
+CurveSlotManager::CurveSlotManager() : SlotManager(kSlot) {}
+
+bool CurveSlotManager::HasTouch() const { return !point_.isNull(); }
+
+QString CurveSlotManager::BuildPressCommand() { return BuildRelativePressCommandAt(point_.x(), point_.y()); }
+
+void CurveSlotManager::Reset() {
+  point_ = QPointF();
+  origin_ = QPointF();
+}
+
+void CurveSlotManager::SetOffset(double dx, double dy) { point_ = origin_ + QPointF(dx, dy); }
+
+}  // namespace taviinputmanager

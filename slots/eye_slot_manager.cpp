@@ -1,0 +1,27 @@
+#include "slots/eye_slot_manager.h"
+
+namespace taviinputmanager {
+namespace {
+
+constexpr int kSlot = 7;
+
+}  // namespace
+
+EyeSlotManager* EyeSlotManager::GetInstance() {
+  static EyeSlotManager instance;
+  return &instance;
+}
+
+EyeSlotManager::EyeSlotManager() : PositionSlotManager(kSlot) {}
+
+void EyeSlotManager::Reset() {
+  PositionSlotManager::Reset();
+  directions_ = {};
+  home = QPoint();
+}
+
+void EyeSlotManager::Step(int step) {
+  position += QPoint(step * DirectionFlags::Sign(directions_.x), step * DirectionFlags::Sign(directions_.y));
+}
+
+}  // namespace taviinputmanager

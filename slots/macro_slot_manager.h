@@ -1,0 +1,24 @@
+// The pool of fingers for macros, pinches by key, replays and virtual pointers.
+#ifndef SLOTS_MACRO_SLOT_MANAGER_H_
+#define SLOTS_MACRO_SLOT_MANAGER_H_
+
+#include "slots/point_pool_slot_manager.h"
+
+namespace taviinputmanager {
+
+// Keeps a book apart from MultPointSlotManager's over the same slots: a macro and touch input are not meant to run at
+// once.
+class MacroSlotManager : public PointPoolSlotManager {
+ public:
+  static MacroSlotManager* GetInstance() {
+    static MacroSlotManager instance;
+    return &instance;
+  }
+
+ private:
+  MacroSlotManager() = default;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SLOTS_MACRO_SLOT_MANAGER_H_

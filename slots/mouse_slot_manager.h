@@ -1,0 +1,26 @@
+// The finger of the left mouse button, and of the view while the mouse is captured.
+#ifndef SLOTS_MOUSE_SLOT_MANAGER_H_
+#define SLOTS_MOUSE_SLOT_MANAGER_H_
+
+#include "slots/position_slot_manager.h"
+
+namespace taviinputmanager {
+
+// The singleton is the real mouse. Each virtual pointer of a macro has an object of its own, on a slot drawn from the
+// macro pool.
+class MouseSlotManager : public PositionSlotManager {
+ public:
+  static MouseSlotManager* GetInstance() {
+    static MouseSlotManager instance(kRealMouseSlot);
+    return &instance;
+  }
+
+  explicit MouseSlotManager(int slot_id) : PositionSlotManager(slot_id) {}
+
+ private:
+  static constexpr int kRealMouseSlot = 1;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SLOTS_MOUSE_SLOT_MANAGER_H_

@@ -1,0 +1,54 @@
+// A finger on the guest's screen: one of its numbered touch slots, and where it is.
+#ifndef SLOTS_SLOT_MANAGER_H_
+#define SLOTS_SLOT_MANAGER_H_
+
+#include <QString>
+
+namespace taviinputmanager {
+
+class DisplayGeometry;
+
+// Builds commands and sends nothing: the caller sends. An empty command means that there is nothing to send.
+//
+// Main thread only. The manager is the sole record of whether its contact is down; nothing asks the guest. Each fixed
+// slot has one owner at a time; a second user of a slot moves the same contact.
+class SlotManager {
+ public:
+  // No contact; every command is empty.
+  static constexpr int kNoSlot = -1;
+
+  SlotManager(const SlotManager&) = delete;
+  SlotManager& operator=(const SlotManager&) = delete;
+  virtual ~SlotManager();
+
+  // Whether the contact should be down at present.
+  virtual bool HasTouch() const = 0;
+  // Press, or move, to the stored position.
+  virtual QString BuildPressCommand() = 0;
+  // Forgets the contact. The guest's finger stays as it is until a release is sent.
+  virtual void Reset() = 0;
+
+  // What brings the guest in line with this manager: a press or a release.
+  QString BuildUpdateCommand();
+  // In window pixels.
+  QString BuildPressCommandAt(int x, int y) const;
+  // In fractions of the display.
+  QString BuildRelativePressCommandAt(double x, double y) const;
+  QString BuildReleaseCommand() const;
+
+  int GetSlotId() const { return slot_id_; }
+
+ protected:
+  explicit SlotManager(int slot_id);
+
+  const DisplayGeometry* Display() const { return display_; }
+  void SetSlotId(int slot_id) { slot_id_ = slot_id; }
+
+ private:
+  int slot_id_;
+  const DisplayGeometry* display_;  // the singleton
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SLOTS_SLOT_MANAGER_H_
