@@ -1,0 +1,63 @@
+// A host without a window: answers the library's questions and writes down all that it says, with the time.
+#ifndef HOST_SIMULATION_SIMULATED_HOST_H_
+#define HOST_SIMULATION_SIMULATED_HOST_H_
+
+#include <functional>
+
+#include <QRect>
+#include <QString>
+#include <QVector>
+
+#include "taviinputmanager/callbacks.h"
+
+namespace tavi {
+
+struct TimelineEntry {
+  enum class Source { kLine, kText, kCallback };
+
+  qint64 ms;  // since the timeline's start
+  Source source;
+  QString text;  // without line end
+};
+
+// As `tavi simulate` prints it: "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F".
+QString FormatEntry(const TimelineEntry& entry);
+
+// The library's callbacks are plain functions, so there is one host in a process. Main thread only.
+class SimulatedHost {
+ public:
+  static SimulatedHost* GetInstance();
+
+  // Installs the send functions and initialises the library with `table`. `now` gives the time in ms.
+  void Start(std::function<qint64()> now);
+  // The next entries count from now.
+  void StartTimeline();
+  // What was said since the last call.
+  QVector<TimelineEntry> TakeTimeline();
+
+  // What the host answers.
+  taviinputmanager::WindowGeometry window{0, 0, 1280, 720};
+  QRect display{0, 0, 1280, 720};
+  QRect touch{0, 0, 1280, 720};
+  int rotation = 0;
+  bool text_input = false;
+  bool escape_back = true;
+  int joystick_type = 1;
+  int primary_display = -1;  // of all displays; -1: none is mirrored or recorded
+
+  taviinputmanager::InputManagerCallbacks table;
+
+ private:
+  friend struct HostFunctions;
+
+  SimulatedHost();
+  void Add(TimelineEntry::Source source, const QString& text);
+
+  std::function<qint64()> now_;
+  qint64 start_ms_ = 0;
+  QVector<TimelineEntry> timeline_;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_SIMULATION_SIMULATED_HOST_H_

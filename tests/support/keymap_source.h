@@ -1,0 +1,21 @@
+// Where the tests' keymaps come from: the loader functions of the contract, in front of the keymap library's.
+#ifndef TESTS_SUPPORT_KEYMAP_SOURCE_H_
+#define TESTS_SUPPORT_KEYMAP_SOURCE_H_
+
+#include <QStringList>
+
+#include "keymap/keymap_config.h"
+
+namespace taviinputmanager::test {
+
+// What the next load gets; given away to it. A load without one gets an empty config.
+void SetNextKeymap(tavikeymapmanager::KeymapConfig* config);
+void SetNextJoystickKeymap(tavikeymapmanager::KeymapConfig* config);
+// Loads give null from now on, as a library does that failed.
+void FailLoads(bool fail);
+// The paths that were asked for, oldest first.
+const QStringList& KeymapPaths();
+
+}  // namespace taviinputmanager::test
+
+#endif  // TESTS_SUPPORT_KEYMAP_SOURCE_H_

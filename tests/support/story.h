@@ -1,0 +1,89 @@
+// Tests that read as stories: a keymap, input with its times, and the lines that the guest gets.
+#ifndef TESTS_SUPPORT_STORY_H_
+#define TESTS_SUPPORT_STORY_H_
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+
+#include "host/simulation/simulated_host.h"
+#include "keymap/keymap_config.h"
+
+class QGuiApplication;
+
+namespace tavi {
+class ScriptPlayer;
+class VirtualEventDispatcher;
+}  // namespace tavi
+
+namespace taviinputmanager {
+
+// A guest view of 1280 x 720 on a display and a touch surface of the same size, so that pixels pass unchanged unless a
+// test sets another geometry. Time is virtual; its zero is the last load.
+class Story : public testing::Test {
+ protected:
+  Story();
+  ~Story() override;
+
+  static tavi::SimulatedHost& Host() { return *tavi::SimulatedHost::GetInstance(); }
+
+  // Makes an item for the next load. `key` is a key's name; the keymap owns the item.
+  template <typename Item>
+  Item* Add(const QString& type, const QString& key = {}, const QPointF& point = {}) {
+    auto* item = new Item;
+    item->type = type;
+    if (!key.isEmpty()) item->key = Key(key);
+    item->rel_x = point.x();
+    item->rel_y = point.y();
+    Pending().items.append(item);
+    return item;
+  }
+  static tavikeymapmanager::ConfigKey Key(const QString& name);
+  tavikeymapmanager::KeymapSettings& Settings() { return *Pending().settings; }
+  tavikeymapmanager::WheelSettings& Wheel() { return *Pending().wheel_settings; }
+
+  // Loads what was added as the keymap. What that says is forgotten, and time zero is now.
+  void Load(int display = 1, const QString& package = QStringLiteral("com.example.game"),
+            const QString& path = QStringLiteral("test.yaml"));
+  // The same as the joystick keymap.
+  void LoadJoystick();
+
+  // Commands between semicolons or newlines. A test fails on a script that cannot be read.
+  void Play(const QString& script);
+  void Wait(int ms);
+
+  // Guest lines, and callbacks, since each was last asked for.
+  QStringList TakeWire();
+  QStringList TakeCalls();
+  // Forgets what was said so far.
+  void Forget();
+
+  tavi::VirtualEventDispatcher& Time() { return *clock_; }
+
+ private:
+  tavikeymapmanager::KeymapConfig& Pending();
+  void Collect();
+  void StartTimeline();
+
+  tavi::VirtualEventDispatcher* clock_;  // the application's
+  std::unique_ptr<QGuiApplication> application_;
+  std::unique_ptr<tavi::ScriptPlayer> player_;
+  std::unique_ptr<tavikeymapmanager::KeymapConfig> pending_;
+  QStringList wire_;
+  QStringList calls_;
+};
+
+// Each takes the lines in order: EXPECT_WIRE("0ms 1:KBDPR:30:1", "8ms 1:KBDRL:30:0").
+#define EXPECT_WIRE(...) \
+  EXPECT_EQ((QStringList{__VA_ARGS__}).join('\n').toStdString(), TakeWire().join('\n').toStdString())
+#define EXPECT_CALLS(...) \
+  EXPECT_EQ((QStringList{__VA_ARGS__}).join('\n').toStdString(), TakeCalls().join('\n').toStdString())
+#define EXPECT_WIRE_NONE() EXPECT_EQ(std::string(), TakeWire().join('\n').toStdString())
+#define EXPECT_CALLS_NONE() EXPECT_EQ(std::string(), TakeCalls().join('\n').toStdString())
+
+}  // namespace taviinputmanager
+
+#endif  // TESTS_SUPPORT_STORY_H_
