@@ -31,10 +31,11 @@ struct TAVI_KEYMAP_RECORD Diagnostic {
   QString message;  // one line, without the place
 };
 
-// Where an item stands in the file, from 1.
+// Where an item stands in the file, from 1, and what its author calls it.
 struct TAVI_KEYMAP_RECORD ItemSource {
   int line = 1;
   int column = 1;
+  QString label;  // for overlays; empty when the file writes none
 };
 
 struct TAVI_KEYMAP_RECORD LoadResult {
