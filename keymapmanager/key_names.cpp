@@ -1,0 +1,72 @@
+#include "keymapmanager/key_names.h"
+
+#include <QRegularExpression>
+
+#include "keymapmanager/key_index.h"
+#include "keymapmanager/key_table.h"
+#include "keymapmanager/nearest_word.h"
+#include "keymapmanager/pad_names.h"
+
+namespace tavikeymapmanager {
+
+namespace {
+
+const QString kPadPrefix = QStringLiteral("Pad ");
+const QString kScanPrefix = QStringLiteral("Scan ");
+
+// "Scan 200": a number without sign or leading zero.
+std::optional<ConfigKey> ScanKeyFromName(const QString& name) {
+  const QString digits = name.mid(kScanPrefix.size());
+  bool is_number = false;
+  const int scancode = digits.toInt(&is_number);
+  if (!is_number || digits != QString::number(scancode)) return {};
+  if (scancode < 1 || scancode >= kScancodeCount) return {};
+  return KeyIndex::Get().KeyboardKey(scancode);
+}
+
+// One button, or the two of a pair: the one that is held, "+", the one that is pressed. Empty for anything else.
+QStringList PadParts(const QString& text) {
+  static const QRegularExpression form(QStringLiteral("\\A([^\\s+]+)(?: ?\\+ ?([^\\s+]+))?\\z"),
+                                       QRegularExpression::UseUnicodePropertiesOption);
+  const QRegularExpressionMatch match = form.match(text);
+  if (!match.hasMatch()) return {};
+  QStringList parts(match.captured(1));
+  if (match.capturedLength(2) > 0) parts += match.captured(2);
+  return parts;
+}
+
+std::optional<ConfigKey> PadKeyFromName(const QString& name) {
+  QStringList parts = PadParts(name.mid(kPadPrefix.size()));
+  if (parts.isEmpty()) return {};
+  for (QString& part : parts) part = PadTextFromName(part);
+  return JoystickKey(parts.join(QLatin1Char('+')));
+}
+
+}  // namespace
+
+std::optional<ConfigKey> KeyFromName(const QString& name) {
+  if (name.startsWith(kPadPrefix)) return PadKeyFromName(name);
+  if (name.startsWith(kScanPrefix)) return ScanKeyFromName(name);
+  return KeyIndex::Get().Find(name);
+}
+
+QString NameOfKey(const ConfigKey& key) {
+  if (key.device != keywords::kDeviceJoystick) return KeyIndex::Get().TextOf(key);
+  QStringList parts = PadParts(key.text);
+  if (parts.isEmpty()) return {};
+  for (QString& part : parts) part = PadNameFromText(part);
+  return kPadPrefix + parts.join(QLatin1Char('+'));
+}
+
+QStringList AllKeyNames() { return KeyIndex::Get().Names(); }
+
+QString NearestKeyName(const QString& word) { return NearestWord(word, AllKeyNames()); }
+
+ConfigKey JoystickKey(const QString& text) {
+  ConfigKey key;
+  key.device = keywords::kDeviceJoystick;
+  key.text = text;
+  return key;
+}
+
+}  // namespace tavikeymapmanager

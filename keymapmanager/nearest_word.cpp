@@ -1,0 +1,58 @@
+#include "keymapmanager/nearest_word.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tavikeymapmanager {
+
+namespace {
+
+constexpr int kLongestWord = 64;  // longer than any known word by far: no need to compare
+
+int ToThirds(int length) { return std::max(1, (length + 2) / 3); }
+
+// Edit distance with swaps of neighbours, each counted 1.
+int Distance(const QString& a, const QString& b) {
+  const int width = b.size() + 1;
+  std::vector<int> before(width), above(width), row(width);
+  for (int j = 0; j < width; ++j) above[j] = j;
+  for (int i = 1; i <= a.size(); ++i) {
+    row[0] = i;
+    for (int j = 1; j < width; ++j) {
+      const int changed = above[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+      row[j] = std::min({changed, above[j] + 1, row[j - 1] + 1});
+      const bool swapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+      if (swapped) row[j] = std::min(row[j], before[j - 2] + 1);
+    }
+    before.swap(above);
+    above.swap(row);
+  }
+  return above[width - 1];
+}
+
+}  // namespace
+
+QString NearestWord(const QString& word, const QStringList& known) {
+  if (word.isEmpty() || word.size() > kLongestWord) return {};
+  const QString folded = word.toLower();
+  QString nearest;
+  int nearest_distance = kLongestWord;
+  for (const QString& candidate : known) {
+    const int limit = ToThirds(candidate.size());
+    if (std::abs(candidate.size() - word.size()) > limit) continue;
+    const int distance = Distance(folded, candidate.toLower());
+    // A word of one letter has every other as its neighbour: only its case may differ.
+    if (distance > limit || (distance > 0 && std::min(candidate.size(), word.size()) < 2)) continue;
+    if (distance >= nearest_distance) continue;
+    nearest = candidate;
+    nearest_distance = distance;
+  }
+  return nearest;
+}
+
+QString DidYouMean(const QString& word, const QStringList& known) {
+  const QString nearest = NearestWord(word, known);
+  return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean '%1'?").arg(nearest);
+}
+
+}  // namespace tavikeymapmanager
