@@ -2,7 +2,7 @@
 #ifndef HOST_SIMULATION_SCRIPT_PLAYER_H_
 #define HOST_SIMULATION_SCRIPT_PLAYER_H_
 
-#include <QObject>
+#include <QEvent>
 #include <QPointF>
 #include <QString>
 #include <QVector>

@@ -1,8 +1,10 @@
 #include "host/simulation/virtual_event_dispatcher.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QTimerEvent>
-#include <algorithm>
+#include <QVariant>
 
 namespace tavi {
 
@@ -66,7 +68,8 @@ bool VirtualEventDispatcher::unregisterTimer(int id) {
 }
 
 bool VirtualEventDispatcher::unregisterTimers(QObject* object) {
-  const auto end = std::remove_if(timers_.begin(), timers_.end(), [object](const Timer& t) { return t.object == object; });
+  const auto end =
+      std::remove_if(timers_.begin(), timers_.end(), [object](const Timer& t) { return t.object == object; });
   const bool any = end != timers_.end();
   timers_.erase(end, timers_.end());
   return any;

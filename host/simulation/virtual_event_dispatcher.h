@@ -2,10 +2,11 @@
 #ifndef HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 #define HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 
+#include <atomic>
+
 #include <QAbstractEventDispatcher>
 #include <QPoint>
 #include <QVector>
-#include <atomic>
 
 #include "taviinputmanager/virtual_time.h"
 
