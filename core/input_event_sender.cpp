@@ -26,6 +26,7 @@ void InputEventSender::SendEvent(const QString& command, int display) {
 }
 
 void InputEventSender::SendText(const QString& command) {
+  if (command.isEmpty()) return;  // no newline to replace
   LineBuffer line;
   line.Narrow(command);
   const int length = line.size();

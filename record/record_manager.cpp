@@ -39,11 +39,11 @@ bool IsRecording() { return RecordManager::GetInstance()->GetStatus() == RecordS
 }  // namespace
 
 void OfferEventLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnEventCommand(line.chopped(1));
+  if (IsRecording()) RecordManager::GetInstance()->OnEventCommand(line.left(line.size() - 1));
 }
 
 void OfferTextLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnTextCommand(line.chopped(1));
+  if (IsRecording()) RecordManager::GetInstance()->OnTextCommand(line.left(line.size() - 1));
 }
 
 }  // namespace taviinputmanager

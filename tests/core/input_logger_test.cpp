@@ -1,0 +1,105 @@
+#include "core/input_logger.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <Poco/Logger.h>
+#include <Poco/Message.h>
+
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+// The log stands in the working directory, which here is a folder of the test's own.
+class Log : public Story {
+ protected:
+  Log() : before_(QDir::currentPath()) { QDir::setCurrent(folder_.path()); }
+  ~Log() override { QDir::setCurrent(before_); }
+
+  QStringList Lines() {
+    QFile file(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+  }
+  static void ShowDebugLines() {
+    InputLogger::GetInstance();
+    Poco::Logger::get("input_logger").setLevel(Poco::Message::PRIO_DEBUG);
+  }
+  // The messages without time and thread.
+  QStringList Messages() {
+    QStringList messages;
+    for (const QString& line : Lines()) messages.append(line.section(QStringLiteral("]: "), 1));
+    return messages;
+  }
+
+  QTemporaryDir folder_;
+  QString before_;
+};
+
+TEST_F(Log, ARefusedSendFunctionIsAnErrorWithTimeAndThread) {
+  SetInputTextSendFunc(nullptr);
+  ASSERT_EQ(1, Lines().size());
+  const QRegularExpression form(QStringLiteral(
+      R"(^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d:\d{3} \[Thread-\d+\]: SetInputTextSendFunc fail with nullptr variable$)"));
+  EXPECT_TRUE(form.match(Lines()[0]).hasMatch()) << Lines()[0].toStdString();
+}
+
+TEST_F(Log, BothSendFunctionsHaveTheirLine) {
+  SetInputEventSendFunc(nullptr);
+  SetInputTextSendFunc(nullptr);
+  EXPECT_EQ((QStringList{"SetInputEventSendFunc fail with nullptr variable",
+                         "SetInputTextSendFunc fail with nullptr variable"}),
+            Messages());
+}
+
+TEST_F(Log, ARefusedSyncFunctionIsNoError) {
+  SetInputEventSyncFunc(nullptr);
+  SetInputTextSyncFunc(nullptr);
+  EXPECT_EQ(QStringList(), Lines());
+}
+
+TEST_F(Log, DebugLinesAreDropped) {
+  Settings().keyboard_transparent = true;
+  Load();
+  Play("down W");
+  EXPECT_EQ(QStringList(), Lines());
+}
+
+TEST_F(Log, AKeyThatPassesWritesItsThreeCodes) {
+  Settings().keyboard_transparent = true;
+  Load();
+  ShowDebugLines();
+  Play("down W");  // Windows calls W 87, its keyboard 17; the script gives no Qt key
+  EXPECT_EQ((QStringList{"keyboard press, qt key: 0", "keyboard press, windows virtual key: 87",
+                         "keyboard press, scan code: 17"}),
+            Messages());
+}
+
+TEST_F(Log, ALoadWritesItsPathAndDisplay) {
+  ShowDebugLines();
+  OnLoadKeymapConfigAndInfo("some/keymap", "com.example", "", 7);
+  EXPECT_EQ(QStringList{"on load keymap config and info: some/keymap7"}, Messages());
+}
+
+TEST_F(Log, ALoadOfTheSystemKeymapSaysWhoseItIs) {
+  ShowDebugLines();
+  OnLoadKeymapConfigAndInfo("", "com.android.settings", "", 7);
+  EXPECT_EQ((QStringList{"use system config for: com.android.settings", "on load keymap config and info: 7"}),
+            Messages());
+}
+
+TEST_F(Log, AFolderThatCannotBeWrittenStopsNothing) {
+  QDir::setCurrent(QStringLiteral("/proc/self"));
+  SetInputTextSendFunc(nullptr);
+  SetInputTextSendFunc(nullptr);
+}
+
+}  // namespace
+}  // namespace taviinputmanager

@@ -1,0 +1,39 @@
+#include "core/numbers.h"
+
+#include <gtest/gtest.h>
+
+namespace taviinputmanager {
+namespace {
+
+TEST(Numbers, TruncateGoesTowardsZero) {
+  EXPECT_EQ(2, Truncate(2.9));
+  EXPECT_EQ(-2, Truncate(-2.9));
+  EXPECT_EQ(0, Truncate(-0.5));
+}
+
+TEST(Numbers, RoundTakesHalvesUpwards) {
+  EXPECT_EQ(1, Round(0.5));
+  EXPECT_EQ(0, Round(0.49));
+  EXPECT_EQ(0, Round(-0.5));
+  EXPECT_EQ(-1, Round(-0.51));
+  EXPECT_EQ(-1, Round(-1.5));
+  EXPECT_EQ(-2, Round(-1.51));
+}
+
+TEST(Numbers, RoundIsQtsRounding) {
+  for (int i = -4000; i <= 4000; ++i) EXPECT_EQ(qRound(i / 8.0), Round(i / 8.0)) << i / 8.0;
+}
+
+TEST(Numbers, WhatNoIntHoldsSaturates) {
+  constexpr int kHighest = std::numeric_limits<int>::max();
+  constexpr int kLowest = std::numeric_limits<int>::min();
+  EXPECT_EQ(kHighest, Round(1e300));
+  EXPECT_EQ(kLowest, Round(-1e300));
+  EXPECT_EQ(kHighest, Truncate(std::numeric_limits<double>::infinity()));
+  EXPECT_EQ(kLowest, Truncate(-std::numeric_limits<double>::infinity()));
+  EXPECT_EQ(0, Round(std::nan("")));
+  EXPECT_EQ(0, Truncate(std::nan("")));
+}
+
+}  // namespace
+}  // namespace taviinputmanager
