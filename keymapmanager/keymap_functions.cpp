@@ -52,7 +52,7 @@ void SetTextForConfigKey(ConfigKey* key) {
 bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed) {
   if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
   for (const ConfigItem* item : config->items) {
-    if (dynamic_cast<const TipConfigItem*>(item) != nullptr) continue;  // a label answers to no key
+    if (item == nullptr || dynamic_cast<const TipConfigItem*>(item) != nullptr) continue;  // a label answers to no key
     const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
     if (IsAloneMatch(*item, composable, *configured)) return true;
     if (composable != nullptr && composable->IsChordMatch(*configured, *pressed)) return true;
@@ -76,7 +76,7 @@ int getMacroConfigKeyCode(QEvent* event) {
 bool isConfigHasSpeicalTypeKey(KeymapConfig* config, const QString& type) {
   if (config == nullptr) return false;
   for (const ConfigItem* item : config->items) {
-    if (item->type == type) return true;
+    if (item != nullptr && item->type == type) return true;
   }
   return false;
 }
