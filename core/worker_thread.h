@@ -57,8 +57,7 @@ class WorkerThread : public QThread {
   // reach it, unless quit comes first. To be used for every worker that ends its own life.
   template <typename Worker, typename... Args>
   void DeleteWorkerOn(Worker* worker, void (Worker::*signal)(Args...)) {
-    connect(
-        worker, signal, this, [this] { RetireWorker(); }, Qt::DirectConnection);
+    connect(worker, signal, this, &WorkerThread::RetireWorker, Qt::DirectConnection);
   }
 
   // A precise timer, owned by the worker `owner`, called where that worker runs. It is marked with
