@@ -1,93 +1,167 @@
 #include "host/simulation/virtual_event_dispatcher.h"
 
 #include <algorithm>
+#include <limits>
+#include <tuple>
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <QTimerEvent>
 #include <QVariant>
 
+#include "host/simulation/window_system_events.h"
+
 namespace tavi {
 
-VirtualEventDispatcher::VirtualEventDispatcher(qint64 start_ms) : now_(start_ms) {}
+namespace {
 
-void VirtualEventDispatcher::Advance(int ms) { RunUntil(now_ + ms, false); }
+constexpr qint64 kEver = std::numeric_limits<qint64>::max();
+
+}  // namespace
+
+VirtualEventDispatcher::VirtualEventDispatcher(qint64 start_ms) : now_ms_(start_ms) {}
+
+void VirtualEventDispatcher::Advance(int ms) {
+  RunUntil(NowMs() + std::max(ms, 0), Scope::kAll);
+  Settle();
+}
+
+void VirtualEventDispatcher::Sleep(unsigned long ms) { RunUntil(NowMs() + static_cast<qint64>(ms), Scope::kWorkers); }
 
 void VirtualEventDispatcher::Settle() {
   do {
-    woken_ = false;
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  } while (woken_);
+    // One call delivers only what was posted before it began, and tells us through wakeUp what came since.
+    do {
+      posted_ = false;
+      SendWindowSystemEvents();
+      QCoreApplication::sendPostedEvents();
+    } while (posted_);
+    // What was deleted later outside of any event loop is nobody else's to deliver. Inside of one, Qt's own rule holds:
+    // an object lives on until the handler that gave it up has returned.
+    if (loop_depth_ == 0) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  } while (posted_);
 }
 
-void VirtualEventDispatcher::Sleep(unsigned long ms) { RunUntil(now_ + static_cast<qint64>(ms), true); }
-
-void VirtualEventDispatcher::RunUntil(qint64 end, bool workers_only) {
+void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
   for (;;) {
-    if (!workers_only) Settle();
-    const Timer* next = nullptr;
-    for (const Timer& timer : qAsConst(timers_)) {
-      if (workers_only && !timer.object->property(taviinputmanager::kWorkerTimerProperty).toBool()) continue;
-      if (!next || timer.due < next->due || (timer.due == next->due && timer.order < next->order)) next = &timer;
-    }
-    if (!next || next->due > end) break;
-    if (next->interval == 0 && next->due == end && end == now_) break;
-    now_ = std::max(now_, next->due);
-    Fire(next->id);
+    if (scope == Scope::kAll) Settle();
+    // A pass of 0 ms timers alone needs a millisecond to pass in.
+    const Timer* next = Earliest(end_ms, scope, NowMs() < end_ms ? next_order_ : 0);
+    if (!next) break;
+    now_ms_ = std::max(NowMs(), next->due_ms);
+    RunPass(std::min(NowMs(), end_ms), scope);
   }
-  now_ = std::max(now_, end);
-  if (!workers_only) Settle();
+  now_ms_ = std::max(NowMs(), end_ms);
 }
 
-void VirtualEventDispatcher::Fire(int id) {
-  for (Timer& timer : timers_) {
-    if (timer.id != id) continue;
-    timer.due += std::max(timer.interval, 1);
-    if (timer.due < now_) timer.due = now_ + timer.interval;
-    timer.order = ++order_;
-    QTimerEvent event(id);
-    QCoreApplication::sendEvent(timer.object, &event);
-    return;
+// Fires what is due by `limit_ms`, and tells whether that was anything.
+bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
+  const quint64 pass_order = next_order_;
+  bool any = false;
+  bool only_idle = true;
+  for (;;) {
+    if (scope == Scope::kAll) Settle();
+    Timer* timer = Earliest(limit_ms, scope, pass_order);
+    if (!timer) break;
+    any = true;
+    only_idle = only_idle && timer->interval_ms == 0;
+    Fire(timer);
   }
-}
-
-bool VirtualEventDispatcher::processEvents(QEventLoop::ProcessEventsFlags) {
-  Settle();
-  return true;
-}
-
-void VirtualEventDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object) {
-  timers_.append({id, interval, now_ + interval, ++order_, type, object});
-}
-
-bool VirtualEventDispatcher::unregisterTimer(int id) {
-  const auto at = std::find_if(timers_.begin(), timers_.end(), [id](const Timer& timer) { return timer.id == id; });
-  if (at == timers_.end()) return false;
-  timers_.erase(at);
-  return true;
-}
-
-bool VirtualEventDispatcher::unregisterTimers(QObject* object) {
-  const auto end =
-      std::remove_if(timers_.begin(), timers_.end(), [object](const Timer& t) { return t.object == object; });
-  const bool any = end != timers_.end();
-  timers_.erase(end, timers_.end());
+  if (any && only_idle) now_ms_ = NowMs() + 1;
   return any;
 }
 
-QList<QAbstractEventDispatcher::TimerInfo> VirtualEventDispatcher::registeredTimers(QObject* object) const {
-  QList<TimerInfo> infos;
-  for (const Timer& timer : timers_) {
-    if (timer.object == object) infos.append(TimerInfo(timer.id, timer.interval, timer.type));
+// The first timer that is due by `limit_ms`; those of 0 ms count only where they were started before `idle_before`.
+VirtualEventDispatcher::Timer* VirtualEventDispatcher::Earliest(qint64 limit_ms, Scope scope, quint64 idle_before) {
+  Timer* first = nullptr;
+  for (auto& entry : timers_) {
+    Timer& timer = entry.second;
+    if (timer.due_ms > limit_ms) continue;
+    if (timer.interval_ms == 0 && timer.order >= idle_before) continue;
+    if (first && std::tie(first->due_ms, first->order) < std::tie(timer.due_ms, timer.order)) continue;
+    if (scope == Scope::kWorkers && !timer.object->property(taviinputmanager::kWorkerTimerProperty).toBool()) continue;
+    first = &timer;
   }
-  return infos;
+  return first;
+}
+
+void VirtualEventDispatcher::Fire(Timer* timer) {
+  timer->due_ms += timer->interval_ms;
+  if (timer->due_ms < NowMs()) timer->due_ms = NowMs() + timer->interval_ms;
+  timer->order = next_order_++;
+  if (timer->in_handler) return;
+  timer->in_handler = true;
+  QTimerEvent event(timer->id);
+  QCoreApplication::sendEvent(timer->object, &event);
+  // The handler may have stopped the timer, or deleted its object.
+  const auto found = timers_.find(event.timerId());
+  if (found != timers_.end()) found->second.in_handler = false;
+}
+
+bool VirtualEventDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags) {
+  const QScopedValueRollback<int> depth(loop_depth_, loop_depth_ + 1);
+  // A wake-up that came before we looked must not be slept through.
+  const bool was_woken = interrupted_.exchange(false) || posted_;
+  const bool any = RunPass(NowMs(), Scope::kAll) || was_woken;
+  if (any || interrupted_ || !flags.testFlag(QEventLoop::WaitForMoreEvents)) return any;
+  return RunNextPass();
+}
+
+bool VirtualEventDispatcher::RunNextPass() {
+  const Timer* next = Earliest(kEver, Scope::kAll, next_order_);
+  if (!next) {
+    WaitForOtherThreads();
+    return true;
+  }
+  now_ms_ = std::max(NowMs(), next->due_ms);
+  return RunPass(NowMs(), Scope::kAll);
+}
+
+void VirtualEventDispatcher::WaitForOtherThreads() {
+  std::unique_lock<std::mutex> lock(wake_mutex_);
+  woken_.wait(lock, [this] { return posted_.load(); });
+}
+
+void VirtualEventDispatcher::wakeUp() {
+  {
+    const std::lock_guard<std::mutex> lock(wake_mutex_);
+    posted_ = true;
+  }
+  woken_.notify_all();
+}
+
+void VirtualEventDispatcher::interrupt() {
+  interrupted_ = true;
+  wakeUp();
+}
+
+void VirtualEventDispatcher::registerTimer(int id, int interval_ms, Qt::TimerType type, QObject* object) {
+  timers_[id] = {id, interval_ms, type, object, NowMs() + interval_ms, next_order_++};
+}
+
+bool VirtualEventDispatcher::unregisterTimer(int id) { return timers_.erase(id) > 0; }
+
+bool VirtualEventDispatcher::unregisterTimers(QObject* object) {
+  const size_t before = timers_.size();
+  for (auto it = timers_.begin(); it != timers_.end();) {
+    it = it->second.object == object ? timers_.erase(it) : std::next(it);
+  }
+  return timers_.size() < before;
+}
+
+QList<QAbstractEventDispatcher::TimerInfo> VirtualEventDispatcher::registeredTimers(QObject* object) const {
+  QList<TimerInfo> found;
+  for (const auto& entry : timers_) {
+    const Timer& timer = entry.second;
+    if (timer.object == object) found.append(TimerInfo(timer.id, timer.interval_ms, timer.type));
+  }
+  return found;
 }
 
 int VirtualEventDispatcher::remainingTime(int id) {
-  for (const Timer& timer : qAsConst(timers_)) {
-    if (timer.id == id) return static_cast<int>(std::max<qint64>(0, timer.due - now_));
-  }
-  return -1;
+  const auto found = timers_.find(id);
+  if (found == timers_.end()) return -1;
+  return static_cast<int>(std::max<qint64>(found->second.due_ms - NowMs(), 0));
 }
 
 }  // namespace tavi

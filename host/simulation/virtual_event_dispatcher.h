@@ -1,62 +1,115 @@
-// A clock that moves only when it is told to, and the event loop that runs on it.
+// Virtual time for a whole program: timers, pauses and the clock without any waiting.
 #ifndef HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 #define HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 
 #include <atomic>
+#include <condition_variable>
+#include <map>
+#include <mutex>
 
 #include <QAbstractEventDispatcher>
-#include <QPoint>
-#include <QVector>
 
 #include "taviinputmanager/virtual_time.h"
 
 namespace tavi {
 
+// The event dispatcher of a program that runs on virtual time. It is installed before the application object is made,
+// which then owns it:
+//
+//   auto* time = new VirtualEventDispatcher;
+//   QCoreApplication::setEventDispatcher(time);
+//   QGuiApplication app(argc, argv);  // platform "offscreen", or a QCoreApplication
+//   ...
+//   time->Advance(100);               // what takes 100 ms is done when it returns
+//
+// The clock stands still but for Advance, Sleep and event loops that have nothing left to do at the present moment:
+// these go on to the next timer instead of waiting for it, and wait for other threads when there is no timer either.
+//
+// Order, the same at every run:
+// - Before each timer all posted events and deferred deletes are delivered, until nothing is left.
+// - Timers fire by due time, equal ones by the time of their last start or timeout. On a timeout, before it is told,
+//   the due time moves on by the interval, and if it is past even then, to one interval from now. A timer does not fire
+//   inside its own handler.
+// - A pass is all that is due at one moment. A timer of 0 ms fires once a pass, also when it is started in the middle
+// of
+//   one (then in the next), and a pass that fired nothing else takes 1 ms.
+//
+// Sockets are not served.
+//
+// Threads: the main thread; wakeUp, interrupt and NowMs may be called on any, so that other threads can post to the
+// main thread as ever.
 class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinputmanager::VirtualTime {
   Q_OBJECT
   Q_INTERFACES(taviinputmanager::VirtualTime)
 
  public:
-  explicit VirtualEventDispatcher(qint64 start_ms = 1600000000000);
+  static constexpr qint64 kDefaultStartMs = 1577836800000;  // 2020-01-01T00:00:00Z, a midnight
 
+  explicit VirtualEventDispatcher(qint64 start_ms = kDefaultStartMs);
+
+  // Lets `ms` milliseconds pass: fires every timer that falls due on the way or at the end of it, and returns at that
+  // moment with nothing left to deliver. Timers of 0 ms get no pass of their own at the very end: that belongs to the
+  // next millisecond, so that two steps do what one of their sum does. Where a handler sleeps beyond the end, the time
+  // is later, and what fell due after the end is left to the next call.
   void Advance(int ms);
+  // Delivers posted events and deferred deletes until nothing is left. Takes no time and fires no timer.
   void Settle();
   void SetPointer(const QPoint& pointer) { pointer_ = pointer; }
 
-  qint64 NowMs() const override { return now_; }
+  // VirtualTime.
+  qint64 NowMs() const override { return now_ms_.load(); }
+  // Fires the timers marked with kWorkerTimerProperty that fall due on the way or at the end of it, and delivers
+  // nothing.
   void Sleep(unsigned long ms) override;
   QPoint Pointer() const override { return pointer_; }
 
+  // QAbstractEventDispatcher.
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
-  bool hasPendingEvents() override { return false; }
-  void registerSocketNotifier(QSocketNotifier*) override {}
-  void unregisterSocketNotifier(QSocketNotifier*) override {}
-  void registerTimer(int id, int interval, Qt::TimerType type, QObject* object) override;
+  bool hasPendingEvents() override { return posted_.load(); }
+  void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
+  void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
+  void registerTimer(int id, int interval_ms, Qt::TimerType type, QObject* object) override;
   bool unregisterTimer(int id) override;
   bool unregisterTimers(QObject* object) override;
   QList<TimerInfo> registeredTimers(QObject* object) const override;
   int remainingTime(int id) override;
-  void wakeUp() override { woken_ = true; }
-  void interrupt() override {}
+#ifdef Q_OS_WIN
+  bool registerEventNotifier(QWinEventNotifier* /*notifier*/) override { return false; }
+  void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) override {}
+#endif
+  void wakeUp() override;
+  void interrupt() override;
   void flush() override {}
 
  private:
   struct Timer {
     int id;
-    int interval;
-    qint64 due;
-    qint64 order;
+    int interval_ms;
     Qt::TimerType type;
     QObject* object;
+    qint64 due_ms;
+    quint64 order;  // of all starts and timeouts
+    bool in_handler = false;
   };
-  void RunUntil(qint64 end, bool workers_only);
-  void Fire(int id);
+  enum class Scope { kAll, kWorkers };
 
-  qint64 now_;
-  qint64 order_ = 0;
+  void RunUntil(qint64 end_ms, Scope scope);
+  bool RunPass(qint64 limit_ms, Scope scope);
+  bool RunNextPass();
+  Timer* Earliest(qint64 limit_ms, Scope scope, quint64 idle_before);
+  void Fire(Timer* timer);
+  void WaitForOtherThreads();
+
+  std::atomic<qint64> now_ms_;
   QPoint pointer_;
-  QVector<Timer> timers_;
-  std::atomic<bool> woken_{false};
+  std::map<int, Timer> timers_;  // by id
+  quint64 next_order_ = 1;
+  int loop_depth_ = 0;  // event loops under way
+
+  std::atomic<bool> interrupted_{false};
+  std::atomic<bool> posted_{false};  // set under `wake_mutex_`
+  std::mutex wake_mutex_;
+  std::condition_variable woken_;
 };
 
 }  // namespace tavi

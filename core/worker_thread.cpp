@@ -1,0 +1,101 @@
+#include "core/worker_thread.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTimer>
+#include <QVariant>
+
+#include "core/clock.h"
+#include "taviinputmanager/virtual_time.h"
+
+namespace taviinputmanager {
+
+namespace {
+
+// How long the end of the application waits for all runs together. Workers answer within microseconds; only a host
+// that blocks in a callback of a replay can use it up.
+constexpr int kExitWaitMs = 2000;
+
+// Main thread: whether the application will call QuitLiveRuns when it goes.
+bool exit_is_watched = false;
+
+}  // namespace
+
+WorkerThread::WorkerThread(QObject* worker) : is_virtual_(Clock::IsVirtual()), worker_(worker) {
+  new WorkerGate(worker, &state_);
+  if (!is_virtual_) worker->moveToThread(this);
+  // Posted once more, so that what was posted to this object up to now comes before its end.
+  connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::QueuedConnection);
+  LiveRuns()->append(this);
+  if (exit_is_watched) return;
+  qAddPostRoutine(&WorkerThread::QuitLiveRuns);
+  exit_is_watched = true;
+}
+
+WorkerThread::~WorkerThread() { LiveRuns()->removeOne(this); }
+
+void WorkerThread::Start() { QMetaObject::invokeMethod(this, &WorkerThread::Begin, Qt::QueuedConnection); }
+
+QTimer* WorkerThread::MakeWorkerTimer(QObject* owner) {
+  auto* timer = new QTimer(owner);
+  timer->setTimerType(Qt::PreciseTimer);
+  timer->setProperty(kWorkerTimerProperty, true);
+  auto* gate = owner->findChild<WorkerGate*>(QString(), Qt::FindDirectChildrenOnly);
+  if (gate) timer->installEventFilter(gate);
+  return timer;
+}
+
+void WorkerThread::quit() {
+  if (state_.exchange(WorkerRunState::kClosed) == WorkerRunState::kClosed) return;  // has ended already
+  if (begun_ && !is_virtual_) {
+    QThread::quit();  // run() does the rest
+  } else {
+    EndWithoutThread();
+  }
+}
+
+void WorkerThread::run() {
+  exec();
+  delete worker_;
+}
+
+void WorkerThread::Begin() {
+  if (begun_ || state_.load() == WorkerRunState::kClosed) return;  // quit came first
+  if (is_virtual_) {
+    begun_ = true;
+    QMetaObject::invokeMethod(this, "started", Qt::DirectConnection);
+    return;
+  }
+  start(QThread::InheritPriority);
+  begun_ = isRunning() || isFinished();
+  if (!begun_) quit();  // the system has no thread to give
+}
+
+void WorkerThread::RetireWorker() {
+  WorkerRunState open = WorkerRunState::kOpen;
+  state_.compare_exchange_strong(open, WorkerRunState::kRetiring);
+  worker_->deleteLater();
+}
+
+void WorkerThread::EndWithoutThread() {
+  delete worker_;
+  QMetaObject::invokeMethod(this, "finished", Qt::QueuedConnection);
+}
+
+// Never destroyed: an application object with static lifetime may go after all other static objects.
+QList<WorkerThread*>* WorkerThread::LiveRuns() {
+  static auto* const runs = new QList<WorkerThread*>;
+  return runs;
+}
+
+void WorkerThread::QuitLiveRuns() {
+  exit_is_watched = false;  // Qt calls a post routine once
+  const QList<WorkerThread*> runs = *LiveRuns();
+  for (WorkerThread* run : runs) run->quit();
+  const QDeadlineTimer limit(kExitWaitMs);
+  for (WorkerThread* run : runs) {
+    if (run->wait(limit)) delete run;  // one that still runs is left as it is
+  }
+}
+
+}  // namespace taviinputmanager

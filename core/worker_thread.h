@@ -1,0 +1,90 @@
+// Runs a timed worker beside the main thread.
+#ifndef CORE_WORKER_THREAD_H_
+#define CORE_WORKER_THREAD_H_
+
+#include <atomic>
+
+#include <QList>
+#include <QPointer>
+#include <QThread>
+
+#include "core/worker_gate.h"
+
+class QTimer;
+
+namespace taviinputmanager {
+
+// One run of one worker: a thread of its own in real time; in virtual time no thread at all, with everything in the
+// same order on the main thread.
+//
+//   auto* worker = new TapWorker(record);            // no parent; the run owns it from the next line on
+//   auto* run = new WorkerThread(worker);
+//   connect(run, &QThread::started, worker, &TapWorker::Process);
+//   connect(this, &Simulator::StopTap, worker, &TapWorker::Stop, Qt::QueuedConnection);
+//   connect(worker, &TapWorker::TapPressed, this, &Simulator::OnTapPressed, Qt::QueuedConnection);
+//   connect(worker, &TapWorker::TapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
+//   run->DeleteWorkerOn(worker, &TapWorker::TapFinished);
+//   run->Start();
+//
+// Every connection between worker and owner, both ways, is Qt::QueuedConnection, which is what an automatic one would
+// be across threads; `started` alone is left automatic. Signals carry Qt value types and plain numbers. The worker
+// makes its timer by MakeWorkerTimer.
+//
+// In real time and in virtual time alike:
+// - Nothing of the worker runs before the caller of Start has returned to the event loop. `started` reaches the worker
+//   before any request made after Start; a slot of it runs where the worker lives.
+// - After `quit` was handled no event and no tick reaches the worker. It is deleted then, if not before: in virtual
+//   time at once, else on its own thread when the slot that it may be in returns.
+// - `finished` comes once, also for a run that was quit before it began; such a worker never runs.
+// - The run deletes itself after `finished`. What was posted to it before (a functor with the run as its context, and
+//   one more posted from there) still runs.
+// - When the application goes, all live runs are quit, and waited for within a limit. Nothing of them is delivered any
+//   more.
+//
+// Threads: made and used on the main thread, and lives there.
+class WorkerThread : public QThread {
+  Q_OBJECT
+
+ public:
+  // Takes ownership of `worker`, which has no parent, and moves it to where it will run.
+  explicit WorkerThread(QObject* worker);
+  ~WorkerThread() override;
+
+  // Once.
+  void Start();
+
+  // From the first such signal on the worker gets no tick, and it deletes itself; requests that were on their way still
+  // reach it, unless quit comes first. To be used for every worker that ends its own life.
+  template <typename Worker, typename... Args>
+  void DeleteWorkerOn(Worker* worker, void (Worker::*signal)(Args...)) {
+    connect(worker, signal, this, &WorkerThread::RetireWorker, Qt::DirectConnection);
+  }
+
+  // A precise timer, owned by the worker `owner`, called where that worker runs. It is marked with
+  // kWorkerTimerProperty, so that a blocking pause of the main thread does not hold it up in virtual time either.
+  static QTimer* MakeWorkerTimer(QObject* owner);
+
+ public Q_SLOTS:
+  // Ends the run; further calls do nothing. Not from inside the worker's own code.
+  void quit();
+
+ protected:
+  void run() override;
+
+ private:
+  void Begin();
+  void RetireWorker();
+  void EndWithoutThread();
+
+  static QList<WorkerThread*>* LiveRuns();
+  static void QuitLiveRuns();
+
+  const bool is_virtual_;
+  bool begun_ = false;  // main thread: a thread was started, or in virtual time `started` was emitted
+  std::atomic<WorkerRunState> state_{WorkerRunState::kOpen};
+  QPointer<QObject> worker_;  // owned
+};
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_WORKER_THREAD_H_
