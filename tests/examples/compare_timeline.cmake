@@ -1,0 +1,22 @@
+# Plays SCRIPT with TAVI on the keymap that its first line names ("# keymap: FILE") and compares the timeline with the
+# file beside it. TAVI_WRITE_TIMELINES in the environment writes that file instead.
+get_filename_component(folder ${SCRIPT} DIRECTORY)
+get_filename_component(name ${SCRIPT} NAME_WE)
+file(STRINGS ${SCRIPT} first LIMIT_COUNT 1)
+if(NOT first MATCHES "^# keymap: (.+)$")
+  message(FATAL_ERROR "${SCRIPT}:1: expected \"# keymap: FILE\"")
+endif()
+execute_process(COMMAND ${TAVI} simulate ${folder}/${CMAKE_MATCH_1} ${SCRIPT}
+  OUTPUT_VARIABLE printed RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "tavi simulate ended with ${status}")
+endif()
+set(timeline ${folder}/${name}.timeline)
+if(DEFINED ENV{TAVI_WRITE_TIMELINES})
+  file(WRITE ${timeline} "${printed}")
+  return()
+endif()
+file(READ ${timeline} expected)
+if(NOT printed STREQUAL expected)
+  message(FATAL_ERROR "${timeline} expects\n${expected}\nbut the script prints\n${printed}")
+endif()
