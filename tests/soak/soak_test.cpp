@@ -1,0 +1,139 @@
+// Random input, for long: nothing may crash, hang, or stay pressed in the guest.
+#include <random>
+
+#include <QDir>
+
+#include "host/simulation/script_player.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "keymapmanager/key_names.h"
+#include "keymapmanager/keymap_file.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/keymap_source.h"
+#include "tests/support/model_guest.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using Kind = tavi::ScriptCommand::Kind;
+using tavi::ScriptCommand;
+
+int FromEnvironment(const char* name, int otherwise) {
+  return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+}
+
+// TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run.
+class Soak : public Story {
+ protected:
+  static constexpr int kUsualSeed = 1;
+  static constexpr int kUsualEvents = 200000;
+  static constexpr int kDisplays = 3;
+  static constexpr int kQuietMs = 2000;
+
+  Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(static_cast<unsigned>(seed_)) {
+    for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
+    // The keys that keymaps use come up more often than the hundred others.
+    for (const char* name :
+         {"W", "A", "S", "D", "Q", "E", "R", "F", "Space", "Left Shift", "Grave", "Left Alt", "Esc"}) {
+      for (int i = 0; i < 8; ++i) AddKey(name);
+    }
+    const QDir folder(QStringLiteral(TAVI_SOURCE_DIR "/examples/keymaps"));
+    for (const QFileInfo& file : folder.entryInfoList({"*.yaml"}, QDir::Files, QDir::Name)) {
+      keymaps_.append(file.filePath());
+    }
+    LoadSomeKeymap();
+  }
+
+  void AddKey(const QString& name) {
+    const auto key = tavikeymapmanager::KeyFromName(name);
+    if (key && key->device == "keyboard") keys_.append(*key);
+  }
+
+  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  bool OneIn(int n) { return Below(n) == 0; }
+  QPointF SomePoint() { return {static_cast<double>(Below(1400) - 60), static_cast<double>(Below(840) - 60)}; }
+
+  void LoadSomeKeymap() {
+    auto result = tavikeymapmanager::ReadKeymapFile(keymaps_[Below(keymaps_.size())]);
+    ASSERT_FALSE(result.HasErrors());
+    test::SetNextKeymap(result.config.release());
+    display_ = 1 + Below(kDisplays);
+    OnLoadKeymapConfigAndInfo("soak.yaml", "com.example.game", "", display_);
+  }
+
+  ScriptCommand SomeCommand() {
+    static const Kind kinds[] = {
+        Kind::kKeyDown,     Kind::kKeyDown, Kind::kKeyDown,    Kind::kKeyUp,    Kind::kKeyUp,
+        Kind::kKeyUp,       Kind::kMove,    Kind::kMove,       Kind::kRelative, Kind::kRelative,
+        Kind::kMouseDown,   Kind::kMouseUp, Kind::kWheel,      Kind::kWait,     Kind::kWait,
+        Kind::kWait,        Kind::kWait,    Kind::kTouchBegin, Kind::kCommit,   Kind::kTouchEnd,
+        Kind::kTouchUpdate, Kind::kJoyDown, Kind::kJoyUp,      Kind::kJoyAxis,  Kind::kKeyRepeat,
+    };
+    static const int buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton};
+    static const char* const pad[] = {"A", "B", "X", "Y", "LB", "RB", "LT", "Start"};
+    ScriptCommand command;
+    command.kind = kinds[Below(static_cast<int>(std::size(kinds)))];
+    command.key = keys_[Below(keys_.size())];
+    command.point = SomePoint();
+    command.number = Below(40);
+    command.text = pad[Below(static_cast<int>(std::size(pad)))];
+    if (command.kind == Kind::kMouseDown || command.kind == Kind::kMouseUp) {
+      command.key.scancode = buttons[Below(static_cast<int>(std::size(buttons)))];
+    }
+    if (command.kind == Kind::kWheel) command.number = (Below(3) - 1) * 120;
+    if (command.kind == Kind::kRelative) command.point = QPointF(Below(81) - 40, Below(81) - 40);
+    if (command.kind == Kind::kJoyAxis) {
+      command.number = Below(3);
+      command.point = OneIn(3) ? QPointF() : QPointF(Below(201) - 100, Below(201) - 100) / 100;
+    }
+    for (int id = Below(3); id < 10 && !OneIn(3); ++id) command.touches.append({id, SomePoint()});
+    return command;
+  }
+
+  // What a host does from time to time, in the middle of every gesture.
+  void DoSomethingRare() {
+    switch (Below(7)) {
+      case 0: return LoadSomeKeymap();
+      case 1: return OnResetInputStatus(OneIn(2), 0);
+      case 2: return UpdateDisplayId(display_ = 1 + Below(kDisplays));
+      case 3: return UpdateDisplayForceTransparent(1 + Below(kDisplays), OneIn(2));
+      case 4: Host().text_input = OneIn(3); return;
+      case 5: Host().rotation = 90 * Below(4); return;
+      default:
+        doBackAction(display_);
+        return Wait(8);  // a second click within that time leaves the first one's press on its display
+    }
+  }
+
+  void Listen() {
+    for (const auto& entry : Host().TakeTimeline()) {
+      if (entry.source == tavi::TimelineEntry::Source::kLine) guest_.Read(entry.text);
+    }
+  }
+
+  int seed_;
+  std::mt19937 random_;
+  QVector<tavikeymapmanager::ConfigKey> keys_;
+  QStringList keymaps_;
+  int display_ = 1;
+  ModelGuest guest_;
+};
+
+TEST_F(Soak, NothingStaysDown) {
+  const int events = FromEnvironment("TAVI_SOAK_EVENTS", kUsualEvents);
+  std::cout << "TAVI_SOAK_SEED=" << seed_ << " TAVI_SOAK_EVENTS=" << events << std::endl;
+  tavi::ScriptPlayer player(&Time(), &Host());
+  for (int i = 0; i < events; ++i) {
+    OneIn(200) ? DoSomethingRare() : player.Play(SomeCommand());
+    if (i % 1000 == 0) Listen();
+  }
+  UpdateDisplayId(display_);
+  Wait(kQuietMs);  // running timers may still send
+  UpdateDisplayId(display_);
+  Listen();
+  EXPECT_EQ("", guest_.WhatIsDown().toStdString());
+  EXPECT_EQ("", guest_.Unreadable().join('\n').toStdString());
+}
+
+}  // namespace
+}  // namespace taviinputmanager
