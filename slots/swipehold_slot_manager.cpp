@@ -15,6 +15,9 @@ constexpr double kDiagonal = 0.70710678118;
 
 bool IsOneKey(quint32 word) { return DirectionFlags::Sign(word) != 0; }
 
+// `sign` times `reach` away from `from`. A keymap's radius may be any number, so the sum is made in doubles.
+int Offset(int from, int sign, int reach) { return Truncate(from + sign * static_cast<double>(reach)); }
+
 }  // namespace
 
 SwipeholdSlotManager::SwipeholdSlotManager(int index, int slot_id) : SlotManager(slot_id), index_(index) {}
@@ -69,15 +72,15 @@ void SwipeholdSlotManager::SetRadiusFactor(double factor) {
 
 QPoint SwipeholdSlotManager::GetTargetPoint() const {
   if (just_use_last_ && directions_.x == DirectionFlags::kBoth && directions_.y == 0) {
-    return center_ + QPoint(last_directions_.x == DirectionFlags::kPositive ? radius_ : -radius_, 0);
+    return {Offset(center_.x(), DirectionFlags::Sign(last_directions_.x), radius_), center_.y()};
   }
   if (just_use_last_ && directions_.y == DirectionFlags::kBoth && directions_.x == 0) {
-    return center_ + QPoint(0, last_directions_.y == DirectionFlags::kPositive ? radius_ : -radius_);
+    return {center_.x(), Offset(center_.y(), DirectionFlags::Sign(last_directions_.y), radius_)};
   }
   const int sign_x = DirectionFlags::Sign(directions_.x);
   const int sign_y = DirectionFlags::Sign(directions_.y);
   const int reach = sign_x != 0 && sign_y != 0 ? diagonal_radius_ : radius_;
-  return center_ + QPoint(sign_x * reach, sign_y * reach);
+  return {Offset(center_.x(), sign_x, reach), Offset(center_.y(), sign_y, reach)};
 }
 
 bool SwipeholdSlotManager::IsSingleAxis() const {

@@ -44,7 +44,7 @@ class SwipeholdSlotManager : public SlotManager {
   QList<int> DiffDirections(quint32 x_flags, quint32 y_flags) const;
 
  private:
-  explicit SwipeholdSlotManager(int index, int slot_id);
+  SwipeholdSlotManager(int index, int slot_id);
 
   int index_;
   DirectionFlags directions_;
