@@ -1,18 +1,151 @@
 #include "simulators/swipehold_event_simulator.h"
 
+#include <algorithm>
+
+#include "core/guest_command.h"
+#include "core/input_status_manager.h"
+#include "core/key_code_converter.h"
+#include "simulators/workers/swipehold_async_worker.h"
+
 namespace taviinputmanager {
+
+namespace keywords = tavikeymapmanager::keywords;
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::SwipeholdConfigItem;
+
+namespace {
+
+constexpr int kLeftStickIndex = 2;
+
+SwipeholdAsyncWorker* Walk() { return SwipeholdAsyncWorker::GetInstance(0); }
+
+int GuestCodeOf(const ConfigKey& key) { return KeyCodeConverter::GetInstance()->KeyToGuestCode(key.scancode); }
+
+bool IsTransparent(const SwipeholdConfigItem& item) { return item.press_mode == keywords::kPressTransparent; }
+
+void TakeKeys(SwipeholdConfigItem* item, const SwipeholdConfigItem& from) {
+  item->key_left = from.key_left;
+  item->key_right = from.key_right;
+  item->key_down = from.key_down;
+  item->key_up = from.key_up;
+}
+
+}  // namespace
 
 SwipeholdEventSimulator* SwipeholdEventSimulator::GetInstance() {
   static SwipeholdEventSimulator instance;
   return &instance;
 }
 
-void SwipeholdEventSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+SwipeholdEventSimulator::SwipeholdEventSimulator() = default;
 
-void SwipeholdEventSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+SwipeholdEventSimulator::~SwipeholdEventSimulator() = default;
 
-void SwipeholdEventSimulator::Reset() {}
+void SwipeholdEventSimulator::FollowWalk() {
+  static bool is_following = false;
+  if (is_following) return;
+  is_following = true;
+  SwipeholdEventSimulator* simulator = GetInstance();
+  connect(Walk(), &SwipeholdAsyncWorker::sigSwipeholdTargetPointChanged, simulator,
+          [simulator](QPointF& point) { Q_EMIT simulator->sigSwipeholdTargetPointChanged(point); });
+}
 
-void SwipeholdEventSimulator::SetRadiusFactor(double /*factor*/) {}
+const SwipeholdConfigItem* SwipeholdEventSimulator::Enter(const ConfigItem* item) {
+  const auto* walk = dynamic_cast<const SwipeholdConfigItem*>(item);
+  if (!walk) return nullptr;
+  Walk()->SetItem(walk);
+  AddWorker(Walk(), walk);
+  for (Entry& entry : workers_) {
+    if (entry.worker == Walk()) continue;
+    TakeKeys(&entry.item, *walk);
+    entry.worker->SetItem(&entry.item);
+  }
+  return walk;
+}
+
+void SwipeholdEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
+  FollowWalk();
+  const SwipeholdConfigItem* walk = Enter(item);
+  if (!walk) return;  // not four keys
+  if (IsTransparent(*walk)) {
+    const int code = GuestCodeOf(*key);
+    SendEvent(guest_command::KeyPress(code));
+    return InputStatusManager::GetInstance()->AddHeldKey(code);
+  }
+  Forward(&SwipeholdAsyncWorker::Press, key);
+}
+
+void SwipeholdEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
+  const SwipeholdConfigItem* walk = Enter(item);
+  if (!walk) return;  // not four keys
+  if (IsTransparent(*walk)) {
+    const int code = GuestCodeOf(*key);
+    SendEvent(guest_command::KeyRelease(code));
+    return InputStatusManager::GetInstance()->RemoveHeldKey(code);
+  }
+  Forward(&SwipeholdAsyncWorker::Release, key);
+}
+
+void SwipeholdEventSimulator::Forward(KeyOperation operation, ConfigKey* key) {
+  // By position: who listens to a walk may enter or remove a worker.
+  for (size_t i = 0; i < workers_.size(); ++i) {
+    Entry& entry = workers_[i];
+    if (exclusive_inner_ && entry.worker == Walk()) continue;
+    if (!IsTransparent(entry.item)) (entry.worker->*operation)(&entry.item, key);
+  }
+}
+
+void SwipeholdEventSimulator::Reset() {
+  Walk()->ClearPath();
+  Walk()->SetRadiusFactor(1.0);
+}
+
+void SwipeholdEventSimulator::SetRadiusFactor(double factor) { Walk()->SetRadiusFactor(factor); }
+
+void SwipeholdEventSimulator::AddWorker(SwipeholdAsyncWorker* worker, const SwipeholdConfigItem* item) {
+  if (!item) return;
+  for (Entry& entry : workers_) {
+    if (entry.worker != worker) continue;
+    entry.item = *item;
+    return;
+  }
+  const auto at = std::find_if(workers_.begin(), workers_.end(),
+                               [worker](const Entry& entry) { return entry.worker->GetIndex() > worker->GetIndex(); });
+  workers_.insert(at, Entry{worker, *item});
+}
+
+void SwipeholdEventSimulator::RemoveWorker(SwipeholdAsyncWorker* worker) {
+  workers_.erase(
+      std::remove_if(workers_.begin(), workers_.end(), [worker](const Entry& entry) { return entry.worker == worker; }),
+      workers_.end());
+}
+
+void SwipeholdEventSimulator::EntrustToInner() {
+  const QPoint directions = Walk()->GetDirections();
+  for (const Entry& entry : workers_) {
+    if (entry.worker != Walk()) entry.worker->ReplayDirections(directions);  // starts slides, and so tells nobody yet
+  }
+  if (exclusive_inner_) Walk()->StopAndRelease();
+}
+
+void SwipeholdEventSimulator::CancelEntrustToInner() {
+  const auto inner =
+      std::find_if(workers_.begin(), workers_.end(), [](const Entry& entry) { return entry.worker != Walk(); });
+  if (inner == workers_.end()) return;
+  SwipeholdAsyncWorker* worker = inner->worker;
+  Walk()->ReplayDirections(worker->GetDirections());
+  worker->StopAndRelease();
+}
+
+void SwipeholdEventSimulator::QueryPoint(const std::function<void(QPointF)>& callback) {
+  FollowWalk();
+  callback(Walk()->GetCurrentPoint());
+}
+
+void SwipeholdEventSimulator::QueryVirtualPoint(const std::function<void(QPointF)>& callback) {
+  FollowWalk();
+  callback(SwipeholdAsyncWorker::GetInstance(kLeftStickIndex)->GetCurrentPoint());
+}
 
 }  // namespace taviinputmanager
