@@ -1,6 +1,7 @@
 #include "simulators/workers/swipe_wave.h"
 
 #include <cmath>
+#include <limits>
 #include <qmath.h>
 
 #include "keymap/swipehold_config_item.h"
@@ -15,6 +16,12 @@ namespace {
 
 // `span` over the N - 1 gaps between N steps. One step has no gap, and is only ever at the beginning of the span.
 double PerStep(double span, int steps) { return steps == 1 ? 0.0 : span / (steps - 1.0); }
+
+// What single precision cannot hold is infinite.
+float ToSingle(double v) {
+  if (std::abs(v) <= std::numeric_limits<float>::max()) return static_cast<float>(v);
+  return std::numeric_limits<float>::infinity();
+}
 
 bool IsFinite(const QPointF& point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
 
@@ -53,10 +60,10 @@ std::optional<double> SwipeWave::TickRadially(const SwipeholdConfigItem& item) {
 QPointF SwipeWave::TickAlongCurves(const SwipeholdConfigItem& item, const QPoint& center, int radius) {
   const int steps = item.compensate_steps;
   const double reach = radius * item.compensate_amplitude;
-  // Single precision here is part of where the finger goes.
-  const auto t = static_cast<float>(PerStep(2 * M_PI, steps) * wave_step_);
-  const auto u = static_cast<float>(reach * CurveValue(item.curve_x, t, item.factor_x, item.offset_x));
-  const auto v = static_cast<float>(reach * CurveValue(item.curve_y, t, item.factor_y, item.offset_y));
+  // The single precision is part of where the finger goes.
+  const float t = ToSingle(PerStep(2 * M_PI, steps) * wave_step_);
+  const float u = ToSingle(reach * CurveValue(item.curve_x, t, item.factor_x, item.offset_x));
+  const float v = ToSingle(reach * CurveValue(item.curve_y, t, item.factor_y, item.offset_y));
   const QPointF out = QPointF(wave_point_) - center;
   const double angle = std::atan2(out.y(), out.x());
   const double s = qFastSin(angle);
