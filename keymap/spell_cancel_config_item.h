@@ -7,7 +7,7 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD SpellCancelConfigItem : ComposableConfigItem {
-  bool cancel_immediately = false;  // the key cancels by itself; false: only through a fire button in use
+  bool cancel_immediately = false;  // the key cancels; false: it is not taken at all
   int cancel_delay_ms = 0;          // time on the point before the release; 0: at once; negative: stays down
 };
 

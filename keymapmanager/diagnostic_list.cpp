@@ -24,10 +24,11 @@ void DiagnosticList::Warning(const YamlSpan& span, const QString& message) {
   Add(Diagnostic::Severity::kWarning, span, message);
 }
 
+bool DiagnosticList::IsFull() const { return diagnostics_.size() >= kMostDiagnostics; }
+
 void DiagnosticList::Add(Diagnostic::Severity severity, const YamlSpan& span, const QString& message) {
   // An error after the last place still takes it, so that a file with errors never looks like one without.
-  const bool is_full = diagnostics_.size() >= kMostDiagnostics;
-  if (is_full && (severity == Diagnostic::Severity::kWarning || error_count_ > 1)) return;
+  if (IsFull() && (severity == Diagnostic::Severity::kWarning || error_count_ > 1)) return;
   Diagnostic diagnostic;
   diagnostic.severity = severity;
   diagnostic.file = file_;
@@ -44,7 +45,7 @@ QVector<Diagnostic> DiagnosticList::Sorted() const {
   std::stable_sort(sorted.begin(), sorted.end(), IsBefore);
   if (sorted.size() < kMostDiagnostics) return sorted;
   Diagnostic more = sorted.last();
-  more.message = QStringLiteral("there is more; the rest is left out");
+  more.message = QStringLiteral("a thousand are told; any others are left out");
   sorted += more;
   return sorted;
 }

@@ -19,6 +19,10 @@ class DiagnosticList {
 
   // To see whether a step found errors: compare before and after.
   int ErrorCount() const { return error_count_; }
+  // No warning that is found from here on would be told.
+  bool IsFull() const;
+  // Nor any error: a reader may stop.
+  bool HasEnough() const { return IsFull() && error_count_ > 0; }
   // In the order of the file. A hopeless file ends with a word that there is more.
   QVector<Diagnostic> Sorted() const;
 

@@ -1,5 +1,7 @@
 #include "keymapmanager/key_index.h"
 
+#include "keymapmanager/pad_names.h"
+
 namespace tavikeymapmanager {
 
 const KeyIndex& KeyIndex::Get() {
@@ -16,7 +18,7 @@ KeyIndex::KeyIndex() {
   for (int number = 1; number <= kExtraMouseButtonCount; ++number) {
     AddMouseKey(ExtraMouseButton(number), QStringLiteral("Mouse Side %1").arg(number));
   }
-  for (const PadKeyRow& row : PadKeys()) names_ += QStringLiteral("Pad ") + row.name;
+  for (const PadKeyRow& row : PadKeys()) names_ += kPadPrefix + row.name;
 }
 
 void KeyIndex::AddKeyboardKey(const KeyboardKeyRow& row) {

@@ -11,7 +11,6 @@ namespace tavikeymapmanager {
 
 namespace {
 
-const QString kPadPrefix = QStringLiteral("Pad ");
 const QString kScanPrefix = QStringLiteral("Scan ");
 
 // "Scan 200": a number without sign or leading zero.

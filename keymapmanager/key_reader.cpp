@@ -10,7 +10,6 @@ namespace tavikeymapmanager {
 
 namespace {
 
-const QString kPadPrefix = QStringLiteral("Pad ");
 const QString kChordSign = QStringLiteral(" + ");
 
 // The name of a key in a scalar. A digit is a number to YAML and a key to people.

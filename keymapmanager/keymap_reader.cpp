@@ -90,11 +90,6 @@ std::unique_ptr<KeymapConfig> DefaultConfig() {
   return config;
 }
 
-const YamlSpan& SourcedItem::SpanOf(const QString& field) const {
-  const YamlNode* value = FindValue(*node, field);
-  return value == nullptr ? node->span : value->span;
-}
-
 LoadResult KeymapReader::Read(const YamlNode& root) {
   LoadResult result;
   result.config = DefaultConfig();
@@ -183,7 +178,10 @@ void KeymapReader::ReadItems(const YamlNode& node) {
     diagnostics_->Error(node.span, QStringLiteral("'items': expected a list, got %1").arg(Describe(node)));
     return;
   }
-  for (const YamlNode& child : node.children) ReadItem(child);
+  for (const YamlNode& child : node.children) {
+    if (diagnostics_->HasEnough()) return;
+    ReadItem(child);
+  }
 }
 
 void KeymapReader::ReadItem(const YamlNode& node) {

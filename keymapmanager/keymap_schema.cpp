@@ -6,6 +6,7 @@
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/key_table.h"
 #include "keymapmanager/keymap_file.h"
+#include "keymapmanager/pad_names.h"
 #include "keymapmanager/record_tables.h"
 
 namespace tavikeymapmanager {
@@ -56,7 +57,7 @@ QString Escaped(const QString& text) {
 QString ButtonPattern() {
   QStringList names;
   for (const QString& name : AllKeyNames()) {
-    if (!name.startsWith(Q("Pad "))) names += Escaped(name);
+    if (!name.startsWith(kPadPrefix)) names += Escaped(name);
   }
   for (const KeyboardKeyRow& row : KeyboardKeys()) {
     if (row.alias != nullptr) names += Escaped(Q(row.alias));

@@ -58,7 +58,10 @@ void MacroChecks::Check(const YamlNode& item, const QString& field) {
   const YamlNode* commands = FindValue(item, field);
   if (commands == nullptr) return;
   loop_ = Loop();
-  for (const YamlNode& node : commands->children) CheckCommand(node);
+  for (const YamlNode& node : commands->children) {
+    if (diagnostics_->IsFull()) return;
+    CheckCommand(node);
+  }
   if (loop_.start != nullptr) {
     diagnostics_->Warning(loop_.start->span, QStringLiteral("a loop without '%1' runs once").arg(kStopLoop));
   }

@@ -7,6 +7,9 @@
 
 namespace tavikeymapmanager {
 
+// Stands before a gamepad's names where keys of all devices are named.
+inline const QString kPadPrefix = QStringLiteral("Pad ");
+
 // The host's name of one button: an arrow for `Up`; any name that is not in the table stands for itself.
 QString PadTextFromName(const QString& name);
 QString PadNameFromText(const QString& text);

@@ -87,7 +87,7 @@ void RecordReader::Read(const RecordTable& table, const YamlNode& node, const QS
                         const RecordRef& record) {
   QStringList known = also_known;
   for (const Field& field : table.fields) known += field.name;
-  for (size_t i = 0; i < node.keys.size(); ++i) {
+  for (size_t i = 0; i < node.keys.size() && !diagnostics_->HasEnough(); ++i) {
     const QString& name = node.keys[i].text;
     if (const Field* field = table.Find(name)) {
       ReadField(*field, node.children[i], record);
