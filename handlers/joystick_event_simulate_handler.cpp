@@ -1,20 +1,139 @@
 #include "handlers/joystick_event_simulate_handler.h"
 
+#include <QPointF>
+
+#include "handlers/simulator_table.h"
+#include "keymap/joystick_left_walk_config_item.h"
+#include "keymap/joystick_right_eye_config_item.h"
+#include "keymap/keymap_config.h"
+#include "keymap/tip_config_item.h"
+#include "simulators/event_simulator.h"
+#include "simulators/left_stick_walk_event_simulator.h"
+#include "simulators/right_stick_eye_event_simulator.h"
+#include "simulators/spell_event_simulator.h"
+#include "taviinputmanager/callbacks.h"
+#include "taviinputmanager/joystick_event.h"
+
 namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::JoystickLeftWalkConfigItem;
+using tavikeymapmanager::JoystickRightEyeConfigItem;
+using tavikeymapmanager::TipConfigItem;
+namespace keywords = tavikeymapmanager::keywords;
+
+namespace {
+
+constexpr int kLeft = 0;  // JoystickAxisEvent::stick
+constexpr int kRight = 1;
+
+ConfigKey KeyOf(const QString& text) {
+  ConfigKey key;
+  key.device = keywords::kDeviceJoystick;
+  key.text = text;
+  return key;
+}
+
+// Joins the buttons of a combination; the one pressed last is the last.
+QString CombinationOf(const QString& held, const QString& pressed) { return held + QLatin1Char('+') + pressed; }
+
+// Whether the key called `text` ends with the release of the button `name`.
+bool EndsWith(const QString& text, const QString& name) {
+  return text == name || text.endsWith(CombinationOf(QString(), name));
+}
+
+QPointF ValueOf(const JoystickAxisEvent* event) { return {event->x, event->y}; }
+
+}  // namespace
 
 JoystickEventSimulateHandler* JoystickEventSimulateHandler::GetInstance() {
   static JoystickEventSimulateHandler instance;
   return &instance;
 }
 
-bool JoystickEventSimulateHandler::OnAxis(JoystickAxisEvent* /*event*/) { return false; }
-
-bool JoystickEventSimulateHandler::OnButtonPress(JoystickButtonEvent* /*event*/, int /*simulate_mode*/) {
-  return false;
+ConfigItem* JoystickEventSimulateHandler::FindItem(const ConfigKey& key) const {
+  if (!joystick_config_) return nullptr;
+  for (ConfigItem* item : qAsConst(joystick_config_->items)) {
+    if (!item || dynamic_cast<const TipConfigItem*>(item) || !item->IsKeyMatch(key)) continue;
+    if (callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(false);
+    return item;
+  }
+  return nullptr;
 }
 
-bool JoystickEventSimulateHandler::OnButtonRelease(JoystickButtonEvent* /*event*/, int /*simulate_mode*/) {
-  return false;
+EventSimulator* JoystickEventSimulateHandler::SimulatorFor(const ConfigItem* item) {
+  return item ? JoystickSimulatorOf(item) : nullptr;
+}
+
+bool JoystickEventSimulateHandler::TryPress(const QString& text) {
+  ConfigKey key = KeyOf(text);
+  ConfigItem* item = FindItem(key);
+  EventSimulator* simulator = SimulatorFor(item);
+  if (!simulator) return false;
+  simulator->Press(item, &key);
+  if (!active_texts_.contains(text)) active_texts_.append(text);
+  return true;
+}
+
+bool JoystickEventSimulateHandler::TryRelease(const QString& text) {
+  ConfigKey key = KeyOf(text);
+  ConfigItem* item = FindItem(key);
+  EventSimulator* simulator = SimulatorFor(item);
+  if (!simulator) return false;  // the entry stays active
+  simulator->Release(item, &key);
+  active_texts_.removeAll(text);
+  return true;
+}
+
+bool JoystickEventSimulateHandler::OnButtonPress(JoystickButtonEvent* event, int /*simulate_mode*/) {
+  const QString name = event->text;
+  const QStringList held = held_buttons_;  // a macro may press and release buttons while it runs
+  bool was_pressed = false;
+  for (const QString& button : held) {
+    if (button != name && TryPress(CombinationOf(button, name))) was_pressed = true;
+  }
+  if (!was_pressed) was_pressed = TryPress(name);
+  if (!held_buttons_.contains(name)) held_buttons_.append(name);
+  return was_pressed;
+}
+
+bool JoystickEventSimulateHandler::OnButtonRelease(JoystickButtonEvent* event, int /*simulate_mode*/) {
+  const QString name = event->text;
+  const QStringList active = active_texts_;  // as above
+  bool was_released = false;
+  for (const QString& text : active) {
+    if (EndsWith(text, name) && TryRelease(text)) was_released = true;
+  }
+  held_buttons_.removeAll(name);
+  return was_released;
+}
+
+bool JoystickEventSimulateHandler::OnAxis(JoystickAxisEvent* event) {
+  switch (event->stick) {
+    case kLeft: return OnLeftStick(event);
+    case kRight: return OnRightStick(event);
+    default: return false;
+  }
+}
+
+bool JoystickEventSimulateHandler::OnRightStick(JoystickAxisEvent* event) {
+  SpellEventSimulator* spell = SpellEventSimulator::GetInstance();
+  if (spell->IsSpellActive()) {
+    spell->OnJoystickAxis(event);
+    return true;
+  }
+  ConfigItem* item = FindItem(KeyOf(keywords::kRightStick));
+  if (!item) return false;
+  RightStickEyeEventSimulator::GetInstance()->OnStick(dynamic_cast<JoystickRightEyeConfigItem*>(item), ValueOf(event));
+  return true;
+}
+
+bool JoystickEventSimulateHandler::OnLeftStick(JoystickAxisEvent* event) {
+  ConfigItem* item = FindItem(KeyOf(keywords::kLeftStick));
+  if (!item) return false;
+  LeftStickWalkEventSimulator::GetInstance()->OnStick(dynamic_cast<JoystickLeftWalkConfigItem*>(item), ValueOf(event));
+  return true;
 }
 
 }  // namespace taviinputmanager

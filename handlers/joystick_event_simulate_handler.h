@@ -2,16 +2,26 @@
 #ifndef HANDLERS_JOYSTICK_EVENT_SIMULATE_HANDLER_H_
 #define HANDLERS_JOYSTICK_EVENT_SIMULATE_HANDLER_H_
 
+#include <QStringList>
+
 #include "handlers/joystick_event_handler.h"
 
 namespace tavikeymapmanager {
+struct ConfigItem;
+struct ConfigKey;
 struct KeymapConfig;
-}
+}  // namespace tavikeymapmanager
 
 namespace taviinputmanager {
 
+class EventSimulator;
 struct InputManagerCallbacks;
 
+// Buttons are keys of the device "joystick", known by name. While "A" is held, "B" is first looked up as "A+B" and by
+// itself only where no such combination does anything.
+//
+// Main thread. What it remembers are names: no item is held beyond a call, and a press is released through whatever
+// item answers to its name by then. A new config leaves all of it as it is.
 class JoystickEventSimulateHandler : public JoystickEventHandler {
  public:
   static JoystickEventSimulateHandler* GetInstance();
@@ -30,7 +40,18 @@ class JoystickEventSimulateHandler : public JoystickEventHandler {
  private:
   JoystickEventSimulateHandler() = default;
 
+  bool OnLeftStick(JoystickAxisEvent* event);
+  bool OnRightStick(JoystickAxisEvent* event);
+  // Null when nothing matches. A match is told to the host.
+  tavikeymapmanager::ConfigItem* FindItem(const tavikeymapmanager::ConfigKey& key) const;
+  static EventSimulator* SimulatorFor(const tavikeymapmanager::ConfigItem* item);
+  // Each tells whether an item and its simulator took the key called `text`.
+  bool TryPress(const QString& text);
+  bool TryRelease(const QString& text);
+
   tavikeymapmanager::KeymapConfig* joystick_config_ = nullptr;  // the input manager's
+  QStringList held_buttons_;                                    // by name, in the order of pressing
+  QStringList active_texts_;                                    // pressed and not yet released
   InputManagerCallbacks* callbacks_ = nullptr;                  // the host's
 };
 

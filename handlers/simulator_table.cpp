@@ -41,40 +41,48 @@ EventSimulator* GetForSpellCancel(const ConfigItem* item) {
   return cancel && cancel->cancel_immediately ? SpellEventSimulator::GetInstance() : nullptr;
 }
 
+// What a key belongs to.
+enum Source : unsigned { kKeyboardMouse = 1, kJoystick = 2 };
+
 struct Row {
   const QString& type;
   EventSimulator* (*get)(const ConfigItem*);
+  unsigned sources;  // whose keys work this type
 };
 
 const Row kRows[] = {
-    {keywords::kTypeClick, Get<TapEventSimulator>},
-    {keywords::kTypeBunchClick, Get<BunchTapEventSimulator>},
-    {keywords::kTypeSwipehold, Get<SwipeholdEventSimulator>},
-    {keywords::kTypeCurve, Get<CurveEventSimulator>},
-    {keywords::kTypeRightWalk, Get<RightWalkEventSimulator>},
-    {keywords::kTypeSpell, Get<SpellEventSimulator>},
-    {keywords::kTypeStaring, Get<StaringAndFireEventSimulator>},
-    {keywords::kTypeEye, Get<EyeEventSimulator>},
-    {keywords::kTypeGravity, Get<GravityEventSimulator>},
-    {keywords::kTypeSpellCancel, GetForSpellCancel},
-    {keywords::kTypeMacro, Get<MacroEventSimulator>},
-    {keywords::kTypeWheel, Get<WheelEventSimulator>},
-    {keywords::kTypeZoom, Get<ZoomEventSimulator>},
-    {keywords::kTypeObserve, Get<StaringAndFireEventSimulator>},
-    {keywords::kTypeOperationRecorder, Get<MacroEventSimulator>},
-    {keywords::kTypeVirtualLeftStick, Get<VStickLeftStickSimulator>},
-    {keywords::kTypeVirtualRightStick, Get<VStickRightStickSimulator>},
-    {keywords::kTypeVirtualJoystickButton, Get<VJoystickButtonEventSimulator>},
-    {keywords::kTypeVirtualLeftStickShiftButton, Get<VStickLeftShiftButtonEventSimulator>},
-    {keywords::kTypeVirtualJoystickBunchButton, Get<VJoystickBunchButtonEventSimulator>},
+    {keywords::kTypeClick, Get<TapEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeBunchClick, Get<BunchTapEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeSwipehold, Get<SwipeholdEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeCurve, Get<CurveEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeRightWalk, Get<RightWalkEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeSpell, Get<SpellEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeStaring, Get<StaringAndFireEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeEye, Get<EyeEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeGravity, Get<GravityEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeSpellCancel, GetForSpellCancel, kKeyboardMouse | kJoystick},
+    {keywords::kTypeMacro, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeWheel, Get<WheelEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeZoom, Get<ZoomEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeObserve, Get<StaringAndFireEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeOperationRecorder, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeVirtualLeftStick, Get<VStickLeftStickSimulator>, kKeyboardMouse},
+    {keywords::kTypeVirtualRightStick, Get<VStickRightStickSimulator>, kKeyboardMouse},
+    {keywords::kTypeVirtualJoystickButton, Get<VJoystickButtonEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeVirtualLeftStickShiftButton, Get<VStickLeftShiftButtonEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeVirtualJoystickBunchButton, Get<VJoystickBunchButtonEventSimulator>, kKeyboardMouse},
 };
+
+EventSimulator* Find(const ConfigItem* item, Source source) {
+  const auto row =
+      std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return r.type == item->type; });
+  return row == std::end(kRows) || (row->sources & source) == 0 ? nullptr : row->get(item);
+}
 
 }  // namespace
 
-EventSimulator* SimulatorOf(const ConfigItem* item) {
-  const auto row =
-      std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return r.type == item->type; });
-  return row == std::end(kRows) ? nullptr : row->get(item);
-}
+EventSimulator* SimulatorOf(const ConfigItem* item) { return Find(item, kKeyboardMouse); }
+
+EventSimulator* JoystickSimulatorOf(const ConfigItem* item) { return Find(item, kJoystick); }
 
 }  // namespace taviinputmanager

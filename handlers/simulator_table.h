@@ -14,6 +14,9 @@ class EventSimulator;
 // own way, "Tip", a "SpellCancel" that is not immediate, and every unknown one.
 EventSimulator* SimulatorOf(const tavikeymapmanager::ConfigItem* item);
 
+// For buttons of a gamepad, which work fewer types. Null for all others.
+EventSimulator* JoystickSimulatorOf(const tavikeymapmanager::ConfigItem* item);
+
 }  // namespace taviinputmanager
 
 #endif  // HANDLERS_SIMULATOR_TABLE_H_

@@ -1,16 +1,29 @@
 #include "simulators/eye_event_simulator.h"
 
+#include "keymap/eye_config_item.h"
+#include "simulators/workers/eye_async_worker.h"
+
 namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::EyeConfigItem;
 
 EyeEventSimulator* EyeEventSimulator::GetInstance() {
   static EyeEventSimulator instance;
   return &instance;
 }
 
-void EyeEventSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void EyeEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
+  const auto* eye = dynamic_cast<EyeConfigItem*>(item);
+  if (eye) EyeAsyncWorker::GetInstance()->Press(*eye, *key);
+}
 
-void EyeEventSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void EyeEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
+  const auto* eye = dynamic_cast<EyeConfigItem*>(item);
+  if (eye) EyeAsyncWorker::GetInstance()->Release(*eye, *key);
+}
 
-void EyeEventSimulator::Stop() {}
+void EyeEventSimulator::Stop() { EyeAsyncWorker::GetInstance()->Stop(); }
 
 }  // namespace taviinputmanager

@@ -1,16 +1,29 @@
 #include "simulators/gravity_event_simulator.h"
 
+#include "keymap/gravity_config_item.h"
+#include "simulators/workers/gravity_sync_worker.h"
+
 namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::GravityConfigItem;
 
 GravityEventSimulator* GravityEventSimulator::GetInstance() {
   static GravityEventSimulator instance;
   return &instance;
 }
 
-void GravityEventSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void GravityEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
+  const auto* gravity = dynamic_cast<GravityConfigItem*>(item);
+  if (gravity) GravitySyncWorker::GetInstance()->Press(*gravity, *key);
+}
 
-void GravityEventSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void GravityEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
+  const auto* gravity = dynamic_cast<GravityConfigItem*>(item);
+  if (gravity) GravitySyncWorker::GetInstance()->Release(*gravity, *key);
+}
 
-void GravityEventSimulator::Stop() {}
+void GravityEventSimulator::Stop() { GravitySyncWorker::GetInstance()->Stop(); }
 
 }  // namespace taviinputmanager

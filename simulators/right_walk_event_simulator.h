@@ -1,4 +1,4 @@
-// Walking towards a right click. Its keys work by the mouse operations.
+// Walking towards a right click.
 #ifndef SIMULATORS_RIGHT_WALK_EVENT_SIMULATOR_H_
 #define SIMULATORS_RIGHT_WALK_EVENT_SIMULATOR_H_
 
@@ -8,16 +8,19 @@ class QMouseEvent;
 
 namespace taviinputmanager {
 
+// Works by the mouse operations, which need the pointer; a press or release as of a key does nothing.
 class RightWalkEventSimulator : public EventSimulator {
  public:
   static RightWalkEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  // `event` is valid during the call; its position is read as pixels of the display.
   void OnMousePress(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
   void OnMouseRelease(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
+  // Nothing while no walk is on.
   void OnMouseMove(QMouseEvent* event);
-  // Lifts the finger.
+  // Lifts the finger. Also what a reset of all input does.
   void StopWalk();
 
  private:

@@ -8,6 +8,8 @@ class QMouseEvent;
 
 namespace taviinputmanager {
 
+class JoystickAxisEvent;
+
 class SpellEventSimulator : public EventSimulator {
  public:
   static SpellEventSimulator* GetInstance();
@@ -16,6 +18,10 @@ class SpellEventSimulator : public EventSimulator {
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   // Whether a mouse event ends a cast that waits for it, and is used up by that.
   bool OnMouseEvent(QMouseEvent* event);
+  // Whether a cast is being aimed.
+  bool IsSpellActive() const;
+  // Aims by a gamepad's right stick.
+  void OnJoystickAxis(JoystickAxisEvent* event);
   // Ends a cast in progress.
   void ForceStop();
 

@@ -1,5 +1,7 @@
 #include "slots/eye_slot_manager.h"
 
+#include "core/numbers.h"
+
 namespace taviinputmanager {
 namespace {
 
@@ -21,7 +23,8 @@ void EyeSlotManager::Reset() {
 }
 
 void EyeSlotManager::Step(int step) {
-  position += QPoint(step * DirectionFlags::Sign(directions_.x), step * DirectionFlags::Sign(directions_.y));
+  position.rx() = AddSaturated(position.x(), step * DirectionFlags::Sign(directions_.x));
+  position.ry() = AddSaturated(position.y(), step * DirectionFlags::Sign(directions_.y));
 }
 
 }  // namespace taviinputmanager

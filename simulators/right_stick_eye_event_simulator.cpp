@@ -1,0 +1,25 @@
+#include "simulators/right_stick_eye_event_simulator.h"
+
+#include "simulators/workers/right_stick_eye_sync_worker.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::JoystickRightEyeConfigItem;
+
+RightStickEyeEventSimulator* RightStickEyeEventSimulator::GetInstance() {
+  static RightStickEyeEventSimulator instance;
+  return &instance;
+}
+
+void RightStickEyeEventSimulator::Press(ConfigItem* /*item*/, ConfigKey* /*key*/) {}
+
+void RightStickEyeEventSimulator::Release(ConfigItem* /*item*/, ConfigKey* /*key*/) {}
+
+void RightStickEyeEventSimulator::OnStick(JoystickRightEyeConfigItem* item, const QPointF& stick) {
+  if (!item) return;  // the stick's name is mapped to an item of another class
+  RightStickEyeSyncWorker::GetInstance()->OnStick(*item, stick);
+}
+
+}  // namespace taviinputmanager
