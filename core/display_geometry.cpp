@@ -17,6 +17,14 @@ double Length(const QPoint& v) {
   return std::sqrt(x * x + y * y);
 }
 
+// Stops at the ends of an int.
+QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
+
+// The same.
+QPoint Difference(const QPoint& a, const QPoint& b) {
+  return {Truncate(static_cast<double>(a.x()) - b.x()), Truncate(static_cast<double>(a.y()) - b.y())};
+}
+
 QPoint Scaled(const QPoint& v, double numerator, double denominator) {
   return {Truncate(std::round(v.x() * numerator / denominator)), Truncate(std::round(v.y() * numerator / denominator))};
 }
@@ -109,10 +117,10 @@ void DisplayGeometry::SetGravity(int x, int y, int z) const {
 }
 
 QPoint DisplayGeometry::ClampToRadius(const QPoint& a, const QPoint& b, const QPoint& c, double radius) {
-  const QPoint p = a + b;
-  const QPoint d = p - c;
+  const QPoint p = Sum(a, b);
+  const QPoint d = Difference(p, c);
   const double distance = Length(d);
-  return radius < distance ? c + Scaled(d, radius, distance) : p;
+  return radius < distance ? Sum(c, Scaled(d, radius, distance)) : p;
 }
 
 QPoint DisplayGeometry::ScaleToLength(const QPoint& v, double length) {

@@ -1,4 +1,4 @@
-// From doubles to ints: the only two ways in use. They are not interchangeable.
+// From doubles to ints: the only two ways in use. They are not interchangeable. And sums of ints that may not fit one.
 #ifndef CORE_NUMBERS_H_
 #define CORE_NUMBERS_H_
 
@@ -23,6 +23,15 @@ inline int Round(double v) {
   const double k = Truncate(v - 1);
   return Truncate(static_cast<double>(Truncate(v - k + 0.5)) + k);
 }
+
+// Counts run on past the range of an int, modulo 2^32.
+inline int AddWrapped(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b)); }
+inline int MultiplyWrapped(int a, int b) {
+  return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+}
+
+// Positions stop at the ends of an int.
+inline int AddSaturated(int a, int b) { return Truncate(static_cast<double>(a) + b); }
 
 }  // namespace taviinputmanager
 
