@@ -13,6 +13,10 @@ void SpellEventSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavik
 
 bool SpellEventSimulator::OnMouseEvent(QMouseEvent* /*event*/) { return false; }
 
+bool SpellEventSimulator::IsSpellActive() const { return false; }
+
+void SpellEventSimulator::OnRelativeInput(int /*dx*/, int /*dy*/) {}
+
 void SpellEventSimulator::ForceStop() {}
 
 }  // namespace taviinputmanager

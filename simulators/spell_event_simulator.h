@@ -6,9 +6,15 @@
 
 class QMouseEvent;
 
+namespace tavikeymapmanager {
+struct SpellCancelConfigItem;
+}
+
 namespace taviinputmanager {
 
 class SpellEventSimulator : public EventSimulator {
+  Q_OBJECT
+
  public:
   static SpellEventSimulator* GetInstance();
 
@@ -16,8 +22,15 @@ class SpellEventSimulator : public EventSimulator {
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   // Whether a mouse event ends a cast that waits for it, and is used up by that.
   bool OnMouseEvent(QMouseEvent* event);
+  // Whether a cast is in progress.
+  bool IsSpellActive() const;
+  // Relative counts, which aim a cast in progress.
+  void OnRelativeInput(int dx, int dy);
   // Ends a cast in progress.
   void ForceStop();
+
+ Q_SIGNALS:
+  void sigSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
 
  private:
   SpellEventSimulator() = default;
