@@ -1,5 +1,7 @@
 #include "handlers/qt_mult_point_event_handler.h"
 
+#include "handlers/mult_point_sync_worker.h"
+
 namespace taviinputmanager {
 
 QtMultPointEventHandler* QtMultPointEventHandler::GetInstance() {
@@ -7,6 +9,8 @@ QtMultPointEventHandler* QtMultPointEventHandler::GetInstance() {
   return &instance;
 }
 
-void QtMultPointEventHandler::OnTouchEvent(QTouchEvent* /*event*/) {}
+void QtMultPointEventHandler::OnTouchEvent(QTouchEvent* event) {
+  MultPointSyncWorker::GetInstance()->OnTouchEvent(event);
+}
 
 }  // namespace taviinputmanager

@@ -2,18 +2,38 @@
 #ifndef HANDLERS_TRANSACTION_HANDLER_H_
 #define HANDLERS_TRANSACTION_HANDLER_H_
 
+#include <QTimer>
+
 #include "core/event_handler.h"
 
 namespace taviinputmanager {
 
+// The key does not count as held: the release always follows, 8 ms after the press. A second click within that time
+// sends its press and puts the release off; one release then serves both, on the later display. Main thread.
+//
+//   click         8 ms
+//   press ------- release
+//
+//   click    5 ms: click       13 ms
+//   press -- press ----------- release
 class TransactionHandler : public EventHandler {
+  Q_OBJECT
+
  public:
   static TransactionHandler* GetInstance();
 
+  // Goes to `display`, whichever live input goes to.
   void doBackAction(int display);
 
+ public Q_SLOTS:
+  void doBackTimerOutTime();
+
  private:
-  TransactionHandler() = default;
+  TransactionHandler();
+  ~TransactionHandler() override;
+
+  QTimer back_timer_;  // runs while the key is down
+  int pending_display_ = 0;
 };
 
 }  // namespace taviinputmanager

@@ -17,6 +17,8 @@ bool SpellEventSimulator::IsSpellActive() const { return false; }
 
 void SpellEventSimulator::OnJoystickAxis(JoystickAxisEvent* /*event*/) {}
 
+void SpellEventSimulator::OnRelativeInput(int /*dx*/, int /*dy*/) {}
+
 void SpellEventSimulator::ForceStop() {}
 
 }  // namespace taviinputmanager

@@ -6,11 +6,17 @@
 
 class QMouseEvent;
 
+namespace tavikeymapmanager {
+struct SpellCancelConfigItem;
+}
+
 namespace taviinputmanager {
 
 class JoystickAxisEvent;
 
 class SpellEventSimulator : public EventSimulator {
+  Q_OBJECT
+
  public:
   static SpellEventSimulator* GetInstance();
 
@@ -22,8 +28,13 @@ class SpellEventSimulator : public EventSimulator {
   bool IsSpellActive() const;
   // Aims by a gamepad's right stick.
   void OnJoystickAxis(JoystickAxisEvent* event);
+  // Relative counts, which aim a cast in progress.
+  void OnRelativeInput(int dx, int dy);
   // Ends a cast in progress.
   void ForceStop();
+
+ Q_SIGNALS:
+  void sigSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
 
  private:
   SpellEventSimulator() = default;

@@ -9,17 +9,17 @@ namespace taviinputmanager {
 
 void OneOffOffset::Start(bool enabled) {
   offset_ = QPoint();
-  is_pending_ = enabled;
+  swipe_pending_ = enabled;
 }
 
 void OneOffOffset::OnMovement(const RelativeCounts& counts, const QPointF& sensitivity, double threshold,
                               double length) {
-  if (!is_pending_ || counts.IsZero()) return;  // taken already, or no direction to take it in
+  if (!swipe_pending_ || counts.IsZero()) return;  // taken already, or no direction to take it in
   const QPointF way = counts.Scaled(sensitivity);
   const double travel = std::sqrt(way.y() * way.y() + way.x() * way.x());
   if (!(threshold <= travel)) return;  // too short yet to be a real movement
   offset_ = DisplayGeometry::ScaleToLength(counts.ToPoint(), length);
-  is_pending_ = false;
+  swipe_pending_ = false;
 }
 
 }  // namespace taviinputmanager

@@ -24,7 +24,7 @@ class OneOffOffset {
   const QPoint& Get() const { return offset_; }
 
  private:
-  bool is_pending_ = false;
+  bool swipe_pending_ = false;
   QPoint offset_;
 };
 

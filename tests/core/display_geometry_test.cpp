@@ -162,6 +162,10 @@ TEST_F(Geometry, ClampsToARadius) {
   EXPECT_EQ(QPoint(100, 100), DisplayGeometry::ClampToRadius({100, 100}, {0, 0}, {100, 100}, 0));
   // (-3, 4) at radius 2.5: (-1.5, 2), and halves go away from zero.
   EXPECT_EQ(QPoint(-2, 2), DisplayGeometry::ClampToRadius({0, 0}, {-3, 4}, {0, 0}, 2.5));
+  // Sums that no int holds.
+  constexpr int kHighest = 0x7FFFFFFF;
+  EXPECT_EQ(QPoint(150, 100), DisplayGeometry::ClampToRadius({100, 100}, {kHighest, 0}, {100, 100}, 50));
+  EXPECT_EQ(QPoint(kHighest, 0), DisplayGeometry::ClampToRadius({100, 0}, {kHighest, 0}, {-100, 0}, 1e300));
 }
 
 TEST_F(Geometry, ScalesAVectorToALength) {

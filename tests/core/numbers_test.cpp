@@ -35,5 +35,18 @@ TEST(Numbers, WhatNoIntHoldsSaturates) {
   EXPECT_EQ(0, Truncate(std::nan("")));
 }
 
+TEST(Numbers, CountsWrapAndPositionsStop) {
+  constexpr int kHighest = std::numeric_limits<int>::max();
+  constexpr int kLowest = std::numeric_limits<int>::min();
+  EXPECT_EQ(kLowest, AddWrapped(kHighest, 1));
+  EXPECT_EQ(kHighest, AddWrapped(kLowest, -1));
+  EXPECT_EQ(-3, AddWrapped(2, -5));
+  EXPECT_EQ(4, MultiplyWrapped(42949673, 100));  // 4 more than 2^32
+  EXPECT_EQ(-6, MultiplyWrapped(2, -3));
+  EXPECT_EQ(kHighest, AddSaturated(kHighest, 1));
+  EXPECT_EQ(kLowest, AddSaturated(kLowest, -1));
+  EXPECT_EQ(-1, AddSaturated(kHighest, kLowest));
+}
+
 }  // namespace
 }  // namespace taviinputmanager

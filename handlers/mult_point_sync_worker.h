@@ -1,0 +1,43 @@
+// From the host's touch points to the guest's.
+#ifndef HANDLERS_MULT_POINT_SYNC_WORKER_H_
+#define HANDLERS_MULT_POINT_SYNC_WORKER_H_
+
+#include <QMap>
+#include <QSet>
+#include <QTouchEvent>
+
+#include "core/event_handler.h"
+
+namespace taviinputmanager {
+
+// Each touch point gets a slot of MultPointSlotManager for as long as it lasts, and a line of its own at each event. A
+// point that finds no free slot is left out, and is offered one again at its next event.
+//
+// No reset reaches the points known here: the next gesture forgets them. Slots of a gesture whose end never came stay
+// taken. Main thread.
+class MultPointSyncWorker : public EventHandler {
+ public:
+  static MultPointSyncWorker* GetInstance();
+
+  // A begin forgets the points known and presses the event's; an update releases those that the event does not have any
+  // more and presses or moves the rest; anything else ends the gesture and releases all.
+  void OnTouchEvent(QTouchEvent* event);
+
+ private:
+  using TouchPoint = QTouchEvent::TouchPoint;
+
+  MultPointSyncWorker() = default;
+
+  void Begin(const QList<TouchPoint>& points);
+  void Update(const QList<TouchPoint>& points);
+  // Releases every known point that is not in `kept`, in ascending order of their ids.
+  void ReleaseExcept(const QSet<int>& kept);
+  // `slot` may be none.
+  void Press(const TouchPoint& point, int slot);
+
+  QMap<int, int> touches_;  // from touch point id to slot
+};
+
+}  // namespace taviinputmanager
+
+#endif  // HANDLERS_MULT_POINT_SYNC_WORKER_H_
