@@ -307,7 +307,7 @@ TEST_F(SimulateHandler, AMappedEscapeIsTaken) {
   Add<ConfigItem>("Click", "Esc", {0.5, 0.5});
   Load();
   UpdateDisplayId(1);
-  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 1");
+  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 1", "0ms gravity 0 0 0");
 }
 
 TEST_F(SimulateHandler, AnEscapeThatPassesIsTaken) {
@@ -315,11 +315,11 @@ TEST_F(SimulateHandler, AnEscapeThatPassesIsTaken) {
   Settings().keyboard_transparent = true;
   Load();
   UpdateDisplayId(1);
-  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 1");
+  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 1", "0ms gravity 0 0 0");
   Settings().escape_to_guest = true;
   Load();
   UpdateDisplayId(1);
-  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 0");
+  EXPECT_CALLS("0ms status 0", "0ms escape_occupied 0", "0ms gravity 0 0 0");
 }
 
 TEST_F(SimulateHandler, AnEscapeUsedUpArmsNothing) {

@@ -62,7 +62,8 @@ TEST_F(KeymapLoad, TellsTheHostInOrderAndResetsTheOldDisplay) {
   Wheel().virtual_joystick = true;
   test::SetNextKeymap(nullptr);
   OnLoadKeymapConfigAndInfo("b.yaml", "p", "", 5);
-  EXPECT_CALLS("0ms virtual_joystick 0", "0ms escape_occupied 0", "0ms status 0 F", "0ms escape_occupied 0");
+  EXPECT_CALLS("0ms virtual_joystick 0", "0ms escape_occupied 0", "0ms status 0 F", "0ms escape_occupied 0",
+               "0ms gravity 0 0 0");
   EXPECT_EQ("0ms 4:SLOTRELEASEALL", TakeWire().last().toStdString());
   EXPECT_EQ(5, InputStatusManager::GetInstance()->GetDisplayId());
 }
@@ -132,7 +133,7 @@ TEST_F(KeymapLoad, WithoutTheirCallbackVirtualSticksAreNotTold) {
   Host().table.OnVirtualJoystickChanged = nullptr;
   Load();
   OnLoadKeymapConfigAndInfo("b.yaml", "p", "", 5);
-  EXPECT_CALLS("0ms escape_occupied 0", "0ms status 0", "0ms escape_occupied 0");
+  EXPECT_CALLS("0ms escape_occupied 0", "0ms status 0", "0ms escape_occupied 0", "0ms gravity 0 0 0");
 }
 
 TEST_F(KeymapLoad, EndsTheHoldOfInput) {
