@@ -24,8 +24,6 @@ bool exit_is_watched = false;
 WorkerThread::WorkerThread(QObject* worker) : is_virtual_(Clock::IsVirtual()), worker_(worker) {
   new WorkerGate(worker, &state_);
   if (!is_virtual_) worker->moveToThread(this);
-  // Posted once more, so that what was posted to this object up to now comes before its end.
-  connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::QueuedConnection);
   LiveRuns()->append(this);
   if (exit_is_watched) return;
   qAddPostRoutine(&WorkerThread::QuitLiveRuns);
@@ -47,6 +45,9 @@ QTimer* WorkerThread::MakeWorkerTimer(QObject* owner) {
 
 void WorkerThread::quit() {
   if (state_.exchange(WorkerRunState::kClosed) == WorkerRunState::kClosed) return;  // has ended already
+  // Connected last, so that everyone else hears of `finished` first. Posted once more, so that what was posted to this
+  // object up to then comes before its end.
+  connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::QueuedConnection);
   if (begun_ && !is_virtual_) {
     QThread::quit();  // run() does the rest
   } else {
