@@ -73,7 +73,7 @@ TEST_F(Touch, TwoPointsAtOnePlaceShareASlot) {
 }
 
 TEST_F(Touch, AGestureWithoutEndKeepsItsSlotsAndIsForgotten) {
-  Play("touch begin 1:100,200; touch begin 1:300,400");
+  Play("touch begin 1:100,200; touch begin 2:300,400");
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:100:200", "0ms 1:SLOTMULTIPRESS:19:19:300:400");
   Play("touch end");
   EXPECT_WIRE("0ms 1:SLOTMULTIRELEASE:19");

@@ -150,6 +150,29 @@ TEST_F(View, ViewControlMayEndWhileObserving) {
   EXPECT_WIRE(ViewUp(40));
 }
 
+TEST_F(View, LeavingViewControlForgetsTheObservingThatWentBefore) {
+  AddStaring();
+  Add<ComposableConfigItem>("Staring", "G");  // turns view control on without an item for counts
+  AddObserve();
+  Load();
+  Play("down E; down F; down F; down G");
+  EXPECT_EQ(InputStatus::Staring, GetInputStatus());
+  Forget();
+  Play("rel 1,1");
+  EXPECT_WIRE_NONE();
+}
+
+TEST_F(View, LeavingViewControlForgetsItsItem) {
+  AddStaring();
+  Add<ComposableConfigItem>("Observe", "E");  // moves the status and takes no counts
+  Load();
+  Play("down F; rel 1,1; down F; down E");
+  EXPECT_EQ(InputStatus::Observing, GetInputStatus());
+  Forget();
+  Play("rel 1,1");
+  EXPECT_WIRE_NONE();
+}
+
 TEST_F(View, FiringLeavesTheStatus) {
   AddStaring();
   AddFire();
