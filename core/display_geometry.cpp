@@ -56,6 +56,8 @@ double DisplayGeometry::GetWindowScale() const {
   return static_cast<double>(window.width) / GetOrientedDisplaySize().width();
 }
 
+bool DisplayGeometry::IsScale(double scale) { return std::isfinite(scale) && scale != 0; }
+
 QPointF DisplayGeometry::RelativeToDisplay(const QPointF& point) const {
   const QRect display = GetDisplayRect();
   return {point.x() * display.width(), point.y() * display.height()};

@@ -34,6 +34,8 @@ class DisplayGeometry {
   QSize GetOrientedDisplaySize() const;
   // Window pixels to one display pixel.
   double GetWindowScale() const;
+  // Whether that can be divided by: neither window nor display has a size of 0.
+  static bool IsScale(double scale);
 
   QPointF RelativeToDisplay(const QPointF& point) const;
   QPointF DisplayToRelative(const QPointF& point) const;

@@ -31,6 +31,7 @@ void InputEventSender::SendText(const QString& command) {
   line.Narrow(command);
   const int length = line.size();
   line.data()[length - 1] = '\0';  // in place of the newline, and counted
+  line.Byte('\0');
   GetHostFunctions().send_text(line.data(), length);
 
   InputSyncManager::GetInstance()->SyncText(command);

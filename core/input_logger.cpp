@@ -39,8 +39,7 @@ InputLogger::InputLogger() {
   file->setProperty("rotation", "64 K");
   file->setProperty("archive", "timestamp");
   file->setProperty("purgeCount", "2");
-  Poco::AutoPtr<Poco::PatternFormatter> formatter(
-      new Poco::PatternFormatter("%L%Y-%m-%d %H:%M:%S:%i [Thread-%I]: %t"));
+  Poco::AutoPtr<Poco::PatternFormatter> formatter(new Poco::PatternFormatter("%L%Y-%m-%d %H:%M:%S:%i [Thread-%I]: %t"));
   Poco::AutoPtr<Poco::FormattingChannel> channel(new Poco::FormattingChannel(formatter, file));
   Logger().setChannel(channel);
   Logger().setLevel(Poco::Message::PRIO_ERROR);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QMutexLocker>
+#include <QVarLengthArray>
 
 #include "core/guest_command.h"
 #include "core/input_event_sender.h"
@@ -96,7 +97,8 @@ bool InputStatusManager::IsDisplayForceTransparent(int display) const {
 void InputStatusManager::ReleaseHeldKeys() { ReleaseHeldKeysOn(display_id_); }
 
 void InputStatusManager::ReleaseHeldKeysOn(int display) {
-  const CodeSet codes = std::exchange(held_keys_, {});  // sending may reach code that adds a key
+  const QVarLengthArray<int, 16> codes(held_keys_.begin(), held_keys_.end());
+  held_keys_.Clear();  // first: sending may reach code that adds a key
   for (const int code : codes) InputEventSender::GetInstance()->SendEvent(guest_command::KeyRelease(code), display);
 }
 

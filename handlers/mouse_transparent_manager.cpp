@@ -22,6 +22,7 @@ MouseTransparentManager::~MouseTransparentManager() = default;
 
 void MouseTransparentManager::SetPosition(int window_x, int window_y) {
   const double scale = DisplayGeometry::GetInstance()->GetWindowScale();
+  if (!DisplayGeometry::IsScale(scale)) return;  // a window or display of no size: the pointer stays
   x_ = window_x / scale;
   y_ = window_y / scale;
 }

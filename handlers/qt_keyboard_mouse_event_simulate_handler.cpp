@@ -90,7 +90,7 @@ void QtKeyboardMouseEventSimulateHandler::ResetKeyState() {
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindConfigItem(const ConfigKey& key) const {
   if (!config_) return nullptr;
   for (ConfigItem* item : qAsConst(config_->items)) {
-    if (!item || IsTip(item) || !item->IsKeyMatch(key) || !IsSingleKeyItem(item)) continue;
+    if (!item || !item->IsKeyMatch(key) || IsTip(item) || !IsSingleKeyItem(item)) continue;
     if (callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(true);
     return item;
   }
@@ -119,8 +119,11 @@ ConfigItem* QtKeyboardMouseEventSimulateHandler::FindPressedItem(const ConfigKey
 }
 
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindReleasedItem(const ConfigKey& key) {
-  ConfigItem* chord = chord_items_.take(key.scancode);
-  return chord ? chord : FindConfigItem(key);
+  const auto chord = chord_items_.constFind(key.scancode);
+  if (chord == chord_items_.constEnd()) return FindConfigItem(key);
+  ConfigItem* item = chord.value();
+  chord_items_.remove(key.scancode);
+  return item;
 }
 
 bool QtKeyboardMouseEventSimulateHandler::OnKeyPress(QKeyEvent* event) {

@@ -1,5 +1,7 @@
 #include "handlers/qt_wheel_event_transparent_handler.h"
 
+#include <optional>
+
 #include <QWheelEvent>
 
 #include "core/display_geometry.h"
@@ -12,13 +14,15 @@ namespace {
 
 constexpr int kUnitsPerNotch = 100;
 
-// Display pixels of the event, or of the guest's own pointer where that may have been left elsewhere.
-QPoint WheelPoint(const QWheelEvent* event, bool transparent_pointer) {
+// Display pixels of the event, or of the guest's own pointer where that may have been left elsewhere. Nothing on a
+// window or display of no size.
+std::optional<QPoint> WheelPoint(const QWheelEvent* event, bool transparent_pointer) {
   const MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
   if (transparent_pointer && pointer->HasPosition()) return pointer->GetPosition();
   const double scale = DisplayGeometry::GetInstance()->GetWindowScale();
+  if (!DisplayGeometry::IsScale(scale)) return std::nullopt;
   const QPoint window = event->position().toPoint();
-  return {Round(window.x() / scale), Round(window.y() / scale)};
+  return QPoint(Round(window.x() / scale), Round(window.y() / scale));
 }
 
 }  // namespace
@@ -31,13 +35,14 @@ QtWheelEventTransparentHandler* QtWheelEventTransparentHandler::GetInstance() {
 void QtWheelEventTransparentHandler::OnWheel(QWheelEvent* event, bool transparent_pointer, double delta,
                                              int use_delta) {
   const int direction = WheelDelta(event) > 0 ? 1 : -1;
-  const QPoint point = WheelPoint(event, transparent_pointer);
+  const std::optional<QPoint> point = WheelPoint(event, transparent_pointer);
+  if (!point) return;
   const DisplayGeometry* geometry = DisplayGeometry::GetInstance();
   const QSize display = geometry->GetOrientedDisplaySize();
   int x = kNoPosition;
   int y = kNoPosition;
-  geometry->RelativeToTouch(x, y, static_cast<double>(point.x()) / display.width(),
-                            static_cast<double>(point.y()) / display.height());
+  geometry->RelativeToTouch(x, y, static_cast<double>(point->x()) / display.width(),
+                            static_cast<double>(point->y()) / display.height());
   if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
   SendEvent(use_delta == 1 ? guest_command::WheelWithDelta(x, y, direction * delta * kUnitsPerNotch)
                            : guest_command::Wheel(x, y, direction * kUnitsPerNotch, 0));

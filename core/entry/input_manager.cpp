@@ -1,6 +1,9 @@
 // Start, keymaps, and input made inside the library. The ways of events are in the file of routes.
 #include "core/input_manager.h"
 
+#include <algorithm>
+#include <string>
+
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -42,9 +45,11 @@ constexpr int kMacroWheelUpCode = 224;  // the wheel as macros name it
 constexpr int kMacroWheelDownCode = 225;
 constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
 
-void LogDebug(const char* text, const QString& detail) {
+void LogLoad(const QString& path, bool is_system, const QString& package, int display) {
   InputLogger* log = InputLogger::GetInstance();
-  if (log->IsDebugOn()) log->Debug(text + detail.toStdString());
+  if (!log->IsDebugOn()) return;
+  if (is_system) log->Debug("use system config for: " + package.toStdString());
+  log->Debug("on load keymap config and info: " + path.toStdString() + std::to_string(display));
 }
 
 }  // namespace
@@ -60,6 +65,7 @@ InputManager::~InputManager() = default;
 
 void InputManager::Initialize(InputManagerCallbacks* callbacks) {
   callbacks_ = callbacks;
+  last_mouse_move_ms_ = std::min(last_mouse_move_ms_, Clock::NowMs());  // virtual time may lie before the real one
   DisplayGeometry::GetInstance()->SetCallbacks(callbacks);
   InputStatusManager::GetInstance()->SetCallbacks(callbacks);
   JoystickEventTransparentHandler::GetInstance()->SetCallbacks(callbacks);
@@ -77,12 +83,9 @@ bool InputManager::IsOwnPackage(const QString& package) {
 
 void InputManager::OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra,
                                              int display) {
-  QString source = path;
-  if (source.isEmpty() && IsOwnPackage(package)) {
-    source = keywords::kSystemKeymap;
-    LogDebug("use system config for: ", package);
-  }
-  LogDebug("on load keymap config and info: ", path + QString::number(display));
+  const bool is_system = path.isEmpty() && IsOwnPackage(package);
+  const QString source = is_system ? keywords::kSystemKeymap : path;
+  LogLoad(path, is_system, package, display);
 
   QtKeyboardMouseEventSimulateHandler::GetInstance()->ForgetConfig();
   QtWheelEventSimulateHandler::GetInstance()->ForgetConfig();
@@ -146,7 +149,7 @@ void InputManager::DispatchVirtualMouse(qint64 id, int code, bool press, const Q
     return DispatchWheelAt(point, code == kWheelUpCode ? kNotch : -kNotch);
   }
   const QEvent::Type type = press ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease;
-  const auto button = static_cast<Qt::MouseButton>(code);
+  const auto button = static_cast<Qt::MouseButton>(static_cast<quint32>(code));  // a macro may name any number
   const Qt::MouseButtons held = press ? Qt::MouseButtons(button) : Qt::NoButton;
   if (id != 0) {
     VirtualMouseEvent event(type, point, button, held, id);

@@ -57,6 +57,7 @@ void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
 // Fires what is due by `limit_ms`, and tells whether that was anything.
 bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
   const quint64 pass_order = next_order_;
+  const qint64 pass_ms = NowMs();  // a handler that sleeps does not make its pass later
   bool any = false;
   bool only_idle = true;
   for (;;) {
@@ -65,7 +66,7 @@ bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
     if (!timer) break;
     any = true;
     only_idle = only_idle && timer->interval_ms == 0;
-    Fire(timer);
+    Fire(timer, pass_ms);
   }
   if (any && only_idle) now_ms_ = NowMs() + 1;
   return any;
@@ -85,9 +86,9 @@ VirtualEventDispatcher::Timer* VirtualEventDispatcher::Earliest(qint64 limit_ms,
   return first;
 }
 
-void VirtualEventDispatcher::Fire(Timer* timer) {
+void VirtualEventDispatcher::Fire(Timer* timer, qint64 pass_ms) {
   timer->due_ms += timer->interval_ms;
-  if (timer->due_ms < NowMs()) timer->due_ms = NowMs() + timer->interval_ms;
+  if (timer->due_ms < pass_ms) timer->due_ms = pass_ms + timer->interval_ms;
   timer->order = next_order_++;
   if (timer->in_handler) return;
   timer->in_handler = true;

@@ -30,9 +30,8 @@ namespace tavi {
 // - Timers fire by due time, equal ones by the time of their last start or timeout. On a timeout, before it is told,
 //   the due time moves on by the interval, and if it is past even then, to one interval from now. A timer does not fire
 //   inside its own handler.
-// - A pass is all that is due at one moment. A timer of 0 ms fires once a pass, also when it is started in the middle
-// of
-//   one (then in the next), and a pass that fired nothing else takes 1 ms.
+// - A pass is all that is due at one moment. A timer of 0 ms fires once a pass (one started in a pass, in the next),
+//   and a pass that fired nothing else takes 1 ms.
 //
 // Sockets are not served.
 //
@@ -97,7 +96,7 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
   bool RunPass(qint64 limit_ms, Scope scope);
   bool RunNextPass();
   Timer* Earliest(qint64 limit_ms, Scope scope, quint64 idle_before);
-  void Fire(Timer* timer);
+  void Fire(Timer* timer, qint64 pass_ms);
   void WaitForOtherThreads();
 
   std::atomic<qint64> now_ms_;

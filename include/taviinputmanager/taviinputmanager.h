@@ -17,9 +17,8 @@
 //
 // Hazards:
 // - Several gestures block the calling thread on purpose for a few milliseconds (a swipe of a cast, a wheel notch).
-// - GetScriptAppAndPackage does not return for a file whose first action has no `data`. A macro loop without a pause
-// may
-//   never return.
+// - GetScriptAppAndPackage does not return for a file whose first action has no `data`.
+// - A macro loop without a pause may never return.
 // - At the natural end of a replay the reset of its contacts runs on the replay's thread: those lines, the status
 //   callback and `finished` arrive there, and may come before the lines of the last action.
 // - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
@@ -54,7 +53,7 @@ TAVI_EXPORT void OnQtInputEvent(QEvent* event);
 // A gamepad event (joystick_event.h). Other types are dropped, and all before Initialize. Not kept after the call.
 TAVI_EXPORT void OnJoystickEvent(QEvent* event);
 
-// Relative mouse counts, taken from the window system while the pointer is captured.
+// Relative mouse counts, taken from the window system while the pointer is captured. Nothing before Initialize.
 TAVI_EXPORT void OnWindowsWmRelativeInputEvent(int dx, int dy);
 
 // A ready guest line, newline included, for `display`; sent, mirrored and recorded unchanged.
@@ -81,7 +80,8 @@ TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& p
 // Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored.
 TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 
-// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps.
+// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps. Nothing before
+// Initialize.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
 TAVI_EXPORT InputStatus GetInputStatus();
@@ -89,11 +89,12 @@ TAVI_EXPORT InputStatus GetInputStatus();
 // Resets all input on the current display; from then on input goes to `display`.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
-// While on, keys of `display` pass through whatever the keymap says, and so do wheel and mouse but for the left button.
-// A host resets input when it changes this.
+// While on, keys and wheel of `display` pass through whatever the keymap says, and so do moves and mouse buttons that
+// the keymap does not map, but for the left one. A host resets input when it changes this.
 TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 
 // Puts the guest's pointer at a position of the guest view in window pixels, in keymaps whose mouse is transparent.
+// Nothing before Initialize.
 TAVI_EXPORT void UpdateMousePosition(int x, int y);
 
 // Scales a position of the guest view to the guest's display, both in place, without turning it.

@@ -92,6 +92,7 @@ QPoint FireSyncWorker::FirePressPoint(const FireConfigItem& item) {
 
 void FireSyncWorker::SwipeFireFinger(const FireConfigItem& item, QPoint from, QPoint to) {
   const int steps = item.cancel_swipe_steps;
+  if (steps < 1) return;
   const double step_x = (static_cast<double>(to.x()) - from.x()) / steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
   for (int i = 1; i <= steps; ++i) {

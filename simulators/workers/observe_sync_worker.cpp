@@ -22,6 +22,7 @@ ObserveSyncWorker* ObserveSyncWorker::GetInstance() {
 }
 
 ObserveSyncWorker::ObserveSyncWorker() {
+  observe_timer_.setTimerType(Qt::PreciseTimer);
   connect(&observe_timer_, &QTimer::timeout, this, &ObserveSyncWorker::ObserveTimerOutTime);
 }
 

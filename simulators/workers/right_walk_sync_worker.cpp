@@ -86,7 +86,8 @@ void RightWalkSyncWorker::Release(const MouseRightWalkConfigItem* item, QMouseEv
   const bool is_short_click = finger_->ElapsedSinceLastMove() < kShortClickMs && finger_->HasTouch();
   if (!item || !is_short_click) return StopWalk();
   const double distance = DistanceOf(*item, event);
-  if (!(distance > 1.0)) return StopWalk();  // the click was on the character; so too where no distance can be told
+  if (!std::isfinite(distance)) return StopWalk();  // a stick or display of no size: no time follows from it
+  if (distance <= 1.0) return StopWalk();           // the click was on the character
   continue_timer_.start(std::max(0, Truncate(distance * kWalkMsPerRadius * item->continue_factor)));
 }
 

@@ -14,8 +14,8 @@ using tavikeymapmanager::SwipeholdConfigItem;
 
 namespace {
 
-// `span` over the N - 1 gaps between N steps. One step has no gap, and is only ever at the beginning of the span.
-double PerStep(double span, int steps) { return steps == 1 ? 0.0 : span / (steps - 1.0); }
+// `span` over the N - 1 gaps between N steps, N other than 1.
+double PerStep(double span, int steps) { return span / (steps - 1.0); }
 
 // What single precision cannot hold is infinite.
 float ToSingle(double v) {
@@ -35,6 +35,7 @@ void SwipeWave::Start(const QPoint& wave_point) {
 void SwipeWave::Rewind() { wave_step_ = wave_round_ = 0; }
 
 std::optional<QPointF> SwipeWave::Tick(const SwipeholdConfigItem& item, const QPoint& center, int radius) {
+  if (item.compensate_steps == 1) return std::nullopt;  // one step has no gap to be spread over
   QPointF position;
   if (item.curve_x == keywords::kCurveDefault || item.curve_y == keywords::kCurveDefault) {
     const std::optional<double> part = TickRadially(item);

@@ -15,10 +15,9 @@ namespace taviinputmanager {
 
 // Computes positions and keeps no time. One round takes, with N = compensate_steps:
 //
-// - 2N - 1 ticks towards the stick's centre and back, unless both curves are named. The finger goes in from
-// `wave_point`
-//   by compensate_amplitude of its distance in equal steps; the turning point is used once, and so is each end;
-// - N ticks along the two curves, turned to the direction of the stick, with their zero at `wave_point`.
+// - 2N - 1 ticks towards the stick's centre and back, unless both curves are named: from wave_point inwards, by
+//   compensate_amplitude of its distance, in equal steps; the turning point is used once, and so is each end;
+// - N ticks along the two curves, turned to the direction of the stick, with their zero at wave_point.
 class SwipeWave {
  public:
   // From the first tick of the first round. `wave_point`, in pixels, is where the finger rests.

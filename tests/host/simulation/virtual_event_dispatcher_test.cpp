@@ -277,14 +277,15 @@ TEST_F(Timers, MissedTimeoutsAreNotMadeUpFor) {
 }
 
 TEST_F(Timers, HeldUpOnesFireInOrderOfDueTime) {
-  // At 8 ms the sleeper, in line since 0 ms, comes before the 4 ms timer, in line since 4 ms. At 28 ms that one is due
-  // since 8 ms, the 11 ms timer since 11 ms; their next due times, 12 and 22, are past and become 32 and 39.
+  // At 8 ms the sleeper, in line since 0 ms, comes before the 4 ms timer, in line since 4 ms. That one is of the same
+  // pass and fires at 28 ms, next due at 12. The pass of 28 ms fires the 11 ms timer, due since 11, and the 4 ms timer
+  // again; their next due times, 22 and 16, are past and become 39 and 32.
   const auto fast = Start("fast", 4);
   const auto sleeper = Start("sleeper", 8, [this] { time_->Sleep(20); });
   sleeper->setSingleShot(true);
   const auto middle = Start("middle", 11);
   time_->Advance(34);
-  EXPECT_EQ(TakeLog(), "4ms fast, 8ms sleeper, 28ms fast, 28ms middle, 32ms fast");
+  EXPECT_EQ(TakeLog(), "4ms fast, 8ms sleeper, 28ms fast, 28ms middle, 28ms fast, 32ms fast");
 }
 
 TEST_F(Timers, AStepThatASleepOverrunsLeavesTheRestToTheNext) {
