@@ -2,18 +2,26 @@
 #ifndef SIMULATORS_SPELL_EVENT_SIMULATOR_H_
 #define SIMULATORS_SPELL_EVENT_SIMULATOR_H_
 
+#include <QPointF>
+#include <QSet>
+
 #include "simulators/event_simulator.h"
 
 class QMouseEvent;
+class QTimer;
 
 namespace tavikeymapmanager {
 struct SpellCancelConfigItem;
-}
+struct SpellConfigItem;
+}  // namespace tavikeymapmanager
 
 namespace taviinputmanager {
 
 class JoystickAxisEvent;
+class SpellSyncWorker;
 
+// Serves the items "Spell" and "SpellCancel": picks the worker of an item's trigger and ties it to the pointer, the
+// relative counts, the stick and the walk.
 class SpellEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -22,22 +30,46 @@ class SpellEventSimulator : public EventSimulator {
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+
+  // While a cast is in progress, relative counts and the right stick come here and nowhere else.
+  bool IsSpellActive() const;
+  void OnRelativeInput(int dx, int dy);
+  void OnJoystickAxis(JoystickAxisEvent* event);
   // Whether a mouse event ends a cast that waits for it, and is used up by that.
   bool OnMouseEvent(QMouseEvent* event);
-  // Whether a cast is being aimed.
-  bool IsSpellActive() const;
-  // Aims by a gamepad's right stick.
-  void OnJoystickAxis(JoystickAxisEvent* event);
-  // Relative counts, which aim a cast in progress.
-  void OnRelativeInput(int dx, int dy);
   // Ends a cast in progress.
   void ForceStop();
 
  Q_SIGNALS:
+  // A key of type "SpellCancel" went down, which whoever fires may listen to as well.
   void sigSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
 
+ public Q_SLOTS:
+  // The walk's direction has changed to `point`, a unit vector or (0, 0).
+  void OnSwipeholdTargetPointChanged(QPointF& point);
+
  private:
-  SpellEventSimulator() = default;
+  SpellEventSimulator();
+
+  void PressSpell(tavikeymapmanager::SpellConfigItem* item, bool from_joystick);
+  void PressCancel(tavikeymapmanager::SpellCancelConfigItem* item);
+  void FinishOtherKey(const tavikeymapmanager::SpellConfigItem& next);
+  // Whether the item of the present worker aims with the pointer, outside view control.
+  bool FollowsPointer() const;
+  void TimerOutTime();
+  void DropWorker();
+
+  void ConnectWorkersOnce();
+  void ConnectWorker(SpellSyncWorker* worker);
+  void SubscribeSwipehold();
+  void UnsubscribeSwipehold();
+  void EntrustToInnerSwipehold(SpellSyncWorker* worker, tavikeymapmanager::SpellConfigItem& item);
+  void CancelEntrustToInnerSwipehold(SpellSyncWorker* worker, bool not_sync_data);
+
+  SpellSyncWorker* current_worker_ = nullptr;  // of the cast in progress or just ended; one of the four singletons
+  QTimer* follow_timer_;
+  bool is_connected_ = false;
+  QSet<SpellSyncWorker*> inner_walkers_;  // whose cast in force has an inner walk
 };
 
 }  // namespace taviinputmanager

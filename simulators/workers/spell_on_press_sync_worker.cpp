@@ -1,0 +1,58 @@
+#include "simulators/workers/spell_on_press_sync_worker.h"
+
+#include "keymap/spell_config_item.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::SpellConfigItem;
+namespace keywords = tavikeymapmanager::keywords;
+
+SpellOnPressSyncWorker* SpellOnPressSyncWorker::GetInstance() {
+  static SpellOnPressSyncWorker instance;
+  return &instance;
+}
+
+void SpellOnPressSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
+  if (!IsActive()) StoreItem(*item);
+  SetFromJoystick(from_joystick);
+  const QPoint button = PressPoint(*item);
+  const QPoint target = CalculateTargetPoint(*item);
+  if (item->touch_location == keywords::kLocationMouse) {
+    SwipeToTarget(*item, button, target);
+    LiftFinger();
+    AfterCast(*item);
+    DropItem();
+  } else if (item->touch_location == keywords::kLocationInnerSwipehold) {
+    MoveFinger(target);
+    LiftFinger();
+    DropItem();
+  } else if (item->touch_location == keywords::kLocationSwipehold) {
+    MoveFinger(button);
+    ChangeSpellState(kSpellAiming, item);
+  }
+}
+
+void SpellOnPressSyncWorker::Release(SpellConfigItem* /*item*/, bool /*from_joystick*/) {}
+
+bool SpellOnPressSyncWorker::OnMouseEvent(QMouseEvent* /*event*/) { return false; }
+
+bool SpellOnPressSyncWorker::NeedsFinish() const { return false; }
+
+void SpellOnPressSyncWorker::Finish() {}
+
+void SpellOnPressSyncWorker::Follow() {}
+
+void SpellOnPressSyncWorker::OnJoystickAxis(JoystickAxisEvent* /*event*/) {}
+
+void SpellOnPressSyncWorker::OnRelativeInput(int /*dx*/, int /*dy*/) {}
+
+void SpellOnPressSyncWorker::OnSwipeholdTargetPoint(QPointF point) {
+  if (!IsActive() || IsFromJoystick() || GetSpellState() != kSpellAiming) return;
+  const QPoint target = WalkPoint(point);
+  ChangeSpellState(kSpellCast);
+  MoveFinger(target);
+  LiftFinger();
+  DropItem();
+}
+
+}  // namespace taviinputmanager
