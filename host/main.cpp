@@ -1,1 +1,4 @@
-int main() { return 0; }
+// The program tavi.
+#include "host/subcommands.h"
+
+int main(int argc, char** argv) { return tavi::RunProgram(argc, argv); }

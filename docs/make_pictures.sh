@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# Makes the pictures of the window in docs/pictures anew: starts it on a display of its own and uses it as people would.
+#
+#   docs/make_pictures.sh [TAVI]    TAVI is the program, build/release/host/tavi unless given
+#
+# Needs Xvfb, xvfb-run and xdotool (Debian: xvfb, xauth, xdotool), and fonts-dejavu-core for the letters.
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+tavi=$(realpath "${1:-$root/build/release/host/tavi}")
+pictures=$root/docs/pictures
+keymaps=$root/examples/keymaps
+
+if [ -z "${MAKE_PICTURES_DISPLAY:-}" ]; then
+  export MAKE_PICTURES_DISPLAY=own
+  exec xvfb-run -a -s "-screen 0 1440x900x24" "$0" "$tavi"
+fi
+
+# Places are fractions of the window: the guest view keeps its place in it, whatever fonts there are.
+move_to() { xdotool mousemove --window "$window" "$(awk "BEGIN { print int(1360 * $1) }")" "$(awk "BEGIN { print int(760 * $2) }")"; }
+
+# drag STEPS DX DY: moves the pointer on, as a hand does
+drag() {
+  local step
+  for ((step = 0; step < $1; ++step)); do
+    xdotool mousemove_relative -- "$2" "$3"
+    sleep 0.02
+  done
+}
+
+# picture NAME AFTER_MS KEYMAP USE: starts the window, calls the function USE once it has the keys, and waits for the
+# picture, which the window takes of itself.
+picture() {
+  (cd "$keymaps" && exec "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2") &
+  local program=$!
+  window=$(xdotool search --sync --onlyvisible --pid "$program" --name tavi | head -n 1)
+  xdotool windowfocus --sync "$window"
+  sleep 0.5
+  "$4"
+  wait "$program"
+  echo "$pictures/$1.png"
+}
+
+# Switches view control on, walks, reloads, and fires while it turns.
+play_shooter() {
+  move_to 0.30 0.40
+  xdotool key grave
+  sleep 0.3
+  xdotool keydown w keydown d keydown r
+  drag 8 6 -3
+  xdotool mousedown 1
+  drag 60 -4 -1
+}
+
+# Walks towards the pointer and aims the first skill.
+play_battle() {
+  move_to 0.42 0.36
+  xdotool mousedown 3
+  sleep 0.5
+  xdotool keydown q
+  drag 60 4 2
+}
+
+# A field that is spelt wrong, and a key that does not exist.
+show_findings() { sleep 0.1; }
+
+mkdir -p "$pictures"
+picture shooter 3500 shooter.yaml play_shooter
+picture hero_battle 3500 hero_battle.yaml play_battle
+
+broken=$(mktemp -d)
+trap 'rm -rf "$broken"' EXIT
+cat > "$broken/broken.yaml" <<'KEYMAP'
+format: 1
+name: Broken
+items:
+  - {type: Click, label: Jump, key: Spcae, point: [0.94, 0.74]}
+  - {type: Swipehold, label: Walk, point: [0.18, 0.72], radus: 0.09, key_up: W}
+KEYMAP
+keymaps=$broken
+picture findings 1500 broken.yaml show_findings

@@ -1,0 +1,47 @@
+#include "host/check_command.h"
+
+#include "host/command_line.h"
+#include "host/keymap_report.h"
+#include "keymapmanager/keymap_file.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: tavi check FILE...\n"
+    "\n"
+    "Reads keymap files and prints everything that is wrong with them, one finding a\n"
+    "line, as compilers do: \"file:line:column: error: message\". A warning tells of a\n"
+    "part that is not what its author meant; the file can be used. A file with\n"
+    "nothing to say about gets the line \"file: 12 items\".\n"
+    "\n"
+    "Exit status: 0 when no file has an error, 1 when one has, 2 for a wrong command\n"
+    "line.\n"
+    "\n"
+    "Example: tavi check examples/keymaps/shooter.yaml\n";
+
+bool CheckFile(const QString& file) {
+  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(file);
+  Print(FormatDiagnostics(result));
+  if (result.diagnostics.isEmpty()) Print(QStringLiteral("%1: %2\n").arg(file, ItemCountText(result)));
+  return !result.HasErrors();
+}
+
+int Run(const Invocation& invocation) {
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, {});
+  if (!arguments.error.isEmpty()) return FailUsage(QStringLiteral("check"), arguments.error);
+  if (arguments.positional.isEmpty()) return FailUsage(QStringLiteral("check"), QStringLiteral("a file is missing"));
+  if (arguments.positional.contains(QString())) {
+    return FailUsage(QStringLiteral("check"), QStringLiteral("the name of a file is empty"));
+  }
+  bool all_good = true;
+  for (const QString& file : arguments.positional) all_good = CheckFile(file) && all_good;
+  return all_good ? kExitDone : kExitProblem;
+}
+
+}  // namespace
+
+Subcommand CheckCommand() { return {"check", "prints what is wrong with keymap files", kHelp, Run}; }
+
+}  // namespace tavi

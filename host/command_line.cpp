@@ -1,0 +1,93 @@
+#include "host/command_line.h"
+
+#include <cstdio>
+
+namespace tavi {
+
+namespace {
+
+constexpr int kLongestSide = 16384;
+
+const OptionRule* FindRule(const QVector<OptionRule>& rules, const QString& name) {
+  for (const OptionRule& rule : rules) {
+    if (rule.name == name) return &rule;
+  }
+  return nullptr;
+}
+
+// Takes the words of one command line from the left.
+class ArgumentReader {
+ public:
+  ArgumentReader(const QStringList& words, const QVector<OptionRule>& rules) : words_(words), rules_(rules) {}
+
+  ParsedArguments Read() {
+    while (!words_.isEmpty() && result_.error.isEmpty()) ReadWord(words_.takeFirst());
+    return result_;
+  }
+
+ private:
+  void ReadWord(const QString& word) {
+    if (word == QLatin1String("--")) {
+      result_.positional += words_;
+      words_.clear();
+      return;
+    }
+    if (word.startsWith(QLatin1Char('-')) && word.size() > 1) return ReadOption(word);
+    result_.positional += word;
+  }
+
+  void ReadOption(const QString& word) {
+    const int equals = word.indexOf(QLatin1Char('='));
+    const QString name = word.left(equals);
+    const OptionRule* rule = FindRule(rules_, name);
+    if (!rule) return Fail(QStringLiteral("unknown option \"%1\"").arg(name));
+    if (!rule->takes_value && equals >= 0) return Fail(QStringLiteral("%1 takes no value").arg(name));
+    if (rule->takes_value && equals < 0 && words_.isEmpty()) return Fail(QStringLiteral("%1 needs a value").arg(name));
+    QString value = word.mid(equals + 1);
+    if (equals < 0) value = rule->takes_value ? words_.takeFirst() : QString();
+    result_.options[name] = value;
+  }
+
+  void Fail(const QString& error) { result_.error = error; }
+
+  QStringList words_;
+  const QVector<OptionRule>& rules_;
+  ParsedArguments result_;
+};
+
+void Write(const QString& text, std::FILE* file) {
+  const QByteArray bytes = text.toUtf8();
+  std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), file);
+}
+
+}  // namespace
+
+ParsedArguments ParseArguments(const QStringList& arguments, const QVector<OptionRule>& rules) {
+  ParsedArguments result = ArgumentReader(arguments, rules).Read();
+  const QStringList words = arguments.mid(0, arguments.indexOf(QStringLiteral("--")));
+  result.help = words.contains(QLatin1String("--help")) || words.contains(QLatin1String("-h"));
+  return result;
+}
+
+QSize ParseSize(const QString& text) {
+  const QStringList sides = text.split(QLatin1Char('x'));
+  if (sides.size() != 2) return {};
+  const auto side = [](const QString& number) {
+    const int value = number.toInt();
+    return value >= 1 && value <= kLongestSide ? value : 0;
+  };
+  const QSize size(side(sides[0]), side(sides[1]));
+  return size.isEmpty() ? QSize() : size;
+}
+
+void Print(const QString& text) { Write(text, stdout); }
+
+void PrintError(const QString& text) { Write(text, stderr); }
+
+int FailUsage(const QString& subcommand, const QString& error) {
+  const QString name = subcommand.isEmpty() ? QStringLiteral("tavi") : QStringLiteral("tavi ") + subcommand;
+  PrintError(name + QStringLiteral(": ") + error + QStringLiteral("\nTry \"") + name + QStringLiteral(" --help\".\n"));
+  return kExitUsage;
+}
+
+}  // namespace tavi

@@ -1,0 +1,46 @@
+// The words behind a subcommand, and what the subcommands print.
+//
+// Threads: main.
+#ifndef HOST_COMMAND_LINE_H_
+#define HOST_COMMAND_LINE_H_
+
+#include <QMap>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace tavi {
+
+// Exit statuses of the program.
+constexpr int kExitDone = 0;
+constexpr int kExitProblem = 1;  // the work was done and found something wrong, or could not be finished
+constexpr int kExitUsage = 2;    // the command line, or what it names, cannot be used
+
+struct OptionRule {
+  QString name;              // with its dashes
+  bool takes_value = false;  // "--name VALUE" or "--name=VALUE"
+};
+
+struct ParsedArguments {
+  QStringList positional;
+  QMap<QString, QString> options;  // the last value of each that was given; an empty one for a mere flag
+  bool help = false;               // --help or -h was among them, whatever else is wrong
+  QString error;                   // what is wrong; empty when nothing is
+};
+
+// "--" ends the options; "-" alone is no option.
+ParsedArguments ParseArguments(const QStringList& arguments, const QVector<OptionRule>& rules);
+
+// A size such as "1280x720", each side from 1 to 16384; an empty size for anything else.
+QSize ParseSize(const QString& text);
+
+void Print(const QString& text);       // to standard output, as UTF-8
+void PrintError(const QString& text);  // to standard error
+
+// Tells what is wrong with the use of a subcommand and where help is; returns kExitUsage.
+int FailUsage(const QString& subcommand, const QString& error);
+
+}  // namespace tavi
+
+#endif  // HOST_COMMAND_LINE_H_

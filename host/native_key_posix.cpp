@@ -1,0 +1,32 @@
+#include <QKeyEvent>
+
+#include "host/native_key.h"
+#include "host/scan_codes.h"
+#include "keymapmanager/key_names.h"
+
+namespace tavi {
+
+namespace {
+
+// X11 counts its key codes from 8, and so do all who took its keyboard descriptions over.
+constexpr int kX11Offset = 8;
+
+// The library asks only whether a virtual key is known.
+constexpr quint32 kSomeVirtualKey = 0xFF;
+
+// What X11 calls a virtual key is a character of the layout, so the code is that of the key's place.
+quint32 VirtualKeyOf(int scancode) {
+  const auto key = tavikeymapmanager::KeyFromName(QStringLiteral("Scan %1").arg(scancode));
+  const bool is_known = key && key->virtual_key > 0 && key->virtual_key != tavikeymapmanager::kUnsetCode;
+  return is_known ? static_cast<quint32>(key->virtual_key) : kSomeVirtualKey;
+}
+
+}  // namespace
+
+NativeKey NativeKeyOf(const QKeyEvent& event) {
+  const int scancode = ScanCodeOfLinuxKey(static_cast<int>(event.nativeScanCode()) - kX11Offset);
+  if (scancode == 0) return {};
+  return {static_cast<quint32>(scancode), VirtualKeyOf(scancode)};
+}
+
+}  // namespace tavi

@@ -1,0 +1,98 @@
+#include "host/scan_codes.h"
+
+namespace tavi {
+
+namespace {
+
+struct CodePair {
+  int linux_code;
+  int scancode;
+};
+
+// Escape (1) to F10 (68) are the same in both, and so are the keypad's keys and Scroll Lock (70 to 83), `<` beside Left
+// Shift (86), F11 and F12 (87, 88).
+constexpr CodePair kDifferent[] = {
+    {69, 325},   // Num Lock
+    {89, 115},   // Ro
+    {92, 121},   // Henkan
+    {93, 112},   // Kana
+    {94, 123},   // Muhenkan
+    {95, 126},   // keypad comma of Japanese keyboards
+    {96, 284},   // keypad Enter
+    {97, 285},   // Right Ctrl
+    {98, 309},   // keypad /
+    {99, 311},   // Print Screen
+    {100, 312},  // Right Alt
+    {102, 327},  // Home
+    {103, 328},  // Up
+    {104, 329},  // Page Up
+    {105, 331},  // Left
+    {106, 333},  // Right
+    {107, 335},  // End
+    {108, 336},  // Down
+    {109, 337},  // Page Down
+    {110, 338},  // Insert
+    {111, 339},  // Delete
+    {113, 288},  // Volume Mute
+    {114, 302},  // Volume Down
+    {115, 304},  // Volume Up
+    {116, 350},  // Power
+    {117, 89},   // keypad =
+    {119, 69},   // Pause
+    {124, 125},  // Yen
+    {125, 347},  // Left Win
+    {126, 348},  // Right Win
+    {127, 349},  // Menu
+    {140, 289},  // Calculator
+    {142, 351},  // Sleep
+    {143, 355},  // Wake up
+    {155, 364},  // Mail
+    {156, 358},  // Bookmarks
+    {157, 363},  // Computer
+    {158, 362},  // Back
+    {159, 361},  // Forward
+    {163, 281},  // Next Track
+    {164, 290},  // Play Pause
+    {165, 272},  // Previous Track
+    {166, 292},  // Media Stop
+    {172, 306},  // Home page
+    {173, 359},  // Reload
+    {183, 100},  // F13
+    {184, 101},  // F14
+    {185, 102},  // F15
+    {186, 103},  // F16
+    {187, 104},  // F17
+    {188, 105},  // F18
+    {189, 106},  // F19
+    {190, 107},  // F20
+    {191, 108},  // F21
+    {192, 109},  // F22
+    {193, 110},  // F23
+    {194, 118},  // F24
+    {217, 357},  // Search
+    {226, 365},  // Media player
+};
+
+constexpr bool IsSameInBoth(int code) {
+  return (code >= 1 && code <= 68) || (code >= 70 && code <= 83) || (code >= 86 && code <= 88);
+}
+
+}  // namespace
+
+int ScanCodeOfLinuxKey(int linux_code) {
+  if (IsSameInBoth(linux_code)) return linux_code;
+  for (const CodePair& pair : kDifferent) {
+    if (pair.linux_code == linux_code) return pair.scancode;
+  }
+  return 0;
+}
+
+int LinuxKeyOfScanCode(int scancode) {
+  if (IsSameInBoth(scancode)) return scancode;
+  for (const CodePair& pair : kDifferent) {
+    if (pair.scancode == scancode) return pair.linux_code;
+  }
+  return 0;
+}
+
+}  // namespace tavi

@@ -1,0 +1,121 @@
+#include "host/simulate_command.h"
+
+#include <cstdio>
+#include <optional>
+
+#include <QFile>
+#include <QGuiApplication>
+
+#include "host/command_line.h"
+#include "host/keymap_report.h"
+#include "host/simulation/script.h"
+#include "host/simulation/script_player.h"
+#include "host/simulation/simulated_host.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "keymapmanager/keymap_file.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: tavi simulate KEYMAP SCRIPT\n"
+    "\n"
+    "Plays a script of input with a keymap and prints what comes of it: every line for\n"
+    "the guest, and after a \"!\" every call of the host, each with the time in\n"
+    "milliseconds since the start. Time is not waited for. The same script gives the\n"
+    "same output at every run.\n"
+    "\n"
+    "SCRIPT is a file, or \"-\" for standard input. One command a line, such as\n"
+    "  down W; wait 100; up W\n"
+    "  mouse down left 640,360\n"
+    "Positions are pixels of a guest view of 1280 x 720.\n"
+    "\n"
+    "Exit status: 0 when the script was played, 2 when the script, the keymap or the\n"
+    "command line cannot be used.\n"
+    "\n"
+    "Example: echo \"down Space; wait 50; up Space\" |\n"
+    "           tavi simulate examples/keymaps/shooter.yaml -\n";
+
+constexpr char kStandardInput[] = "-";
+
+std::optional<QString> ReadText(const QString& name) {
+  const bool is_standard_input = name == QLatin1String(kStandardInput);
+  QFile file(name);
+  const bool is_open = is_standard_input ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+  if (is_open) return QString::fromUtf8(file.readAll());
+  PrintError(QStringLiteral("%1: cannot be read: %2\n").arg(name, file.errorString()));
+  return std::nullopt;
+}
+
+std::optional<Script> ReadScript(const QString& name) {
+  const std::optional<QString> text = ReadText(name);
+  if (!text) return std::nullopt;
+  Script script = ParseScript(*text);
+  const QString shown = name == QLatin1String(kStandardInput) ? QStringLiteral("<stdin>") : name;
+  for (const ScriptError& error : script.errors) {
+    PrintError(QStringLiteral("%1:%2:%3: error: ").arg(shown).arg(error.line).arg(error.column) + error.message +
+               QLatin1Char('\n'));
+  }
+  if (!script.errors.isEmpty()) return std::nullopt;
+  return script;
+}
+
+// The library reports nothing about keymaps, so each is looked at before it is played with.
+bool IsKeymapUsable(const QString& path) {
+  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
+  PrintError(FormatDiagnostics(result));
+  return !result.HasErrors();
+}
+
+bool AreKeymapsUsable(const QString& first, const Script& script) {
+  bool all = IsKeymapUsable(first);
+  for (const ScriptCommand& command : script.commands) {
+    const bool is_load = command.kind == ScriptCommand::Kind::kKeymap || command.kind == ScriptCommand::Kind::kJoymap;
+    if (is_load) all = IsKeymapUsable(command.text) && all;
+  }
+  return all;
+}
+
+void PrintTimeline(SimulatedHost* host) {
+  for (const TimelineEntry& entry : host->TakeTimeline()) Print(FormatEntry(entry) + QLatin1Char('\n'));
+}
+
+int Play(const Invocation& invocation, const QString& keymap, const Script& script) {
+  // The clock serves no window system, whatever the user's environment asks for.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  auto* clock = new VirtualEventDispatcher;
+  QCoreApplication::setEventDispatcher(clock);
+  const QGuiApplication application(invocation.argc, invocation.argv);
+  SimulatedHost* host = SimulatedHost::GetInstance();
+  host->Start([clock] { return clock->NowMs(); });
+  ScriptPlayer player(clock, host);
+  player.LoadKeymap(keymap);
+  clock->Settle();
+  host->StartTimeline();
+  for (const ScriptCommand& command : script.commands) {
+    player.Play(command);
+    PrintTimeline(host);
+  }
+  return kExitDone;
+}
+
+int Run(const Invocation& invocation) {
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, {});
+  if (!arguments.error.isEmpty()) return FailUsage(QStringLiteral("simulate"), arguments.error);
+  if (arguments.positional.size() != 2) {
+    return FailUsage(QStringLiteral("simulate"), QStringLiteral("a keymap and a script are needed"));
+  }
+  const QString keymap = arguments.positional[0];
+  const std::optional<Script> script = ReadScript(arguments.positional[1]);
+  if (!script || !AreKeymapsUsable(keymap, *script)) return kExitUsage;
+  return Play(invocation, keymap, *script);
+}
+
+}  // namespace
+
+Subcommand SimulateCommand() {
+  return {"simulate", "plays a script of input and prints what the guest would get", kHelp, Run};
+}
+
+}  // namespace tavi

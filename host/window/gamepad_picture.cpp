@@ -1,0 +1,102 @@
+#include "host/window/gamepad_picture.h"
+
+#include <algorithm>
+
+#include <QPainter>
+
+#include "host/guest_model.h"
+#include "host/window/key_cap.h"
+#include "host/window/theme.h"
+
+namespace tavi {
+
+namespace {
+
+struct NamedButton {
+  int code;
+  const char* name;
+};
+
+// Linux codes of a gamepad's buttons.
+constexpr NamedButton kButtons[] = {
+    {304, "A"},  {305, "B"},    {307, "X"},     {308, "Y"},     {310, "LB"}, {311, "RB"}, {312, "LT"},
+    {313, "RT"}, {314, "Back"}, {315, "Start"}, {316, "Guide"}, {317, "LA"}, {318, "RA"},
+};
+
+QString NameOfButton(int code) {
+  for (const NamedButton& button : kButtons) {
+    if (button.code == code) return QLatin1String(button.name);
+  }
+  return QString::number(code);
+}
+
+// Moves on to the right with every part.
+class GamepadPainter {
+ public:
+  GamepadPainter(QPainter* painter, const QRectF& place) : painter_(painter), place_(place), left_(place.left()) {}
+
+  void PaintStick(const QPointF& stick) {
+    const double radius = place_.height() / 2 - 2;
+    const QPointF center(left_ + radius, place_.center().y());
+    painter_->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
+    painter_->setBrush(theme::kBackdrop);
+    painter_->drawEllipse(center, radius, radius);
+    painter_->setPen(Qt::NoPen);
+    painter_->setBrush(stick.isNull() ? theme::kFaintText : theme::kTap);
+    painter_->drawEllipse(center + stick * (radius - 5), 5, 5);
+    left_ += radius * 2 + 8;
+  }
+
+  void PaintHat(const QPoint& hat) {
+    const double arm = place_.height() / 3 - 1;
+    const QPointF middle(left_ + arm * 1.5, place_.center().y());
+    painter_->setPen(Qt::NoPen);
+    for (const QPoint& way : {QPoint(0, 0), QPoint(0, -1), QPoint(1, 0), QPoint(0, 1), QPoint(-1, 0)}) {
+      const bool is_down = !way.isNull() && (way.x() == hat.x() ? way.x() != 0 : way.y() == hat.y() && way.y() != 0);
+      QRectF part(0, 0, arm, arm);
+      part.moveCenter(middle + QPointF(way) * arm);
+      painter_->setBrush(is_down ? theme::kTap : theme::kPanelLine.lighter(140));
+      painter_->drawRect(part.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    left_ += arm * 3 + 8;
+  }
+
+  void PaintTrigger(int value) {
+    const QRectF bar(left_, place_.top() + 2, 9, place_.height() - 4);
+    painter_->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
+    painter_->setBrush(value != 0 ? theme::kTap : theme::kBackdrop);
+    painter_->drawRoundedRect(bar, 3, 3);
+    left_ += bar.width() + 6;
+  }
+
+  void PaintButtons(const QSet<int>& buttons) {
+    QList<int> codes = buttons.values();
+    std::sort(codes.begin(), codes.end());
+    left_ += 2;
+    for (const int code : codes) {
+      const QString name = NameOfButton(code);
+      const double width = KeyCapSize(*painter_, name).width();
+      PaintKeyCap(painter_, {name, theme::kTap, true}, {left_ + width / 2, place_.center().y()});
+      left_ += width + 5;
+    }
+  }
+
+ private:
+  QPainter* painter_;
+  const QRectF place_;
+  double left_;
+};
+
+}  // namespace
+
+void PaintGamepad(QPainter* painter, const QRectF& place, const GuestGamepad& gamepad) {
+  GamepadPainter parts(painter, place);
+  parts.PaintStick(gamepad.left_stick);
+  parts.PaintStick(gamepad.right_stick);
+  parts.PaintHat(gamepad.hat);
+  parts.PaintTrigger(gamepad.left_trigger);
+  parts.PaintTrigger(gamepad.right_trigger);
+  parts.PaintButtons(gamepad.buttons);
+}
+
+}  // namespace tavi

@@ -1,0 +1,75 @@
+// The library's host behind a real window: answers its questions about the guest view and passes on what it says.
+#ifndef HOST_WINDOW_WINDOW_HOST_H_
+#define HOST_WINDOW_WINDOW_HOST_H_
+
+#include <atomic>
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QSize>
+#include <QString>
+
+#include "host/simulation/simulated_host.h"
+#include "taviinputmanager/callbacks.h"
+
+class QWidget;
+
+namespace tavi {
+
+// The library's callbacks are plain functions, so there is one host in a process.
+//
+// Threads: main, but what the library says and asks may come on any: signals are emitted on the main thread always.
+class WindowHost : public QObject {
+  Q_OBJECT
+
+ public:
+  // Input goes to this display of the guest, and it is the one that is shown.
+  static constexpr int kDisplay = 1;
+
+  static WindowHost* GetInstance();
+
+  // Installs the send functions and initialises the library, once. `view` shows the guest; without one, or when it
+  // is gone, it is as if it were as large as the guest.
+  void Start(QWidget* view);
+
+  // The guest's touch surface, which is not rotated.
+  void SetGuestSize(const QSize& size);
+  QSize GuestSize() const;
+
+  // Whether the guest has a text field focused, so that keys are typed.
+  void SetTextField(bool focused);
+  bool HasTextField() const { return text_field_; }
+
+  // An InputStatus, as last told.
+  int InputStatus() const { return status_; }
+
+ Q_SIGNALS:
+  // A line for the guest or a call of the host. Times are milliseconds since Start.
+  void EntryAdded(const tavi::TimelineEntry& entry);
+  void InputStatusChanged(int status, const QString& key);
+  void TextFieldChanged(bool focused);
+  // The tilt of the guest's gravity sensor, each at most 40 either way.
+  void GravityChanged(double x, double y, double z);
+
+ private:
+  friend struct WindowHostFunctions;
+
+  WindowHost();
+
+  void Add(TimelineEntry::Source source, const QString& text);
+  void SetInputStatus(int status, const QString& key);
+  void SetGravity(double x, double y, double z);
+  taviinputmanager::WindowGeometry Geometry() const;
+
+  taviinputmanager::InputManagerCallbacks table_;
+  QElapsedTimer clock_;
+  QPointer<QWidget> view_;
+  bool text_field_ = false;
+  int status_ = 0;
+  std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_WINDOW_HOST_H_

@@ -1,0 +1,14 @@
+#ifndef HOST_WINDOW_SYSTEM_H_
+#define HOST_WINDOW_SYSTEM_H_
+
+#include <QStringList>
+
+namespace tavi {
+
+// Whether there is anything to open a window on. Without, making the application object would end the program with a
+// crash. `arguments` are those of the program, in which Qt may be told what to use.
+bool HasWindowSystem(const QStringList& arguments);
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_SYSTEM_H_

@@ -1,0 +1,55 @@
+#include "host/command_line.h"
+
+#include <gtest/gtest.h>
+
+namespace tavi {
+namespace {
+
+const QVector<OptionRule> kRules = {{QStringLiteral("--flag"), false}, {QStringLiteral("--value"), true}};
+
+ParsedArguments Parse(const QStringList& arguments) { return ParseArguments(arguments, kRules); }
+
+TEST(CommandLine, OptionsStandAnywhere) {
+  const ParsedArguments parsed = Parse({"one", "--value", "7", "two", "--flag"});
+  EXPECT_EQ(parsed.error, QString());
+  EXPECT_EQ(parsed.positional, (QStringList{"one", "two"}));
+  EXPECT_EQ(parsed.options.value("--value"), QStringLiteral("7"));
+  EXPECT_TRUE(parsed.options.contains("--flag"));
+}
+
+TEST(CommandLine, AValueMayFollowAnEqualsSign) {
+  EXPECT_EQ(Parse({"--value=a=b"}).options.value("--value"), QStringLiteral("a=b"));
+  EXPECT_EQ(Parse({"--value="}).options.value("--value"), QString());
+}
+
+TEST(CommandLine, TwoDashesEndTheOptions) {
+  const ParsedArguments parsed = Parse({"--", "--flag", "--help"});
+  EXPECT_EQ(parsed.positional, (QStringList{"--flag", "--help"}));
+  EXPECT_FALSE(parsed.help);
+}
+
+TEST(CommandLine, ADashAloneIsNoOption) { EXPECT_EQ(Parse({"-"}).positional, QStringList{"-"}); }
+
+TEST(CommandLine, TellsWhatIsWrong) {
+  EXPECT_EQ(Parse({"--other=3"}).error, QStringLiteral("unknown option \"--other\""));
+  EXPECT_EQ(Parse({"-x"}).error, QStringLiteral("unknown option \"-x\""));
+  EXPECT_EQ(Parse({"--value"}).error, QStringLiteral("--value needs a value"));
+  EXPECT_EQ(Parse({"--flag=1"}).error, QStringLiteral("--flag takes no value"));
+}
+
+TEST(CommandLine, HelpIsFoundWhateverElseIsWrong) {
+  EXPECT_TRUE(Parse({"--other", "--help"}).help);
+  EXPECT_TRUE(Parse({"-h"}).help);
+  EXPECT_FALSE(Parse({"help"}).help);
+}
+
+TEST(CommandLine, ReadsSizes) {
+  EXPECT_EQ(ParseSize("1280x720"), QSize(1280, 720));
+  EXPECT_EQ(ParseSize("1x16384"), QSize(1, 16384));
+  for (const char* wrong : {"", "1280", "1280x", "x720", "0x720", "-1x5", "1280x720x1", "16385x1", "axb"}) {
+    EXPECT_TRUE(ParseSize(QLatin1String(wrong)).isEmpty()) << wrong;
+  }
+}
+
+}  // namespace
+}  // namespace tavi

@@ -1,0 +1,220 @@
+// The program as its users start it.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace tavi {
+namespace {
+
+struct Outcome {
+  int status = -1;
+  QString output;
+  QString errors;
+};
+
+class Program : public testing::Test {
+ protected:
+  Program() : application_(argument_count_, arguments_) {}
+
+  // Writes a file into the test's own folder, which the program is started in.
+  void Write(const QString& name, const char* text) {
+    QFile file(folder_.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  }
+
+  Outcome Run(const QStringList& arguments, const QByteArray& input = {}) {
+    QProcess process;
+    process.setWorkingDirectory(folder_.path());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY"}) environment.remove(QLatin1String(variable));
+    if (!has_platform_) environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TAVI_BINARY_DIR "/host/tavi"), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+  }
+
+  QString Folder() const { return folder_.path(); }
+
+  bool has_platform_ = true;
+
+ private:
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QCoreApplication application_;
+  QTemporaryDir folder_;
+};
+
+constexpr char kGood[] =
+    "format: 1\n"
+    "items:\n"
+    "  - {type: Click, key: Space, point: [0.5, 0.5]}\n";
+
+// `Spcae` stands in line 3 from column 24 on.
+constexpr char kBad[] =
+    "format: 1\n"
+    "items:\n"
+    "  - {type: Click, key: Spcae, point: [0.5, 0.5]}\n";
+
+TEST_F(Program, HelpTellsOfEveryCommandAndOfEachByItself) {
+  const Outcome overview = Run({"--help"});
+  EXPECT_EQ(overview.status, 0);
+  for (const char* command : {"window", "simulate", "check"}) {
+    SCOPED_TRACE(command);
+    EXPECT_TRUE(overview.output.contains(QStringLiteral("\n  %1 ").arg(command)));
+    const Outcome page = Run({command, "--help"});
+    EXPECT_EQ(page.status, 0);
+    EXPECT_TRUE(page.output.startsWith(QStringLiteral("Usage: tavi %1").arg(command)));
+    EXPECT_TRUE(page.output.contains("\nExample: "));
+  }
+}
+
+TEST_F(Program, TellsItsVersion) {
+  const Outcome outcome = Run({"--version"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.output.startsWith("tavi "));
+}
+
+TEST_F(Program, RefusesWhatItDoesNotKnow) {
+  const struct {
+    const char* name;
+    QStringList arguments;
+    const char* error;
+  } rows[] = {
+      {"no command", {}, "tavi: a command is missing\nTry \"tavi --help\".\n"},
+      {"another command", {"chekc"}, "tavi: unknown command \"chekc\"\nTry \"tavi --help\".\n"},
+      {"another option", {"--verbose"}, "tavi: unknown option \"--verbose\"\nTry \"tavi --help\".\n"},
+      {"check without file", {"check"}, "tavi check: a file is missing\nTry \"tavi check --help\".\n"},
+      {"check with an option", {"check", "-v", "a"}, "tavi check: unknown option \"-v\"\nTry \"tavi check --help\".\n"},
+      {"check of no name", {"check", ""}, "tavi check: the name of a file is empty\nTry \"tavi check --help\".\n"},
+      {"simulate without script",
+       {"simulate", "a.yaml"},
+       "tavi simulate: a keymap and a script are needed\nTry \"tavi simulate --help\".\n"},
+      {"window with two keymaps",
+       {"window", "a", "b"},
+       "tavi window: more than one keymap\nTry \"tavi window --help\".\n"},
+      {"window without its keymap",
+       {"window", "none.yaml"},
+       "tavi window: no such file: none.yaml\nTry \"tavi window --help\".\n"},
+      {"window of no size",
+       {"window", "--guest", "wide"},
+       "tavi window: --guest needs a size such as 1280x720, not \"wide\"\nTry \"tavi window --help\".\n"},
+      {"a time of no picture",
+       {"window", "--after", "5"},
+       "tavi window: --after goes with --picture\nTry \"tavi window --help\".\n"},
+      {"a time that is none",
+       {"window", "--picture", "a.png", "--after", "soon"},
+       "tavi window: --after needs a time in milliseconds\nTry \"tavi window --help\".\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    const Outcome outcome = Run(row.arguments);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, QString());
+    EXPECT_TRUE(outcome.errors.endsWith(QLatin1String(row.error))) << outcome.errors.toStdString();
+  }
+}
+
+TEST_F(Program, CheckIsContentWithAGoodFile) {
+  Write("good.yaml", kGood);
+  const Outcome outcome = Run({"check", "good.yaml"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, QStringLiteral("good.yaml: 1 item\n"));
+}
+
+TEST_F(Program, CheckPrintsWhatIsWrongAndWhere) {
+  Write("good.yaml", kGood);
+  Write("bad.yaml", kBad);
+  const Outcome outcome = Run({"check", "bad.yaml", "good.yaml"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(outcome.output.startsWith("bad.yaml:3:24: error: ")) << outcome.output.toStdString();
+  EXPECT_TRUE(outcome.output.endsWith("\ngood.yaml: 1 item\n"));
+}
+
+TEST_F(Program, CheckOfAFileThatIsNotThere) {
+  const Outcome outcome = Run({"check", "none.yaml"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(outcome.output.startsWith("none.yaml:1:1: error: cannot be read: "));
+}
+
+// The keymap's point is the middle of 1280 x 720; the first finger of the pool of taps is slot 11.
+TEST_F(Program, SimulatePlaysAScript) {
+  Write("good.yaml", kGood);
+  Write("tap.txt", "down Space; wait 50; up Space\n");
+  const Outcome outcome = Run({"simulate", "good.yaml", "tap.txt"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, QStringLiteral("0ms ! mapped 1\n"
+                                           "0ms 1:SLOTPRESS:11:11:1:1:640:360\n"
+                                           "50ms ! mapped 1\n"
+                                           "50ms 1:SLOTRELEASE:11\n"));
+}
+
+TEST_F(Program, SimulateReadsStandardInput) {
+  Write("good.yaml", kGood);
+  const Outcome outcome = Run({"simulate", "good.yaml", "-"}, "down Space\n");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.output.endsWith("0ms 1:SLOTPRESS:11:11:1:1:640:360\n"));
+}
+
+TEST_F(Program, SimulateTellsEveryFaultOfAScript) {
+  Write("good.yaml", kGood);
+  Write("bad.txt", "wait 5\n  donw Space; wait x\n");
+  const Outcome outcome = Run({"simulate", "good.yaml", "bad.txt"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, QString());
+  EXPECT_EQ(outcome.errors, QStringLiteral("bad.txt:2:3: error: unknown command \"donw\"\n"
+                                           "bad.txt:2:15: error: expected a whole number, found \"x\"\n"));
+  EXPECT_TRUE(Run({"simulate", "good.yaml", "-"}, "donw\n").errors.startsWith("<stdin>:1:1: error: "));
+  EXPECT_TRUE(Run({"simulate", "good.yaml", "none.txt"}).errors.startsWith("none.txt: cannot be read: "));
+}
+
+TEST_F(Program, SimulateLooksAtEveryKeymapFirst) {
+  Write("good.yaml", kGood);
+  Write("bad.yaml", kBad);
+  Write("load.txt", "keymap bad.yaml\n");
+  Write("wait.txt", "wait 1\n");
+  for (const QStringList& names : {QStringList{"bad.yaml", "wait.txt"}, QStringList{"good.yaml", "load.txt"}}) {
+    const Outcome outcome = Run(QStringList("simulate") + names);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, QString());
+    EXPECT_TRUE(outcome.errors.startsWith("bad.yaml:3:24: error: ")) << outcome.errors.toStdString();
+  }
+}
+
+// A stick of the virtual gamepad in a keymap that does not switch that gamepad on.
+TEST_F(Program, SimulateTellsOfAWarningOnceAndPlays) {
+  Write("warned.yaml",
+        "format: 1\n"
+        "items:\n"
+        "  - {type: VirtualLeftStick, key_up: W}\n");
+  const Outcome outcome = Run({"simulate", "warned.yaml", "-"}, "wait 1\n");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.errors.startsWith("warned.yaml:3:5: warning: ")) << outcome.errors.toStdString();
+  EXPECT_EQ(outcome.errors.count("warning: "), 1);
+}
+
+TEST_F(Program, WindowTellsWhenThereIsNoDisplay) {
+  has_platform_ = false;
+  const Outcome outcome = Run({"window"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_TRUE(outcome.errors.startsWith("tavi window: there is no display"));
+}
+
+TEST_F(Program, WindowSavesItsPicture) {
+  Write("good.yaml", kGood);
+  EXPECT_EQ(Run({"window", "good.yaml", "--picture", "out.png", "--after", "0"}).status, 0);
+  EXPECT_TRUE(QFile::exists(QDir(Folder()).filePath("out.png")));
+  EXPECT_EQ(Run({"window", "good.yaml", "--picture", "none/out.png", "--after", "0"}).status, 1);
+}
+
+}  // namespace
+}  // namespace tavi

@@ -1,0 +1,201 @@
+#include "host/window/guest_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QTouchEvent>
+#include <QWheelEvent>
+
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/host/keyboard_105.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+class GuestViewTest : public WindowFixture {};
+
+TEST_F(GuestViewTest, KeepsTheShapeOfTheGuest) {
+  const double shape = static_cast<double>(View()->width()) / View()->height();
+  EXPECT_NEAR(shape, 1280.0 / 720, 0.01);
+}
+
+TEST_F(GuestViewTest, AKeyTapsAtThePointOfItsItem) {
+  Load("{type: Click, key: Space, point: [0.25, 0.75]}");
+  Press(kSpace);
+  EXPECT_EQ(Slots(), QList<int>{11});  // the first of the taps' slots
+  ExpectNear(Finger(), 320, 540);      // 0.25 * 1280, 0.75 * 720
+  Release(kSpace);
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(GuestViewTest, AnotherSizeOfTheGuestMovesThePoint) {
+  Load("{type: Click, key: Space, point: [0.25, 0.75]}");
+  qobject_cast<MainWindow*>(View()->window())->SetGuestSize(QSize(720, 1280));
+  Press(kSpace);
+  ExpectNear(Finger(), 180, 960);  // 0.25 * 720, 0.75 * 1280
+}
+
+TEST_F(GuestViewTest, AGuestAsLargeAsTheViewGetsItsPixels) {
+  Load("{type: Click, key: Space, point: [0.5, 0.5]}");
+  qobject_cast<MainWindow*>(View()->window())->SetGuestSize(QSize());
+  Press(kSpace);
+  ExpectNear(Finger(), View()->width() / 2, View()->height() / 2);
+}
+
+TEST_F(GuestViewTest, KeysThatMoveTheFocusAreTheGuestsToo) {
+  Load("{type: Click, key: Tab, point: [0.5, 0.5]}");
+  Press(15);
+  EXPECT_EQ(Slots().size(), 1);
+}
+
+TEST_F(GuestViewTest, NoKeyIsAShortcutOfTheWindow) {
+  QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_F, Qt::AltModifier);
+  event.ignore();
+  Send(&event);
+  EXPECT_TRUE(event.isAccepted());
+}
+
+TEST_F(GuestViewTest, WhatIsHeldIsLetGoWithTheFocus) {
+  Load("{type: Click, key: Space, point: [0.5, 0.5]}", "settings: {keyboard_transparent: true}");
+  Press(kSpace);
+  Press(kW);
+  Mouse(QEvent::MouseButtonPress, At(0.1, 0.1), Qt::LeftButton, Qt::LeftButton);
+  EXPECT_EQ(Slots().size(), 2);
+  EXPECT_EQ(Guest().held_keys, QSet<int>{kW});
+
+  QFocusEvent out(QEvent::FocusOut);
+  Send(&out);
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_TRUE(Guest().held_keys.isEmpty());
+}
+
+// Each key goes the whole way: the host's code, the library's conversion, the guest's code.
+TEST_F(GuestViewTest, EveryKeyPassesThroughAsTheGuestsOwn) {
+  taviinputmanager::UpdateDisplayForceTransparent(WindowHost::kDisplay, true);
+  Load("");
+  for (const KeyboardKey& key : kKeyboard105) {
+    Press(key.linux_code);
+    EXPECT_EQ(Guest().held_keys, QSet<int>{key.guest_code}) << key.name;
+    Release(key.linux_code);
+    EXPECT_TRUE(Guest().held_keys.isEmpty()) << key.name;
+  }
+}
+
+// A key counts as set, and so as the first of a chord, only with a virtual key.
+TEST_F(GuestViewTest, ChordsAnswer) {
+  Load("{type: Click, key: Left Alt + A, point: [0.5, 0.5]}");
+  Press(kA);
+  Release(kA);
+  EXPECT_TRUE(Slots().isEmpty());
+  Press(56);
+  Press(kA);
+  EXPECT_EQ(Slots().size(), 1);
+}
+
+TEST_F(GuestViewTest, AKeyWithoutAPlaceOnTheKeyboardIsNone) {
+  taviinputmanager::UpdateDisplayForceTransparent(WindowHost::kDisplay, true);
+  Load("");
+  Key(QEvent::KeyPress, -8, "x");
+  EXPECT_TRUE(Guest().held_keys.isEmpty());
+}
+
+TEST_F(GuestViewTest, InputMethodsWriteIntoATextFieldOnly) {
+  EXPECT_FALSE(View()->testAttribute(Qt::WA_InputMethodEnabled));
+  WindowHost::GetInstance()->SetTextField(true);
+  EXPECT_TRUE(View()->testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent event;
+  event.setCommitString(QStringLiteral("\u4F60\u597D"));
+  Send(&event);
+  EXPECT_EQ(Guest().text, QStringLiteral("\u4F60\u597D"));
+}
+
+TEST_F(GuestViewTest, TheLeftButtonIsAFinger) {
+  Load("");
+  Mouse(QEvent::MouseButtonPress, At(0.5, 0.5), Qt::LeftButton, Qt::LeftButton);
+  EXPECT_EQ(Slots(), QList<int>{1});
+  ExpectNear(Finger(), 640, 360);
+  Mouse(QEvent::MouseMove, At(0.25, 0.5), Qt::NoButton, Qt::LeftButton);
+  ExpectNear(Finger(), 320, 360);
+  Mouse(QEvent::MouseButtonRelease, At(0.25, 0.5), Qt::LeftButton, Qt::NoButton);
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(GuestViewTest, AFingerStaysOnTheGlass) {
+  Load("");
+  Mouse(QEvent::MouseButtonPress, At(0.5, 0.5), Qt::LeftButton, Qt::LeftButton);
+  Mouse(QEvent::MouseMove, {-400, 9000}, Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(Finger().x(), 0);
+  EXPECT_LT(Finger().y(), 720);
+  EXPECT_NEAR(Finger().y(), 719, 2);
+}
+
+TEST_F(GuestViewTest, ADoubleClickTapsTwice) {
+  Load("");
+  Mouse(QEvent::MouseButtonPress, At(0.5, 0.5), Qt::LeftButton, Qt::LeftButton);
+  Mouse(QEvent::MouseButtonRelease, At(0.5, 0.5), Qt::LeftButton, Qt::NoButton);
+  Mouse(QEvent::MouseButtonDblClick, At(0.5, 0.5), Qt::LeftButton, Qt::LeftButton);
+  EXPECT_EQ(Slots(), QList<int>{1});
+}
+
+TEST_F(GuestViewTest, TheWheelTurnsWhereThePointerIs) {
+  Load("", "settings: {wheel_transparent: true}");
+  QWheelEvent event(At(0.5, 0.25), At(0.5, 0.25), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  Send(&event);
+  ExpectNear(Guest().wheel.point, 640, 180);
+  EXPECT_EQ(Guest().wheel.amount, -100);
+}
+
+TEST_F(GuestViewTest, TouchesAreFingers) {
+  Load("");
+  QTouchEvent::TouchPoint finger(1);
+  finger.setPos(At(0.5, 0.5));
+  finger.setState(Qt::TouchPointPressed);
+  QTouchEvent begin(QEvent::TouchBegin, nullptr, Qt::NoModifier, Qt::TouchPointPressed, {finger});
+  begin.ignore();
+  Send(&begin);
+  EXPECT_TRUE(begin.isAccepted());
+  ExpectNear(Finger(), 640, 360);
+
+  finger.setState(Qt::TouchPointReleased);
+  QTouchEvent end(QEvent::TouchEnd, nullptr, Qt::NoModifier, Qt::TouchPointReleased, {finger});
+  Send(&end);
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(GuestViewTest, ABrokenKeymapIsToldAndTakesNoKeys) {
+  Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
+  Press(kSpace);
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_EQ(View()->window()->windowTitle(), QStringLiteral("keymap.yaml \u2013 tavi"));
+}
+
+// Everything that can be drawn at once. The picture is looked at by people; here it only has to come about.
+TEST_F(GuestViewTest, DrawsAllThatAGuestCanHave) {
+  Load(
+      "{type: Swipehold, label: Walk, point: [0.2, 0.7], key_up: W, key_left: A, key_down: S, key_right: D},"
+      "{type: Click, key: Space, point: [0.5, 0.5]}, {type: Tip, label: Note, point: [0.5, 0.1]},"
+      "{type: Staring, key: Grave, point: [0.6, 0.4], range_mode: Range_User, range_size: [0.3, 0.3]},"
+      "{type: Curve, key: E, point: [0.7, 0.7], curve_straight: true, curve_end: [0, -0.1]},"
+      "{type: Macro, label: Run, key: Left Shift, press_commands: ['sleep:1']}");
+  WindowHost::GetInstance()->SetTextField(true);
+  for (const char* line :
+       {"SLOTPRESS:11:11:1:1:640:360", "SLOTPRESS:11:11:1:1:700:400", "SLOTPRESS:2:2:1:1:250:500", "SLOTRELEASE:2",
+        "SLOTMULTIPRESS:18:18:900:100:19:19:1000:200", "KBDPR:30:1", "KBDPR:272:1", "MOUSEMOVE_REL:400:300",
+        "WHEEL:400:300:100:0", "LSTICKAXIS:700000:-700000", "RTRIGGERAXIS:1", "GPDBUTTON:304:1", "HATX:1"}) {
+    taviinputmanager::OnInputRawEventData(QLatin1String(line) + "\n", WindowHost::kDisplay);
+  }
+  taviinputmanager::OnInputRawTextData(QStringLiteral("TEXT:hello\n"));
+  Q_EMIT WindowHost::GetInstance()->GravityChanged(-20, 0, 30);
+  clock_->Advance(100);
+  const QImage picture = View()->window()->grab().toImage();
+  EXPECT_EQ(picture.size(), View()->window()->size() * View()->devicePixelRatioF());
+  const QString wanted = qEnvironmentVariable("TAVI_TEST_PICTURE");
+  if (!wanted.isEmpty()) picture.save(wanted);
+  clock_->Advance(2000);  // trails fade away, and the view comes to rest
+}
+
+}  // namespace
+}  // namespace tavi

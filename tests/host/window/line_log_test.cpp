@@ -1,0 +1,75 @@
+#include "host/window/line_log.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QToolButton>
+
+#include "host/simulation/virtual_event_dispatcher.h"
+
+namespace tavi {
+namespace {
+
+using Source = TimelineEntry::Source;
+
+class LineLogTest : public testing::Test {
+ protected:
+  LineLogTest()
+      : clock_(InstallClock()), application_(argument_count_, arguments_), log_(std::make_unique<LineLog>()) {}
+
+  void Push(const QString& name) {
+    for (QToolButton* button : log_->findChildren<QToolButton*>()) {
+      if (button->text() == name) button->click();
+    }
+  }
+  std::string Shown() {
+    clock_->Advance(100);
+    return log_->Text().toStdString();
+  }
+
+ private:
+  static VirtualEventDispatcher* InstallClock() {
+    auto* clock = new VirtualEventDispatcher;
+    QCoreApplication::setEventDispatcher(clock);
+    return clock;
+  }
+
+  VirtualEventDispatcher* clock_;
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QApplication application_;
+
+ protected:
+  std::unique_ptr<LineLog> log_;
+};
+
+// The times' column is nine characters wide.
+TEST_F(LineLogTest, ListsLinesAndTextsWithTheirTimes) {
+  log_->Add({8, Source::kLine, QStringLiteral("1:KBDPR:158:1")});
+  log_->Add({1234, Source::kText, QStringLiteral("TEXT:a\nb")});
+  EXPECT_EQ(Shown(),
+            "     8ms 1:KBDPR:158:1\n"
+            "  1234ms text TEXT:a\u21B5"
+            "b");
+}
+
+TEST_F(LineLogTest, ListsCallsWhenTheyAreWanted) {
+  log_->Add({1, Source::kCallback, QStringLiteral("mapped 1")});
+  EXPECT_EQ(Shown(), "");
+  Push(QStringLiteral("Calls"));
+  log_->Add({2, Source::kCallback, QStringLiteral("mapped 1")});
+  EXPECT_EQ(Shown(), "     2ms ! mapped 1");
+}
+
+TEST_F(LineLogTest, LeavesOutWhatComesDuringAPause) {
+  Push(QStringLiteral("Pause"));
+  log_->Add({1, Source::kLine, QStringLiteral("1:SLOTRELEASEALL")});
+  Push(QStringLiteral("Pause"));
+  log_->Add({2, Source::kLine, QStringLiteral("1:KBDRL:30:0")});
+  EXPECT_EQ(Shown(), "     2ms 1:KBDRL:30:0");
+  Push(QStringLiteral("Clear"));
+  EXPECT_EQ(Shown(), "");
+}
+
+}  // namespace
+}  // namespace tavi

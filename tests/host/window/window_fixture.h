@@ -1,0 +1,89 @@
+// The window off screen: events go to its view as a window system would send them, and its model of the guest tells
+// what came of them.
+#ifndef TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
+#define TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "host/window/guest_view.h"
+#include "host/window/main_window.h"
+#include "host/window/window_host.h"
+
+namespace tavi {
+
+constexpr int kSpace = 57;  // key codes of Linux
+constexpr int kW = 17;
+constexpr int kA = 30;
+
+class WindowFixture : public testing::Test {
+ protected:
+  WindowFixture() : clock_(InstallClock()), application_(argument_count_, arguments_) {
+    window_ = std::make_unique<MainWindow>();
+    window_->SetGuestSize(QSize(1280, 720));
+    window_->show();
+    clock_->Settle();
+  }
+
+  void Load(const char* items, const char* settings = "") {
+    QFile file(folder_.filePath("keymap.yaml"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("format: 1\n") + settings + "\nitems: [" + items + "]\n");
+    file.close();
+    window_->LoadKeymap(file.fileName());
+  }
+
+  void Send(QEvent* event) { QCoreApplication::sendEvent(View(), event); }
+  void Key(QEvent::Type type, int linux_code, const QString& text = {}, bool repeat = false) {
+    QKeyEvent event(type, 0, Qt::NoModifier, static_cast<quint32>(linux_code + 8), 0, 0, text, repeat);
+    Send(&event);
+  }
+  void Press(int linux_code) { Key(QEvent::KeyPress, linux_code); }
+  void Release(int linux_code) { Key(QEvent::KeyRelease, linux_code); }
+
+  // A place of the view by fractions of its size.
+  QPointF At(double x, double y) const { return {View()->width() * x, View()->height() * y}; }
+  void Mouse(QEvent::Type type, const QPointF& place, Qt::MouseButton button, Qt::MouseButtons buttons) {
+    clock_->Advance(5);  // of two moves within 2 ms the second counts for nothing
+    QMouseEvent event(type, place, place, View()->mapToGlobal(place.toPoint()), button, buttons, Qt::NoModifier);
+    Send(&event);
+  }
+
+  GuestView* View() const { return window_->View(); }
+  const GuestState& Guest() const { return View()->Model().state(); }
+  QList<int> Slots() const { return Guest().contacts.keys(); }
+  // The only finger there is.
+  QPoint Finger() const { return Guest().contacts.size() == 1 ? Guest().contacts.first().point : QPoint(-1, -1); }
+
+  VirtualEventDispatcher* clock_;  // the application's
+  QTemporaryDir folder_;
+
+ private:
+  static VirtualEventDispatcher* InstallClock() {
+    auto* clock = new VirtualEventDispatcher;
+    QCoreApplication::setEventDispatcher(clock);
+    return clock;
+  }
+
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QApplication application_;
+  std::unique_ptr<MainWindow> window_;
+};
+
+// Within two pixels of the guest: one pixel of the view stands for more than one of them.
+inline void ExpectNear(const QPoint& point, int x, int y) {
+  EXPECT_NEAR(point.x(), x, 2);
+  EXPECT_NEAR(point.y(), y, 2);
+}
+
+}  // namespace tavi
+
+#endif  // TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
