@@ -21,10 +21,7 @@ constexpr qint64 kEver = std::numeric_limits<qint64>::max();
 
 VirtualEventDispatcher::VirtualEventDispatcher(qint64 start_ms) : now_ms_(start_ms) {}
 
-void VirtualEventDispatcher::Advance(int ms) {
-  RunUntil(NowMs() + std::max(ms, 0), Scope::kAll);
-  Settle();
-}
+void VirtualEventDispatcher::Advance(int ms) { RunUntil(NowMs() + std::max(ms, 0), Scope::kAll); }
 
 void VirtualEventDispatcher::Sleep(unsigned long ms) { RunUntil(NowMs() + static_cast<qint64>(ms), Scope::kWorkers); }
 
@@ -42,6 +39,7 @@ void VirtualEventDispatcher::Settle() {
   } while (posted_);
 }
 
+// Of all timers, or in a blocking sleep of the workers' alone; nothing is delivered then.
 void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
   for (;;) {
     if (scope == Scope::kAll) Settle();

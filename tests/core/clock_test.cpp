@@ -50,6 +50,11 @@ TEST(RealClock, SleepBlocks) {
   EXPECT_GE(timer.elapsed(), 2);
 }
 
+TEST(RealClock, NoPauseIsNone) {
+  Clock::Sleep(0);
+  Clock::Sleep(-1);  // taken for a large number it would not come back
+}
+
 TEST(RealClock, TakesThePointerFromQt) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argument_count, arguments);

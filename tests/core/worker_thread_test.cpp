@@ -584,8 +584,8 @@ class LeavingMain : public testing::TestWithParam<Mode> {
   // A second application in the same process is looked after like the first.
   [[noreturn]] static void LeaveTwice(Mode mode) {
     for (int i = 0; i < 2; ++i) {
-      Program program(mode);
       Owner owner(nullptr);
+      Program program(mode);
       owner.StartRun(kEndless, 0);
       if (!program.RunUntil([&owner] { return owner.ticks > 10; })) std::exit(1);
     }

@@ -543,6 +543,14 @@ TEST_F(EventLoops, TakeNoTimeWithoutWaiting) {
   EXPECT_EQ(TakeLog(), "");
 }
 
+TEST_F(EventLoops, DoNotSleepThroughAWakeUpThatCameBefore) {
+  // With no timer and nothing posted, a wait would not end.
+  time_->wakeUp();
+  EXPECT_TRUE(time_->processEvents(QEventLoop::WaitForMoreEvents));
+  time_->interrupt();
+  EXPECT_TRUE(time_->processEvents(QEventLoop::WaitForMoreEvents));
+}
+
 TEST_F(OtherThreads, WakeALoopThatHasNothingToDo) {
   QEventLoop loop;
   Mailbox mailbox;
