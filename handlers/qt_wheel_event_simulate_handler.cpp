@@ -8,6 +8,7 @@
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
 #include "core/keymap_access.h"
+#include "core/numbers.h"
 #include "handlers/simulator_table.h"
 #include "keymap/composable_config_item.h"
 #include "keymap/keymap_config.h"
@@ -69,7 +70,7 @@ void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
   const int direction = WheelDelta(event) > 0 ? 1 : -1;
   DisplayGeometry::GetInstance()->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
-  SendEvent(guest_command::Wheel(x, y, direction * x, y));
+  SendEvent(guest_command::Wheel(x, y, Truncate(static_cast<double>(direction) * x), y));
 }
 
 // Tells nobody that a mapped device is in use, unlike keys and buttons.

@@ -61,7 +61,7 @@ void QtWheelEventAsyncWorker::TimerOutTime() {
     return;
   }
   const int direction = ticks_ > 0 ? 1 : -1;
-  finger->position.ry() += direction * step_;
+  finger->position.setY(AddSaturated(finger->position.y(), direction * step_));
   SendEvent(finger->BuildUpdateCommand());
   ticks_ -= direction;
 }

@@ -27,6 +27,9 @@ constexpr int kInwardNotches = 3;  // how far out a pinch inwards starts
 // Sizes of a hostile keymap stay numbers.
 double Product(int a, int b) { return static_cast<double>(a) * b; }
 
+QPoint Mirrored(const QPoint& a) { return {NegateSaturated(a.x()), NegateSaturated(a.y())}; }
+QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
+
 guest_command::Contact ContactAt(int slot, const QPoint& window) {
   guest_command::Contact contact{slot, window.x(), window.y()};
   DisplayGeometry::GetInstance()->WindowToTouch(contact.x, contact.y);
@@ -73,9 +76,9 @@ void QtWheelEventZoomWorker::LoadSettings(const KeymapConfig* config) {
 void QtWheelEventZoomWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) {
   LoadSettings(config);
   finished_ = false;
-  const int notch = event->angleDelta().y() < 1 ? -notch_ticks_ : notch_ticks_;
+  const int notch = event->angleDelta().y() < 1 ? NegateSaturated(notch_ticks_) : notch_ticks_;
   if (IsRunning()) {
-    ticks_ += notch;
+    ticks_ = AddSaturated(ticks_, notch);
     timer_->start(std::max(0, tick_ms_));
     return;
   }
@@ -93,20 +96,20 @@ int QtWheelEventZoomWorker::Unit() const {
 QPoint QtWheelEventZoomWorker::ArmOf(double units) const {
   const double angle = angle_degrees_ * kRadiansOfDegree;
   const double length = units * Unit();
-  return {-Round(length * std::cos(angle)), Round(length * std::sin(angle))};
+  return {NegateSaturated(Round(length * std::cos(angle))), Round(length * std::sin(angle))};
 }
 
 void QtWheelEventZoomWorker::SetBounds(const QPoint& center) {
-  inner_a_ = center + ArmOf(spread_);
-  outer_a_ = center + ArmOf(spread_ + Product(kWayNotches, notch_ticks_));
+  inner_a_ = Sum(center, ArmOf(spread_));
+  outer_a_ = Sum(center, ArmOf(spread_ + Product(kWayNotches, notch_ticks_)));
 }
 
 void QtWheelEventZoomWorker::StartPinch(const QPoint& center) {
   const QPoint arm = ArmOf(ticks_ < 0 ? spread_ + Product(kInwardNotches, notch_ticks_) : spread_);
-  finger_a_ = center + arm;
-  finger_b_ = center - arm;
+  finger_a_ = Sum(center, arm);
+  finger_b_ = Sum(center, Mirrored(arm));
   const double angle = angle_degrees_ * kRadiansOfDegree;
-  step_ = QPoint(Round(Unit() * std::cos(angle)), -Round(Unit() * std::sin(angle)));
+  step_ = QPoint(Round(Unit() * std::cos(angle)), NegateSaturated(Round(Unit() * std::sin(angle))));
   SendPinch();
   timer_->start(std::max(0, first_interval_ms_));
 }
@@ -125,18 +128,23 @@ void QtWheelEventZoomWorker::TimerOutTime() {
 }
 
 void QtWheelEventZoomWorker::MoveApart() {
-  finger_a_ -= step_;
-  finger_b_ += step_;
+  MoveFingers(-1);
   if (!IsWithinBounds()) return EndPinch();
   GoOn();
   --ticks_;
 }
 
 void QtWheelEventZoomWorker::MoveTogether() {
-  finger_a_ += step_;
-  finger_b_ -= step_;
+  MoveFingers(1);
   IsWithinBounds() ? GoOn() : EndPinch();
   ++ticks_;  // also behind the end
+}
+
+// 1 moves finger a right and down the line, towards the pointer; -1 away from it.
+void QtWheelEventZoomWorker::MoveFingers(int direction) {
+  const QPoint way = direction > 0 ? step_ : Mirrored(step_);
+  finger_a_ = Sum(finger_a_, way);
+  finger_b_ = Sum(finger_b_, Mirrored(way));
 }
 
 bool QtWheelEventZoomWorker::IsWithinBounds() const {

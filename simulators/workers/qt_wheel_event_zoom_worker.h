@@ -42,6 +42,7 @@ class QtWheelEventZoomWorker : public EventHandler {
   void StartPinch(const QPoint& center);
   void MoveApart();
   void MoveTogether();
+  void MoveFingers(int direction);
   bool IsWithinBounds() const;
   void GoOn();
   void EndPinch();
