@@ -32,6 +32,7 @@ inline int MultiplyWrapped(int a, int b) {
 
 // Positions stop at the ends of an int.
 inline int AddSaturated(int a, int b) { return Truncate(static_cast<double>(a) + b); }
+inline int NegateSaturated(int a) { return Truncate(-static_cast<double>(a)); }
 
 }  // namespace taviinputmanager
 

@@ -1,15 +1,100 @@
 #include "handlers/qt_wheel_event_simulate_handler.h"
 
+#include <QWheelEvent>
+
+#include "core/clock.h"
+#include "core/display_geometry.h"
+#include "core/guest_command.h"
+#include "core/input_manager.h"
+#include "core/input_status_manager.h"
+#include "core/keymap_access.h"
+#include "core/numbers.h"
+#include "handlers/simulator_table.h"
+#include "keymap/composable_config_item.h"
+#include "keymap/keymap_config.h"
+#include "keymap/keymap_functions.h"
+#include "simulators/curve_event_simulator.h"
+#include "simulators/workers/qt_wheel_event_async_worker.h"
+#include "simulators/workers/qt_wheel_event_zoom_worker.h"
+
 namespace taviinputmanager {
+
+using tavikeymapmanager::ComposableConfigItem;
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+
+namespace {
+
+constexpr int kNotchTapMs = 50;  // how long the finger of a mapped notch is down
+
+bool IsSingleKeyItem(const ConfigItem* item) {
+  const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
+  return !composable || !IsKeySet(composable->first_key);
+}
+
+ConfigKey KeyOf(const QWheelEvent* event) {
+  const int code = WheelDelta(event) > 0 ? tavikeymapmanager::kWheelUpCode : tavikeymapmanager::kWheelDownCode;
+  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, -1, code);
+}
+
+}  // namespace
 
 QtWheelEventSimulateHandler* QtWheelEventSimulateHandler::GetInstance() {
   static QtWheelEventSimulateHandler instance;
   return &instance;
 }
 
-void QtWheelEventSimulateHandler::OnWheel(QWheelEvent* /*event*/, bool /*transparent_pointer*/, double /*delta*/,
-                                          int /*use_delta*/) {}
+bool QtWheelEventSimulateHandler::IsWheelWorkerRunning() const {
+  return QtWheelEventAsyncWorker::GetInstance()->IsRunning() || QtWheelEventZoomWorker::GetInstance()->IsRunning();
+}
 
-bool QtWheelEventSimulateHandler::IsWheelWorkerRunning() const { return false; }
+void QtWheelEventSimulateHandler::OnWheel(QWheelEvent* event, bool /*transparent_pointer*/, double /*delta*/,
+                                          int /*use_delta*/) {
+  if (event->modifiers() == Qt::ControlModifier) return QtWheelEventZoomWorker::GetInstance()->OnWheel(event, config_);
+  if (!InputStatusManager::GetInstance()->HasKeymap()) return TurnWithoutKeymap(event);
+  if (PlayMappedItem(event)) return;
+  if (WheelSettingsOf(config_).wheel_zoom) return QtWheelEventZoomWorker::GetInstance()->OnWheel(event, config_);
+  QtWheelEventAsyncWorker::GetInstance()->OnWheel(event, config_);
+}
+
+void QtWheelEventSimulateHandler::TurnWithoutKeymap(QWheelEvent* event) {
+  if (InputManager::IsOwnPackage(InputStatusManager::GetInstance()->GetPackageName())) return SendPlainWheel(event);
+  QtWheelEventAsyncWorker::GetInstance()->OnWheel(event, config_);
+}
+
+// The guest's own apps take the last two fields as they are: the pointer's position, and no amount.
+void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
+  const QPoint position = event->position().toPoint();
+  int x = position.x();
+  int y = position.y();
+  const int direction = WheelDelta(event) > 0 ? 1 : -1;
+  DisplayGeometry::GetInstance()->WindowToTouch(x, y);
+  if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
+  SendEvent(guest_command::Wheel(x, y, Truncate(static_cast<double>(direction) * x), y));
+}
+
+// Tells nobody that a mapped device is in use, unlike keys and buttons.
+ConfigItem* QtWheelEventSimulateHandler::FindItem(const ConfigKey& key) const {
+  if (!config_) return nullptr;
+  for (ConfigItem* item : qAsConst(config_->items)) {
+    if (item && item->IsKeyMatch(key) && IsSingleKeyItem(item)) return item;
+  }
+  return nullptr;
+}
+
+bool QtWheelEventSimulateHandler::PlayMappedItem(const QWheelEvent* event) {
+  ConfigKey key = KeyOf(event);
+  ConfigItem* item = FindItem(key);
+  EventSimulator* simulator = item ? WheelSimulatorOf(item) : nullptr;
+  if (!simulator) return false;
+  if (simulator == CurveEventSimulator::GetInstance()) {
+    CurveEventSimulator::GetInstance()->Wheel(item, &key);
+    return true;
+  }
+  simulator->Press(item, &key);
+  Clock::Sleep(kNotchTapMs);
+  simulator->Release(item, &key);
+  return true;
+}
 
 }  // namespace taviinputmanager

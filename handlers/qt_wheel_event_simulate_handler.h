@@ -5,8 +5,10 @@
 #include "handlers/qt_wheel_event_handler.h"
 
 namespace tavikeymapmanager {
+struct ConfigItem;
+struct ConfigKey;
 struct KeymapConfig;
-}
+}  // namespace tavikeymapmanager
 
 namespace taviinputmanager {
 
@@ -17,12 +19,18 @@ class QtWheelEventSimulateHandler : public QtWheelEventHandler {
   void SetConfig(tavikeymapmanager::KeymapConfig* config) { config_ = config; }
   // The config is about to go.
   void ForgetConfig() { config_ = nullptr; }
+  // A tap of a mapped item blocks the caller for 50 ms. Reads the event alone of its arguments.
   void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) override;
   // Whether a gesture of the wheel is under way; the mouse then moves nothing.
   bool IsWheelWorkerRunning() const;
 
  private:
   QtWheelEventSimulateHandler() = default;
+
+  tavikeymapmanager::ConfigItem* FindItem(const tavikeymapmanager::ConfigKey& key) const;
+  bool PlayMappedItem(const QWheelEvent* event);
+  void TurnWithoutKeymap(QWheelEvent* event);
+  void SendPlainWheel(const QWheelEvent* event);
 
   tavikeymapmanager::KeymapConfig* config_ = nullptr;  // the input manager's
 };

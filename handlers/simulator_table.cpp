@@ -42,7 +42,7 @@ EventSimulator* GetForSpellCancel(const ConfigItem* item) {
 }
 
 // What a key belongs to.
-enum Source : unsigned { kKeyboardMouse = 1, kJoystick = 2 };
+enum Source : unsigned { kKeyboardMouse = 1, kJoystick = 2, kWheel = 4 };
 
 struct Row {
   const QString& type;
@@ -51,21 +51,21 @@ struct Row {
 };
 
 const Row kRows[] = {
-    {keywords::kTypeClick, Get<TapEventSimulator>, kKeyboardMouse | kJoystick},
-    {keywords::kTypeBunchClick, Get<BunchTapEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeClick, Get<TapEventSimulator>, kKeyboardMouse | kJoystick | kWheel},
+    {keywords::kTypeBunchClick, Get<BunchTapEventSimulator>, kKeyboardMouse | kJoystick | kWheel},
     {keywords::kTypeSwipehold, Get<SwipeholdEventSimulator>, kKeyboardMouse},
-    {keywords::kTypeCurve, Get<CurveEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeCurve, Get<CurveEventSimulator>, kKeyboardMouse | kJoystick | kWheel},
     {keywords::kTypeRightWalk, Get<RightWalkEventSimulator>, kKeyboardMouse},
     {keywords::kTypeSpell, Get<SpellEventSimulator>, kKeyboardMouse | kJoystick},
-    {keywords::kTypeStaring, Get<StaringAndFireEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeStaring, Get<StaringAndFireEventSimulator>, kKeyboardMouse | kWheel},
     {keywords::kTypeEye, Get<EyeEventSimulator>, kKeyboardMouse},
     {keywords::kTypeGravity, Get<GravityEventSimulator>, kKeyboardMouse},
     {keywords::kTypeSpellCancel, GetForSpellCancel, kKeyboardMouse | kJoystick},
-    {keywords::kTypeMacro, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeMacro, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick | kWheel},
     {keywords::kTypeWheel, Get<WheelEventSimulator>, kKeyboardMouse},
-    {keywords::kTypeZoom, Get<ZoomEventSimulator>, kKeyboardMouse},
+    {keywords::kTypeZoom, Get<ZoomEventSimulator>, kKeyboardMouse | kWheel},
     {keywords::kTypeObserve, Get<StaringAndFireEventSimulator>, kKeyboardMouse},
-    {keywords::kTypeOperationRecorder, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick},
+    {keywords::kTypeOperationRecorder, Get<MacroEventSimulator>, kKeyboardMouse | kJoystick | kWheel},
     {keywords::kTypeVirtualLeftStick, Get<VStickLeftStickSimulator>, kKeyboardMouse},
     {keywords::kTypeVirtualRightStick, Get<VStickRightStickSimulator>, kKeyboardMouse},
     {keywords::kTypeVirtualJoystickButton, Get<VJoystickButtonEventSimulator>, kKeyboardMouse},
@@ -84,5 +84,7 @@ EventSimulator* Find(const ConfigItem* item, Source source) {
 EventSimulator* SimulatorOf(const ConfigItem* item) { return Find(item, kKeyboardMouse); }
 
 EventSimulator* JoystickSimulatorOf(const ConfigItem* item) { return Find(item, kJoystick); }
+
+EventSimulator* WheelSimulatorOf(const ConfigItem* item) { return Find(item, kWheel); }
 
 }  // namespace taviinputmanager

@@ -17,6 +17,9 @@ EventSimulator* SimulatorOf(const tavikeymapmanager::ConfigItem* item);
 // For buttons of a gamepad, which work fewer types. Null for all others.
 EventSimulator* JoystickSimulatorOf(const tavikeymapmanager::ConfigItem* item);
 
+// For turns of the wheel, which work fewer still. Null for all others.
+EventSimulator* WheelSimulatorOf(const tavikeymapmanager::ConfigItem* item);
+
 }  // namespace taviinputmanager
 
 #endif  // HANDLERS_SIMULATOR_TABLE_H_

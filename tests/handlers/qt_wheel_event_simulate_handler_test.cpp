@@ -1,0 +1,143 @@
+#include "handlers/qt_wheel_event_simulate_handler.h"
+
+#include <QWheelEvent>
+
+#include "handlers/simulator_table.h"
+#include "keymap/tavikeymapmanager.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using tavikeymapmanager::ComposableConfigItem;
+using tavikeymapmanager::ConfigItem;
+
+class Wheel : public Story {
+ protected:
+  void LoadNothing(const QString& package) {
+    OnLoadKeymapConfigAndInfo("", package, "", 1);
+    Wait(0);
+    Host().StartTimeline();
+    Forget();
+  }
+};
+
+TEST_F(Wheel, OnlySomeTypesAnswerToIt) {
+  for (const char* type : {"Click", "BunchClick", "Staring", "Macro", "Zoom", "OperationRecorder", "Curve"}) {
+    ConfigItem item;
+    item.type = type;
+    EXPECT_NE(nullptr, WheelSimulatorOf(&item)) << type;
+  }
+  for (const char* type : {"Swipehold", "Spell", "Eye", "Gravity", "Wheel", "Observe", "RightWalk", "SpellCancel",
+                           "Fire", "VirtualJoystickButton", ""}) {
+    ConfigItem item;
+    item.type = type;
+    EXPECT_EQ(nullptr, WheelSimulatorOf(&item)) << type;
+  }
+}
+
+TEST_F(Wheel, AMappedNotchIsATapOf50MsThatBlocks) {
+  Add<ConfigItem>("Click", "Wheel Up", {0.5, 0.5});
+  Add<ConfigItem>("Click", "Wheel Down", {0.25, 0.5});
+  Load();
+  Play("wheel +120 10,10; wheel -120 10,10");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:640:360", "50ms 1:SLOTRELEASE:11", "50ms 1:SLOTPRESS:11:11:1:1:320:360",
+              "100ms 1:SLOTRELEASE:11");
+  EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not told
+}
+
+TEST_F(Wheel, NoTurnAtAllCountsAsDown) {
+  Add<ConfigItem>("Click", "Wheel Down", {0.25, 0.5});
+  Load();
+  Play("wheel 0 10,10");
+  EXPECT_EQ("0ms 1:SLOTPRESS:11:11:1:1:320:360", TakeWire().value(0).toStdString());
+}
+
+TEST_F(Wheel, AChordDoesNotAnswerToItAlone) {
+  auto* chord = Add<ComposableConfigItem>("Click", "Wheel Up", {0.5, 0.5});
+  chord->first_key = Key("Q");
+  Load();
+  Play("wheel +120 640,360");  // the scroll swipe
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+}
+
+TEST_F(Wheel, AnItemThatTheWheelCannotWorkFallsThrough) {
+  Add<tavikeymapmanager::SwipeholdConfigItem>("Swipehold")->key_up = Key("Wheel Up");
+  Story::Wheel().wheel_zoom = true;
+  Load();
+  Play("wheel +120 640,360");
+  EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
+}
+
+TEST_F(Wheel, AnUnmappedTurnScrollsOrPinches) {
+  Load();
+  Play("wheel +120 640,360");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+  Play("wait 500");
+  Story::Wheel().wheel_zoom = true;
+  Load();
+  Play("wheel +120 640,360");
+  EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
+}
+
+TEST_F(Wheel, ControlAloneAlwaysPinches) {
+  Add<ConfigItem>("Click", "Wheel Up", {0.5, 0.5});
+  Load();
+  Play("down Left Ctrl; wheel +120 640,360; up Left Ctrl");
+  EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
+}
+
+TEST_F(Wheel, ControlOnAnAppOfTheSystemPinchesToo) {
+  LoadNothing("com.android.settings");
+  Play("down Left Ctrl; wheel +120 640,360; up Left Ctrl");
+  EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
+}
+
+TEST_F(Wheel, ControlWithAnotherModifierDoesNotCount) {
+  Load();
+  Play("down Left Shift; wheel +120 640,360; up Left Shift");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+  Play("wait 500");
+  Forget();
+  Play("down Left Ctrl; down Left Shift; wheel +120 640,360; up Left Shift; up Left Ctrl");
+  EXPECT_WIRE("500ms 1:SLOTPRESS:10:10:1:1:640:360");
+}
+
+TEST_F(Wheel, WithoutKeymapAnAppScrolls) {
+  LoadNothing("com.example");
+  Play("wheel +120 640,360");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+}
+
+// An own package loads the system keymap, which counts as a keymap, so that the plain wheel takes an empty path with a
+// package that is own only later. The handler is asked itself.
+TEST_F(Wheel, AnAppOfTheSystemHasAKeymap) {
+  LoadNothing("com.android.settings");
+  Play("wheel +120 640,360");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+}
+
+TEST_F(Wheel, MovesAreSwallowedWhileItsGestureRuns) {
+  Settings().mouse_mode = "Mouse_OtherButton_Transparent";
+  Load();
+  Play("wait 5; wheel +120 640,360; move 100,100");
+  EXPECT_WIRE("5ms 1:SLOTPRESS:10:10:1:1:640:360");
+  Play("wait 500");
+  Forget();
+  Play("move 100,100");
+  EXPECT_WIRE("505ms 1:MOUSEMOVE_REL:100:100");
+}
+
+TEST_F(Wheel, ASwallowedMoveStillCountsForTheNext) {
+  Settings().mouse_mode = "Mouse_OtherButton_Transparent";
+  Load();
+  // The swipe of a turn ends 21 ticks of 8 ms behind it: at 173 ms, where no timer runs any more.
+  Play("wait 5; wheel +120 640,360; wait 167; move 100,100; wait 1");
+  Forget();
+  Play("move 100,100");  // 1 ms behind a swallowed one
+  EXPECT_WIRE_NONE();
+}
+
+}  // namespace
+}  // namespace taviinputmanager

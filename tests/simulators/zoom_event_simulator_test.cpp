@@ -1,0 +1,153 @@
+#include "simulators/zoom_event_simulator.h"
+
+#include "core/input_status_manager.h"
+#include "keymap/tavikeymapmanager.h"
+#include "slots/macro_slot_manager.h"
+#include "slots/zoom_slot_manager.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using tavikeymapmanager::ZoomConfigItem;
+
+// A display of 10000 x 10000, on which speed 10 moves each finger 10 pixels a tick.
+class ZoomKey : public Story {
+ protected:
+  ZoomKey() {
+    Host().window = {0, 0, 10000, 10000};
+    Host().display = Host().touch = QRect(0, 0, 10000, 10000);
+  }
+  ZoomConfigItem* AddZoom(const QString& key, int direction, const QString& axis, int duration_ms) {
+    auto* item = Add<ZoomConfigItem>("Zoom", key, {0.5, 0.5});
+    item->direction = direction;
+    item->speed = 10;
+    item->axis = axis;
+    item->duration_ms = duration_ms;
+    item->start_distance = 0.1;
+    return item;
+  }
+};
+
+// duration 24: 24 / 12 = 2 steps, so 3 ticks. The first slot, 18, is the negative one and holds the positive point.
+TEST_F(ZoomKey, ATapPlaysOnePinch) {
+  AddZoom("W", 1, "horizontal", 24);
+  Load();
+  Play("down W; up W; wait 11");
+  EXPECT_WIRE_NONE();
+  Play("wait 1");
+  EXPECT_WIRE("12ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
+  Play("wait 100");
+  EXPECT_WIRE("24ms 1:SLOTMULTIPRESS:18:18:6010:5000:19:19:3990:5000",
+              "36ms 1:SLOTMULTIPRESS:18:18:6020:5000:19:19:3980:5000", "36ms 1:SLOTMULTIRELEASE:19:18");
+}
+
+TEST_F(ZoomKey, EveryAxisAndDirection) {
+  const struct {
+    const char* name;
+    const char* axis;
+    int direction;
+    const char* first;
+    const char* second;
+  } rows[] = {
+      {"apart", "horizontal", 1, "18:18:6000:5000:19:19:4000:5000", "18:18:6010:5000:19:19:3990:5000"},
+      // together from 0.1 + 1 * 0.001
+      {"together", "horizontal", 2, "18:18:6010:5000:19:19:3990:5000", "18:18:6000:5000:19:19:4000:5000"},
+      {"up and down apart", "vertical", 1, "18:18:5000:6000:19:19:5000:4000", "18:18:5000:6010:19:19:5000:3990"},
+      {"up and down together", "vertical", 2, "18:18:5000:6010:19:19:5000:3990", "18:18:5000:6000:19:19:5000:4000"},
+      {"any other word is across", "diagonal", 1, "18:18:6000:5000:19:19:4000:5000", "18:18:6010:5000:19:19:3990:5000"},
+  };
+  for (const auto& row : rows) {
+    AddZoom("W", row.direction, row.axis, 12);
+    Load();
+    Play("down W; up W; wait 100");
+    const QString press = QStringLiteral("ms 1:SLOTMULTIPRESS:");
+    EXPECT_EQ((QStringList{"12" + press + row.first, "24" + press + row.second, "24ms 1:SLOTMULTIRELEASE:19:18"}),
+              TakeWire())
+        << row.name;
+  }
+}
+
+TEST_F(ZoomKey, FingersCanChangePlaces) {
+  AddZoom("W", 1, "horizontal", 0)->swap_fingers = true;
+  Load();
+  Play("down W; up W; wait 100");
+  EXPECT_WIRE("12ms 1:SLOTMULTIPRESS:18:18:4000:5000:19:19:6000:5000", "12ms 1:SLOTMULTIRELEASE:19:18");
+}
+
+TEST_F(ZoomKey, AHeldKeyPinchesAgainOnTwoFreshSlots) {
+  AddZoom("W", 1, "horizontal", 0);
+  Load();
+  Play("down W; wait 13");
+  EXPECT_WIRE("12ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000", "12ms 1:SLOTMULTIRELEASE:19:18");
+  MacroSlotManager::GetInstance()->Reserve(20);  // the second run has 18 and 19 already
+  Play("wait 12; up W; wait 100");
+  EXPECT_WIRE("24ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000", "24ms 1:SLOTMULTIRELEASE:19:18",
+              "36ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000", "36ms 1:SLOTMULTIRELEASE:19:18");
+}
+
+TEST_F(ZoomKey, APressWhileAPinchIsFinishingIsIgnored) {
+  AddZoom("W", 1, "horizontal", 12);
+  AddZoom("S", 2, "horizontal", 12);
+  Load();
+  Play("down W; up W; down S; wait 100; up S");
+  EXPECT_EQ(3, TakeWire().size());
+}
+
+TEST_F(ZoomKey, WithoutTwoSlotsNoKeyPinchesUntilTheBusyMarkIsReset) {
+  AddZoom("W", 1, "horizontal", 0);
+  Load();
+  MacroSlotManager* pool = MacroSlotManager::GetInstance();
+  for (int slot = 18; slot <= 24; ++slot) pool->Reserve(slot);
+  Play("down W; up W; wait 100");
+  EXPECT_WIRE_NONE();
+  EXPECT_EQ(25, pool->FindFree());  // the one that it had taken is free again
+  pool->Reset();
+  Play("down W; up W; wait 100");
+  EXPECT_WIRE_NONE();
+  ZoomSlotManager::GetInstance()->Reset();
+  Play("down W; up W; wait 100");
+  EXPECT_EQ(2, TakeWire().size());
+}
+
+TEST_F(ZoomKey, AFullPoolLeavesTheSameMark) {
+  AddZoom("W", 1, "horizontal", 0);
+  Load();
+  for (int slot = 18; slot <= 25; ++slot) MacroSlotManager::GetInstance()->Reserve(slot);
+  Play("down W; up W; wait 100");
+  EXPECT_TRUE(ZoomSlotManager::GetInstance()->busy);
+}
+
+TEST_F(ZoomKey, ADirectionOfNeitherKindHoldsItsSlotsUntilAReset) {
+  AddZoom("W", 3, "horizontal", 12);
+  Load();
+  Play("down W; up W; wait 1000");
+  EXPECT_WIRE_NONE();
+  Play("reset");
+  Forget();
+  Play("wait 0");
+  EXPECT_TRUE(MacroSlotManager::GetInstance()->ActiveSlots().isEmpty());
+  EXPECT_FALSE(ZoomSlotManager::GetInstance()->busy);
+}
+
+TEST_F(ZoomKey, AKeyHeldDuringAResetStartsItsNextPinch) {
+  AddZoom("W", 1, "horizontal", 120);
+  Load();
+  Play("down W; wait 20; reset");
+  Forget();
+  Play("wait 12");
+  EXPECT_WIRE("32ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
+}
+
+TEST_F(ZoomKey, AKeymapLoadInTheMiddleIsSafe) {
+  AddZoom("W", 1, "horizontal", 120);
+  Load();
+  Play("down W; wait 20; up W");
+  Load();
+  Play("wait 1000");
+  EXPECT_WIRE_NONE();
+}
+
+}  // namespace
+}  // namespace taviinputmanager
