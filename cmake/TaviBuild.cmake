@@ -30,6 +30,19 @@ function(tavi_target_defaults target)
       -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
   endif()
+  get_target_property(type ${target} TYPE)
+  if(TAVI_SANITIZE AND type STREQUAL EXECUTABLE)
+    target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/sanitizer_options.cpp)
+  endif()
+endfunction()
+
+# Leaves exactly the symbols that a version script names: hidden visibility alone leaks template instances.
+function(tavi_export_only target version_script)
+  if(WIN32 OR TAVI_SANITIZE)
+    return()
+  endif()
+  target_link_options(${target} PRIVATE -Wl,--version-script=${version_script} -Wl,--no-undefined)
+  set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
 # Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header.

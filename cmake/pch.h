@@ -1,4 +1,8 @@
 // Heads that most files of the library read and nobody changes.
+#include <cmath>
+#include <functional>
+#include <memory>
+
 #include <QEvent>
 #include <QList>
 #include <QMap>
@@ -9,6 +13,3 @@
 #include <QStringList>
 #include <QTimer>
 #include <QVector>
-#include <cmath>
-#include <functional>
-#include <memory>

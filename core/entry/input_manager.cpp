@@ -33,7 +33,6 @@ namespace taviinputmanager {
 
 namespace keywords = tavikeymapmanager::keywords;
 using tavikeymapmanager::JoystickEvent;
-using tavikeymapmanager::KeymapConfig;
 using tavikeymapmanager::kUnsetCode;
 using tavikeymapmanager::kWheelDownCode;
 using tavikeymapmanager::kWheelUpCode;

@@ -7,7 +7,6 @@
 
 namespace tavi {
 
-using tavikeymapmanager::ConfigKey;
 using Kind = ScriptCommand::Kind;
 
 namespace {

@@ -1,0 +1,92 @@
+#!/usr/bin/env python3
+"""An installed tree is complete, can be moved, and others can build on it by CMake and by pkg-config.
+
+    installed_tree_test.py BUILD_DIR SOURCE_DIR LIB_DIR WORK_DIR CMAKE GENERATOR COMPILER
+"""
+import os
+import re
+import shutil
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+BUILD, SOURCE, LIB, WORK, CMAKE, GENERATOR, COMPILER = sys.argv[1:8]
+del sys.argv[1:8]
+WORK = Path(WORK)
+INSTALLED = WORK / "moved" / "installed"
+EXAMPLE = Path(SOURCE) / "examples" / "host"
+ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+ENVIRONMENT.pop("LD_LIBRARY_PATH", None)
+
+# Each load lifts every finger of the display held so far: that of Initialize and that of the keymap, both before display 1.
+# Then the key F is a finger at (0.9, 0.5) of a touch surface of 1920 x 1080: 1728, 540. The first finger of taps is 11.
+EXPECTED = "0:SLOTRELEASEALL\n" * 2 + "1:SLOTPRESS:11:11:1:1:1728:540\n1:SLOTRELEASE:11\n"
+
+
+def run(*command, **options):
+    result = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE,
+                            stderr=subprocess.STDOUT, env=ENVIRONMENT, **options)
+    if result.returncode != 0:
+        raise AssertionError(f"{command} gave {result.returncode}:\n{result.stdout}")
+    return result.stdout
+
+
+def output_of(program):
+    return subprocess.run([program, EXAMPLE / "keymap.yaml"], check=True, text=True, stdout=subprocess.PIPE,
+                          env=ENVIRONMENT).stdout
+
+
+def setUpModule():
+    shutil.rmtree(WORK, ignore_errors=True)
+    run(CMAKE, "--install", BUILD, "--prefix", WORK / "installed")
+    INSTALLED.parent.mkdir()
+    (WORK / "installed").rename(INSTALLED)
+
+
+class InstalledTree(unittest.TestCase):
+    def test_holds_libraries_program_and_packages(self):
+        for name in [f"{LIB}/libtaviinputmanager.so", f"{LIB}/libtavi-keymapmanager.so", "bin/tavi",
+                     f"{LIB}/cmake/taviinputmanager/taviinputmanagerConfig.cmake",
+                     f"{LIB}/pkgconfig/taviinputmanager.pc", f"{LIB}/pkgconfig/tavi-keymapmanager.pc"]:
+            self.assertTrue((INSTALLED / name).is_file(), name)
+
+    def test_holds_the_public_headers_and_no_other(self):
+        expected = [path.relative_to(Path(SOURCE) / "include") for path in (Path(SOURCE) / "include").rglob("*.h")]
+        expected += [path.relative_to(SOURCE) for path in (Path(SOURCE) / "keymap").glob("*.h")]
+        expected += [Path("keymapmanager/keymap_file.h"), Path("keymapmanager/key_names.h")]
+        include = INSTALLED / "include"
+        self.assertEqual(sorted(path.relative_to(include) for path in include.rglob("*") if path.is_file()),
+                         sorted(expected))
+
+    def test_headers_need_no_header_that_is_not_installed(self):
+        include = INSTALLED / "include"
+        missing = [f"{path.relative_to(include)} includes {name}" for path in include.rglob("*.h")
+                   for name in re.findall(r'#include "([^"]+)"', path.read_text(encoding="utf-8"))
+                   if not (include / name).is_file()]
+        self.assertEqual(missing, [])
+
+    def test_program_starts(self):
+        self.assertIn("tavi", run(INSTALLED / "bin" / "tavi", "--help"))
+
+    def test_example_host_builds_by_cmake_and_runs(self):
+        build = WORK / "by_cmake"
+        run(CMAKE, "-G", GENERATOR, "-S", EXAMPLE, "-B", build, f"-DCMAKE_PREFIX_PATH={INSTALLED}",
+            f"-DCMAKE_CXX_COMPILER={COMPILER}")
+        run(CMAKE, "--build", build)
+        self.assertEqual(output_of(build / "example_host"), EXPECTED)
+
+    def test_example_host_builds_by_pkg_config_and_runs(self):
+        ENVIRONMENT["PKG_CONFIG_PATH"] = str(INSTALLED / LIB / "pkgconfig")
+        flags = run("pkg-config", "--cflags", "--libs", "taviinputmanager").split()
+        program = WORK / "by_pkg_config"
+        run(COMPILER, "-std=c++17", EXAMPLE / "main.cpp", "-o", program, *flags, f"-Wl,-rpath,{INSTALLED / LIB}")
+        self.assertEqual(output_of(program), EXPECTED)
+
+    def test_pkg_config_finds_the_keymap_library_by_itself(self):
+        ENVIRONMENT["PKG_CONFIG_PATH"] = str(INSTALLED / LIB / "pkgconfig")
+        self.assertIn("-ltavi-keymapmanager", run("pkg-config", "--libs", "tavi-keymapmanager"))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
+#
+#   tools/install-dependencies.sh [build|test|lint]...        (without a word: build)
+set -euo pipefail
+
+build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev)
+test=(libgtest-dev python3 python3-jsonschema python3-yaml)
+lint=(clang-format-14 clang-tidy-14)
+
+packages=()
+for group in "${@:-build}"; do
+  case $group in
+    build) packages+=("${build[@]}") ;;
+    test) packages+=("${test[@]}") ;;
+    lint) packages+=("${lint[@]}") ;;
+    *) echo "install-dependencies: no such group: $group" >&2; exit 2 ;;
+  esac
+done
+
+if ! command -v apt-get >/dev/null; then
+  echo "install-dependencies: not a Debian machine; these packages or their like have to be there: ${packages[*]}" >&2
+  exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+  [ "$status" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+if [ "$(id -u)" -eq 0 ]; then
+  as_root=(env)
+elif command -v sudo >/dev/null; then
+  as_root=(sudo)
+else
+  echo "install-dependencies: missing: ${missing[*]}" >&2
+  echo "install-dependencies: neither root nor sudo is here; as root: apt-get install ${missing[*]}" >&2
+  exit 1
+fi
+
+echo "Installing ${missing[*]}" >&2
+apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300)
+"${apt[@]}" update >&2
+"${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2
