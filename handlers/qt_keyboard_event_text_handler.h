@@ -6,16 +6,20 @@
 
 namespace taviinputmanager {
 
+// Uses up every key. All goes out on the press, the host's repeats included: keys that move or control as clicks, so
+// that nothing stays down, everything else as text.
 class QtKeyboardEventTextHandler : public QtKeyboardEventHandler {
  public:
   static QtKeyboardEventTextHandler* GetInstance();
 
-  // Both use up every key.
+ protected:
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
 
  private:
   QtKeyboardEventTextHandler() = default;
+
+  void Click(int code);
 };
 
 }  // namespace taviinputmanager
