@@ -56,6 +56,7 @@ void WorkerThread::quit() {
 }
 
 void WorkerThread::run() {
+  if (state_.load() != WorkerRunState::kClosed) Q_EMIT started(QPrivateSignal());
   exec();
   delete worker_;
 }
@@ -64,7 +65,7 @@ void WorkerThread::Begin() {
   if (begun_ || state_.load() == WorkerRunState::kClosed) return;  // quit came first
   if (is_virtual_) {
     begun_ = true;
-    QMetaObject::invokeMethod(this, "started", Qt::DirectConnection);
+    Q_EMIT started(QPrivateSignal());
     return;
   }
   start(QThread::InheritPriority);

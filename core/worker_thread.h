@@ -19,7 +19,7 @@ namespace taviinputmanager {
 //
 //   auto* worker = new TapWorker(record);            // no parent; the run owns it from the next line on
 //   auto* run = new WorkerThread(worker);
-//   connect(run, &QThread::started, worker, &TapWorker::Process);
+//   connect(run, &WorkerThread::started, worker, &TapWorker::Process);
 //   connect(this, &Simulator::StopTap, worker, &TapWorker::Stop, Qt::QueuedConnection);
 //   connect(worker, &TapWorker::TapPressed, this, &Simulator::OnTapPressed, Qt::QueuedConnection);
 //   connect(worker, &TapWorker::TapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
@@ -63,6 +63,10 @@ class WorkerThread : public QThread {
   // A precise timer, owned by the worker `owner`, called where that worker runs. It is marked with
   // kWorkerTimerProperty, so that a blocking pause of the main thread does not hold it up in virtual time either.
   static QTimer* MakeWorkerTimer(QObject* owner);
+
+ Q_SIGNALS:
+  // In place of QThread's own, which would still reach a worker whose run was quit as its thread came up.
+  void started(QPrivateSignal);
 
  public Q_SLOTS:
   // Ends the run; further calls do nothing. Not from inside the worker's own code.

@@ -46,7 +46,7 @@ void WheelEventSimulator::StartRun(const WheelConfigItem& item) {
   if (!pool->PressAt(item.rel_x, item.rel_y)) return;  // no finger is free
   auto* worker = new WheelOneOffWorker(item, pool->GetSlotId());
   auto* run = new WorkerThread(worker);
-  connect(run, &QThread::started, worker, &WheelOneOffWorker::OneOffProcess);
+  connect(run, &WorkerThread::started, worker, &WheelOneOffWorker::OneOffProcess);
   connect(this, &WheelEventSimulator::StopOneOffWheel, worker, &WheelOneOffWorker::OneOffStop, Qt::QueuedConnection);
   run->DeleteWorkerOn(worker, &WheelOneOffWorker::OneOffWheelFinished);
   // Posted once more: the finger lifts before the next run takes a slot.

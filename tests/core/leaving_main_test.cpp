@@ -56,7 +56,7 @@ class LeavingMain : public testing::TestWithParam<Mode> {
       Program program(Mode::kReal);
       auto* worker = new TickWorker(nullptr, kEndless, 0);
       run = new WorkerThread(worker);
-      QObject::connect(run, &QThread::started, worker, &TickWorker::Block);
+      QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Block);
       run->Start();
       if (!program.RunUntil([] { return entered.tryAcquire(); })) std::exit(1);
     }

@@ -123,7 +123,7 @@ class Owner : public QObject {
   WorkerThread* StartRun(int ticks, int interval_ms = 1) {
     auto* worker = new TickWorker(journal_, ticks, interval_ms);
     auto* run = new WorkerThread(worker);
-    connect(run, &QThread::started, worker, &TickWorker::Process);
+    connect(run, &WorkerThread::started, worker, &TickWorker::Process);
     connect(this, &Owner::Request, worker, &TickWorker::Request, Qt::QueuedConnection);
     connect(this, &Owner::Block, worker, &TickWorker::Block, Qt::QueuedConnection);
     connect(this, &Owner::Stop, worker, &TickWorker::Finish, Qt::QueuedConnection);
@@ -140,7 +140,7 @@ class Owner : public QObject {
   void StartRepeatingRun(int repeats, bool quit_at_once) {
     auto* worker = new TickWorker(journal_, 2, 1);
     auto* run = new WorkerThread(worker);
-    connect(run, &QThread::started, worker, &TickWorker::Process);
+    connect(run, &WorkerThread::started, worker, &TickWorker::Process);
     if (quit_at_once) connect(worker, &TickWorker::Finished, run, &WorkerThread::quit, Qt::QueuedConnection);
     run->DeleteWorkerOn(worker, &TickWorker::Finished);
     const auto repeat = [=] {

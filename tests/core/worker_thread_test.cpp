@@ -65,7 +65,7 @@ TEST_P(WorkerRun, BeginsBeforeItsFirstRequest) {
 TEST_P(WorkerRun, HasAThreadOfItsOwnInRealTimeOnly) {
   auto* worker = new TickWorker(&journal_, kEndless, 1);
   auto* run = new WorkerThread(worker);
-  QObject::connect(run, &QThread::started, worker, &TickWorker::Process);
+  QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
   run->Start();
   ASSERT_TRUE(RunUntil([worker] { return worker->process_thread() != nullptr; }));
   QThread* main_thread = QCoreApplication::instance()->thread();
@@ -78,7 +78,7 @@ TEST_P(WorkerRun, IsStartedOnce) {
   int started = 0;
   WorkerThread* run = owner_.StartRun(kEndless, 1000);
   QObject::connect(
-      run, &QThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
+      run, &WorkerThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
   run->Start();
   Q_EMIT owner_.Request(QStringLiteral("request"));
   ASSERT_TRUE(RunUntilSaid("request"));
@@ -160,7 +160,7 @@ TEST_P(WorkerRun, QuitBeforeItsBeginningNeverRuns) {
   int started = 0;
   const QPointer<WorkerThread> run = owner_.StartRun(kEndless);
   QObject::connect(
-      run, &QThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
+      run, &WorkerThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
   Q_EMIT owner_.Request(QStringLiteral("request"));
   run->quit();
   run->quit();
@@ -180,7 +180,7 @@ TEST_P(WorkerRun, QuitWithoutAStartEndsToo) {
 TEST_P(WorkerRun, StartedAfterItsQuitNeverRuns) {
   auto* worker = new TickWorker(&journal_, 1, 1);
   const QPointer<WorkerThread> run = new WorkerThread(worker);
-  QObject::connect(run, &QThread::started, worker, &TickWorker::Process);
+  QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
   run->quit();
   run->Start();
   ASSERT_TRUE(RunUntilGone(run));
@@ -200,7 +200,7 @@ TEST_P(WorkerRun, QuitKeepsRequestsFromTheWorker) {
 TEST_P(WorkerRun, LetsAWorkerDeleteItselfByAPlainConnection) {
   auto* worker = new TickWorker(&journal_, 2, 1);
   const QPointer<WorkerThread> run = new WorkerThread(worker);
-  QObject::connect(run, &QThread::started, worker, &TickWorker::Process);
+  QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
   QObject::connect(worker, &TickWorker::Finished, worker, &QObject::deleteLater, Qt::DirectConnection);
   run->Start();
   ASSERT_TRUE(RunUntil([] { return live_workers == 0; }));
@@ -212,7 +212,7 @@ TEST_P(WorkerRun, LetsAWorkerDeleteItselfByAPlainConnection) {
 TEST_P(WorkerRun, DeletesAWorkerThatDoesNotDoItItself) {
   auto* worker = new TickWorker(&journal_, 2, 1);
   const QPointer<WorkerThread> run = new WorkerThread(worker);
-  QObject::connect(run, &QThread::started, worker, &TickWorker::Process);
+  QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
   QObject::connect(worker, &TickWorker::Finished, run, &WorkerThread::quit, Qt::QueuedConnection);
   int live_at_finish = -1;
   QObject::connect(run, &QThread::finished, &owner_, [&live_at_finish] { live_at_finish = live_workers; });
