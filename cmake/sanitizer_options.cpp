@@ -8,8 +8,14 @@ extern "C" __attribute__((visibility("default"))) const char* __tsan_default_opt
 #endif
 
 #if defined(__SANITIZE_ADDRESS__)
-// What Qt's platform "offscreen" leaves behind with its screen.
+// What Qt leaves behind with the screen of its platform "offscreen".
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
-  return "leak:libqoffscreen.so\n";
+  return "leak:libqoffscreen.so\n"
+         "leak:QWindowSystemInterface::handleScreenAdded\n";
+}
+
+// No list of what was suppressed behind each output.
+extern "C" __attribute__((visibility("default"))) const char* __lsan_default_options() {
+  return "print_suppressions=0";
 }
 #endif

@@ -63,7 +63,7 @@ class SwipeholdEventSimulator : public EventSimulator {
 
  private:
   struct Entry {
-    SwipeholdAsyncWorker* worker;  // a singleton
+    SwipeholdAsyncWorker* worker = nullptr;  // a singleton
     tavikeymapmanager::SwipeholdConfigItem item;
   };
 
