@@ -22,13 +22,14 @@ class MacroInput {
   // Nothing for a command that is not about such input.
   void Obey(const MacroCommand& command);
 
+  // The name of the virtual pointer.
   qint64 GetVmouseId() const { return vmouse_id_; }
 
  private:
   void SetVmouseButton(int button, bool press) const;
   void MoveVmouse(const QString& element);
 
-  qint64 vmouse_id_;      // random: the name of the virtual pointer
+  qint64 vmouse_id_;      // random; no two macros have the same
   QPointF vmouse_point_;  // where it is, display pixels
 };
 

@@ -42,8 +42,6 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   bool IsRunning() const { return state_ == State::kPress || state_ == State::kRelease; }
   // A list that this worker was pressed with has a loop until release.
   bool HasUntilRelease() const { return has_until_release_; }
-  // The name of its virtual pointer.
-  qint64 GetVmouseId() const { return input_.GetVmouseId(); }
 
   // Ends the macro at once: lifts its curve and the points that it pressed one by one, and deletes itself, later where
   // one of its commands is under way. To delete it without this sends nothing.
