@@ -9,10 +9,55 @@
 
 namespace tavikeymapmanager {
 
-enum class MacroMatch { kPrefix, kEqual };
+// What a command does, one for each row of the table.
+enum class MacroVerb {
+  kDefaultSleepTime,
+  kSleepDefault,
+  kSleep,
+  kPressRel,
+  kReleaseAll,
+  kReleaseRel,
+  kStartLoop,
+  kStopLoop,
+  kClickRel,
+  kCurveRel,
+  kKeyboardPress,
+  kKeyboardRelease,
+  kTextInject,
+  kEnterStaring,
+  kExitStaring,
+  kMousePress,
+  kMouseRelease,
+  kVmousePress,
+  kVmouseRelease,
+  kVmouseMove,
+  kVmouseWheelUp,
+  kVmouseWheelDown,
+  kMouseWheelUp,
+  kMouseWheelDown,
+  kSwitchRel,
+  kKeyboardSwitch,
+  kMouseSwitch,
+  kCurveFirstPointSleepTime,
+  kCurveLastPointSleepTime,
+  kCurveRelease,
+  kJoystickPress,
+  kJoystickRelease,
+  kJoystickSwitch,
+  kMouseLockedSwitch,
+  kHoldSwitch,
+  kSwipeholdRadiusIncreasedSwitch,
+  kScreenshotRel,
+};
+
+enum class MacroMatch {
+  kPrefix,
+  kPrefixWithColon,  // the word and the ":" behind it, so that `curve_rel` is not also read in `curve_release`
+  kEqual,
+};
 
 enum class MacroArgument {
-  kNone,
+  kNone,  // what may stand behind the word is not looked at
   kInteger,
   kIntegerOrWord,  // or the row's `argument_word`
   kNumber,
@@ -23,6 +68,7 @@ enum class MacroArgument {
 };
 
 struct MacroWord {
+  MacroVerb verb;
   const char* word;
   MacroMatch match;
   MacroArgument argument;
@@ -32,43 +78,47 @@ struct MacroWord {
 
 // In the order of matching.
 constexpr MacroWord kMacroWords[] = {
-    {"default_sleep_time", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},  // ms
-    {"sleep", MacroMatch::kEqual, MacroArgument::kNone, true, nullptr},
-    {"sleep", MacroMatch::kPrefix, MacroArgument::kInteger, true, nullptr},  // ms
-    {"press_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
-    {"release_all", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
-    {"release_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
-    {"start_loop", MacroMatch::kPrefix, MacroArgument::kIntegerOrWord, false, "until_release"},
-    {"stop_loop", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
-    {"click_rel", MacroMatch::kPrefix, MacroArgument::kPoints, true, nullptr},
-    {"curve_rel", MacroMatch::kPrefix, MacroArgument::kPoints, true, nullptr},  // its ":" belongs to the word
-    {"keyboard_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"keyboard_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"text_inject", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
-    {"enter_staring", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
-    {"exit_staring", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
-    {"mouse_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"mouse_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"vmouse_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"vmouse_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"vmouse_move", MacroMatch::kPrefix, MacroArgument::kPoint, false, nullptr},
-    {"vmouse_wheelup", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"vmouse_wheeldown", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"mouse_wheelup", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"mouse_wheeldown", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"switch_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
-    {"keyboard_switch", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"mouse_switch", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"curve_first_point_sleep_time", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
-    {"curve_last_point_sleep_time", MacroMatch::kPrefix, MacroArgument::kIntegerOrWord, false, "until_release_cmd"},
-    {"curve_release", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
-    {"joystick_press", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
-    {"joystick_release", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
-    {"joystick_switch", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
-    {"mouselocked_switch", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
-    {"hold_switch", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
-    {"swipehold_radius_increased_switch", MacroMatch::kPrefix, MacroArgument::kNumber, false, nullptr},
-    {"screenshot_rel", MacroMatch::kPrefix, MacroArgument::kAny, false, nullptr},
+    {MacroVerb::kDefaultSleepTime, "default_sleep_time", MacroMatch::kPrefix, MacroArgument::kInteger, false,
+     nullptr},  // ms
+    {MacroVerb::kSleepDefault, "sleep", MacroMatch::kEqual, MacroArgument::kNone, true, nullptr},
+    {MacroVerb::kSleep, "sleep", MacroMatch::kPrefix, MacroArgument::kInteger, true, nullptr},  // ms
+    {MacroVerb::kPressRel, "press_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
+    {MacroVerb::kReleaseAll, "release_all", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kReleaseRel, "release_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
+    {MacroVerb::kStartLoop, "start_loop", MacroMatch::kPrefix, MacroArgument::kIntegerOrWord, false, "until_release"},
+    {MacroVerb::kStopLoop, "stop_loop", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kClickRel, "click_rel", MacroMatch::kPrefix, MacroArgument::kPoints, true, nullptr},
+    {MacroVerb::kCurveRel, "curve_rel", MacroMatch::kPrefixWithColon, MacroArgument::kPoints, true, nullptr},
+    {MacroVerb::kKeyboardPress, "keyboard_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kKeyboardRelease, "keyboard_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kTextInject, "text_inject", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
+    {MacroVerb::kEnterStaring, "enter_staring", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kExitStaring, "exit_staring", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kMousePress, "mouse_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kMouseRelease, "mouse_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kVmousePress, "vmouse_press", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kVmouseRelease, "vmouse_release", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kVmouseMove, "vmouse_move", MacroMatch::kPrefix, MacroArgument::kPoint, false, nullptr},
+    {MacroVerb::kVmouseWheelUp, "vmouse_wheelup", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kVmouseWheelDown, "vmouse_wheeldown", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kMouseWheelUp, "mouse_wheelup", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kMouseWheelDown, "mouse_wheeldown", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kSwitchRel, "switch_rel", MacroMatch::kPrefix, MacroArgument::kPoints, false, nullptr},
+    {MacroVerb::kKeyboardSwitch, "keyboard_switch", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kMouseSwitch, "mouse_switch", MacroMatch::kPrefix, MacroArgument::kInteger, false, nullptr},
+    {MacroVerb::kCurveFirstPointSleepTime, "curve_first_point_sleep_time", MacroMatch::kPrefix, MacroArgument::kInteger,
+     false, nullptr},
+    {MacroVerb::kCurveLastPointSleepTime, "curve_last_point_sleep_time", MacroMatch::kPrefix,
+     MacroArgument::kIntegerOrWord, false, "until_release_cmd"},
+    {MacroVerb::kCurveRelease, "curve_release", MacroMatch::kEqual, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kJoystickPress, "joystick_press", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
+    {MacroVerb::kJoystickRelease, "joystick_release", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
+    {MacroVerb::kJoystickSwitch, "joystick_switch", MacroMatch::kPrefix, MacroArgument::kText, false, nullptr},
+    {MacroVerb::kMouseLockedSwitch, "mouselocked_switch", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kHoldSwitch, "hold_switch", MacroMatch::kPrefix, MacroArgument::kNone, false, nullptr},
+    {MacroVerb::kSwipeholdRadiusIncreasedSwitch, "swipehold_radius_increased_switch", MacroMatch::kPrefix,
+     MacroArgument::kNumber, false, nullptr},
+    {MacroVerb::kScreenshotRel, "screenshot_rel", MacroMatch::kPrefix, MacroArgument::kAny, false, nullptr},
 };
 
 }  // namespace tavikeymapmanager

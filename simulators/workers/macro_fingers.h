@@ -1,0 +1,44 @@
+// The fingers that a macro's commands put down by point.
+#ifndef SIMULATORS_WORKERS_MACRO_FINGERS_H_
+#define SIMULATORS_WORKERS_MACRO_FINGERS_H_
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+
+namespace taviinputmanager {
+
+// Builds commands and sends nothing; an empty command means that there is nothing to send. The fingers are entries of
+// MacroSlotManager, which all macros share: a finger is known by its point, so one macro may lift another's.
+// Main thread only.
+class MacroFingers {
+ public:
+  // One line with a contact for each point of the list that gets a slot.
+  QString Press(const QString& list);
+  // One line with a slot for each point of the list that holds one. "mouse" is the point of the last press there,
+  // wherever the pointer is by now.
+  QString Release(const QString& list);
+  // Whatever the macros hold, curves and virtual pointers included.
+  static QString ReleaseAll();
+
+  // A list in two: the points to press, and those to release since they are down.
+  struct Halves {
+    QString press;
+    QString release;
+  };
+  Halves Split(const QString& list) const;
+
+  // What the end of a macro lifts: presses of a single point that are still down. A list of several points stays.
+  QString ReleasePressed();
+
+ private:
+  QPointF TakeReleasePoint(const QString& element);
+  QString ReleaseElements(const QStringList& elements);
+
+  QPointF mouse_point_;         // of the last press at "mouse"; null when none is held
+  QStringList pressed_points_;  // each list that was pressed, as a whole and once
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_WORKERS_MACRO_FINGERS_H_

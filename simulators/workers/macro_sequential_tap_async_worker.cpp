@@ -1,0 +1,248 @@
+#include "simulators/workers/macro_sequential_tap_async_worker.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QTimer>
+
+#include "core/input_manager.h"
+#include "core/numbers.h"
+#include "keymap/keywords.h"
+#include "keymap/macro_config_item.h"
+#include "keymap/operation_recorder_config_item.h"
+#include "simulators/workers/macro_command.h"
+#include "simulators/workers/macro_key_text.h"
+#include "taviinputmanager/callbacks.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::MacroConfigItem;
+using tavikeymapmanager::MacroVerb;
+using tavikeymapmanager::OperationRecorderConfigItem;
+
+namespace {
+
+constexpr int kMaxDepth = 8;  // a release list that releases its own key would come back without end
+
+// While it lives, the worker is not deleted under its feet.
+class CallScope {
+ public:
+  explicit CallScope(int* depth) : depth_(depth) { ++*depth_; }
+  ~CallScope() { --*depth_; }
+  CallScope(const CallScope&) = delete;
+  CallScope& operator=(const CallScope&) = delete;
+
+ private:
+  int* depth_;
+};
+
+bool IsLoopUntilRelease(const QString& text) {
+  const auto command = ParseMacroCommand(text);
+  return command && command->verb == MacroVerb::kStartLoop && command->argument == QLatin1String("until_release");
+}
+
+bool HasLoopUntilRelease(const QStringList& commands) {
+  return std::any_of(commands.begin(), commands.end(), IsLoopUntilRelease);
+}
+
+// Of the pauses that name their time, in ms.
+int TotalSleep(const QStringList& commands) {
+  int total = 0;
+  for (const QString& text : commands) {
+    const auto command = ParseMacroCommand(text);
+    if (command && command->verb == MacroVerb::kSleep) total = AddWrapped(total, command->Integer());
+  }
+  return total;
+}
+
+void TellOperationStarted(const MacroConfigItem& item) {
+  if (!dynamic_cast<const OperationRecorderConfigItem*>(&item)) return;
+  const InputManagerCallbacks* callbacks = InputManager::GetInstance()->GetCallbacks();
+  if (!callbacks || !callbacks->OnOperationRecorderStarted) return;
+  callbacks->OnOperationRecorderStarted(MacroKeyText(item.key), TotalSleep(item.press_commands));
+}
+
+void RequestScreenshot(const QString& text) {
+  const InputManagerCallbacks* callbacks = InputManager::GetInstance()->GetCallbacks();
+  if (callbacks && callbacks->OnScreenshotRequest) callbacks->OnScreenshotRequest(text);
+}
+
+void SwitchMouseLock(const QString& key_name) {
+  const InputManager* manager = InputManager::GetInstance();
+  // There the Staring item's key does it.
+  if (manager->isConfigHasSpeicalTypeKey(tavikeymapmanager::keywords::kTypeStaring)) return;
+  const InputManagerCallbacks* callbacks = manager->GetCallbacks();
+  if (callbacks && callbacks->OnMouseLockSwitch) callbacks->OnMouseLockSwitch(key_name);
+}
+
+}  // namespace
+
+MacroSequentialTapAsyncWorker::MacroSequentialTapAsyncWorker() = default;
+
+// ---- From outside ----
+
+void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*key*/) {
+  const CallScope scope(&depth_);
+  key_name_ = item->key.text;
+  state_ = State::kPress;
+  const QStringList commands = item->press_commands;
+  if (HasLoopUntilRelease(commands) || HasLoopUntilRelease(item->release_commands)) has_until_release_ = true;
+  TellOperationStarted(*item);
+  StopList();
+  RunList(commands);
+}
+
+void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
+  if (loop_.IsUntilRelease()) return loop_.EndSoon();
+  if (depth_ >= kMaxDepth) return;
+  const CallScope scope(&depth_);
+  key_name_ = item->key.text;
+  state_ = State::kRelease;
+  if (!item->release_commands.isEmpty()) {
+    curve_.Clear();  // its finger stays down
+    StopList();
+    RunList(item->release_commands);
+  } else if (commands_.isEmpty()) {
+    state_ = State::kFinished;
+  }
+}
+
+void MacroSequentialTapAsyncWorker::OnTimer() {
+  const CallScope scope(&depth_);
+  if (curve_.HasNextPoint()) {
+    SendEvent(curve_.BuildNextPress());
+    if (curve_.HasNextPoint()) {
+      Pause(default_sleep_);
+      return;
+    }
+    if (!curve_.IsHeldAtEnd()) {
+      Pause(curve_.GetLastSleep(default_sleep_));
+      return;
+    }
+  }
+  if (curve_.IsPlayedOut()) SendEvent(curve_.BuildRelease());
+  if (!click_points_.isEmpty()) SendEvent(fingers_.Release(std::exchange(click_points_, QString())));
+  Timer()->stop();
+  Step();
+}
+
+void MacroSequentialTapAsyncWorker::Discard() {
+  is_discarded_ = true;
+  StopList();
+  SendEvent(curve_.BuildRelease());
+  SendEvent(fingers_.ReleasePressed());
+  if (depth_ == 0) {
+    delete this;
+  } else {
+    deleteLater();  // one of its commands is under way and will return here
+  }
+}
+
+// ---- The list ----
+
+void MacroSequentialTapAsyncWorker::StopList() {
+  Timer()->stop();
+  commands_.clear();
+  command_index_ = 0;
+}
+
+void MacroSequentialTapAsyncWorker::RunList(const QStringList& list) {
+  if (list.isEmpty()) {
+    state_ = State::kFinished;
+    return;
+  }
+  commands_ = list;
+  command_index_ = 0;
+  default_sleep_ = kDefaultSleepMs;
+  Step();
+}
+
+void MacroSequentialTapAsyncWorker::Step() {
+  while (!is_discarded_) {
+    if (command_index_ >= commands_.size()) {
+      StopList();
+      state_ = State::kFinished;
+      return;
+    }
+    const QString text = commands_.at(command_index_++);  // a command may replace the list
+    if (!Obey(text)) return;
+  }
+}
+
+bool MacroSequentialTapAsyncWorker::Obey(const QString& text) {
+  const auto command = ParseMacroCommand(text);
+  if (!command) return true;  // skipped
+  const QString& argument = command->argument;
+  switch (command->verb) {
+    case MacroVerb::kSleepDefault: return Pause(default_sleep_);
+    case MacroVerb::kSleep: return Pause(command->Integer());
+    case MacroVerb::kClickRel: return Click(argument);
+    case MacroVerb::kCurveRel: return DrawCurve(argument);
+    case MacroVerb::kDefaultSleepTime: default_sleep_ = command->Integer(); break;
+    case MacroVerb::kPressRel: SendEvent(fingers_.Press(argument)); break;
+    case MacroVerb::kReleaseRel: SendEvent(fingers_.Release(argument)); break;
+    case MacroVerb::kReleaseAll: ReleaseAll(); break;
+    case MacroVerb::kSwitchRel: Switch(argument); break;
+    case MacroVerb::kStartLoop: StartLoop(text, command->Integer()); break;
+    case MacroVerb::kStopLoop: StopLoop(); break;
+    case MacroVerb::kCurveFirstPointSleepTime: curve_.SetFirstSleep(command->Integer()); break;
+    case MacroVerb::kCurveLastPointSleepTime: SetLastCurveSleep(argument); break;
+    case MacroVerb::kCurveRelease: SendEvent(curve_.BuildRelease()); break;
+    case MacroVerb::kMouseLockedSwitch: SwitchMouseLock(key_name_); break;
+    case MacroVerb::kScreenshotRel: RequestScreenshot(text); break;
+    default: input_.Obey(*command); break;
+  }
+  return true;
+}
+
+bool MacroSequentialTapAsyncWorker::Pause(int ms) {
+  if (!is_discarded_) Timer()->start(ms);
+  return false;
+}
+
+// ---- Fingers and loops ----
+
+bool MacroSequentialTapAsyncWorker::Click(const QString& list) {
+  SendEvent(fingers_.Press(list));
+  click_points_ = list;
+  return Pause(default_sleep_);
+}
+
+bool MacroSequentialTapAsyncWorker::DrawCurve(const QString& list) {
+  if (!curve_.Start(list)) return true;  // one is in progress, or all fingers of macros are down
+  SendEvent(curve_.BuildNextPress());
+  return Pause(curve_.GetFirstSleep(default_sleep_));
+}
+
+void MacroSequentialTapAsyncWorker::ReleaseAll() {
+  const QString release = MacroFingers::ReleaseAll();
+  if (release.isEmpty()) return;  // no finger was down; the settings of the next curve stay too
+  SendEvent(release);
+  curve_.Clear();
+}
+
+void MacroSequentialTapAsyncWorker::Switch(const QString& list) {
+  const MacroFingers::Halves halves = fingers_.Split(list);
+  if (!halves.press.isEmpty()) SendEvent(fingers_.Press(halves.press));
+  if (!halves.release.isEmpty()) SendEvent(fingers_.Release(halves.release));
+}
+
+void MacroSequentialTapAsyncWorker::StartLoop(const QString& text, int count) {
+  loop_.Start(IsLoopUntilRelease(text) ? MacroLoop::kUntilRelease : count, command_index_);
+}
+
+void MacroSequentialTapAsyncWorker::StopLoop() {
+  constexpr int kBack = 2;  // the index is past the stop_loop already
+  if (loop_.Repeats(command_index_ - kBack)) command_index_ = loop_.GetStart();
+}
+
+void MacroSequentialTapAsyncWorker::SetLastCurveSleep(const QString& argument) {
+  if (argument == QLatin1String("until_release_cmd")) {
+    curve_.SetUntilRelease();
+  } else {
+    curve_.SetLastSleep(argument.toInt());
+  }
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,170 @@
+// The order and the time of commands: pauses, loops, presses and releases of the key.
+#include "simulators/workers/macro_sequential_tap_async_worker.h"
+
+#include "tests/simulators/macro_story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using MacroWorker = MacroStory;
+
+// ---- Pauses ----
+
+TEST_F(MacroWorker, CommandsWithoutPauseRunInsideThePress) {
+  Run({"text_inject:a", "nonsense", "sleep:1:2", "sleepy", "text_inject:b"});
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, ASleepLastsItsTime) {
+  Run({"sleep:20", "text_inject:a", "sleep", "text_inject:b", "default_sleep_time:5", "sleep", "text_inject:c",
+       "sleepy:10", "text_inject:d"});
+  Wait(100);
+  EXPECT_WIRE("20ms text TEXT:a", "28ms text TEXT:b", "33ms text TEXT:c", "43ms text TEXT:d");
+}
+
+TEST_F(MacroWorker, ASleepOfNothingLetsOtherInputIn) {
+  for (const char* sleep : {"sleep:", "sleep:0", "sleep:x"}) {
+    Run({sleep, "text_inject:a"});
+    EXPECT_WIRE_NONE();
+    Wait(1);
+    EXPECT_EQ(1, TakeWire().size()) << sleep;
+  }
+}
+
+TEST_F(MacroWorker, ANegativeSleepEndsOnlyByTheReleaseList) {
+  Run({"sleep:-5", "text_inject:a"}, {"text_inject:b"});
+  Play("wait 1000; down F1; wait 1000; up F1");
+  EXPECT_WIRE("2000ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, TheDefaultSleepIsNewForEachList) {
+  Run({"default_sleep_time:50"}, {"sleep", "text_inject:a"});
+  Play("up F1; wait 100");
+  EXPECT_WIRE("8ms text TEXT:a");
+}
+
+// ---- Loops ----
+
+TEST_F(MacroWorker, ALoopRunsItsCount) {
+  Run({"start_loop:3", "text_inject:a", "sleep:5", "stop_loop", "text_inject:b"});
+  Wait(100);
+  EXPECT_WIRE("0ms text TEXT:a", "5ms text TEXT:a", "10ms text TEXT:a", "15ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, ALoopOfOneCommandRunsOnce) {
+  Run({"start_loop:5", "text_inject:a", "stop_loop", "text_inject:b", "stop_loop"});
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, ALoopThatCountsToNothingRunsOnce) {
+  Run({"start_loop:x", "text_inject:a", "text_inject:b", "stop_loop"});
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, AnInnerLoopTakesThePlaceOfTheOuter) {
+  Run({"start_loop:2", "text_inject:a", "start_loop:2", "text_inject:b", "text_inject:c", "stop_loop", "text_inject:d",
+       "stop_loop"});
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b", "0ms text TEXT:c", "0ms text TEXT:b", "0ms text TEXT:c",
+              "0ms text TEXT:d");
+}
+
+TEST_F(MacroWorker, ALoopOfAMillionRoundsNeedsNoStack) {
+  Run({"start_loop:1000000", "nonsense", "nonsense", "stop_loop", "text_inject:a"});
+  EXPECT_WIRE("0ms text TEXT:a");
+}
+
+TEST_F(MacroWorker, ALoopUntilReleaseEndsAtItsNextStop) {
+  Run({"start_loop:until_release", "text_inject:a", "sleep:10", "stop_loop", "text_inject:b"}, {"text_inject:c"});
+  Play("wait 25; up F1; wait 100");
+  // The commands behind the loop run, and the release list does not.
+  EXPECT_WIRE("0ms text TEXT:a", "10ms text TEXT:a", "20ms text TEXT:a", "30ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, ASecondReleaseOfSuchALoopIsAReleaseLikeAnyOther) {
+  Run({"start_loop:until_release", "text_inject:a", "sleep:10", "stop_loop", "text_inject:b"}, {"text_inject:c"});
+  Play("wait 5; up F1; up F1; wait 100");
+  EXPECT_WIRE("0ms text TEXT:a", "5ms text TEXT:c");
+}
+
+TEST_F(MacroWorker, ALoopLeftOpenSwallowsItsRelease) {
+  Run({"start_loop:until_release", "text_inject:a"}, {"text_inject:b"});
+  Play("up F1");
+  EXPECT_WIRE("0ms text TEXT:a");
+  Play("up F1");
+  EXPECT_WIRE("0ms text TEXT:b");
+}
+
+// ---- Presses and releases ----
+
+TEST_F(MacroWorker, APressOfARunningMacroIsDropped) {
+  Run({"text_inject:a", "sleep:20", "text_inject:b"});
+  Play("wait 10; down F1; wait 100");
+  EXPECT_WIRE("0ms text TEXT:a", "20ms text TEXT:b");
+  Play("down F1");  // at 110 ms it is over
+  EXPECT_WIRE("110ms text TEXT:a");
+}
+
+TEST_F(MacroWorker, AReleaseWithoutListLetsThePressListRunOn) {
+  Run({"text_inject:a", "sleep:20", "text_inject:b"});
+  Play("wait 10; up F1; wait 1; down F1; wait 100");  // still running: the second press is dropped
+  EXPECT_WIRE("0ms text TEXT:a", "20ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, AReleaseListCutsThePressListShort) {
+  Run({"text_inject:a", "sleep:20", "text_inject:b"}, {"text_inject:c", "sleep:20", "text_inject:d"});
+  Play("wait 10; up F1; wait 5; down F1; wait 100");  // a press during the release list is dropped
+  EXPECT_WIRE("0ms text TEXT:a", "10ms text TEXT:c", "30ms text TEXT:d");
+}
+
+TEST_F(MacroWorker, AMacroWithoutPauseIsOverBeforeItsRelease) {
+  Run({"text_inject:a"});
+  Play("up F1; down F1; up F1; up F1; down F1");
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:a", "0ms text TEXT:a");
+}
+
+TEST_F(MacroWorker, AMacroMayHaveAReleaseListOnly) {
+  Run({}, {"text_inject:a"});
+  EXPECT_WIRE_NONE();
+  Play("up F1; down F1; up F1");
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:a");
+}
+
+TEST_F(MacroWorker, AReleaseNeedsNoPress) {
+  Macro({}, {"text_inject:a"});
+  Load();
+  Play("up F1");
+  EXPECT_WIRE("0ms text TEXT:a");
+}
+
+// ---- Commands that come back ----
+
+TEST_F(MacroWorker, AMacroStartsAnother) {
+  Macro({"keyboard_press:60", "text_inject:b"});  // F2
+  Macro({"text_inject:a", "sleep:5", "text_inject:c"}, {}, "F2");
+  Load();
+  Play("down F1; wait 5");
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b", "5ms text TEXT:c");
+}
+
+TEST_F(MacroWorker, AMacroDoesNotPressItself) {
+  Run({"text_inject:a", "keyboard_press:59", "text_inject:b"});
+  EXPECT_WIRE("0ms text TEXT:a", "0ms text TEXT:b");
+}
+
+TEST_F(MacroWorker, AMacroThatReleasesItselfGoesOnWithItsReleaseList) {
+  Run({"keyboard_release:59", "text_inject:a"}, {"text_inject:b", "sleep:5", "text_inject:c"});
+  Wait(100);
+  // The pause inside is passed: the outer call goes on with the list in progress. At the tick it is over.
+  EXPECT_WIRE("0ms text TEXT:b", "0ms text TEXT:c");
+}
+
+TEST_F(MacroWorker, AReleaseListThatReleasesItsOwnKeyComesToAnEnd) {
+  Run({}, {"keyboard_release:59", "text_inject:a"});
+  Play("up F1");
+  EXPECT_WIRE("0ms text TEXT:a");
+  Play("down F1; up F1");
+  EXPECT_WIRE("0ms text TEXT:a");
+}
+
+}  // namespace
+}  // namespace taviinputmanager
