@@ -26,6 +26,7 @@ void SendEventBytes(const char* data, int length) {
 }
 void SendTextBytes(const char* data, int length) {
   texts.push_back({std::string(data, static_cast<std::size_t>(length)), length});
+  EXPECT_EQ('\0', data[length]);
 }
 std::string Mirrored(const QString& command, const QVector<QString>& targets) {
   return (command + '>' + targets.toList().join('+')).toStdString();

@@ -2,6 +2,7 @@
 
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
+#include "core/virtual_mouse_event.h"
 #include "handlers/simulator_table.h"
 #include "keymap/tavikeymapmanager.h"
 #include "simulators/bunch_tap_event_simulator.h"
@@ -196,6 +197,14 @@ TEST_F(SimulateHandler, AChordIsFoundWithoutTellingTheHost) {
   Load();
   Play("down Q; down E; up E");
   for (const QString& call : TakeCalls()) EXPECT_FALSE(call.contains("mapped")) << call.toStdString();
+}
+
+TEST_F(SimulateHandler, AChordThatDoesNothingCountsAsUnmapped) {
+  Settings().keyboard_transparent = true;
+  AddChord("Q", "E", {0.5, 0.5})->type = "Teleport";
+  Load();
+  Play("down Q; down E; up E");
+  EXPECT_WIRE("0ms 1:KBDPR:16:1", "0ms 1:KBDPR:18:1", "0ms 1:KBDRL:18:0");
 }
 
 TEST_F(SimulateHandler, ATipAnswersToNothing) {
@@ -435,8 +444,10 @@ TEST_F(SimulateHandler, AResetLeavesTheButtonsOfVirtualPointers) {
   Load();
   Virtual("mouse", 77, 1, true, {100, 200});
   QtKeyboardMouseEventSimulateHandler::GetInstance()->ResetKeyState();
-  Virtual("mouse", 77, 1, false, {100, 200});
-  EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:100:200", "0ms 1:SLOTRELEASE:18");
+  Wait(5);
+  VirtualMouseEvent move(QEvent::MouseMove, {110, 200}, Qt::NoButton, Qt::LeftButton, 77);
+  OnQtInputEvent(&move);
+  EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:100:200", "5ms 1:SLOTPRESS:18:18:1:1:110:200");
 }
 
 }  // namespace

@@ -98,6 +98,26 @@ TEST_F(Transparent, APointerWithoutDisplaySaysNothing) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(Transparent, AWindowOfNoSizeLeavesThePointerWhereItIs) {
+  LoadTransparent();
+  UpdateMousePosition(100, 100);
+  Host().window = {0, 0, 0, 0};
+  Forget();
+  Play("wait 5; move 7,7; wheel +120 640,360");
+  Host().window = {0, 0, 1280, 720};
+  Forget();
+  Relative(1, 0, 0, 1);
+  EXPECT_WIRE("5ms 1:MOUSEMOVE_REL:101:100");
+}
+
+TEST_F(Transparent, AWheelOnAWindowOfNoSizeSaysNothing) {
+  Settings().wheel_transparent = true;
+  Load();
+  Host().window = {0, 0, 0, 0};
+  Play("wheel +120 640,360");
+  EXPECT_WIRE_NONE();
+}
+
 // ---- Relative movement ----
 
 TEST_F(Transparent, ThePointerWrapsAtEveryEdgeButKeepsTheTopTenthFree) {

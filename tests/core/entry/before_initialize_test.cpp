@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTouchEvent>
 
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -13,6 +15,13 @@ TEST(BeforeInitialize, EverythingIsIgnored) {
   SetInputEventSendFunc(reinterpret_cast<void*>(+[](const char*, int) { ++lines; }));
   QKeyEvent key(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier, 17, 87, 0);
   OnQtInputEvent(&key);
+  // With a keymap, and be it an empty one, both of these would be fingers.
+  QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  OnQtInputEvent(&press);
+  QTouchEvent::TouchPoint point(1);
+  point.setPos({5, 5});
+  QTouchEvent touch(QEvent::TouchBegin, nullptr, Qt::NoModifier, Qt::TouchPointPressed, {point});
+  OnQtInputEvent(&touch);
   OnQtInputEvent(nullptr);
   OnJoystickEvent(&key);
   OnWindowsWmRelativeInputEvent(5, 5);

@@ -119,6 +119,23 @@ TEST_F(KeymapLoad, AConfigWithoutRecordsReadsAsDefaults) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(KeymapLoad, AKeyThatIsDownWhenItsKeymapGoesIsForgotten) {
+  auto* chord = Add<tavikeymapmanager::ComposableConfigItem>("Click", "E", {0.5, 0.5});
+  chord->first_key = Key("Q");
+  Add<ConfigItem>("Click", "W", {0.25, 0.5});
+  Load();
+  Play("down Q; down E; down W");
+  Load();
+  Play("up E; up W; up Q");
+  EXPECT_WIRE_NONE();
+}
+
+TEST_F(KeymapLoad, InitializeReportsEscapeThenLoadsBothKeymaps) {
+  Initialize(&Host().table, 0, 0);
+  EXPECT_CALLS("0ms escape_occupied 0", "0ms virtual_joystick 0", "0ms escape_occupied 0", "0ms status 0",
+               "0ms escape_occupied 0", "0ms gravity 0 0 0");
+}
+
 TEST_F(KeymapLoad, NullItemsAreSkipped) {
   auto* config = new KeymapConfig;
   config->items = {nullptr, nullptr};

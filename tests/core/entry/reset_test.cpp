@@ -165,7 +165,21 @@ TEST_F(Reset, TheRadiusSwitchGoesThereAndBack) {
   EXPECT_EQ(1.0, status->GetSwipeholdFactor());
 }
 
-TEST_F(Reset, AFullResetForgetsChordsAndButtonsAnInputResetDoesNot) {
+TEST_F(Reset, AFullResetForgetsTheChordThatIsDown) {
+  auto* chord = Add<tavikeymapmanager::ComposableConfigItem>("Click", "E", {0.5, 0.5});
+  chord->first_key = Key("Q");
+  Load();
+  Play("down Q; down E; reset full");
+  Forget();
+  Play("up E");
+  EXPECT_WIRE_NONE();
+  Play("down Q; down E; reset");
+  Forget();
+  Play("up E");  // an input reset leaves it
+  EXPECT_WIRE("0ms 1:SLOTRELEASE:11");
+}
+
+TEST_F(Reset, AFullResetForgetsButtonsAnInputResetDoesNot) {
   Play("mouse down left 100,100; reset; move 200,200");
   Wait(2);
   Play("move 200,200");

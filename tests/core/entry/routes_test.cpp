@@ -165,6 +165,33 @@ TEST_F(Routes, AMappedLeftButtonMovesItsFingerWhateverPasses) {
               "10ms 1:MOUSEMOVE_REL:30:30");
 }
 
+TEST_F(Routes, AMappedButtonGoesToTheKeymapEvenOnAForcedDisplay) {
+  Add<ConfigItem>("Click", "Mouse Right", {0.5, 0.5});
+  Load();
+  Play("transparent 1 on; mouse down right 10,10; mouse up right 10,10");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:640:360", "0ms 1:SLOTRELEASE:11");
+}
+
+TEST_F(Routes, AMoveOnAForcedDisplayIsThePointers) {
+  Load();
+  Play("transparent 1 on; wait 5; move 20,30");
+  EXPECT_WIRE("5ms 1:MOUSEMOVE_REL:20:30");
+}
+
+TEST_F(Routes, EachLookAtAMappedButtonIsTold) {
+  Add<ConfigItem>("Click", "Mouse Right", {0.5, 0.5});
+  Add<ConfigItem>("Click", "Mouse Left", {0.5, 0.5});
+  Load();
+  Play("mouse down right 10,10");  // by the route, and by the press
+  EXPECT_CALLS("0ms mapped 1", "0ms mapped 1");
+  Play("mouse up right 10,10");
+  EXPECT_CALLS("0ms mapped 1", "0ms mapped 1");
+  Play("mouse down left 10,10; wait 5");
+  Forget();
+  Play("move 20,20");  // the held left button
+  EXPECT_CALLS("5ms mapped 1");
+}
+
 TEST_F(Routes, TheWheelPassesWhereTheKeymapOrTheDisplaySaysSo) {
   Settings().wheel_transparent = true;
   Load();

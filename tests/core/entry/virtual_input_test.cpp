@@ -56,6 +56,21 @@ TEST_F(VirtualInput, AWheelCodeIsATurnOfTheWheel) {
   EXPECT_WIRE("0ms 1:WHEEL:100:200:100:0", "0ms 1:WHEEL:100:200:-100:0");
 }
 
+TEST_F(VirtualInput, AVirtualPointerHasNoWheel) {
+  Settings().wheel_transparent = true;
+  Load();
+  manager_->DispatchVirtualEvent("mouse", 77, 548, true, {100, 200});
+  EXPECT_WIRE_NONE();  // a button that nobody knows
+}
+
+TEST_F(VirtualInput, ACodeBelowZeroIsNoButton) {
+  Settings().mouse_mode = "Mouse_OtherButton_Transparent";
+  Load();
+  manager_->DispatchVirtualEvent("mouse", 77, -8, true, {100, 200});
+  manager_->DispatchVirtualEvent("mouse", 77, -8, false, {100, 200});
+  EXPECT_WIRE_NONE();
+}
+
 TEST_F(VirtualInput, OtherDevicesDoNothing) {
   Load();
   manager_->DispatchVirtualEvent("joystick", 0, 17, true, {});
@@ -141,6 +156,10 @@ TEST_F(SwitchStaring, NeedsAStaringItem) {
 TEST_F(SwitchStaring, NeedsBothCodes) {
   ConfigKey half = Story::Key("F");
   half.virtual_key = tavikeymapmanager::kUnsetCode;
+  LoadWithProbe(half);
+  EXPECT_FALSE(IsPressed(true));
+  half = Story::Key("F");
+  half.scancode = tavikeymapmanager::kUnsetCode;
   LoadWithProbe(half);
   EXPECT_FALSE(IsPressed(true));
 }
