@@ -1,16 +1,91 @@
 #include "simulators/bunch_tap_event_simulator.h"
 
+#include "core/input_logger.h"
+#include "core/worker_thread.h"
+#include "keymap/bunch_click_config_item.h"
+#include "simulators/workers/bunch_tap_continue_worker.h"
+#include "simulators/workers/bunch_tap_one_off_worker.h"
+#include "slots/multipoint_slot_manager.h"
+
 namespace taviinputmanager {
+
+using tavikeymapmanager::BunchClickConfigItem;
+using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::ConfigKey;
+namespace keywords = tavikeymapmanager::keywords;
 
 BunchTapEventSimulator* BunchTapEventSimulator::GetInstance() {
   static BunchTapEventSimulator instance;
   return &instance;
 }
 
-void BunchTapEventSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void BunchTapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
+  const auto* bunch = dynamic_cast<const BunchClickConfigItem*>(item);
+  if (!bunch || bunch->bunch_mode != keywords::kBunchContinue) return;
+  StartContinueRun(*bunch);
+}
 
-void BunchTapEventSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
+void BunchTapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
+  const auto* bunch = dynamic_cast<const BunchClickConfigItem*>(item);
+  if (!bunch) return;
+  if (bunch->bunch_mode == keywords::kBunchContinue) {
+    Q_EMIT StopBunchTap(bunch->key.device, bunch->key.text, bunch->key.scancode);
+  } else {
+    StartOneOffRun(*bunch);
+  }
+}
 
-void BunchTapEventSimulator::Reset(bool /*release_one_off*/) {}
+void BunchTapEventSimulator::Reset(bool release_one_off) {
+  Q_EMIT StopBunchTap(QString(), BunchTapContinueWorker::kForceStop, tavikeymapmanager::kUnsetCode);
+  if (release_one_off) Q_EMIT StopOneOffBunchTap();
+}
+
+void BunchTapEventSimulator::StartContinueRun(const BunchClickConfigItem& item) {
+  using Simulator = BunchTapEventSimulator;
+  using Worker = BunchTapContinueWorker;
+  auto* worker = new Worker(item);
+  auto* run = new WorkerThread(worker);
+  connect(run, &WorkerThread::started, worker, &Worker::Process);
+  connect(this, &Simulator::StopBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
+  connect(worker, &Worker::BunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
+  run->DeleteWorkerOn(worker, &Worker::BunchTapFinished);
+  connect(worker, &Worker::BunchTapPressed, this, &Simulator::OnBunchTapPressed, Qt::QueuedConnection);
+  connect(worker, &Worker::BunchTapReleased, this, &Simulator::OnBunchTapReleased, Qt::QueuedConnection);
+  connect(worker, &Worker::BunchTapFinished, this, &Simulator::OnBunchTapFinished, Qt::QueuedConnection);
+  run->Start();
+}
+
+void BunchTapEventSimulator::StartOneOffRun(const BunchClickConfigItem& item) {
+  using Simulator = BunchTapEventSimulator;
+  using Worker = BunchTapOneOffWorker;
+  auto* worker = new Worker(item);
+  auto* run = new WorkerThread(worker);
+  connect(run, &WorkerThread::started, worker, &Worker::OneOffProcess);
+  connect(this, &Simulator::StopOneOffBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
+  connect(worker, &Worker::OneOffBunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
+  run->DeleteWorkerOn(worker, &Worker::OneOffBunchTapFinished);
+  connect(worker, &Worker::OneOffBunchTapPressed, this, &Simulator::OnBunchTapPressed, Qt::QueuedConnection);
+  connect(worker, &Worker::OneOffBunchTapReleased, this, &Simulator::OnBunchTapReleased, Qt::QueuedConnection);
+  connect(worker, &Worker::OneOffBunchTapFinished, this, &Simulator::OnBunchTapFinished, Qt::QueuedConnection);
+  run->Start();
+}
+
+void BunchTapEventSimulator::OnBunchTapPressed(double x, double y) {
+  MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
+  if (!pool->PressAt(x, y)) return;  // every finger of the pool is down; the next press of the run tries again
+  SendEvent(pool->BuildUpdateCommand());
+}
+
+void BunchTapEventSimulator::OnBunchTapReleased(double x, double y) {
+  MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
+  if (!pool->ReleaseAt(x, y)) return;  // no finger was ever put down at this point
+  SendEvent(pool->BuildUpdateCommand());
+}
+
+void BunchTapEventSimulator::OnBunchTapFinished(double x, double y) {
+  InputLogger* log = InputLogger::GetInstance();
+  if (log->IsDebugOn()) log->Debug("on bunch tap finished");
+  OnBunchTapReleased(x, y);
+}
 
 }  // namespace taviinputmanager

@@ -4,9 +4,21 @@
 
 #include "simulators/event_simulator.h"
 
+namespace tavikeymapmanager {
+struct BunchClickConfigItem;
+}
+
 namespace taviinputmanager {
 
+// In mode "Continue" a press starts a run and the release ends it; in any other mode the release starts a run of a
+// fixed number of taps. The runs keep time on threads of their own; fingers are pressed and lifted here, on the main
+// thread.
+//
+// No list of runs is kept: each stop goes to all, with the key, and each run knows its own. A key pressed twice has two
+// runs, which one release ends.
 class BunchTapEventSimulator : public EventSimulator {
+  Q_OBJECT
+
  public:
   static BunchTapEventSimulator* GetInstance();
 
@@ -15,8 +27,20 @@ class BunchTapEventSimulator : public EventSimulator {
   // Ends the runs of held keys; with `release_one_off` the one-off runs too.
   void Reset(bool release_one_off);
 
+ Q_SIGNALS:
+  void StopBunchTap(const QString& device, const QString& text, int scancode);
+  void StopOneOffBunchTap();
+
+ private Q_SLOTS:
+  void OnBunchTapPressed(double x, double y);
+  void OnBunchTapReleased(double x, double y);
+  void OnBunchTapFinished(double x, double y);
+
  private:
   BunchTapEventSimulator() = default;
+
+  void StartContinueRun(const tavikeymapmanager::BunchClickConfigItem& item);
+  void StartOneOffRun(const tavikeymapmanager::BunchClickConfigItem& item);
 };
 
 }  // namespace taviinputmanager

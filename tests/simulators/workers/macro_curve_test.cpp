@@ -149,7 +149,8 @@ TEST_F(MacroCurves, AResetLiftsTheFinger) {
   Run({"start_loop:until_release", kThree, "stop_loop"});
   Forget();
   Play("wait 4; reset full; wait 100");
-  EXPECT_EQ("4ms 1:SLOTMULTIRELEASE:18", TakeWire().first().toStdString());
+  // The finger of curve items lifts at every reset; then the macro's own.
+  EXPECT_EQ((QStringList{"4ms 1:SLOTRELEASE:5", "4ms 1:SLOTMULTIRELEASE:18"}), TakeWire().mid(0, 2));
   EXPECT_TRUE(MacroSlotManager::GetInstance()->ActiveSlots().isEmpty());
 }
 

@@ -1,0 +1,22 @@
+#include "simulators/workers/bunch_tap_one_off_worker.h"
+
+namespace taviinputmanager {
+
+using tavikeymapmanager::BunchClickConfigItem;
+
+BunchTapOneOffWorker::BunchTapOneOffWorker(const BunchClickConfigItem& item)
+    : BunchTapWorker(kOneOffPeriodMs, item.bunch_count), item_(item) {}
+
+void BunchTapOneOffWorker::OneOffProcess() {
+  Begin([this] { OneOffTimerOutTime(); });
+}
+
+void BunchTapOneOffWorker::OneOffTimerOutTime() { Beat(); }
+
+void BunchTapOneOffWorker::Stop() { Finish(); }
+
+void BunchTapOneOffWorker::EmitPressed() { Q_EMIT OneOffBunchTapPressed(item_.rel_x, item_.rel_y); }
+void BunchTapOneOffWorker::EmitReleased() { Q_EMIT OneOffBunchTapReleased(item_.rel_x, item_.rel_y); }
+void BunchTapOneOffWorker::EmitFinished() { Q_EMIT OneOffBunchTapFinished(item_.rel_x, item_.rel_y); }
+
+}  // namespace taviinputmanager

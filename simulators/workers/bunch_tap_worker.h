@@ -1,0 +1,58 @@
+// The rhythm of a run of rapid taps, whatever it is that is tapped.
+#ifndef SIMULATORS_WORKERS_BUNCH_TAP_WORKER_H_
+#define SIMULATORS_WORKERS_BUNCH_TAP_WORKER_H_
+
+#include <functional>
+#include <optional>
+
+#include <QObject>
+
+class QTimer;
+
+namespace taviinputmanager {
+
+//   Begin    period      period    period
+//   press --- release --- press --- release --- ...        Finish: finished, which lifts what is down
+//
+// A tap takes two periods; one that lasts for n taps finishes with the release of the last, 2n - 1 periods after its
+// beginning, or with its first press where n is 0.
+//
+// Lives for one run, on a thread of its own. Touches its own fields alone and reports by signals of the classes derived
+// from it, which say what is tapped.
+class BunchTapWorker : public QObject {
+  Q_OBJECT
+
+ protected:
+  // Of a run with a fixed number of taps, in ms.
+  static constexpr int kOneOffPeriodMs = 25;
+
+  // In ms, from taps per second; 0 is as often as the thread allows. Nothing for a frequency that has no period: 0 or
+  // less.
+  static std::optional<int> PeriodOfFrequency(int taps_per_second);
+
+  // Without a period the first press is all, until Finish. Without `taps` the run goes on until Finish; a number below
+  // 0 is never reached.
+  BunchTapWorker(std::optional<int> period_ms, std::optional<int> taps);
+
+  // Presses at once. `on_timeout` is called at each further beat and is to call Beat.
+  void Begin(const std::function<void()>& on_timeout);
+  // The next half of a tap.
+  void Beat();
+  // Reports the end, once.
+  void Finish();
+
+  virtual void EmitPressed() = 0;
+  virtual void EmitReleased() = 0;
+  virtual void EmitFinished() = 0;
+
+ private:
+  const std::optional<int> period_ms_;
+  const std::optional<int> taps_;
+  QTimer* timer_ = nullptr;  // a child, made where the run is
+  int count_ = 0;            // half taps so far; odd while the finger is down
+  bool finished_ = false;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_WORKERS_BUNCH_TAP_WORKER_H_

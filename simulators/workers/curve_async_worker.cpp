@@ -1,0 +1,51 @@
+#include "simulators/workers/curve_async_worker.h"
+
+#include <QTimer>
+
+#include "core/worker_thread.h"
+#include "slots/curve_slot_manager.h"
+
+namespace taviinputmanager {
+namespace {
+
+constexpr int kTickMs = 8;
+
+}  // namespace
+
+CurveAsyncWorker::CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem& item) : item_(item), points_(item) {
+  CurveSlotManager::GetInstance()->SetOrigin({item.rel_x, item.rel_y});
+}
+
+bool CurveAsyncWorker::HasKey(const QString& device, int scancode) const {
+  return device == item_.key.device && scancode == item_.key.scancode;
+}
+
+void CurveAsyncWorker::Process() {
+  count_ = 0;
+  if (!timer_) {
+    timer_ = WorkerThread::MakeWorkerTimer(this);
+    connect(timer_, &QTimer::timeout, this, &CurveAsyncWorker::TimerOutTime);
+  }
+  timer_->start(item_.curve_first_delay_ms < 1 ? kTickMs : item_.curve_first_delay_ms);
+}
+
+void CurveAsyncWorker::TimerOutTime() {
+  if (count_ >= points_.Count()) return Finish(false);
+  const auto point = points_.At(count_);
+  if (point) Q_EMIT CurvePointPressed(point->x(), point->y());
+  timer_->start(kTickMs);
+  ++count_;
+}
+
+void CurveAsyncWorker::Stop(const QString& device, int scancode) {
+  if (HasKey(device, scancode)) Finish(true);
+}
+
+void CurveAsyncWorker::Finish(bool force_stop) {
+  if (finished_) return;  // a stop that was on its way when the run ended
+  finished_ = true;
+  if (timer_) timer_->stop();
+  Q_EMIT CurveFinished(force_stop);
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,232 @@
+// Rapid taps and curves on real threads and the real clock: order and counts, and that no line comes too early.
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include "host/simulation/simulated_host.h"
+#include "keymap/tavikeymapmanager.h"
+#include "simulators/bunch_tap_event_simulator.h"
+#include "simulators/curve_event_simulator.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/keymap_source.h"
+
+namespace taviinputmanager {
+namespace {
+
+using tavikeymapmanager::BunchClickConfigItem;
+using tavikeymapmanager::CurveConfigItem;
+using tavikeymapmanager::KeymapConfig;
+using tavikeymapmanager::KeymapSettings;
+using tavikeymapmanager::WheelSettings;
+
+int argument_count = 1;
+char program_name[] = "runs_on_real_threads_test";
+char* arguments[] = {program_name, nullptr};
+
+constexpr int kQuietMs = 60;  // longer than the beat of any run here
+
+class RealRuns : public testing::Test {
+ protected:
+  RealRuns() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QGuiApplication>(argument_count, arguments);
+    Host()->Start([] { return QDateTime::currentMSecsSinceEpoch(); });
+  }
+
+  static tavi::SimulatedHost* Host() { return tavi::SimulatedHost::GetInstance(); }
+
+  template <typename Item>
+  Item* Add(int scancode, double x) {
+    auto* item = new Item;
+    item->rel_x = x;
+    item->rel_y = 0.5;
+    item->key.device = "keyboard";
+    item->key.scancode = scancode;
+    if (!config_) {
+      config_ = new KeymapConfig;
+      config_->settings = new KeymapSettings;
+      config_->wheel_settings = new WheelSettings;
+    }
+    config_->items.append(item);
+    return item;
+  }
+  BunchClickConfigItem* AddContinue(int scancode, double x, int frequency) {
+    auto* item = Add<BunchClickConfigItem>(scancode, x);
+    item->bunch_mode = "Continue";
+    item->bunch_frequency = frequency;
+    return item;
+  }
+  BunchClickConfigItem* AddOneOff(int scancode, double x, int count) {
+    auto* item = Add<BunchClickConfigItem>(scancode, x);
+    item->bunch_mode = "One_Off";
+    item->bunch_count = count;
+    return item;
+  }
+  // Without items, where none was added since the last.
+  void Load() {
+    test::SetNextKeymap(std::exchange(config_, nullptr));
+    OnLoadKeymapConfigAndInfo("test.yaml", "com.example.game", QString(), 1);
+    Host()->StartTimeline();
+    lines_.clear();
+    times_.clear();
+  }
+
+  // Lets time pass until there are lines enough.
+  bool RunUntil(const std::function<bool()>& condition) {
+    const QDeadlineTimer limit(60000);
+    QTimer heartbeat;
+    heartbeat.start(1);
+    while (!condition()) {
+      if (limit.hasExpired()) return false;
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+      Collect();
+    }
+    return true;
+  }
+  bool RunUntilLines(int count) {
+    return RunUntil([this, count] { return lines_.size() >= count; });
+  }
+  void RunOn() {
+    const QDeadlineTimer end(kQuietMs);
+    RunUntil([&end] { return end.hasExpired(); });
+  }
+
+  QStringList lines_;  // without the display
+  QList<qint64> times_;
+
+ private:
+  void Collect() {
+    for (const auto& entry : Host()->TakeTimeline()) {
+      if (entry.source == tavi::TimelineEntry::Source::kCallback) continue;
+      lines_.append(entry.text);
+      times_.append(entry.ms);
+    }
+  }
+
+  std::unique_ptr<QGuiApplication> application_;  // ends all runs when it goes
+  KeymapConfig* config_ = nullptr;                // of the next load, which takes it
+};
+
+// Press, release, press, ...
+void ExpectTaps(const QStringList& lines) {
+  for (int i = 0; i < lines.size(); ++i) EXPECT_EQ(i % 2 == 0, lines[i].contains("SLOTPRESS")) << i;
+}
+
+TEST_F(RealRuns, AHeldKeyTapsInOrderUntilItIsReleased) {
+  auto* item = AddContinue(17, 0.25, 500);
+  Load();
+  auto* simulator = BunchTapEventSimulator::GetInstance();
+  simulator->Press(item, &item->key);
+  ASSERT_TRUE(RunUntilLines(50));
+  simulator->Release(item, &item->key);
+  RunOn();
+  const int count = lines_.size();
+  EXPECT_TRUE(lines_.last().contains("SLOTRELEASE"));
+  ExpectTaps(lines_.mid(0, count - 1));
+  RunOn();
+  EXPECT_EQ(count, lines_.size());
+}
+
+TEST_F(RealRuns, AOneOffRunHasItsCountAndNoBeatComesEarly) {
+  auto* item = AddOneOff(17, 0.25, 3);
+  Load();
+  BunchTapEventSimulator::GetInstance()->Release(item, &item->key);
+  // Three taps, and one more release with the end.
+  ASSERT_TRUE(RunUntilLines(7));
+  RunOn();
+  ASSERT_EQ(7, lines_.size());
+  ExpectTaps(lines_.mid(0, 6));
+  EXPECT_TRUE(lines_[6].contains("SLOTRELEASE"));
+  // Five beats of 25 ms. The first line may be late, and each millisecond is a cut one.
+  EXPECT_GE(times_[6], 5 * 25 - 5);
+}
+
+TEST_F(RealRuns, RunsStandSideBySide) {
+  auto* w = AddContinue(17, 0.25, 500);
+  auto* e = AddContinue(18, 0.5, 250);
+  Load();
+  auto* simulator = BunchTapEventSimulator::GetInstance();
+  simulator->Press(w, &w->key);
+  simulator->Press(e, &e->key);
+  ASSERT_TRUE(RunUntil([this] { return lines_.filter("320:360").size() > 9 && lines_.filter("640:360").size() > 9; }));
+  simulator->Release(w, &w->key);
+  RunOn();
+  lines_.clear();
+  ASSERT_TRUE(RunUntilLines(10));
+  EXPECT_EQ(0, lines_.filter("320:360").size());  // the other one alone goes on
+  simulator->Reset(false);
+  RunOn();
+  lines_.clear();
+  RunOn();
+  EXPECT_EQ(0, lines_.size());
+}
+
+TEST_F(RealRuns, ACurveIsFollowedInOrder) {
+  auto* item = Add<CurveConfigItem>(17, 0.25);
+  item->curve_points = "0.125,0;0.25,0;0.5,0";
+  Load();
+  auto* simulator = CurveEventSimulator::GetInstance();
+  simulator->Press(item, &item->key);
+  ASSERT_TRUE(RunUntilLines(3));
+  RunOn();
+  // (0.25 + 0.125) * 1280 = 480
+  EXPECT_EQ((QStringList{"1:SLOTPRESS:5:5:1:1:480:360", "1:SLOTPRESS:5:5:1:1:640:360", "1:SLOTPRESS:5:5:1:1:960:360"}),
+            lines_);
+  EXPECT_GE(times_[2], 3 * 8 - 3);
+  simulator->Release(item, &item->key);
+  RunOn();
+  EXPECT_EQ((QStringList{"1:SLOTRELEASE:5"}), lines_.mid(3));
+}
+
+TEST_F(RealRuns, AReleasedCurveLiftsOnce) {
+  auto* item = Add<CurveConfigItem>(17, 0);
+  item->curve_straight = true;
+  item->curve_end = {10, 0};  // 500 steps
+  Load();
+  auto* simulator = CurveEventSimulator::GetInstance();
+  simulator->Press(item, &item->key);
+  ASSERT_TRUE(RunUntilLines(3));
+  simulator->Release(item, &item->key);
+  RunOn();
+  EXPECT_EQ(1, lines_.filter("SLOTRELEASE").size());
+  EXPECT_TRUE(lines_.last().contains("SLOTRELEASE"));
+}
+
+TEST_F(RealRuns, AKeymapLoadEndsRunsInFullFlight) {
+  for (int round = 0; round < 3; ++round) {
+    auto* held = AddContinue(17, 0.25, 1000);  // as often as it can
+    auto* one_off = AddOneOff(18, 0.5, 1000);
+    auto* curve = Add<CurveConfigItem>(19, 0);
+    curve->curve_straight = true;
+    curve->curve_end = {10, 0};
+    Load();
+    BunchTapEventSimulator::GetInstance()->Press(held, &held->key);
+    BunchTapEventSimulator::GetInstance()->Release(one_off, &one_off->key);
+    CurveEventSimulator::GetInstance()->Press(curve, &curve->key);
+    ASSERT_TRUE(RunUntil([this] { return lines_.filter("SLOTPRESS:5").size() > 2; }));
+    Load();  // the items are gone
+    RunOn();
+    lines_.clear();
+    RunOn();
+    EXPECT_EQ(0, lines_.size());
+  }
+}
+
+TEST_F(RealRuns, TheApplicationMayGoWithRunsUnderWay) {
+  auto* held = AddContinue(17, 0.25, 500);
+  auto* curve = Add<CurveConfigItem>(19, 0);
+  curve->curve_straight = true;
+  curve->curve_end = {10, 0};
+  Load();
+  BunchTapEventSimulator::GetInstance()->Press(held, &held->key);
+  CurveEventSimulator::GetInstance()->Press(curve, &curve->key);
+  EXPECT_TRUE(RunUntilLines(10));
+}
+
+}  // namespace
+}  // namespace taviinputmanager

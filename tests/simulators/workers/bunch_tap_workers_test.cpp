@@ -1,0 +1,156 @@
+// The workers of rapid taps without a run around them: what they signal, and what stops them.
+#include "simulators/workers/bunch_tap_continue_worker.h"
+#include "simulators/workers/bunch_tap_one_off_worker.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using tavikeymapmanager::BunchClickConfigItem;
+using tavikeymapmanager::ConfigKey;
+
+class BunchTapWorkers : public Story {
+ protected:
+  static BunchClickConfigItem ItemOf(const ConfigKey& key) {
+    BunchClickConfigItem item;
+    item.rel_x = 0.25;
+    item.rel_y = 0.5;
+    item.key = key;
+    item.bunch_frequency = 20;
+    return item;
+  }
+  void Listen(BunchTapContinueWorker* worker) {
+    using Worker = BunchTapContinueWorker;
+    QObject::connect(worker, &Worker::BunchTapPressed, [this](double x, double y) { Add("press", x, y); });
+    QObject::connect(worker, &Worker::BunchTapReleased, [this](double x, double y) { Add("release", x, y); });
+    QObject::connect(worker, &Worker::BunchTapFinished, [this](double x, double y) { Add("finish", x, y); });
+  }
+  void Listen(BunchTapOneOffWorker* worker) {
+    using Worker = BunchTapOneOffWorker;
+    QObject::connect(worker, &Worker::OneOffBunchTapPressed, [this](double x, double y) { Add("press", x, y); });
+    QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](double x, double y) { Add("release", x, y); });
+    QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](double x, double y) { Add("finish", x, y); });
+  }
+  std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
+
+ private:
+  void Add(const char* what, double x, double y) {
+    EXPECT_EQ(0.25, x);
+    EXPECT_EQ(0.5, y);
+    said_.append(QString::fromLatin1(what));
+  }
+
+  QStringList said_;
+};
+
+TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {
+  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  Listen(&worker);
+  worker.Process();
+  EXPECT_EQ("press", Said());
+  Wait(24);
+  EXPECT_EQ("", Said());
+  Wait(1);
+  EXPECT_EQ("release", Said());
+  Wait(50);
+  EXPECT_EQ("press, release", Said());
+  worker.Stop("keyboard", "", 17);
+  EXPECT_EQ("finish", Said());
+  Wait(1000);
+  EXPECT_EQ("", Said());
+}
+
+TEST_F(BunchTapWorkers, AContinueRunFinishesOnce) {
+  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  Listen(&worker);
+  worker.Process();
+  worker.Stop("", "force_stop", tavikeymapmanager::kUnsetCode);
+  worker.Stop("keyboard", "W", 17);
+  EXPECT_EQ("press, finish", Said());
+}
+
+TEST_F(BunchTapWorkers, AStopBeforeTheBeginningFinishesToo) {
+  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  Listen(&worker);
+  worker.Stop("keyboard", "W", 17);
+  EXPECT_EQ("finish", Said());
+}
+
+TEST_F(BunchTapWorkers, AContinueRunIsStoppedByItsOwnKeyOnly) {
+  const struct {
+    const char* name;
+    ConfigKey own;
+    const char* device;
+    const char* text;
+    int scancode;
+    bool stops;
+  } rows[] = {
+      {"a key by its scan code", {"keyboard", "W", 87, 17}, "keyboard", "other", 17, true},
+      {"a key not by its name", {"keyboard", "W", 87, 17}, "keyboard", "W", 18, false},
+      {"a key of another device", {"keyboard", "W", 87, 17}, "mouse", "W", 17, false},
+      {"a key of no device", {"keyboard", "W", 87, 17}, "", "W", 17, false},
+      {"a joystick button by its name", {"joystick", "A", 1, 1}, "joystick", "A", 2, true},
+      {"a joystick button not by its code", {"joystick", "A", 1, 1}, "joystick", "B", 1, false},
+      {"a joystick button of another device", {"joystick", "A", 1, 1}, "keyboard", "A", 1, false},
+      {"a mouse button by its name", {"mouse", "Mouse Left", 1, 1}, "mouse", "Mouse Left", 2, true},
+      {"a mouse button not by its value", {"mouse", "Mouse Left", 1, 1}, "mouse", "Mouse Right", 1, false},
+      {"a mouse button of another device", {"mouse", "A", 1, 1}, "joystick", "A", 1, false},
+      {"a device of no kind never", {"wheel", "A", 1, 1}, "wheel", "A", 1, false},
+      {"force", {"keyboard", "W", 87, 17}, "", "force_stop", 0x7FFFFFFF, true},
+      {"force on a device of no kind", {"wheel", "A", 1, 1}, "mouse", "force_stop", 5, true},
+      {"force exactly", {"keyboard", "W", 87, 17}, "", "Force_Stop", 0x7FFFFFFF, false},
+  };
+  for (const auto& row : rows) {
+    BunchTapContinueWorker worker(ItemOf(row.own));
+    Listen(&worker);
+    worker.Stop(row.device, row.text, row.scancode);
+    EXPECT_EQ(row.stops ? "finish" : "", Said()) << row.name;
+  }
+}
+
+TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
+  BunchClickConfigItem item = ItemOf(Key("W"));
+  item.bunch_count = 2;
+  BunchTapOneOffWorker worker(item);
+  Listen(&worker);
+  worker.OneOffProcess();
+  EXPECT_EQ("press", Said());
+  Wait(24);
+  EXPECT_EQ("", Said());
+  Wait(1);
+  EXPECT_EQ("release", Said());
+  Wait(49);
+  EXPECT_EQ("press", Said());
+  Wait(1);
+  EXPECT_EQ("release, finish", Said());
+  Wait(1000);
+  worker.Stop();
+  EXPECT_EQ("", Said());
+}
+
+TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
+  BunchClickConfigItem item = ItemOf(Key("W"));
+  item.bunch_count = 0;
+  BunchTapOneOffWorker worker(item);
+  Listen(&worker);
+  worker.OneOffProcess();
+  EXPECT_EQ("press, finish", Said());
+  Wait(1000);
+  EXPECT_EQ("", Said());
+}
+
+TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
+  BunchClickConfigItem item = ItemOf(Key("W"));
+  item.bunch_count = 9;
+  BunchTapOneOffWorker worker(item);
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(30);
+  worker.Stop();
+  EXPECT_EQ("press, release, finish", Said());
+  Wait(1000);
+  EXPECT_EQ("", Said());
+}
+
+}  // namespace
+}  // namespace taviinputmanager
