@@ -41,6 +41,7 @@ class Soak : public Story {
     for (const QFileInfo& file : folder.entryInfoList({"*.yaml"}, QDir::Files, QDir::Name)) {
       keymaps_.append(file.filePath());
     }
+    keymaps_.append(QStringLiteral(TAVI_SOURCE_DIR "/tests/data/keymaps/good/every_gesture.yaml"));
     LoadSomeKeymap();
   }
 
