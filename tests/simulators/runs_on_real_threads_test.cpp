@@ -1,4 +1,5 @@
-// Rapid taps and curves on real threads and the real clock: order and counts, and that no line comes too early.
+// Rapid taps, curves, slides and pinches on real threads and the real clock: order and counts, and that no line comes
+// too early.
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -12,6 +13,8 @@
 #include "keymap/tavikeymapmanager.h"
 #include "simulators/bunch_tap_event_simulator.h"
 #include "simulators/curve_event_simulator.h"
+#include "simulators/wheel_event_simulator.h"
+#include "simulators/zoom_event_simulator.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/keymap_source.h"
 
@@ -22,7 +25,9 @@ using tavikeymapmanager::BunchClickConfigItem;
 using tavikeymapmanager::CurveConfigItem;
 using tavikeymapmanager::KeymapConfig;
 using tavikeymapmanager::KeymapSettings;
+using tavikeymapmanager::WheelConfigItem;
 using tavikeymapmanager::WheelSettings;
+using tavikeymapmanager::ZoomConfigItem;
 
 int argument_count = 1;
 char program_name[] = "runs_on_real_threads_test";
@@ -226,6 +231,57 @@ TEST_F(RealRuns, TheApplicationMayGoWithRunsUnderWay) {
   BunchTapEventSimulator::GetInstance()->Press(held, &held->key);
   CurveEventSimulator::GetInstance()->Press(curve, &curve->key);
   EXPECT_TRUE(RunUntilLines(10));
+}
+
+// 16 / 8 + 1 ticks, of 0.001 of 1280 pixels each.
+TEST_F(RealRuns, AWheelKeySlidesInOrder) {
+  auto* item = Add<WheelConfigItem>(17, 0.5);
+  item->speed = 10;
+  item->axis = "horizontal";
+  item->duration_ms = 16;
+  Load();
+  WheelEventSimulator::GetInstance()->Press(item, &item->key);
+  WheelEventSimulator::GetInstance()->Release(item, &item->key);
+  ASSERT_TRUE(RunUntilLines(4));
+  EXPECT_EQ((QStringList{"1:SLOTPRESS:11:11:1:1:640:360", "1:SLOTPRESS:11:11:1:1:641:360",
+                         "1:SLOTPRESS:11:11:1:1:643:360", "1:SLOTRELEASE:11"}),
+            lines_);
+  EXPECT_GE(times_[2], 3 * 8 - 3);
+}
+
+// 12 / 12 + 1 ticks.
+TEST_F(RealRuns, AZoomKeyPinchesInOrder) {
+  auto* item = Add<ZoomConfigItem>(17, 0.5);
+  item->speed = 100;
+  item->axis = "horizontal";
+  item->duration_ms = 12;
+  item->start_distance = 0.25;
+  Load();
+  ZoomEventSimulator::GetInstance()->Press(item, &item->key);
+  ZoomEventSimulator::GetInstance()->Release(item, &item->key);
+  ASSERT_TRUE(RunUntilLines(3));
+  // 0.01 of 1280 is 12.8: 972.8 and 307.2
+  EXPECT_EQ((QStringList{"1:SLOTMULTIPRESS:18:18:960:360:19:19:320:360", "1:SLOTMULTIPRESS:18:18:973:360:19:19:307:360",
+                         "1:SLOTMULTIRELEASE:19:18"}),
+            lines_);
+}
+
+TEST_F(RealRuns, AKeymapLoadEndsSlidesAndPinches) {
+  auto* wheel = Add<WheelConfigItem>(17, 0.5);
+  wheel->speed = 10;
+  wheel->duration_ms = 4000;
+  auto* zoom = Add<ZoomConfigItem>(18, 0.5);
+  zoom->speed = 1;
+  zoom->duration_ms = 4000;
+  Load();
+  WheelEventSimulator::GetInstance()->Press(wheel, &wheel->key);
+  ZoomEventSimulator::GetInstance()->Press(zoom, &zoom->key);
+  ZoomEventSimulator::GetInstance()->Release(zoom, &zoom->key);
+  ASSERT_TRUE(RunUntilLines(10));
+  Load();
+  ASSERT_TRUE(RunUntil([this] { return !lines_.filter("SLOTMULTIRELEASE").isEmpty(); }));
+  ASSERT_TRUE(RunUntilQuiet());
+  EXPECT_TRUE(lines_.last().contains("RELEASE"));
 }
 
 }  // namespace
