@@ -3,7 +3,9 @@
 #include <cstdio>
 #include <optional>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include "host/command_line.h"
@@ -48,6 +50,19 @@ std::optional<QString> ReadText(const QString& name) {
   return std::nullopt;
 }
 
+bool IsLoad(const ScriptCommand& command) {
+  return command.kind == ScriptCommand::Kind::kKeymap || command.kind == ScriptCommand::Kind::kJoymap;
+}
+
+// The files that a script names are looked for from its own folder.
+void ResolveFiles(const QString& script_name, Script* script) {
+  if (script_name == QLatin1String(kStandardInput)) return;
+  const QDir folder = QFileInfo(script_name).dir();
+  for (ScriptCommand& command : script->commands) {
+    if (IsLoad(command) && !command.text.isEmpty()) command.text = folder.filePath(command.text);
+  }
+}
+
 std::optional<Script> ReadScript(const QString& name) {
   const std::optional<QString> text = ReadText(name);
   if (!text) return std::nullopt;
@@ -58,6 +73,7 @@ std::optional<Script> ReadScript(const QString& name) {
                QLatin1Char('\n'));
   }
   if (!script.errors.isEmpty()) return std::nullopt;
+  ResolveFiles(name, &script);
   return script;
 }
 
@@ -71,8 +87,7 @@ bool IsKeymapUsable(const QString& path) {
 bool AreKeymapsUsable(const QString& first, const Script& script) {
   bool all = IsKeymapUsable(first);
   for (const ScriptCommand& command : script.commands) {
-    const bool is_load = command.kind == ScriptCommand::Kind::kKeymap || command.kind == ScriptCommand::Kind::kJoymap;
-    if (is_load) all = IsKeymapUsable(command.text) && all;
+    if (IsLoad(command)) all = IsKeymapUsable(command.text) && all;
   }
   return all;
 }
