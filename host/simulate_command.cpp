@@ -59,7 +59,7 @@ void ResolveFiles(const QString& script_name, Script* script) {
   if (script_name == QLatin1String(kStandardInput)) return;
   const QDir folder = QFileInfo(script_name).dir();
   for (ScriptCommand& command : script->commands) {
-    if (IsLoad(command) && !command.text.isEmpty()) command.text = folder.filePath(command.text);
+    if (IsLoad(command) && !command.text.isEmpty()) command.text = QDir::cleanPath(folder.filePath(command.text));
   }
 }
 
