@@ -1,12 +1,18 @@
 #include "core/guest_command.h"
 
+#include <cmath>
+
+#include <QPointF>
+#include <QStringList>
+
+#include "core/guest_words.h"
 #include "core/line_buffer.h"
 
 namespace taviinputmanager::guest_command {
 namespace {
 
 template <typename... Fields>
-QString Line(const char* word, Fields... fields) {
+QString Line(QLatin1String word, Fields... fields) {
   LineBuffer line;
   line.Text(word);
   (line.Field(fields), ...);
@@ -23,45 +29,67 @@ QString TextLine(QLatin1String word, const QString& text) {
 }  // namespace
 
 // The slot stands twice: as the slot, and as the contact's tracking id.
-QString SlotPress(int slot, int x, int y) { return Line("SLOTPRESS", slot, slot, 1, 1, x, y); }
-QString SlotRelease(int slot) { return Line("SLOTRELEASE", slot); }
-QString SlotReleaseAll() { return Line("SLOTRELEASEALL"); }
+QString SlotPress(int slot, int x, int y) { return Line(guest_words::kSlotPress, slot, slot, 1, 1, x, y); }
+QString SlotPress(int slot, const QPointF& place) {
+  return Line(guest_words::kSlotPress, slot, slot, 1, 1, place.x(), place.y());
+}
+QString SlotRelease(int slot) { return Line(guest_words::kSlotRelease, slot); }
+QString SlotReleaseAll() { return Line(guest_words::kSlotReleaseAll); }
 
 QString SlotMultiPress(const Contacts& contacts) {
   LineBuffer line;
-  line.Text("SLOTMULTIPRESS");
+  line.Text(guest_words::kSlotMultiPress);
   for (const Contact& contact : contacts) {
     line.Field(contact.slot).Field(contact.slot).Field(contact.x).Field(contact.y);
   }
   return line.Byte('\n').ToString();
 }
 
+QString SlotMultiPressOf(const QStringList& groups) {
+  QString line = guest_words::kSlotMultiPress;
+  for (const QString& group : groups) line.append(QLatin1Char(':')).append(group);
+  return line.append(QLatin1Char('\n'));
+}
+
+QString ContactGroup(int slot, const QPointF& place) {
+  LineBuffer group;
+  return group.Number(slot).Field(slot).Field(place.x()).Field(place.y()).ToString();
+}
+
 QString SlotMultiRelease(const Slots& slots) {
   LineBuffer line;
-  line.Text("SLOTMULTIRELEASE");
+  line.Text(guest_words::kSlotMultiRelease);
   for (const int slot : slots) line.Field(slot);
   return line.Byte('\n').ToString();
 }
 
-QString KeyPress(int code) { return Line("KBDPR", code, 1); }
-QString KeyRelease(int code) { return Line("KBDRL", code, 0); }
+QString SlotMultiReleaseOf(const QString& slots) { return TextLine(guest_words::kSlotMultiRelease, slots); }
 
-QString MouseMove(int x, int y) { return Line("MOUSEMOVE_REL", x, y); }
-QString Wheel(int x, int y, int third, int fourth) { return Line("WHEEL", x, y, third, fourth); }
-QString WheelWithDelta(int x, int y, double amount) { return Line("WHEEL_WITH_DELTA", x, y, amount, 0); }
+QString KeyPress(int code) { return Line(guest_words::kKeyPress, code, 1); }
+QString KeyRelease(int code) { return Line(guest_words::kKeyRelease, code, 0); }
 
-QString Text(const QString& text) { return TextLine(QLatin1String("TEXT"), text); }
-QString TextControl(const QString& name) { return TextLine(QLatin1String("TEXT_CONTROL"), name); }
+QString MouseMove(int x, int y) { return Line(guest_words::kMouseMove, x, y); }
+QString MouseMove(const QPointF& place) { return Line(guest_words::kMouseMove, place.x(), place.y()); }
+QString Wheel(int x, int y, int third, int fourth) { return Line(guest_words::kWheel, x, y, third, fourth); }
+QString Wheel(const QPointF& place) {
+  return Line(guest_words::kWheel, std::abs(place.x()), std::abs(place.y()), place.x(), place.y());
+}
+QString WheelWithDelta(int x, int y, double amount) { return Line(guest_words::kWheelWithDelta, x, y, amount, 0); }
 
-QString LeftStickAxis(int x, int y) { return Line("LSTICKAXIS", x, y); }
-QString RightStickAxis(int x, int y) { return Line("RSTICKAXIS", x, y); }
-QString LeftTriggerAxis(int value) { return Line("LTRIGGERAXIS", value); }
-QString RightTriggerAxis(int value) { return Line("RTRIGGERAXIS", value); }
-QString GamepadButton(int code, int value) { return Line("GPDBUTTON", code, value); }
-QString HatX(int value) { return Line("HATX", value); }
-QString HatY(int value) { return Line("HATY", value); }
-QString TouchpadLightTouch(int x, int y) { return Line("TOUCHPADLIGHTTOUCH", x, y); }
-QString TouchpadPress() { return Line("TOUCHPADPRESS"); }
-QString TouchpadRelease() { return Line("TOUCHPADRELEASE"); }
+QString Text(const QString& text) { return TextLine(guest_words::kText, text); }
+QString TextControl(const QString& name) { return TextLine(guest_words::kTextControl, name); }
+
+QString LeftStickAxis(int x, int y) { return Line(guest_words::kLeftStickAxis, x, y); }
+QString RightStickAxis(int x, int y) { return Line(guest_words::kRightStickAxis, x, y); }
+QString LeftTriggerAxis(int value) { return Line(guest_words::kLeftTriggerAxis, value); }
+QString RightTriggerAxis(int value) { return Line(guest_words::kRightTriggerAxis, value); }
+QString GamepadButton(int code, int value) { return Line(guest_words::kGamepadButton, code, value); }
+QString HatX(int value) { return Line(guest_words::kHatX, value); }
+QString HatY(int value) { return Line(guest_words::kHatY, value); }
+QString TouchpadLightTouch(int x, int y) { return Line(guest_words::kTouchpadLightTouch, x, y); }
+QString TouchpadPress() { return Line(guest_words::kTouchpadPress); }
+QString TouchpadRelease() { return Line(guest_words::kTouchpadRelease); }
+
+QString Complete(const QString& command) { return command + QLatin1Char('\n'); }
 
 }  // namespace taviinputmanager::guest_command

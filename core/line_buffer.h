@@ -18,6 +18,10 @@ class LineBuffer {
     buffer_.append(text, static_cast<int>(std::strlen(text)));
     return *this;
   }
+  LineBuffer& Text(QLatin1String text) {
+    buffer_.append(text.data(), text.size());
+    return *this;
+  }
   LineBuffer& Number(int value) {
     char digits[16];
     const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;

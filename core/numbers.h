@@ -3,6 +3,7 @@
 #define CORE_NUMBERS_H_
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace taviinputmanager {
@@ -17,6 +18,18 @@ inline int Truncate(double v) {
   return static_cast<int>(v);
 }
 
+// The same for whole numbers beyond an int.
+template <typename Wide>
+Wide TruncateTo(double v) {
+  // Both ends are powers of two, or 0, so that they are exact as doubles; the upper one is the first that does not fit.
+  constexpr auto kLowest = static_cast<double>(std::numeric_limits<Wide>::min());
+  const double end = std::ldexp(1.0, std::numeric_limits<Wide>::digits);
+  if (std::isnan(v)) return 0;
+  if (v <= kLowest) return std::numeric_limits<Wide>::min();
+  if (v >= end) return std::numeric_limits<Wide>::max();
+  return static_cast<Wide>(v);
+}
+
 // To the nearest, halves upwards: -0.5 gives 0, -1.5 gives -1. The same limits as Truncate.
 inline int Round(double v) {
   if (v >= 0) return Truncate(v + 0.5);
@@ -28,6 +41,11 @@ inline int Round(double v) {
 inline int AddWrapped(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b)); }
 inline int MultiplyWrapped(int a, int b) {
   return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+}
+
+// The signed distance between two counts of 64 bits of which the low 32 are looked at.
+inline int LowDistance(std::int64_t from, std::int64_t to) {
+  return static_cast<int>(static_cast<std::uint32_t>(to) - static_cast<std::uint32_t>(from));
 }
 
 // Positions stop at the ends of an int.
