@@ -15,9 +15,6 @@ class QtWheelEventHandler : public EventHandler {
   virtual void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) = 0;
 };
 
-// The turn in eighths of a degree; positive is up, away from the user.
-int WheelDelta(const QWheelEvent* event);
-
 }  // namespace taviinputmanager
 
 #endif  // HANDLERS_QT_WHEEL_EVENT_HANDLER_H_

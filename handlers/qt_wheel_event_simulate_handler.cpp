@@ -9,6 +9,7 @@
 #include "core/input_status_manager.h"
 #include "core/keymap_access.h"
 #include "core/numbers.h"
+#include "core/wheel_event.h"
 #include "handlers/simulator_table.h"
 #include "keymap/composable_config_item.h"
 #include "keymap/keymap_config.h"

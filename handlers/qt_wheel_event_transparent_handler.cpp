@@ -7,6 +7,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_command.h"
 #include "core/numbers.h"
+#include "core/wheel_event.h"
 #include "handlers/mouse_transparent_manager.h"
 
 namespace taviinputmanager {
