@@ -1,0 +1,35 @@
+#include "record/replay_context.h"
+
+#include "record/record_actions.h"
+
+namespace taviinputmanager {
+
+void ReplayContext::ApplySpeed(double ratio) {
+  if (actions) actions->speed = ratio * actions->control.speed_ratio;
+}
+
+void ReplayContext::First() {
+  current_action = RecordAction();
+  if (actions) actions->First(&current_action, &next_delay);
+}
+
+void ReplayContext::Next() {
+  current_action = RecordAction();
+  if (actions) actions->Next(&current_action, &next_delay);
+}
+
+bool ReplayContext::CurrentAction(RecordAction* out) const {
+  if (!out) return false;
+  *out = current_action;
+  return !current_action.type.isEmpty();
+}
+
+void ReplayContext::ReduceDelay(int elapsed) {
+  if (elapsed < next_delay) {
+    next_delay -= elapsed;
+  } else {
+    next_delay = 0;
+  }
+}
+
+}  // namespace taviinputmanager
