@@ -1,49 +1,109 @@
 #include "record/record_manager.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "core/clock.h"
 #include "core/recorder_offer.h"
+#include "record/command_translation.h"
+#include "record/record_file_utils.h"
+#include "record/record_format.h"
+#include "record/record_macro_instruction_store.h"
+#include "taviinputmanager/callbacks.h"
 
 namespace taviinputmanager {
+
+using namespace record_format;
 
 RecordManager* RecordManager::GetInstance() {
   static RecordManager instance;
   return &instance;
 }
 
-void RecordManager::StartRecord(const QString& /*package*/, const QString& /*app*/) {}
+RecordManager::RecordManager() : pause_time_(Clock::NowMs()) {}
 
-void RecordManager::PauseRecord() {}
+void RecordManager::StartRecord(const QString& package, const QString& app) {
+  status_ = RecordStatus::Recording;
+  actions_.Start();
+  AddDetectAppAction(package, app);
+  if (callbacks_) callbacks_->started();
+}
 
-void RecordManager::ResumeRecord() {}
+void RecordManager::PauseRecord() {
+  status_ = RecordStatus::Paused;
+  pause_time_ = Clock::NowMs();
+  if (callbacks_) callbacks_->paused();
+}
 
-void RecordManager::StopRecord(const QString& /*package_name*/, const QString& /*filename*/) {}
+void RecordManager::ResumeRecord() {
+  status_ = RecordStatus::Recording;
+  actions_.SkipSince(pause_time_);
+  if (callbacks_) callbacks_->resumed();
+}
 
-void RecordManager::AddVControlCommand(const QString& /*data*/, const QString& /*extra1*/, const QString& /*extra2*/) {}
+void RecordManager::StopRecord(const QString& package_name, const QString& filename) {
+  status_ = RecordStatus::Stopped;  // first: nothing can enter any more
+  const int result = RecordFileUtils::GetInstance()->SaveRecord(package_name, filename, actions_.Actions());
+  actions_.Clear();
+  if (callbacks_) callbacks_->stopped(filename, result);
+}
 
-void RecordManager::StartRecordMacroInstruction(const QString& /*name*/) {}
+void RecordManager::AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2) {
+  AddAction({0, kTypeVControl, data, extra1, extra2});
+}
 
-void RecordManager::StopRecordMacroInstruction(const QString& /*name*/) {}
+// What the host finds the right app by when the record is played.
+void RecordManager::AddDetectAppAction(const QString& package, const QString& app) {
+  const QJsonObject params{{kPackage, package}, {kApp, app}};
+  const QJsonDocument marker(QJsonObject{{kCmd, QString(kDetectApp)}, {kParams, params}});
+  AddVControlCommand(QString::fromUtf8(marker.toJson(QJsonDocument::Compact)), {}, {});
+}
 
-void RecordManager::OnEventCommand(const QString& /*command*/) {}
+void RecordManager::AddAction(const RecordAction& action) {
+  if (status_ != RecordStatus::Recording || action.data.isEmpty()) return;
+  actions_.Add(action);
+}
 
-void RecordManager::OnTextCommand(const QString& /*command*/) {}
+void RecordManager::OnEventCommand(const QString& command) {
+  if (macro_recording_ || command.isEmpty()) return;
+  RecordAction action;
+  if (TranslateEventCommand(command, &action)) AddAction(action);
+}
 
-void RecordManager::OnQtInputEvent(QEvent* /*event*/) {}
+void RecordManager::OnTextCommand(const QString& command) {
+  if (command.isEmpty()) return;
+  RecordAction action;
+  if (TranslateTextCommand(command, &action)) AddAction(action);
+}
 
-QStringList RecordManager::GetRecordMacroInstruction(const QString& /*name*/) const { return {}; }
+void RecordManager::StartRecordMacroInstruction(const QString& name) {
+  macro_recording_ = true;
+  macro_actions_.Start();
+  mouse_move_counter_ = 0;
+  RecordMacroInstructionStore::GetInstance()->StartInstruction(name);
+}
+
+void RecordManager::StopRecordMacroInstruction(const QString& name) {
+  mouse_move_counter_ = 0;
+  macro_recording_ = false;
+  RecordMacroInstructionStore::GetInstance()->StoreInstruction(name, macro_actions_.Actions());
+}
 
 namespace {
 
-// A line is recorded without its end.
+// Most lines are sent while nothing is recorded: those are not even copied.
 bool IsRecording() { return RecordManager::GetInstance()->GetStatus() == RecordStatus::Recording; }
+
+QString WithoutEnd(const QString& line) { return line.left(line.size() - 1); }
 
 }  // namespace
 
 void OfferEventLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnEventCommand(line.left(line.size() - 1));
+  if (IsRecording()) RecordManager::GetInstance()->OnEventCommand(WithoutEnd(line));
 }
 
 void OfferTextLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnTextCommand(line.left(line.size() - 1));
+  if (IsRecording()) RecordManager::GetInstance()->OnTextCommand(WithoutEnd(line));
 }
 
 }  // namespace taviinputmanager

@@ -5,17 +5,28 @@
 #include <QString>
 #include <QStringList>
 
+#include "record/action_track.h"
 #include "taviinputmanager/types.h"
 
 class QEvent;
+class QPoint;
 
 namespace taviinputmanager {
 
 struct InputRecorderCallbacks;
 
+// Sits behind the channel to the guest and turns lines back into actions, so that a key that taps is recorded as the
+// tap. No call is refused in any state: a pause while stopped is reported, and a resume then records without a start
+// marker.
+//
+// Beside it, and independent of it, a macro can be captured: that one reads the host's events, and makes lines of the
+// macro language of them. While it runs no event line is recorded.
+//
+// Threads: main thread; no lock. (The lines of a reset at the natural end of a replay come on that replay's thread.)
 class RecordManager {
  public:
   static RecordManager* GetInstance();
+  virtual ~RecordManager() = default;
 
   void SetCallbacks(InputRecorderCallbacks* callbacks) { callbacks_ = callbacks; }
   RecordStatus GetStatus() const { return status_; }
@@ -23,23 +34,36 @@ class RecordManager {
   void StartRecord(const QString& package, const QString& app);
   void PauseRecord();
   void ResumeRecord();
+  // Saves, and forgets what was recorded. The host is told the result.
   void StopRecord(const QString& package_name, const QString& filename);
   void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
+
   void StartRecordMacroInstruction(const QString& name);
   void StopRecordMacroInstruction(const QString& name);
-  QStringList GetRecordMacroInstruction(const QString& name) const;
 
   // Without their line ends.
   void OnEventCommand(const QString& command);
   void OnTextCommand(const QString& command);
-  // Every event of the host, before any handler sees it.
+  // Every event of the host, before any handler sees it. Only read.
   void OnQtInputEvent(QEvent* event);
 
  private:
-  RecordManager() = default;
+  RecordManager();
+
+  void AddAction(const RecordAction& action);
+  void AddDetectAppAction(const QString& package, const QString& app);
+
+  void CaptureEvent(QEvent* event);
+  void AddMacroAction(const QString& data);
+  void AddMacroMove(const QPoint& window_position);
 
   RecordStatus status_ = RecordStatus::Stopped;
+  bool macro_recording_ = false;
+  qint64 pause_time_;  // of the last pause, milliseconds since the epoch
+  ActionTrack actions_;
+  ActionTrack macro_actions_;
   InputRecorderCallbacks* callbacks_ = nullptr;  // the host's
+  int mouse_move_counter_ = 0;                   // all moves of a capture; each tenth is kept
 };
 
 }  // namespace taviinputmanager

@@ -11,6 +11,7 @@
 #include "core/input_sync_manager.h"
 #include "handlers/transaction_handler.h"
 #include "record/record_file_utils.h"
+#include "record/record_macro_instruction_store.h"
 #include "record/record_manager.h"
 #include "record/replay_manager.h"
 #include "simulators/workers/staring_wm_relative_input_worker.h"
@@ -133,7 +134,7 @@ void StartRecordMacroInstruction(QString name) { RecordManager::GetInstance()->S
 void StopRecordMacroInstruction(QString name) { RecordManager::GetInstance()->StopRecordMacroInstruction(name); }
 
 QList<QString> getRecordMacroInstruction(QString name) {
-  return RecordManager::GetInstance()->GetRecordMacroInstruction(name);
+  return RecordMacroInstructionStore::GetInstance()->GetInstruction(name);
 }
 
 bool GetRecordInfo(const QString& file, RecordInfo* info) {

@@ -1,0 +1,32 @@
+#include "record/action_track.h"
+
+#include "core/clock.h"
+#include "core/numbers.h"
+
+namespace taviinputmanager {
+
+ActionTrack::ActionTrack() : last_time_(Clock::NowMs()) {}
+
+ActionTrack::~ActionTrack() { qDeleteAll(actions_); }
+
+void ActionTrack::Start() {
+  last_time_ = Clock::NowMs();
+  Clear();
+}
+
+void ActionTrack::Add(const RecordAction& action) {
+  const qint64 now = Clock::NowMs();
+  auto* added = new RecordAction(action);
+  added->timing = LowDistance(last_time_, now);
+  last_time_ = now;
+  actions_.append(added);
+}
+
+void ActionTrack::Clear() {
+  qDeleteAll(actions_);
+  actions_.clear();
+}
+
+void ActionTrack::SkipSince(qint64 pause_time) { last_time_ = Clock::NowMs() - LowDistance(last_time_, pause_time); }
+
+}  // namespace taviinputmanager

@@ -1,0 +1,36 @@
+// A list of actions that grows as time passes.
+#ifndef RECORD_ACTION_TRACK_H_
+#define RECORD_ACTION_TRACK_H_
+
+#include <QList>
+
+#include "record/record_action.h"
+
+namespace taviinputmanager {
+
+// Each action's timing is the gap to the one before it, from the low 32 bits of both times.
+class ActionTrack {
+ public:
+  ActionTrack();
+  ActionTrack(const ActionTrack&) = delete;
+  ActionTrack& operator=(const ActionTrack&) = delete;
+  ~ActionTrack();
+
+  // Empty again, and the gap before the first action begins now.
+  void Start();
+  // `action` as it is, but for its timing.
+  void Add(const RecordAction& action);
+  void Clear();
+  // Goes on as if the time since `pause_time`, milliseconds since the epoch, had not passed.
+  void SkipSince(qint64 pause_time);
+
+  const QList<RecordAction*>& Actions() const { return actions_; }
+
+ private:
+  qint64 last_time_;              // of the last action or of the start, milliseconds since the epoch
+  QList<RecordAction*> actions_;  // owned
+};
+
+}  // namespace taviinputmanager
+
+#endif  // RECORD_ACTION_TRACK_H_

@@ -1,0 +1,177 @@
+#include "record/command_translation.h"
+
+#include <cmath>
+
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+#include "core/display_geometry.h"
+#include "core/guest_words.h"
+#include "record/point_text.h"
+#include "record/record_action.h"
+#include "record/record_format.h"
+
+namespace taviinputmanager {
+
+using namespace record_format;
+
+namespace {
+
+using Parts = QVector<QStringRef>;  // of a line, between its colons; the word is part 0
+
+constexpr QLatin1Char kColon(':');
+
+QString Joined(QLatin1String word, const QString& argument) {
+  QString data;
+  data.reserve(word.size() + 1 + argument.size());
+  return data.append(word).append(kColon).append(argument);
+}
+
+// Appends a colon and the point of two coordinates. False on a display without size, where there are no fractions.
+bool AppendPoint(const QStringRef& x, const QStringRef& y, QString* data) {
+  const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x.toInt(), y.toInt()));
+  if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return false;
+  data->append(kColon).append(WritePoint(point));
+  return true;
+}
+
+bool TouchPress(const QString& command, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() != 7) return false;
+  action->data = kPressRel;
+  action->extra1 = QString::number(parts.at(1).toInt());
+  return AppendPoint(parts.at(5), parts.at(6), &action->data);
+}
+
+bool TouchRelease(const QString& command, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() != 2) return false;
+  action->data = kRelease;
+  action->extra1 = QString::number(parts.at(1).toInt());
+  return true;
+}
+
+// Groups of four: slot, tracking id, x, y.
+bool TouchMultiPress(const QString& command, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() < 5 || (parts.size() - 1) % 4 != 0) return false;
+  action->data = kPressMultiRel;
+  for (int i = 1; i < parts.size(); i += 4) {
+    if (i > 1) action->extra1.append(kColon);
+    action->extra1.append(QString::number(parts.at(i).toInt()));
+    if (!AppendPoint(parts.at(i + 2), parts.at(i + 3), &action->data)) return false;
+  }
+  return true;
+}
+
+bool TouchMultiRelease(const QString& command, RecordAction* action) {
+  const int word = guest_words::kSlotMultiRelease.size();
+  if (command.size() <= word) return false;
+  action->data = kReleaseMulti;
+  action->extra1 = command.mid(word + 1);
+  return true;
+}
+
+bool TouchReset(const QString& /*command*/, RecordAction* action) {
+  action->data = kReset;
+  return true;
+}
+
+bool Key(const QString& command, QLatin1String word, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() != 3) return false;
+  action->data = Joined(word, parts.at(1).toString());
+  return true;
+}
+bool KeyPress(const QString& command, RecordAction* action) { return Key(command, kKeyboardPress, action); }
+bool KeyRelease(const QString& command, RecordAction* action) { return Key(command, kKeyboardRelease, action); }
+
+bool MouseWheel(const QString& command, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() != 5) return false;
+  action->data = kWheel;
+  return AppendPoint(parts.at(3), parts.at(4), &action->data);
+}
+
+bool MouseMove(const QString& command, RecordAction* action) {
+  const Parts parts = command.splitRef(kColon);
+  if (parts.size() != 3) return false;
+  action->data = kMove;
+  return AppendPoint(parts.at(1), parts.at(2), &action->data);
+}
+
+bool Gamepad(const QString& command, RecordAction* action) {
+  action->data = command;
+  return true;
+}
+
+// How much of a line has to be the word.
+enum class Match {
+  kWord,       // the line starts with the word
+  kWordColon,  // and a colon follows it
+  kLine        // the line is the word
+};
+
+struct Rule {
+  QLatin1String word;
+  Match match;
+  QLatin1String type;
+  bool (*translate)(const QString& command, RecordAction* action);
+};
+
+bool Fits(const QString& command, const Rule& rule) {
+  if (!command.startsWith(rule.word)) return false;
+  const int end = rule.word.size();
+  switch (rule.match) {
+    case Match::kWord: return true;
+    case Match::kWordColon: return command.size() > end && command.at(end) == kColon;
+    case Match::kLine: break;
+  }
+  return command.size() == end;
+}
+
+// In this order; the first that fits decides.
+constexpr Rule kRules[] = {
+    {guest_words::kSlotPress, Match::kWordColon, kTypeTouch, TouchPress},
+    {guest_words::kSlotRelease, Match::kWordColon, kTypeTouch, TouchRelease},
+    {guest_words::kKeyPress, Match::kWordColon, kTypeKeyboard, KeyPress},
+    {guest_words::kKeyRelease, Match::kWordColon, kTypeKeyboard, KeyRelease},
+    {guest_words::kSlotMultiPress, Match::kWord, kTypeTouch, TouchMultiPress},
+    {guest_words::kSlotMultiRelease, Match::kWord, kTypeTouch, TouchMultiRelease},
+    {guest_words::kWheel, Match::kWordColon, kTypeMouse, MouseWheel},
+    {guest_words::kMouseMove, Match::kWordColon, kTypeMouse, MouseMove},
+    {guest_words::kSlotReleaseAll, Match::kLine, kTypeTouch, TouchReset},
+    {guest_words::kGamepadButton, Match::kWordColon, kTypeJoystick, Gamepad},
+    {guest_words::kLeftStickAxis, Match::kWordColon, kTypeJoystick, Gamepad},
+    {guest_words::kRightStickAxis, Match::kWordColon, kTypeJoystick, Gamepad},
+    {guest_words::kLeftTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad},
+    {guest_words::kRightTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad},
+};
+
+// False when the line is another, or has no text.
+bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
+  const int end = line_word.size();
+  if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;
+  action->type = kTypeInputMethod;
+  action->data = Joined(word, command.mid(end + 1));
+  return true;
+}
+
+}  // namespace
+
+bool TranslateEventCommand(const QString& command, RecordAction* action) {
+  for (const Rule& rule : kRules) {
+    if (!Fits(command, rule)) continue;
+    action->type = rule.type;
+    return rule.translate(command, action);
+  }
+  return false;
+}
+
+bool TranslateTextCommand(const QString& command, RecordAction* action) {
+  return TranslateText(command, guest_words::kText, kTextInject, action) ||
+         TranslateText(command, guest_words::kTextControl, kTextControl, action);
+}
+
+}  // namespace taviinputmanager

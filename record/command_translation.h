@@ -1,0 +1,18 @@
+// From lines for the guest to actions of a record.
+#ifndef RECORD_COMMAND_TRANSLATION_H_
+#define RECORD_COMMAND_TRANSLATION_H_
+
+class QString;
+
+namespace taviinputmanager {
+
+struct RecordAction;
+
+// Both take a line without its newline, fill all fields of `action` but its timing, and return false for a line that no
+// record holds. Touch coordinates become fractions of the display of the moment; they are read as ints.
+bool TranslateEventCommand(const QString& command, RecordAction* action);
+bool TranslateTextCommand(const QString& command, RecordAction* action);
+
+}  // namespace taviinputmanager
+
+#endif  // RECORD_COMMAND_TRANSLATION_H_

@@ -1,0 +1,23 @@
+#include "record/point_text.h"
+
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+#include "core/line_buffer.h"
+
+namespace taviinputmanager {
+
+QString WritePoint(const QPointF& point) {
+  LineBuffer text;
+  return text.Byte('(').Number(point.x()).Byte(',').Number(point.y()).Byte(')').ToString();
+}
+
+QPointF ReadPoint(const QString& text) {
+  if (!text.startsWith(QLatin1Char('(')) || !text.endsWith(QLatin1Char(')'))) return {};
+  const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+  if (parts.size() != 2) return {};
+  return {parts.at(0).mid(1).toDouble(), parts.at(1).chopped(1).toDouble()};
+}
+
+}  // namespace taviinputmanager
