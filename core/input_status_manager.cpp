@@ -96,9 +96,16 @@ bool InputStatusManager::IsDisplayForceTransparent(int display) const {
 
 void InputStatusManager::ReleaseHeldKeys() { ReleaseHeldKeysOn(display_id_); }
 
-void InputStatusManager::ReleaseHeldKeysOn(int display) {
-  const QVarLengthArray<int, 16> codes(held_keys_.begin(), held_keys_.end());
-  held_keys_.Clear();  // first: sending may reach code that adds a key
+void InputStatusManager::ReleaseHeldKeysOn(int display) { ReleaseKeys(held_keys_, display); }
+
+void InputStatusManager::ReleaseReplayInput() {
+  InputEventSender::GetInstance()->SendEvent(guest_command::SlotReleaseAll(), replay_display_id_);
+  ReleaseKeys(replay_held_keys_, replay_display_id_);
+}
+
+void InputStatusManager::ReleaseKeys(CodeSet& keys, int display) {
+  const QVarLengthArray<int, 16> codes(keys.begin(), keys.end());
+  keys.Clear();  // first: sending may reach code that adds a key
   for (const int code : codes) InputEventSender::GetInstance()->SendEvent(guest_command::KeyRelease(code), display);
 }
 

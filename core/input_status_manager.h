@@ -68,6 +68,8 @@ class InputStatusManager {
   void ReleaseHeldKeys();
   // The same record for the display that replays go to.
   CodeSet& ReplayHeldKeys() { return replay_held_keys_; }
+  // Lifts all fingers on that display, then releases these keys and forgets them.
+  void ReleaseReplayInput();
 
   // ---- Reset ----
   // Leaves view control and observing, tells the host, and resets. `mode` is a ResetMode; display 0 is the present one.
@@ -92,6 +94,7 @@ class InputStatusManager {
   void NotifyStatus() const;
   void ReleaseSlotRange(int first, int last, int display);
   void ReleaseHeldKeysOn(int display);
+  static void ReleaseKeys(CodeSet& keys, int display);
   void TakeStaringKey(const tavikeymapmanager::KeymapConfig* config);
 
   InputStatus status_ = InputStatus::Normal;

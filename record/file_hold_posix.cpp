@@ -1,0 +1,21 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QString>
+
+#include "record/file_hold.h"
+
+namespace taviinputmanager {
+
+FileHandle HoldFile(const QString& path) {
+  const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return kNoFile;
+  flock(file, LOCK_SH | LOCK_NB);  // someone else's exclusive lock does not keep a replay from its record
+  return file;
+}
+
+void ReleaseFile(FileHandle file) { close(static_cast<int>(file)); }
+
+}  // namespace taviinputmanager
