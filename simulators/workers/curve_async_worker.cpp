@@ -31,8 +31,7 @@ void CurveAsyncWorker::Process() {
 
 void CurveAsyncWorker::TimerOutTime() {
   if (count_ >= points_.Count()) return Finish(false);
-  const auto point = points_.At(count_);
-  if (point) Q_EMIT CurvePointPressed(point->x(), point->y());
+  if (const auto point = points_.At(count_)) Q_EMIT CurvePointPressed(point->x(), point->y());
   timer_->start(kTickMs);
   ++count_;
 }
