@@ -124,43 +124,63 @@ TAVI_EXPORT void StopSync(const QString& target);
 TAVI_EXPORT void PauseSync(const QString& target);
 
 // ---- Recording -----------------------------------------------------------------------------------------------------
+//
+// What is recorded are the lines to primary displays and the text lines, as actions that know no display; not the
+// input. Nothing is refused in any state: a pause while stopped is reported all the same.
 
 // The table is the host's; null is allowed.
 TAVI_EXPORT void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks);
 TAVI_EXPORT RecordStatus GetRecordStatus();
 // Starts a recording; both names are put in front of it, for GetScriptAppAndPackage.
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
+// Ends the recording and saves it to `filename`, UTF-8 JSON. The result comes through the callback `stopped`: a
+// recording of nothing but released fingers is worth no file. A file that is there is replaced as a whole or not at
+// all.
+TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
+// What happens in between is not recorded, and its time is cut out.
 TAVI_EXPORT void PauseRecord();
 TAVI_EXPORT void ResumeRecord();
-// Ends the recording and saves it to `filename`, UTF-8 JSON. The result comes through the callback `stopped`.
-TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
-// Adds a command of the host's own to the recording. Nothing for empty `data`.
+// Adds a command of the host's own to the recording; a replay hands it to the callback `vcontrol`. Nothing for empty
+// `data`. `extra1` "1" makes a recording worth its file.
 TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
-// Sets the time of creation in a record file to now. Throws what the JSON parser throws.
+// Sets the time of creation in a record file to now; all else in it stays, also keys that are not the library's. Throws
+// what the JSON parser (Poco) throws.
 TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
-// Captures input as lines of the macro language under a name, and hands them out.
+// Captures host events as lines of the macro language under a name. Meanwhile no event line is recorded.
 TAVI_EXPORT void StartRecordMacroInstruction(QString name);
 TAVI_EXPORT void StopRecordMacroInstruction(QString name);
+// The macro that was captured last, "sleep:<ms>" and instruction by turns; empty under any other name and during a
+// capture.
 TAVI_EXPORT QList<QString> getRecordMacroInstruction(QString name);
-// Reads the header of a record file. False when it cannot be read; `info` is the caller's.
+// Reads the header of a record file. False when it cannot be read; `info` is the caller's, and untouched then.
 TAVI_EXPORT bool GetRecordInfo(const QString& file, RecordInfo* info);
-// Reads the names that StartRecord was given.
+// Reads the names that StartRecord was given. What is not there leaves its output as it is.
 TAVI_EXPORT void GetScriptAppAndPackage(const QString& file, QString& app, QString& package);
-// Writes the record files named in `params`, in order, as one merged record to `file`.
+// Writes the record files named in `params`, in order, as one merged record to `file`, a playlist. False, and `file`
+// untouched, when one of them cannot be read or `file` not be written. `file` may be one of the sources.
 TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& params);
 
 // ---- Replay --------------------------------------------------------------------------------------------------------
+//
+// A replay is known by its task id and file. Requests reach it through its thread, so they take effect later, in their
+// order; those that name no replay do nothing. Fingers of a replay are those of macros, slots 18 to 25.
 
-// The table is the host's; null is allowed. A replay keeps the table of its start.
+// The table is the host's; null is allowed. A replay keeps the table of its start, but for `vcontrol`.
 TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
 // Plays `filename` on a thread of its own, known by `task_id` and `filename` from then on. The first int and the first
-// string are ignored. A file that cannot be read starts nothing, and `started` is not called.
+// string are ignored. A file that cannot be read starts nothing, and `started` is not called. The file is held against
+// writers, as far as the platform goes, until the replay is stopped.
 TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& filename, ReplayParam param);
+// Keeps the rest of the running delay, and resets all input of the live display in full.
 TAVI_EXPORT void PauseReplay(int task_id, const QString& file);
+// Presses again what replays held down, and goes on.
 TAVI_EXPORT void ResumeReplay(int task_id, const QString& file);
-// Plays from the start again, at the speed that the replay was started with.
+// Plays from the start again, at the speed that the replay was started with; `param` is ignored.
 TAVI_EXPORT void RestartReplay(int task_id, const QString& file, ReplayParam param);
+// Ends a replay, also one that has finished, which otherwise stays for a restart. `stop_by_user`: what replays hold
+// down is released.
 TAVI_EXPORT void StopReplay(int task_id, const QString& file, bool stop_by_user);
+// Ends all replays, and releases nothing.
 TAVI_EXPORT void StopAllReplay();
 // The display that all replays send to; 0 at start.
 TAVI_EXPORT void UpdateReplayDisplayId(int display);
