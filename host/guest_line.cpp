@@ -1,5 +1,7 @@
 #include "host/guest_line.h"
 
+#include <cmath>
+
 #include <QStringList>
 
 namespace tavi {
@@ -17,15 +19,15 @@ struct LineForm {
 };
 
 constexpr LineForm kForms[] = {
-    {"SLOTPRESS", Kind::kSlotPress, "iiiiii"},
+    {"SLOTPRESS", Kind::kSlotPress, "iiiidd"},
     {"SLOTRELEASE", Kind::kSlotRelease, "i"},
     {"SLOTRELEASEALL", Kind::kSlotReleaseAll, ""},
-    {"SLOTMULTIPRESS", Kind::kMultiPress, "iiii+"},
+    {"SLOTMULTIPRESS", Kind::kMultiPress, "iidd+"},
     {"SLOTMULTIRELEASE", Kind::kMultiRelease, "i+"},
     {"KBDPR", Kind::kKeyPress, "ii"},
     {"KBDRL", Kind::kKeyRelease, "ii"},
-    {"MOUSEMOVE_REL", Kind::kMouseMove, "ii"},
-    {"WHEEL", Kind::kWheel, "iiii"},
+    {"MOUSEMOVE_REL", Kind::kMouseMove, "dd"},
+    {"WHEEL", Kind::kWheel, "dddd"},
     {"WHEEL_WITH_DELTA", Kind::kWheelWithDelta, "iidi"},
     {"TEXT", Kind::kText, "t"},
     {"TEXT_CONTROL", Kind::kTextControl, "t"},
@@ -51,7 +53,7 @@ const LineForm* FindForm(const QString& name) {
 bool ReadNumber(const QString& field, QChar kind, QVector<double>* numbers) {
   bool is_number = false;
   numbers->append(kind == QLatin1Char('i') ? field.toInt(&is_number) : field.toDouble(&is_number));
-  return is_number;
+  return is_number && std::isfinite(numbers->last());
 }
 
 bool ReadNumbers(const QStringList& fields, QString kinds, QVector<double>* numbers) {

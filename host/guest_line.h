@@ -9,7 +9,7 @@
 namespace tavi {
 
 struct GuestLine {
-  // With the numbers that each carries. Positions are touch coordinates.
+  // With the numbers that each carries. Positions are touch coordinates; those of a replay have fractions.
   enum class Kind {
     kUnknown,         // not understood; no numbers
     kSlotPress,       // slot, tracking id, 1, 1, x, y
@@ -36,10 +36,13 @@ struct GuestLine {
     kTouchpadRelease  // none
   };
 
-  int Integer(int index) const { return static_cast<int>(numbers.at(index)); }
+  // Whole, and inside what an int holds.
+  int Integer(int index) const { return static_cast<int>(qBound(-kHighest, numbers.at(index), kHighest)); }
+
+  static constexpr double kHighest = 0x7FFFFFFF;
 
   Kind kind = Kind::kUnknown;
-  QVector<double> numbers;
+  QVector<double> numbers;  // finite
   QString text;
 };
 

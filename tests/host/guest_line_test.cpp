@@ -19,6 +19,10 @@ struct FormRow {
 TEST(GuestLine, UnderstandsEveryFormOfNumbers) {
   const FormRow rows[] = {
       {"a finger", "SLOTPRESS:2:2:1:1:640:360", Kind::kSlotPress, {2, 2, 1, 1, 640, 360}},
+      {"a finger of a replay", "SLOTPRESS:18:18:1:1:640.5:1e-05", Kind::kSlotPress, {18, 18, 1, 1, 640.5, 1e-5}},
+      {"a replay's pinch", "SLOTMULTIPRESS:18:18:0.5:2", Kind::kMultiPress, {18, 18, 0.5, 2}},
+      {"a replay's pointer", "MOUSEMOVE_REL:12.25:3", Kind::kMouseMove, {12.25, 3}},
+      {"a replay's wheel", "WHEEL:0.5:360:-0.5:360", Kind::kWheel, {0.5, 360, -0.5, 360}},
       {"a lift", "SLOTRELEASE:25", Kind::kSlotRelease, {25}},
       {"all lifted", "SLOTRELEASEALL", Kind::kSlotReleaseAll, {}},
       {"a pinch", "SLOTMULTIPRESS:10:10:1:2:0:0:3:4", Kind::kMultiPress, {10, 10, 1, 2, 0, 0, 3, 4}},
@@ -84,6 +88,7 @@ TEST(GuestLine, DoesNotUnderstandAnythingElse) {
       {"a field where none is due", "SLOTRELEASEALL:1"},
       {"a broken number", "KBDPR:3o:1"},
       {"a fraction where a whole number is due", "HATX:0.5"},
+      {"a place that is nowhere", "MOUSEMOVE_REL:inf:nan"},
       {"half a contact", "SLOTMULTIPRESS:18:18"},
       {"a contact and a half", "SLOTMULTIPRESS:18:18:1:2:19:19"},
       {"no contact", "SLOTMULTIPRESS"},
