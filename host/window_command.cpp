@@ -23,6 +23,8 @@ constexpr char kHelp[] =
     "are drawn, and the lines that say so are listed. A keymap that is saved meanwhile\n"
     "is read again at once. Without KEYMAP the window asks for one.\n"
     "\n"
+    "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
+    "                   gamepad reaches the guest as one\n"
     "  --guest SIZE     the guest's display, such as 1920x1080; \"view\" for one as large\n"
     "                   as it is shown (1280x720)\n"
     "  --picture FILE   save a picture of the window (PNG) and leave\n"
@@ -33,6 +35,7 @@ constexpr char kHelp[] =
     "\n"
     "Example: tavi window examples/keymaps/shooter.yaml\n";
 
+const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
 const QString kPicture = QStringLiteral("--picture");
 const QString kAfter = QStringLiteral("--after");
@@ -41,6 +44,7 @@ constexpr int kDefaultAfterMs = 1000;
 
 struct WindowOptions {
   QString keymap;                   // empty: ask
+  QString joystick_keymap;          // empty: none
   std::optional<QSize> guest_size;  // an empty size: as large as the view
   QString picture;                  // empty: none
   int after_ms = kDefaultAfterMs;
@@ -51,8 +55,9 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (!arguments.error.isEmpty()) return arguments.error;
   if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
   options->keymap = arguments.positional.value(0);
-  if (!options->keymap.isEmpty() && !QFileInfo(options->keymap).isFile()) {
-    return QStringLiteral("no such file: %1").arg(options->keymap);
+  options->joystick_keymap = arguments.options.value(kJoystick);
+  for (const QString& file : {options->keymap, options->joystick_keymap}) {
+    if (!file.isEmpty() && !QFileInfo(file).isFile()) return QStringLiteral("no such file: %1").arg(file);
   }
   if (arguments.options.contains(kGuest)) {
     const QString guest = arguments.options[kGuest];
@@ -81,6 +86,7 @@ int ShowWindow(const WindowOptions& options) {
   MainWindow window;
   if (options.guest_size) window.SetGuestSize(*options.guest_size);
   window.LoadKeymap(options.keymap);
+  if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
   window.show();
   window.activateWindow();
   if (!options.picture.isEmpty()) {
@@ -103,8 +109,8 @@ int Run(const Invocation& invocation) {
   QApplication application(invocation.argc, invocation.argv);
   theme::Apply(&application);
   // The application has taken out what is Qt's own, such as -platform.
-  const ParsedArguments arguments =
-      ParseArguments(QApplication::arguments().mid(2), {{kGuest, true}, {kPicture, true}, {kAfter, true}});
+  const ParsedArguments arguments = ParseArguments(
+      QApplication::arguments().mid(2), {{kJoystick, true}, {kGuest, true}, {kPicture, true}, {kAfter, true}});
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);
   if (!problem.isEmpty()) return FailUsage(QStringLiteral("window"), problem);

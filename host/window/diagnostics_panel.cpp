@@ -29,8 +29,12 @@ QString FindingHtml(const Diagnostic& diagnostic) {
 
 }  // namespace
 
-DiagnosticsPanel::DiagnosticsPanel(QWidget* parent)
-    : QFrame(parent), title_(new QLabel(this)), findings_(new QLabel), scroll_(new QScrollArea(this)) {
+DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
+    : QFrame(parent),
+      subject_(subject),
+      title_(new QLabel(this)),
+      findings_(new QLabel),
+      scroll_(new QScrollArea(this)) {
   findings_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   findings_->setFocusPolicy(Qt::NoFocus);
   findings_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -54,11 +58,12 @@ void DiagnosticsPanel::Show(const tavikeymapmanager::LoadResult& keymap) {
   const QColor& color = keymap.HasErrors() ? theme::kError : theme::kWarning;
   title_->setText(
       QStringLiteral("<b style='color:%1'>%2</b>")
-          .arg(color.name(), keymap.HasErrors()
-                                 ? QStringLiteral("This keymap cannot be used. Correct it and save it: it is "
-                                                  "read again at once.")
-                                 : QStringLiteral("This keymap is in use, but parts of it may not be as "
-                                                  "they were meant.")));
+          .arg(color.name(),
+               keymap.HasErrors()
+                   ? QStringLiteral("%1 cannot be used. Correct it and save it: it is read again "
+                                    "at once.")
+                         .arg(subject_)
+                   : QStringLiteral("%1 is in use, but parts of it may not be as they were meant.").arg(subject_)));
   setVisible(!keymap.diagnostics.isEmpty());
 }
 

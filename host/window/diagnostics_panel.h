@@ -2,6 +2,7 @@
 #define HOST_WINDOW_DIAGNOSTICS_PANEL_H_
 
 #include <QFrame>
+#include <QString>
 
 class QLabel;
 class QScrollArea;
@@ -17,11 +18,13 @@ class DiagnosticsPanel : public QFrame {
   Q_OBJECT
 
  public:
-  explicit DiagnosticsPanel(QWidget* parent = nullptr);
+  // `subject` is what the keymap is called in a sentence that begins with it.
+  explicit DiagnosticsPanel(const QString& subject, QWidget* parent = nullptr);
 
   void Show(const tavikeymapmanager::LoadResult& keymap);
 
  private:
+  const QString subject_;
   QLabel* title_;
   QLabel* findings_;
   QScrollArea* scroll_;

@@ -18,8 +18,8 @@
 #include "host/window/guest_view.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
-#include "host/window/overlay_marks.h"
 #include "host/window/window_host.h"
+#include "keymap/keywords.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -57,10 +57,9 @@ QAction* AddButton(QToolBar* bar, const QString& text, const QString& hint) {
   return action;
 }
 
-QString TitleOf(const tavikeymapmanager::LoadResult& keymap, const QString& path) {
+QString TitleOf(const QString& name, const QString& path) {
   if (path.isEmpty()) return QStringLiteral("tavi");
-  const QString name = keymap.name.isEmpty() ? QFileInfo(path).fileName() : keymap.name;
-  return name + QStringLiteral(" \u2013 tavi");
+  return (name.isEmpty() ? QFileInfo(path).fileName() : name) + QStringLiteral(" \u2013 tavi");
 }
 
 }  // namespace
@@ -69,9 +68,10 @@ MainWindow::MainWindow()
     : view_(new GuestView),
       frame_(new GuestFrame(view_)),
       panel_(new GuestPanel(&view_->Model())),
-      diagnostics_(new DiagnosticsPanel),
+      keymap_{{}, {}, {}, new DiagnosticsPanel(QStringLiteral("This keymap")), new KeymapWatch(this)},
+      joystick_keymap_{
+          {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
-      watch_(new KeymapWatch(this)),
       keymap_label_(new QLabel),
       size_label_(new QLabel) {
   setCentralWidget(MakeCentre());
@@ -84,8 +84,10 @@ MainWindow::MainWindow()
   WindowHost* host = WindowHost::GetInstance();
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
   connect(frame_, &GuestFrame::ViewResized, this, &MainWindow::TakeViewSize);
-  connect(watch_, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_); });
+  connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
+  connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   host->Start(view_);
+  LoadJoystickKeymap(QString());
   SetGuestSize(host->GuestSize());
   // What a guest without any contact is sent by way of a beginning is no news.
   connect(host, &WindowHost::EntryAdded, log_, &LineLog::Add);
@@ -97,7 +99,8 @@ QWidget* MainWindow::MakeCentre() {
   auto* layout = new QVBoxLayout(centre);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(diagnostics_);
+  layout->addWidget(keymap_.diagnostics);
+  layout->addWidget(joystick_keymap_.diagnostics);
   layout->addWidget(frame_, 1);
   layout->addWidget(panel_);
   return centre;
@@ -109,6 +112,9 @@ void MainWindow::MakeToolBar() {
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   QAction* open = AddButton(bar, QStringLiteral("Open\u2026"), QStringLiteral("Use another keymap"));
   connect(open, &QAction::triggered, this, &MainWindow::OpenKeymap);
+  QAction* open_joystick =
+      AddButton(bar, QStringLiteral("Gamepad\u2026"), QStringLiteral("Use another keymap for gamepads"));
+  connect(open_joystick, &QAction::triggered, this, &MainWindow::OpenJoystickKeymap);
   AddMenuButton(bar, QStringLiteral("Guest"), MakeGuestMenu());
   bar->addSeparator();
 
@@ -148,27 +154,58 @@ void MainWindow::MakeLogDock() {
 }
 
 void MainWindow::OpenKeymap() {
-  QString folder = QFileInfo(keymap_).absolutePath();
-  if (keymap_.isEmpty() && QFileInfo(QLatin1String(kExampleFolder)).isDir()) folder = QLatin1String(kExampleFolder);
-  const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("Open a keymap"), folder,
-                                                    QStringLiteral("Keymaps (*.yaml *.yml *.json);;All files (*)"));
+  const QString path = AskForKeymap(QStringLiteral("Open a keymap"), keymap_);
   if (!path.isEmpty()) LoadKeymap(path);
+}
+
+void MainWindow::OpenJoystickKeymap() {
+  const QString path = AskForKeymap(QStringLiteral("Open a keymap for gamepads"), joystick_keymap_);
+  if (!path.isEmpty()) LoadJoystickKeymap(path);
+}
+
+QString MainWindow::AskForKeymap(const QString& title, const Keymap& before) {
+  QString folder = QFileInfo(before.path).absolutePath();
+  if (before.path.isEmpty() && QFileInfo(QLatin1String(kExampleFolder)).isDir()) folder = QLatin1String(kExampleFolder);
+  const QString path =
+      QFileDialog::getOpenFileName(this, title, folder, QStringLiteral("Keymaps (*.yaml *.yml *.json);;All files (*)"));
   view_->setFocus();
+  return path;
+}
+
+QString MainWindow::Read(const QString& path, Keymap* keymap) {
+  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
+  keymap->path = path;
+  keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(result));
+  keymap->marks = MarksOf(result);
+  keymap->diagnostics->Show(result);
+  keymap->watch->Watch(path);
+  return result.name;
 }
 
 void MainWindow::LoadKeymap(const QString& path) {
-  keymap_ = path;
-  watch_->Watch(path);
-  const tavikeymapmanager::LoadResult keymap = tavikeymapmanager::ReadKeymapFile(path);
+  const QString name = Read(path, &keymap_);
   taviinputmanager::OnLoadKeymapConfigAndInfo(path, QString(), QString(), WindowHost::kDisplay);
-  view_->SetMarks(MarksOf(keymap));
-  view_->SetHint(path.isEmpty()
-                     ? QStringLiteral("No keymap. The left mouse button is a finger; Open\u2026 takes a keymap.")
-                     : QString());
-  diagnostics_->Show(keymap);
-  setWindowTitle(TitleOf(keymap, path));
-  keymap_label_->setText(path.isEmpty() ? QStringLiteral("No keymap")
-                                        : QStringLiteral("%1 \u00B7 %2").arg(path, ItemCountText(keymap)));
+  setWindowTitle(TitleOf(name, path));
+  ShowKeymaps();
+}
+
+void MainWindow::LoadJoystickKeymap(const QString& path) {
+  Read(path, &joystick_keymap_);
+  // The system's keymap takes nothing and passes all on.
+  taviinputmanager::OnLoadJoystickConfigAndInfo(path.isEmpty() ? tavikeymapmanager::keywords::kSystemKeymap : path, 0);
+  ShowKeymaps();
+}
+
+void MainWindow::ShowKeymaps() {
+  view_->SetMarks(MergeMarks(keymap_.marks, joystick_keymap_.marks));
+  const bool has_keymap = !keymap_.path.isEmpty();
+  view_->SetHint(has_keymap
+                     ? QString()
+                     : QStringLiteral("No keymap. The left mouse button is a finger; Open\u2026 takes a keymap."));
+  QStringList contents(has_keymap ? keymap_.contents : QStringLiteral("No keymap"));
+  if (!joystick_keymap_.path.isEmpty()) contents += QStringLiteral("gamepads: ") + joystick_keymap_.contents;
+  keymap_label_->setText(contents.join(QStringLiteral("  \u00B7  ")));
+  keymap_label_->setToolTip((keymap_.path + QLatin1Char('\n') + joystick_keymap_.path).trimmed());
 }
 
 void MainWindow::SetGuestSize(const QSize& size) {

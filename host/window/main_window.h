@@ -5,6 +5,8 @@
 #include <QSize>
 #include <QString>
 
+#include "host/window/overlay_marks.h"
+
 class QAction;
 class QActionGroup;
 class QLabel;
@@ -29,32 +31,47 @@ class MainWindow : public QMainWindow {
 
   // Puts the keymap at `path` to use and tells what is wrong with it; an empty path is no keymap.
   void LoadKeymap(const QString& path);
-  // Asks for a file, and loads it.
+  // The same of the keymap of gamepads. Without one, gamepads reach the guest as they are.
+  void LoadJoystickKeymap(const QString& path);
+  // Each asks for a file, and loads it.
   void OpenKeymap();
+  void OpenJoystickKeymap();
   // The guest's display in pixels. An empty size: as large as the view, whatever that is.
   void SetGuestSize(const QSize& size);
 
   GuestView* View() const { return view_; }
 
  private:
+  // A keymap that is in use, and what belongs to it.
+  struct Keymap {
+    QString path;      // empty: none
+    QString contents;  // for people
+    QVector<OverlayMark> marks;
+    DiagnosticsPanel* diagnostics;
+    KeymapWatch* watch;
+  };
+
   void MakeToolBar();
   void MakeLogDock();
   QMenu* MakeGuestMenu();
   QWidget* MakeCentre();
+  // Takes a keymap file in, and gives its own name.
+  QString Read(const QString& path, Keymap* keymap);
+  QString AskForKeymap(const QString& title, const Keymap& before);
+  void ShowKeymaps();
   void TakeViewSize();
   void ShowSizes();
 
   GuestView* view_;
   GuestFrame* frame_;
   GuestPanel* panel_;
-  DiagnosticsPanel* diagnostics_;
+  Keymap keymap_;
+  Keymap joystick_keymap_;
   LineLog* log_;
-  KeymapWatch* watch_;
   QAction* log_shown_ = nullptr;
   QActionGroup* guest_sizes_ = nullptr;
   QLabel* keymap_label_;
   QLabel* size_label_;
-  QString keymap_;
   bool guest_follows_view_ = false;
 };
 

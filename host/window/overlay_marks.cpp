@@ -83,6 +83,8 @@ void AddShape(const km::ConfigItem& item, OverlayMark* mark) {
     AddDirections(*gravity, mark);
   } else if (const auto* right_walk = dynamic_cast<const km::MouseRightWalkConfigItem*>(&item)) {
     mark->radius = right_walk->walk_radius;
+  } else if (const auto* stick_walk = dynamic_cast<const km::JoystickLeftWalkConfigItem*>(&item)) {
+    mark->radius = stick_walk->walk_radius;
   } else if (const auto* staring = dynamic_cast<const km::StaringConfigItem*>(&item)) {
     mark->range = staring->range_size;
   } else if (const auto* curve = dynamic_cast<const km::CurveConfigItem*>(&item)) {
@@ -119,6 +121,14 @@ OverlayMark* FindTwin(QVector<OverlayMark>* marks, const OverlayMark& mark) {
   return twin == marks->end() ? nullptr : &*twin;
 }
 
+void AddMark(const OverlayMark& mark, QVector<OverlayMark>* marks) {
+  if (OverlayMark* twin = FindTwin(marks, mark)) {
+    twin->keys += mark.keys;
+  } else {
+    marks->append(mark);
+  }
+}
+
 }  // namespace
 
 QVector<OverlayMark> MarksOf(const km::LoadResult& keymap) {
@@ -126,13 +136,13 @@ QVector<OverlayMark> MarksOf(const km::LoadResult& keymap) {
   const auto& items = keymap.config->items;
   for (int i = 0; i < items.size(); ++i) {
     const QString label = i < keymap.item_sources.size() ? keymap.item_sources[i].label : QString();
-    const OverlayMark mark = MarkOf(*items[i], label);
-    if (OverlayMark* twin = FindTwin(&marks, mark)) {
-      twin->keys += mark.keys;
-    } else {
-      marks.append(mark);
-    }
+    AddMark(MarkOf(*items[i], label), &marks);
   }
+  return marks;
+}
+
+QVector<OverlayMark> MergeMarks(QVector<OverlayMark> marks, const QVector<OverlayMark>& others) {
+  for (const OverlayMark& mark : others) AddMark(mark, &marks);
   return marks;
 }
 

@@ -38,6 +38,9 @@ struct OverlayMark {
 // In the order of the items, those on one point with one shape and label joined.
 QVector<OverlayMark> MarksOf(const tavikeymapmanager::LoadResult& keymap);
 
+// The marks of two keymaps that are in use together, joined in the same way.
+QVector<OverlayMark> MergeMarks(QVector<OverlayMark> marks, const QVector<OverlayMark>& others);
+
 }  // namespace tavi
 
 #endif  // HOST_WINDOW_OVERLAY_MARKS_H_

@@ -82,6 +82,22 @@ TEST(OverlayMarks, AFireButtonStandsWhereItTouches) {
   EXPECT_EQ(marks[0].point, QPointF(0.1, 0.2));
 }
 
+TEST(OverlayMarks, AStickOfAGamepadHasItsRadius) {
+  const auto marks = MarksOfItems("{type: LeftStickWalk, point: [0.2, 0.7], walk_radius: 0.09}");
+  EXPECT_EQ(marks[0].family, Family::kWalk);
+  EXPECT_EQ(marks[0].keys, QStringList{"Pad Left_Stick"});
+  EXPECT_EQ(marks[0].radius, 0.09);
+}
+
+TEST(OverlayMarks, KeysOfTwoKeymapsStandTogether) {
+  const auto marks = MergeMarks(MarksOfItems("{type: Click, label: Jump, key: Space, point: [0.5, 0.5]}"),
+                                MarksOfItems("{type: Click, label: Jump, key: Pad A, point: [0.5, 0.5]},"
+                                             "{type: Click, label: Map, key: Pad Up, point: [0.9, 0.1]}"));
+  ASSERT_EQ(marks.size(), 2);
+  EXPECT_EQ(marks[0].keys, (QStringList{"Space", "Pad A"}));
+  EXPECT_EQ(marks[1].label, QStringLiteral("Map"));
+}
+
 TEST(OverlayMarks, AMacroHasNoPlace) {
   const auto marks = MarksOfItems("{type: Macro, label: Run, key: Left Shift, press_commands: ['sleep:1']}");
   EXPECT_FALSE(marks[0].HasPlace());

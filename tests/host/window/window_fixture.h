@@ -33,11 +33,15 @@ class WindowFixture : public testing::Test {
   }
 
   void Load(const char* items, const char* settings = "") {
-    QFile file(folder_.filePath("keymap.yaml"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    window_->LoadKeymap(Write("keymap.yaml", items, settings));
+  }
+  void LoadJoystick(const char* items) { window_->LoadJoystickKeymap(Write("joystick.yaml", items)); }
+  // Writes a keymap and gives its path.
+  QString Write(const char* name, const char* items, const char* settings = "") {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray("format: 1\n") + settings + "\nitems: [" + items + "]\n");
-    file.close();
-    window_->LoadKeymap(file.fileName());
+    return file.fileName();
   }
 
   void Send(QEvent* event) { QCoreApplication::sendEvent(View(), event); }
@@ -56,6 +60,7 @@ class WindowFixture : public testing::Test {
     Send(&event);
   }
 
+  MainWindow* Window() const { return window_.get(); }
   GuestView* View() const { return window_->View(); }
   const GuestState& Guest() const { return View()->Model().state(); }
   QList<int> Slots() const { return Guest().contacts.keys(); }
