@@ -101,6 +101,11 @@ void GuestPanel::TakeGravity(double x, double /*y*/, double z) {
   update();
 }
 
+void GuestPanel::SetPreedit(const QString& preedit) {
+  preedit_ = preedit;
+  update();
+}
+
 void GuestPanel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -151,13 +156,20 @@ void GuestPanel::PaintText(QPainter* painter, const QRectF& place) const {
   const bool is_focused = WindowHost::GetInstance()->HasTextField();
   QString text = model_->state().text;
   text.replace(QLatin1Char('\n'), QStringLiteral("\u21B5 "));
-  const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideLeft, static_cast<int>(place.width()) - 16);
+  const int width = static_cast<int>(place.width()) - 16;
+  const QString shown = painter->fontMetrics().elidedText(text + preedit_, Qt::ElideLeft, width);
   painter->setPen(QPen(is_focused ? theme::kTap : theme::kPanelLine, 1.5));
   painter->setBrush(theme::kBackdrop);
   painter->drawRoundedRect(place.adjusted(0, 2, 0, -2), 4, 4);
   painter->setPen(theme::kText);
-  painter->drawText(place.adjusted(8, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter,
+  const QRectF line = place.adjusted(8, 0, -8, 0);
+  painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
                     shown + (is_focused ? QStringLiteral("\u258F") : QString()));
+  if (preedit_.isEmpty()) return;
+  const QFontMetricsF metrics(painter->font(), this);
+  const double end = line.left() + metrics.horizontalAdvance(shown);
+  const double bottom = line.center().y() + metrics.height() / 2;
+  painter->drawLine(QPointF(qMax(line.left(), end - metrics.horizontalAdvance(preedit_)), bottom), {end, bottom});
 }
 
 // A ball on a plate: it goes where the guest is tilted to.

@@ -20,6 +20,9 @@ class GuestPanel : public QWidget {
   // `model` outlives the panel; update() after it changed.
   explicit GuestPanel(const GuestModel* model, QWidget* parent = nullptr);
 
+  // What an input method composes and the guest has not got yet.
+  void SetPreedit(const QString& preedit);
+
   QSize sizeHint() const override;
 
  protected:
@@ -37,6 +40,7 @@ class GuestPanel : public QWidget {
   const GuestModel* model_;
   int status_ = 0;
   QString staring_key_;
+  QString preedit_;
   std::optional<QPointF> tilt_;  // to the right and downwards, at most 40 either way
 };
 

@@ -178,6 +178,7 @@ void GuestView::wheelEvent(QWheelEvent* event) {
 
 void GuestView::inputMethodEvent(QInputMethodEvent* event) {
   Send(event);
+  Q_EMIT Composing(event->preeditString());
   event->accept();
 }
 

@@ -38,6 +38,8 @@ class GuestView : public QWidget {
  Q_SIGNALS:
   // The model has taken a line.
   void ModelChanged();
+  // An input method composes, and what it has is the whole of `text`.
+  void Composing(const QString& text);
 
  protected:
   bool event(QEvent* event) override;

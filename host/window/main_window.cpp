@@ -84,6 +84,7 @@ MainWindow::MainWindow()
   WindowHost* host = WindowHost::GetInstance();
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
   connect(frame_, &GuestFrame::ViewResized, this, &MainWindow::TakeViewSize);
+  connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   host->Start(view_);
