@@ -87,6 +87,7 @@ int ShowWindow(const WindowOptions& options) {
   if (options.guest_size) window.SetGuestSize(*options.guest_size);
   window.LoadKeymap(options.keymap);
   if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
+  window.ReadGamepads();
   window.show();
   window.activateWindow();
   if (!options.picture.isEmpty()) {

@@ -6,6 +6,7 @@
 
 #include "host/guest_model.h"
 #include "host/window/key_cap.h"
+#include "host/window/pad_input.h"
 #include "host/window/theme.h"
 
 namespace tavi {
@@ -30,6 +31,27 @@ QString NameOfButton(int code) {
   return QString::number(code);
 }
 
+struct HatRow {
+  char16_t arrow;
+  QPoint way;
+};
+
+// The directions of the hat, as the library calls them.
+const HatRow kHat[] = {
+    {u'\u2191', {0, -1}},
+    {u'\u2193', {0, 1}},
+    {u'\u2190', {-1, 0}},
+    {u'\u2192', {1, 0}},
+};
+
+// A null point for a button that is no direction.
+QPoint WayOf(const QString& button) {
+  for (const HatRow& row : kHat) {
+    if (button == QChar(row.arrow)) return row.way;
+  }
+  return {};
+}
+
 // Moves on to the right with every part.
 class GamepadPainter {
  public:
@@ -52,7 +74,7 @@ class GamepadPainter {
     const QPointF middle(left_ + arm * 1.5, place_.center().y());
     painter_->setPen(Qt::NoPen);
     for (const QPoint& way : {QPoint(0, 0), QPoint(0, -1), QPoint(1, 0), QPoint(0, 1), QPoint(-1, 0)}) {
-      const bool is_down = !way.isNull() && (way.x() == hat.x() ? way.x() != 0 : way.y() == hat.y() && way.y() != 0);
+      const bool is_down = !way.isNull() && (way.x() != 0 ? way.x() == hat.x() : way.y() == hat.y());
       QRectF part(0, 0, arm, arm);
       part.moveCenter(middle + QPointF(way) * arm);
       painter_->setBrush(is_down ? theme::kTap : theme::kPanelLine.lighter(140));
@@ -61,20 +83,17 @@ class GamepadPainter {
     left_ += arm * 3 + 8;
   }
 
-  void PaintTrigger(int value) {
+  void PaintTrigger(bool is_down) {
     const QRectF bar(left_, place_.top() + 2, 9, place_.height() - 4);
     painter_->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
-    painter_->setBrush(value != 0 ? theme::kTap : theme::kBackdrop);
+    painter_->setBrush(is_down ? theme::kTap : theme::kBackdrop);
     painter_->drawRoundedRect(bar, 3, 3);
     left_ += bar.width() + 6;
   }
 
-  void PaintButtons(const QSet<int>& buttons) {
-    QList<int> codes = buttons.values();
-    std::sort(codes.begin(), codes.end());
+  void PaintButtons(const QStringList& names) {
     left_ += 2;
-    for (const int code : codes) {
-      const QString name = NameOfButton(code);
+    for (const QString& name : names) {
       const double width = KeyCapSize(*painter_, name).width();
       PaintKeyCap(painter_, {name, theme::kTap, true}, {left_ + width / 2, place_.center().y()});
       left_ += width + 5;
@@ -89,7 +108,36 @@ class GamepadPainter {
 
 }  // namespace
 
-void PaintGamepad(QPainter* painter, const QRectF& place, const GuestGamepad& gamepad) {
+GamepadPicture PictureOf(const GuestGamepad& gamepad) {
+  GamepadPicture picture;
+  picture.left_stick = gamepad.left_stick;
+  picture.right_stick = gamepad.right_stick;
+  picture.hat = gamepad.hat;
+  picture.left_trigger = gamepad.left_trigger != 0;
+  picture.right_trigger = gamepad.right_trigger != 0;
+  QList<int> codes = gamepad.buttons.values();
+  std::sort(codes.begin(), codes.end());
+  for (const int code : codes) picture.buttons += NameOfButton(code);
+  return picture;
+}
+
+GamepadPicture PictureOf(const PadInput& gamepad) {
+  GamepadPicture picture;
+  picture.left_stick = gamepad.Stick(0);
+  picture.right_stick = gamepad.Stick(1);
+  picture.buttons = gamepad.Pressed();
+  picture.left_trigger = picture.buttons.removeAll(QStringLiteral("LT")) > 0;
+  picture.right_trigger = picture.buttons.removeAll(QStringLiteral("RT")) > 0;
+  for (const QString& button : gamepad.Pressed()) {
+    const QPoint way = WayOf(button);
+    if (way.isNull()) continue;
+    picture.hat += way;
+    picture.buttons.removeAll(button);
+  }
+  return picture;
+}
+
+void PaintGamepad(QPainter* painter, const QRectF& place, const GamepadPicture& gamepad) {
   GamepadPainter parts(painter, place);
   parts.PaintStick(gamepad.left_stick);
   parts.PaintStick(gamepad.right_stick);

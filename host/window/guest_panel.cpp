@@ -6,7 +6,6 @@
 
 #include "host/guest_key_names.h"
 #include "host/guest_model.h"
-#include "host/window/gamepad_picture.h"
 #include "host/window/key_cap.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
@@ -53,7 +52,8 @@ class SectionPainter {
     painter_->save();
     painter_->setFont(font);
     painter_->setPen(theme::kFaintText);
-    painter_->drawText(QRectF(start, 4, width, kCaptionHeight - 4), Qt::AlignLeft | Qt::AlignVCenter, caption);
+    painter_->drawText(QRectF(start, 4, width, kCaptionHeight - 4), Qt::AlignLeft | Qt::AlignVCenter,
+                       painter_->fontMetrics().elidedText(caption, Qt::ElideRight, static_cast<int>(width) - kMargin));
     painter_->restore();
     return {start, kCaptionHeight, width - kMargin, height_ - kCaptionHeight - 8.0};
   }
@@ -101,6 +101,12 @@ void GuestPanel::TakeGravity(double x, double /*y*/, double z) {
   update();
 }
 
+void GuestPanel::SetPad(const std::optional<GamepadPicture>& pad, const QString& name) {
+  pad_ = pad;
+  pad_name_ = name;
+  update();
+}
+
 void GuestPanel::SetPreedit(const QString& preedit) {
   preedit_ = preedit;
   update();
@@ -120,8 +126,10 @@ void GuestPanel::paintEvent(QPaintEvent* /*event*/) {
   PaintMouse(&painter, sections.TakeLeft(QStringLiteral("MOUSE"), kMouseWidth));
   if (tilt_) PaintTilt(&painter, sections.TakeRight(QStringLiteral("TILT"), kTiltWidth));
   if (state.gamepad.used) {
-    PaintGamepad(&painter, sections.TakeRight(QStringLiteral("GAMEPAD"), kGamepadWidth), state.gamepad);
+    PaintGamepad(&painter, sections.TakeRight(QStringLiteral("THE GUEST'S GAMEPAD"), kGamepadWidth),
+                 PictureOf(state.gamepad));
   }
+  if (pad_) PaintGamepad(&painter, sections.TakeRight(pad_name_.toUpper(), kGamepadWidth), *pad_);
   const bool has_text = WindowHost::GetInstance()->HasTextField() || !state.text.isEmpty();
   const double rest = sections.Rest();
   PaintHeldKeys(&painter, sections.TakeLeft(QStringLiteral("KEYS DOWN IN THE GUEST"), has_text ? rest / 2 : rest));

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "host/window/gamepad_picture.h"
+
 class QPainter;
 
 namespace tavi {
@@ -20,6 +22,8 @@ class GuestPanel : public QWidget {
   // `model` outlives the panel; update() after it changed.
   explicit GuestPanel(const GuestModel* model, QWidget* parent = nullptr);
 
+  // A gamepad of this computer and its name; none while there is none.
+  void SetPad(const std::optional<GamepadPicture>& pad, const QString& name);
   // What an input method composes and the guest has not got yet.
   void SetPreedit(const QString& preedit);
 
@@ -40,6 +44,8 @@ class GuestPanel : public QWidget {
   const GuestModel* model_;
   int status_ = 0;
   QString staring_key_;
+  std::optional<GamepadPicture> pad_;
+  QString pad_name_;
   QString preedit_;
   std::optional<QPointF> tilt_;  // to the right and downwards, at most 40 either way
 };

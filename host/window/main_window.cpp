@@ -13,6 +13,8 @@
 
 #include "host/keymap_report.h"
 #include "host/window/diagnostics_panel.h"
+#include "host/window/gamepad_picture.h"
+#include "host/window/gamepad_poll.h"
 #include "host/window/guest_frame.h"
 #include "host/window/guest_panel.h"
 #include "host/window/guest_view.h"
@@ -28,6 +30,7 @@ namespace tavi {
 namespace {
 
 constexpr QSize kFirstSize(1360, 760);
+constexpr int kLabelGap = 16;  // in the status bar
 constexpr QSize kGuestSizes[] = {{1280, 720}, {1920, 1080}, {2400, 1080}, {720, 1280}};
 constexpr char kExampleFolder[] = "examples/keymaps";
 
@@ -62,6 +65,12 @@ QString TitleOf(const QString& name, const QString& path) {
   return (name.isEmpty() ? QFileInfo(path).fileName() : name) + QStringLiteral(" \u2013 tavi");
 }
 
+QString PadsText(const Gamepads& pads) {
+  if (!GamepadPoll::IsSupported()) return QStringLiteral("Built without gamepads");
+  if (pads.Count() == 0) return QStringLiteral("No gamepad");
+  return pads.Count() == 1 ? pads.LastUsedName() : QStringLiteral("%1 gamepads").arg(pads.Count());
+}
+
 }  // namespace
 
 MainWindow::MainWindow()
@@ -73,11 +82,15 @@ MainWindow::MainWindow()
           {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
       keymap_label_(new QLabel),
-      size_label_(new QLabel) {
+      pad_label_(new QLabel),
+      size_label_(new QLabel),
+      pads_(taviinputmanager::OnJoystickEvent) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
   MakeToolBar();
   statusBar()->addWidget(keymap_label_, 1);
+  pad_label_->setContentsMargins(0, 0, kLabelGap, 0);
+  statusBar()->addPermanentWidget(pad_label_);
   statusBar()->addPermanentWidget(size_label_);
   resize(kFirstSize);
 
@@ -87,6 +100,8 @@ MainWindow::MainWindow()
   connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
+  connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
+  ShowPads();
   host->Start(view_);
   LoadJoystickKeymap(QString());
   SetGuestSize(host->GuestSize());
@@ -94,6 +109,8 @@ MainWindow::MainWindow()
   connect(host, &WindowHost::EntryAdded, log_, &LineLog::Add);
   view_->setFocus();
 }
+
+MainWindow::~MainWindow() = default;
 
 QWidget* MainWindow::MakeCentre() {
   auto* centre = new QWidget;
@@ -191,6 +208,7 @@ void MainWindow::LoadKeymap(const QString& path) {
 }
 
 void MainWindow::LoadJoystickKeymap(const QString& path) {
+  pads_.ReleaseAll();  // by the keymap that they were pressed by
   Read(path, &joystick_keymap_);
   // The system's keymap takes nothing and passes all on.
   taviinputmanager::OnLoadJoystickConfigAndInfo(path.isEmpty() ? tavikeymapmanager::keywords::kSystemKeymap : path, 0);
@@ -207,6 +225,28 @@ void MainWindow::ShowKeymaps() {
   if (!joystick_keymap_.path.isEmpty()) contents += QStringLiteral("gamepads: ") + joystick_keymap_.contents;
   keymap_label_->setText(contents.join(QStringLiteral("  \u00B7  ")));
   keymap_label_->setToolTip((keymap_.path + QLatin1Char('\n') + joystick_keymap_.path).trimmed());
+}
+
+void MainWindow::ReadGamepads() {
+  TakeActivation();
+  pad_poll_ = std::make_unique<GamepadPoll>(&pads_);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange) TakeActivation();
+  QMainWindow::changeEvent(event);
+}
+
+void MainWindow::TakeActivation() {
+  const bool is_held = taviinputmanager::isInputHoldWhenWindowDeactivate();
+  if (!isActiveWindow() && !is_held) pads_.ReleaseAll();
+  pads_.SetListening(isActiveWindow());
+}
+
+void MainWindow::ShowPads() {
+  pad_label_->setText(PadsText(pads_));
+  const PadInput* pad = pads_.LastUsed();
+  panel_->SetPad(pad ? std::make_optional(PictureOf(*pad)) : std::nullopt, pads_.LastUsedName());
 }
 
 void MainWindow::SetGuestSize(const QSize& size) {

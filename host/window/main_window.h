@@ -1,10 +1,13 @@
 #ifndef HOST_WINDOW_MAIN_WINDOW_H_
 #define HOST_WINDOW_MAIN_WINDOW_H_
 
+#include <memory>
+
 #include <QMainWindow>
 #include <QSize>
 #include <QString>
 
+#include "host/window/gamepads.h"
 #include "host/window/overlay_marks.h"
 
 class QAction;
@@ -16,6 +19,7 @@ class QToolBar;
 namespace tavi {
 
 class DiagnosticsPanel;
+class GamepadPoll;
 class GuestFrame;
 class GuestPanel;
 class GuestView;
@@ -28,6 +32,7 @@ class MainWindow : public QMainWindow {
 
  public:
   MainWindow();
+  ~MainWindow() override;
 
   // Puts the keymap at `path` to use and tells what is wrong with it; an empty path is no keymap.
   void LoadKeymap(const QString& path);
@@ -36,10 +41,17 @@ class MainWindow : public QMainWindow {
   // Each asks for a file, and loads it.
   void OpenKeymap();
   void OpenJoystickKeymap();
+  // From now on the gamepads of this computer are the guest's while the window is in use.
+  void ReadGamepads();
   // The guest's display in pixels. An empty size: as large as the view, whatever that is.
   void SetGuestSize(const QSize& size);
 
   GuestView* View() const { return view_; }
+  // The gamepads that the library is told of.
+  Gamepads* Pads() { return &pads_; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
   // A keymap that is in use, and what belongs to it.
@@ -59,6 +71,8 @@ class MainWindow : public QMainWindow {
   QString Read(const QString& path, Keymap* keymap);
   QString AskForKeymap(const QString& title, const Keymap& before);
   void ShowKeymaps();
+  void TakeActivation();
+  void ShowPads();
   void TakeViewSize();
   void ShowSizes();
 
@@ -71,8 +85,11 @@ class MainWindow : public QMainWindow {
   QAction* log_shown_ = nullptr;
   QActionGroup* guest_sizes_ = nullptr;
   QLabel* keymap_label_;
+  QLabel* pad_label_;
   QLabel* size_label_;
   bool guest_follows_view_ = false;
+  Gamepads pads_;
+  std::unique_ptr<GamepadPoll> pad_poll_;
 };
 
 }  // namespace tavi

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "host/window/pad_input.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -12,7 +13,6 @@ using Source = TimelineEntry::Source;
 namespace {
 
 constexpr QSize kDefaultGuest(1280, 720);
-constexpr int kGamepadType = 1;
 
 quint64 Pack(const QSize& size) {
   return static_cast<quint64>(size.width()) << 32 | static_cast<quint64>(size.height());
@@ -39,7 +39,7 @@ struct WindowHostFunctions {
     Say(QStringLiteral("status %1 %2").arg(status).arg(key).trimmed());
     Host()->SetInputStatus(status, key);
   }
-  static int GetJoystickType(int /*device*/) { return kGamepadType; }
+  static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
   static void OnEscapeKeyOccupied(bool occupied) { Say(QStringLiteral("escape_occupied %1").arg(occupied)); }
   // Points of a keymap are scaled to this rectangle and then taken for pixels of the view, so the two are one.

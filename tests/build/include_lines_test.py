@@ -31,6 +31,7 @@ GROUND = ["include", "keymap"]
 LIBRARIES = {
     "Poco/": ["core", "record"],
     "yaml.h": ["keymapmanager"],
+    "SDL.h": ["host"],
 }
 FREE = ["tests", "bench", "fuzz", "examples", "cmake"]
 
