@@ -1,0 +1,216 @@
+#include "host/window/record_bar.h"
+
+#include <QActionGroup>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QToolButton>
+
+#include "host/window/recorder.h"
+#include "host/window/replayer.h"
+
+namespace tavi {
+
+using taviinputmanager::RecordStatus;
+using State = Replayer::State;
+
+namespace {
+
+constexpr double kSpeeds[] = {0.25, 0.5, 1.0, 2.0, 4.0};
+constexpr int kRefreshMs = 100;
+constexpr int kProgressWidth = 180;
+constexpr char kFileTypes[] = "Records (*.json);;All files (*)";
+
+QString TimeText(qint64 ms) {
+  const qint64 tenths = ms / 100;
+  return QStringLiteral("%1:%2.%3").arg(tenths / 600).arg(tenths / 10 % 60, 2, 10, QLatin1Char('0')).arg(tenths % 10);
+}
+
+QString SpeedText(double speed) { return QStringLiteral("%1\u00D7").arg(speed); }
+
+}  // namespace
+
+RecordBar::RecordBar(QWidget* parent)
+    : QToolBar(QStringLiteral("Records"), parent),
+      record_(AddButton(QStringLiteral("\u25CF Record"), QStringLiteral("Record what the guest gets"))),
+      pause_record_(AddButton(QStringLiteral("Pause"), QStringLiteral("Leave out what happens until Resume"))),
+      recorded_(new QLabel),
+      open_(nullptr),
+      play_(nullptr),
+      restart_(nullptr),
+      stop_(nullptr),
+      progress_(new QProgressBar),
+      second_view_(nullptr) {
+  setMovable(false);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  addWidget(recorded_);
+  addSeparator();
+  open_ = AddButton(QStringLiteral("Open record\u2026"), QStringLiteral("Take a record to play"));
+  play_ = AddButton(QStringLiteral("\u25B6 Play"), QString());
+  restart_ = AddButton(QStringLiteral("Restart"), QStringLiteral("Play from the start again"));
+  stop_ = AddButton(QStringLiteral("Stop"), QStringLiteral("End the replay and let go of what it holds"));
+  AddSpeedButton();
+  progress_->setFixedWidth(kProgressWidth);
+  progress_->setFormat(QString());
+  addWidget(progress_);
+  second_view_ = AddButton(QStringLiteral("Second view"),
+                           QStringLiteral("Play on a display of its own, beside the one that you play on"));
+  second_view_->setCheckable(true);
+
+  connect(record_, &QAction::triggered, this, &RecordBar::ToggleRecording);
+  connect(pause_record_, &QAction::triggered, this, &RecordBar::TogglePause);
+  connect(open_, &QAction::triggered, this, [this] { OpenRecord(); });
+  connect(play_, &QAction::triggered, this, &RecordBar::TogglePlaying);
+  connect(restart_, &QAction::triggered, Replayer::GetInstance(), &Replayer::Restart);
+  connect(stop_, &QAction::triggered, Replayer::GetInstance(), &Replayer::Stop);
+  connect(&refresh_, &QTimer::timeout, this, &RecordBar::ShowTimes);
+  connect(Recorder::GetInstance(), &Recorder::Changed, this, &RecordBar::Show);
+  connect(Recorder::GetInstance(), &Recorder::Saved, this, [this](const QString& file, const QString& problem) {
+    Q_EMIT Message(problem.isEmpty() ? QStringLiteral("Saved %1").arg(file) : problem, !problem.isEmpty());
+  });
+  connect(Replayer::GetInstance(), &Replayer::Changed, this, &RecordBar::Show);
+  connect(Replayer::GetInstance(), &Replayer::Refused, this, [this](const QString& file) {
+    Q_EMIT Message(QStringLiteral("%1 holds no actions that can be played").arg(file), true);
+  });
+  Show();
+}
+
+QAction* RecordBar::AddButton(const QString& text, const QString& hint) {
+  QAction* action = addAction(text);
+  action->setToolTip(hint);
+  widgetForAction(action)->setFocusPolicy(Qt::NoFocus);
+  return action;
+}
+
+void RecordBar::AddSpeedButton() {
+  auto* button = new QToolButton(this);
+  button->setMenu(MakeSpeedMenu());
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setToolTip(QStringLiteral("How fast the next replay is"));
+  const auto show = [this, button] { button->setText(SpeedText(Speed())); };
+  connect(speeds_, &QActionGroup::triggered, this, show);
+  show();
+  addWidget(button);
+}
+
+QMenu* RecordBar::MakeSpeedMenu() {
+  auto* menu = new QMenu(this);
+  speeds_ = new QActionGroup(menu);
+  for (const double speed : kSpeeds) {
+    QAction* action = speeds_->addAction(menu->addAction(SpeedText(speed)));
+    action->setCheckable(true);
+    action->setData(speed);
+    action->setChecked(speed == 1.0);
+  }
+  menu->addSeparator();
+  hand_ = menu->addAction(QStringLiteral("As by hand: each tap a pixel or two aside"));
+  hand_->setCheckable(true);
+  return menu;
+}
+
+double RecordBar::Speed() const { return speeds_->checkedAction()->data().toDouble(); }
+
+void RecordBar::SetPackage(const QString& package) { package_ = package; }
+
+// ---- What a person does
+
+void RecordBar::ToggleRecording() {
+  Recorder* recorder = Recorder::GetInstance();
+  if (recorder->Status() == RecordStatus::Stopped) {
+    recorder->Start(package_, QStringLiteral("tavi"));
+  } else {
+    SaveRecording();
+  }
+}
+
+void RecordBar::TogglePause() {
+  Recorder* recorder = Recorder::GetInstance();
+  if (recorder->Status() == RecordStatus::Paused) {
+    recorder->Resume();
+  } else {
+    recorder->Pause();
+  }
+}
+
+bool RecordBar::SaveRecording(QString file) {
+  if (file.isEmpty()) {
+    Recorder::GetInstance()->Pause();  // the dialog is no part of it, and whoever backs out can go on
+    file = QFileDialog::getSaveFileName(this, QStringLiteral("Save the record"), QString(),
+                                        QString::fromLatin1(kFileTypes));
+    Q_EMIT DialogClosed();
+  }
+  if (file.isEmpty()) return false;
+  Recorder::GetInstance()->Stop(file);
+  return true;
+}
+
+bool RecordBar::OpenRecord(QString file) {
+  if (file.isEmpty()) {
+    file =
+        QFileDialog::getOpenFileName(this, QStringLiteral("Open a record"), QString(), QString::fromLatin1(kFileTypes));
+    Q_EMIT DialogClosed();
+  }
+  if (file.isEmpty()) return false;
+  const QString problem = Replayer::GetInstance()->Open(file);
+  if (!problem.isEmpty()) Q_EMIT Message(problem, true);
+  return problem.isEmpty();
+}
+
+void RecordBar::TogglePlaying() {
+  Replayer* replayer = Replayer::GetInstance();
+  switch (replayer->GetState()) {
+    case State::kNone:
+    case State::kFinished: return replayer->Play({Speed(), hand_->isChecked()});
+    case State::kStarting: return;
+    case State::kPlaying: return replayer->Pause();
+    case State::kPaused: return replayer->Resume();
+  }
+}
+
+// ---- What is shown
+
+void RecordBar::Show() {
+  ShowRecording();
+  ShowReplay();
+  ShowTimes();
+  const bool is_running = Recorder::GetInstance()->Status() == RecordStatus::Recording ||
+                          Replayer::GetInstance()->GetState() == State::kPlaying;
+  if (is_running && !refresh_.isActive()) refresh_.start(kRefreshMs);
+  if (!is_running) refresh_.stop();
+}
+
+void RecordBar::ShowRecording() {
+  const RecordStatus status = Recorder::GetInstance()->Status();
+  const bool is_stopped = status == RecordStatus::Stopped;
+  record_->setText(is_stopped ? QStringLiteral("\u25CF Record") : QStringLiteral("\u25A0 Save\u2026"));
+  record_->setToolTip(is_stopped ? QStringLiteral("Record what the guest gets")
+                                 : QStringLiteral("End the recording and save it"));
+  pause_record_->setEnabled(!is_stopped);
+  pause_record_->setText(status == RecordStatus::Paused ? QStringLiteral("Resume") : QStringLiteral("Pause"));
+}
+
+void RecordBar::ShowReplay() {
+  const Replayer* replayer = Replayer::GetInstance();
+  const State state = replayer->GetState();
+  play_->setEnabled(!replayer->File().isEmpty() && state != State::kStarting);
+  play_->setText(state == State::kPlaying ? QStringLiteral("\u275A\u275A Pause") : QStringLiteral("\u25B6 Play"));
+  play_->setToolTip(replayer->File().isEmpty() ? QStringLiteral("Open a record first") : replayer->File());
+  const bool has_replay = state != State::kNone && state != State::kStarting;
+  restart_->setEnabled(has_replay);
+  stop_->setEnabled(has_replay);
+}
+
+void RecordBar::ShowTimes() {
+  const Recorder* recorder = Recorder::GetInstance();
+  const bool is_stopped = recorder->Status() == RecordStatus::Stopped;
+  recorded_->setText(is_stopped ? QString() : TimeText(recorder->RecordedMs()));
+  const Replayer* replayer = Replayer::GetInstance();
+  progress_->setRange(0, static_cast<int>(qBound<qint64>(1, replayer->TotalMs(), 0x7FFFFFFF)));
+  progress_->setValue(static_cast<int>(qMin<qint64>(replayer->PlayedMs(), progress_->maximum())));
+  progress_->setToolTip(TimeText(replayer->PlayedMs()) + QStringLiteral(" of ") + TimeText(replayer->TotalMs()));
+}
+
+}  // namespace tavi

@@ -1,0 +1,72 @@
+#ifndef HOST_WINDOW_RECORD_BAR_H_
+#define HOST_WINDOW_RECORD_BAR_H_
+
+#include <QString>
+#include <QTimer>
+#include <QToolBar>
+
+class QAction;
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QProgressBar;
+
+namespace tavi {
+
+// Records what the guest gets, and plays records back. Its buttons take no focus, so that the keys stay the guest's.
+class RecordBar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  explicit RecordBar(QWidget* parent = nullptr);
+
+  // Records under the name of what is played on, which a record keeps.
+  void SetPackage(const QString& package);
+
+  // Starts a recording, or ends the one that runs, asking where to save it.
+  void ToggleRecording();
+  // Ends the recording and saves it; asks where when `file` is empty. False when the person backs out: the recording
+  // is then paused.
+  bool SaveRecording(QString file = {});
+  // Takes a record to play; asks for one when `file` is empty. False when it is none, or when the person backs out.
+  bool OpenRecord(QString file = {});
+  // Plays the record, or pauses it, or goes on.
+  void TogglePlaying();
+
+  QAction* SecondView() const { return second_view_; }
+
+ Q_SIGNALS:
+  // For the person; `is_problem`: something went wrong.
+  void Message(const QString& text, bool is_problem);
+  // A dialog is gone; the guest should have the keys again.
+  void DialogClosed();
+
+ private:
+  QAction* AddButton(const QString& text, const QString& hint);
+  QMenu* MakeSpeedMenu();
+  void AddSpeedButton();
+  void TogglePause();
+  void Show();
+  void ShowRecording();
+  void ShowReplay();
+  void ShowTimes();
+  double Speed() const;
+
+  QAction* record_;
+  QAction* pause_record_;
+  QLabel* recorded_;
+  QAction* open_;
+  QAction* play_;
+  QAction* restart_;
+  QAction* stop_;
+  QActionGroup* speeds_ = nullptr;
+  QAction* hand_ = nullptr;
+  QProgressBar* progress_;
+  QAction* second_view_;
+  QTimer refresh_;  // of the times, while something runs
+  QString package_;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_RECORD_BAR_H_
