@@ -8,6 +8,7 @@
 
 #include "host/command_line.h"
 #include "host/window/main_window.h"
+#include "host/window/record_bar.h"
 #include "host/window/theme.h"
 #include "host/window_system.h"
 
@@ -27,16 +28,26 @@ constexpr char kHelp[] =
     "                   gamepad reaches the guest as one\n"
     "  --guest SIZE     the guest's display, such as 1920x1080; \"view\" for one as large\n"
     "                   as it is shown (1280x720)\n"
+    "  --record FILE    record what the guest gets, and save it when the window is closed\n"
+    "  --replay FILE    play this record at once\n"
+    "  --listen NAME    let other instances send their lines to this one\n"
+    "  --mirror NAMES   send the lines for the guest to the instances that listen under\n"
+    "                   these names, separated by commas, too\n"
     "  --picture FILE   save a picture of the window (PNG) and leave\n"
     "  --after MS       time until then in milliseconds (1000)\n"
     "\n"
-    "Exit status: 0 when the window was closed, 1 when the picture could not be saved,\n"
+    "Exit status: 0 when the window was closed, 1 when the picture could not be saved or\n"
+    "the name to listen under is taken,\n"
     "2 for a wrong command line.\n"
     "\n"
     "Example: tavi window examples/keymaps/shooter.yaml\n";
 
 const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
+const QString kRecord = QStringLiteral("--record");
+const QString kReplay = QStringLiteral("--replay");
+const QString kListen = QStringLiteral("--listen");
+const QString kMirror = QStringLiteral("--mirror");
 const QString kPicture = QStringLiteral("--picture");
 const QString kAfter = QStringLiteral("--after");
 
@@ -46,7 +57,11 @@ struct WindowOptions {
   QString keymap;                   // empty: ask
   QString joystick_keymap;          // empty: none
   std::optional<QSize> guest_size;  // an empty size: as large as the view
-  QString picture;                  // empty: none
+  QString record;                   // empty: none
+  QString replay;                   // empty: none
+  QString listen;                   // empty: to nobody
+  QStringList mirror;
+  QString picture;  // empty: none
   int after_ms = kDefaultAfterMs;
 };
 
@@ -56,7 +71,11 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
   options->keymap = arguments.positional.value(0);
   options->joystick_keymap = arguments.options.value(kJoystick);
-  for (const QString& file : {options->keymap, options->joystick_keymap}) {
+  options->record = arguments.options.value(kRecord);
+  options->replay = arguments.options.value(kReplay);
+  options->listen = arguments.options.value(kListen);
+  options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
+  for (const QString& file : {options->keymap, options->joystick_keymap, options->replay}) {
     if (!file.isEmpty() && !QFileInfo(file).isFile()) return QStringLiteral("no such file: %1").arg(file);
   }
   if (arguments.options.contains(kGuest)) {
@@ -79,7 +98,16 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
 void SavePictureAndLeave(MainWindow* window, const QString& file) {
   const bool is_saved = window->grab().save(file, "PNG");
   if (!is_saved) PrintError(QStringLiteral("tavi window: cannot write %1\n").arg(file));
+  window->close();  // saves a recording
   QCoreApplication::exit(is_saved ? kExitDone : kExitProblem);
+}
+
+void StartRecords(const WindowOptions& options, RecordBar* records) {
+  if (!options.record.isEmpty()) {
+    records->SetTarget(options.record);
+    records->ToggleRecording();
+  }
+  if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
 }
 
 int ShowWindow(const WindowOptions& options) {
@@ -87,6 +115,15 @@ int ShowWindow(const WindowOptions& options) {
   if (options.guest_size) window.SetGuestSize(*options.guest_size);
   window.LoadKeymap(options.keymap);
   if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
+  if (!options.listen.isEmpty()) {
+    const QString problem = window.ListenAs(options.listen);
+    if (!problem.isEmpty()) {
+      PrintError(QStringLiteral("tavi window: cannot listen as %1: %2\n").arg(options.listen, problem));
+      return kExitProblem;
+    }
+  }
+  window.MirrorTo(options.mirror);
+  StartRecords(options, window.Records());
   window.ReadGamepads();
   window.show();
   window.activateWindow();
@@ -110,8 +147,14 @@ int Run(const Invocation& invocation) {
   QApplication application(invocation.argc, invocation.argv);
   theme::Apply(&application);
   // The application has taken out what is Qt's own, such as -platform.
-  const ParsedArguments arguments = ParseArguments(
-      QApplication::arguments().mid(2), {{kJoystick, true}, {kGuest, true}, {kPicture, true}, {kAfter, true}});
+  const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), {{kJoystick, true},
+                                                                                      {kGuest, true},
+                                                                                      {kRecord, true},
+                                                                                      {kReplay, true},
+                                                                                      {kListen, true},
+                                                                                      {kMirror, true},
+                                                                                      {kPicture, true},
+                                                                                      {kAfter, true}});
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);
   if (!problem.isEmpty()) return FailUsage(QStringLiteral("window"), problem);

@@ -6,12 +6,10 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTimerEvent>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "host/native_key.h"
-#include "host/window/contact_painter.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -22,9 +20,6 @@ using taviinputmanager::InputStatus;
 
 namespace {
 
-constexpr int kFrameMs = 16;
-constexpr int kGridLines = 10;  // each way
-constexpr int kWheelFadeMs = 450;
 constexpr int kHintMargin = 24;
 
 QPointF ClampTo(const QRect& rect, const QPointF& point) {
@@ -34,21 +29,16 @@ QPointF ClampTo(const QRect& rect, const QPointF& point) {
 }  // namespace
 
 GuestView::GuestView(QWidget* parent)
-    : QWidget(parent),
-      model_(WindowHost::kDisplay),
+    : GuestScreen(WindowHost::kDisplay, Texts::kTaken, parent),
       capture_(this),
       key_repeats_(taviinputmanager::OnQtInputEvent),
-      may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")),
-      wheel_ms_(-kWheelFadeMs) {
+      may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAttribute(Qt::WA_AcceptTouchEvents);
-  setAttribute(Qt::WA_OpaquePaintEvent);
   setContextMenuPolicy(Qt::PreventContextMenu);
-  clock_.start();
 
   WindowHost* host = WindowHost::GetInstance();
-  connect(host, &WindowHost::EntryAdded, this, &GuestView::TakeEntry);
   connect(host, &WindowHost::InputStatusChanged, this, &GuestView::TakeInputStatus);
   connect(host, &WindowHost::TextFieldChanged, this, &GuestView::TakeTextField);
   TakeTextField(host->HasTextField());
@@ -72,21 +62,6 @@ void GuestView::SetHint(const QString& hint) {
 }
 
 // ---- What the library says
-
-void GuestView::TakeEntry(const TimelineEntry& entry) {
-  if (entry.source == TimelineEntry::Source::kCallback) return;
-  const int turns = model_.state().wheel.count;
-  if (entry.source == TimelineEntry::Source::kLine) {
-    model_.ApplyEvent(entry.text);
-  } else {
-    model_.ApplyText(entry.text);
-  }
-  if (model_.state().wheel.count != turns) wheel_ms_ = clock_.elapsed();
-  trails_.Update(model_.state().contacts, clock_.elapsed());
-  if (!fading_.isActive()) fading_.start(kFrameMs, Qt::PreciseTimer, this);
-  update();
-  Q_EMIT ModelChanged();
-}
 
 // While the mouse steers the view or looks around, only its movement counts.
 void GuestView::TakeInputStatus(int status) {
@@ -142,9 +117,13 @@ bool GuestView::HandleTouch(QEvent* event) {
   event->accept();
   if (event->type() == QEvent::TouchCancel) {
     ReleaseInput();
-  } else {
-    Send(event);
+    return true;
   }
+  QTouchEvent touch(*static_cast<QTouchEvent*>(event));
+  QList<QTouchEvent::TouchPoint> points = touch.touchPoints();
+  for (QTouchEvent::TouchPoint& point : points) point.setPos(ToGuest(point.pos()));
+  touch.setTouchPoints(points);
+  Send(&touch);
   return true;
 }
 
@@ -166,14 +145,21 @@ void GuestView::mouseMoveEvent(QMouseEvent* event) {
 // A drag may leave the view; a finger stays on the glass.
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
   const QPointF inside = ClampTo(rect(), event.localPos());
-  QMouseEvent clamped(type, inside, mapTo(window(), inside.toPoint()), mapToGlobal(inside.toPoint()), event.button(),
-                      event.buttons(), event.modifiers());
+  QMouseEvent clamped(type, ToGuest(inside), mapTo(window(), inside.toPoint()), mapToGlobal(inside.toPoint()),
+                      event.button(), event.buttons(), event.modifiers());
   Send(&clamped);
 }
 
 void GuestView::wheelEvent(QWheelEvent* event) {
-  Send(event);
+  QWheelEvent turn(ToGuest(event->position()), event->globalPosition(), event->pixelDelta(), event->angleDelta(),
+                   event->buttons(), event->modifiers(), event->phase(), event->inverted(), event->source());
+  Send(&turn);
   event->accept();
+}
+
+QPointF GuestView::ToGuest(const QPointF& place) const {
+  const QSize guest = WindowHost::GetInstance()->GuestSize();
+  return {place.x() * guest.width() / width(), place.y() * guest.height() / height()};
 }
 
 void GuestView::inputMethodEvent(QInputMethodEvent* event) {
@@ -201,51 +187,15 @@ void GuestView::ReleaseInput() {
 
 // ---- Drawing
 
-void GuestView::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != fading_.timerId()) return QWidget::timerEvent(event);
-  const bool is_wheel_fading = clock_.elapsed() - wheel_ms_ < kWheelFadeMs;
-  if (!trails_.Prune(clock_.elapsed()) && !is_wheel_fading) fading_.stop();
-  update();
-}
-
-void GuestView::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  PaintBackground(&painter);
-  if (overlay_shown_) overlay_.Paint(&painter, size());
-  PaintHint(&painter);
-  PaintGuest(&painter);
-}
-
-void GuestView::PaintBackground(QPainter* painter) const {
-  const QRectF area = rect();
-  QRadialGradient light(area.center(), qMax(area.width(), area.height()) * 0.65);
-  light.setColorAt(0, theme::kGuest);
-  light.setColorAt(1, theme::kGuestEdge);
-  painter->fillRect(area, light);
-  painter->setPen(QPen(theme::kGrid, 1));
-  for (int i = 1; i < kGridLines; ++i) {
-    const double x = area.width() * i / kGridLines;
-    const double y = area.height() * i / kGridLines;
-    painter->drawLine(QPointF(x, 0), QPointF(x, area.height()));
-    painter->drawLine(QPointF(0, y), QPointF(area.width(), y));
-  }
+void GuestView::PaintUnderFingers(QPainter* painter) {
+  if (overlay_shown_) overlay_.Paint(painter, size());
+  PaintHint(painter);
 }
 
 void GuestView::PaintHint(QPainter* painter) const {
-  if (hint_.isEmpty() || !model_.state().contacts.isEmpty()) return;
+  if (hint_.isEmpty() || !Model().state().contacts.isEmpty()) return;
   painter->setPen(theme::kFaintText);
   painter->drawText(rect().adjusted(kHintMargin, 0, -kHintMargin, 0), Qt::AlignCenter | Qt::TextWordWrap, hint_);
-}
-
-void GuestView::PaintGuest(QPainter* painter) const {
-  const GuestState& state = model_.state();
-  const qint64 now_ms = clock_.elapsed();
-  ContactPainter contacts(painter, WindowHost::GetInstance()->GuestSize(), size());
-  contacts.PaintTrails(trails_, now_ms);
-  const double wheel_strength = 1.0 - static_cast<double>(now_ms - wheel_ms_) / kWheelFadeMs;
-  if (wheel_strength > 0) contacts.PaintWheel(state.wheel, wheel_strength);
-  if (state.pointer) contacts.PaintPointer(*state.pointer);
 }
 
 }  // namespace tavi

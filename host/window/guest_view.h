@@ -1,34 +1,26 @@
 #ifndef HOST_WINDOW_GUEST_VIEW_H_
 #define HOST_WINDOW_GUEST_VIEW_H_
 
-#include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QEvent>
-#include <QWidget>
 
-#include "host/guest_model.h"
-#include "host/window/contact_trails.h"
+#include "host/window/guest_screen.h"
 #include "host/window/key_repeat_filter.h"
 #include "host/window/keymap_overlay.h"
 #include "host/window/pointer_capture.h"
 
 namespace tavi {
 
-struct TimelineEntry;
-
-// The view that shows the guest: gives its input to the library, and draws what a guest would make of the lines that
-// come back.
+// The guest's display with a keymap over it, which gives its input to the library. Places are handed on in pixels of
+// the guest, however large it is shown, so that to the library the view is as large as the guest.
 //
 // All keys are the guest's while the view has the focus, those that move the focus or open menus among them. What is
 // pressed is let go when the view loses the focus, unless a macro asked to hold it.
-class GuestView : public QWidget {
+class GuestView : public GuestScreen {
   Q_OBJECT
 
  public:
   explicit GuestView(QWidget* parent = nullptr);
   ~GuestView() override;
-
-  const GuestModel& Model() const { return model_; }
 
   void SetMarks(const QVector<OverlayMark>& marks);
   void SetOverlayShown(bool shown);
@@ -36,8 +28,6 @@ class GuestView : public QWidget {
   void SetHint(const QString& hint);
 
  Q_SIGNALS:
-  // The model has taken a line.
-  void ModelChanged();
   // An input method composes, and what it has is the whole of `text`.
   void Composing(const QString& text);
 
@@ -51,11 +41,9 @@ class GuestView : public QWidget {
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void focusOutEvent(QFocusEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void timerEvent(QTimerEvent* event) override;
+  void PaintUnderFingers(QPainter* painter) override;
 
  private:
-  void TakeEntry(const TimelineEntry& entry);
   void TakeInputStatus(int status);
   void TakeTextField(bool focused);
 
@@ -65,22 +53,17 @@ class GuestView : public QWidget {
   void Send(QEvent* event);
   void SendMouse(QEvent::Type type, const QMouseEvent& event);
   void ReleaseInput();
+  // From pixels of the view.
+  QPointF ToGuest(const QPointF& place) const;
 
-  void PaintBackground(QPainter* painter) const;
   void PaintHint(QPainter* painter) const;
-  void PaintGuest(QPainter* painter) const;
 
-  GuestModel model_;
-  ContactTrails trails_;
   KeymapOverlay overlay_;
   bool overlay_shown_ = true;
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;
   const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
-  QElapsedTimer clock_;
-  QBasicTimer fading_;
-  qint64 wheel_ms_;  // when the wheel was last turned
 };
 
 }  // namespace tavi

@@ -1,11 +1,14 @@
 #include "host/window/main_window.h"
 
 #include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -17,9 +20,14 @@
 #include "host/window/gamepad_poll.h"
 #include "host/window/guest_frame.h"
 #include "host/window/guest_panel.h"
+#include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
+#include "host/window/mirror_server.h"
+#include "host/window/mirror_targets.h"
+#include "host/window/record_bar.h"
+#include "host/window/recorder.h"
 #include "host/window/window_host.h"
 #include "keymap/keywords.h"
 #include "keymapmanager/keymap_file.h"
@@ -32,6 +40,8 @@ namespace {
 constexpr QSize kFirstSize(1360, 760);
 constexpr int kLabelGap = 16;  // in the status bar
 constexpr QSize kGuestSizes[] = {{1280, 720}, {1920, 1080}, {2400, 1080}, {720, 1280}};
+constexpr int kReplayViewHeight = 180;
+constexpr int kMessageMs = 8000;
 constexpr char kExampleFolder[] = "examples/keymaps";
 
 QString SizeText(const QSize& size) { return QStringLiteral("%1 \u00D7 %2").arg(size.width()).arg(size.height()); }
@@ -87,7 +97,9 @@ MainWindow::MainWindow()
       pads_(taviinputmanager::OnJoystickEvent) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
+  MakeReplayDock();
   MakeToolBar();
+  MakeRecordBar();
   statusBar()->addWidget(keymap_label_, 1);
   pad_label_->setContentsMargins(0, 0, kLabelGap, 0);
   statusBar()->addPermanentWidget(pad_label_);
@@ -171,6 +183,69 @@ void MainWindow::MakeLogDock() {
   log_shown_->setToolTip(QStringLiteral("Show the lines for the guest"));
 }
 
+void MainWindow::MakeRecordBar() {
+  addToolBarBreak();
+  records_ = new RecordBar(this);
+  addToolBar(records_);
+  connect(records_, &RecordBar::Message, this, &MainWindow::Tell);
+  connect(records_, &RecordBar::DialogClosed, view_, QOverload<>::of(&QWidget::setFocus));
+  connect(records_->SecondView(), &QAction::toggled, this, &MainWindow::ShowSecondView);
+  connect(replay_dock_, &QDockWidget::visibilityChanged, records_->SecondView(), &QAction::setChecked);
+  ShowSecondView(false);
+}
+
+void MainWindow::MakeReplayDock() {
+  replay_frame_ = new GuestFrame(new GuestScreen(WindowHost::kReplayDisplay, GuestScreen::Texts::kLeft));
+  replay_frame_->setMinimumHeight(kReplayViewHeight);
+  replay_dock_ = new QDockWidget(QStringLiteral("Replays"), this);
+  replay_dock_->setWidget(replay_frame_);
+  replay_dock_->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  addDockWidget(Qt::RightDockWidgetArea, replay_dock_);
+  replay_dock_->hide();
+}
+
+void MainWindow::ShowSecondView(bool shown) {
+  replay_dock_->setVisible(shown);
+  taviinputmanager::UpdateReplayDisplayId(shown ? WindowHost::kReplayDisplay : WindowHost::kDisplay);
+}
+
+void MainWindow::Tell(const QString& text, bool is_problem) {
+  if (is_problem) QApplication::beep();
+  statusBar()->showMessage(text, kMessageMs);
+}
+
+QString MainWindow::ListenAs(const QString& name) {
+  mirror_ = std::make_unique<MirrorServer>(WindowHost::kDisplay);
+  connect(mirror_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
+    Tell(QStringLiteral("%1 instances send lines to %2").arg(count).arg(name), false);
+  });
+  return mirror_->Listen(name);
+}
+
+void MainWindow::MirrorTo(const QStringList& names) {
+  MirrorTargets* targets = MirrorTargets::GetInstance();
+  connect(targets, &MirrorTargets::Reached, this,
+          [this](const QString& name) { Tell(QStringLiteral("Lines go to %1, too").arg(name), false); });
+  connect(targets, &MirrorTargets::Lost, this, [this](const QString& name, const QString& problem) {
+    Tell(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
+  });
+  for (const QString& name : names) targets->Add(name);
+}
+
+// A recording that was never saved is asked for.
+void MainWindow::closeEvent(QCloseEvent* event) {
+  Recorder* recorder = Recorder::GetInstance();
+  if (recorder->Status() == taviinputmanager::RecordStatus::Stopped) return event->accept();
+  if (records_->HasTarget()) {
+    event->setAccepted(records_->SaveRecording());
+    return;
+  }
+  const auto answer = QMessageBox::question(this, windowTitle(), QStringLiteral("Save what was recorded?"),
+                                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+  if (answer == QMessageBox::Discard) recorder->Discard();
+  event->setAccepted(answer == QMessageBox::Discard || (answer == QMessageBox::Save && records_->SaveRecording()));
+}
+
 void MainWindow::OpenKeymap() {
   const QString path = AskForKeymap(QStringLiteral("Open a keymap"), keymap_);
   if (!path.isEmpty()) LoadKeymap(path);
@@ -204,6 +279,7 @@ void MainWindow::LoadKeymap(const QString& path) {
   const QString name = Read(path, &keymap_);
   taviinputmanager::OnLoadKeymapConfigAndInfo(path, QString(), QString(), WindowHost::kDisplay);
   setWindowTitle(TitleOf(name, path));
+  records_->SetApp(name);
   ShowKeymaps();
 }
 
@@ -254,6 +330,7 @@ void MainWindow::SetGuestSize(const QSize& size) {
   guest_follows_view_ = size.isEmpty();
   if (!guest_follows_view_) WindowHost::GetInstance()->SetGuestSize(size);
   frame_->SetShape(size);
+  replay_frame_->SetShape(size);
   TakeViewSize();
   for (QAction* action : guest_sizes_->actions()) action->setChecked(action->data().toSize() == size);
 }

@@ -12,6 +12,7 @@
 
 class QAction;
 class QActionGroup;
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QToolBar;
@@ -25,6 +26,8 @@ class GuestPanel;
 class GuestView;
 class KeymapWatch;
 class LineLog;
+class MirrorServer;
+class RecordBar;
 
 // The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
 class MainWindow : public QMainWindow {
@@ -46,12 +49,19 @@ class MainWindow : public QMainWindow {
   // The guest's display in pixels. An empty size: as large as the view, whatever that is.
   void SetGuestSize(const QSize& size);
 
+  // Listens to another instance's lines under this name. Returns what is wrong, or nothing.
+  QString ListenAs(const QString& name);
+  // Carries what the guest gets to the instances of these names.
+  void MirrorTo(const QStringList& names);
+
   GuestView* View() const { return view_; }
+  RecordBar* Records() const { return records_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
 
  protected:
   void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   // A keymap that is in use, and what belongs to it.
@@ -65,6 +75,10 @@ class MainWindow : public QMainWindow {
 
   void MakeToolBar();
   void MakeLogDock();
+  void MakeRecordBar();
+  void MakeReplayDock();
+  void ShowSecondView(bool shown);
+  void Tell(const QString& text, bool is_problem);
   QMenu* MakeGuestMenu();
   QWidget* MakeCentre();
   // Takes a keymap file in, and gives its own name.
@@ -87,6 +101,10 @@ class MainWindow : public QMainWindow {
   QLabel* keymap_label_;
   QLabel* pad_label_;
   QLabel* size_label_;
+  RecordBar* records_ = nullptr;
+  QDockWidget* replay_dock_ = nullptr;
+  GuestFrame* replay_frame_ = nullptr;
+  std::unique_ptr<MirrorServer> mirror_;
   bool guest_follows_view_ = false;
   Gamepads pads_;
   std::unique_ptr<GamepadPoll> pad_poll_;

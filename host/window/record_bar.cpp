@@ -113,14 +113,12 @@ QMenu* RecordBar::MakeSpeedMenu() {
 
 double RecordBar::Speed() const { return speeds_->checkedAction()->data().toDouble(); }
 
-void RecordBar::SetPackage(const QString& package) { package_ = package; }
-
 // ---- What a person does
 
 void RecordBar::ToggleRecording() {
   Recorder* recorder = Recorder::GetInstance();
   if (recorder->Status() == RecordStatus::Stopped) {
-    recorder->Start(package_, QStringLiteral("tavi"));
+    recorder->Start(app_);
   } else {
     SaveRecording();
   }
@@ -135,7 +133,8 @@ void RecordBar::TogglePause() {
   }
 }
 
-bool RecordBar::SaveRecording(QString file) {
+bool RecordBar::SaveRecording() {
+  QString file = target_;
   if (file.isEmpty()) {
     Recorder::GetInstance()->Pause();  // the dialog is no part of it, and whoever backs out can go on
     file = QFileDialog::getSaveFileName(this, QStringLiteral("Save the record"), QString(),

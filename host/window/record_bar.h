@@ -20,14 +20,16 @@ class RecordBar : public QToolBar {
  public:
   explicit RecordBar(QWidget* parent = nullptr);
 
-  // Records under the name of what is played on, which a record keeps.
-  void SetPackage(const QString& package);
+  // The name of what is played, which a record keeps.
+  void SetApp(const QString& app) { app_ = app; }
+  // Where recordings are saved; empty: a person is asked.
+  void SetTarget(const QString& file) { target_ = file; }
+  bool HasTarget() const { return !target_.isEmpty(); }
 
-  // Starts a recording, or ends the one that runs, asking where to save it.
+  // Starts a recording, or ends the one that runs.
   void ToggleRecording();
-  // Ends the recording and saves it; asks where when `file` is empty. False when the person backs out: the recording
-  // is then paused.
-  bool SaveRecording(QString file = {});
+  // Ends the recording and saves it. False when the person backs out: the recording is then paused.
+  bool SaveRecording();
   // Takes a record to play; asks for one when `file` is empty. False when it is none, or when the person backs out.
   bool OpenRecord(QString file = {});
   // Plays the record, or pauses it, or goes on.
@@ -64,7 +66,8 @@ class RecordBar : public QToolBar {
   QProgressBar* progress_;
   QAction* second_view_;
   QTimer refresh_;  // of the times, while something runs
-  QString package_;
+  QString app_;
+  QString target_;
 };
 
 }  // namespace tavi

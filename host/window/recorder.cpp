@@ -40,9 +40,9 @@ Recorder::Recorder() { taviinputmanager::InitializeRecordCallbacks(RecorderFunct
 
 RecordStatus Recorder::Status() const { return taviinputmanager::GetRecordStatus(); }
 
-void Recorder::Start(const QString& package, const QString& app) {
+void Recorder::Start(const QString& app) {
   before_ms_ = 0;
-  taviinputmanager::StartRecord(package, app);
+  taviinputmanager::StartRecord(QString(), app);
 }
 
 void Recorder::Pause() { taviinputmanager::PauseRecord(); }

@@ -18,8 +18,8 @@ class Recorder : public QObject {
  public:
   static Recorder* GetInstance();
 
-  // Forgets what was recorded before. `package` and `app` are found in the record again.
-  void Start(const QString& package, const QString& app);
+  // Forgets what was recorded before. `app` is found in the record again.
+  void Start(const QString& app);
   void Pause();
   void Resume();
   // Ends the recording and saves it; Saved tells what came of it.

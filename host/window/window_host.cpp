@@ -1,5 +1,6 @@
 #include "host/window/window_host.h"
 
+#include <QCursor>
 #include <QWidget>
 
 #include "host/window/pad_input.h"
@@ -42,11 +43,7 @@ struct WindowHostFunctions {
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
   static void OnEscapeKeyOccupied(bool occupied) { Say(QStringLiteral("escape_occupied %1").arg(occupied)); }
-  // Points of a keymap are scaled to this rectangle and then taken for pixels of the view, so the two are one.
-  static QRect GetDisplayRect() {
-    const WindowGeometry view = Host()->Geometry();
-    return {0, 0, view.width, view.height};
-  }
+  static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static void OnMappedDeviceUsed(bool keyboard_or_mouse) { Say(QStringLiteral("mapped %1").arg(keyboard_or_mouse)); }
   static void OnOperationRecorderStarted(const QString& name, int total_sleep_ms) {
@@ -112,10 +109,16 @@ void WindowHost::SetTextField(bool focused) {
   Q_EMIT TextFieldChanged(focused);
 }
 
+// Places come in pixels of the guest, so this is a view as large as the guest. Its corner is such that the pointer less
+// the corner is the pointer's place in the guest.
 WindowGeometry WindowHost::Geometry() const {
-  if (!view_) return {0, 0, GuestSize().width(), GuestSize().height()};
-  const QPoint top_left = view_->mapToGlobal(QPoint(0, 0));
-  return {top_left.x(), top_left.y(), view_->width(), view_->height()};
+  const QSize guest = GuestSize();
+  if (!view_) return {0, 0, guest.width(), guest.height()};
+  const QPoint pointer = QCursor::pos();
+  const QPoint in_view = view_->mapFromGlobal(pointer);
+  const int x = in_view.x() * guest.width() / qMax(1, view_->width());
+  const int y = in_view.y() * guest.height() / qMax(1, view_->height());
+  return {pointer.x() - x, pointer.y() - y, guest.width(), guest.height()};
 }
 
 void WindowHost::Add(Source source, const QString& text) {

@@ -26,6 +26,8 @@ class WindowHost : public QObject {
  public:
   // Input goes to this display of the guest, and it is the one that is shown.
   static constexpr int kDisplay = 1;
+  // Where records are played when they have a view of their own.
+  static constexpr int kReplayDisplay = 2;
 
   static WindowHost* GetInstance();
 

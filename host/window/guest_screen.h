@@ -1,0 +1,56 @@
+#ifndef HOST_WINDOW_GUEST_SCREEN_H_
+#define HOST_WINDOW_GUEST_SCREEN_H_
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QWidget>
+
+#include "host/guest_model.h"
+#include "host/window/contact_trails.h"
+
+class QPainter;
+
+namespace tavi {
+
+struct TimelineEntry;
+
+// One display of the guest: draws what a guest would make of the lines that it gets.
+class GuestScreen : public QWidget {
+  Q_OBJECT
+
+ public:
+  // Texts have no display of their own: they go to the one that has the guest's focus.
+  enum class Texts { kTaken, kLeft };
+
+  GuestScreen(int display, Texts texts, QWidget* parent = nullptr);
+  ~GuestScreen() override;
+
+  const GuestModel& Model() const { return model_; }
+
+ Q_SIGNALS:
+  // The model has taken a line.
+  void ModelChanged();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+
+  // What lies on the glass, under the fingers.
+  virtual void PaintUnderFingers(QPainter* /*painter*/) {}
+
+ private:
+  void TakeEntry(const TimelineEntry& entry);
+  void PaintBackground(QPainter* painter) const;
+  void PaintGuest(QPainter* painter) const;
+
+  GuestModel model_;
+  const Texts texts_;
+  ContactTrails trails_;
+  QElapsedTimer clock_;
+  QBasicTimer fading_;
+  qint64 wheel_ms_;  // when the wheel was last turned
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_GUEST_SCREEN_H_

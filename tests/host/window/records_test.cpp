@@ -1,0 +1,162 @@
+// Records in the window: what a person records, saves, opens and plays.
+#include <QAction>
+#include <QDockWidget>
+#include <QFileInfo>
+
+#include "host/window/guest_screen.h"
+#include "host/window/record_bar.h"
+#include "host/window/recorder.h"
+#include "host/window/replayer.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+using State = Replayer::State;
+using taviinputmanager::RecordStatus;
+
+class RecordsInTheWindow : public WindowFixture {
+ protected:
+  RecordsInTheWindow() {
+    Load("{type: Click, key: Space, point: [0.25, 0.75]}");
+    QObject::connect(Records(), &RecordBar::Message, Window(),
+                     [this](const QString& text, bool is_problem) { (is_problem ? problem_ : news_) = text; });
+  }
+
+  RecordBar* Records() const { return Window()->Records(); }
+  static Replayer* Replay() { return Replayer::GetInstance(); }
+  QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+
+  // A tap that begins after 100 ms and is held for 200.
+  QString RecordATap() {
+    const QString file = Path("tap.json");
+    Records()->SetTarget(file);
+    Records()->ToggleRecording();
+    clock_->Advance(100);
+    Press(kSpace);
+    clock_->Advance(200);
+    Release(kSpace);
+    Records()->ToggleRecording();
+    return file;
+  }
+  // The display that replays have for themselves.
+  GuestScreen* SecondView() const {
+    for (auto* screen : Window()->findChildren<GuestScreen*>()) {
+      if (screen != View()) return screen;
+    }
+    return nullptr;
+  }
+
+  QString news_;
+  QString problem_;
+};
+
+TEST_F(RecordsInTheWindow, ARecordingIsSaved) {
+  const QString file = RecordATap();
+  EXPECT_EQ(Recorder::GetInstance()->Status(), RecordStatus::Stopped);
+  EXPECT_TRUE(news_.contains(file)) << news_.toStdString();
+  RecordInfo info;
+  ASSERT_TRUE(taviinputmanager::GetRecordInfo(file, &info));
+  EXPECT_EQ(info.resolution, QSize(1280, 720));  // the guest's, not the view's
+  EXPECT_EQ(info.total_running_time, 300U);
+}
+
+TEST_F(RecordsInTheWindow, AReplayPutsTheFingerWhereItWas) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  EXPECT_EQ(Replay()->GetState(), State::kPlaying);
+  EXPECT_EQ(Slots(), QList<int>{18});     // the first of the replays' slots
+  EXPECT_EQ(Finger(), QPoint(320, 540));  // 0.25 * 1280, 0.75 * 720
+  clock_->Advance(200);
+  EXPECT_EQ(Replay()->GetState(), State::kFinished);
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(RecordsInTheWindow, AReplayLandsInAnotherGuestAtTheSamePlace) {
+  const QString file = RecordATap();
+  Window()->SetGuestSize(QSize(1920, 1080));
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  EXPECT_EQ(Finger(), QPoint(480, 810));  // 0.25 * 1920, 0.75 * 1080
+}
+
+TEST_F(RecordsInTheWindow, AReplayIsPausedAndGoesOn) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(150);  // 50 ms into the tap
+  Records()->TogglePlaying();
+  clock_->Advance(1000);
+  EXPECT_EQ(Replay()->GetState(), State::kPaused);
+  EXPECT_EQ(Slots(), QList<int>{18});  // the finger waits
+  Records()->TogglePlaying();
+  clock_->Advance(149);  // of the 150 that were left
+  EXPECT_EQ(Slots(), QList<int>{18});
+  clock_->Advance(2);
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_EQ(Replay()->GetState(), State::kFinished);
+}
+
+TEST_F(RecordsInTheWindow, StopLetsGo) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  Replay()->Stop();
+  clock_->Advance(1);
+  EXPECT_EQ(Replay()->GetState(), State::kNone);
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(RecordsInTheWindow, AReplayThatHasFinishedPlaysAgain) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(1000);
+  ASSERT_EQ(Replay()->GetState(), State::kFinished);
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  EXPECT_EQ(Replay()->GetState(), State::kPlaying);
+  EXPECT_EQ(Slots(), QList<int>{18});
+}
+
+TEST_F(RecordsInTheWindow, ASecondViewTakesTheReplayAlone) {
+  const QString file = RecordATap();
+  Records()->SecondView()->trigger();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_EQ(SecondView()->Model().state().contacts.keys(), QList<int>{18});
+  Press(kSpace);  // a person plays on beside it
+  EXPECT_EQ(Slots(), QList<int>{11});
+}
+
+TEST_F(RecordsInTheWindow, WhatIsNoRecordIsRefused) {
+  EXPECT_FALSE(Records()->OpenRecord(Write("none.json", "")));
+  EXPECT_TRUE(problem_.contains(QLatin1String("none.json"))) << problem_.toStdString();
+  EXPECT_TRUE(Replay()->File().isEmpty());
+}
+
+TEST_F(RecordsInTheWindow, ARecordingOfNothingIsToldAndLeavesNoFile) {
+  Records()->SetTarget(Path("nothing.json"));
+  Records()->ToggleRecording();
+  Records()->ToggleRecording();
+  EXPECT_FALSE(problem_.isEmpty());
+  EXPECT_FALSE(QFileInfo::exists(Path("nothing.json")));
+}
+
+TEST_F(RecordsInTheWindow, ClosingTheWindowSavesARecordingThatHasItsFile) {
+  Records()->SetTarget(Path("closed.json"));
+  Records()->ToggleRecording();
+  Press(kSpace);
+  Window()->close();
+  EXPECT_TRUE(QFileInfo::exists(Path("closed.json")));
+}
+
+}  // namespace
+}  // namespace tavi
