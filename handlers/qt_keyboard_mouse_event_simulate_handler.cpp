@@ -8,6 +8,7 @@
 #include "core/keymap_access.h"
 #include "core/virtual_keyboard_event.h"
 #include "handlers/simulator_table.h"
+#include "handlers/single_key_item.h"
 #include "keymap/composable_config_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
@@ -41,12 +42,6 @@ bool IsEscape(const ConfigKey& key) {
 }
 
 bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
-
-// Whether an item can be reached by one key: a chord cannot.
-bool IsSingleKeyItem(const ConfigItem* item) {
-  const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
-  return !composable || !IsKeySet(composable->first_key);
-}
 
 bool IsTip(const ConfigItem* item) { return dynamic_cast<const TipConfigItem*>(item) != nullptr; }
 

@@ -11,7 +11,7 @@
 #include "core/numbers.h"
 #include "core/wheel_event.h"
 #include "handlers/simulator_table.h"
-#include "keymap/composable_config_item.h"
+#include "handlers/single_key_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
 #include "simulators/curve_event_simulator.h"
@@ -20,18 +20,12 @@
 
 namespace taviinputmanager {
 
-using tavikeymapmanager::ComposableConfigItem;
 using tavikeymapmanager::ConfigItem;
 using tavikeymapmanager::ConfigKey;
 
 namespace {
 
 constexpr int kNotchTapMs = 50;  // how long the finger of a mapped notch is down
-
-bool IsSingleKeyItem(const ConfigItem* item) {
-  const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
-  return !composable || !IsKeySet(composable->first_key);
-}
 
 ConfigKey KeyOf(const QWheelEvent* event) {
   const int code = WheelDelta(event) > 0 ? tavikeymapmanager::kWheelUpCode : tavikeymapmanager::kWheelDownCode;
