@@ -145,7 +145,9 @@ void SwipeholdEventSimulator::QueryPoint(const std::function<void(QPointF)>& cal
 
 void SwipeholdEventSimulator::QueryVirtualPoint(const std::function<void(QPointF)>& callback) {
   FollowWalk();
-  callback(SwipeholdAsyncWorker::GetInstance(kLeftStickIndex)->GetCurrentPoint());
+  callback(SwipeholdAsyncWorker::GetInstance(VirtualStickIndex())->GetCurrentPoint());
 }
+
+int SwipeholdEventSimulator::VirtualStickIndex() const { return kLeftStickIndex; }
 
 }  // namespace taviinputmanager

@@ -50,7 +50,7 @@ class SwipeholdEventSimulator : public EventSimulator {
 
   // Calls back at once with the point of the walk's stick, in radii from its centre.
   void QueryPoint(const std::function<void(QPointF)>& callback);
-  // The same for the left virtual stick.
+  // The same for the left virtual stick; a virtual stick answers with its own point.
   void QueryVirtualPoint(const std::function<void(QPointF)>& callback);
 
  Q_SIGNALS:
@@ -60,6 +60,9 @@ class SwipeholdEventSimulator : public EventSimulator {
  protected:
   SwipeholdEventSimulator();
   ~SwipeholdEventSimulator() override;
+
+  // The index of the worker that QueryVirtualPoint asks.
+  virtual int VirtualStickIndex() const;
 
  private:
   struct Entry {

@@ -1,4 +1,4 @@
-// A key that is a gamepad button.
+// A key that is a button of the virtual gamepad.
 #ifndef SIMULATORS_VJOYSTICK_BUTTON_EVENT_SIMULATOR_H_
 #define SIMULATORS_VJOYSTICK_BUTTON_EVENT_SIMULATOR_H_
 
@@ -7,14 +7,22 @@
 namespace taviinputmanager {
 
 class VJoystickButtonEventSimulator : public EventSimulator {
+  Q_OBJECT
+
  public:
   static VJoystickButtonEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
 
+ Q_SIGNALS:
+  // `text` is the button's name.
+  void sigVJoystickButtonPressOrRelease(QString& text, bool press);
+
  private:
   VJoystickButtonEventSimulator() = default;
+
+  void Tell(const tavikeymapmanager::ConfigItem* item, bool press);
 };
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// A key that scales the virtual left stick.
+// A key that scales the virtual gamepad's left stick while it is held.
 #ifndef SIMULATORS_VSTICK_LEFT_SHIFT_BUTTON_EVENT_SIMULATOR_H_
 #define SIMULATORS_VSTICK_LEFT_SHIFT_BUTTON_EVENT_SIMULATOR_H_
 
@@ -7,14 +7,22 @@
 namespace taviinputmanager {
 
 class VStickLeftShiftButtonEventSimulator : public EventSimulator {
+  Q_OBJECT
+
  public:
   static VStickLeftShiftButtonEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
 
+ Q_SIGNALS:
+  // `factor` is the item's, on a release too.
+  void sigVStickLeftShiftButtonPressOrRelease(double factor, bool press);
+
  private:
   VStickLeftShiftButtonEventSimulator() = default;
+
+  void Tell(const tavikeymapmanager::ConfigItem* item, bool press);
 };
 
 }  // namespace taviinputmanager

@@ -2,14 +2,17 @@
 
 namespace taviinputmanager {
 
+namespace {
+
+constexpr int kWorkerIndex = 2;
+
+}  // namespace
+
 VStickLeftStickSimulator* VStickLeftStickSimulator::GetInstance() {
   static VStickLeftStickSimulator instance;
   return &instance;
 }
 
-void VStickLeftStickSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
-
-void VStickLeftStickSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {
-}
+VStickLeftStickSimulator::VStickLeftStickSimulator() : VStickSimulator(kWorkerIndex) {}
 
 }  // namespace taviinputmanager

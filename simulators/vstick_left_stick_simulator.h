@@ -1,20 +1,26 @@
-// Four keys that are a gamepad's left stick.
+// Four keys that are the virtual gamepad's left stick.
 #ifndef SIMULATORS_VSTICK_LEFT_STICK_SIMULATOR_H_
 #define SIMULATORS_VSTICK_LEFT_STICK_SIMULATOR_H_
 
-#include "simulators/event_simulator.h"
+#include "simulators/vstick_simulator.h"
 
 namespace taviinputmanager {
 
-class VStickLeftStickSimulator : public EventSimulator {
+class VStickLeftStickSimulator : public VStickSimulator {
+  Q_OBJECT
+
  public:
   static VStickLeftStickSimulator* GetInstance();
 
-  void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+ Q_SIGNALS:
+  // In radii from the centre; (0, 0) when the stick is let go. Silent until the first press.
+  void sigSwipeholdTargetPointChanged(QPointF& point);
+
+ protected:
+  void Report(QPointF& point) override { Q_EMIT sigSwipeholdTargetPointChanged(point); }
 
  private:
-  VStickLeftStickSimulator() = default;
+  VStickLeftStickSimulator();
 };
 
 }  // namespace taviinputmanager

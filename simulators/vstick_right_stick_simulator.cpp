@@ -2,14 +2,17 @@
 
 namespace taviinputmanager {
 
+namespace {
+
+constexpr int kWorkerIndex = 3;
+
+}  // namespace
+
 VStickRightStickSimulator* VStickRightStickSimulator::GetInstance() {
   static VStickRightStickSimulator instance;
   return &instance;
 }
 
-void VStickRightStickSimulator::Press(tavikeymapmanager::ConfigItem* /*item*/, tavikeymapmanager::ConfigKey* /*key*/) {}
-
-void VStickRightStickSimulator::Release(tavikeymapmanager::ConfigItem* /*item*/,
-                                        tavikeymapmanager::ConfigKey* /*key*/) {}
+VStickRightStickSimulator::VStickRightStickSimulator() : VStickSimulator(kWorkerIndex) {}
 
 }  // namespace taviinputmanager

@@ -1,20 +1,26 @@
-// Four keys that are a gamepad's right stick.
+// Four keys that are the virtual gamepad's right stick.
 #ifndef SIMULATORS_VSTICK_RIGHT_STICK_SIMULATOR_H_
 #define SIMULATORS_VSTICK_RIGHT_STICK_SIMULATOR_H_
 
-#include "simulators/event_simulator.h"
+#include "simulators/vstick_simulator.h"
 
 namespace taviinputmanager {
 
-class VStickRightStickSimulator : public EventSimulator {
+class VStickRightStickSimulator : public VStickSimulator {
+  Q_OBJECT
+
  public:
   static VStickRightStickSimulator* GetInstance();
 
-  void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+ Q_SIGNALS:
+  // In radii from the centre; (0, 0) when the stick is let go. Silent until the first press.
+  void sigSwipeholdTargetPointChanged(QPointF& point);
+
+ protected:
+  void Report(QPointF& point) override { Q_EMIT sigSwipeholdTargetPointChanged(point); }
 
  private:
-  VStickRightStickSimulator() = default;
+  VStickRightStickSimulator();
 };
 
 }  // namespace taviinputmanager
