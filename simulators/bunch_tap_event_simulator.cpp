@@ -1,8 +1,8 @@
 #include "simulators/bunch_tap_event_simulator.h"
 
 #include "core/input_logger.h"
-#include "core/worker_thread.h"
 #include "keymap/bunch_click_config_item.h"
+#include "simulators/bunch_tap_run.h"
 #include "simulators/workers/bunch_tap_continue_worker.h"
 #include "simulators/workers/bunch_tap_one_off_worker.h"
 #include "slots/multipoint_slot_manager.h"
@@ -22,7 +22,7 @@ BunchTapEventSimulator* BunchTapEventSimulator::GetInstance() {
 void BunchTapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
   const auto* bunch = dynamic_cast<const BunchClickConfigItem*>(item);
   if (!bunch || bunch->bunch_mode != keywords::kBunchContinue) return;
-  StartContinueRun(*bunch);
+  BunchTapRun::StartContinue(this, new BunchTapContinueWorker(*bunch));
 }
 
 void BunchTapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
@@ -31,43 +31,13 @@ void BunchTapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
   if (bunch->bunch_mode == keywords::kBunchContinue) {
     Q_EMIT StopBunchTap(bunch->key.device, bunch->key.text, bunch->key.scancode);
   } else {
-    StartOneOffRun(*bunch);
+    BunchTapRun::StartOneOff(this, new BunchTapOneOffWorker(*bunch));
   }
 }
 
 void BunchTapEventSimulator::Reset(bool release_one_off) {
-  Q_EMIT StopBunchTap(QString(), BunchTapContinueWorker::kForceStop, tavikeymapmanager::kUnsetCode);
+  Q_EMIT StopBunchTap(QString(), BunchTapWorker::kForceStop, tavikeymapmanager::kUnsetCode);
   if (release_one_off) Q_EMIT StopOneOffBunchTap();
-}
-
-void BunchTapEventSimulator::StartContinueRun(const BunchClickConfigItem& item) {
-  using Simulator = BunchTapEventSimulator;
-  using Worker = BunchTapContinueWorker;
-  auto* worker = new Worker(item);
-  auto* run = new WorkerThread(worker);
-  connect(run, &WorkerThread::started, worker, &Worker::Process);
-  connect(this, &Simulator::StopBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
-  connect(worker, &Worker::BunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
-  run->DeleteWorkerOn(worker, &Worker::BunchTapFinished);
-  connect(worker, &Worker::BunchTapPressed, this, &Simulator::OnBunchTapPressed, Qt::QueuedConnection);
-  connect(worker, &Worker::BunchTapReleased, this, &Simulator::OnBunchTapReleased, Qt::QueuedConnection);
-  connect(worker, &Worker::BunchTapFinished, this, &Simulator::OnBunchTapFinished, Qt::QueuedConnection);
-  run->Start();
-}
-
-void BunchTapEventSimulator::StartOneOffRun(const BunchClickConfigItem& item) {
-  using Simulator = BunchTapEventSimulator;
-  using Worker = BunchTapOneOffWorker;
-  auto* worker = new Worker(item);
-  auto* run = new WorkerThread(worker);
-  connect(run, &WorkerThread::started, worker, &Worker::OneOffProcess);
-  connect(this, &Simulator::StopOneOffBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
-  connect(worker, &Worker::OneOffBunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
-  run->DeleteWorkerOn(worker, &Worker::OneOffBunchTapFinished);
-  connect(worker, &Worker::OneOffBunchTapPressed, this, &Simulator::OnBunchTapPressed, Qt::QueuedConnection);
-  connect(worker, &Worker::OneOffBunchTapReleased, this, &Simulator::OnBunchTapReleased, Qt::QueuedConnection);
-  connect(worker, &Worker::OneOffBunchTapFinished, this, &Simulator::OnBunchTapFinished, Qt::QueuedConnection);
-  run->Start();
 }
 
 void BunchTapEventSimulator::OnBunchTapPressed(double x, double y) {

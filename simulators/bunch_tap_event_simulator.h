@@ -4,10 +4,6 @@
 
 #include "simulators/event_simulator.h"
 
-namespace tavikeymapmanager {
-struct BunchClickConfigItem;
-}
-
 namespace taviinputmanager {
 
 // In mode "Continue" a press starts a run and the release ends it; in any other mode the release starts a run of a
@@ -37,10 +33,9 @@ class BunchTapEventSimulator : public EventSimulator {
   void OnBunchTapFinished(double x, double y);
 
  private:
-  BunchTapEventSimulator() = default;
+  friend class BunchTapRun;
 
-  void StartContinueRun(const tavikeymapmanager::BunchClickConfigItem& item);
-  void StartOneOffRun(const tavikeymapmanager::BunchClickConfigItem& item);
+  BunchTapEventSimulator() = default;
 };
 
 }  // namespace taviinputmanager

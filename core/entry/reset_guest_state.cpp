@@ -10,6 +10,7 @@
 #include "simulators/spell_event_simulator.h"
 #include "simulators/staring_and_fire_event_simulator.h"
 #include "simulators/swipehold_event_simulator.h"
+#include "simulators/vjoystick_bunch_button_event_simulator.h"
 #include "simulators/wheel_event_simulator.h"
 #include "simulators/zoom_event_simulator.h"
 #include "slots/curve_slot_manager.h"
@@ -49,6 +50,7 @@ void ResetPools(bool everything) {
   MacroEventSimulator::GetInstance()->StopWorkers(everything);
   QtKeyboardMouseEventSimulateHandler::GetInstance()->ResetKeyState();
   BunchTapEventSimulator::GetInstance()->Reset(everything);
+  VJoystickBunchButtonEventSimulator::GetInstance()->Reset(everything);
 }
 
 void ResetSimulators() {

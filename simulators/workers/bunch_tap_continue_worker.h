@@ -11,9 +11,6 @@ class BunchTapContinueWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  // The key text that stops every run, whatever its key.
-  inline static const QString kForceStop = QStringLiteral("force_stop");
-
   explicit BunchTapContinueWorker(const tavikeymapmanager::BunchClickConfigItem& item);
 
  public Q_SLOTS:

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <QObject>
+#include <QString>
 
 class QTimer;
 
@@ -21,6 +22,10 @@ namespace taviinputmanager {
 // from it, which say what is tapped.
 class BunchTapWorker : public QObject {
   Q_OBJECT
+
+ public:
+  // The key text that stops every run of a held key, whatever the key.
+  inline static const QString kForceStop = QStringLiteral("force_stop");
 
  protected:
   // Of a run with a fixed number of taps, in ms.

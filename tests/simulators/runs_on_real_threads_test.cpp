@@ -13,6 +13,7 @@
 #include "keymap/tavikeymapmanager.h"
 #include "simulators/bunch_tap_event_simulator.h"
 #include "simulators/curve_event_simulator.h"
+#include "simulators/vjoystick_bunch_button_event_simulator.h"
 #include "simulators/wheel_event_simulator.h"
 #include "simulators/zoom_event_simulator.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -25,6 +26,7 @@ using tavikeymapmanager::BunchClickConfigItem;
 using tavikeymapmanager::CurveConfigItem;
 using tavikeymapmanager::KeymapConfig;
 using tavikeymapmanager::KeymapSettings;
+using tavikeymapmanager::VirtualJoystickBunchButtonConfigItem;
 using tavikeymapmanager::WheelConfigItem;
 using tavikeymapmanager::WheelSettings;
 using tavikeymapmanager::ZoomConfigItem;
@@ -97,12 +99,15 @@ class RealRuns : public testing::Test {
     return RunUntil([this, count] { return lines_.size() >= count; });
   }
   // Lets time pass until no line has come for a while; false if they never cease.
-  bool RunUntilQuiet() {
+  bool RunUntilQuiet() { return RunUntilQuiet(lines_); }
+  // The same of anything that grows.
+  template <typename List>
+  bool RunUntilQuiet(const List& list) {
     int count = -1;
     QDeadlineTimer quiet;
     return RunUntil([&] {
-      if (count != lines_.size()) quiet.setRemainingTime(kQuietMs);
-      count = lines_.size();
+      if (count != list.size()) quiet.setRemainingTime(kQuietMs);
+      count = list.size();
       return quiet.hasExpired();
     });
   }
@@ -170,6 +175,31 @@ TEST_F(RealRuns, RunsStandSideBySide) {
   }));
   simulator->Reset(false);
   EXPECT_TRUE(RunUntilQuiet());
+}
+
+// No line comes of it, so the story listens to the button itself.
+TEST_F(RealRuns, ARapidVirtualButtonIsToldInOrderUntilAKeymapLoadEndsIt) {
+  auto* item = Add<VirtualJoystickBunchButtonConfigItem>(17, 0);
+  item->map_text = "A";
+  item->bunch_enabled = true;
+  item->bunch_mode = "Continue";
+  item->bunch_frequency = 500;
+  Load();
+  using Simulator = VJoystickBunchButtonEventSimulator;
+  Simulator* simulator = Simulator::GetInstance();
+  QList<bool> presses;
+  QObject::connect(simulator, &Simulator::sigVJoystickButtonPressOrRelease, [&presses](QString& text, bool press) {
+    EXPECT_EQ("A", text);
+    presses.append(press);
+  });
+  simulator->Press(item, &item->key);
+  ASSERT_TRUE(RunUntil([&presses] { return presses.size() >= 50; }));
+  Load();  // the item is gone
+  ASSERT_TRUE(RunUntilQuiet(presses));
+  EXPECT_FALSE(presses.last());
+  for (int i = 0; i + 1 < presses.size(); ++i) EXPECT_EQ(i % 2 == 0, presses[i]) << i;
+  EXPECT_TRUE(lines_.isEmpty());
+  QObject::disconnect(simulator, &Simulator::sigVJoystickButtonPressOrRelease, nullptr, nullptr);
 }
 
 TEST_F(RealRuns, ACurveIsFollowedInOrder) {

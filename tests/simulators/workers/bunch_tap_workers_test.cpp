@@ -1,7 +1,7 @@
 // The workers of rapid taps without a run around them: what they signal, and what stops them.
 #include "simulators/workers/bunch_tap_continue_worker.h"
 #include "simulators/workers/bunch_tap_one_off_worker.h"
-#include "tests/support/story.h"
+#include "tests/simulators/workers/bunch_worker_story.h"
 
 namespace taviinputmanager {
 namespace {
@@ -9,7 +9,7 @@ namespace {
 using tavikeymapmanager::BunchClickConfigItem;
 using tavikeymapmanager::ConfigKey;
 
-class BunchTapWorkers : public Story {
+class BunchTapWorkers : public BunchWorkerStory {
  protected:
   static BunchClickConfigItem ItemOf(const ConfigKey& key) {
     BunchClickConfigItem item;
@@ -19,28 +19,8 @@ class BunchTapWorkers : public Story {
     item.bunch_frequency = 20;
     return item;
   }
-  void Listen(BunchTapContinueWorker* worker) {
-    using Worker = BunchTapContinueWorker;
-    QObject::connect(worker, &Worker::BunchTapPressed, [this](double x, double y) { Add("press", x, y); });
-    QObject::connect(worker, &Worker::BunchTapReleased, [this](double x, double y) { Add("release", x, y); });
-    QObject::connect(worker, &Worker::BunchTapFinished, [this](double x, double y) { Add("finish", x, y); });
-  }
-  void Listen(BunchTapOneOffWorker* worker) {
-    using Worker = BunchTapOneOffWorker;
-    QObject::connect(worker, &Worker::OneOffBunchTapPressed, [this](double x, double y) { Add("press", x, y); });
-    QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](double x, double y) { Add("release", x, y); });
-    QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](double x, double y) { Add("finish", x, y); });
-  }
-  std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
-
- private:
-  void Add(const char* what, double x, double y) {
-    EXPECT_EQ(0.25, x);
-    EXPECT_EQ(0.5, y);
-    said_.append(QString::fromLatin1(what));
-  }
-
-  QStringList said_;
+  void Listen(BunchTapContinueWorker* worker) { ListenToContinue(worker); }
+  void Listen(BunchTapOneOffWorker* worker) { ListenToOneOff(worker); }
 };
 
 TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {

@@ -1,0 +1,50 @@
+// Starts runs of rapid taps, whatever it is that is tapped.
+#ifndef SIMULATORS_BUNCH_TAP_RUN_H_
+#define SIMULATORS_BUNCH_TAP_RUN_H_
+
+#include "core/worker_thread.h"
+
+namespace taviinputmanager {
+
+// A friend of the simulators that have such runs: the workers answer to their slots, which are private. Each run has a
+// thread of its own, takes `worker`, and is over when that says so.
+class BunchTapRun {
+ public:
+  // Goes on until the simulator's StopBunchTap names the worker's key.
+  template <typename Simulator, typename Worker>
+  static void StartContinue(Simulator* simulator, Worker* worker) {
+    auto* run = new WorkerThread(worker);
+    QObject::connect(run, &WorkerThread::started, worker, &Worker::Process);
+    QObject::connect(simulator, &Simulator::StopBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
+    QObject::connect(worker, &Worker::BunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
+    run->DeleteWorkerOn(worker, &Worker::BunchTapFinished);
+    Connect(worker, &Worker::BunchTapPressed, simulator, &Simulator::OnBunchTapPressed);
+    Connect(worker, &Worker::BunchTapReleased, simulator, &Simulator::OnBunchTapReleased);
+    Connect(worker, &Worker::BunchTapFinished, simulator, &Simulator::OnBunchTapFinished);
+    run->Start();
+  }
+
+  // Ends by itself, or at the simulator's StopOneOffBunchTap.
+  template <typename Simulator, typename Worker>
+  static void StartOneOff(Simulator* simulator, Worker* worker) {
+    auto* run = new WorkerThread(worker);
+    QObject::connect(run, &WorkerThread::started, worker, &Worker::OneOffProcess);
+    QObject::connect(simulator, &Simulator::StopOneOffBunchTap, worker, &Worker::Stop, Qt::QueuedConnection);
+    QObject::connect(worker, &Worker::OneOffBunchTapFinished, run, &WorkerThread::quit, Qt::QueuedConnection);
+    run->DeleteWorkerOn(worker, &Worker::OneOffBunchTapFinished);
+    Connect(worker, &Worker::OneOffBunchTapPressed, simulator, &Simulator::OnBunchTapPressed);
+    Connect(worker, &Worker::OneOffBunchTapReleased, simulator, &Simulator::OnBunchTapReleased);
+    Connect(worker, &Worker::OneOffBunchTapFinished, simulator, &Simulator::OnBunchTapFinished);
+    run->Start();
+  }
+
+ private:
+  template <typename Worker, typename Signal, typename Simulator, typename Slot>
+  static void Connect(Worker* worker, Signal signal, Simulator* simulator, Slot slot) {
+    QObject::connect(worker, signal, simulator, slot, Qt::QueuedConnection);
+  }
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_BUNCH_TAP_RUN_H_
