@@ -18,6 +18,10 @@ class JoystickEventHandler : public EventHandler {
   bool HandleButtonEvent(JoystickButtonEvent* event, int simulate_mode);
 
  protected:
+  // JoystickAxisEvent::stick
+  static constexpr int kLeftStick = 0;
+  static constexpr int kRightStick = 1;
+
   virtual bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) = 0;
   virtual bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) = 0;
 };

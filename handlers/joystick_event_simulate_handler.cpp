@@ -25,9 +25,6 @@ namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
 
-constexpr int kLeft = 0;  // JoystickAxisEvent::stick
-constexpr int kRight = 1;
-
 ConfigKey KeyOf(const QString& text) {
   ConfigKey key;
   key.device = keywords::kDeviceJoystick;
@@ -111,8 +108,8 @@ bool JoystickEventSimulateHandler::OnButtonRelease(JoystickButtonEvent* event, i
 
 bool JoystickEventSimulateHandler::OnAxis(JoystickAxisEvent* event) {
   switch (event->stick) {
-    case kLeft: return OnLeftStick(event);
-    case kRight: return OnRightStick(event);
+    case kLeftStick: return OnLeftStick(event);
+    case kRightStick: return OnRightStick(event);
     default: return false;
   }
 }

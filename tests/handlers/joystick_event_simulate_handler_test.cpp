@@ -300,6 +300,78 @@ TEST_F(Gamepad, AFreshConfigLeavesWhatIsHeldAlone) {
   EXPECT_FALSE(Release("A"));
 }
 
+TEST_F(Gamepad, AReleaseThatNothingCanBeDoneWithStaysToBeDone) {
+  Tap("A", 128);
+  LoadJoystick();
+  Press("A");
+  Forget();
+  Add<ConfigItem>("Swipehold", "Pad A");  // answers to the button, and buttons do not work it
+  LoadJoystick();
+  EXPECT_FALSE(Release("A"));
+  EXPECT_CALLS("0ms mapped 0");
+  Add<SpellCancelConfigItem>("SpellCancel", "Pad A");  // not immediate
+  LoadJoystick();
+  EXPECT_FALSE(Release("A"));
+  EXPECT_WIRE_NONE();
+  Tap("A", 128);
+  LoadJoystick();
+  EXPECT_TRUE(Release("A"));
+  EXPECT_WIRE(Up(11));
+  EXPECT_FALSE(Release("A"));
+}
+
+TEST_F(Gamepad, OneReleaseMayEndSomeAndLeaveOthers) {
+  Tap("B", 256);
+  Tap("A+B", 384);
+  LoadJoystick();
+  Press("B");
+  Press("A");
+  Press("B");
+  Add<ConfigItem>("Zoom", "Pad B");  // nothing to be done with
+  Tap("A+B", 384);
+  LoadJoystick();
+  EXPECT_TRUE(Release("B"));
+  EXPECT_WIRE(Up(12));
+  Tap("B", 256);
+  LoadJoystick();
+  EXPECT_TRUE(Release("B"));
+  EXPECT_WIRE(Up(11));
+}
+
+TEST_F(Gamepad, AStickAtRestLiftsItsFinger) {
+  Add<tavikeymapmanager::JoystickLeftWalkConfigItem>("LeftStickWalk", "Pad Left_Stick", {0.25, 0.5});
+  Add<tavikeymapmanager::JoystickRightEyeConfigItem>("RightStickEye", "Pad Right_Stick", {0.5, 0.5});
+  LoadJoystick();
+  Axis(0);
+  Axis(1);
+  Forget();
+  EXPECT_TRUE(Axis(0, 0, 0));
+  EXPECT_TRUE(Axis(1, -0.0, 0));
+  EXPECT_WIRE("24ms 1:SLOTRELEASE:8", "24ms 1:SLOTRELEASE:9");
+}
+
+TEST_F(Gamepad, AResetForgetsNoButton) {
+  Tap("A", 128);
+  Tap("A+B", 384);
+  LoadJoystick();
+  Press("A");
+  Play("reset full");
+  Forget();
+  EXPECT_TRUE(Press("B"));  // A is held
+  EXPECT_WIRE(Down(11, 384));
+  EXPECT_TRUE(Release("A"));  // and still to be released
+}
+
+TEST_F(Gamepad, NullItemsAreSkipped) {
+  auto* config = new tavikeymapmanager::KeymapConfig;
+  config->items = {nullptr};
+  handler_->SetConfig(config);
+  EXPECT_FALSE(Press("A"));
+  EXPECT_FALSE(Axis(0));
+  handler_->ForgetConfig();
+  delete config;
+}
+
 TEST_F(Gamepad, AReleaseGoesToWhateverAnswersByThen) {
   Tap("A", 128);
   LoadJoystick();
