@@ -224,7 +224,7 @@ TEST_F(GamepadWindow, AKeymapOfGamepadsThatIsSavedIsReadAgain) {
 
 TEST_F(GamepadWindow, DrawsAPadAndItsName) {
   Window()->LoadKeymap(TAVI_SOURCE_DIR "/examples/keymaps/shooter.yaml");
-  Window()->LoadJoystickKeymap(TAVI_SOURCE_DIR "/examples/keymaps/gamepad.yaml");
+  Window()->LoadJoystickKeymap(TAVI_SOURCE_DIR "/examples/keymaps/shooter_gamepad.yaml");
   Hold("a");
   Hold("dpup");
   Window()->Pads()->SetAxis(0, QStringLiteral("lefty"), -1);
