@@ -2,6 +2,7 @@
 #include <random>
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include "host/simulation/script_player.h"
 #include "host/simulation/virtual_event_dispatcher.h"
@@ -41,8 +42,12 @@ class Soak : public Story {
     for (const QFileInfo& file : folder.entryInfoList({"*.yaml"}, QDir::Files, QDir::Name)) {
       keymaps_.append(file.filePath());
     }
-    keymaps_.append(QStringLiteral(TAVI_SOURCE_DIR "/tests/data/keymaps/good/every_gesture.yaml"));
+    for (const char* name : {"every_gesture.yaml", "every_pad.yaml"}) {
+      keymaps_.append(QStringLiteral(TAVI_SOURCE_DIR "/tests/data/keymaps/good/") + name);
+    }
+    joystick_keymaps_ = keymaps_.filter(QRegularExpression("(gamepad|every_pad)\\.yaml$"));
     LoadSomeKeymap();
+    LoadSomeJoystickKeymap();
   }
 
   void AddKey(const QString& name) {
@@ -62,22 +67,40 @@ class Soak : public Story {
     OnLoadKeymapConfigAndInfo("soak.yaml", "com.example.game", "", display_);
   }
 
+  void LoadSomeJoystickKeymap() {
+    auto result = tavikeymapmanager::ReadKeymapFile(joystick_keymaps_[Below(joystick_keymaps_.size())]);
+    ASSERT_FALSE(result.HasErrors());
+    test::SetNextJoystickKeymap(result.config.release());
+    OnLoadJoystickConfigAndInfo("soak.yaml", 0);
+  }
+
+  // Of all layouts, the hat, and some that no layout has.
+  QString SomePadButton() {
+    static const QStringList names = {"A",     "B",    "X", "Y", "LB", "RB", "LT", "RT", "LA",   "RA",
+                                      "Start", "Back", "↑", "↓", "←",  "→",  "",   "A+", "Guide"};
+    return OneIn(6) ? QString::number(Below(20)) : names[Below(names.size())];
+  }
+  QString SomeText() {
+    static const QStringList texts = {"a", "abc", "Hello, World 9", "é€", "😀", "a:b", "two\nlines", "\t"};
+    return texts[Below(texts.size())];
+  }
+
   ScriptCommand SomeCommand() {
     static const Kind kinds[] = {
-        Kind::kKeyDown,     Kind::kKeyDown, Kind::kKeyDown,    Kind::kKeyUp,    Kind::kKeyUp,
-        Kind::kKeyUp,       Kind::kMove,    Kind::kMove,       Kind::kRelative, Kind::kRelative,
-        Kind::kMouseDown,   Kind::kMouseUp, Kind::kWheel,      Kind::kWait,     Kind::kWait,
-        Kind::kWait,        Kind::kWait,    Kind::kTouchBegin, Kind::kCommit,   Kind::kTouchEnd,
-        Kind::kTouchUpdate, Kind::kJoyDown, Kind::kJoyUp,      Kind::kJoyAxis,  Kind::kKeyRepeat,
+        Kind::kKeyDown, Kind::kKeyDown,  Kind::kKeyDown,     Kind::kKeyUp,     Kind::kKeyUp,     Kind::kKeyUp,
+        Kind::kMove,    Kind::kMove,     Kind::kRelative,    Kind::kRelative,  Kind::kMouseDown, Kind::kMouseUp,
+        Kind::kWheel,   Kind::kWait,     Kind::kWait,        Kind::kWait,      Kind::kWait,      Kind::kTouchBegin,
+        Kind::kCommit,  Kind::kTouchEnd, Kind::kTouchUpdate, Kind::kJoyDown,   Kind::kJoyDown,   Kind::kJoyUp,
+        Kind::kJoyUp,   Kind::kJoyAxis,  Kind::kJoyAxis,     Kind::kKeyRepeat, Kind::kType,      Kind::kCompose,
     };
     static const int buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton};
-    static const char* const pad[] = {"A", "B", "X", "Y", "LB", "RB", "LT", "Start"};
     ScriptCommand command;
     command.kind = kinds[Below(static_cast<int>(std::size(kinds)))];
     command.key = keys_[Below(keys_.size())];
     command.point = SomePoint();
     command.number = Below(40);
-    command.text = pad[Below(static_cast<int>(std::size(pad)))];
+    const bool is_pad = command.kind == Kind::kJoyDown || command.kind == Kind::kJoyUp;
+    command.text = is_pad ? SomePadButton() : SomeText();
     if (command.kind == Kind::kMouseDown || command.kind == Kind::kMouseUp) {
       command.key.scancode = buttons[Below(static_cast<int>(std::size(buttons)))];
     }
@@ -93,13 +116,15 @@ class Soak : public Story {
 
   // What a host does from time to time, in the middle of every gesture.
   void DoSomethingRare() {
-    switch (Below(7)) {
+    switch (Below(9)) {
       case 0: return LoadSomeKeymap();
       case 1: return OnResetInputStatus(OneIn(2), 0);
       case 2: return UpdateDisplayId(display_ = 1 + Below(kDisplays));
       case 3: return UpdateDisplayForceTransparent(1 + Below(kDisplays), OneIn(2));
       case 4: Host().text_input = OneIn(3); return;
       case 5: Host().rotation = 90 * Below(4); return;
+      case 6: return LoadSomeJoystickKeymap();
+      case 7: Host().joystick_type = Below(6); return;
       default:
         doBackAction(display_);
         return Wait(8);  // a second click within that time leaves the first one's press on its display
@@ -109,6 +134,24 @@ class Soak : public Story {
   void Listen() {
     for (const auto& entry : Host().TakeTimeline()) {
       if (entry.source == tavi::TimelineEntry::Source::kLine) guest_.Read(entry.text);
+      if (entry.source == tavi::TimelineEntry::Source::kText) guest_.ReadText(entry.text);
+    }
+  }
+
+  // The library knows of no button that is down: a host that changes displays or keymaps in between lets go of its
+  // gamepads itself, and here it does so at the end. The second kind of gamepad has every button.
+  void LetGoOfGamepads() {
+    Host().joystick_type = 2;
+    for (const int simulate_mode : {0, 1}) {
+      Settings().joystick_transparent = true;
+      Wheel().simulate_mode = simulate_mode;
+      LoadJoystick();  // takes nothing, passes all on
+      for (int display = 0; display <= kDisplays; ++display) {
+        UpdateDisplayId(display);
+        for (int button = 0; button <= 13; ++button) Play(QStringLiteral("joy up %1").arg(button));
+        Play("joy up ↑; joy up ←; joy axis 0 0,0; joy axis 1 0,0");
+      }
+      Listen();
     }
   }
 
@@ -116,6 +159,7 @@ class Soak : public Story {
   std::mt19937 random_;
   QVector<tavikeymapmanager::ConfigKey> keys_;
   QStringList keymaps_;
+  QStringList joystick_keymaps_;
   int display_ = 1;
   ModelGuest guest_;
 };
@@ -133,6 +177,8 @@ TEST_F(Soak, NothingStaysDown) {
   UpdateDisplayId(display_);
   Listen();
   EXPECT_EQ("", guest_.WhatIsDown().toStdString());
+  LetGoOfGamepads();
+  EXPECT_EQ("", guest_.WhatGamepadsHold().toStdString());
   EXPECT_EQ("", guest_.Unreadable().join('\n').toStdString());
 }
 

@@ -17,6 +17,23 @@ bool AreNumbers(const QStringList& fields) {
 
 bool IsSlot(int slot) { return slot >= 0 && slot < kSlotCount; }
 
+// 306 and 309 are buttons that no gamepad here has.
+bool IsPadButton(int code) { return code >= 304 && code <= 318 && code != 306 && code != 309; }
+
+// A whole number of a range.
+bool IsWithin(const QString& field, int lowest, int highest) {
+  bool is_whole = false;
+  const int value = field.toInt(&is_whole);
+  return is_whole && value >= lowest && value <= highest;
+}
+
+// What a line of a stick, trigger or hat carries.
+struct Axis {
+  int fields;
+  int lowest;
+  int highest;
+};
+
 QString Join(const QSet<int>& numbers) {
   QList<int> sorted = numbers.values();
   std::sort(sorted.begin(), sorted.end());
@@ -70,12 +87,45 @@ bool ModelGuest::ReadCommand(const QString& word, const QStringList& fields, Dis
     display->keys_down.remove(first);
     return fields.size() == 2 && fields[1] == "0";
   }
-  static const QMap<QString, int> others = {
-      {"MOUSEMOVE_REL", 2}, {"WHEEL", 4},           {"WHEEL_WITH_DELTA", 4},   {"LSTICKAXIS", 2}, {"RSTICKAXIS", 2},
-      {"LTRIGGERAXIS", 1},  {"RTRIGGERAXIS", 1},    {"GPDBUTTON", 2},          {"HATX", 1},       {"HATY", 1},
-      {"TOUCHPADPRESS", 0}, {"TOUCHPADRELEASE", 0}, {"TOUCHPADLIGHTTOUCH", 2},
+  static const QMap<QString, int> pointers = {{"MOUSEMOVE_REL", 2}, {"WHEEL", 4}, {"WHEEL_WITH_DELTA", 4}};
+  return pointers.value(word, -1) == fields.size() || ReadGamepad(word, fields, display);
+}
+
+bool ModelGuest::ReadGamepad(const QString& word, const QStringList& fields, Display* display) {
+  const auto hold = [display](const QString& what, bool held) {
+    if (held) {
+      display->pad_held.insert(what);
+    } else {
+      display->pad_held.remove(what);
+    }
   };
-  return others.value(word, -1) == fields.size();
+  if (word == "GPDBUTTON") {
+    hold(fields.value(0), fields.value(1) == "1");
+    return fields.size() == 2 && IsPadButton(fields[0].toInt()) && IsWithin(fields[1], 0, 1);
+  }
+  if (word == "TOUCHPADLIGHTTOUCH") return fields.size() == 2;
+  if (word == "TOUCHPADPRESS" || word == "TOUCHPADRELEASE") {
+    hold("TOUCHPAD", word == "TOUCHPADPRESS");
+    return fields.isEmpty();
+  }
+  static const QMap<QString, Axis> axes = {
+      {"LSTICKAXIS", {2, -1000000, 1000000}},
+      {"RSTICKAXIS", {2, -1000000, 1000000}},
+      {"LTRIGGERAXIS", {1, 0, 1}},
+      {"RTRIGGERAXIS", {1, 0, 1}},
+      {"HATX", {1, -1, 1}},
+      {"HATY", {1, -1, 1}},
+  };
+  const auto axis = axes.constFind(word);
+  if (axis == axes.constEnd() || axis->fields != fields.size()) return false;
+  hold(word, std::any_of(fields.begin(), fields.end(), [](const QString& field) { return field != "0"; }));
+  return std::all_of(fields.begin(), fields.end(),
+                     [&axis](const QString& field) { return IsWithin(field, axis->lowest, axis->highest); });
+}
+
+void ModelGuest::ReadText(const QString& line) {
+  const bool is_text = line.startsWith("TEXT:") || line == "TEXT_CONTROL:ENTER" || line == "TEXT_CONTROL:BACKSPACE";
+  if (!is_text) unreadable_.append(line);
 }
 
 QString ModelGuest::WhatIsDown() const {
@@ -84,6 +134,17 @@ QString ModelGuest::WhatIsDown() const {
     if (it->slots_down.isEmpty() && it->keys_down.isEmpty()) continue;
     lines.append(
         QStringLiteral("display %1: slots %2, keys %3").arg(it.key()).arg(Join(it->slots_down), Join(it->keys_down)));
+  }
+  return lines.join('\n');
+}
+
+QString ModelGuest::WhatGamepadsHold() const {
+  QStringList lines;
+  for (auto it = displays_.begin(); it != displays_.end(); ++it) {
+    if (it->pad_held.isEmpty()) continue;
+    QStringList held = it->pad_held.values();
+    held.sort();
+    lines.append(QStringLiteral("display %1: %2").arg(it.key()).arg(held.join(' ')));
   }
   return lines.join('\n');
 }
