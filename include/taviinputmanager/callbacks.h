@@ -35,7 +35,7 @@ struct InputManagerCallbacks {
   // the natural end of a replay on that replay's thread.
   void (*OnInputStatusChanged)(int status, const QString& message) = nullptr;
   // The kind of gamepad `device` is: 2 and 3 have the second layout of button digits, 4 the third, all others the
-  // first. May be null.
+  // first. Asked for each button that passes through; 100801 is the gamepad that keys play. May be null.
   int (*GetJoystickType)(int device) = nullptr;
   // Whether an Escape that nothing takes acts as the guest's back key.
   bool (*IsEscapeBackEnabled)() = nullptr;

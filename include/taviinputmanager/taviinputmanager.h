@@ -80,8 +80,9 @@ TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& p
 // Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored.
 TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 
-// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps. Nothing before
-// Initialize.
+// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps. Buttons and
+// sticks of gamepads stay as they are, here and wherever else input is reset: they are let go by events of their own.
+// Nothing before Initialize.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
 TAVI_EXPORT InputStatus GetInputStatus();

@@ -96,6 +96,19 @@ TEST_F(VStick, EachAnswersWithItsOwnPoint) {
   EXPECT_EQ(QPointF(0, 0), PointOf<VStickRightStickSimulator>());
 }
 
+TEST_F(VStick, OfItemsThatShareItTheOneUsedLastIsInForceAlsoByARelease) {
+  Listen<VStickLeftStickSimulator>("left");
+  AddStick("VirtualLeftStick")->press_mode = "Move";
+  auto* other = AddStick("VirtualLeftStick");  // jumps
+  other->key_up = Key("I");
+  LoadPad();
+  Play("down W; wait 200; up I; wait 10");
+  Said();
+  SwipeholdAsyncWorker::GetInstance(2)->ReplayDirections({1, 0});  // right, anew
+  Wait(32);
+  EXPECT_EQ("242ms left 1,0", Said());
+}
+
 TEST_F(VStick, AReleaseWithoutAPressIsIgnored) {
   Listen<VStickLeftStickSimulator>("left");
   AddStick("VirtualLeftStick");
