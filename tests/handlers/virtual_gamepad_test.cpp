@@ -269,8 +269,10 @@ TEST_F(VirtualGamepad, TheShiftButtonScalesTheLeftStickAtOnce) {
   Forget();
   Play("down Left Shift");
   EXPECT_WIRE("32ms 1:LSTICKAXIS:0:-500000");  // the right one is left alone
+  Play("up Up; down Up; wait 32");
+  EXPECT_WIRE("32ms 1:RSTICKAXIS:0:0", "64ms 1:RSTICKAXIS:0:-1000000");
   Play("up Left Shift");
-  EXPECT_WIRE("32ms 1:LSTICKAXIS:0:-1000000");
+  EXPECT_WIRE("64ms 1:LSTICKAXIS:0:-1000000");
 }
 
 TEST_F(VirtualGamepad, TheShiftButtonScalesWhatComesWhileItIsHeld) {
