@@ -32,7 +32,8 @@ bool ReplaceFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
   file.setDirectWriteFallback(true);
   if (!file.open(QIODevice::WriteOnly)) return false;
-  file.write(bytes);
+  // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
+  if (file.write(bytes) != bytes.size() || !file.flush()) return true;
   file.commit();
   return true;
 }
