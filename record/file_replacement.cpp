@@ -30,12 +30,11 @@ bool ReplaceFile(const QString& path, const QByteArray& bytes) {
   if (present.exists() && !CanBeOpenedForWriting(path)) return false;
 
   QSaveFile file(path);
-  file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly)) return false;
+  if (!file.open(QIODevice::WriteOnly)) return WriteInPlace(path, bytes);
   // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
   if (file.write(bytes) != bytes.size() || !file.flush()) return true;
-  file.commit();
-  return true;
+  // Only the move tells that there can be no such name, or that this file may not be moved away.
+  return file.commit() || WriteInPlace(path, bytes);
 }
 
 }  // namespace taviinputmanager

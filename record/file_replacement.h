@@ -8,8 +8,8 @@ class QString;
 namespace taviinputmanager {
 
 // Makes `bytes` the content of the file. It is written beside its place and moved there when it is complete, so that a
-// crash or a full disk on the way leaves the file that was there; where no file can be made beside it, and for what is
-// no plain file, it is written in place.
+// crash or a full disk on the way leaves the file that was there; where no file can be made beside it or moved there,
+// and for what is no plain file, it is written in place.
 //
 // False, and nothing changed, when the file cannot be opened for writing. What becomes of the writing itself is not
 // told.

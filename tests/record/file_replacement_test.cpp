@@ -133,6 +133,7 @@ TEST_F(FileReplacement, AFolderIsRefused) {
   ASSERT_TRUE(QDir().mkdir(Path("folder")));
   EXPECT_FALSE(ReplaceFile(Path("folder"), "after"));
   EXPECT_FALSE(ReplaceFile(Path("none/record"), "after"));
+  EXPECT_FALSE(ReplaceFile("", "after"));
   EXPECT_EQ("folder", Names().join(' ').toStdString());
 }
 
@@ -157,6 +158,33 @@ TEST_F(FileReplacement, WhereNoFileCanBeMadeBesideItIsWrittenInPlace) {
     EXPECT_FALSE(ReplaceFile(Path("new"), "after"));
   }
   SetMode(Path("."), 0777);
+  EXPECT_EQ("after", Bytes(file));
+}
+
+// One beside it would have a longer name, and no file has.
+TEST_F(FileReplacement, AFileOfTheLongestNameIsWrittenInPlace) {
+  const QString file = Path(QString(255, 'n'));
+  EXPECT_TRUE(ReplaceFile(file, "first"));
+  EXPECT_EQ("first", Bytes(file));
+  EXPECT_TRUE(ReplaceFile(file, "second"));
+  EXPECT_EQ("second", Bytes(file));
+  EXPECT_FALSE(ReplaceFile(Path(QString(256, 'n')), "none"));
+}
+
+// In a folder like /tmp only its owner may move a file away.
+TEST_F(FileReplacement, WhereAFileCannotBeMovedAwayIsWrittenInPlace) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs a file of somebody else";
+  const QString file = Put("record", "before");
+  SetMode(file, 0666);
+  SetMode(Path("."), 01777);
+  {
+    const PlainUser user;
+    QFile in_place(file);
+    if (!in_place.open(QIODevice::WriteOnly)) GTEST_SKIP() << "this system forbids that too";
+    in_place.write("before");
+    in_place.close();
+    EXPECT_TRUE(ReplaceFile(file, "after"));
+  }
   EXPECT_EQ("after", Bytes(file));
 }
 

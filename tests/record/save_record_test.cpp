@@ -94,7 +94,7 @@ TEST_F(SaveRecord, AnEmptyListIsNotWorthAFile) {
 }
 
 TEST_F(SaveRecord, ATargetThatCannotBeOpenedIsResultTwo) {
-  for (const QString& file : {Path("none/record.json"), Path(".")}) {
+  for (const QString& file : {Path("none/record.json"), Path("."), QString()}) {
     EXPECT_EQ(2, Save(OneKey(), file)) << file.toStdString();
   }
   EXPECT_EQ("", Names().join(' ').toStdString());
