@@ -7,7 +7,6 @@
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QGuiApplication>
-#include <QTimer>
 
 #include "host/simulation/simulated_host.h"
 #include "keymap/tavikeymapmanager.h"
@@ -18,6 +17,7 @@
 #include "simulators/zoom_event_simulator.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/keymap_source.h"
+#include "tests/support/run_until.h"
 
 namespace taviinputmanager {
 namespace {
@@ -85,15 +85,10 @@ class RealRuns : public testing::Test {
 
   // Lets time pass until there are lines enough.
   bool RunUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer limit(60000);
-    QTimer heartbeat;
-    heartbeat.start(1);
-    while (!condition()) {
-      if (limit.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return RunEventsUntil([&] {
       Collect();
-    }
-    return true;
+      return condition();
+    });
   }
   bool RunUntilLines(int count) {
     return RunUntil([this, count] { return lines_.size() >= count; });
