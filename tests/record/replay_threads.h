@@ -1,0 +1,127 @@
+// Replays on real threads and the real clock, and a host that may be called on any of them.
+#ifndef TESTS_RECORD_REPLAY_THREADS_H_
+#define TESTS_RECORD_REPLAY_THREADS_H_
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include <QDateTime>
+#include <QDir>
+#include <QGuiApplication>
+#include <QThread>
+#include <QVector>
+
+#include "host/simulation/simulated_host.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/record/replay_file.h"
+#include "tests/support/run_until.h"
+
+namespace taviinputmanager {
+namespace replay_threads {
+
+// What the host was told.
+struct Told {
+  QString what;  // a line without its end, or the name of a callback
+  int task_id = 0;
+  QString more;
+  Qt::HANDLE thread = nullptr;
+  qint64 ms = 0;
+};
+
+// Written on any thread.
+class Ear {
+ public:
+  void Hear(const QString& what, int task_id = 0, const QString& more = {}) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    told_.append({what, task_id, more, QThread::currentThreadId(), QDateTime::currentMSecsSinceEpoch()});
+  }
+  QVector<Told> Take() {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return std::exchange(told_, {});
+  }
+
+ private:
+  std::mutex mutex_;
+  QVector<Told> told_;
+};
+
+inline Ear& TheEar() {
+  static Ear ear;
+  return ear;
+}
+
+// An application on the real clock, with the host's tables. Ends all replays when it goes.
+class Program {
+ public:
+  Program() {
+    std::thread([] {}).join();  // a sanitizer starts a thread of its own beside the first
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
+    Host().table.OnInputStatusChanged = [](int status, const QString&) { TheEar().Hear("status", status); };
+    Host().Start([] { return QDateTime::currentMSecsSinceEpoch(); });
+    // The simulated host's own are for the main thread alone.
+    SetInputEventSendFunc(reinterpret_cast<void*>(&HearLine));
+    SetInputTextSendFunc(reinterpret_cast<void*>(&HearLine));
+    table_.started = [](int id, const QString& file) { TheEar().Hear("started", id, file); };
+    table_.paused = [](int id, const QString& file) { TheEar().Hear("paused", id, file); };
+    table_.resumed = [](int id, const QString& file) { TheEar().Hear("resumed", id, file); };
+    table_.stopped = [](int id, const QString& file) { TheEar().Hear("stopped", id, file); };
+    table_.finished = [](int id, const QString& file, ReplayParam) { TheEar().Hear("finished", id, file); };
+    table_.vcontrol = [](const QString& data, const QString&, const QString&, int id, const QString&) {
+      TheEar().Hear("vcontrol", id, data);
+    };
+    InitializeReplayCallbacks(&table_);
+    UpdateDisplayId(1);
+    UpdateReplayDisplayId(2);
+    TheEar().Take();
+  }
+
+  static tavi::SimulatedHost& Host() { return *tavi::SimulatedHost::GetInstance(); }
+
+  // Lets time pass until `condition` holds; false where that takes too long to be right.
+  bool RunUntil(const std::function<bool()>& condition) {
+    return RunEventsUntil([&] {
+      told += TheEar().Take();
+      return condition();
+    });
+  }
+  bool RunUntilTold(const QString& what, int count = 1) {
+    return RunUntil([&] { return Count(what) >= count; });
+  }
+
+  int Count(const QString& what) const {
+    int count = 0;
+    for (const Told& entry : qAsConst(told)) count += entry.what == what;
+    return count;
+  }
+  QVector<Told> Of(const QString& what) const {
+    QVector<Told> found;
+    for (const Told& entry : told) {
+      if (entry.what.startsWith(what)) found.append(entry);
+    }
+    return found;
+  }
+
+  QVector<Told> told;  // all of it
+
+ private:
+  static void HearLine(const char* data, int length) { TheEar().Hear(QString::fromUtf8(data, length - 1)); }
+
+  InputReplayerCallbacks table_;
+  int argument_count_ = 1;
+  char program_name_[15] = "replay_threads";
+  char* arguments_[2] = {program_name_, nullptr};
+  std::unique_ptr<QGuiApplication> application_;
+};
+
+// Threads of this process.
+inline int CountThreads() { return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); }
+
+}  // namespace replay_threads
+}  // namespace taviinputmanager
+
+#endif  // TESTS_RECORD_REPLAY_THREADS_H_
