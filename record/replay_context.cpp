@@ -1,5 +1,6 @@
 #include "record/replay_context.h"
 
+#include "core/numbers.h"
 #include "record/record_actions.h"
 
 namespace taviinputmanager {
@@ -26,7 +27,7 @@ bool ReplayContext::CurrentAction(RecordAction* out) const {
 
 void ReplayContext::ReduceDelay(int elapsed) {
   if (elapsed < next_delay) {
-    next_delay -= elapsed;
+    next_delay = AddSaturated(next_delay, NegateSaturated(elapsed));  // a clock that was set back adds time
   } else {
     next_delay = 0;
   }
