@@ -2,7 +2,9 @@
 #include <random>
 
 #include <QDir>
+#include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include "host/simulation/script_player.h"
 #include "host/simulation/virtual_event_dispatcher.h"
@@ -30,6 +32,9 @@ class Soak : public Story {
   static constexpr int kUsualEvents = 200000;
   static constexpr int kDisplays = 3;
   static constexpr int kQuietMs = 2000;
+  static constexpr int kRecordedDisplay = 1;
+  static constexpr int kRecords = 4;
+  static constexpr qint64 kLargestPart = 200000;
 
   Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(static_cast<unsigned>(seed_)) {
     for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
@@ -131,6 +136,56 @@ class Soak : public Story {
     }
   }
 
+  // Recordings of display 1, and replays to it. A file is in one replay at a time, and merged or recorded anew only
+  // while it is in none.
+  void RecordOrReplay() {
+    Host().primary_display = kRecordedDisplay;
+    UpdateReplayDisplayId(kRecordedDisplay);
+    const int id = Below(kRecords);
+    const QString file = RecordPath(id);
+    switch (Below(10)) {
+      case 0: return StartRecord("com.example.game", "Soak");
+      case 1: return OneIn(2) ? PauseRecord() : ResumeRecord();
+      case 2: return in_replay_.contains(id) ? void() : StopRecord("com.example.game", file);
+      case 3: return in_replay_.contains(id) ? void() : MergeSomeRecords(file);
+      case 4:
+        if (in_replay_.contains(id) || !QFile::exists(file)) return;
+        in_replay_.insert(id);
+        return StartReplay(0, id, QString(), file, {0.25 * (1 + Below(12)), OneIn(2)});
+      case 5: return PauseReplay(id, file);
+      case 6: return ResumeReplay(id, file);
+      case 7: return RestartReplay(id, file, {});
+      case 8: StopReplay(id, file, OneIn(2)); return Wait(1), void(in_replay_.remove(id));
+      default:
+        if (!OneIn(4)) return AddVControlCommand("shot", OneIn(2) ? "1" : "", "");
+        StopAllReplay();
+        return Wait(1), in_replay_.clear();
+    }
+  }
+  QString RecordPath(int id) const { return records_.filePath(QStringLiteral("%1.json").arg(id)); }
+  // Not of merged ones without end: those that grow too large stay out.
+  void MergeSomeRecords(const QString& target) {
+    QVector<MergeParam> parts;
+    for (int i = 0; i < 3; ++i) {
+      const QString file = RecordPath(Below(kRecords));
+      if (QFile(file).size() > kLargestPart) continue;
+      parts.append({file, Below(3), Below(50), 0.5 + Below(3), Below(50)});
+    }
+    MergeRecord(target, parts);
+  }
+  // The last one is stopped by the user, which lifts all that replays hold.
+  void EndReplays() {
+    StopAllReplay();
+    QFile last(RecordPath(kRecords));
+    ASSERT_TRUE(last.open(QIODevice::WriteOnly));
+    last.write(R"({"info":{"package_name":"x"},"actions":[]})");
+    last.close();
+    StartReplay(0, kRecords, QString(), last.fileName(), {});
+    Wait(1);
+    StopReplay(kRecords, last.fileName(), true);
+    Wait(1);
+  }
+
   void Listen() {
     for (const auto& entry : Host().TakeTimeline()) {
       if (entry.source == tavi::TimelineEntry::Source::kLine) guest_.Read(entry.text);
@@ -162,6 +217,8 @@ class Soak : public Story {
   QStringList joystick_keymaps_;
   int display_ = 1;
   ModelGuest guest_;
+  QTemporaryDir records_;
+  QSet<int> in_replay_;  // numbers of records
 };
 
 TEST_F(Soak, NothingStaysDown) {
@@ -170,8 +227,10 @@ TEST_F(Soak, NothingStaysDown) {
   tavi::ScriptPlayer player(&Time(), &Host());
   for (int i = 0; i < events; ++i) {
     OneIn(200) ? DoSomethingRare() : player.Play(SomeCommand());
+    if (OneIn(100)) RecordOrReplay();
     if (i % 1000 == 0) Listen();
   }
+  EndReplays();
   UpdateDisplayId(display_);
   Wait(kQuietMs);  // running timers may still send
   UpdateDisplayId(display_);
