@@ -10,8 +10,8 @@ using Kind = GuestLine::Kind;
 
 namespace {
 
-// What stands behind a line's name: "i" a whole number, "d" a number, "t" a text to the end of the line, "+" for "the
-// fields before it, any number of times".
+// What stands behind a line's name: "i" a whole number, "d" a number, "0" and "1" these numbers themselves, "t" a text
+// to the end of the line, "+" for "the fields before it, any number of times".
 struct LineForm {
   const char* name;
   Kind kind;
@@ -19,16 +19,16 @@ struct LineForm {
 };
 
 constexpr LineForm kForms[] = {
-    {"SLOTPRESS", Kind::kSlotPress, "iiiidd"},
+    {"SLOTPRESS", Kind::kSlotPress, "ii11dd"},
     {"SLOTRELEASE", Kind::kSlotRelease, "i"},
     {"SLOTRELEASEALL", Kind::kSlotReleaseAll, ""},
     {"SLOTMULTIPRESS", Kind::kMultiPress, "iidd+"},
     {"SLOTMULTIRELEASE", Kind::kMultiRelease, "i+"},
-    {"KBDPR", Kind::kKeyPress, "ii"},
-    {"KBDRL", Kind::kKeyRelease, "ii"},
+    {"KBDPR", Kind::kKeyPress, "i1"},
+    {"KBDRL", Kind::kKeyRelease, "i0"},
     {"MOUSEMOVE_REL", Kind::kMouseMove, "dd"},
     {"WHEEL", Kind::kWheel, "dddd"},
-    {"WHEEL_WITH_DELTA", Kind::kWheelWithDelta, "iidi"},
+    {"WHEEL_WITH_DELTA", Kind::kWheelWithDelta, "iid0"},
     {"TEXT", Kind::kText, "t"},
     {"TEXT_CONTROL", Kind::kTextControl, "t"},
     {"LSTICKAXIS", Kind::kLeftStick, "ii"},
@@ -52,8 +52,10 @@ const LineForm* FindForm(const QString& name) {
 
 bool ReadNumber(const QString& field, QChar kind, QVector<double>* numbers) {
   bool is_number = false;
-  numbers->append(kind == QLatin1Char('i') ? field.toInt(&is_number) : field.toDouble(&is_number));
-  return is_number && std::isfinite(numbers->last());
+  const double number = kind == QLatin1Char('d') ? field.toDouble(&is_number) : field.toInt(&is_number);
+  numbers->append(number);
+  if (kind.isDigit()) return is_number && number == kind.digitValue();
+  return is_number && std::isfinite(number);
 }
 
 bool ReadNumbers(const QStringList& fields, QString kinds, QVector<double>* numbers) {

@@ -3,6 +3,8 @@
 #ifndef HOST_GUEST_LINE_H_
 #define HOST_GUEST_LINE_H_
 
+#include <QPoint>
+#include <QPointF>
 #include <QString>
 #include <QVector>
 
@@ -37,7 +39,10 @@ struct GuestLine {
   };
 
   // Whole, and inside what an int holds.
-  int Integer(int index) const { return static_cast<int>(qBound(-kHighest, numbers.at(index), kHighest)); }
+  int Integer(int index) const { return static_cast<int>(Bounded(index)); }
+  // The position of two numbers, the first at `index`.
+  QPoint PointAt(int index) const { return QPointF(Bounded(index), Bounded(index + 1)).toPoint(); }
+  double Bounded(int index) const { return qBound(-kHighest, numbers.at(index), kHighest); }
 
   static constexpr double kHighest = 0x7FFFFFFF;
 
@@ -46,8 +51,8 @@ struct GuestLine {
   QString text;
 };
 
-// Takes a line without display prefix and line end. A line with a field too many, too few or of the wrong kind is not
-// understood. Texts are taken whole, colons and line ends included.
+// Takes a line without display prefix and line end. A line with a field too many, too few, of the wrong kind or with
+// another constant than its own is not understood. Texts are taken whole, colons and line ends included.
 GuestLine ParseGuestLine(const QString& line);
 
 // An event line is "<display>:" and then the line itself.

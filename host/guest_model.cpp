@@ -13,8 +13,6 @@ constexpr double kStickUnit = 1e6;
 
 bool IsSlot(int number) { return number >= 0 && number < kGuestSlotCount; }
 
-QPoint PointAt(const GuestLine& line, int index) { return {line.Integer(index), line.Integer(index + 1)}; }
-
 QPointF StickOf(const GuestLine& line) { return {line.numbers[0] / kStickUnit, line.numbers[1] / kStickUnit}; }
 
 void SetHeld(QSet<int>* held, int code, bool down) {
@@ -48,9 +46,9 @@ bool GuestModel::Apply(const GuestLine& line) {
     case Kind::kUnknown: return false;
     case Kind::kKeyPress: SetHeld(&state_.held_keys, line.Integer(0), true); return true;
     case Kind::kKeyRelease: SetHeld(&state_.held_keys, line.Integer(0), false); return true;
-    case Kind::kMouseMove: state_.pointer = PointAt(line, 0); return true;
+    case Kind::kMouseMove: state_.pointer = line.PointAt(0); return true;
     case Kind::kWheel:
-    case Kind::kWheelWithDelta: state_.wheel = {PointAt(line, 0), line.numbers[2], state_.wheel.count + 1}; return true;
+    case Kind::kWheelWithDelta: state_.wheel = {line.PointAt(0), line.numbers[2], state_.wheel.count + 1}; return true;
     case Kind::kText: state_.text += line.text; return true;
     case Kind::kTextControl: return ControlText(line.text);
     case Kind::kSlotPress:
@@ -64,7 +62,7 @@ bool GuestModel::Apply(const GuestLine& line) {
 
 bool GuestModel::ApplyTouch(const GuestLine& line) {
   switch (line.kind) {
-    case Kind::kSlotPress: return PutContact(line.Integer(0), line.Integer(1), PointAt(line, 4));
+    case Kind::kSlotPress: return PutContact(line.Integer(0), line.Integer(1), line.PointAt(4));
     case Kind::kMultiPress: return PressContacts(line);
     case Kind::kSlotReleaseAll: state_.contacts.clear(); return true;
     default: return ReleaseContacts(line);
@@ -80,7 +78,7 @@ bool GuestModel::PutContact(int slot, int tracking_id, const QPoint& point) {
 bool GuestModel::PressContacts(const GuestLine& line) {
   bool all = true;
   for (int i = 0; i < line.numbers.size(); i += kFieldsOfContact) {
-    all = PutContact(line.Integer(i), line.Integer(i + 1), PointAt(line, i + 2)) && all;
+    all = PutContact(line.Integer(i), line.Integer(i + 1), line.PointAt(i + 2)) && all;
   }
   return all;
 }
@@ -118,7 +116,7 @@ bool GuestModel::ApplyGamepad(const GuestLine& line) {
     case Kind::kGamepadButton: SetHeld(&pad.buttons, line.Integer(0), line.Integer(1) != 0); return true;
     case Kind::kHatX: pad.hat.setX(line.Integer(0)); return true;
     case Kind::kHatY: pad.hat.setY(line.Integer(0)); return true;
-    case Kind::kTouchpadTouch: pad.touchpad = PointAt(line, 0); return true;
+    case Kind::kTouchpadTouch: pad.touchpad = line.PointAt(0); return true;
     case Kind::kTouchpadPress: pad.touchpad_pressed = true; return true;
     case Kind::kTouchpadRelease:
       pad.touchpad_pressed = false;

@@ -26,6 +26,10 @@ TEST(GuestLine, UnderstandsEveryFormOfNumbers) {
       {"a lift", "SLOTRELEASE:25", Kind::kSlotRelease, {25}},
       {"all lifted", "SLOTRELEASEALL", Kind::kSlotReleaseAll, {}},
       {"a pinch", "SLOTMULTIPRESS:10:10:1:2:0:0:3:4", Kind::kMultiPress, {10, 10, 1, 2, 0, 0, 3, 4}},
+      {"two of a replay",
+       "SLOTMULTIPRESS:18:18:0.5:2:19:19:3:4.25",
+       Kind::kMultiPress,
+       {18, 18, 0.5, 2, 19, 19, 3, 4.25}},
       {"one of several", "SLOTMULTIPRESS:18:18:5:6", Kind::kMultiPress, {18, 18, 5, 6}},
       {"three at once",
        "SLOTMULTIPRESS:18:18:1:2:19:19:3:4:20:20:5:6",
@@ -89,6 +93,10 @@ TEST(GuestLine, DoesNotUnderstandAnythingElse) {
       {"a broken number", "KBDPR:3o:1"},
       {"a fraction where a whole number is due", "HATX:0.5"},
       {"a place that is nowhere", "MOUSEMOVE_REL:inf:nan"},
+      {"a slot with a fraction", "SLOTPRESS:2.5:2:1:1:640:360"},
+      {"a constant that is another", "SLOTPRESS:2:2:1:0:640:360"},
+      {"a press that says release", "KBDPR:30:0"},
+      {"a release that says press", "KBDRL:30:1"},
       {"half a contact", "SLOTMULTIPRESS:18:18"},
       {"a contact and a half", "SLOTMULTIPRESS:18:18:1:2:19:19"},
       {"no contact", "SLOTMULTIPRESS"},
@@ -100,6 +108,12 @@ TEST(GuestLine, DoesNotUnderstandAnythingElse) {
     EXPECT_EQ(line.kind, Kind::kUnknown);
     EXPECT_TRUE(line.numbers.isEmpty());
   }
+}
+
+// 640.5 lies in the middle and goes up.
+TEST(GuestLine, APositionIsTheNearestPoint) {
+  EXPECT_EQ(ParseGuestLine(QStringLiteral("SLOTPRESS:2:2:1:1:640.5:360.4")).PointAt(4), QPoint(641, 360));
+  EXPECT_EQ(ParseGuestLine(QStringLiteral("MOUSEMOVE_REL:-1.6:3e9")).PointAt(0), QPoint(-2, 2147483647));
 }
 
 TEST(GuestLine, AnEventHasItsDisplayInFront) {
