@@ -1,0 +1,61 @@
+// The program as its users start it.
+#ifndef TESTS_HOST_PROGRAM_H_
+#define TESTS_HOST_PROGRAM_H_
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace tavi {
+
+struct Outcome {
+  int status = -1;
+  QString output;
+  QString errors;
+};
+
+class Program : public testing::Test {
+ protected:
+  Program() : application_(argument_count_, arguments_) {}
+
+  // Writes a file into the test's own folder, which the program is started in.
+  void Write(const QString& name, const char* text) {
+    QFile file(folder_.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  }
+
+  Outcome Run(const QStringList& arguments, const QByteArray& input = {}) {
+    QProcess process;
+    process.setWorkingDirectory(folder_.path());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY"}) environment.remove(QLatin1String(variable));
+    if (!has_platform_) environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TAVI_BINARY_DIR "/host/tavi"), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+  }
+
+  QString Folder() const { return folder_.path(); }
+
+  bool has_platform_ = true;
+
+ private:
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QCoreApplication application_;
+  QTemporaryDir folder_;
+};
+
+}  // namespace tavi
+
+#endif  // TESTS_HOST_PROGRAM_H_
