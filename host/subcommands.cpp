@@ -6,6 +6,7 @@
 
 #include "host/check_command.h"
 #include "host/command_line.h"
+#include "host/guest_uinput_command.h"
 #include "host/simulate_command.h"
 #include "host/window_command.h"
 
@@ -14,7 +15,8 @@ namespace tavi {
 namespace {
 
 const auto& Subcommands() {
-  static const std::array<Subcommand, 3> all = {WindowCommand(), SimulateCommand(), CheckCommand()};
+  static const std::array<Subcommand, 4> all = {WindowCommand(), SimulateCommand(), CheckCommand(),
+                                                GuestUinputCommand()};
   return all;
 }
 
@@ -34,7 +36,7 @@ void PrintOverview() {
                      "\n"
                      "Commands:\n"));
   for (const Subcommand& subcommand : Subcommands()) {
-    Print(QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -10).arg(QLatin1String(subcommand.summary)));
+    Print(QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -12).arg(QLatin1String(subcommand.summary)));
   }
   Print(
       QStringLiteral("\n"

@@ -4,7 +4,7 @@
 #   tools/install-dependencies.sh [build|test|lint]...        (without a word: build)
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev)
+build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
 test=(libgtest-dev python3 python3-jsonschema python3-yaml)
 lint=(clang-format-14 clang-tidy-14)
 

@@ -32,6 +32,7 @@ LIBRARIES = {
     "Poco/": ["core", "record"],
     "yaml.h": ["keymapmanager"],
     "SDL.h": ["host"],
+    "libevdev/": ["host"],
 }
 FREE = ["tests", "bench", "fuzz", "examples", "cmake"]
 

@@ -1,0 +1,29 @@
+#include "host/command_line.h"
+#include "host/guest_uinput_command.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: tavi guest-uinput\n"
+    "\n"
+    "Plays guest lines on input devices of the Linux kernel. This program was built\n"
+    "without it: it needs Linux and libevdev.\n"
+    "\n"
+    "Example: apt-get install libevdev-dev, and build again\n";
+
+int Run(const Invocation& /*invocation*/) {
+  PrintError(
+      QStringLiteral("tavi guest-uinput: this program was built without it; it needs Linux and libevdev "
+                     "(libevdev-dev) at build time\n"));
+  return kExitUsage;
+}
+
+}  // namespace
+
+Subcommand GuestUinputCommand() {
+  return {"guest-uinput", "plays guest lines on kernel input devices (not in this build)", kHelp, Run};
+}
+
+}  // namespace tavi
