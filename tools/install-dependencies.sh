@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
 #
-#   tools/install-dependencies.sh [build|test|lint]...        (without a word: build)
+#   tools/install-dependencies.sh [build|test|lint|guest]...        (without a word: build)
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
 test=(libgtest-dev python3 python3-jsonschema python3-yaml)
 lint=(clang-format-14 clang-tidy-14)
+guest=(qemu-system-x86 busybox-static cpio)
 
 packages=()
 for group in "${@:-build}"; do
@@ -14,6 +15,7 @@ for group in "${@:-build}"; do
     build) packages+=("${build[@]}") ;;
     test) packages+=("${test[@]}") ;;
     lint) packages+=("${lint[@]}") ;;
+    guest) packages+=("${guest[@]}") ;;
     *) echo "install-dependencies: no such group: $group" >&2; exit 2 ;;
   esac
 done
