@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
 #
-#   tools/install-dependencies.sh [build|test|lint|guest]...        (without a word: build)
+#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest]...        (without a word: build)
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
 test=(libgtest-dev python3 python3-jsonschema python3-yaml)
 lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 busybox-static cpio)
+bench=(libbenchmark-dev valgrind python3)
+plot=(python3 python3-matplotlib)
 
 packages=()
 for group in "${@:-build}"; do
@@ -16,6 +18,8 @@ for group in "${@:-build}"; do
     test) packages+=("${test[@]}") ;;
     lint) packages+=("${lint[@]}") ;;
     guest) packages+=("${guest[@]}") ;;
+    bench) packages+=("${bench[@]}") ;;
+    plot) packages+=("${plot[@]}") ;;
     *) echo "install-dependencies: no such group: $group" >&2; exit 2 ;;
   esac
 done

@@ -34,7 +34,7 @@ LIBRARIES = {
     "SDL.h": ["host"],
     "libevdev/": ["host"],
 }
-FREE = ["tests", "bench", "fuzz", "examples", "cmake"]
+FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
 
 ALL_ROOMS = [room for floor in FLOORS for room in floor] + list(OUTSIDE) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)

@@ -1,0 +1,60 @@
+// The host of the benchmarks: a guest view that does nothing with what it gets.
+#ifndef BENCHMARKS_BENCH_HOST_H_
+#define BENCHMARKS_BENCH_HOST_H_
+
+#include <memory>
+#include <string>
+
+#include <QKeyEvent>
+#include <QString>
+
+#include "keymap/keymap_config.h"
+
+namespace taviinputmanager::bench {
+
+constexpr int kDisplay = 1;
+
+// The keys that the paths press, by Windows scan code.
+constexpr int kWalkUpScanCode = 17;    // W
+constexpr int kLastScanCode = 59;      // F1: the last item of every keymap
+constexpr int kUnmappedScanCode = 48;  // B
+constexpr int kFirstFillerScanCode = 1000;
+
+// Takes a line and forgets it. What a path's line and its floor's line go to alike.
+void Sink(const char* data, int length);
+
+// Once, at the start: the table, the send functions, Initialize.
+void SetUpHost();
+
+// A keymap of `size` items with a key each: a walk, an eye, clicks, rapid taps and casts. The last is a Click on
+// kLastScanCode. `size` is at least 1.
+std::unique_ptr<tavikeymapmanager::KeymapConfig> MakeKeymap(int size);
+
+// Makes a single item, on kLastScanCode unless `scancode` says another.
+template <typename Item>
+std::unique_ptr<Item> MakeItem(const QString& type, int scancode = kLastScanCode) {
+  auto item = std::make_unique<Item>();
+  item->type = type;
+  item->key.device = tavikeymapmanager::keywords::kDeviceKeyboard;
+  item->key.scancode = item->key.virtual_key = scancode;
+  item->rel_x = 0.5;
+  item->rel_y = 0.5;
+  return item;
+}
+
+// Loads `config` as a host would.
+void Load(std::unique_ptr<tavikeymapmanager::KeymapConfig> config);
+
+// What `round` sends, line by line, each with its display and newline.
+std::string Record(void (*round)());
+
+// A key event as the host hands it over.
+QKeyEvent MakeKey(QEvent::Type type, int scancode);
+
+// From now on each reading of the clock gains `ms` on the one before: for paths that drop what comes too early. It
+// stays a reading of the real clock, at its price. 0: the clock goes on at its own pace.
+void SetClockStride(int ms);
+
+}  // namespace taviinputmanager::bench
+
+#endif  // BENCHMARKS_BENCH_HOST_H_

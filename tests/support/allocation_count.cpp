@@ -1,0 +1,55 @@
+#include "tests/support/allocation_count.h"
+
+#include <cstddef>
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+
+namespace {
+
+thread_local std::int64_t allocation_count = 0;
+
+}  // namespace
+
+// In front of the C library's, which operator new and Qt's containers call. The names behind are glibc's own.
+extern "C" {
+
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+void* __libc_realloc(void* block, std::size_t size);
+
+void* malloc(std::size_t size) noexcept {
+  ++allocation_count;
+  return __libc_malloc(size);
+}
+
+void* calloc(std::size_t count, std::size_t size) noexcept {
+  ++allocation_count;
+  return __libc_calloc(count, size);
+}
+
+void* realloc(void* block, std::size_t size) noexcept {
+  ++allocation_count;
+  return __libc_realloc(block, size);
+}
+
+}  // extern "C"
+
+namespace taviinputmanager::test {
+
+bool CountsAllocations() { return true; }
+
+std::int64_t AllocationCount() { return allocation_count; }
+
+}  // namespace taviinputmanager::test
+
+#else
+
+namespace taviinputmanager::test {
+
+bool CountsAllocations() { return false; }
+
+std::int64_t AllocationCount() { return 0; }
+
+}  // namespace taviinputmanager::test
+
+#endif
