@@ -2,6 +2,7 @@
 
 #include "core/input_event_sender.h"
 #include "core/input_status_manager.h"
+#include "core/line_buffer.h"
 
 namespace taviinputmanager {
 
@@ -9,8 +10,16 @@ EventHandler::EventHandler() : sender_(InputEventSender::GetInstance()) {}
 
 EventHandler::~EventHandler() = default;
 
+void EventHandler::SendEvent(const LineBuffer& command) {
+  SendEventTo(command, InputStatusManager::GetInstance()->GetDisplayId());
+}
+
 void EventHandler::SendEvent(const QString& command) {
   SendEventTo(command, InputStatusManager::GetInstance()->GetDisplayId());
+}
+
+void EventHandler::SendEventTo(const LineBuffer& command, int display) {
+  if (!command.isEmpty()) sender_->SendEvent(command, display);
 }
 
 void EventHandler::SendEventTo(const QString& command, int display) {

@@ -8,6 +8,7 @@
 namespace taviinputmanager {
 
 class InputEventSender;
+class LineBuffer;
 
 // Main thread. An empty command means that there is nothing to send, and is dropped.
 class EventHandler : public QObject {
@@ -18,7 +19,9 @@ class EventHandler : public QObject {
   ~EventHandler() override;
 
   // To the display that live input goes to.
+  void SendEvent(const LineBuffer& command);
   void SendEvent(const QString& command);
+  void SendEventTo(const LineBuffer& command, int display);
   void SendEventTo(const QString& command, int display);
   void SendText(const QString& command);
 

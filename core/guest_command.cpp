@@ -6,17 +6,15 @@
 #include <QStringList>
 
 #include "core/guest_words.h"
-#include "core/line_buffer.h"
 
 namespace taviinputmanager::guest_command {
 namespace {
 
 template <typename... Fields>
-QString Line(QLatin1String word, Fields... fields) {
+LineBuffer Line(QLatin1String word, Fields... fields) {
   LineBuffer line;
-  line.Text(word);
-  (line.Field(fields), ...);
-  return line.Byte('\n').ToString();
+  line.Line(word, fields...);
+  return line;
 }
 
 // The text stands as it is: the line has no escapes.
@@ -29,20 +27,21 @@ QString TextLine(QLatin1String word, const QString& text) {
 }  // namespace
 
 // The slot stands twice: as the slot, and as the contact's tracking id.
-QString SlotPress(int slot, int x, int y) { return Line(guest_words::kSlotPress, slot, slot, 1, 1, x, y); }
-QString SlotPress(int slot, const QPointF& place) {
+LineBuffer SlotPress(int slot, int x, int y) { return Line(guest_words::kSlotPress, slot, slot, 1, 1, x, y); }
+LineBuffer SlotPress(int slot, const QPointF& place) {
   return Line(guest_words::kSlotPress, slot, slot, 1, 1, place.x(), place.y());
 }
-QString SlotRelease(int slot) { return Line(guest_words::kSlotRelease, slot); }
-QString SlotReleaseAll() { return Line(guest_words::kSlotReleaseAll); }
+LineBuffer SlotRelease(int slot) { return Line(guest_words::kSlotRelease, slot); }
+LineBuffer SlotReleaseAll() { return Line(guest_words::kSlotReleaseAll); }
 
-QString SlotMultiPress(const Contacts& contacts) {
+LineBuffer SlotMultiPress(const Contacts& contacts) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiPress);
   for (const Contact& contact : contacts) {
     line.Field(contact.slot).Field(contact.slot).Field(contact.x).Field(contact.y);
   }
-  return line.Byte('\n').ToString();
+  line.Byte('\n');
+  return line;
 }
 
 QString SlotMultiPressOf(const QStringList& groups) {
@@ -56,39 +55,40 @@ QString ContactGroup(int slot, const QPointF& place) {
   return group.Number(slot).Field(slot).Field(place.x()).Field(place.y()).ToString();
 }
 
-QString SlotMultiRelease(const Slots& slots) {
+LineBuffer SlotMultiRelease(const Slots& slots) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiRelease);
   for (const int slot : slots) line.Field(slot);
-  return line.Byte('\n').ToString();
+  line.Byte('\n');
+  return line;
 }
 
 QString SlotMultiReleaseOf(const QString& slots) { return TextLine(guest_words::kSlotMultiRelease, slots); }
 
-QString KeyPress(int code) { return Line(guest_words::kKeyPress, code, 1); }
-QString KeyRelease(int code) { return Line(guest_words::kKeyRelease, code, 0); }
+LineBuffer KeyPress(int code) { return Line(guest_words::kKeyPress, code, 1); }
+LineBuffer KeyRelease(int code) { return Line(guest_words::kKeyRelease, code, 0); }
 
-QString MouseMove(int x, int y) { return Line(guest_words::kMouseMove, x, y); }
-QString MouseMove(const QPointF& place) { return Line(guest_words::kMouseMove, place.x(), place.y()); }
-QString Wheel(int x, int y, int third, int fourth) { return Line(guest_words::kWheel, x, y, third, fourth); }
-QString Wheel(const QPointF& place) {
+LineBuffer MouseMove(int x, int y) { return Line(guest_words::kMouseMove, x, y); }
+LineBuffer MouseMove(const QPointF& place) { return Line(guest_words::kMouseMove, place.x(), place.y()); }
+LineBuffer Wheel(int x, int y, int third, int fourth) { return Line(guest_words::kWheel, x, y, third, fourth); }
+LineBuffer Wheel(const QPointF& place) {
   return Line(guest_words::kWheel, std::abs(place.x()), std::abs(place.y()), place.x(), place.y());
 }
-QString WheelWithDelta(int x, int y, double amount) { return Line(guest_words::kWheelWithDelta, x, y, amount, 0); }
+LineBuffer WheelWithDelta(int x, int y, double amount) { return Line(guest_words::kWheelWithDelta, x, y, amount, 0); }
 
 QString Text(const QString& text) { return TextLine(guest_words::kText, text); }
 QString TextControl(const QString& name) { return TextLine(guest_words::kTextControl, name); }
 
-QString LeftStickAxis(int x, int y) { return Line(guest_words::kLeftStickAxis, x, y); }
-QString RightStickAxis(int x, int y) { return Line(guest_words::kRightStickAxis, x, y); }
-QString LeftTriggerAxis(int value) { return Line(guest_words::kLeftTriggerAxis, value); }
-QString RightTriggerAxis(int value) { return Line(guest_words::kRightTriggerAxis, value); }
-QString GamepadButton(int code, int value) { return Line(guest_words::kGamepadButton, code, value); }
-QString HatX(int value) { return Line(guest_words::kHatX, value); }
-QString HatY(int value) { return Line(guest_words::kHatY, value); }
-QString TouchpadLightTouch(int x, int y) { return Line(guest_words::kTouchpadLightTouch, x, y); }
-QString TouchpadPress() { return Line(guest_words::kTouchpadPress); }
-QString TouchpadRelease() { return Line(guest_words::kTouchpadRelease); }
+LineBuffer LeftStickAxis(int x, int y) { return Line(guest_words::kLeftStickAxis, x, y); }
+LineBuffer RightStickAxis(int x, int y) { return Line(guest_words::kRightStickAxis, x, y); }
+LineBuffer LeftTriggerAxis(int value) { return Line(guest_words::kLeftTriggerAxis, value); }
+LineBuffer RightTriggerAxis(int value) { return Line(guest_words::kRightTriggerAxis, value); }
+LineBuffer GamepadButton(int code, int value) { return Line(guest_words::kGamepadButton, code, value); }
+LineBuffer HatX(int value) { return Line(guest_words::kHatX, value); }
+LineBuffer HatY(int value) { return Line(guest_words::kHatY, value); }
+LineBuffer TouchpadLightTouch(int x, int y) { return Line(guest_words::kTouchpadLightTouch, x, y); }
+LineBuffer TouchpadPress() { return Line(guest_words::kTouchpadPress); }
+LineBuffer TouchpadRelease() { return Line(guest_words::kTouchpadRelease); }
 
 QString Complete(const QString& command) { return command + QLatin1Char('\n'); }
 

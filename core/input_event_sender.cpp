@@ -7,20 +7,38 @@
 #include "taviinputmanager/callbacks.h"
 
 namespace taviinputmanager {
+namespace {
+
+void Transmit(const LineBuffer& line, int display) {
+  int length = 0;
+  const char* data = line.ForDisplay(display, &length);
+  GetHostFunctions().send_event(data, length);
+}
+
+}  // namespace
 
 InputEventSender* InputEventSender::GetInstance() {
   static InputEventSender instance;
   return &instance;
 }
 
+bool InputEventSender::IsPrimary(int display) const {
+  return callbacks_ && callbacks_->IsPrimaryDisplay && callbacks_->IsPrimaryDisplay(display);
+}
+
+void InputEventSender::SendEvent(const LineBuffer& line, int display) {
+  Transmit(line, display);
+  if (!IsPrimary(display)) return;
+  // A text is made of the line only for those who listen.
+  const InputSyncManager* mirror = InputSyncManager::GetInstance();
+  if (mirror->IsEventMirrored()) mirror->SyncEvent(line.ToString());
+  if (IsLineRecorded()) OfferEventLine(line.ToString());
+}
+
 void InputEventSender::SendEvent(const QString& command, int display) {
   LineBuffer line;
-  line.Number(display).Byte(':').Narrow(command);
-  const int length = line.size();
-  line.Byte('\0');
-  GetHostFunctions().send_event(line.data(), length);
-
-  if (!callbacks_ || !callbacks_->IsPrimaryDisplay || !callbacks_->IsPrimaryDisplay(display)) return;
+  Transmit(line.Narrow(command), display);
+  if (!IsPrimary(display)) return;
   InputSyncManager::GetInstance()->SyncEvent(command);
   OfferEventLine(command);
 }

@@ -7,6 +7,7 @@
 namespace taviinputmanager {
 
 struct InputManagerCallbacks;
+class LineBuffer;
 
 // Main thread, but for the reset at the natural end of a replay. No lock, no queue, no retry.
 class InputEventSender {
@@ -17,11 +18,14 @@ class InputEventSender {
 
   // Sends `command` to `display` with the display's number in front. A primary display's lines are then mirrored and
   // offered to the recorder.
+  void SendEvent(const LineBuffer& line, int display);
   void SendEvent(const QString& command, int display);
   // Sends a text line, which has no display; always mirrored and offered.
   void SendText(const QString& command);
 
  private:
+  bool IsPrimary(int display) const;
+
   InputManagerCallbacks* callbacks_ = nullptr;  // the host's
 };
 

@@ -4,20 +4,16 @@
 
 namespace taviinputmanager {
 
-InputSyncManager* InputSyncManager::GetInstance() {
-  static InputSyncManager instance;
-  return &instance;
-}
-
 void InputSyncManager::StartSync(const QString& target) {
   if (!sync_targets_.contains(target)) sync_targets_.append(target);
 }
 
 void InputSyncManager::StopSync(const QString& target) { sync_targets_.removeAll(target); }
 
+bool InputSyncManager::IsEventMirrored() const { return GetHostFunctions().sync_event && !sync_targets_.isEmpty(); }
+
 void InputSyncManager::SyncEvent(const QString& command) const {
-  const InputEventSyncFunc sync = GetHostFunctions().sync_event;
-  if (sync && !sync_targets_.isEmpty()) sync(command, sync_targets_);
+  if (IsEventMirrored()) GetHostFunctions().sync_event(command, sync_targets_);
 }
 
 void InputSyncManager::SyncText(const QString& command) const {

@@ -10,7 +10,10 @@ namespace taviinputmanager {
 // Main thread only.
 class InputSyncManager {
  public:
-  static InputSyncManager* GetInstance();
+  static InputSyncManager* GetInstance() {
+    static InputSyncManager instance;
+    return &instance;
+  }
 
   // Targets stand once each, in order of adding.
   void StartSync(const QString& target);
@@ -18,6 +21,8 @@ class InputSyncManager {
 
   // Hands a bare line and all targets to the host, unless there is no function or no target.
   void SyncEvent(const QString& command) const;
+  // Whether that would do anything.
+  bool IsEventMirrored() const;
   void SyncText(const QString& command) const;
 
  private:

@@ -2,79 +2,151 @@
 #ifndef CORE_LINE_BUFFER_H_
 #define CORE_LINE_BUFFER_H_
 
+#include <QLatin1String>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
 
+#include <QByteArray>
 #include <QString>
-#include <QVarLengthArray>
 
 namespace taviinputmanager {
 
-// Moves to the heap by itself where a form has no upper length.
+// Moves to the heap by itself where a form has no upper length. There is room in front for the number of a display and
+// behind for a NUL, so that a line is sent from where it was made. Goes wherever a QString is asked for.
 class LineBuffer {
  public:
-  LineBuffer& Text(const char* text) {
-    buffer_.append(text, static_cast<int>(std::strlen(text)));
-    return *this;
-  }
-  LineBuffer& Text(QLatin1String text) {
-    buffer_.append(text.data(), text.size());
-    return *this;
-  }
-  LineBuffer& Number(int value) {
-    char digits[16];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    buffer_.append(digits, static_cast<int>(end - digits));
-    return *this;
-  }
-  // As QString::arg(double) writes it: six significant digits, fixed or exponent form, -0 as 0.
-  LineBuffer& Number(double value) {
-    if (std::isnan(value)) return Text("nan");
-    char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value == 0 ? 0.0 : value, std::chars_format::general,
-                                   kSignificantDigits)
-                         .ptr;
-    buffer_.append(digits, static_cast<int>(end - digits));
+  LineBuffer() = default;
+  LineBuffer(const LineBuffer& other) { Bytes(other.begin_, static_cast<std::size_t>(other.size())); }
+  LineBuffer& operator=(const LineBuffer&) = delete;
+
+  LineBuffer& Text(const char* text) { return Bytes(text, std::strlen(text)); }
+  LineBuffer& Text(QLatin1String text) { return Bytes(text.data(), static_cast<std::size_t>(text.size())); }
+  template <typename Value>
+  LineBuffer& Number(Value value) {
+    end_ = Write(Room(kLongest<Value>), value);
     return *this;
   }
   // A separator and a field.
   template <typename Value>
   LineBuffer& Field(Value value) {
-    buffer_.append(':');
-    return Number(value);
+    return Byte(':').Number(value);
+  }
+  // A whole line: a word, its fields, and the end.
+  template <typename... Fields>
+  LineBuffer& Line(QLatin1String word, Fields... fields) {
+    const auto length = static_cast<std::size_t>(word.size());
+    char* at = Room(length + (kLongest<Fields> + ... + (sizeof...(fields) + 1)));
+    std::memcpy(at, word.data(), length);
+    at += length;
+    ((*at = ':', at = Write(at + 1, fields)), ...);
+    *at = '\n';
+    end_ = at + 1;
+    return *this;
   }
   // Text of any script. What is not ASCII is narrowed to UTF-8.
   LineBuffer& Narrow(const QString& text) {
-    const int start = buffer_.size();
-    buffer_.resize(start + text.size());
-    for (int i = 0; i < text.size(); ++i) {
-      const ushort unit = text.at(i).unicode();
-      if (unit > kLastAscii) {
-        const QByteArray bytes = text.toUtf8();
-        buffer_.resize(start);
-        buffer_.append(bytes.constData(), bytes.size());
-        return *this;
-      }
-      buffer_[start + i] = static_cast<char>(unit);
+    const auto length = static_cast<std::size_t>(text.size());
+    const QChar* units = text.constData();
+    char* at = Room(length);
+    unsigned seen = 0;
+    for (std::size_t i = 0; i < length; ++i) {  // without a way out, so that it runs in wide steps
+      seen |= units[i].unicode();
+      at[i] = static_cast<char>(units[i].unicode());
     }
+    if (seen > kLastAscii) {
+      const QByteArray bytes = text.toUtf8();
+      return Bytes(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
+    end_ += length;
     return *this;
   }
   LineBuffer& Byte(char byte) {
-    buffer_.append(byte);
+    *Room(1) = byte;
+    ++end_;
     return *this;
   }
 
-  QString ToString() const { return QString::fromLatin1(buffer_.constData(), buffer_.size()); }
-  char* data() { return buffer_.data(); }
-  int size() const { return buffer_.size(); }
+  // Of what is ASCII.
+  QString ToString() const { return QString::fromLatin1(begin_, size()); }
+  operator QString() const { return ToString(); }  // NOLINT(google-explicit-constructor)
+  std::string toStdString() const { return std::string(begin_, end_); }
+  char* data() { return begin_; }
+  int size() const { return static_cast<int>(end_ - begin_); }
+  bool isEmpty() const { return begin_ == end_; }
+
+  // The text with the number of a display and a colon in front and a NUL behind, which `length` does not count. Valid
+  // until the next change.
+  const char* ForDisplay(int display, int* length) const {
+    char* start = begin_;
+    *--start = ':';
+    const bool is_negative = display < 0;
+    unsigned rest = is_negative ? 0U - static_cast<unsigned>(display) : static_cast<unsigned>(display);
+    do {
+      *--start = static_cast<char>('0' + rest % kTen);
+      rest /= kTen;
+    } while (rest != 0);
+    if (is_negative) *--start = '-';
+    *end_ = '\0';
+    *length = static_cast<int>(end_ - start);
+    return start;
+  }
 
  private:
-  static constexpr int kUsualLength = 128;
+  static constexpr std::size_t kUsualLength = 192;
+  static constexpr std::size_t kLongestInt = 11;
+  static constexpr std::size_t kLongestDouble = 32;
+  template <typename Value>
+  static constexpr std::size_t kLongest = std::is_integral_v<Value> ? kLongestInt : kLongestDouble;
+  static constexpr std::size_t kHeadroom = kLongestInt + 1;
   static constexpr int kSignificantDigits = 6;
-  static constexpr ushort kLastAscii = 0x7F;
+  static constexpr unsigned kTen = 10;
+  static constexpr unsigned kLastAscii = 0x7F;
 
-  QVarLengthArray<char, kUsualLength> buffer_;
+  static char* Write(char* at, int value) { return std::to_chars(at, at + kLongestInt, value).ptr; }
+  // As QString::arg(double) writes it: six significant digits, fixed or exponent form, -0 as 0.
+  static char* Write(char* at, double value) {
+    constexpr char kNoNumber[] = "nan";
+    if (std::isnan(value)) return std::copy_n(kNoNumber, sizeof kNoNumber - 1, at);
+    return std::to_chars(at, at + kLongestDouble, value == 0 ? 0.0 : value, std::chars_format::general,
+                         kSignificantDigits)
+        .ptr;
+  }
+
+  LineBuffer& Bytes(const char* bytes, std::size_t length) {
+    std::memcpy(Room(length), bytes, length);
+    end_ += length;
+    return *this;
+  }
+
+  // Where the next `length` bytes go.
+  char* Room(std::size_t length) {
+    if (static_cast<std::size_t>(limit_ - end_) < length) Grow(length);
+    return end_;
+  }
+
+  void Grow(std::size_t length) {
+    const auto used = static_cast<std::size_t>(end_ - begin_);
+    const std::size_t capacity = 2 * (used + length);
+    std::unique_ptr<char[]> larger(new char[kHeadroom + capacity + 1]);
+    std::memcpy(larger.get() + kHeadroom, begin_, used);
+    heap_ = std::move(larger);
+    begin_ = heap_.get() + kHeadroom;
+    end_ = begin_ + used;
+    limit_ = begin_ + capacity;
+  }
+
+  char usual_[kHeadroom + kUsualLength + 1];
+  std::unique_ptr<char[]> heap_;  // null until a line is longer than usual
+  char* begin_ = usual_ + kHeadroom;
+  char* end_ = begin_;
+  char* limit_ = begin_ + kUsualLength;  // a NUL goes behind it
 };
 
 }  // namespace taviinputmanager

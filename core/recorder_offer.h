@@ -1,4 +1,5 @@
-// What the sender offers to the recorder. Declared here, where lines are sent; defined where they are recorded.
+// What the sender offers to the recorder. Declared here, where lines are sent; the offers are defined where they are
+// recorded, the question where everyone is seen.
 #ifndef CORE_RECORDER_OFFER_H_
 #define CORE_RECORDER_OFFER_H_
 
@@ -9,6 +10,8 @@ namespace taviinputmanager {
 // A line that went to a primary display, and a text line. Both with their newline, which the recorder does not keep.
 void OfferEventLine(const QString& line);
 void OfferTextLine(const QString& line);
+// Whether an offer would be taken up at present: no line has to become a text for one that is not.
+bool IsLineRecorded();
 
 }  // namespace taviinputmanager
 

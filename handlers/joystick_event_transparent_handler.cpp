@@ -29,7 +29,7 @@ constexpr int kUnknownTouchpoint = 100;  // where there is no display
 // The hat's arrows, which hosts give as text. Up and left are negative.
 struct HatRow {
   ushort arrow;
-  QString (*line)(int);
+  LineBuffer (*line)(int);
   int value;
 };
 

@@ -40,7 +40,7 @@ void MouseTransparentManager::AddRelative(double dx, double dy) {
 
 QPoint MouseTransparentManager::GetPosition() const { return {Truncate(x_), Truncate(y_)}; }
 
-QString MouseTransparentManager::BuildMoveCommand() const {
+LineBuffer MouseTransparentManager::BuildMoveCommand() const {
   if (!HasPosition()) return {};
   const DisplayGeometry* geometry = DisplayGeometry::GetInstance();
   const QSize display = geometry->GetOrientedDisplaySize();
@@ -51,14 +51,14 @@ QString MouseTransparentManager::BuildMoveCommand() const {
   return guest_command::MouseMove(x, y);
 }
 
-QString MouseTransparentManager::BuildButtonPressCommand(int button) {
+LineBuffer MouseTransparentManager::BuildButtonPressCommand(int button) {
   const int code = KeyCodeConverter::GetInstance()->MouseButtonToGuestCode(button);
   if (code == -1) return {};
   InputStatusManager::GetInstance()->AddHeldKey(code);
   return guest_command::KeyPress(code);
 }
 
-QString MouseTransparentManager::BuildButtonReleaseCommand(int button) {
+LineBuffer MouseTransparentManager::BuildButtonReleaseCommand(int button) {
   const int code = KeyCodeConverter::GetInstance()->MouseButtonToGuestCode(button);
   if (code == -1) return {};
   InputStatusManager::GetInstance()->RemoveHeldKey(code);

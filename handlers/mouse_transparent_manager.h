@@ -3,7 +3,8 @@
 #define HANDLERS_MOUSE_TRANSPARENT_MANAGER_H_
 
 #include <QPoint>
-#include <QString>
+
+#include "core/line_buffer.h"
 
 namespace taviinputmanager {
 
@@ -26,11 +27,11 @@ class MouseTransparentManager {
   QPoint GetPosition() const;
 
   // Empty while there is no position, or no display.
-  QString BuildMoveCommand() const;
+  LineBuffer BuildMoveCommand() const;
   // Take a Qt::MouseButton and keep the record of held keys: in the guest, mouse buttons are keys. Empty for a button
   // that the guest does not know.
-  QString BuildButtonPressCommand(int button);
-  QString BuildButtonReleaseCommand(int button);
+  LineBuffer BuildButtonPressCommand(int button);
+  LineBuffer BuildButtonReleaseCommand(int button);
 
  private:
   MouseTransparentManager() = default;

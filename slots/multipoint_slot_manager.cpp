@@ -4,11 +4,6 @@
 
 namespace taviinputmanager {
 
-MultipointSlotManager* MultipointSlotManager::GetInstance() {
-  static MultipointSlotManager instance;
-  return &instance;
-}
-
 MultipointSlotManager::MultipointSlotManager() : SlotManager(kNoSlot) {}
 
 bool MultipointSlotManager::HasTouch() const {
@@ -16,9 +11,9 @@ bool MultipointSlotManager::HasTouch() const {
   return entry && entry->in_use;
 }
 
-QString MultipointSlotManager::BuildPressCommand() {
+LineBuffer MultipointSlotManager::BuildPressCommand() {
   const Entry* entry = EntryOf(GetSlotId());
-  return entry ? BuildRelativePressCommandAt(entry->x, entry->y) : QString();
+  return entry ? BuildRelativePressCommandAt(entry->x, entry->y) : LineBuffer();
 }
 
 void MultipointSlotManager::Reset() {

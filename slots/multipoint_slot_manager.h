@@ -12,10 +12,13 @@ namespace taviinputmanager {
 // Points are fractions of the display. The slot touched last is the one that the commands speak of; -1 before that.
 class MultipointSlotManager : public SlotManager {
  public:
-  static MultipointSlotManager* GetInstance();
+  static MultipointSlotManager* GetInstance() {
+    static MultipointSlotManager instance;
+    return &instance;
+  }
 
   bool HasTouch() const override;
-  QString BuildPressCommand() override;
+  LineBuffer BuildPressCommand() override;
   // Frees every slot. Points stay, so that a tap at an old point gets its old slot back.
   void Reset() override;
 

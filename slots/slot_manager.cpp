@@ -9,19 +9,19 @@ SlotManager::SlotManager(int slot_id) : slot_id_(slot_id), display_(DisplayGeome
 
 SlotManager::~SlotManager() = default;
 
-QString SlotManager::BuildUpdateCommand() {
+LineBuffer SlotManager::BuildUpdateCommand() {
   if (slot_id_ == kNoSlot) return {};
   return HasTouch() ? BuildPressCommand() : BuildReleaseCommand();
 }
 
-QString SlotManager::BuildPressCommandAt(int x, int y) const {
+LineBuffer SlotManager::BuildPressCommandAt(int x, int y) const {
   if (slot_id_ == kNoSlot) return {};
   display_->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return {};
   return guest_command::SlotPress(slot_id_, x, y);
 }
 
-QString SlotManager::BuildRelativePressCommandAt(double x, double y) const {
+LineBuffer SlotManager::BuildRelativePressCommandAt(double x, double y) const {
   if (slot_id_ == kNoSlot) return {};
   int touch_x = kNoPosition;
   int touch_y = kNoPosition;
@@ -30,8 +30,8 @@ QString SlotManager::BuildRelativePressCommandAt(double x, double y) const {
   return guest_command::SlotPress(slot_id_, touch_x, touch_y);
 }
 
-QString SlotManager::BuildReleaseCommand() const {
-  return slot_id_ == kNoSlot ? QString() : guest_command::SlotRelease(slot_id_);
+LineBuffer SlotManager::BuildReleaseCommand() const {
+  return slot_id_ == kNoSlot ? LineBuffer() : guest_command::SlotRelease(slot_id_);
 }
 
 }  // namespace taviinputmanager

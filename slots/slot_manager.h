@@ -2,7 +2,7 @@
 #ifndef SLOTS_SLOT_MANAGER_H_
 #define SLOTS_SLOT_MANAGER_H_
 
-#include <QString>
+#include "core/line_buffer.h"
 
 namespace taviinputmanager {
 
@@ -24,17 +24,17 @@ class SlotManager {
   // Whether the contact should be down at present.
   virtual bool HasTouch() const = 0;
   // Press, or move, to the stored position.
-  virtual QString BuildPressCommand() = 0;
+  virtual LineBuffer BuildPressCommand() = 0;
   // Forgets the contact. The guest's finger stays as it is until a release is sent.
   virtual void Reset() = 0;
 
   // What brings the guest in line with this manager: a press or a release.
-  QString BuildUpdateCommand();
+  LineBuffer BuildUpdateCommand();
   // In window pixels.
-  QString BuildPressCommandAt(int x, int y) const;
+  LineBuffer BuildPressCommandAt(int x, int y) const;
   // In fractions of the display.
-  QString BuildRelativePressCommandAt(double x, double y) const;
-  QString BuildReleaseCommand() const;
+  LineBuffer BuildRelativePressCommandAt(double x, double y) const;
+  LineBuffer BuildReleaseCommand() const;
 
   int GetSlotId() const { return slot_id_; }
 

@@ -35,7 +35,7 @@ SwipeholdSlotManager* SwipeholdSlotManager::GetInstance(int index) {
   }
 }
 
-QString SwipeholdSlotManager::BuildPressCommand() {
+LineBuffer SwipeholdSlotManager::BuildPressCommand() {
   const QPoint target = GetTargetPoint();
   return BuildPressCommandAt(target.x(), target.y());
 }

@@ -157,7 +157,7 @@ TEST_F(MacroFinger, TheEndLiftsPressesOfOnePoint) {
   fingers.Press("(0.5,0.5);(0.75,0.5)");
   fingers.Press("(0.1,0.1)");
   fingers.Press("(0.25,0.5)");
-  EXPECT_EQ("SLOTMULTIRELEASE:18:21\n", fingers.ReleasePressed());
+  EXPECT_EQ("SLOTMULTIRELEASE:18:21\n", fingers.ReleasePressed().toStdString());
   EXPECT_EQ((QSet<int>{19, 20}), MacroSlotManager::GetInstance()->ActiveSlots());
 }
 
@@ -165,13 +165,13 @@ TEST_F(MacroFinger, TheEndLiftsThePressAtThePointer) {
   Time().SetPointer({640, 360});
   MacroFingers fingers;
   fingers.Press("mouse");
-  EXPECT_EQ("SLOTMULTIRELEASE:18\n", fingers.ReleasePressed());
+  EXPECT_EQ("SLOTMULTIRELEASE:18\n", fingers.ReleasePressed().toStdString());
 }
 
 TEST_F(MacroFinger, TheEndLiftsNothingOfASwitch) {
   MacroFingers fingers;
   fingers.Press(fingers.Split("(0.5,0.5)").press);
-  EXPECT_EQ("", fingers.ReleasePressed());
+  EXPECT_EQ("", fingers.ReleasePressed().toStdString());
 }
 
 }  // namespace
