@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-class VirtualMouseEvent : public QMouseEvent {
+class VirtualMouseEvent final : public QMouseEvent {
  public:
   // `position` in window pixels. `buttons` are those held after the event.
   VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,

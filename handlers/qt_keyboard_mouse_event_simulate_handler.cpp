@@ -1,5 +1,7 @@
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 
+#include <utility>
+
 #include <QKeyEvent>
 
 #include "core/guest_command.h"
@@ -8,11 +10,8 @@
 #include "core/keymap_access.h"
 #include "core/virtual_keyboard_event.h"
 #include "handlers/simulator_table.h"
-#include "handlers/single_key_item.h"
-#include "keymap/composable_config_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
-#include "keymap/tip_config_item.h"
 #include "simulators/event_simulator.h"
 #include "slots/mouse_slot_manager.h"
 #include "taviinputmanager/callbacks.h"
@@ -21,11 +20,9 @@
 
 namespace taviinputmanager {
 
-using tavikeymapmanager::ComposableConfigItem;
 using tavikeymapmanager::ConfigItem;
 using tavikeymapmanager::ConfigKey;
 using tavikeymapmanager::KeymapConfig;
-using tavikeymapmanager::TipConfigItem;
 
 namespace {
 
@@ -43,17 +40,12 @@ bool IsEscape(const ConfigKey& key) {
 
 bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
 
-bool IsTip(const ConfigItem* item) { return dynamic_cast<const TipConfigItem*>(item) != nullptr; }
-
 }  // namespace
-
-QtKeyboardMouseEventSimulateHandler* QtKeyboardMouseEventSimulateHandler::GetInstance() {
-  static QtKeyboardMouseEventSimulateHandler instance;
-  return &instance;
-}
 
 QtKeyboardMouseEventSimulateHandler::QtKeyboardMouseEventSimulateHandler()
     : default_mouse_slot_(MouseSlotManager::GetInstance()) {
+  escape_key_.device = tavikeymapmanager::keywords::kDeviceKeyboard;
+  escape_key_.scancode = kEscapeScanCode;
   mouse_buttons_[0] = 0;
 }
 
@@ -68,11 +60,14 @@ void QtKeyboardMouseEventSimulateHandler::Initialize(InputManagerCallbacks* call
 
 void QtKeyboardMouseEventSimulateHandler::SetConfig(KeymapConfig* config) {
   config_ = config;
+  index_.Clear();
+  if (config_) index_.Follow(config_->items);
   UpdateEscapeState();
 }
 
 void QtKeyboardMouseEventSimulateHandler::ForgetConfig() {
   config_ = nullptr;
+  index_.Clear();
   chord_items_.clear();
 }
 
@@ -83,29 +78,16 @@ void QtKeyboardMouseEventSimulateHandler::ResetKeyState() {
 }
 
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindConfigItem(const ConfigKey& key) const {
-  if (!config_) return nullptr;
-  for (ConfigItem* item : qAsConst(config_->items)) {
-    if (!item || !item->IsKeyMatch(key) || IsTip(item) || !IsSingleKeyItem(item)) continue;
-    if (callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(true);
-    return item;
-  }
-  return nullptr;
-}
-
-ConfigItem* QtKeyboardMouseEventSimulateHandler::FindChordItem(const ConfigKey& key) const {
-  if (!config_) return nullptr;
-  for (ConfigItem* item : qAsConst(config_->items)) {
-    const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
-    if (composable && !IsTip(item) && composable->IsChordMatch(current_key_, key)) return item;
-  }
-  return nullptr;
+  ConfigItem* item = index_.FindAlone(key);
+  if (item && callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(true);
+  return item;
 }
 
 EventSimulator* QtKeyboardMouseEventSimulateHandler::GetSimulator(const ConfigItem* item) { return SimulatorOf(item); }
 
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindPressedItem(const ConfigKey& key) {
   if (IsKeySet(current_key_)) {
-    if (ConfigItem* chord = FindChordItem(key)) {
+    if (ConfigItem* chord = index_.FindChord(current_key_, key)) {
       chord_items_[key.scancode] = chord;  // its release reaches the same item, whatever is armed by then
       return chord;
     }
@@ -129,7 +111,7 @@ bool QtKeyboardMouseEventSimulateHandler::OnKeyPress(QKeyEvent* event) {
     return true;
   }
   if (IsEscape(key) && PressEscape(event)) return true;
-  current_key_ = key;
+  current_key_ = std::move(key);
   UpdateEscapeState();
   return false;
 }
@@ -194,11 +176,8 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
 void QtKeyboardMouseEventSimulateHandler::UpdateEscapeState() {
   bool occupied = false;
   if (config_) {
-    ConfigKey escape;
-    escape.device = tavikeymapmanager::keywords::kDeviceKeyboard;
-    escape.scancode = kEscapeScanCode;
-    occupied = tavikeymapmanager::isConfigKeyMatch(config_, &escape, &current_key_) ||
-               (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &current_key_, &escape));
+    occupied = tavikeymapmanager::isConfigKeyMatch(config_, &escape_key_, &current_key_) ||
+               (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &current_key_, &escape_key_));
     const auto& settings = SettingsOf(config_);
     if (settings.keyboard_transparent && settings.escape_to_guest) occupied = true;
   }

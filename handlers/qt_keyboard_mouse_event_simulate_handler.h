@@ -10,6 +10,7 @@
 #include "handlers/qt_keyboard_event_handler.h"
 #include "handlers/qt_mouse_event_handler.h"
 #include "keymap/config_key.h"
+#include "keymap/item_index.h"
 
 namespace tavikeymapmanager {
 struct ConfigItem;
@@ -28,7 +29,10 @@ class MouseSlotManager;
 // Two QObject bases, so never a sender, receiver or context of a connection. Main thread only.
 class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, public QtMouseEventHandler {
  public:
-  static QtKeyboardMouseEventSimulateHandler* GetInstance();
+  static QtKeyboardMouseEventSimulateHandler* GetInstance() {
+    static QtKeyboardMouseEventSimulateHandler instance;
+    return &instance;
+  }
 
   void Initialize(InputManagerCallbacks* callbacks);
   void SetConfig(tavikeymapmanager::KeymapConfig* config);
@@ -61,9 +65,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   ~QtKeyboardMouseEventSimulateHandler() override;
 
   // Through the first of the two bases, which is as good as the other.
-  void SendEvent(const QString& command) { static_cast<QtKeyboardEventHandler*>(this)->SendEvent(command); }
+  void SendEvent(const LineBuffer& command) { static_cast<QtKeyboardEventHandler*>(this)->SendEvent(command); }
 
-  tavikeymapmanager::ConfigItem* FindChordItem(const tavikeymapmanager::ConfigKey& key) const;
   tavikeymapmanager::ConfigItem* FindPressedItem(const tavikeymapmanager::ConfigKey& key);
   tavikeymapmanager::ConfigItem* FindReleasedItem(const tavikeymapmanager::ConfigKey& key);
   bool IsEscapeToGuest() const;
@@ -88,9 +91,11 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool IsButtonHeld(qint64 id, Qt::MouseButton button) const;
 
   tavikeymapmanager::KeymapConfig* config_ = nullptr;                // the input manager's
+  tavikeymapmanager::ItemIndex index_;                               // of its items
   MouseSlotManager* default_mouse_slot_;                             // the singleton
   std::map<qint64, std::unique_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
   InputManagerCallbacks* callbacks_ = nullptr;                       // the host's
+  tavikeymapmanager::ConfigKey escape_key_;   // what the state of Escape is asked by; never changes
   tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord
   QMap<int, tavikeymapmanager::ConfigItem*> chord_items_;  // by scan code of the second key, while that is down
   QMap<qint64, unsigned> mouse_buttons_;                   // Qt::MouseButton bits held, by pointer; 0 is the real mouse

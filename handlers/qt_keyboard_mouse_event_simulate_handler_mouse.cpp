@@ -1,4 +1,6 @@
 // The mouse side of the handler.
+#include <typeinfo>
+
 #include <QMouseEvent>
 
 #include "core/input_status_manager.h"
@@ -22,7 +24,10 @@ ConfigKey KeyOf(Qt::MouseButton button) {
   return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
 }
 
-const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) { return dynamic_cast<const VirtualMouseEvent*>(event); }
+// The class has no heirs, so that one look at the type is enough.
+const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) {
+  return typeid(*event) == typeid(VirtualMouseEvent) ? static_cast<const VirtualMouseEvent*>(event) : nullptr;
+}
 
 // The pointer that an event is of; 0 is the real mouse.
 qint64 PointerOf(const QMouseEvent* event) {

@@ -2,6 +2,9 @@
 #ifndef KEYMAP_CONFIG_KEY_H_
 #define KEYMAP_CONFIG_KEY_H_
 
+#include <cstddef>
+#include <cstring>
+
 #include <QString>
 
 #include "keymap/keymap_export.h"
@@ -21,16 +24,34 @@ struct TAVI_KEYMAP_RECORD ConfigKey {
   int user_flags = 0;            // the same
 };
 
+// As operator==, which is a call into Qt; most texts here differ in length or share their data.
+inline bool IsSameText(const QString& a, const QString& b) {
+  if (a.size() != b.size()) return false;
+  const QChar* const of_a = a.constData();
+  const QChar* const of_b = b.constData();
+  if (of_a == of_b) return true;
+  constexpr int kUsual = 8;  // "keyboard" and "joystick": a length that is known is compared in place
+  if (a.size() == kUsual) return std::memcmp(of_a, of_b, kUsual * sizeof(QChar)) == 0;
+  return std::memcmp(of_a, of_b, static_cast<std::size_t>(a.size()) * sizeof(QChar)) == 0;
+}
+
+// Its keys go by their names.
+inline bool IsJoystickKey(const ConfigKey& key) {
+  constexpr QChar kInitial = QLatin1Char('j');  // no other device has it
+  return !key.device.isEmpty() && *key.device.constData() == kInitial &&
+         IsSameText(key.device, keywords::kDeviceJoystick);
+}
+
 // Key identity: a joystick's keys are told apart by name, those of any other device by scan code.
 inline bool IsSameKey(const ConfigKey& a, const ConfigKey& b) {
-  if (a.device != b.device) return false;
-  return a.device == keywords::kDeviceJoystick ? a.text == b.text : a.scancode == b.scancode;
+  const bool is_same = IsJoystickKey(a) ? IsSameText(a.text, b.text) : a.scancode == b.scancode;
+  return is_same && IsSameText(a.device, b.device);
 }
 
 // Whether the record names a key at all.
 inline bool IsKeySet(const ConfigKey& key) {
   if (key.device.isEmpty()) return false;
-  if (key.device == keywords::kDeviceJoystick) return !key.text.isEmpty();
+  if (IsJoystickKey(key)) return !key.text.isEmpty();
   return key.virtual_key != kUnsetCode && key.scancode != kUnsetCode;
 }
 

@@ -1,8 +1,25 @@
 #include "keymapmanager/key_index.h"
 
+#include <cstring>
+#include <new>
+
 #include "keymapmanager/pad_names.h"
 
 namespace tavikeymapmanager {
+
+namespace {
+
+// A copy of `text` that is never freed, as literals are: its own copies count no references, and each key that is
+// pressed carries one.
+QString Lasting(const QString& text) {
+  const auto length = static_cast<std::size_t>(text.size());
+  void* const block = ::operator new(sizeof(QStringData) + (length + 1) * sizeof(QChar));
+  auto* const data = new (block) QStringData{Q_STATIC_STRING_DATA_HEADER_INITIALIZER(text.size())};
+  std::memcpy(data->data(), text.constData(), (length + 1) * sizeof(QChar));
+  return QString(QStringDataPtr{data});
+}
+
+}  // namespace
 
 const KeyIndex& KeyIndex::Get() {
   static const KeyIndex index;
@@ -11,10 +28,10 @@ const KeyIndex& KeyIndex::Get() {
 
 KeyIndex::KeyIndex() {
   for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
-    keyboard_names_[scancode] = QStringLiteral("Scan %1").arg(scancode);
+    keyboard_names_[scancode] = Lasting(QStringLiteral("Scan %1").arg(scancode));
   }
   for (const KeyboardKeyRow& row : KeyboardKeys()) AddKeyboardKey(row);
-  for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, QString::fromLatin1(row.name));
+  for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, Lasting(QString::fromLatin1(row.name)));
   for (int number = 1; number <= kExtraMouseButtonCount; ++number) {
     AddMouseKey(ExtraMouseButton(number), QStringLiteral("Mouse Side %1").arg(number));
   }
@@ -22,7 +39,7 @@ KeyIndex::KeyIndex() {
 }
 
 void KeyIndex::AddKeyboardKey(const KeyboardKeyRow& row) {
-  const QString name = QString::fromLatin1(row.name);
+  const QString name = Lasting(QString::fromLatin1(row.name));
   keyboard_names_[row.scancode] = name;
   virtual_keys_[row.scancode] = row.virtual_key;
   // Two keys share a virtual key (Enter): the first is meant.
@@ -58,17 +75,17 @@ ConfigKey KeyIndex::KeyboardKey(int scancode) const {
   return key;
 }
 
-const QString& KeyIndex::TextOf(const ConfigKey& key) const {
-  if (key.device == keywords::kDeviceKeyboard) return KeyboardText(key);
-  if (key.device != keywords::kDeviceMouse && key.device != keywords::kDeviceWheel) return no_name_;
-  const auto found = mouse_names_.constFind(key.scancode);
+const QString& KeyIndex::TextOf(const QString& device, int virtual_key, int scancode) const {
+  if (IsSameText(device, keywords::kDeviceKeyboard)) return KeyboardText(virtual_key, scancode);
+  if (device != keywords::kDeviceMouse && device != keywords::kDeviceWheel) return no_name_;
+  const auto found = mouse_names_.constFind(scancode);
   return found == mouse_names_.constEnd() ? no_name_ : *found;
 }
 
-const QString& KeyIndex::KeyboardText(const ConfigKey& key) const {
-  if (key.scancode >= 0 && key.scancode < kScancodeCount) return keyboard_names_[key.scancode];
-  if (key.scancode != kUnsetCode) return no_name_;
-  const auto found = names_by_virtual_key_.constFind(key.virtual_key);
+const QString& KeyIndex::KeyboardText(int virtual_key, int scancode) const {
+  if (scancode >= 0 && scancode < kScancodeCount) return keyboard_names_[scancode];
+  if (scancode != kUnsetCode) return no_name_;
+  const auto found = names_by_virtual_key_.constFind(virtual_key);
   return found == names_by_virtual_key_.constEnd() ? no_name_ : *found;
 }
 

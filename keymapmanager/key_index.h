@@ -24,7 +24,7 @@ class KeyIndex {
   ConfigKey KeyboardKey(int scancode) const;
   // The shared name of a key by its codes: the scan code, or, where that is unset, the virtual key. Empty for a
   // gamepad's key and for codes that no key has.
-  const QString& TextOf(const ConfigKey& key) const;
+  const QString& TextOf(const QString& device, int virtual_key, int scancode) const;
   // As AllKeyNames.
   const QStringList& Names() const { return names_; }
 
@@ -33,7 +33,7 @@ class KeyIndex {
 
   void AddKeyboardKey(const KeyboardKeyRow& row);
   void AddMouseKey(int code, const QString& name);
-  const QString& KeyboardText(const ConfigKey& key) const;
+  const QString& KeyboardText(int virtual_key, int scancode) const;
 
   std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` where the table has none
   std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 where the table has none

@@ -50,7 +50,7 @@ std::optional<ConfigKey> KeyFromName(const QString& name) {
 }
 
 QString NameOfKey(const ConfigKey& key) {
-  if (key.device != keywords::kDeviceJoystick) return KeyIndex::Get().TextOf(key);
+  if (key.device != keywords::kDeviceJoystick) return KeyIndex::Get().TextOf(key.device, key.virtual_key, key.scancode);
   QStringList parts = PadParts(key.text);
   if (parts.isEmpty()) return {};
   for (QString& part : parts) part = PadNameFromText(part);

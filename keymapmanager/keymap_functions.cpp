@@ -4,8 +4,7 @@
 #include <QLoggingCategory>
 #include <QMouseEvent>
 
-#include "keymap/composable_config_item.h"
-#include "keymap/tip_config_item.h"
+#include "keymap/item_index.h"
 #include "keymapmanager/key_index.h"
 #include "keymapmanager/keymap_file.h"
 
@@ -22,10 +21,11 @@ KeymapConfig* Load(const QString& path) {
   return result.config.release();
 }
 
-// A chord item does not answer to its last key alone.
-bool IsAloneMatch(const ConfigItem& item, const ComposableConfigItem* composable, const ConfigKey& key) {
-  if (composable != nullptr && IsKeySet(composable->first_key)) return false;
-  return item.IsKeyMatch(key);
+// Of the list that was asked about last.
+const ItemIndex& IndexOf(const KeymapConfig& config) {
+  static ItemIndex index;
+  index.Follow(config.items);
+  return index;
 }
 
 }  // namespace
@@ -35,29 +35,19 @@ KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) { return Load(path); 
 KeymapConfig* LoadJoystickConfigAndInfo(const QString& path) { return Load(path); }
 
 ConfigKey CreateConfigKey(QString device, int virtual_key, int scancode) {
-  ConfigKey key;
-  key.device = std::move(device);
-  key.virtual_key = virtual_key;
-  key.scancode = scancode;
-  key.text = KeyIndex::Get().TextOf(key);
-  return key;
+  const QString& text = KeyIndex::Get().TextOf(device, virtual_key, scancode);
+  return ConfigKey{std::move(device), text, virtual_key, scancode};
 }
 
 void SetTextForConfigKey(ConfigKey* key) {
   if (key == nullptr) return;
   if (key->device == keywords::kDeviceJoystick) return;  // its text is what it is known by
-  key->text = KeyIndex::Get().TextOf(*key);
+  key->text = KeyIndex::Get().TextOf(key->device, key->virtual_key, key->scancode);
 }
 
 bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed) {
   if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
-  for (const ConfigItem* item : config->items) {
-    if (item == nullptr || dynamic_cast<const TipConfigItem*>(item) != nullptr) continue;  // a label answers to no key
-    const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
-    if (IsAloneMatch(*item, composable, *configured)) return true;
-    if (composable != nullptr && composable->IsChordMatch(*configured, *pressed)) return true;
-  }
-  return false;
+  return IndexOf(*config).IsMatch(*configured, *pressed);
 }
 
 int getMacroConfigKeyCode(QEvent* event) {
