@@ -15,7 +15,11 @@ namespace {
 constexpr char kLoggerName[] = "input_logger";
 constexpr char kBaseFileName[] = "input_looger.txt";
 
-Poco::Logger& Logger() { return Poco::Logger::get(kLoggerName); }
+// Looked up once: the registry of loggers locks and allocates, and a key that passes through asks for the level.
+Poco::Logger& Logger() {
+  static Poco::Logger& logger = Poco::Logger::get(kLoggerName);
+  return logger;
+}
 
 // A log that cannot be written must not stop the input: a file that does not open is no error of the caller's.
 template <typename Function>

@@ -25,11 +25,6 @@ constexpr int kLastMacroSlot = 25;
 
 }  // namespace
 
-InputStatusManager* InputStatusManager::GetInstance() {
-  static InputStatusManager instance;
-  return &instance;
-}
-
 void InputStatusManager::SetStatus(InputStatus status, const QString& message) {
   status_ = status;
   status_message_ = message;
@@ -87,9 +82,11 @@ void InputStatusManager::ResetInputStatus(int mode, int display) {
 void InputStatusManager::SetForceTransparent(int display, bool on) {
   const QMutexLocker locker(&force_transparent_mutex_);
   force_transparent_[display] = on;
+  if (on) has_force_transparent_.store(true, std::memory_order_release);
 }
 
 bool InputStatusManager::IsDisplayForceTransparent(int display) const {
+  if (!has_force_transparent_.load(std::memory_order_acquire)) return false;  // no display ever was
   const QMutexLocker locker(&force_transparent_mutex_);
   return force_transparent_.value(display, false);
 }

@@ -2,6 +2,8 @@
 #ifndef CORE_INPUT_STATUS_MANAGER_H_
 #define CORE_INPUT_STATUS_MANAGER_H_
 
+#include <atomic>
+
 #include <QMap>
 #include <QMutex>
 #include <QString>
@@ -30,7 +32,10 @@ enum ResetMode : int {
 // may ask.
 class InputStatusManager {
  public:
-  static InputStatusManager* GetInstance();
+  static InputStatusManager* GetInstance() {
+    static InputStatusManager instance;
+    return &instance;
+  }
 
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 
@@ -104,6 +109,7 @@ class InputStatusManager {
   CodeSet replay_held_keys_;
   mutable QMutex force_transparent_mutex_;  // guards force_transparent_ only
   QMap<int, bool> force_transparent_;
+  std::atomic<bool> has_force_transparent_{false};  // some display was made so: spares events the lock until then
   QString package_name_;
   QString extra_;
   bool has_keymap_ = false;

@@ -8,7 +8,10 @@ namespace taviinputmanager {
 // Stateless; any thread.
 class KeyCodeConverter {
  public:
-  static KeyCodeConverter* GetInstance();
+  static KeyCodeConverter* GetInstance() {
+    static KeyCodeConverter instance;
+    return &instance;
+  }
 
   // Codes without a row of their own pass through; the unset code is Escape.
   int KeyToGuestCode(int scan) const;

@@ -8,14 +8,21 @@ using tavikeymapmanager::KeymapConfig;
 using tavikeymapmanager::KeymapSettings;
 using tavikeymapmanager::WheelSettings;
 
-const KeymapSettings& SettingsOf(const KeymapConfig* config) {
-  static const KeymapSettings defaults;
-  return config && config->settings ? *config->settings : defaults;
+namespace {
+
+template <typename Record>
+const Record& OrDefaults(const Record* record) {
+  if (record) return *record;
+  static const Record defaults;
+  return defaults;
 }
 
+}  // namespace
+
+const KeymapSettings& SettingsOf(const KeymapConfig* config) { return OrDefaults(config ? config->settings : nullptr); }
+
 const WheelSettings& WheelSettingsOf(const KeymapConfig* config) {
-  static const WheelSettings defaults;
-  return config && config->wheel_settings ? *config->wheel_settings : defaults;
+  return OrDefaults(config ? config->wheel_settings : nullptr);
 }
 
 }  // namespace taviinputmanager

@@ -26,11 +26,6 @@ void LogKey(const QKeyEvent* event) {
 
 }  // namespace
 
-QtKeyboardEventTransparentHandler* QtKeyboardEventTransparentHandler::GetInstance() {
-  static QtKeyboardEventTransparentHandler instance;
-  return &instance;
-}
-
 bool QtKeyboardEventTransparentHandler::OnKeyPress(QKeyEvent* event) {
   LogKey(event);
   const int code = GuestCodeOf(event);

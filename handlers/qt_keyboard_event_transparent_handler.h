@@ -9,7 +9,10 @@ namespace taviinputmanager {
 // Passes every press and release, whether or not one went before the other. Repeats are the guest's own business.
 class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
  public:
-  static QtKeyboardEventTransparentHandler* GetInstance();
+  static QtKeyboardEventTransparentHandler* GetInstance() {
+    static QtKeyboardEventTransparentHandler instance;
+    return &instance;
+  }
 
  protected:
   bool OnKeyPress(QKeyEvent* event) override;

@@ -25,6 +25,7 @@
 namespace taviinputmanager {
 
 using tavikeymapmanager::ConfigItem;
+using tavikeymapmanager::IsSameText;
 using tavikeymapmanager::SpellCancelConfigItem;
 namespace keywords = tavikeymapmanager::keywords;
 
@@ -75,7 +76,7 @@ const Row kRows[] = {
 
 EventSimulator* Find(const ConfigItem* item, Source source) {
   const auto row =
-      std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return r.type == item->type; });
+      std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return IsSameText(r.type, item->type); });
   return row == std::end(kRows) || (row->sources & source) == 0 ? nullptr : row->get(item);
 }
 

@@ -8,11 +8,6 @@ namespace taviinputmanager {
 using tavikeymapmanager::ConfigItem;
 using tavikeymapmanager::ConfigKey;
 
-TapEventSimulator* TapEventSimulator::GetInstance() {
-  static TapEventSimulator instance;
-  return &instance;
-}
-
 void TapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
   if (!pool->PressAt(item->rel_x, item->rel_y)) return;  // every finger of the pool is down: the press is lost

@@ -10,7 +10,10 @@ namespace taviinputmanager {
 // share a finger, and the first release lifts it.
 class TapEventSimulator : public EventSimulator {
  public:
-  static TapEventSimulator* GetInstance();
+  static TapEventSimulator* GetInstance() {
+    static TapEventSimulator instance;
+    return &instance;
+  }
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
