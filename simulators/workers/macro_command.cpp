@@ -44,7 +44,9 @@ std::optional<MacroCommand> ParseMacroCommand(const QString& text) {
   const int colon = text.indexOf(kColon);
   if (colon < 0) return std::nullopt;                             // no argument
   if (text.indexOf(kColon, colon + 1) >= 0) return std::nullopt;  // two
-  return MacroCommand{row->verb, text.mid(colon + 1)};
+  MacroCommand command{row->verb, text.mid(colon + 1)};
+  if (row->argument == MacroArgument::kPoints) command.points = MacroPoints(command.argument);
+  return command;
 }
 
 }  // namespace taviinputmanager

@@ -7,15 +7,20 @@
 #include <QString>
 
 #include "keymap/macro_words.h"
+#include "simulators/workers/macro_points.h"
 
 namespace taviinputmanager {
 
 struct MacroCommand {
-  tavikeymapmanager::MacroVerb verb;
-  QString argument;  // the text behind the ":"; empty for a command that takes none
+  MacroCommand(tavikeymapmanager::MacroVerb its_verb, const QString& its_argument)
+      : verb(its_verb), argument(its_argument), integer(its_argument.toInt()) {}
 
-  // Base 10; what cannot be read is 0.
-  int Integer() const { return argument.toInt(); }
+  tavikeymapmanager::MacroVerb verb;
+  QString argument;    // the text behind the ":"; empty for a command that takes none
+  int integer;         // the argument, base 10; what cannot be read is 0
+  MacroPoints points;  // the argument of a command that takes points
+
+  int Integer() const { return integer; }
   double Number() const { return argument.toDouble(); }
 };
 

@@ -23,7 +23,7 @@ bool MacroCurve::Start(const QString& list) {
   return true;
 }
 
-QString MacroCurve::BuildNextPress() {
+LineBuffer MacroCurve::BuildNextPress() {
   const QPointF point = ReadMacroPoint(points_.at(index_++));
   if (point.isNull()) return {};  // no point: the finger rests
   const auto touch = MacroPointToTouch(point);
@@ -31,7 +31,7 @@ QString MacroCurve::BuildNextPress() {
   return guest_command::SlotMultiPress({{slot_, touch->x(), touch->y()}});
 }
 
-QString MacroCurve::BuildRelease() {
+LineBuffer MacroCurve::BuildRelease() {
   if (slot_ == SlotManager::kNoSlot) return {};  // the settings of the next curve stay
   const int slot = slot_;
   MacroSlotManager::GetInstance()->Free(slot);

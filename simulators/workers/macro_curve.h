@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/line_buffer.h"
+
 namespace taviinputmanager {
 
 // Builds commands and sends nothing; an empty command means that there is nothing to send. The finger is an entry of
@@ -27,9 +29,9 @@ class MacroCurve {
   // Takes a finger for a list of points. False, and nothing changes, with a curve in progress or no finger left.
   bool Start(const QString& list);
   // Puts the finger down on the next point, or moves it there. Empty where that is no point.
-  QString BuildNextPress();
+  LineBuffer BuildNextPress();
   // Lifts the finger and forgets the curve. Empty without a curve.
-  QString BuildRelease();
+  LineBuffer BuildRelease();
   // Forgets the curve and its settings; the finger stays down.
   void Clear() { *this = MacroCurve(); }
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "core/guest_command.h"
-#include "simulators/workers/macro_points.h"
 #include "slots/macro_slot_manager.h"
 
 namespace taviinputmanager {
@@ -12,44 +11,48 @@ namespace taviinputmanager {
 using guest_command::Contacts;
 using guest_command::Slots;
 
-QString MacroFingers::Press(const QString& list) {
+LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   // Once is enough: at the end a point is lifted once, however often it was pressed, and a loop may press for hours.
-  if (!pressed_points_.contains(list)) pressed_points_.append(list);
+  if (!pressed_points_.contains(list.text)) pressed_points_.append(list.text);
   Contacts contacts;
-  for (const QString& element : SplitMacroPoints(list)) {
-    const QPointF point = ReadMacroPoint(element);
+  for (const MacroPoint& element : list.elements) {
+    const QPointF point = element.Now();
     if (point.isNull()) continue;  // no point
     const auto touch = MacroPointToTouch(point);
     if (!touch) continue;  // no display
     const int slot = pool->Allocate(point);
     if (slot == SlotManager::kNoSlot) continue;  // all fingers of macros are down
     contacts.append({slot, touch->x(), touch->y()});
-    if (IsMouseWord(element)) mouse_point_ = point;
+    if (element.is_mouse) mouse_point_ = point;
   }
-  return contacts.isEmpty() ? QString() : guest_command::SlotMultiPress(contacts);
+  return contacts.isEmpty() ? LineBuffer() : guest_command::SlotMultiPress(contacts);
 }
 
-QString MacroFingers::Release(const QString& list) { return ReleaseElements(SplitMacroPoints(list)); }
+LineBuffer MacroFingers::Release(const MacroPoints& list) { return ReleaseElements(list.elements); }
 
-QString MacroFingers::ReleasePressed() { return ReleaseElements(std::exchange(pressed_points_, {})); }
+LineBuffer MacroFingers::ReleasePressed() {
+  QVector<MacroPoint> pressed;
+  for (const QString& list : std::exchange(pressed_points_, {})) pressed.append(ParseMacroPoint(list));
+  return ReleaseElements(pressed);
+}
 
-QString MacroFingers::ReleaseElements(const QStringList& elements) {
+LineBuffer MacroFingers::ReleaseElements(const QVector<MacroPoint>& elements) {
   Slots released;
-  for (const QString& element : elements) {
+  for (const MacroPoint& element : elements) {
     const QPointF point = TakeReleasePoint(element);
     if (point.isNull()) continue;  // no point, or nothing was pressed at the pointer
     const int slot = MacroSlotManager::GetInstance()->FreeAt(point);
     if (slot != SlotManager::kNoSlot) released.append(slot);
   }
-  return released.isEmpty() ? QString() : guest_command::SlotMultiRelease(released);
+  return released.isEmpty() ? LineBuffer() : guest_command::SlotMultiRelease(released);
 }
 
-QPointF MacroFingers::TakeReleasePoint(const QString& element) {
-  return IsMouseWord(element) ? std::exchange(mouse_point_, QPointF()) : ReadMacroPoint(element);
+QPointF MacroFingers::TakeReleasePoint(const MacroPoint& element) {
+  return element.is_mouse ? std::exchange(mouse_point_, QPointF()) : element.place;
 }
 
-QString MacroFingers::ReleaseAll() {
+LineBuffer MacroFingers::ReleaseAll() {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   Slots released;
   for (const int slot : pool->ActiveSlots()) released.append(slot);
@@ -59,14 +62,14 @@ QString MacroFingers::ReleaseAll() {
   return guest_command::SlotMultiRelease(released);
 }
 
-MacroFingers::Halves MacroFingers::Split(const QString& list) const {
+MacroFingers::Halves MacroFingers::Split(const MacroPoints& list) const {
   Halves halves;
-  for (const QString& element : SplitMacroPoints(list)) {
-    const bool is_held_mouse = IsMouseWord(element) && !mouse_point_.isNull();
-    const QPointF point = is_held_mouse ? mouse_point_ : ReadMacroPoint(element);
+  for (const MacroPoint& element : list.elements) {
+    const bool is_held_mouse = element.is_mouse && !mouse_point_.isNull();
+    const QPointF point = is_held_mouse ? mouse_point_ : element.Now();
     if (point.isNull()) continue;  // no point
     const bool is_down = MacroSlotManager::GetInstance()->Contains(point);
-    (is_down ? halves.release : halves.press) += element + QLatin1Char(kMacroPointSeparator);
+    (is_down ? halves.release : halves.press) += element.element + QLatin1Char(kMacroPointSeparator);
   }
   return halves;
 }

@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/line_buffer.h"
+#include "simulators/workers/macro_points.h"
+
 namespace taviinputmanager {
 
 // Builds commands and sends nothing; an empty command means that there is nothing to send. The fingers are entries of
@@ -14,26 +17,29 @@ namespace taviinputmanager {
 class MacroFingers {
  public:
   // One line with a contact for each point of the list that gets a slot.
-  QString Press(const QString& list);
+  LineBuffer Press(const MacroPoints& list);
+  LineBuffer Press(const QString& list) { return Press(MacroPoints(list)); }
   // One line with a slot for each point of the list that holds one. "mouse" is the point of the last press there,
   // wherever the pointer is by now.
-  QString Release(const QString& list);
+  LineBuffer Release(const MacroPoints& list);
+  LineBuffer Release(const QString& list) { return Release(MacroPoints(list)); }
   // Whatever the macros hold, curves and virtual pointers included.
-  static QString ReleaseAll();
+  static LineBuffer ReleaseAll();
 
   // A list in two: the points to press, and those to release since they are down.
   struct Halves {
     QString press;
     QString release;
   };
-  Halves Split(const QString& list) const;
+  Halves Split(const MacroPoints& list) const;
+  Halves Split(const QString& list) const { return Split(MacroPoints(list)); }
 
   // What the end of a macro lifts: presses of a single point that are still down. A list of several points stays.
-  QString ReleasePressed();
+  LineBuffer ReleasePressed();
 
  private:
-  QPointF TakeReleasePoint(const QString& element);
-  QString ReleaseElements(const QStringList& elements);
+  QPointF TakeReleasePoint(const MacroPoint& element);
+  LineBuffer ReleaseElements(const QVector<MacroPoint>& elements);
 
   QPointF mouse_point_;         // of the last press at "mouse"; null when none is held
   QStringList pressed_points_;  // each list that was pressed, as a whole and once

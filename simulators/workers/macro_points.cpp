@@ -10,9 +10,14 @@
 namespace taviinputmanager {
 namespace {
 
+// "inf", "nan", and a display of no size: a slot that holds such a point could not be found again.
+QPointF FiniteOrNull(const QPointF& point) {
+  return std::isfinite(point.x()) && std::isfinite(point.y()) ? point : QPointF();
+}
+
 QPointF ReadPair(const QString& element) {
   if (!element.startsWith(QLatin1Char('(')) || !element.endsWith(QLatin1Char(')'))) return {};
-  const QStringList parts = element.mid(1, element.size() - 2).split(QLatin1Char(','));
+  const QVector<QStringRef> parts = element.midRef(1, element.size() - 2).split(QLatin1Char(','));
   if (parts.size() != 2) return {};
   return {parts[0].toDouble(), parts[1].toDouble()};
 }
@@ -29,12 +34,20 @@ QStringList SplitMacroPoints(const QString& list) { return list.split(QLatin1Cha
 
 bool IsMouseWord(const QString& element) { return element == QLatin1String("mouse"); }
 
-QPointF ReadMacroPoint(const QString& element) {
-  const QPointF point = IsMouseWord(element) ? ReadPointer() : ReadPair(element);
-  // "inf", "nan", and a display of no size: a slot that holds such a point could not be found again.
-  if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return {};
-  return point;
+MacroPoint ParseMacroPoint(const QString& element) {
+  if (IsMouseWord(element)) return {element, QPointF(), true};
+  return {element, FiniteOrNull(ReadPair(element)), false};
 }
+
+QPointF MacroPoint::Now() const { return is_mouse ? FiniteOrNull(ReadPointer()) : place; }
+
+MacroPoints::MacroPoints(const QString& list) : text(list) {
+  const QStringList parts = SplitMacroPoints(list);
+  elements.reserve(parts.size());
+  for (const QString& element : parts) elements.append(ParseMacroPoint(element));
+}
+
+QPointF ReadMacroPoint(const QString& element) { return ParseMacroPoint(element).Now(); }
 
 std::optional<QPoint> MacroPointToTouch(const QPointF& point) {
   int x = kNoPosition;

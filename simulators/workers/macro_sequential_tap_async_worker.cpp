@@ -1,12 +1,10 @@
 #include "simulators/workers/macro_sequential_tap_async_worker.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QTimer>
 
 #include "core/input_manager.h"
-#include "core/numbers.h"
 #include "keymap/keywords.h"
 #include "keymap/macro_config_item.h"
 #include "keymap/operation_recorder_config_item.h"
@@ -37,30 +35,11 @@ class CallScope {
   int* depth_;
 };
 
-bool IsLoopUntilRelease(const QString& text) {
-  const auto command = ParseMacroCommand(text);
-  return command && command->verb == MacroVerb::kStartLoop && command->argument == QLatin1String("until_release");
-}
-
-bool HasLoopUntilRelease(const QStringList& commands) {
-  return std::any_of(commands.begin(), commands.end(), IsLoopUntilRelease);
-}
-
-// Of the pauses that name their time, in ms.
-int TotalSleep(const QStringList& commands) {
-  int total = 0;
-  for (const QString& text : commands) {
-    const auto command = ParseMacroCommand(text);
-    if (command && command->verb == MacroVerb::kSleep) total = AddWrapped(total, command->Integer());
-  }
-  return total;
-}
-
-void TellOperationStarted(const MacroConfigItem& item) {
+void TellOperationStarted(const MacroConfigItem& item, const MacroProgram& program) {
   if (!dynamic_cast<const OperationRecorderConfigItem*>(&item)) return;
   const InputManagerCallbacks* callbacks = InputManager::GetInstance()->GetCallbacks();
   if (!callbacks || !callbacks->OnOperationRecorderStarted) return;
-  callbacks->OnOperationRecorderStarted(MacroKeyText(item.key), TotalSleep(item.press_commands));
+  callbacks->OnOperationRecorderStarted(MacroKeyText(item.key), program.TotalSleep());
 }
 
 void RequestScreenshot(const QString& text) {
@@ -80,17 +59,24 @@ void SwitchMouseLock(const QString& key_name) {
 
 MacroSequentialTapAsyncWorker::MacroSequentialTapAsyncWorker() = default;
 
+const MacroSequentialTapAsyncWorker::Program& MacroSequentialTapAsyncWorker::Read(Program* program,
+                                                                                  const QStringList& commands) {
+  if (!*program || !(*program)->IsOf(commands)) *program = std::make_shared<const MacroProgram>(commands);
+  return *program;
+}
+
 // ---- From outside ----
 
 void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*key*/) {
   const CallScope scope(&depth_);
   key_name_ = item->key.text;
   state_ = State::kPress;
-  const QStringList commands = item->press_commands;
-  if (HasLoopUntilRelease(commands) || HasLoopUntilRelease(item->release_commands)) has_until_release_ = true;
-  TellOperationStarted(*item);
+  const Program program = Read(&press_program_, item->press_commands);
+  const Program release = Read(&release_program_, item->release_commands);
+  if (program->HasLoopUntilRelease() || release->HasLoopUntilRelease()) has_until_release_ = true;
+  TellOperationStarted(*item, *program);
   StopList();
-  RunList(commands);
+  RunList(program);
 }
 
 void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
@@ -102,8 +88,8 @@ void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*
   if (!item->release_commands.isEmpty()) {
     curve_.Clear();  // its finger stays down
     StopList();
-    RunList(item->release_commands);
-  } else if (commands_.isEmpty()) {
+    RunList(Read(&release_program_, item->release_commands));
+  } else if (!program_) {
     state_ = State::kFinished;
   }
 }
@@ -122,7 +108,7 @@ void MacroSequentialTapAsyncWorker::OnTimer() {
     }
   }
   if (curve_.IsPlayedOut()) SendEvent(curve_.BuildRelease());
-  if (!click_points_.isEmpty()) SendEvent(fingers_.Release(std::exchange(click_points_, QString())));
+  if (!click_points_.IsEmpty()) SendEvent(fingers_.Release(std::exchange(click_points_, MacroPoints())));
   Timer()->stop();
   Step();
 }
@@ -143,55 +129,55 @@ void MacroSequentialTapAsyncWorker::Discard() {
 
 void MacroSequentialTapAsyncWorker::StopList() {
   Timer()->stop();
-  commands_.clear();
+  program_.reset();
   command_index_ = 0;
 }
 
-void MacroSequentialTapAsyncWorker::RunList(const QStringList& list) {
-  if (list.isEmpty()) {
+void MacroSequentialTapAsyncWorker::RunList(const Program& program) {
+  if (program->Size() == 0) {
     state_ = State::kFinished;
     return;
   }
-  commands_ = list;
+  program_ = program;
   command_index_ = 0;
   default_sleep_ = kDefaultSleepMs;
   Step();
 }
 
 void MacroSequentialTapAsyncWorker::Step() {
+  Program running;  // kept while one of its commands is under way: that may replace the list
   while (!is_discarded_) {
-    if (command_index_ >= commands_.size()) {
+    if (!program_ || command_index_ >= program_->Size()) {
       StopList();
       state_ = State::kFinished;
       return;
     }
-    const QString text = commands_.at(command_index_++);  // a command may replace the list
-    if (!Obey(text)) return;
+    if (running != program_) running = program_;
+    const MacroProgram::Line& line = running->At(command_index_++);
+    if (line.command && !Obey(*line.command, line.text)) return;
   }
 }
 
-bool MacroSequentialTapAsyncWorker::Obey(const QString& text) {
-  const auto command = ParseMacroCommand(text);
-  if (!command) return true;  // skipped
-  const QString& argument = command->argument;
-  switch (command->verb) {
+bool MacroSequentialTapAsyncWorker::Obey(const MacroCommand& command, const QString& text) {
+  const QString& argument = command.argument;
+  switch (command.verb) {
     case MacroVerb::kSleepDefault: return Pause(default_sleep_);
-    case MacroVerb::kSleep: return Pause(command->Integer());
-    case MacroVerb::kClickRel: return Click(argument);
+    case MacroVerb::kSleep: return Pause(command.Integer());
+    case MacroVerb::kClickRel: return Click(command.points);
     case MacroVerb::kCurveRel: return DrawCurve(argument);
-    case MacroVerb::kDefaultSleepTime: default_sleep_ = command->Integer(); break;
-    case MacroVerb::kPressRel: SendEvent(fingers_.Press(argument)); break;
-    case MacroVerb::kReleaseRel: SendEvent(fingers_.Release(argument)); break;
+    case MacroVerb::kDefaultSleepTime: default_sleep_ = command.Integer(); break;
+    case MacroVerb::kPressRel: SendEvent(fingers_.Press(command.points)); break;
+    case MacroVerb::kReleaseRel: SendEvent(fingers_.Release(command.points)); break;
     case MacroVerb::kReleaseAll: ReleaseAll(); break;
-    case MacroVerb::kSwitchRel: Switch(argument); break;
-    case MacroVerb::kStartLoop: StartLoop(text, command->Integer()); break;
+    case MacroVerb::kSwitchRel: Switch(command.points); break;
+    case MacroVerb::kStartLoop: StartLoop(command); break;
     case MacroVerb::kStopLoop: StopLoop(); break;
-    case MacroVerb::kCurveFirstPointSleepTime: curve_.SetFirstSleep(command->Integer()); break;
+    case MacroVerb::kCurveFirstPointSleepTime: curve_.SetFirstSleep(command.Integer()); break;
     case MacroVerb::kCurveLastPointSleepTime: SetLastCurveSleep(argument); break;
     case MacroVerb::kCurveRelease: SendEvent(curve_.BuildRelease()); break;
     case MacroVerb::kMouseLockedSwitch: SwitchMouseLock(key_name_); break;
     case MacroVerb::kScreenshotRel: RequestScreenshot(text); break;
-    default: input_.Obey(*command); break;
+    default: input_.Obey(command); break;
   }
   return true;
 }
@@ -203,7 +189,7 @@ bool MacroSequentialTapAsyncWorker::Pause(int ms) {
 
 // ---- Fingers and loops ----
 
-bool MacroSequentialTapAsyncWorker::Click(const QString& list) {
+bool MacroSequentialTapAsyncWorker::Click(const MacroPoints& list) {
   SendEvent(fingers_.Press(list));
   click_points_ = list;
   return Pause(default_sleep_);
@@ -216,20 +202,20 @@ bool MacroSequentialTapAsyncWorker::DrawCurve(const QString& list) {
 }
 
 void MacroSequentialTapAsyncWorker::ReleaseAll() {
-  const QString release = MacroFingers::ReleaseAll();
+  const LineBuffer release = MacroFingers::ReleaseAll();
   if (release.isEmpty()) return;  // no finger was down; the settings of the next curve stay too
   SendEvent(release);
   curve_.Clear();
 }
 
-void MacroSequentialTapAsyncWorker::Switch(const QString& list) {
+void MacroSequentialTapAsyncWorker::Switch(const MacroPoints& list) {
   const MacroFingers::Halves halves = fingers_.Split(list);
   if (!halves.press.isEmpty()) SendEvent(fingers_.Press(halves.press));
   if (!halves.release.isEmpty()) SendEvent(fingers_.Release(halves.release));
 }
 
-void MacroSequentialTapAsyncWorker::StartLoop(const QString& text, int count) {
-  loop_.Start(IsLoopUntilRelease(text) ? MacroLoop::kUntilRelease : count, command_index_);
+void MacroSequentialTapAsyncWorker::StartLoop(const MacroCommand& command) {
+  loop_.Start(IsLoopUntilRelease(command) ? MacroLoop::kUntilRelease : command.Integer(), command_index_);
 }
 
 void MacroSequentialTapAsyncWorker::StopLoop() {

@@ -2,6 +2,8 @@
 #ifndef SIMULATORS_WORKERS_MACRO_SEQUENTIAL_TAP_ASYNC_WORKER_H_
 #define SIMULATORS_WORKERS_MACRO_SEQUENTIAL_TAP_ASYNC_WORKER_H_
 
+#include <memory>
+
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +12,7 @@
 #include "simulators/workers/macro_fingers.h"
 #include "simulators/workers/macro_input.h"
 #include "simulators/workers/macro_loop.h"
+#include "simulators/workers/macro_program.h"
 
 namespace taviinputmanager {
 
@@ -26,7 +29,7 @@ namespace taviinputmanager {
 // A command may inject input which comes back here before it returns: the release of this macro's own key, or a reset
 // that discards this worker. All calls share one place in the list, so an inner run that pauses is carried on by the
 // outer one at once. Beyond a few calls inside each other a release is dropped. Lists are copied (they share their
-// text); no item is kept beyond a call.
+// text), and read once for all the times that they run; no item is kept beyond a call.
 //
 // Main thread. The simulator owns it.
 class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
@@ -51,33 +54,38 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   static constexpr int kDefaultSleepMs = 8;  // at the start of each list
 
   enum class State { kPress = 1, kFinished = 4, kRelease = 5, kIdle = 6 };
+  using Program = std::shared_ptr<const MacroProgram>;
 
   void StopList();
-  void RunList(const QStringList& list);
+  // `commands`, read into `program` unless that is where they were read before.
+  static const Program& Read(Program* program, const QStringList& commands);
+  void RunList(const Program& program);
   // Runs commands until one pauses or the list ends.
   void Step();
   // False when execution pauses.
-  bool Obey(const QString& text);
-  bool Click(const QString& list);
+  bool Obey(const MacroCommand& command, const QString& text);
+  bool Click(const MacroPoints& list);
   bool DrawCurve(const QString& list);
   // Execution goes on after `ms`; with a negative time, never.
   bool Pause(int ms);
   void ReleaseAll();
-  void Switch(const QString& list);
-  void StartLoop(const QString& text, int count);
+  void Switch(const MacroPoints& list);
+  void StartLoop(const MacroCommand& command);
   void StopLoop();
   void SetLastCurveSleep(const QString& argument);
 
   State state_ = State::kIdle;
   QString key_name_;       // the text of the key of the item last pressed or released
-  QStringList commands_;   // the list in progress
+  Program press_program_;  // of the last press
+  Program release_program_;
+  Program program_;        // the one in progress, or none
   int command_index_ = 0;  // of the next command
   int default_sleep_ = kDefaultSleepMs;
   MacroLoop loop_;
   MacroCurve curve_;
   MacroFingers fingers_;
   MacroInput input_;
-  QString click_points_;  // of the click under way
+  MacroPoints click_points_;  // of the click under way
   bool has_until_release_ = false;
   bool is_discarded_ = false;
   int depth_ = 0;  // of calls that are under way inside each other
