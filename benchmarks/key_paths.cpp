@@ -42,6 +42,12 @@ void LoadItems() {
   Load(MakeKeymap(kSize));
 }
 
+// A release of what was never pressed sends nothing; what was pressed once may be released for ever.
+void LoadAndPress() {
+  LoadItems<30>();
+  Press();
+}
+
 void PassThrough() {
   SendKey<QEvent::KeyPress, kUnmappedScanCode>();
   SendKey<QEvent::KeyRelease, kUnmappedScanCode>();
@@ -77,7 +83,7 @@ std::vector<Path> KeyPaths() {
   constexpr auto kNone = nullptr;
   return {
       {"press_30", 1, 1, LoadItems<30>, Press, kNone, kNone, FloorPress, kNone, 0},
-      {"release_30", 1, 1, LoadItems<30>, Release, kNone, kNone, FloorRelease, kNone, 0},
+      {"release_30", 1, 1, LoadAndPress, Release, kNone, kNone, FloorRelease, kNone, 0},
       {"tap_30", 2, 2, LoadItems<30>, Tap, kNone, kNone, FloorTap, kNone, 0},
       {"tap_1000", 2, 2, LoadItems<1000>, Tap, kNone, kNone, FloorTap, kNone, 0},
       {"pass_through_30", 2, 2, LoadPassingItems<30>, PassThrough, kNone, kNone, FloorPassThrough, kNone, 0},

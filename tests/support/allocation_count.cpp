@@ -2,7 +2,14 @@
 
 #include <cstddef>
 
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#if defined(__has_feature)
+#define TAVI_HAS_FEATURE(feature) __has_feature(feature)
+#else
+#define TAVI_HAS_FEATURE(feature) 0
+#endif
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) && \
+    !TAVI_HAS_FEATURE(address_sanitizer) && !TAVI_HAS_FEATURE(thread_sanitizer)
 
 namespace {
 
