@@ -37,6 +37,14 @@ void FloorTap() {
   FloorRelease();
 }
 
+// What is recorded has its time.
+void FloorRecordedTap() {
+  FloorPress();
+  ReadClock();
+  FloorRelease();
+  ReadClock();
+}
+
 template <int kSize>
 void LoadItems() {
   Load(MakeKeymap(kSize));
@@ -88,7 +96,7 @@ std::vector<Path> KeyPaths() {
       {"tap_1000", 2, 2, LoadItems<1000>, Tap, kNone, kNone, FloorTap, kNone, 0},
       {"pass_through_30", 2, 2, LoadPassingItems<30>, PassThrough, kNone, kNone, FloorPassThrough, kNone, 0},
       {"pass_through_1000", 2, 2, LoadPassingItems<1000>, PassThrough, kNone, kNone, FloorPassThrough, kNone, 0},
-      {"recorded_tap", 2, 2, StartRecording, Tap, StopRecording, kNone, FloorTap, kNone, kRecordedRounds},
+      {"recorded_tap", 2, 2, StartRecording, Tap, StopRecording, kNone, FloorRecordedTap, kNone, kRecordedRounds},
   };
 }
 

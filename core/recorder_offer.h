@@ -1,5 +1,4 @@
-// What the sender offers to the recorder. Declared here, where lines are sent; the offers are defined where they are
-// recorded, the question where everyone is seen.
+// What the sender offers to the recorder. Declared here, where lines are sent; defined where they are recorded.
 #ifndef CORE_RECORDER_OFFER_H_
 #define CORE_RECORDER_OFFER_H_
 
@@ -8,8 +7,8 @@ class QString;
 namespace taviinputmanager {
 
 // A line that went to a primary display, and a text line. Both with their newline, which the recorder does not keep.
-void OfferEventLine(const QString& line);
-void OfferTextLine(const QString& line);
+void OfferEventLine(QString line);
+void OfferTextLine(QString line);
 // Whether an offer would be taken up at present: no line has to become a text for one that is not.
 bool IsLineRecorded();
 

@@ -22,6 +22,7 @@ namespace taviinputmanager {
 
 using tavikeymapmanager::ConfigItem;
 using tavikeymapmanager::ConfigKey;
+using tavikeymapmanager::ItemIndex;
 using tavikeymapmanager::KeymapConfig;
 
 namespace {
@@ -61,7 +62,6 @@ void QtKeyboardMouseEventSimulateHandler::Initialize(InputManagerCallbacks* call
 void QtKeyboardMouseEventSimulateHandler::SetConfig(KeymapConfig* config) {
   config_ = config;
   index_.Clear();
-  if (config_) index_.Follow(config_->items);
   UpdateEscapeState();
 }
 
@@ -77,8 +77,13 @@ void QtKeyboardMouseEventSimulateHandler::ResetKeyState() {
   mouse_buttons_[0] = 0;
 }
 
+const ItemIndex& QtKeyboardMouseEventSimulateHandler::Index() const {
+  if (config_) index_.Follow(config_->items);
+  return index_;
+}
+
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindConfigItem(const ConfigKey& key) const {
-  ConfigItem* item = index_.FindAlone(key);
+  ConfigItem* item = Index().FindAlone(key);
   if (item && callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(true);
   return item;
 }
@@ -87,7 +92,7 @@ EventSimulator* QtKeyboardMouseEventSimulateHandler::GetSimulator(const ConfigIt
 
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindPressedItem(const ConfigKey& key) {
   if (IsKeySet(current_key_)) {
-    if (ConfigItem* chord = index_.FindChord(current_key_, key)) {
+    if (ConfigItem* chord = Index().FindChord(current_key_, key)) {
       chord_items_[key.scancode] = chord;  // its release reaches the same item, whatever is armed by then
       return chord;
     }

@@ -67,6 +67,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // Through the first of the two bases, which is as good as the other.
   void SendEvent(const LineBuffer& command) { static_cast<QtKeyboardEventHandler*>(this)->SendEvent(command); }
 
+  // Of the items as they are now.
+  const tavikeymapmanager::ItemIndex& Index() const;
   tavikeymapmanager::ConfigItem* FindPressedItem(const tavikeymapmanager::ConfigKey& key);
   tavikeymapmanager::ConfigItem* FindReleasedItem(const tavikeymapmanager::ConfigKey& key);
   bool IsEscapeToGuest() const;
@@ -91,7 +93,7 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool IsButtonHeld(qint64 id, Qt::MouseButton button) const;
 
   tavikeymapmanager::KeymapConfig* config_ = nullptr;                // the input manager's
-  tavikeymapmanager::ItemIndex index_;                               // of its items
+  mutable tavikeymapmanager::ItemIndex index_;                       // of its items, made as they are searched
   MouseSlotManager* default_mouse_slot_;                             // the singleton
   std::map<qint64, std::unique_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
   InputManagerCallbacks* callbacks_ = nullptr;                       // the host's

@@ -100,7 +100,7 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
   MouseSlotManager* finger = FingerOf(event);
   if (!finger) return;  // the pool is empty
   finger->Reset();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
   if (AsVirtual(event)) GiveBackMouseSlot(PointerOf(event));
 }
 
@@ -108,7 +108,7 @@ void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
   MouseSlotManager* finger = FingerOf(event);
   if (!finger) return;  // the pool is empty: the press is given up
   finger->position = event->pos();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
 }
 
 MouseSlotManager* QtKeyboardMouseEventSimulateHandler::FingerOf(const QMouseEvent* event) {

@@ -1,5 +1,7 @@
 #include "record/action_track.h"
 
+#include <utility>
+
 #include "core/clock.h"
 #include "core/numbers.h"
 
@@ -14,9 +16,9 @@ void ActionTrack::Start() {
   Clear();
 }
 
-void ActionTrack::Add(const RecordAction& action) {
+void ActionTrack::Add(RecordAction action) {
   const qint64 now = Clock::NowMs();
-  auto* added = new RecordAction(action);
+  auto* added = new RecordAction(std::move(action));
   added->timing = LowDistance(last_time_, now);
   last_time_ = now;
   actions_.append(added);

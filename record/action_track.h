@@ -19,7 +19,7 @@ class ActionTrack {
   // Empty again, and the gap before the first action begins now.
   void Start();
   // `action` as it is, but for its timing.
-  void Add(const RecordAction& action);
+  void Add(RecordAction action);
   void Clear();
   // Goes on as if the time since `pause_time`, milliseconds since the epoch, had not passed.
   void SkipSince(qint64 pause_time);

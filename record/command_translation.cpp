@@ -1,13 +1,16 @@
 #include "record/command_translation.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include <QPointF>
 #include <QString>
-#include <QVector>
+#include <QVarLengthArray>
 
 #include "core/display_geometry.h"
 #include "core/guest_words.h"
+#include "core/line_buffer.h"
 #include "record/point_text.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -18,9 +21,20 @@ using namespace record_format;
 
 namespace {
 
-using Parts = QVector<QStringRef>;  // of a line, between its colons; the word is part 0
+using Parts = QVarLengthArray<QStringRef, 16>;  // of a line, between its colons; the word is part 0
 
 constexpr QLatin1Char kColon(':');
+
+Parts PartsOf(const QString& command) {
+  Parts parts;
+  int start = 0;
+  for (int colon = command.indexOf(kColon); colon >= 0; colon = command.indexOf(kColon, start)) {
+    parts.append(command.midRef(start, colon - start));
+    start = colon + 1;
+  }
+  parts.append(command.midRef(start));
+  return parts;
+}
 
 QString Joined(QLatin1String word, const QString& argument) {
   QString data;
@@ -29,39 +43,48 @@ QString Joined(QLatin1String word, const QString& argument) {
 }
 
 // Appends a colon and the point of two coordinates. False on a display without size, where there are no fractions.
-bool AppendPoint(const QStringRef& x, const QStringRef& y, QString* data) {
+bool AppendPoint(const QStringRef& x, const QStringRef& y, LineBuffer* data) {
   const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x.toInt(), y.toInt()));
   if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return false;
-  data->append(kColon).append(WritePoint(point));
+  WritePoint(point, &data->Byte(':'));
+  return true;
+}
+
+// A word and a point.
+bool TakePoint(QLatin1String word, const QStringRef& x, const QStringRef& y, RecordAction* action) {
+  LineBuffer data;
+  if (!AppendPoint(x, y, &data.Text(word))) return false;
+  action->data = data.ToString();
   return true;
 }
 
 bool TouchPress(const QString& command, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() != 7) return false;
-  action->data = kPressRel;
-  action->extra1 = QString::number(parts.at(1).toInt());
-  return AppendPoint(parts.at(5), parts.at(6), &action->data);
+  action->extra1 = QString::number(parts[1].toInt());
+  return TakePoint(kPressRel, parts[5], parts[6], action);
 }
 
 bool TouchRelease(const QString& command, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() != 2) return false;
   action->data = kRelease;
-  action->extra1 = QString::number(parts.at(1).toInt());
+  action->extra1 = QString::number(parts[1].toInt());
   return true;
 }
 
 // Groups of four: slot, tracking id, x, y.
 bool TouchMultiPress(const QString& command, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() < 5 || (parts.size() - 1) % 4 != 0) return false;
-  action->data = kPressMultiRel;
+  LineBuffer data;
+  data.Text(kPressMultiRel);
   for (int i = 1; i < parts.size(); i += 4) {
     if (i > 1) action->extra1.append(kColon);
-    action->extra1.append(QString::number(parts.at(i).toInt()));
-    if (!AppendPoint(parts.at(i + 2), parts.at(i + 3), &action->data)) return false;
+    action->extra1.append(QString::number(parts[i].toInt()));
+    if (!AppendPoint(parts[i + 2], parts[i + 3], &data)) return false;
   }
+  action->data = data.ToString();
   return true;
 }
 
@@ -79,26 +102,24 @@ bool TouchReset(const QString& /*command*/, RecordAction* action) {
 }
 
 bool Key(const QString& command, QLatin1String word, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() != 3) return false;
-  action->data = Joined(word, parts.at(1).toString());
+  action->data = Joined(word, parts[1].toString());
   return true;
 }
 bool KeyPress(const QString& command, RecordAction* action) { return Key(command, kKeyboardPress, action); }
 bool KeyRelease(const QString& command, RecordAction* action) { return Key(command, kKeyboardRelease, action); }
 
 bool MouseWheel(const QString& command, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() != 5) return false;
-  action->data = kWheel;
-  return AppendPoint(parts.at(3), parts.at(4), &action->data);
+  return TakePoint(kWheel, parts[3], parts[4], action);
 }
 
 bool MouseMove(const QString& command, RecordAction* action) {
-  const Parts parts = command.splitRef(kColon);
+  const Parts parts = PartsOf(command);
   if (parts.size() != 3) return false;
-  action->data = kMove;
-  return AppendPoint(parts.at(1), parts.at(2), &action->data);
+  return TakePoint(kMove, parts[1], parts[2], action);
 }
 
 bool Gamepad(const QString& command, RecordAction* action) {
@@ -113,10 +134,16 @@ enum class Match {
   kLine        // the line is the word
 };
 
+// Texts that all actions share.
+const QString& TextOf(QLatin1String type) {
+  static const QString texts[] = {kTypeTouch, kTypeKeyboard, kTypeMouse, kTypeJoystick, kTypeInputMethod};
+  return *std::find(std::begin(texts), std::end(texts), type);
+}
+
 struct Rule {
   QLatin1String word;
   Match match;
-  QLatin1String type;
+  QLatin1String type;  // one of TextOf's
   bool (*translate)(const QString& command, RecordAction* action);
 };
 
@@ -153,7 +180,7 @@ constexpr Rule kRules[] = {
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
   const int end = line_word.size();
   if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;
-  action->type = kTypeInputMethod;
+  action->type = TextOf(kTypeInputMethod);
   action->data = Joined(word, command.mid(end + 1));
   return true;
 }
@@ -163,7 +190,7 @@ bool TranslateText(const QString& command, QLatin1String line_word, QLatin1Strin
 bool TranslateEventCommand(const QString& command, RecordAction* action) {
   for (const Rule& rule : kRules) {
     if (!Fits(command, rule)) continue;
-    action->type = rule.type;
+    action->type = TextOf(rule.type);
     return rule.translate(command, action);
   }
   return false;

@@ -10,7 +10,12 @@ namespace taviinputmanager {
 
 QString WritePoint(const QPointF& point) {
   LineBuffer text;
-  return text.Byte('(').Number(point.x()).Byte(',').Number(point.y()).Byte(')').ToString();
+  WritePoint(point, &text);
+  return text.ToString();
+}
+
+void WritePoint(const QPointF& point, LineBuffer* text) {
+  text->Byte('(').Number(point.x()).Byte(',').Number(point.y()).Byte(')');
 }
 
 QPointF ReadPoint(const QString& text) {

@@ -1,5 +1,7 @@
 #include "record/record_manager.h"
 
+#include <utility>
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -59,21 +61,21 @@ void RecordManager::AddDetectAppAction(const QString& package, const QString& ap
   AddVControlCommand(QString::fromUtf8(marker.toJson(QJsonDocument::Compact)), {}, {});
 }
 
-void RecordManager::AddAction(const RecordAction& action) {
+void RecordManager::AddAction(RecordAction action) {
   if (status_ != RecordStatus::Recording || action.data.isEmpty()) return;
-  actions_.Add(action);
+  actions_.Add(std::move(action));
 }
 
 void RecordManager::OnEventCommand(const QString& command) {
   if (macro_recording_ || command.isEmpty()) return;
   RecordAction action;
-  if (TranslateEventCommand(command, &action)) AddAction(action);
+  if (TranslateEventCommand(command, &action)) AddAction(std::move(action));
 }
 
 void RecordManager::OnTextCommand(const QString& command) {
   if (command.isEmpty()) return;
   RecordAction action;
-  if (TranslateTextCommand(command, &action)) AddAction(action);
+  if (TranslateTextCommand(command, &action)) AddAction(std::move(action));
 }
 
 void RecordManager::StartRecordMacroInstruction(const QString& name) {
@@ -89,21 +91,20 @@ void RecordManager::StopRecordMacroInstruction(const QString& name) {
   RecordMacroInstructionStore::GetInstance()->StoreInstruction(name, macro_actions_.Actions());
 }
 
-namespace {
+// A line is recorded without its end.
 
-// Most lines are sent while nothing is recorded: those are not even copied.
-bool IsRecording() { return RecordManager::GetInstance()->GetStatus() == RecordStatus::Recording; }
-
-QString WithoutEnd(const QString& line) { return line.left(line.size() - 1); }
-
-}  // namespace
-
-void OfferEventLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnEventCommand(WithoutEnd(line));
+void OfferEventLine(QString line) {
+  if (!IsLineRecorded()) return;
+  line.chop(1);
+  RecordManager::GetInstance()->OnEventCommand(line);
 }
 
-void OfferTextLine(const QString& line) {
-  if (IsRecording()) RecordManager::GetInstance()->OnTextCommand(WithoutEnd(line));
+void OfferTextLine(QString line) {
+  if (!IsLineRecorded()) return;
+  line.chop(1);
+  RecordManager::GetInstance()->OnTextCommand(line);
 }
+
+bool IsLineRecorded() { return RecordManager::GetInstance()->GetStatus() == RecordStatus::Recording; }
 
 }  // namespace taviinputmanager

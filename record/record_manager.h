@@ -50,7 +50,7 @@ class RecordManager {
  private:
   RecordManager();
 
-  void AddAction(const RecordAction& action);
+  void AddAction(RecordAction action);
   void AddDetectAppAction(const QString& package, const QString& app);
 
   void CaptureEvent(QEvent* event);

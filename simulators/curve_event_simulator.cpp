@@ -96,13 +96,13 @@ bool CurveEventSimulator::HasRuns() {
 void CurveEventSimulator::OnCurvePointPressed(double rel_x, double rel_y) {
   CurveSlotManager* finger = CurveSlotManager::GetInstance();
   finger->SetOffset(rel_x, rel_y);
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
 }
 
 void CurveEventSimulator::OnCurveFinished() {
   CurveSlotManager* finger = CurveSlotManager::GetInstance();
   finger->Reset();
-  SendEvent(finger->BuildReleaseCommand());
+  SendEvent(finger->ReleaseLine());
 }
 
 }  // namespace taviinputmanager

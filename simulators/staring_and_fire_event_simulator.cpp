@@ -103,7 +103,7 @@ void StaringAndFireEventSimulator::PressObserve(const ConfigItem* item, const QS
 void StaringAndFireEventSimulator::LiftViewFinger() {
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   finger->Reset();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
 }
 
 void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {

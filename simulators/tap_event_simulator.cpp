@@ -11,13 +11,13 @@ using tavikeymapmanager::ConfigKey;
 void TapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
   if (!pool->PressAt(item->rel_x, item->rel_y)) return;  // every finger of the pool is down: the press is lost
-  SendEvent(pool->BuildUpdateCommand());
+  SendEvent(pool->UpdateLine());
 }
 
 void TapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
   if (!pool->ReleaseAt(item->rel_x, item->rel_y)) return;  // no finger was ever put down at this point
-  SendEvent(pool->BuildUpdateCommand());
+  SendEvent(pool->UpdateLine());
 }
 
 }  // namespace taviinputmanager

@@ -66,12 +66,12 @@ void WheelEventSimulator::StartRun(const WheelConfigItem& item) {
 
 void WheelEventSimulator::OnWheelPressed(int slot_id, double x, double y) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
-  if (pool->SetSlot(slot_id, x, y)) SendEvent(pool->BuildUpdateCommand());
+  if (pool->SetSlot(slot_id, x, y)) SendEvent(pool->UpdateLine());
 }
 
 void WheelEventSimulator::OnWheelFinished(int slot_id) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
-  if (pool->ReleaseSlot(slot_id)) SendEvent(pool->BuildUpdateCommand());
+  if (pool->ReleaseSlot(slot_id)) SendEvent(pool->UpdateLine());
 }
 
 }  // namespace taviinputmanager

@@ -16,7 +16,7 @@ CurveSlotManager::CurveSlotManager() : SlotManager(kSlot) {}
 
 bool CurveSlotManager::HasTouch() const { return !point_.isNull(); }
 
-LineBuffer CurveSlotManager::BuildPressCommand() { return BuildRelativePressCommandAt(point_.x(), point_.y()); }
+LineBuffer CurveSlotManager::PressLine() { return RelativePressLineAt(point_.x(), point_.y()); }
 
 void CurveSlotManager::Reset() {
   point_ = QPointF();

@@ -13,7 +13,7 @@ class CurveSlotManager : public SlotManager {
   static CurveSlotManager* GetInstance();
 
   bool HasTouch() const override;
-  LineBuffer BuildPressCommand() override;
+  LineBuffer PressLine() override;
   void Reset() override;
 
   // Both in fractions of the display. A point of (0, 0) means that the finger is up.

@@ -11,9 +11,9 @@ bool MultipointSlotManager::HasTouch() const {
   return entry && entry->in_use;
 }
 
-LineBuffer MultipointSlotManager::BuildPressCommand() {
+LineBuffer MultipointSlotManager::PressLine() {
   const Entry* entry = EntryOf(GetSlotId());
-  return entry ? BuildRelativePressCommandAt(entry->x, entry->y) : LineBuffer();
+  return entry ? RelativePressLineAt(entry->x, entry->y) : LineBuffer();
 }
 
 void MultipointSlotManager::Reset() {

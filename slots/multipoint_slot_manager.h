@@ -18,11 +18,11 @@ class MultipointSlotManager : public SlotManager {
   }
 
   bool HasTouch() const override;
-  LineBuffer BuildPressCommand() override;
+  LineBuffer PressLine() override;
   // Frees every slot. Points stay, so that a tap at an old point gets its old slot back.
   void Reset() override;
 
-  // After each of these, and only when it returns true, the caller sends BuildUpdateCommand.
+  // After each of these, and only when it returns true, the caller sends UpdateLine.
 
   // The slot that has this point, in use or not; else the first free one. False when all are in use.
   bool PressAt(double x, double y);

@@ -17,7 +17,7 @@ class PointPoolSlotManager : public SlotManager {
  public:
   // A pool has no touch of its own.
   bool HasTouch() const override { return false; }
-  LineBuffer BuildPressCommand() override { return {}; }
+  LineBuffer PressLine() override { return {}; }
   // Frees every slot.
   void Reset() override { points_.fill(QPointF()); }
 

@@ -12,7 +12,7 @@ namespace taviinputmanager {
 class PositionSlotManager : public SlotManager {
  public:
   bool HasTouch() const override { return !position.isNull(); }
-  LineBuffer BuildPressCommand() override { return BuildPressCommandAt(position.x(), position.y()); }
+  LineBuffer PressLine() override { return PressLineAt(position.x(), position.y()); }
   void Reset() override { position = QPoint(); }
 
   // Pixels. (0, 0) means that the finger is up, anything else that it is down. Written by the owning feature.

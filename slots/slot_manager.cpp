@@ -9,19 +9,19 @@ SlotManager::SlotManager(int slot_id) : slot_id_(slot_id), display_(DisplayGeome
 
 SlotManager::~SlotManager() = default;
 
-LineBuffer SlotManager::BuildUpdateCommand() {
+LineBuffer SlotManager::UpdateLine() {
   if (slot_id_ == kNoSlot) return {};
-  return HasTouch() ? BuildPressCommand() : BuildReleaseCommand();
+  return HasTouch() ? PressLine() : ReleaseLine();
 }
 
-LineBuffer SlotManager::BuildPressCommandAt(int x, int y) const {
+LineBuffer SlotManager::PressLineAt(int x, int y) const {
   if (slot_id_ == kNoSlot) return {};
   display_->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return {};
   return guest_command::SlotPress(slot_id_, x, y);
 }
 
-LineBuffer SlotManager::BuildRelativePressCommandAt(double x, double y) const {
+LineBuffer SlotManager::RelativePressLineAt(double x, double y) const {
   if (slot_id_ == kNoSlot) return {};
   int touch_x = kNoPosition;
   int touch_y = kNoPosition;
@@ -30,7 +30,7 @@ LineBuffer SlotManager::BuildRelativePressCommandAt(double x, double y) const {
   return guest_command::SlotPress(slot_id_, touch_x, touch_y);
 }
 
-LineBuffer SlotManager::BuildReleaseCommand() const {
+LineBuffer SlotManager::ReleaseLine() const {
   return slot_id_ == kNoSlot ? LineBuffer() : guest_command::SlotRelease(slot_id_);
 }
 

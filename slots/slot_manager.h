@@ -2,13 +2,15 @@
 #ifndef SLOTS_SLOT_MANAGER_H_
 #define SLOTS_SLOT_MANAGER_H_
 
+#include <QString>
+
 #include "core/line_buffer.h"
 
 namespace taviinputmanager {
 
 class DisplayGeometry;
 
-// Builds commands and sends nothing: the caller sends. An empty command means that there is nothing to send.
+// Builds lines and sends nothing: the caller sends. An empty line means that there is nothing to send.
 //
 // Main thread only. The manager is the sole record of whether its contact is down; nothing asks the guest. Each fixed
 // slot has one owner at a time; a second user of a slot moves the same contact.
@@ -24,17 +26,24 @@ class SlotManager {
   // Whether the contact should be down at present.
   virtual bool HasTouch() const = 0;
   // Press, or move, to the stored position.
-  virtual LineBuffer BuildPressCommand() = 0;
+  virtual LineBuffer PressLine() = 0;
   // Forgets the contact. The guest's finger stays as it is until a release is sent.
   virtual void Reset() = 0;
 
   // What brings the guest in line with this manager: a press or a release.
-  LineBuffer BuildUpdateCommand();
+  LineBuffer UpdateLine();
   // In window pixels.
-  LineBuffer BuildPressCommandAt(int x, int y) const;
+  LineBuffer PressLineAt(int x, int y) const;
   // In fractions of the display.
-  LineBuffer BuildRelativePressCommandAt(double x, double y) const;
-  LineBuffer BuildReleaseCommand() const;
+  LineBuffer RelativePressLineAt(double x, double y) const;
+  LineBuffer ReleaseLine() const;
+
+  // The same, for those who keep a command.
+  QString BuildPressCommand() { return PressLine(); }
+  QString BuildUpdateCommand() { return UpdateLine(); }
+  QString BuildPressCommandAt(int x, int y) const { return PressLineAt(x, y); }
+  QString BuildRelativePressCommandAt(double x, double y) const { return RelativePressLineAt(x, y); }
+  QString BuildReleaseCommand() const { return ReleaseLine(); }
 
   int GetSlotId() const { return slot_id_; }
 

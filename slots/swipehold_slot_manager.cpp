@@ -35,9 +35,9 @@ SwipeholdSlotManager* SwipeholdSlotManager::GetInstance(int index) {
   }
 }
 
-LineBuffer SwipeholdSlotManager::BuildPressCommand() {
+LineBuffer SwipeholdSlotManager::PressLine() {
   const QPoint target = GetTargetPoint();
-  return BuildPressCommandAt(target.x(), target.y());
+  return PressLineAt(target.x(), target.y());
 }
 
 void SwipeholdSlotManager::Reset() { directions_ = {}; }

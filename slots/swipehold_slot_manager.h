@@ -19,7 +19,7 @@ class SwipeholdSlotManager : public SlotManager {
   static SwipeholdSlotManager* GetInstance(int index);
 
   bool HasTouch() const override { return directions_.IsAny(); }
-  LineBuffer BuildPressCommand() override;
+  LineBuffer PressLine() override;
   // Forgets the keys. Centre, radii and the order in which keys went down stay.
   void Reset() override;
 

@@ -51,13 +51,13 @@ void EyeAsyncWorker::Start(const EyeConfigItem& item) {
   step_ = Round(item.speed * kStepAtFullSpeed / 100.0);
   finger_->home = {Truncate(display_.width() * item.rel_x), Truncate(display_.height() * item.rel_y)};
   finger_->position = finger_->home;
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 void EyeAsyncWorker::TimerOutTime() {
   finger_->Step(step_);
-  if (IsInWindow()) return SendEvent(finger_->BuildUpdateCommand());
-  SendEvent(finger_->BuildReleaseCommand());
+  if (IsInWindow()) return SendEvent(finger_->UpdateLine());
+  SendEvent(finger_->ReleaseLine());
   finger_->position = finger_->home;
 }
 
@@ -74,7 +74,7 @@ void EyeAsyncWorker::Stop() {
 
 void EyeAsyncWorker::LiftFinger() {
   finger_->Reset();
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 }  // namespace taviinputmanager

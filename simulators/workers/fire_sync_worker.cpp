@@ -136,6 +136,6 @@ void FireSyncWorker::LiftFinger() {
   SendFinger();
 }
 
-void FireSyncWorker::SendFinger() { SendEvent(FireSlotManager::GetInstance()->BuildUpdateCommand()); }
+void FireSyncWorker::SendFinger() { SendEvent(FireSlotManager::GetInstance()->UpdateLine()); }
 
 }  // namespace taviinputmanager

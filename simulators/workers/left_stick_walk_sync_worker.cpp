@@ -107,12 +107,12 @@ void LeftStickWalkSyncWorker::StopWalk() {
 
 void LeftStickWalkSyncWorker::MoveFinger(const QPoint& position) {
   finger_->position = position;
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 void LeftStickWalkSyncWorker::LiftFinger() {
   finger_->Reset();
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 }  // namespace taviinputmanager

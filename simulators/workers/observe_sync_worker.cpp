@@ -54,7 +54,7 @@ void ObserveSyncWorker::OnObserveRelativeInput(int dx, int dy) {
   } else {
     finger->position = observe_centre_;
   }
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
   last_send_ms_ = now;
 }
 
@@ -76,7 +76,7 @@ void ObserveSyncWorker::OnObserveRelease() {
 void ObserveSyncWorker::LiftFinger() {
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   finger->Reset();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
 }
 
 }  // namespace taviinputmanager

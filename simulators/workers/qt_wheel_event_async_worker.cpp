@@ -46,7 +46,7 @@ void QtWheelEventAsyncWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) 
   if (IsRunning()) return;  // the swipe goes on from where it is
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
   finger->position = event->position().toPoint();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
   timer_->start(kTickMs);
 }
 
@@ -56,13 +56,13 @@ void QtWheelEventAsyncWorker::TimerOutTime() {
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
   if (ticks_ == 0) {
     finger->Reset();
-    SendEvent(finger->BuildUpdateCommand());
+    SendEvent(finger->UpdateLine());
     timer_->stop();
     return;
   }
   const int direction = ticks_ > 0 ? 1 : -1;
   finger->position.setY(AddSaturated(finger->position.y(), direction * step_));
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
   ticks_ -= direction;
 }
 

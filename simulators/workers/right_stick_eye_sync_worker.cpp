@@ -35,7 +35,7 @@ void RightStickEyeSyncWorker::OnStick(const JoystickRightEyeConfigItem& item, co
     }
     range_.Apply(finger_, item.auto_reset, item.range_mode);
   }
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 void RightStickEyeSyncWorker::PutDown(const JoystickRightEyeConfigItem& item) {

@@ -103,13 +103,13 @@ void RightWalkSyncWorker::OnMouseMove(QMouseEvent* event) {
 void RightWalkSyncWorker::StopWalk() {
   continue_timer_.stop();
   finger_->Reset();
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
   walk_item_.reset();
 }
 
 void RightWalkSyncWorker::MoveFinger(const QPoint& position) {
   finger_->position = position;
-  SendEvent(finger_->BuildUpdateCommand());
+  SendEvent(finger_->UpdateLine());
 }
 
 }  // namespace taviinputmanager

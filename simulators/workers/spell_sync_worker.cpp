@@ -133,13 +133,13 @@ void SpellSyncWorker::AfterCast(const SpellConfigItem& item) {
 void SpellSyncWorker::MoveFinger(const QPoint& point) {
   auto* slot = SpellSlotManager::GetInstance();
   slot->position = point;
-  SendEvent(slot->BuildUpdateCommand());
+  SendEvent(slot->UpdateLine());
 }
 
 void SpellSyncWorker::LiftFinger() {
   auto* slot = SpellSlotManager::GetInstance();
   slot->Reset();
-  SendEvent(slot->BuildUpdateCommand());
+  SendEvent(slot->UpdateLine());
 }
 
 void SpellSyncWorker::SwipeToTarget(const SpellConfigItem& item, const QPoint& from, const QPoint& to) {

@@ -75,13 +75,13 @@ void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigIte
 void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem& item) {
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   range_.Apply(finger, item.auto_reset, item.range_mode);
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
 }
 
 void StaringWmRelativeInputWorker::OnPerioidAutoResetTimerOutOfTime() {
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   finger->Reset();
-  SendEvent(finger->BuildUpdateCommand());
+  SendEvent(finger->UpdateLine());
   last_send_ms_ = Clock::NowMs();
 }
 

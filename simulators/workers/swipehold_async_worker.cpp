@@ -131,7 +131,7 @@ void SwipeholdAsyncWorker::FollowKeys(const QString& subsequent_mode) {
 void SwipeholdAsyncWorker::StartWalk() {
   WaitForPressGap();
   SwipeholdSlotManager* slot = Slot();
-  if (!item_->no_center_press) SendEvent(slot->BuildRelativePressCommandAt(item_->rel_x, item_->rel_y));
+  if (!item_->no_center_press) SendEvent(slot->RelativePressLineAt(item_->rel_x, item_->rel_y));
   hold_center_timer_.stop();
   walk_ = *item_;
   StartTimer(&first_press_timer_, walk_.first_press_delay_ms);
@@ -163,7 +163,7 @@ void SwipeholdAsyncWorker::FirstPressTimerOutTime() {
     return ApplyDirectionState();
   }
   path_.TakeStep();
-  SendEvent(Slot()->BuildPressCommandAt(path_.current.x(), path_.current.y()));
+  SendEvent(Slot()->PressLineAt(path_.current.x(), path_.current.y()));
   Report(ToStick(path_.current));
   StartTimer(&first_press_timer_, walk_.first_press_step_ms);
 }
@@ -188,7 +188,7 @@ void SwipeholdAsyncWorker::SubsequentPressTimerOutTime() {
   }
   position_ += move_delta_;
   const QPoint pixels(Round(position_.x()), Round(position_.y()));
-  SendEvent(Slot()->BuildPressCommandAt(pixels.x(), pixels.y()));
+  SendEvent(Slot()->PressLineAt(pixels.x(), pixels.y()));
   Report(ToStick(pixels));
 }
 
@@ -201,7 +201,7 @@ void SwipeholdAsyncWorker::ApplyDirectionState() {
     last_release_time_ = Clock::NowMs();
     return;
   }
-  SendEvent(Slot()->BuildRelativePressCommandAt(walk_.rel_x, walk_.rel_y));
+  SendEvent(Slot()->RelativePressLineAt(walk_.rel_x, walk_.rel_y));
   Report(QPointF());
   StartTimer(&hold_center_timer_, walk_.hold_center_ms);
 }
@@ -209,7 +209,7 @@ void SwipeholdAsyncWorker::ApplyDirectionState() {
 void SwipeholdAsyncWorker::RestOnTarget() {
   const QPoint target = Slot()->GetTargetPoint();
   position_ = target;
-  SendEvent(Slot()->BuildUpdateCommand());
+  SendEvent(Slot()->UpdateLine());
   Report(ToStick(target));
   if (!walk_.compensate) return;
   wave_.Start(target);
@@ -217,7 +217,7 @@ void SwipeholdAsyncWorker::RestOnTarget() {
 }
 
 void SwipeholdAsyncWorker::LetGo() {
-  if (!keep_contact_) SendEvent(Slot()->BuildReleaseCommand());
+  if (!keep_contact_) SendEvent(Slot()->ReleaseLine());
   Report(QPointF());
 }
 
@@ -232,7 +232,7 @@ void SwipeholdAsyncWorker::InputCompensatoryTimerOutTime() {
   if (!walk_.compensate || is_moving) return input_compensatory_timer_.stop();
   if (walk_.compensate_steps < 2) input_compensatory_timer_.stop();  // after this tick
   const auto pixels = wave_.Tick(walk_, Slot()->GetCenter(), Slot()->GetRadius());
-  if (pixels) SendEvent(Slot()->BuildPressCommandAt(Round(pixels->x()), Round(pixels->y())));
+  if (pixels) SendEvent(Slot()->PressLineAt(Round(pixels->x()), Round(pixels->y())));
   if (wave_.GetRound() == walk_.compensate_rounds) StopWave();
 }
 
@@ -245,7 +245,7 @@ void SwipeholdAsyncWorker::StopWave() {
 
 void SwipeholdAsyncWorker::StopAndRelease() {
   ClearAll();
-  SendEvent(Slot()->BuildReleaseCommand());
+  SendEvent(Slot()->ReleaseLine());
 }
 
 void SwipeholdAsyncWorker::ClearAll() {
