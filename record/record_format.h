@@ -2,67 +2,67 @@
 #ifndef RECORD_RECORD_FORMAT_H_
 #define RECORD_RECORD_FORMAT_H_
 
-#include <QLatin1String>
+#include "core/latin1.h"
 
 namespace taviinputmanager::record_format {
 
 // Of the document, and of an item of a merged record.
-constexpr QLatin1String kInfo("info");
-constexpr QLatin1String kActions("actions");
-constexpr QLatin1String kMergedActions("merged_actions");  // not looked at where there are actions too
-constexpr QLatin1String kControl("control");
+constexpr QLatin1String kInfo = Latin1("info");
+constexpr QLatin1String kActions = Latin1("actions");
+constexpr QLatin1String kMergedActions = Latin1("merged_actions");  // not looked at where there are actions too
+constexpr QLatin1String kControl = Latin1("control");
 
 // Of the header.
-constexpr QLatin1String kPackageName("package_name");
-constexpr QLatin1String kResolutionX("resolution_x");
-constexpr QLatin1String kResolutionY("resolution_y");
-constexpr QLatin1String kCreateTime("create_time");
-constexpr QLatin1String kTotalRunningTime("total_running_time");
+constexpr QLatin1String kPackageName = Latin1("package_name");
+constexpr QLatin1String kResolutionX = Latin1("resolution_x");
+constexpr QLatin1String kResolutionY = Latin1("resolution_y");
+constexpr QLatin1String kCreateTime = Latin1("create_time");
+constexpr QLatin1String kTotalRunningTime = Latin1("total_running_time");
 
 // Of an action.
-constexpr QLatin1String kTiming("timing");
-constexpr QLatin1String kType("type");
-constexpr QLatin1String kData("data");
-constexpr QLatin1String kExtra1("extra1");
-constexpr QLatin1String kExtra2("extra2");
+constexpr QLatin1String kTiming = Latin1("timing");
+constexpr QLatin1String kType = Latin1("type");
+constexpr QLatin1String kData = Latin1("data");
+constexpr QLatin1String kExtra1 = Latin1("extra1");
+constexpr QLatin1String kExtra2 = Latin1("extra2");
 
 // Of a control.
-constexpr QLatin1String kFileName("file_name");
-constexpr QLatin1String kRepeatTimes("repeat_times");
-constexpr QLatin1String kRepeatDelay("repeat_delay");
-constexpr QLatin1String kSpeedRatio("speed_ratio");
-constexpr QLatin1String kTillNextItemDelay("till_next_item_delay");
+constexpr QLatin1String kFileName = Latin1("file_name");
+constexpr QLatin1String kRepeatTimes = Latin1("repeat_times");
+constexpr QLatin1String kRepeatDelay = Latin1("repeat_delay");
+constexpr QLatin1String kSpeedRatio = Latin1("speed_ratio");
+constexpr QLatin1String kTillNextItemDelay = Latin1("till_next_item_delay");
 
 // Of the start marker: the data of the first action, a JSON text of its own.
-constexpr QLatin1String kCmd("cmd");
-constexpr QLatin1String kDetectApp("detect_app");
-constexpr QLatin1String kParams("params");
-constexpr QLatin1String kPackage("package");
-constexpr QLatin1String kApp("app");
+constexpr QLatin1String kCmd = Latin1("cmd");
+constexpr QLatin1String kDetectApp = Latin1("detect_app");
+constexpr QLatin1String kParams = Latin1("params");
+constexpr QLatin1String kPackage = Latin1("package");
+constexpr QLatin1String kApp = Latin1("app");
 
 // The types of actions.
-constexpr QLatin1String kTypeVControl("vcontrol");
-constexpr QLatin1String kTypeTouch("touch");
-constexpr QLatin1String kTypeKeyboard("keyboard");
-constexpr QLatin1String kTypeMouse("mouse");
-constexpr QLatin1String kTypeJoystick("joystick");
-constexpr QLatin1String kTypeInputMethod("input_method");
+constexpr QLatin1String kTypeVControl = Latin1("vcontrol");
+constexpr QLatin1String kTypeTouch = Latin1("touch");
+constexpr QLatin1String kTypeKeyboard = Latin1("keyboard");
+constexpr QLatin1String kTypeMouse = Latin1("mouse");
+constexpr QLatin1String kTypeJoystick = Latin1("joystick");
+constexpr QLatin1String kTypeInputMethod = Latin1("input_method");
 // These two are in no file.
-constexpr QLatin1String kTypeTimer("timer");         // a pause that an iterator makes up
-constexpr QLatin1String kTypeRawInput("raw_input");  // an instruction of a captured macro
+constexpr QLatin1String kTypeTimer = Latin1("timer");         // a pause that an iterator makes up
+constexpr QLatin1String kTypeRawInput = Latin1("raw_input");  // an instruction of a captured macro
 
 // The words of an action's data. Arguments follow behind colons.
-constexpr QLatin1String kPressRel("press_rel");
-constexpr QLatin1String kPressMultiRel("press_multi_rel");
-constexpr QLatin1String kRelease("release");
-constexpr QLatin1String kReleaseMulti("release_multi");
-constexpr QLatin1String kReset("reset");
-constexpr QLatin1String kKeyboardPress("keyboard_press");
-constexpr QLatin1String kKeyboardRelease("keyboard_release");
-constexpr QLatin1String kMove("move");
-constexpr QLatin1String kWheel("wheel");
-constexpr QLatin1String kTextInject("text_inject");
-constexpr QLatin1String kTextControl("text_control");
+constexpr QLatin1String kPressRel = Latin1("press_rel");
+constexpr QLatin1String kPressMultiRel = Latin1("press_multi_rel");
+constexpr QLatin1String kRelease = Latin1("release");
+constexpr QLatin1String kReleaseMulti = Latin1("release_multi");
+constexpr QLatin1String kReset = Latin1("reset");
+constexpr QLatin1String kKeyboardPress = Latin1("keyboard_press");
+constexpr QLatin1String kKeyboardRelease = Latin1("keyboard_release");
+constexpr QLatin1String kMove = Latin1("move");
+constexpr QLatin1String kWheel = Latin1("wheel");
+constexpr QLatin1String kTextInject = Latin1("text_inject");
+constexpr QLatin1String kTextControl = Latin1("text_control");
 
 }  // namespace taviinputmanager::record_format
 

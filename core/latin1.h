@@ -1,0 +1,18 @@
+// Words as constants.
+#ifndef CORE_LATIN1_H_
+#define CORE_LATIN1_H_
+
+#include <QLatin1String>
+
+namespace taviinputmanager {
+
+// A word that is known at compile time. QLatin1String's own constructor counts letters with a function that not every
+// compiler runs then.
+template <int kSize>
+constexpr QLatin1String Latin1(const char (&word)[kSize]) {
+  return QLatin1String(word, kSize - 1);  // without the NUL
+}
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_LATIN1_H_
