@@ -21,18 +21,21 @@ using tavikeymapmanager::OperationRecorderConfigItem;
 
 namespace {
 
-constexpr int kMaxDepth = 8;  // a release list that releases its own key would come back without end
+constexpr int kMaxInnerReleases = 7;  // a release list that releases its own key would come back without end
 
-// While it lives, the worker is not deleted under its feet.
+// While it lives, the worker is not deleted under its feet. The outermost call counts releases anew.
 class CallScope {
  public:
-  explicit CallScope(int* depth) : depth_(depth) { ++*depth_; }
-  ~CallScope() { --*depth_; }
+  CallScope(int* depth, int* inner_releases) : depth_(depth), inner_releases_(inner_releases) { ++*depth_; }
+  ~CallScope() {
+    if (--*depth_ == 0) *inner_releases_ = 0;
+  }
   CallScope(const CallScope&) = delete;
   CallScope& operator=(const CallScope&) = delete;
 
  private:
   int* depth_;
+  int* inner_releases_;
 };
 
 void TellOperationStarted(const MacroConfigItem& item, const MacroProgram& program) {
@@ -68,7 +71,7 @@ const MacroSequentialTapAsyncWorker::Program& MacroSequentialTapAsyncWorker::Rea
 // ---- From outside ----
 
 void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*key*/) {
-  const CallScope scope(&depth_);
+  const CallScope scope(&depth_, &inner_releases_);
   key_name_ = item->key.text;
   state_ = State::kPress;
   const Program program = Read(&press_program_, item->press_commands);
@@ -81,8 +84,8 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
 
 void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
   if (loop_.IsUntilRelease()) return loop_.EndSoon();
-  if (depth_ >= kMaxDepth) return;
-  const CallScope scope(&depth_);
+  if (depth_ > 0 && inner_releases_++ >= kMaxInnerReleases) return;
+  const CallScope scope(&depth_, &inner_releases_);
   key_name_ = item->key.text;
   state_ = State::kRelease;
   if (!item->release_commands.isEmpty()) {
@@ -95,7 +98,7 @@ void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*
 }
 
 void MacroSequentialTapAsyncWorker::OnTimer() {
-  const CallScope scope(&depth_);
+  const CallScope scope(&depth_, &inner_releases_);
   if (curve_.HasNextPoint()) {
     SendEvent(curve_.BuildNextPress());
     if (curve_.HasNextPoint()) {

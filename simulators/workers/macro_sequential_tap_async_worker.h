@@ -28,7 +28,7 @@ namespace taviinputmanager {
 //
 // A command may inject input which comes back here before it returns: the release of this macro's own key, or a reset
 // that discards this worker. All calls share one place in the list, so an inner run that pauses is carried on by the
-// outer one at once. Beyond a few calls inside each other a release is dropped. Lists are copied (they share their
+// outer one at once. Beyond a few releases inside one call a further one is dropped. Lists are copied (they share their
 // text), and read once for all the times that they run; no item is kept beyond a call.
 //
 // Main thread. The simulator owns it.
@@ -88,7 +88,8 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   MacroPoints click_points_;  // of the click under way
   bool has_until_release_ = false;
   bool is_discarded_ = false;
-  int depth_ = 0;  // of calls that are under way inside each other
+  int depth_ = 0;           // of calls that are under way inside each other
+  int inner_releases_ = 0;  // since the outermost of them began
 };
 
 }  // namespace taviinputmanager

@@ -166,5 +166,21 @@ TEST_F(MacroWorker, AReleaseListThatReleasesItsOwnKeyComesToAnEnd) {
   EXPECT_WIRE("0ms text TEXT:a");
 }
 
+// Each inner run pauses at once, and the outer call is back at the release; after a few of them that is dropped.
+TEST_F(MacroWorker, AReleaseListThatPausesAndReleasesItsOwnKeyComesToAnEnd) {
+  Run({}, {"sleep:5", "keyboard_release:59", "text_inject:a"});
+  Play("up F1; wait 100");
+  EXPECT_WIRE("5ms text TEXT:a");
+  Play("up F1; wait 100");
+  EXPECT_WIRE("105ms text TEXT:a");
+}
+
+TEST_F(MacroWorker, ReleaseListsThatPauseAndReleaseEachOtherComeToAnEnd) {
+  Macro({}, {"keyboard_release:59"}, "F2");
+  Run({}, {"sleep:5", "keyboard_release:60", "text_inject:a"});
+  Play("up F1; wait 100");
+  EXPECT_WIRE("5ms text TEXT:a");
+}
+
 }  // namespace
 }  // namespace taviinputmanager
