@@ -1,5 +1,11 @@
 // Built into every program under a sanitizer, which looks these functions up by name as it starts.
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) && !defined(__SANITIZE_ADDRESS__)
+#define __SANITIZE_ADDRESS__  // as the other compiler has it
+#endif
+#endif
+
 #if defined(__SANITIZE_THREAD__)
 // The distribution's Qt and Poco are not instrumented: their locks are not seen, so what they guard looks like a race.
 extern "C" __attribute__((visibility("default"))) const char* __tsan_default_options() {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
 #
-#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest]...        (without a word: build)
+#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest|fuzz]...        (without a word: build)
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
@@ -10,6 +10,7 @@ lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 busybox-static cpio)
 bench=(libbenchmark-dev valgrind python3)
 plot=(python3 python3-matplotlib)
+fuzz=(clang-14 libclang-rt-14-dev llvm-14)
 
 packages=()
 for group in "${@:-build}"; do
@@ -20,6 +21,7 @@ for group in "${@:-build}"; do
     guest) packages+=("${guest[@]}") ;;
     bench) packages+=("${bench[@]}") ;;
     plot) packages+=("${plot[@]}") ;;
+    fuzz) packages+=("${fuzz[@]}") ;;
     *) echo "install-dependencies: no such group: $group" >&2; exit 2 ;;
   esac
 done

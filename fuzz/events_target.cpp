@@ -1,0 +1,19 @@
+// Bytes as what a host does, through all exports: whatever went down in the guest comes up.
+#include "fuzz/event_player.h"
+#include "fuzz/session.h"
+
+// Codes of four bytes each (event_code.h); a rest is left out.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  using namespace taviinputmanager::fuzz;
+  constexpr size_t kMaxCodes = 256;
+  Session& session = Session::Get();
+  {
+    EventPlayer player;
+    for (size_t i = 0; i + 4 <= size && i < 4 * kMaxCodes; i += 4) {
+      player.Play({data[i], data[i + 1], data[i + 2], data[i + 3]});
+    }
+    session.CheckThatNothingStaysDown(player.GetDisplay());
+  }
+  session.Finish();
+  return 0;
+}
