@@ -1,5 +1,6 @@
 #include "host/command_line.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace tavi {
@@ -28,12 +29,17 @@ class ArgumentReader {
  private:
   void ReadWord(const QString& word) {
     if (word == QLatin1String("--")) {
-      result_.positional += words_;
+      for (const QString& rest : qAsConst(words_)) TakePositional(rest);
       words_.clear();
       return;
     }
     if (word.startsWith(QLatin1Char('-')) && word.size() > 1) return ReadOption(word);
+    TakePositional(word);
+  }
+
+  void TakePositional(const QString& word) {
     result_.positional += word;
+    result_.in_order.append({QString(), word});
   }
 
   void ReadOption(const QString& word) {
@@ -46,6 +52,7 @@ class ArgumentReader {
     QString value = word.mid(equals + 1);
     if (equals < 0) value = rule->takes_value ? words_.takeFirst() : QString();
     result_.options[name] = value;
+    result_.in_order.append({name, value});
   }
 
   void Fail(const QString& error) { result_.error = error; }
@@ -67,6 +74,18 @@ ParsedArguments ParseArguments(const QStringList& arguments, const QVector<Optio
   const QStringList words = arguments.mid(0, arguments.indexOf(QStringLiteral("--")));
   result.help = words.contains(QLatin1String("--help")) || words.contains(QLatin1String("-h"));
   return result;
+}
+
+std::optional<int> ParseWholeNumber(const QString& text, int least) {
+  bool is_number = false;
+  const int number = text.toInt(&is_number);
+  return is_number && number >= least ? std::optional<int>(number) : std::nullopt;
+}
+
+std::optional<double> ParseFactor(const QString& text) {
+  bool is_number = false;
+  const double number = text.toDouble(&is_number);
+  return is_number && std::isfinite(number) && number > 0 ? std::optional<double>(number) : std::nullopt;
 }
 
 QSize ParseSize(const QString& text) {

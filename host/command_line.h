@@ -4,6 +4,8 @@
 #ifndef HOST_COMMAND_LINE_H_
 #define HOST_COMMAND_LINE_H_
 
+#include <optional>
+
 #include <QMap>
 #include <QSize>
 #include <QString>
@@ -22,7 +24,13 @@ struct OptionRule {
   bool takes_value = false;  // "--name VALUE" or "--name=VALUE"
 };
 
+struct GivenArgument {
+  QString option;  // empty for a positional one
+  QString value;   // empty for a mere flag
+};
+
 struct ParsedArguments {
+  QVector<GivenArgument> in_order;  // all of them
   QStringList positional;
   QMap<QString, QString> options;  // the last value of each that was given; an empty one for a mere flag
   bool help = false;               // --help or -h was among them, whatever else is wrong
@@ -31,6 +39,10 @@ struct ParsedArguments {
 
 // "--" ends the options; "-" alone is no option.
 ParsedArguments ParseArguments(const QStringList& arguments, const QVector<OptionRule>& rules);
+
+// A whole number of at least `least`, a finite number above 0; nothing for any other text.
+std::optional<int> ParseWholeNumber(const QString& text, int least);
+std::optional<double> ParseFactor(const QString& text);
 
 // A size such as "1280x720", each side from 1 to 16384; an empty size for anything else.
 QSize ParseSize(const QString& text);

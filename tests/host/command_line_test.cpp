@@ -17,6 +17,14 @@ TEST(CommandLine, OptionsStandAnywhere) {
   EXPECT_TRUE(parsed.options.contains("--flag"));
 }
 
+TEST(CommandLine, KeepsTheOrderInWhichThingsWereGiven) {
+  QStringList given;
+  for (const GivenArgument& argument : Parse({"one", "--value", "7", "--flag", "--", "--two"}).in_order) {
+    given += argument.option + ">" + argument.value;
+  }
+  EXPECT_EQ(given, (QStringList{">one", "--value>7", "--flag>", ">--two"}));
+}
+
 TEST(CommandLine, AValueMayFollowAnEqualsSign) {
   EXPECT_EQ(Parse({"--value=a=b"}).options.value("--value"), QStringLiteral("a=b"));
   EXPECT_EQ(Parse({"--value="}).options.value("--value"), QString());
@@ -41,6 +49,17 @@ TEST(CommandLine, HelpIsFoundWhateverElseIsWrong) {
   EXPECT_TRUE(Parse({"--other", "--help"}).help);
   EXPECT_TRUE(Parse({"-h"}).help);
   EXPECT_FALSE(Parse({"help"}).help);
+}
+
+TEST(CommandLine, ReadsNumbers) {
+  EXPECT_EQ(ParseWholeNumber("1", 1), 1);
+  for (const char* wrong : {"", "0", "-3", "1.5", "one", "2147483648"}) {
+    EXPECT_EQ(ParseWholeNumber(QLatin1String(wrong), 1), std::nullopt) << wrong;
+  }
+  EXPECT_EQ(ParseFactor("0.5"), 0.5);
+  for (const char* wrong : {"", "0", "-1", "fast", "inf", "nan"}) {
+    EXPECT_EQ(ParseFactor(QLatin1String(wrong)), std::nullopt) << wrong;
+  }
 }
 
 TEST(CommandLine, ReadsSizes) {
