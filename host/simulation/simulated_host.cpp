@@ -11,13 +11,15 @@ QString FormatEntry(const TimelineEntry& entry) {
   QString mark;
   if (entry.source == Source::kText) mark = QStringLiteral("text ");
   if (entry.source == Source::kCallback) mark = QStringLiteral("! ");
-  return QStringLiteral("%1ms ").arg(entry.ms) + mark + entry.text;
+  QString text = entry.text;
+  text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+  return QStringLiteral("%1ms ").arg(entry.ms) + mark + text;
 }
 
 // The plain functions that the library is given.
 struct HostFunctions {
   static SimulatedHost* Host() { return SimulatedHost::GetInstance(); }
-  static void Say(const QString& text) { Host()->Add(Source::kCallback, text); }
+  static void Say(const QString& text) { Host()->Say(text); }
 
   static void SendEvent(const char* data, int length) {
     Host()->Add(Source::kLine, QString::fromUtf8(data, length - 1));  // without the newline
@@ -91,6 +93,10 @@ void SimulatedHost::StartTimeline() {
 
 QVector<TimelineEntry> SimulatedHost::TakeTimeline() { return std::exchange(timeline_, {}); }
 
-void SimulatedHost::Add(Source source, const QString& text) { timeline_.append({now_() - start_ms_, source, text}); }
+void SimulatedHost::Add(Source source, const QString& text) {
+  const TimelineEntry entry{now_() - start_ms_, source, text};
+  if (listener) return listener(entry);
+  timeline_.append(entry);
+}
 
 }  // namespace tavi

@@ -20,7 +20,8 @@ struct TimelineEntry {
   QString text;  // without line end
 };
 
-// As `tavi simulate` prints it: "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F".
+// As `tavi simulate` prints it: "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F". One line: a line end inside
+// of a text is written "\n".
 QString FormatEntry(const TimelineEntry& entry);
 
 // The library's callbacks are plain functions, so there is one host in a process. Main thread only.
@@ -34,6 +35,13 @@ class SimulatedHost {
   void StartTimeline();
   // What was said since the last call.
   QVector<TimelineEntry> TakeTimeline();
+  // Writes down what the library told by another table than ours. As for the calls of ours, any thread where there is a
+  // listener.
+  void Say(const QString& text) { Add(TimelineEntry::Source::kCallback, text); }
+
+  // Gets each entry as it comes, on the thread that it comes on; there is no timeline to take then. Real replays need
+  // one: they end on a thread of their own.
+  std::function<void(const TimelineEntry&)> listener;
 
   // What the host answers.
   taviinputmanager::WindowGeometry window{0, 0, 1280, 720};
