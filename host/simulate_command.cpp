@@ -10,6 +10,7 @@
 
 #include "host/command_line.h"
 #include "host/keymap_report.h"
+#include "host/record/script_recording.h"
 #include "host/simulation/script.h"
 #include "host/simulation/script_player.h"
 #include "host/simulation/simulated_host.h"
@@ -21,7 +22,7 @@ namespace tavi {
 namespace {
 
 constexpr char kHelp[] =
-    "Usage: tavi simulate KEYMAP SCRIPT\n"
+    "Usage: tavi simulate [OPTIONS] KEYMAP SCRIPT\n"
     "\n"
     "Plays a script of input with a keymap and prints what comes of it: every line for\n"
     "the guest, and after a \"!\" every call of the host, each with the time in\n"
@@ -33,13 +34,22 @@ constexpr char kHelp[] =
     "  mouse down left 640,360\n"
     "Positions are pixels of a guest view of 1280 x 720.\n"
     "\n"
-    "Exit status: 0 when the script was played, 2 when the script, the keymap or the\n"
-    "command line cannot be used.\n"
+    "  --record FILE    also save what the guest got on display 1 as a record, for\n"
+    "                   \"tavi record\" to play\n"
+    "  --package NAME   the app that the keymap is loaded for, and the record tells of\n"
+    "                   (com.example.game)\n"
+    "\n"
+    "Exit status: 0 when the script was played, 1 when there is no record to save or\n"
+    "it cannot be written, 2 when the script, the keymap or the command line cannot be\n"
+    "used.\n"
     "\n"
     "Example: echo \"down Space; wait 50; up Space\" |\n"
     "           tavi simulate examples/keymaps/shooter.yaml -\n";
 
 constexpr char kStandardInput[] = "-";
+
+const QString kRecord = QStringLiteral("--record");
+const QString kPackage = QStringLiteral("--package");
 
 std::optional<QString> ReadText(const QString& name) {
   const bool is_standard_input = name == QLatin1String(kStandardInput);
@@ -96,7 +106,13 @@ void PrintTimeline(SimulatedHost* host) {
   for (const TimelineEntry& entry : host->TakeTimeline()) Print(FormatEntry(entry) + QLatin1Char('\n'));
 }
 
-int Play(const Invocation& invocation, const QString& keymap, const Script& script) {
+struct SimulateOptions {
+  QString keymap;
+  std::optional<QString> record;   // where to save one
+  std::optional<QString> package;  // in place of the player's own
+};
+
+int Play(const Invocation& invocation, const SimulateOptions& options, const Script& script) {
   // The clock serves no window system, whatever the user's environment asks for.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   auto* clock = new VirtualEventDispatcher;
@@ -105,26 +121,37 @@ int Play(const Invocation& invocation, const QString& keymap, const Script& scri
   SimulatedHost* host = SimulatedHost::GetInstance();
   host->Start([clock] { return clock->NowMs(); });
   ScriptPlayer player(clock, host);
-  player.LoadKeymap(keymap);
+  if (options.package) player.package = *options.package;
+  player.LoadKeymap(options.keymap);
   clock->Settle();
   host->StartTimeline();
+  const QString package = player.package;  // a script may change the player's
+  if (options.record) StartScriptRecording(package, player.display);
   for (const ScriptCommand& command : script.commands) {
     player.Play(command);
     PrintTimeline(host);
   }
-  return kExitDone;
+  return options.record ? SaveScriptRecording(package, *options.record) : kExitDone;
+}
+
+std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString& name) {
+  if (!arguments.options.contains(name)) return std::nullopt;
+  return arguments.options[name];
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments arguments = ParseArguments(invocation.arguments, {});
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, {{kRecord, true}, {kPackage, true}});
   if (!arguments.error.isEmpty()) return FailUsage(QStringLiteral("simulate"), arguments.error);
   if (arguments.positional.size() != 2) {
     return FailUsage(QStringLiteral("simulate"), QStringLiteral("a keymap and a script are needed"));
   }
-  const QString keymap = arguments.positional[0];
+  const SimulateOptions options{arguments.positional[0], OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
+  if (options.record && options.record->isEmpty()) {
+    return FailUsage(QStringLiteral("simulate"), QStringLiteral("the name of the record is empty"));
+  }
   const std::optional<Script> script = ReadScript(arguments.positional[1]);
-  if (!script || !AreKeymapsUsable(keymap, *script)) return kExitUsage;
-  return Play(invocation, keymap, *script);
+  if (!script || !AreKeymapsUsable(options.keymap, *script)) return kExitUsage;
+  return Play(invocation, options, *script);
 }
 
 }  // namespace
