@@ -7,6 +7,7 @@
 #include "host/check_command.h"
 #include "host/command_line.h"
 #include "host/guest_uinput_command.h"
+#include "host/record_command.h"
 #include "host/simulate_command.h"
 #include "host/window_command.h"
 
@@ -15,7 +16,7 @@ namespace tavi {
 namespace {
 
 const auto& Subcommands() {
-  static const std::array<Subcommand, 4> all = {WindowCommand(), SimulateCommand(), CheckCommand(),
+  static const std::array<Subcommand, 5> all = {WindowCommand(), SimulateCommand(), RecordCommand(), CheckCommand(),
                                                 GuestUinputCommand()};
   return all;
 }
@@ -32,7 +33,7 @@ void PrintOverview() {
       QStringLiteral("Usage: tavi COMMAND [ARGUMENTS]\n"
                      "\n"
                      "Shows, plays and checks keymaps: what the keys and the mouse of this computer do\n"
-                     "on the screen of an Android guest.\n"
+                     "on the screen of an Android guest. Plays, merges and draws records of it.\n"
                      "\n"
                      "Commands:\n"));
   for (const Subcommand& subcommand : Subcommands()) {

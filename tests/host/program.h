@@ -46,6 +46,12 @@ class Program : public testing::Test {
   }
 
   QString Folder() const { return folder_.path(); }
+  bool Has(const QString& name) const { return QFile::exists(folder_.filePath(name)); }
+  QByteArray Content(const QString& name) const {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
 
   bool has_platform_ = true;
 

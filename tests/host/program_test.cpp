@@ -17,7 +17,7 @@ constexpr char kBad[] =
 TEST_F(Program, HelpTellsOfEveryCommandAndOfEachByItself) {
   const Outcome overview = Run({"--help"});
   EXPECT_EQ(overview.status, 0);
-  for (const char* command : {"window", "simulate", "check", "guest-uinput"}) {
+  for (const char* command : {"window", "simulate", "record", "check", "guest-uinput"}) {
     SCOPED_TRACE(command);
     EXPECT_TRUE(overview.output.contains(QStringLiteral("\n  %1 ").arg(command)));
     const Outcome page = Run({command, "--help"});
@@ -164,7 +164,7 @@ TEST_F(Program, WindowTellsWhenThereIsNoDisplay) {
 TEST_F(Program, WindowSavesItsPicture) {
   Write("good.yaml", kGood);
   EXPECT_EQ(Run({"window", "good.yaml", "--picture", "out.png", "--after", "0"}).status, 0);
-  EXPECT_TRUE(QFile::exists(QDir(Folder()).filePath("out.png")));
+  EXPECT_TRUE(Has("out.png"));
   EXPECT_EQ(Run({"window", "good.yaml", "--picture", "none/out.png", "--after", "0"}).status, 1);
 }
 

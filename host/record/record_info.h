@@ -1,0 +1,19 @@
+#ifndef HOST_RECORD_RECORD_INFO_H_
+#define HOST_RECORD_RECORD_INFO_H_
+
+#include <QString>
+#include <QStringList>
+
+namespace tavi {
+
+struct RecordFile;
+
+// All that there is to tell about a record that can be played, as lines of text.
+QString DescribeRecord(const QString& name, const RecordFile& record);
+
+// `tavi record info FILE...`
+int RunRecordInfo(const QStringList& arguments);
+
+}  // namespace tavi
+
+#endif  // HOST_RECORD_RECORD_INFO_H_

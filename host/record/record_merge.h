@@ -1,0 +1,26 @@
+#ifndef HOST_RECORD_RECORD_MERGE_H_
+#define HOST_RECORD_RECORD_MERGE_H_
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include "taviinputmanager/types.h"
+
+namespace tavi {
+
+struct MergeOrder {
+  QString target;
+  QVector<MergeParam> records;  // in the order of playing
+  QString problem;              // what is wrong with the command line; empty when nothing is
+};
+
+// "-o TARGET FILE [--times N] [--delay MS] [--speed X] [--gap MS] FILE ...": what stands behind a file is about it.
+MergeOrder ReadMergeOrder(const QStringList& arguments);
+
+// `tavi record merge`
+int RunRecordMerge(const QStringList& arguments);
+
+}  // namespace tavi
+
+#endif  // HOST_RECORD_RECORD_MERGE_H_

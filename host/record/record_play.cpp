@@ -1,0 +1,153 @@
+#include "host/record/record_play.h"
+
+#include <atomic>
+#include <cstdio>
+#include <optional>
+
+#include <QAbstractEventDispatcher>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include "host/command_line.h"
+#include "host/record/record_file.h"
+#include "host/simulation/simulated_host.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "host/subcommands.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+namespace {
+
+const QString kCommand = QStringLiteral("record play");
+const QString kSpeed = QStringLiteral("--speed");
+const QString kEmulation = QStringLiteral("--emulation");
+const QString kGuest = QStringLiteral("--guest");
+const QString kLive = QStringLiteral("--live");
+
+constexpr QSize kDefaultGuest(1280, 720);
+constexpr int kDisplay = 1;
+constexpr int kTask = 1;
+constexpr int kStartLimitMs = 5000;  // a replay starts at once, or never
+
+struct PlayOptions {
+  QString file;
+  taviinputmanager::ReplayParam param;
+  QSize guest;  // empty: as large as when the record was made
+  bool is_live = false;
+};
+
+// Returns what is wrong, or nothing.
+QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
+  if (!parsed.error.isEmpty()) return parsed.error;
+  if (parsed.positional.size() != 1) return QStringLiteral("one record is needed");
+  options->file = parsed.positional[0];
+  options->is_live = parsed.options.contains(kLive);
+  options->param.emulation_mode = parsed.options.contains(kEmulation);
+  if (parsed.options.contains(kSpeed)) {
+    const std::optional<double> speed = ParseFactor(parsed.options[kSpeed]);
+    if (!speed) return QStringLiteral("%1 needs a number above 0, not \"%2\"").arg(kSpeed, parsed.options[kSpeed]);
+    options->param.speed_ratio = *speed;
+  }
+  if (parsed.options.contains(kGuest)) {
+    options->guest = ParseSize(parsed.options[kGuest]);
+    if (options->guest.isEmpty()) {
+      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kGuest, parsed.options[kGuest]);
+    }
+  }
+  return {};
+}
+
+QSize GuestSize(const PlayOptions& options) {
+  if (!options.guest.isEmpty()) return options.guest;
+  RecordInfo info;
+  taviinputmanager::GetRecordInfo(options.file, &info);
+  return info.resolution.isEmpty() ? kDefaultGuest : info.resolution;
+}
+
+// The plain functions that the library tells of the replay. Of all but the host's own commands it tells on a thread of
+// the replay's own, unless time is virtual.
+struct ReplayFunctions {
+  static void Say(const QString& text) { SimulatedHost::GetInstance()->Say(text); }
+  static void Started(int /*task*/, const QString& /*file*/) {
+    Say(QStringLiteral("replay started"));
+    has_started = true;
+  }
+  static void Finished(int /*task*/, const QString& /*file*/, taviinputmanager::ReplayParam /*param*/) {
+    Say(QStringLiteral("replay finished"));
+    // Behind the lines that are on their way to the main thread still.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
+  }
+  static void Ignore(int /*task*/, const QString& /*file*/) {}
+  static void HostCommand(const QString& data, const QString& extra1, const QString& extra2, int /*task*/,
+                          const QString& /*file*/) {
+    const bool has_extras = !extra1.isEmpty() || !extra2.isEmpty();
+    const QString extras = has_extras ? QStringLiteral(" | %1 | %2").arg(extra1, extra2) : QString();
+    Say(QStringLiteral("vcontrol ") + data + extras);
+  }
+
+  static taviinputmanager::InputReplayerCallbacks Table() {
+    taviinputmanager::InputReplayerCallbacks table;
+    table.started = Started;
+    table.paused = Ignore;
+    table.resumed = Ignore;
+    table.stopped = Ignore;
+    table.finished = Finished;
+    table.vcontrol = HostCommand;
+    return table;
+  }
+
+  static std::atomic<bool> has_started;
+};
+
+std::atomic<bool> ReplayFunctions::has_started{false};
+
+// One call a line: lines of two threads do not mix.
+void PrintEntry(const TimelineEntry& entry) { Print(FormatEntry(entry) + QLatin1Char('\n')); }
+
+void StartHost(const QSize& guest) {
+  SimulatedHost* host = SimulatedHost::GetInstance();
+  host->display = host->touch = QRect(QPoint(0, 0), guest);
+  const auto* clock = qobject_cast<taviinputmanager::VirtualTime*>(QCoreApplication::eventDispatcher());
+  host->Start([clock] { return clock ? clock->NowMs() : QDateTime::currentMSecsSinceEpoch(); });
+  taviinputmanager::UpdateDisplayId(kDisplay);  // where the end of a replay lifts its fingers
+  QCoreApplication::sendPostedEvents();
+  host->StartTimeline();
+  host->listener = PrintEntry;
+}
+
+int Replay(const PlayOptions& options) {
+  static taviinputmanager::InputReplayerCallbacks table = ReplayFunctions::Table();
+  taviinputmanager::InitializeReplayCallbacks(&table);
+  taviinputmanager::UpdateReplayDisplayId(kDisplay);
+  taviinputmanager::StartReplay(0, kTask, QString(), options.file, options.param);
+  // The file may have gone since it was looked at.
+  QTimer::singleShot(kStartLimitMs, QCoreApplication::instance(), [] {
+    if (!ReplayFunctions::has_started) QCoreApplication::exit(kExitProblem);
+  });
+  const int status = QCoreApplication::exec();
+  if (status != kExitDone) PrintError(QStringLiteral("%1: the replay did not start\n").arg(options.file));
+  return status;
+}
+
+}  // namespace
+
+int RunRecordPlay(const Invocation& invocation) {
+  PlayOptions options;
+  const ParsedArguments parsed =
+      ParseArguments(invocation.arguments, {{kSpeed, true}, {kEmulation}, {kGuest, true}, {kLive}});
+  const QString problem = ReadOptions(parsed, &options);
+  if (!problem.isEmpty()) return FailUsage(kCommand, problem);
+  if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;
+  // Neither clock needs a window system, whatever the user's environment asks for.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
+  if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // lines are seen as they fall due
+  const QGuiApplication application(invocation.argc, invocation.argv);
+  StartHost(GuestSize(options));
+  return Replay(options);
+}
+
+}  // namespace tavi
