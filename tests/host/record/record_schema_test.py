@@ -86,7 +86,7 @@ class RecordSchema(unittest.TestCase):
             record = self.load("all.json")
             self.assertEqual(errors(record), [])
             types |= {action["type"] for action in record["actions"]}
-        self.assertLessEqual({"vcontrol", "touch", "keyboard", "mouse", "input_method"}, types)
+        self.assertEqual({"vcontrol", "touch", "keyboard", "mouse", "joystick", "input_method"}, types)
         run("record", "merge", "-o", "one.json", "all.json", "--times", 3, "--speed", 0.5, cwd=self.folder)
         run("record", "merge", "-o", "two.json", "one.json", "--gap", 100, "all.json", cwd=self.folder)
         for name in ("one.json", "two.json"):
