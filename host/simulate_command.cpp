@@ -103,7 +103,7 @@ bool AreKeymapsUsable(const QString& first, const Script& script) {
 }
 
 void PrintTimeline(SimulatedHost* host) {
-  for (const TimelineEntry& entry : host->TakeTimeline()) Print(FormatEntry(entry) + QLatin1Char('\n'));
+  for (const TimelineEntry& entry : host->TakeTimeline()) Print(FormatLine(entry));
 }
 
 struct SimulateOptions {

@@ -105,7 +105,7 @@ struct ReplayFunctions {
 std::atomic<bool> ReplayFunctions::has_started{false};
 
 // One call a line: lines of two threads do not mix.
-void PrintEntry(const TimelineEntry& entry) { Print(FormatEntry(entry) + QLatin1Char('\n')); }
+void PrintEntry(const TimelineEntry& entry) { Print(FormatLine(entry)); }
 
 void StartHost(const QSize& guest) {
   SimulatedHost* host = SimulatedHost::GetInstance();

@@ -11,9 +11,11 @@ QString FormatEntry(const TimelineEntry& entry) {
   QString mark;
   if (entry.source == Source::kText) mark = QStringLiteral("text ");
   if (entry.source == Source::kCallback) mark = QStringLiteral("! ");
-  QString text = entry.text;
-  text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
-  return QStringLiteral("%1ms ").arg(entry.ms) + mark + text;
+  return QStringLiteral("%1ms ").arg(entry.ms) + mark + entry.text;
+}
+
+QString FormatLine(const TimelineEntry& entry) {
+  return FormatEntry(entry).replace(QLatin1Char('\n'), QLatin1String("\\n")) + QLatin1Char('\n');
 }
 
 // The plain functions that the library is given.

@@ -20,9 +20,10 @@ struct TimelineEntry {
   QString text;  // without line end
 };
 
-// As `tavi simulate` prints it: "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F". One line: a line end inside
-// of a text is written "\n".
+// "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F".
 QString FormatEntry(const TimelineEntry& entry);
+// As it is printed, with its end. Always one line: a line end inside of a text is written "\n".
+QString FormatLine(const TimelineEntry& entry);
 
 // The library's callbacks are plain functions, so there is one host in a process. Main thread only.
 class SimulatedHost {
