@@ -27,10 +27,10 @@ drag() {
   done
 }
 
-# picture NAME AFTER_MS KEYMAP USE: starts the window, calls the function USE once it has the keys, and waits for the
-# picture, which the window takes of itself.
+# picture NAME AFTER_MS KEYMAP USE [OPTION...]: starts the window, calls the function USE once it has the keys, and waits
+# for the picture, which the window takes of itself.
 picture() {
-  (cd "$keymaps" && exec "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2") &
+  (cd "$keymaps" && exec "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2" "${@:5}") &
   local program=$!
   window=$(xdotool search --sync --onlyvisible --pid "$program" --name tavi | head -n 1)
   xdotool windowfocus --sync "$window"
@@ -63,18 +63,29 @@ play_battle() {
 # A field that is spelt wrong, and a key that does not exist.
 show_findings() { sleep 0.1; }
 
+# A record plays on a view of its own, while the player taps beside it.
+watch_replay() {
+  sleep 0.5
+  xdotool keydown w
+  sleep 0.5
+  xdotool keydown d
+}
+
 mkdir -p "$pictures"
 picture shooter 3500 shooter.yaml play_shooter
 picture hero_battle 3500 hero_battle.yaml play_battle
 
-broken=$(mktemp -d)
-trap 'rm -rf "$broken"' EXIT
-cat > "$broken/broken.yaml" <<'KEYMAP'
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+"$tavi" record merge -o "$folder/walks.json" "$root/examples/records/walk.json" --times 5 --delay 200 >/dev/null
+picture replay 2600 shooter.yaml watch_replay --second-view --replay "$folder/walks.json"
+
+cat > "$folder/broken.yaml" <<'KEYMAP'
 format: 1
 name: Broken
 items:
   - {type: Click, label: Jump, key: Spcae, point: [0.94, 0.74]}
   - {type: Swipehold, label: Walk, point: [0.18, 0.72], radus: 0.09, key_up: W}
 KEYMAP
-keymaps=$broken
+keymaps=$folder
 picture findings 1500 broken.yaml show_findings

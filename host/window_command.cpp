@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QAction>
 #include <QApplication>
 #include <QFileInfo>
 #include <QTimer>
@@ -30,6 +31,7 @@ constexpr char kHelp[] =
     "                   as it is shown (1280x720)\n"
     "  --record FILE    record what the guest gets, and save it when the window is closed\n"
     "  --replay FILE    play this record at once\n"
+    "  --second-view    play records on a display of their own\n"
     "  --listen NAME    let other instances send their lines to this one\n"
     "  --mirror NAMES   send the lines for the guest to the instances that listen under\n"
     "                   these names, separated by commas, too\n"
@@ -46,6 +48,7 @@ const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
 const QString kRecord = QStringLiteral("--record");
 const QString kReplay = QStringLiteral("--replay");
+const QString kSecondView = QStringLiteral("--second-view");
 const QString kListen = QStringLiteral("--listen");
 const QString kMirror = QStringLiteral("--mirror");
 const QString kPicture = QStringLiteral("--picture");
@@ -59,7 +62,8 @@ struct WindowOptions {
   std::optional<QSize> guest_size;  // an empty size: as large as the view
   QString record;                   // empty: none
   QString replay;                   // empty: none
-  QString listen;                   // empty: to nobody
+  bool has_second_view = false;
+  QString listen;  // empty: to nobody
   QStringList mirror;
   QString picture;  // empty: none
   int after_ms = kDefaultAfterMs;
@@ -73,6 +77,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   options->joystick_keymap = arguments.options.value(kJoystick);
   options->record = arguments.options.value(kRecord);
   options->replay = arguments.options.value(kReplay);
+  options->has_second_view = arguments.options.contains(kSecondView);
   options->listen = arguments.options.value(kListen);
   options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
   for (const QString& file : {options->keymap, options->joystick_keymap, options->replay}) {
@@ -107,6 +112,7 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
     records->SetTarget(options.record);
     records->ToggleRecording();
   }
+  if (options.has_second_view) records->SecondView()->trigger();
   if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
 }
 
@@ -151,6 +157,7 @@ int Run(const Invocation& invocation) {
                                                                                       {kGuest, true},
                                                                                       {kRecord, true},
                                                                                       {kReplay, true},
+                                                                                      {kSecondView, false},
                                                                                       {kListen, true},
                                                                                       {kMirror, true},
                                                                                       {kPicture, true},
