@@ -21,16 +21,18 @@ QString Lasting(const QString& text) {
 
 }  // namespace
 
+// Never destroyed, as its texts are never freed.
 const KeyIndex& KeyIndex::Get() {
-  static const KeyIndex index;
-  return index;
+  static const auto* const index = new KeyIndex;
+  return *index;
 }
 
 KeyIndex::KeyIndex() {
-  for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
-    keyboard_names_[scancode] = Lasting(QStringLiteral("Scan %1").arg(scancode));
-  }
   for (const KeyboardKeyRow& row : KeyboardKeys()) AddKeyboardKey(row);
+  for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
+    QString& name = keyboard_names_[scancode];
+    if (name.isEmpty()) name = Lasting(QStringLiteral("Scan %1").arg(scancode));
+  }
   for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, Lasting(QString::fromLatin1(row.name)));
   for (int number = 1; number <= kExtraMouseButtonCount; ++number) {
     AddMouseKey(ExtraMouseButton(number), QStringLiteral("Mouse Side %1").arg(number));
