@@ -2,6 +2,7 @@
 #include "host/window/gamepads.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 #include <QGuiApplication>
 #include <QImage>
@@ -220,6 +221,120 @@ TEST_F(GamepadWindow, AKeymapOfGamepadsThatIsSavedIsReadAgain) {
   for (auto* watch : Window()->findChildren<KeymapWatch*>()) Q_EMIT watch->Changed();
   Hold("a");
   ExpectNear(Finger(), 960, 360);
+}
+
+// What of a gamepad's input goes on to the guest's own gamepad, in the lines of the guest.
+class PassThrough : public GamepadWindow {
+ protected:
+  PassThrough() {
+    QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &listener_,
+                     [this](const TimelineEntry& entry) {
+                       if (entry.source == TimelineEntry::Source::kLine) lines_ += entry.text;
+                     });
+  }
+  // Gives the window a keymap of gamepads with settings.
+  void LoadPads(const char* items, const char* settings) {
+    Window()->LoadJoystickKeymap(Write("joystick.yaml", items, settings));
+    TakeLines();
+  }
+  // A button from its press to its release.
+  void Click(int pad, const char* button) {
+    Window()->Pads()->SetButton(pad, QLatin1String(button), true);
+    Window()->Pads()->SetButton(pad, QLatin1String(button), false);
+  }
+  void Click(const char* button) { Click(0, button); }
+  void Pull(const char* axis, double value) {
+    Window()->Pads()->SetAxis(0, QLatin1String(axis), value);
+    Window()->Pads()->SendSticks();
+  }
+  // Since the last call.
+  QStringList TakeLines() { return std::exchange(lines_, QStringList()); }
+
+ private:
+  QStringList lines_;
+  QObject listener_;
+};
+
+TEST_F(PassThrough, WhatTheKeymapLeavesIsTheGuestsGamepad) {
+  LoadPads("{type: Click, key: Pad A, point: [0.5, 0.5]}", "settings: {joystick_transparent: true}");
+  Hold("a");
+  ExpectNear(Finger(), 640, 360);
+  LetGo("a");
+  EXPECT_EQ(TakeLines().filter("GPDBUTTON"), QStringList());
+  Hold("b");
+  EXPECT_EQ(Guest().gamepad.buttons, QSet<int>{305});
+  LetGo("b");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:305:1", "1:GPDBUTTON:305:0"}));
+  Click("dpup");
+  Click("dpright");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:HATY:-1", "1:HATY:0", "1:HATX:1", "1:HATX:0"}));
+  Pull("lefttrigger", 1);
+  Pull("lefttrigger", 0);
+  Pull("righttrigger", 1);
+  EXPECT_EQ(TakeLines(), (QStringList{"1:LTRIGGERAXIS:1", "1:LTRIGGERAXIS:0", "1:RTRIGGERAXIS:1"}));
+  Pull("leftx", 1);
+  EXPECT_EQ(TakeLines(), QStringList{"1:LSTICKAXIS:1000000:0"});
+  Pull("leftx", 0);
+  EXPECT_EQ(TakeLines(), QStringList{"1:LSTICKAXIS:0:0"});
+  Pull("righty", -1);
+  EXPECT_EQ(TakeLines(), QStringList{"1:RSTICKAXIS:0:-1000000"});
+}
+
+TEST_F(PassThrough, WithoutAKeymapOfGamepadsEverythingPasses) {
+  Click("a");
+  Click("start");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:304:1", "1:GPDBUTTON:304:0",  //
+                                      "1:GPDBUTTON:315:1", "1:GPDBUTTON:315:0"}));
+}
+
+TEST_F(PassThrough, NothingPassesUnlessTheKeymapLetsIt) {
+  LoadPads("{type: Click, key: Pad A, point: [0.5, 0.5]}", "");
+  Click("b");
+  Click("dpup");
+  Pull("lefttrigger", 1);
+  Pull("leftx", 1);
+  EXPECT_EQ(TakeLines(), QStringList());
+  EXPECT_FALSE(Guest().gamepad.used);
+}
+
+TEST_F(PassThrough, TriggersAreButtonsWhereTheKeymapSaysSo) {
+  LoadPads("", "settings: {joystick_transparent: true}\nwheel: {simulate_mode: 1}");
+  Pull("lefttrigger", 1);
+  Pull("lefttrigger", 0);
+  Pull("righttrigger", 1);
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:312:1", "1:GPDBUTTON:312:0", "1:GPDBUTTON:313:1"}));
+}
+
+TEST_F(PassThrough, AnXboxPadHasNoHomeButtonForTheGuest) {
+  Click("guide");
+  Click("touchpad");
+  EXPECT_EQ(TakeLines(), QStringList());
+}
+
+// Its buttons that have letters go by letters all the same. The touchpad is touched in the middle of 1280 x 720.
+TEST_F(PassThrough, APlayStationPadHasItsHomeButtonAndItsTouchpad) {
+  Window()->Pads()->Add(1, QStringLiteral("DualSense"), PadFamily::kPlayStation);
+  Click(1, "guide");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:316:1", "1:GPDBUTTON:316:0"}));
+  Click(1, "touchpad");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:TOUCHPADLIGHTTOUCH:640:360", "1:TOUCHPADPRESS", "1:TOUCHPADRELEASE"}));
+  Click(1, "a");
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:304:1", "1:GPDBUTTON:304:0"}));
+}
+
+// The gamepad that keys play is device 100801, and its buttons have letters and the numbers that go with them: 13 is
+// the left stick pressed, where a PlayStation has its touchpad.
+TEST_F(PassThrough, TheGamepadThatKeysPlayGoesByLetters) {
+  Window()->Pads()->Add(1, QStringLiteral("DualSense"), PadFamily::kPlayStation);
+  Load("{type: VirtualJoystickButton, key: Space, map_text: A}, {type: VirtualJoystickButton, key: W, map_text: '13'}",
+       "wheel: {virtual_joystick: true}");
+  TakeLines();
+  Press(kSpace);
+  Release(kSpace);
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:304:1", "1:GPDBUTTON:304:0"}));
+  Press(kW);
+  Release(kW);
+  EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:317:1", "1:GPDBUTTON:317:0"}));
 }
 
 TEST_F(GamepadWindow, DrawsAPadAndItsName) {
