@@ -1,5 +1,11 @@
 #include "handlers/transaction_handler.h"
 
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/story.h"
 
@@ -57,6 +63,22 @@ TEST_F(BackClick, ItsOwnDisplayDecidesOnMirroring) {
   mirrored.clear();
   Play("back 0; wait 8");  // where live input goes, but not primary
   EXPECT_TRUE(mirrored.isEmpty());
+}
+
+TEST_F(BackClick, ItsOwnDisplayDecidesOnRecording) {
+  const QTemporaryDir folder;
+  Host().primary_display = 1;
+  Load(0);
+  StartRecord("p", "a");
+  Play("back 1; wait 8; back 0; wait 8");
+  StopRecord("p", folder.filePath("record.json"));
+  QFile file(folder.filePath("record.json"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  QStringList recorded;
+  for (const QJsonValue& action : QJsonDocument::fromJson(file.readAll()).object().value("actions").toArray()) {
+    if (action["type"] == "keyboard") recorded.append(action["data"].toString());
+  }
+  EXPECT_EQ(QStringList({"keyboard_press:158", "keyboard_release:158"}), recorded);
 }
 
 }  // namespace
