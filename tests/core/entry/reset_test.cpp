@@ -1,9 +1,14 @@
 #include "core/input_status_manager.h"
 #include "keymap/tavikeymapmanager.h"
+#include "slots/curve_slot_manager.h"
+#include "slots/eye_slot_manager.h"
 #include "slots/fire_slot_manager.h"
+#include "slots/joystick_left_stick_slot_manager.h"
+#include "slots/joystick_right_stick_slot_manager.h"
 #include "slots/macro_held_input.h"
 #include "slots/macro_slot_manager.h"
 #include "slots/mouse_slot_manager.h"
+#include "slots/mouse_swipehold_slot_manager.h"
 #include "slots/mouse_wheel_slot_manager.h"
 #include "slots/mult_point_slot_manager.h"
 #include "slots/multipoint_slot_manager.h"
@@ -133,6 +138,30 @@ TEST_F(Reset, EachModeForgetsWhatIsItsOwn) {
     EXPECT_EQ(row.taps, !MultipointSlotManager::GetInstance()->HasTouch()) << row.name;
     EXPECT_EQ(row.macros, MacroSlotManager::GetInstance()->ActiveSlots().isEmpty()) << row.name;
     EXPECT_EQ(row.records, MacroHeldInput::GetInstance()->keys.IsEmpty()) << row.name;
+  }
+}
+
+TEST_F(Reset, EveryModeButThatOfMacrosForgetsTheFixedSlots) {
+  PositionSlotManager* const positions[] = {
+      EyeSlotManager::GetInstance(),
+      MouseSwipeholdSlotManager::GetInstance(),
+      SpellSlotManager::GetInstance(),
+      MouseSlotManager::GetInstance(),
+      FireSlotManager::GetInstance(),
+      JoystickLeftStickSlotManager::GetInstance(),
+      JoystickRightStickSlotManager::GetInstance(),
+  };
+  for (const int mode : {kResetInput, kResetFull, kResetAll, kResetMacro}) {
+    for (PositionSlotManager* slot : positions) slot->position = QPoint(5, 5);
+    SwipeholdSlotManager::GetInstance(0)->SetDirectionKey(kDirectionUp, true);
+    CurveSlotManager::GetInstance()->SetOffset(0.5, 0.5);
+    InputStatusManager::GetInstance()->ResetGuestState(mode, 0);
+    const bool is_left = mode == kResetMacro;
+    for (const PositionSlotManager* slot : positions) {
+      EXPECT_EQ(is_left, slot->HasTouch()) << "slot " << slot->GetSlotId() << ", mode " << mode;
+    }
+    EXPECT_EQ(is_left, SwipeholdSlotManager::GetInstance(0)->HasTouch()) << mode;
+    EXPECT_EQ(is_left, CurveSlotManager::GetInstance()->HasTouch()) << mode;
   }
 }
 
