@@ -1,4 +1,5 @@
 // When actions fall due, and what requests change about that.
+#include "record/replay_manager.h"
 #include "tests/record/replay_story.h"
 
 namespace taviinputmanager {
@@ -365,6 +366,32 @@ TEST_F(ReplayTime, ARestartForgetsWhatIsHeld) {
   TakeStory();
   Resume(7, "a.json");
   EXPECT_STORY("30ms > resumed 7 a.json");
+}
+
+// ---- Emulation ----
+
+class ReplayEmulation : public ReplayStory {
+ protected:
+  // Presses the middle of 1280 x 720 fifty times. That not one of them is moved has a chance below 1e-47.
+  int PressesOutsideTheMiddle(bool emulation_mode) {
+    Save("a.json", {TouchDown(10, 0, "(0.5,0.5)")}, {{"repeat_times", 50}});
+    Start(7, "a.json", 1.0, emulation_mode);
+    Wait(1000);
+    const QStringList presses = TakeLines().filter("SLOTPRESS");
+    EXPECT_EQ(50, presses.size());
+    return presses.size() - presses.filter(":640:360").size();
+  }
+};
+
+TEST_F(ReplayEmulation, MovesContactsWhereTheStartAsksForIt) { EXPECT_GT(PressesOutsideTheMiddle(true), 0); }
+
+TEST_F(ReplayEmulation, LeavesThemWhereTheStartDoesNot) { EXPECT_EQ(0, PressesOutsideTheMiddle(false)); }
+
+TEST_F(ReplayEmulation, IsOffWhereNothingIsSaidOfIt) {
+  for (int i = 0; i < 50; ++i) {
+    ReplayManager::GetInstance()->OnReplayEventTriggered("touch", "press_rel:(0.5,0.5)", "0", {}, 7, "a.json");
+    EXPECT_LINES("0ms 2:SLOTPRESS:18:18:1:1:640:360");
+  }
 }
 
 }  // namespace
