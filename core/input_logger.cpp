@@ -15,11 +15,18 @@ namespace {
 constexpr char kLoggerName[] = "input_logger";
 constexpr char kBaseFileName[] = "input_looger.txt";
 
-// Looked up once: the registry of loggers locks and allocates, and a key that passes through asks for the level.
-Poco::Logger& Logger() {
-  static Poco::Logger& logger = Poco::Logger::get(kLoggerName);
-  return logger;
+// By its name at each line: a host that uses the same classes may destroy loggers and set up its own.
+Poco::Logger& Logger() { return Poco::Logger::get(kLoggerName); }
+
+// The one that was set up here, kept alive. The registry locks at each look, and every key that passes through asks for
+// the level.
+Poco::Logger& OwnLogger() {
+  static Poco::AutoPtr<Poco::Logger> logger(&Logger(), true);
+  return *logger;
 }
+
+// Nobody but this file refers to it any more: lines go to whatever has its name by now.
+bool IsOwnLoggerGone() { return OwnLogger().referenceCount() == 1; }
 
 // A log that cannot be written must not stop the input: a file that does not open is no error of the caller's.
 template <typename Function>
@@ -45,8 +52,8 @@ InputLogger::InputLogger() {
   file->setProperty("purgeCount", "2");
   Poco::AutoPtr<Poco::PatternFormatter> formatter(new Poco::PatternFormatter("%L%Y-%m-%d %H:%M:%S:%i [Thread-%I]: %t"));
   Poco::AutoPtr<Poco::FormattingChannel> channel(new Poco::FormattingChannel(formatter, file));
-  Logger().setChannel(channel);
-  Logger().setLevel(Poco::Message::PRIO_ERROR);
+  OwnLogger().setChannel(channel);
+  OwnLogger().setLevel(Poco::Message::PRIO_ERROR);
 }
 
 void InputLogger::Debug(const std::string& message) {
@@ -57,6 +64,6 @@ void InputLogger::Error(const std::string& message) {
   Write([&] { Logger().error(message); });
 }
 
-bool InputLogger::IsDebugOn() const { return Logger().debug(); }
+bool InputLogger::IsDebugOn() const { return OwnLogger().debug() || IsOwnLoggerGone(); }
 
 }  // namespace taviinputmanager

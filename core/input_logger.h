@@ -15,7 +15,7 @@ class InputLogger {
   void Debug(const std::string& message);
   void Error(const std::string& message);
 
-  // Whether debug lines are kept. Ask before a line is put together on a hot path.
+  // Whether debug lines may be kept. Ask before a line is put together on a hot path.
   bool IsDebugOn() const;
 
  private:

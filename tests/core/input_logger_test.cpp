@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <Poco/AutoPtr.h>
+#include <Poco/Channel.h>
 #include <Poco/Logger.h>
 #include <Poco/Message.h>
 
@@ -93,6 +95,28 @@ TEST_F(Log, ALoadOfTheSystemKeymapSaysWhoseItIs) {
   OnLoadKeymapConfigAndInfo("", "com.android.settings", "", 7);
   EXPECT_EQ((QStringList{"use system config for: com.android.settings", "on load keymap config and info: 7"}),
             Messages());
+}
+
+// What a host put in the library's place.
+class Listener : public Poco::Channel {
+ public:
+  void log(const Poco::Message& message) override { messages.append(QString::fromStdString(message.getText())); }
+  QStringList messages;
+};
+
+// A host that uses the same classes may take loggers down and set up its own.
+TEST_F(Log, TheLoggerIsLookedUpByItsNameAtEveryLine) {
+  InputLogger::GetInstance();
+  const Poco::AutoPtr<Listener> listener(new Listener);
+  Poco::Logger::destroy("input_logger");
+  Poco::Logger::create("input_logger", listener, Poco::Message::PRIO_DEBUG);
+  SetInputTextSendFunc(nullptr);
+  EXPECT_EQ(QStringList{"SetInputTextSendFunc fail with nullptr variable"}, listener->messages);
+  Settings().keyboard_transparent = true;
+  Load();
+  Play("down W");
+  EXPECT_TRUE(listener->messages.contains("keyboard press, scan code: 17"));
+  EXPECT_EQ(QStringList(), Lines());
 }
 
 TEST_F(Log, AFolderThatCannotBeWrittenStopsNothing) {
