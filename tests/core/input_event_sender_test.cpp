@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/event_handler.h"
+#include "core/guest_command.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace taviinputmanager {
@@ -26,6 +27,7 @@ void SendEventBytes(const char* data, int length) {
 }
 void SendTextBytes(const char* data, int length) {
   texts.push_back({std::string(data, static_cast<std::size_t>(length)), length});
+  order.emplace_back("text sent");
   EXPECT_EQ('\0', data[length]);
 }
 std::string Mirrored(const QString& command, const QVector<QString>& targets) {
@@ -37,6 +39,7 @@ void SyncEvent(const QString& command, const QVector<QString>& targets) {
 }
 void SyncText(const QString& command, const QVector<QString>& targets) {
   mirrored.push_back("text " + Mirrored(command, targets));
+  order.emplace_back("text mirrored");
 }
 
 class Sender : public testing::Test {
@@ -103,6 +106,8 @@ TEST_F(Sender, HelpersDropEmptyCommands) {
   EventHandler handler;
   handler.SendEvent(QString());
   handler.SendEventTo(QString(), 2);
+  handler.SendEvent(LineBuffer());
+  handler.SendEventTo(LineBuffer(), 2);
   handler.SendText(QString());
   EXPECT_TRUE(events.empty());
   EXPECT_TRUE(texts.empty());
@@ -116,6 +121,19 @@ TEST_F(Sender, MirrorsThePrimaryDisplayAfterSending) {
   OnInputRawEventData("KBDPR:30:1\n", 2);
   EXPECT_EQ((std::vector<std::string>{"KBDPR:30:1\n>one+two"}), mirrored);
   EXPECT_EQ((std::vector<std::string>{"sent", "mirrored"}), order);
+}
+
+TEST_F(Sender, MirrorsALineOfItsOwnAsItMirrorsRawData) {
+  Mirror();
+  StartSync("one", "", "");
+  EventHandler handler;
+  handler.SendEventTo(guest_command::KeyPress(30), 2);
+  handler.SendEventTo(guest_command::KeyRelease(30), 1);  // no primary display
+  ASSERT_EQ(2U, events.size());
+  EXPECT_EQ(std::string("2:KBDPR:30:1\n\0", 14), events[0].bytes);
+  EXPECT_EQ(13, events[0].length);
+  EXPECT_EQ((std::vector<std::string>{"KBDPR:30:1\n>one"}), mirrored);
+  EXPECT_EQ((std::vector<std::string>{"sent", "mirrored", "sent"}), order);
 }
 
 TEST_F(Sender, DoesNotMirrorAnotherDisplay) {
@@ -141,6 +159,7 @@ TEST_F(Sender, MirrorsEveryText) {
   StartSync("one", "", "");
   OnInputRawTextData("TEXT:a\n");
   EXPECT_EQ((std::vector<std::string>{"text TEXT:a\n>one"}), mirrored);
+  EXPECT_EQ((std::vector<std::string>{"text sent", "text mirrored"}), order);
 }
 
 TEST_F(Sender, MirrorsNothingWithoutTarget) {

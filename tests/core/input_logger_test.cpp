@@ -1,10 +1,14 @@
 #include "core/input_logger.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -119,10 +123,45 @@ TEST_F(Log, TheLoggerIsLookedUpByItsNameAtEveryLine) {
   EXPECT_EQ(QStringList(), Lines());
 }
 
+// Two lines of 64 K and a bit fill a file each time; of the four that are full the last two are kept.
+TEST_F(Log, AFullFileIsPutAwayAndTwoOfThemAreKept) {
+  constexpr int kRotation = 64 * 1024;  // bytes
+  const std::string half(kRotation / 2, 'x');
+  for (int i = 0; i < 9; ++i) InputLogger::GetInstance()->Error(half);
+  const QString name = QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid());
+  const QFileInfoList files = QDir().entryInfoList(QDir::Files, QDir::Name);
+  ASSERT_EQ(3, files.size());
+  EXPECT_EQ(name, files[0].fileName());
+  EXPECT_EQ(1, Lines().size());  // the ninth
+  const QRegularExpression archive(QStringLiteral("^%1\\.\\d{17}(\\.\\d+)?$").arg(QRegularExpression::escape(name)));
+  for (const QFileInfo& file : files.mid(1)) {
+    EXPECT_TRUE(archive.match(file.fileName()).hasMatch()) << file.fileName().toStdString();
+    EXPECT_GT(file.size(), kRotation);
+  }
+}
+
 TEST_F(Log, AFolderThatCannotBeWrittenStopsNothing) {
   QDir::setCurrent(QStringLiteral("/proc/self"));
   SetInputTextSendFunc(nullptr);
   SetInputTextSendFunc(nullptr);
+}
+
+// Without a story: the logger must not be there yet when the second process begins.
+TEST(LogOfTwoProcesses, HasTwoFiles) {
+  const QTemporaryDir folder;
+  QDir::setCurrent(folder.path());
+  EXPECT_EXIT(
+      {
+        SetInputTextSendFunc(nullptr);
+        std::_Exit(0);
+      },
+      testing::ExitedWithCode(0), "");
+  SetInputTextSendFunc(nullptr);
+  SetInputEventSendFunc(nullptr);
+  const QFileInfoList files = QDir().entryInfoList({QStringLiteral("input_looger.txt_*")}, QDir::Files, QDir::Size);
+  ASSERT_EQ(2, files.size());
+  EXPECT_EQ(QStringLiteral("input_looger.txt_%1").arg(getpid()), files[0].fileName());  // the larger, of two lines
+  QDir::setCurrent(QStringLiteral("/"));
 }
 
 }  // namespace

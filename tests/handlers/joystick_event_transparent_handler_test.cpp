@@ -293,10 +293,12 @@ TEST_F(TransparentGamepad, SimulateModeIsThatOfTheGamepadsKeymap) {
 }
 
 TEST_F(TransparentGamepad, ButtonsOfMacrosGetHereToo) {
+  Host().table.GetJoystickType = KindOfAskedDevice;
   LoadTransparent();
   InputManager::GetInstance()->DispatchVirtualJoystickButton("joystick", "Start", true);
   InputManager::GetInstance()->DispatchVirtualJoystickButton("joystick", "Start", false);
   EXPECT_WIRE("0ms 1:GPDBUTTON:315:1", "0ms 1:GPDBUTTON:315:0");
+  EXPECT_EQ(999, asked_device);
 }
 
 TEST_F(TransparentGamepad, AForcedTransparentDisplayChangesNothing) {

@@ -60,6 +60,9 @@ TEST_F(TextField, OtherControlKeysAreClicks) {
               TakeWire())
         << row.key;
   }
+  Press(349, "");   // the menu key
+  Press(158, "b");  // the guest's own back key
+  EXPECT_WIRE("0ms 1:KBDPR:139:1", "0ms 1:KBDRL:139:0", "0ms 1:KBDPR:158:1", "0ms 1:KBDRL:158:0");
 }
 
 TEST_F(TextField, AClickLeavesNothingHeld) {

@@ -135,6 +135,15 @@ TEST_F(SimulateHandler, AnItemOfUnknownTypeCountsAsUnmapped) {
   EXPECT_WIRE("0ms 1:KBDPR:17:1", "0ms 1:KBDRL:17:0");
 }
 
+TEST_F(SimulateHandler, AnItemThatDoesNothingHidesThoseBehindIt) {
+  Settings().keyboard_transparent = true;
+  Add<FireConfigItem>("Fire", "W", {0.25, 0.5});
+  Add<ConfigItem>("Click", "W", {0.75, 0.5});
+  Load();
+  Play("down W; up W");
+  EXPECT_WIRE("0ms 1:KBDPR:17:1", "0ms 1:KBDRL:17:0");
+}
+
 TEST_F(SimulateHandler, AReleaseWithoutPressReachesTheItem) {
   Add<ConfigItem>("Click", "W", {0.25, 0.5});
   Load();
@@ -158,6 +167,23 @@ TEST_F(SimulateHandler, AChordNeedsItsFirstKeyHeld) {
   EXPECT_WIRE_NONE();
   Play("down E; down Q");  // the wrong way round
   EXPECT_WIRE_NONE();
+}
+
+TEST_F(SimulateHandler, TheReleaseOfItsFirstKeyDisarmsAChordThatIsDown) {
+  AddChord("Q", "E", {0.5, 0.5});
+  Load();
+  Play("down Q; down E; up Q; up E");
+  Forget();
+  Play("down E; up E");
+  EXPECT_WIRE_NONE();
+}
+
+TEST_F(SimulateHandler, TheFirstOfTwoChordsWins) {
+  AddChord("Q", "E", {0.25, 0.5});
+  AddChord("Q", "E", {0.75, 0.5});
+  Load();
+  Play("down Q; down E");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:320:360");
 }
 
 TEST_F(SimulateHandler, AMappedKeyBetweenLeavesTheChordArmed) {

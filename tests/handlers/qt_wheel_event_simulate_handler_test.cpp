@@ -2,6 +2,7 @@
 
 #include <QWheelEvent>
 
+#include "core/input_status_manager.h"
 #include "handlers/simulator_table.h"
 #include "keymap/tavikeymapmanager.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -110,12 +111,24 @@ TEST_F(Wheel, WithoutKeymapAnAppScrolls) {
   EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
 }
 
-// An own package loads the system keymap, which counts as a keymap, so that the plain wheel takes an empty path with a
-// package that is own only later. The handler is asked itself.
+// An app of the system is loaded with the system keymap, which counts as a keymap.
 TEST_F(Wheel, AnAppOfTheSystemHasAKeymap) {
   LoadNothing("com.android.settings");
   Play("wheel +120 640,360");
   EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
+}
+
+// No load leads here, so the status is told by hand. The third field is the place once more, with the turn's sign.
+TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
+  LoadNothing("com.example");
+  const tavikeymapmanager::KeymapConfig none;
+  InputStatusManager::GetInstance()->ResetForKeymap(&none, "com.android.settings", "", false, 0, 1);
+  Host().window = {0, 0, 640, 360};  // half the touch surface: 100,50 is 200,100
+  Forget();
+  Play("wheel +120 100,50; wheel -120 100,50; wheel 0 100,50");
+  EXPECT_WIRE("0ms 1:WHEEL:200:100:200:100", "0ms 1:WHEEL:200:100:-200:100", "0ms 1:WHEEL:200:100:-200:100");
+  Play("down Left Ctrl; wheel +120 100,50; up Left Ctrl");
+  EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
 }
 
 TEST_F(Wheel, MovesAreSwallowedWhileItsGestureRuns) {

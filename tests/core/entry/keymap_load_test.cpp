@@ -136,6 +136,23 @@ TEST_F(KeymapLoad, InitializeReportsEscapeThenLoadsBothKeymaps) {
                "0ms escape_occupied 0", "0ms gravity 0 0 0");
 }
 
+// The handler takes the keymap before the reset forgets the armed key: the new keymap is asked about that key first.
+TEST_F(KeymapLoad, AnArmedKeyIsForgottenAfterTheFreshKeymapWasAskedAboutIt) {
+  Load();
+  Play("down E");
+  auto* config = new KeymapConfig;
+  auto* chord = new tavikeymapmanager::ComposableConfigItem;
+  chord->type = "Click";
+  chord->first_key = Key("E");
+  chord->key = Key("Esc");
+  config->items.append(chord);
+  test::SetNextKeymap(config);
+  Forget();
+  OnLoadKeymapConfigAndInfo("b.yaml", "p", "", 1);
+  EXPECT_CALLS("0ms virtual_joystick 0", "0ms escape_occupied 1", "0ms status 0", "0ms escape_occupied 0",
+               "0ms gravity 0 0 0");
+}
+
 TEST_F(KeymapLoad, NullItemsAreSkipped) {
   auto* config = new KeymapConfig;
   config->items = {nullptr, nullptr};

@@ -138,6 +138,15 @@ TEST_F(Routes, SelectsTheSideOfAMouseButton) {
   }
 }
 
+TEST_F(Routes, AnotherButtonWhileTheLeftIsHeldGoesWhereTheLeftGoes) {
+  Settings().mouse_mode = "Mouse_OtherButton_Transparent";
+  Load();
+  Play("mouse down left 10,10; mouse down right 10,10; mouse up right 10,10; mouse up left 10,10");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:1:1:1:1:10:10", "0ms 1:SLOTRELEASE:1");
+  Play("mouse down right 10,10; mouse up right 10,10");
+  EXPECT_WIRE("0ms 1:KBDPR:273:1", "0ms 1:KBDRL:273:0");
+}
+
 // A move has no button of its own: the buttons held decide.
 TEST_F(Routes, AMoveWithTheLeftButtonHeldIsALeftMove) {
   Settings().mouse_mode = "Mouse_OtherButton_Transparent";
