@@ -242,6 +242,16 @@ TEST_F(View, TheFirstKeyToGoUpGivesTheCountsToTheView) {
   EXPECT_WIRE(FireAt(40, 962, 542), FireUp(40), ViewAt(40, 640, 360));
 }
 
+TEST_F(View, AStrayReleaseOfTheObserveKeyTakesTheCountsFromTheFireKey) {
+  AddStaring();
+  AddFire();
+  AddObserve();
+  Stare();
+  PressFire();
+  Play("rel 2,2; up E; rel 3,3; rel 4,4");
+  EXPECT_WIRE(FireAt(0, 960, 540), ViewUp(0), FireAt(0, 962, 542), ViewUp(0), ViewAt(0, 640, 360), ViewAt(0, 644, 364));
+}
+
 TEST_F(View, WorkersAreConnectedOnce) {
   AddStaring();
   AddFire();

@@ -75,6 +75,19 @@ TEST_F(Eye, ASecondKeyOnlyChangesTheDirection) {
   EXPECT_WIRE(Up(32));
 }
 
+TEST_F(Eye, StepHomeAndWindowAreThoseOfTheFirstKey) {
+  AddEyeAt(1260, 360);
+  auto* other = Add<EyeConfigItem>("Eye", "", {0.25, 0.25});
+  other->key_up = Key("E");
+  other->speed = 1000;
+  Load();
+  Play("down D");
+  Host().display = QRect(0, 0, 640, 360);
+  Play("wait 4; down E; wait 20");
+  // Inside the old window up to x = 1275; 1276 lifts, and the next tick steps by (8, -8) from the first key's home.
+  EXPECT_WIRE(At(0, 1260, 360), At(8, 1268, 352), Up(16), At(24, 1268, 352));
+}
+
 TEST_F(Eye, OppositeKeysStandStillAndTickOn) {
   AddEye();
   Load();

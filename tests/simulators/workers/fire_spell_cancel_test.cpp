@@ -120,6 +120,23 @@ TEST_F(Fire, ASecondSpellCancelDoesNotPutTheLiftOff) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(Fire, TheLiftOfASpellCancelTakesALaterHoldOffTheButton) {
+  AddStaring();
+  AddFire()->cancel_swipe_steps = 1;
+  StartFiring();
+  PressSpellCancel(100);
+  ReleaseFire();
+  Wait(50);
+  PressFire();
+  Forget();
+  Wait(49);
+  EXPECT_WIRE_NONE();
+  Wait(1);
+  EXPECT_WIRE("100ms 1:SLOTRELEASE:3");
+  Play("rel 5,5");  // the key still holds it, and the counts bring it back
+  EXPECT_WIRE("100ms 1:SLOTPRESS:3:3:1:1:965:545");
+}
+
 TEST_F(Fire, ASecondSpellCancelWithoutDelayLeavesTheLiftToTheFirst) {
   AddStaring();
   AddFire()->cancel_swipe_steps = 1;
