@@ -11,10 +11,16 @@ namespace taviinputmanager {
 using guest_command::Contacts;
 using guest_command::Slots;
 
+namespace {
+
+constexpr int kPoolSize = 8;  // more fingers than these cannot hold one point
+
+}  // namespace
+
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
-  // Once is enough: at the end a point is lifted once, however often it was pressed, and a loop may press for hours.
-  if (!pressed_points_.contains(list.text)) pressed_points_.append(list.text);
+  // At the end each press lifts one finger that its point has. A loop may press for hours.
+  if (pressed_points_.count(list.text) < kPoolSize) pressed_points_.append(list.text);
   Contacts contacts;
   for (const MacroPoint& element : list.elements) {
     const QPointF point = element.Now();

@@ -42,7 +42,7 @@ class MacroFingers {
   LineBuffer ReleaseElements(const QVector<MacroPoint>& elements);
 
   QPointF mouse_point_;         // of the last press at "mouse"; null when none is held
-  QStringList pressed_points_;  // each list that was pressed, as a whole and once
+  QStringList pressed_points_;  // the list of each press, as a whole; of equal ones as many as can matter
 };
 
 }  // namespace taviinputmanager

@@ -161,6 +161,19 @@ TEST_F(MacroFinger, TheEndLiftsPressesOfOnePoint) {
   EXPECT_EQ((QSet<int>{19, 20}), MacroSlotManager::GetInstance()->ActiveSlots());
 }
 
+// The placeholder of a finger that is taken by number is the point (1, 1): each press there lifts one finger that has
+// it.
+TEST_F(MacroFinger, TheEndLiftsAFingerForEachPressOfItsPoint) {
+  for (const int presses : {1, 2}) {
+    MacroFingers fingers;
+    for (int i = 0; i < presses; ++i) fingers.Press("(1,1)");
+    MacroSlotManager::GetInstance()->Reserve(19);
+    EXPECT_EQ(presses == 1 ? "SLOTMULTIRELEASE:18\n" : "SLOTMULTIRELEASE:18:19\n",
+              fingers.ReleasePressed().toStdString());
+    MacroSlotManager::GetInstance()->Reset();
+  }
+}
+
 TEST_F(MacroFinger, TheEndLiftsThePressAtThePointer) {
   Time().SetPointer({640, 360});
   MacroFingers fingers;
