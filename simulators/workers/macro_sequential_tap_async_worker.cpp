@@ -84,7 +84,8 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
 
 void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
   if (loop_.IsUntilRelease()) return loop_.EndSoon();
-  if (depth_ > 0 && inner_releases_++ >= kMaxInnerReleases) return;
+  // A list that is over cannot come back to itself: whoever releases it then has an end of its own.
+  if (depth_ > 0 && program_ && inner_releases_++ >= kMaxInnerReleases) return;
   const CallScope scope(&depth_, &inner_releases_);
   key_name_ = item->key.text;
   state_ = State::kRelease;

@@ -28,8 +28,8 @@ namespace taviinputmanager {
 //
 // A command may inject input which comes back here before it returns: the release of this macro's own key, or a reset
 // that discards this worker. All calls share one place in the list, so an inner run that pauses is carried on by the
-// outer one at once. Beyond a few releases inside one call a further one is dropped. Lists are copied (they share their
-// text), and read once for all the times that they run; no item is kept beyond a call.
+// outer one at once. Beyond a few releases of a list in progress inside one call a further one is dropped. Lists are
+// copied (they share their text), and read once for all the times that they run; no item is kept beyond a call.
 //
 // Main thread. The simulator owns it.
 class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {

@@ -175,6 +175,15 @@ TEST_F(MacroWorker, AReleaseListThatPausesAndReleasesItsOwnKeyComesToAnEnd) {
   EXPECT_WIRE("105ms text TEXT:a");
 }
 
+// Each of them finds the list at its end, so that none comes back to itself.
+TEST_F(MacroWorker, AnotherMacroMayReleaseItManyTimesInOneCommand) {
+  Macro({"start_loop:10", "keyboard_release:59", "next", "stop_loop", "text_inject:b"}, {}, "F2");
+  Run({"keyboard_press:60"}, {"text_inject:a"});
+  const QStringList lines = TakeWire();
+  EXPECT_EQ(10, lines.count("0ms text TEXT:a"));
+  EXPECT_EQ("0ms text TEXT:b", lines.last().toStdString());
+}
+
 TEST_F(MacroWorker, ReleaseListsThatPauseAndReleaseEachOtherComeToAnEnd) {
   Macro({}, {"keyboard_release:59"}, "F2");
   Run({}, {"sleep:5", "keyboard_release:60", "text_inject:a"});
