@@ -32,6 +32,15 @@ class SwipeholdInnerWalk : public SwipeholdStory {
     simulator_->EntrustToInner();
   }
 
+  // The inner walk has taken over the keys of `flags`, and its finger rests. It is 200 ms.
+  void RestInside(const QPoint& flags) {
+    const SwipeholdConfigItem item = MakeInner();
+    inner_->SetItem(&item);
+    inner_->ReplayDirections(flags);
+    Play("wait 200");
+    Forget();
+  }
+
   static QString In(int ms, int x, int y) { return At(ms, x, y, kInnerSlot); }
 
   SwipeholdEventSimulator* simulator_ = SwipeholdEventSimulator::GetInstance();
@@ -248,6 +257,67 @@ TEST_F(SwipeholdInnerWalk, TheKeysOfAGamepadAreTakenOverAsRight) {
   inner_->ReplayDirections({0, 16});
   Play("wait 32");
   EXPECT_WIRE(In(0, 1024, 360), In(32, 1035, 360));
+}
+
+// 64 pixels in 6 steps: 10.7, and backwards -10.7.
+TEST_F(SwipeholdInnerWalk, TakesOverEachDirectionByItsKey) {
+  const struct {
+    QPoint flags;
+    QPoint first_step;
+  } rows[] = {
+      {{0, 16}, {1024, 349}},
+      {{0, 1}, {1024, 371}},
+      {{16, 0}, {1013, 360}},
+      {{1, 0}, {1035, 360}},
+  };
+  Load();
+  const SwipeholdConfigItem item = MakeInner();
+  inner_->SetItem(&item);
+  int ms = 0;
+  for (const auto& row : rows) {
+    inner_->ReplayDirections(row.flags);
+    EXPECT_EQ(row.flags, inner_->GetDirections());
+    Play("wait 32");
+    ms += 32;
+    EXPECT_EQ(In(ms, row.first_step.x(), row.first_step.y()), TakeWire().last());
+    inner_->StopAndRelease();
+  }
+}
+
+// Up is pressed before down, and left before right.
+TEST_F(SwipeholdInnerWalk, OfOppositeKeysDownAndRightAreTheLast) {
+  Load();
+  SwipeholdConfigItem item = MakeInner();
+  item.press_mode = "Click";
+  item.opposite_keys_mode = "Just_Use_Last";
+  inner_->SetItem(&item);
+  inner_->ReplayDirections({0, 17});
+  Play("wait 32");
+  EXPECT_WIRE(In(0, 1024, 360), In(32, 1024, 424));
+  inner_->StopAndRelease();
+  inner_->ReplayDirections({17, 0});
+  Play("wait 32");
+  EXPECT_WIRE(Up(32, kInnerSlot), In(32, 1024, 360), In(64, 1088, 360));
+}
+
+// It forgets all keys, and presses those of the axes that differ.
+TEST_F(SwipeholdInnerWalk, TakesOverOnlyTheAxisThatDiffers) {
+  Load();
+  RestInside({0, 16});
+  inner_->ReplayDirections({1, 16});
+  EXPECT_EQ(QPoint(1, 0), inner_->GetDirections());
+  Play("wait 32");
+  EXPECT_WIRE(In(200, 1024, 360), In(232, 1035, 360));
+}
+
+TEST_F(SwipeholdInnerWalk, KeepsItsKeysWhereThereIsNoneToPress) {
+  Load();
+  RestInside({1, 16});
+  inner_->ReplayDirections({0, 16});  // right differs, and is not among the keys to take over
+  inner_->ReplayDirections({0, 0});
+  EXPECT_EQ(QPoint(1, 16), inner_->GetDirections());
+  Play("wait 500");
+  EXPECT_WIRE_NONE();
 }
 
 TEST_F(SwipeholdInnerWalk, ItemsOfAnotherKindAreIgnored) {

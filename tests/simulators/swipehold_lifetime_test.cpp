@@ -14,10 +14,6 @@ using tavikeymapmanager::SwipeholdConfigItem;
 
 class SwipeholdLifetime : public SwipeholdStory {
  protected:
-  void Reset() {
-    Play("reset");
-    Forget();
-  }
   // Another keymap, whose stick is at (1280 * 0.6, 360) = (768, 360). Time zero is now.
   SwipeholdConfigItem* LoadAnother() {
     SwipeholdConfigItem* item = AddWalk({0.6, 0.5});
@@ -89,6 +85,30 @@ TEST_F(SwipeholdLifetime, AKeyAfterAResetBeginsANewWalk) {
   Reset();
   Play("down D; wait 32");
   EXPECT_WIRE(At(200, 256, 360), At(232, 277, 360));
+}
+
+// The old move ends where the new key points, and the slide goes on from its own place.
+TEST_F(SwipeholdLifetime, ANewWalkLeavesAMoveThatGoesOnToItsTime) {
+  AddWalk();
+  Load();
+  RestAt("W");
+  Play("down D; wait 10");
+  Reset();
+  Play("down A; wait 32");
+  EXPECT_WIRE(At(210, 256, 360), At(216, 302, 251), At(224, 324, 260), At(232, 128, 360), At(242, 235, 360));
+}
+
+TEST_F(SwipeholdLifetime, AResetClickLiftsAtItsTime) {
+  AddWalk()->press_mode = "Click";
+  Load();
+  Play("down W; wait 10");
+  Reset();
+  Play("wait 21");
+  EXPECT_WIRE_NONE();
+  Play("wait 1");
+  EXPECT_WIRE(Up(32));
+  Play("wait 500");
+  EXPECT_WIRE_NONE();
 }
 
 // ---- The radius switch ----

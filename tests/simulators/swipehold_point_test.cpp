@@ -79,6 +79,17 @@ TEST_F(SwipeholdPoint, TheRestOnTheCentreIsLettingGoTwice) {
   EXPECT_EQ((Points{{0, 0}}), TakePoints());
 }
 
+TEST_F(SwipeholdPoint, AStopFromOutsideIsNoNews) {
+  AddWalk();
+  Load();
+  RestAt("D");
+  TakePoints();
+  SwipeholdAsyncWorker::GetInstance(0)->StopAndRelease();
+  EXPECT_WIRE(Up(200));
+  EXPECT_EQ(Points(), TakePoints());
+  EXPECT_EQ(QPointF(0, 0), Query());
+}
+
 TEST_F(SwipeholdPoint, AWiggleIsNoNews) {
   SwipeholdConfigItem* item = AddWalk();
   item->compensate = true;

@@ -258,6 +258,24 @@ TEST_F(SwipeholdSlide, AClickLetGoInTimeMakesNoMove) {
   EXPECT_WIRE(Up(32));
 }
 
+// Whether it is a click says the item that the walk began with: the other's is at (768, 360).
+TEST_F(SwipeholdSlide, AKeyOfAnotherItemMakesNoClickOfItNorASlideOfAClick) {
+  for (const bool is_click : {false, true}) {
+    AddWalk()->press_mode = is_click ? "Move" : "Click";
+    auto* first = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});
+    SetKeys(first, "I", "J", "K", "L");
+    first->press_mode = is_click ? "Click" : "Move";
+    Load();
+    Play("down I; wait 10; down D; wait 32");
+    if (is_click) {
+      EXPECT_WIRE(At(0, 768, 360), At(32, 859, 269));
+    } else {
+      EXPECT_WIRE(At(0, 768, 360), At(32, 783, 345));  // 91 / 6 = 15.2
+    }
+    Play("up D; up I; wait 500");
+  }
+}
+
 TEST_F(SwipeholdSlide, AnyNumberOfStepsMayBeAskedFor) {
   AddWalk()->first_press_steps = 2000000000;
   Load();

@@ -37,6 +37,11 @@ class SwipeholdStory : public Story {
     Forget();
   }
 
+  void Reset() {
+    Play("reset");
+    Forget();
+  }
+
   static QString At(int ms, int x, int y, int slot = 2) {
     return QStringLiteral("%1ms 1:SLOTPRESS:%2:%2:1:1:%3:%4").arg(ms).arg(slot).arg(x).arg(y);
   }

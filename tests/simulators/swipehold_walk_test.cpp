@@ -1,4 +1,5 @@
 // A walk after its first slide: changes of keys, the rest on the centre, the gap between two walks.
+#include "simulators/workers/swipehold_async_worker.h"
 #include "tests/simulators/swipehold_story.h"
 
 namespace taviinputmanager {
@@ -226,6 +227,32 @@ TEST_F(SwipeholdWalk, TheGapIsNotAskedForWithinAWalk) {
   Forget();
   Play("down D; wait 32");  // during the slide
   EXPECT_WIRE(At(332, 271, 345));
+}
+
+TEST_F(SwipeholdWalk, AWalkStoppedFromOutsideLeavesNoGap) {
+  AddWalk()->press_gap_ms = 50;
+  Load();
+  Play("wait 50");
+  RestAt("W");
+  SwipeholdAsyncWorker::GetInstance(0)->StopAndRelease();
+  Play("down D");
+  EXPECT_WIRE(Up(250), At(250, 256, 360));
+}
+
+// The rest on the centre ends at 250. The walk at 260 keeps no gap after it, since the one before rested; that at 270
+// keeps none either, since the rest's end is no release to count from.
+TEST_F(SwipeholdWalk, TheEndOfTheRestStartsNoGap) {
+  AddWalk()->hold_center_ms = 50;
+  auto* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});
+  SetKeys(other, "I", "J", "K", "L");
+  other->press_gap_ms = 100;
+  Load();
+  RestAt("W");
+  Play("up W; wait 60; down I");
+  EXPECT_WIRE(At(200, 256, 360), Up(250), At(260, 768, 360));
+  SwipeholdAsyncWorker::GetInstance(0)->StopAndRelease();
+  Play("wait 10; down L");
+  EXPECT_WIRE(Up(260), At(270, 768, 360));
 }
 
 // ---- Transparent ----

@@ -1,5 +1,6 @@
 // The wiggle of a finger that has reached its target.
 #include "core/input_status_manager.h"
+#include "simulators/workers/swipehold_async_worker.h"
 #include "tests/simulators/swipehold_story.h"
 
 namespace taviinputmanager {
@@ -103,6 +104,22 @@ TEST_F(SwipeholdWiggle, NoStepMakesNoWiggle) {
   EXPECT_WIRE_NONE();
 }
 
+// One tick all the same, at t = 0: y = -1/4, times 64.
+TEST_F(SwipeholdWiggle, NoStepAlongTwoCurvesIsOneTick) {
+  for (const int steps : {0, -1}) {
+    SwipeholdConfigItem* item = AddWigglingWalk();
+    item->compensate_steps = steps;
+    item->curve_x = "X";
+    item->curve_y = "X2";
+    item->offset_y = -0.25;
+    Load();
+    Arrive();
+    Play("wait 500");
+    EXPECT_WIRE(At(120, 384, 344));
+    Play("up D");
+  }
+}
+
 TEST_F(SwipeholdWiggle, AReleaseStopsIt) {
   AddWigglingWalk();
   Load();
@@ -134,6 +151,15 @@ TEST_F(SwipeholdWiggle, AMoveStopsIt) {
   EXPECT_WIRE(At(163, 347, 269), At(171, 324, 292));
 }
 
+// It has put the finger on (352, 360), and the move sets out from (384, 360) all the same: (-9.25, -22.75) a tick.
+TEST_F(SwipeholdWiggle, AMoveStartsFromWhereTheFingerRested) {
+  AddWigglingWalk();
+  Load();
+  Arrive();
+  Play("wait 17; down W; wait 8");
+  EXPECT_WIRE(At(120, 384, 360), At(128, 352, 360), At(137, 375, 337));
+}
+
 TEST_F(SwipeholdWiggle, AJumpStartsItAnew) {
   AddWigglingWalk()->subsequent_mode = "Click";
   Load();
@@ -149,6 +175,59 @@ TEST_F(SwipeholdWiggle, EndsWhenANewWalkBegins) {
   Arrive();
   Play("wait 10; up D; wait 2; down D; wait 31");
   EXPECT_WIRE(At(120, 384, 360), At(122, 256, 360), At(124, 256, 360));
+}
+
+// ---- A reset forgets the keys and lets it go on; what comes then ends it. ----
+
+// Its tick at 128 is within the slide of the new walk.
+TEST_F(SwipeholdWiggle, ASlideStopsIt) {
+  AddWigglingWalk();
+  Load();
+  Arrive();
+  Play("wait 10");
+  Reset();
+  Play("down D; wait 32");
+  EXPECT_WIRE(At(122, 256, 360), At(154, 277, 360));
+}
+
+// The move from 150 on runs through the reset, and ends without keys at 182. The tick at 212 is within the rest on the
+// centre.
+TEST_F(SwipeholdWiggle, TheRestOnTheCentreStopsIt) {
+  SwipeholdConfigItem* item = AddWigglingWalk();
+  item->compensate_interval_ms = 100;
+  item->hold_center_ms = 100;
+  Load();
+  Arrive();
+  Play("wait 38; down W; wait 10");
+  Reset();
+  Play("wait 500");
+  EXPECT_WIRE(At(166, 366, 315), At(174, 356, 292), At(182, 256, 360), Up(282));
+}
+
+// Its tick at 212 finds the finger of the new walk at rest.
+TEST_F(SwipeholdWiggle, EndsInANewWalkThatHasNone) {
+  AddWigglingWalk()->compensate_interval_ms = 100;
+  auto* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});
+  SetKeys(other, "I", "J", "K", "L");
+  other->press_mode = "Click";
+  other->first_press_delay_ms = 1;
+  Load();
+  Arrive();
+  Reset();
+  Play("down L; wait 500");
+  EXPECT_WIRE(At(112, 768, 360), At(113, 896, 360));
+}
+
+TEST_F(SwipeholdWiggle, AReleaseThatIsIgnoredStopsItToo) {
+  SwipeholdConfigItem* item = AddWigglingWalk();
+  Load();
+  Arrive();
+  Play("wait 10");
+  Reset();
+  tavikeymapmanager::ConfigKey key = Key("D");
+  SwipeholdAsyncWorker::GetInstance(0)->Release(item, &key);
+  Play("wait 500");
+  EXPECT_WIRE_NONE();
 }
 
 TEST_F(SwipeholdWiggle, IsNotMovedByTheRadiusSwitch) {
