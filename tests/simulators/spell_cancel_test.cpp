@@ -309,6 +309,22 @@ TEST_F(SpellAfterCast, StopsTheLeftStickForAGamepad) {
   EXPECT_WIRE(At(0, 960, 540), Lift(0), "0ms 1:SLOTRELEASE:8");
 }
 
+TEST_F(SpellAfterCast, AStoppedLeftStickWaitsForItsRest) {
+  AddSpell(keywords::kTriggerOnRelease, keywords::kLocationMouse, "Pad A")->stop_walk_after_cast = true;
+  auto* stick = Add<tavikeymapmanager::JoystickLeftWalkConfigItem>("LeftStickWalk", "Pad Left_Stick", {0.25, 0.5});
+  stick->walk_radius = 0.1;
+  LoadJoystick();
+  Load();
+  Play("joy axis 0 0.125,0; joy down A");  // 24 ms
+  Forget();
+  Play("joy up A");
+  EXPECT_WIRE(Lift(24), "24ms 1:SLOTRELEASE:8");
+  Play("joy axis 0 1,0; joy axis 0 0,1");
+  EXPECT_WIRE_NONE();
+  Play("joy axis 0 0,0; joy axis 0 0.125,0");
+  EXPECT_WIRE("24ms 1:SLOTRELEASE:8", "24ms 1:SLOTPRESS:8:8:1:1:320:360", "40ms 1:SLOTPRESS:8:8:1:1:336:360");
+}
+
 TEST_F(SpellAfterCast, NothingStopsWithoutACast) {
   const struct {
     const char* name;

@@ -139,6 +139,14 @@ TEST_F(SpellStick, TriggersThatDoNotAimWithholdTheStick) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(SpellStick, OnPressThatStaysInForceWithholdsItToo) {
+  AddAimed(keywords::kTriggerOnPress)->touch_location = keywords::kLocationMousePosition;
+  LoadBoth();
+  Play("joy down A; joy axis 1 1,0");
+  EXPECT_WIRE_NONE();
+  EXPECT_TRUE(SpellEventSimulator::GetInstance()->IsSpellActive());
+}
+
 TEST_F(SpellStick, ASpellOfTheKeyboardDoesNotListenToTheStick) {
   AddSpell(keywords::kTriggerOnRelease, keywords::kLocationMouse);
   Load();
@@ -170,6 +178,13 @@ TEST_F(SpellStick, OnPressOfTheGamepadIsNotFiredByTheWalk) {
   EXPECT_TRUE(SpellEventSimulator::GetInstance()->IsSpellActive());
   Play("joy down A");  // the finger again; the item in force stays
   EXPECT_WIRE(At(0, 960, 540));
+}
+
+TEST_F(SpellStick, OnPressOfTheGamepadGoesByThePointerAndStopsTheStick) {
+  AddAimed(keywords::kTriggerOnPress)->stop_walk_after_cast = true;
+  LoadBoth();
+  Play("joy down A");
+  EXPECT_WIRE(At(0, 960, 540), At(0, 980, 540), Lift(0), "0ms 1:SLOTRELEASE:8");
 }
 
 TEST_F(SpellStick, ASpellOfTheGamepadDoesNotListenToRelativeCounts) {

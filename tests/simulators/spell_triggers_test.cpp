@@ -114,6 +114,17 @@ TEST_F(SpellTriggers, OnPressAtAnyOtherLocationIsActiveAndDoesNothing) {
   EXPECT_TRUE(IsActive());
 }
 
+TEST_F(SpellTriggers, OnPressFollowsNoPointerAndIsNotFinished) {
+  AddSpell(keywords::kTriggerOnPress, keywords::kLocationMousePosition)->mode = keywords::kModeCurve;
+  AddSpell(keywords::kTriggerImmediate, keywords::kLocationMousePosition, "E");
+  Load();
+  Play("down Q; wait 100");
+  EXPECT_WIRE_NONE();
+  EXPECT_TRUE(IsActive());
+  Play("down E");
+  EXPECT_WIRE(At(100, 960, 540));
+}
+
 TEST_F(SpellTriggers, OnPressOnTheInnerWalkIsATap) {
   AddSpell(keywords::kTriggerOnPress, keywords::kLocationInnerSwipehold);
   Load();
@@ -314,6 +325,7 @@ TEST_F(SpellTriggers, AClickCastsOnlyOnNextAndOnlyWhereTheItemSaysSo) {
       {keywords::kTriggerOnNext, false},
       {keywords::kTriggerOnRelease, true},
       {keywords::kTriggerImmediate, true},
+      {keywords::kTriggerOnPress, true},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.trigger.toStdString());
