@@ -158,6 +158,37 @@ TEST_F(RightStickEye, AResetLiftsAndAJoystickLoadDoesNot) {
   EXPECT_WIRE(At(640, 360));
 }
 
+// From a stick that is held when its item and the display change, to its next press.
+TEST_F(RightStickEye, AreaAndSpeedAreThoseOfThePress) {
+  AddEye("Range_User")->sensitivity = 1000;  // 64 pixels an event, up to 960
+  LoadJoystick();
+  Turn("joy axis 1 1,0", 5);
+  Forget();
+  auto* other = AddEye("Range_User", {0.9, 0.9});
+  other->rel_x = other->rel_y = 0.2;
+  LoadJoystick();
+  Host().display = QRect(0, 0, 2560, 1440);
+  Play("joy axis 1 1,0; joy axis 1 0.01,0");
+  EXPECT_WIRE(At(960, 360), Up());
+  Play("joy axis 1 1,0; joy axis 1 1,0");  // on (512, 288), and 0.005 * 2560 = 12.8 on
+  EXPECT_WIRE(At(512, 288), At(525, 288));
+}
+
+TEST_F(RightStickEye, WhatHappensAtTheEdgeIsTheItemsOfTheMoment) {
+  AddEye("Range_User")->sensitivity = 1000;
+  LoadJoystick();
+  Turn("joy axis 1 1,0", 6);  // 960
+  Forget();
+  AddEye("Infinite");
+  LoadJoystick();
+  Play("joy axis 1 1,0");
+  EXPECT_WIRE(At(1024, 360));
+  AddEye("Infinite")->auto_reset = false;
+  LoadJoystick();
+  Play("joy axis 1 1,0");
+  EXPECT_WIRE(At(960, 360));
+}
+
 TEST_F(RightStickEye, AKeyTurnsNothing) {
   JoystickRightEyeConfigItem item;
   tavikeymapmanager::ConfigKey key;

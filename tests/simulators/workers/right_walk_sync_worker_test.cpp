@@ -173,6 +173,18 @@ TEST_F(RightWalk, AShortClickInsideTheRadiusLiftsAtOnce) {
   EXPECT_WIRE(Up(1023));
 }
 
+TEST_F(RightWalk, TheTimeThatItWalksOnIsCutOff) {
+  AddWalk()->continue_factor = 0.7;
+  Load();
+  // (962 / 1280 - 0.5) / 0.1 = 2.515625 radii, and so 1760.9375 ms.
+  Play("mouse down right 960,360; mouse up right 962,360");
+  Forget();
+  Wait(1759);
+  EXPECT_WIRE_NONE();
+  Wait(1);
+  EXPECT_WIRE(Up(1760));
+}
+
 TEST_F(RightWalk, APressWhileItWalksOnTurnsWithoutLifting) {
   AddWalk()->swipe_steps = 4;
   Load();

@@ -122,6 +122,14 @@ TEST(SwipePathTest, TremblesOnTheAxisWithoutTravel) {
   EXPECT_EQ((QVector<QPoint>{{288, 361}, {320, 360}, {352, 361}}), Play(&path));
 }
 
+TEST(SwipePathTest, ANewTargetBeginsTheTremblingAnew) {
+  SwipePath path = MakePath({384, 360}, 4, kSmall);
+  Play(&path, 1);  // (288, 361), 3 left
+  path.target = QPoint(384, 361);
+  path.Rebuild();  // 96 / 3 = 32
+  EXPECT_EQ((QVector<QPoint>{{320, 362}, {352, 361}}), Play(&path));
+}
+
 TEST(SwipePathTest, OneStepOrLessIsNone) {
   for (const int steps : {1, 0, -4}) EXPECT_FALSE(MakePath({384, 360}, steps).HasStep()) << steps;
 }
