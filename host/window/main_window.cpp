@@ -122,7 +122,10 @@ MainWindow::MainWindow()
   view_->setFocus();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  // The dock tells of its end when this is no main window any more.
+  disconnect(replay_dock_, nullptr, nullptr, nullptr);
+}
 
 QWidget* MainWindow::MakeCentre() {
   auto* centre = new QWidget;
