@@ -36,6 +36,16 @@ function(tavi_target_defaults target)
   endif()
 endfunction()
 
+# The libraries alone are counted: tests always run. Some of their lines run on threads at once.
+if(TAVI_COVERAGE)
+  add_link_options(--coverage)
+endif()
+function(tavi_count_lines target)
+  if(TAVI_COVERAGE)
+    target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
+  endif()
+endfunction()
+
 # Leaves exactly the symbols that a version script names: hidden visibility alone leaks template instances.
 function(tavi_export_only target version_script)
   if(WIN32 OR TAVI_SANITIZE)

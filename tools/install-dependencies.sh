@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
 #
-#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest|windows|fuzz]...        (without a word: build)
+#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest|windows|coverage|valgrind|fuzz]...        (without a word: build)
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
@@ -9,6 +9,8 @@ test=(libgtest-dev python3 python3-jsonschema python3-yaml)
 lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 busybox-static cpio)
 windows=(g++-mingw-w64-x86-64-posix wine64)
+coverage=(gcovr python3)
+valgrind=(valgrind)
 bench=(libbenchmark-dev valgrind python3)
 plot=(python3 python3-matplotlib)
 fuzz=(clang-14 libclang-rt-14-dev llvm-14)
@@ -21,6 +23,8 @@ for group in "${@:-build}"; do
     lint) packages+=("${lint[@]}") ;;
     guest) packages+=("${guest[@]}") ;;
     windows) packages+=("${windows[@]}") ;;
+    coverage) packages+=("${coverage[@]}") ;;
+    valgrind) packages+=("${valgrind[@]}") ;;
     bench) packages+=("${bench[@]}") ;;
     plot) packages+=("${plot[@]}") ;;
     fuzz) packages+=("${fuzz[@]}") ;;
