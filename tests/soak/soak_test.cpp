@@ -1,4 +1,5 @@
 // Random input, for long: nothing may crash, hang, or stay pressed in the guest.
+#include <malloc.h>
 #include <random>
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/allocation_count.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
 #include "tests/support/story.h"
@@ -35,6 +37,11 @@ class Soak : public Story {
   static constexpr int kRecordedDisplay = 1;
   static constexpr int kRecords = 4;
   static constexpr qint64 kLargestPart = 200000;
+  // A run of this length or longer is also one about memory.
+  static constexpr int kLongRun = 1000000;
+  // Between two quiet moments: other keymaps and pictures of keys, and what the heap has cached. Half a byte for each
+  // event of the shortest of such runs, and so less than the smallest block lost at every fiftieth.
+  static constexpr qint64 kMemoryTolerance = 512 * 1024;
 
   Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(static_cast<unsigned>(seed_)) {
     for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
@@ -186,6 +193,22 @@ class Soak : public Story {
     Wait(1);
   }
 
+  // Nothing plays or is recorded, and no timer of a gesture runs.
+  void ComeToRest() {
+    StopRecord("com.example.game", RecordPath(kRecords));
+    EndReplays();
+    in_replay_.clear();
+    Wait(kQuietMs);
+    Listen();
+  }
+
+  // Bytes that are taken from the heap. A sanitizer's heap is not asked for them: 0.
+  static qint64 MemoryInUse() {
+    if (!test::CountsAllocations()) return 0;
+    const struct mallinfo2 heap = mallinfo2();
+    return static_cast<qint64>(heap.uordblks + heap.hblkhd);
+  }
+
   void Listen() {
     for (const auto& entry : Host().TakeTimeline()) {
       if (entry.source == tavi::TimelineEntry::Source::kLine) guest_.Read(entry.text);
@@ -225,7 +248,13 @@ TEST_F(Soak, NothingStaysDown) {
   const int events = FromEnvironment("TAVI_SOAK_EVENTS", kUsualEvents);
   std::cout << "TAVI_SOAK_SEED=" << seed_ << " TAVI_SOAK_EVENTS=" << events << std::endl;
   tavi::ScriptPlayer player(&Time(), &Host());
+  const bool is_long = events >= kLongRun;
+  qint64 early_memory = 0;
   for (int i = 0; i < events; ++i) {
+    if (is_long && i == events / 10) {
+      ComeToRest();
+      early_memory = MemoryInUse();
+    }
     OneIn(200) ? DoSomethingRare() : player.Play(SomeCommand());
     if (OneIn(100)) RecordOrReplay();
     if (i % 1000 == 0) Listen();
@@ -236,6 +265,12 @@ TEST_F(Soak, NothingStaysDown) {
   UpdateDisplayId(display_);
   Listen();
   EXPECT_EQ("", guest_.WhatIsDown().toStdString());
+  if (is_long) {
+    ComeToRest();
+    const qint64 growth = MemoryInUse() - early_memory;
+    std::cout << "in use after a tenth: " << early_memory << " bytes; growth since: " << growth << std::endl;
+    EXPECT_LE(growth, kMemoryTolerance);
+  }
   LetGoOfGamepads();
   EXPECT_EQ("", guest_.WhatGamepadsHold().toStdString());
   EXPECT_EQ("", guest_.Unreadable().join('\n').toStdString());
