@@ -23,9 +23,18 @@ RecordFiles::RecordFiles() : folder_(FolderTemplate()) {
   EXPECT_TRUE(folder_.isValid()) << folder_.errorString().toStdString();
 }
 
+RecordFiles::~RecordFiles() {
+  const QString target = qEnvironmentVariable("TAVI_WRITTEN_RECORDS");
+  if (target.isEmpty()) return;
+  for (const QString& name : Names()) {
+    if (!put_.contains(name)) QFile::copy(Path(name), QDir(target).filePath(name));
+  }
+}
+
 QString RecordFiles::Path(const QString& name) const { return folder_.filePath(name); }
 
 QString RecordFiles::Put(const QString& name, const QByteArray& bytes) const {
+  put_.append(name);
   QFile file(Path(name));
   EXPECT_TRUE(file.open(QIODevice::WriteOnly));
   EXPECT_EQ(bytes.size(), file.write(bytes));

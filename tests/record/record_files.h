@@ -19,10 +19,12 @@ namespace taviinputmanager {
 
 class RecordFileUtils;
 
-// A folder of the test's own. All files of a test are in it, those that the library writes too.
+// A folder of the test's own. All files of a test are in it, those that the library writes too: these are copied to the
+// folder that the environment names as TAVI_WRITTEN_RECORDS, for whoever looks at them later.
 class RecordFiles {
  protected:
   RecordFiles();
+  ~RecordFiles();
 
   // Of a file of this name, which need not be there.
   QString Path(const QString& name) const;
@@ -39,6 +41,7 @@ class RecordFiles {
 
  private:
   QTemporaryDir folder_;
+  mutable QStringList put_;  // names of the files that the test wrote itself
 };
 
 // JSON with apostrophes in place of quotation marks.
