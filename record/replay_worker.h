@@ -33,8 +33,8 @@ struct ReplayWorkerParam {
 // Each delay counts from the moment at which the timeout before it was handled; nothing is caught up. No state is
 // stored: a worker without a current action has finished, one whose timer stands still is paused.
 //
-// Requests go to all workers; one that names another task or file is not for this one. Pause and those before Start
-// find nothing to do.
+// Requests go to all workers; one that names another task or file is not for this one. Before Start, all but Restart
+// find nothing to do; neither does a Pause when the record has run out.
 //
 // Threads: made on the main thread; its slots run on the replay's own, and so do the host's callbacks, and the input
 // reset at the natural end.

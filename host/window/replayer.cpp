@@ -39,10 +39,9 @@ struct ReplayerFunctions {
   static void Finished(int task_id, const QString& file, ReplayParam /*param*/) {
     OnMain(task_id, file, [](Replayer* replayer) { replayer->TakeFinished(); });
   }
-  static void VControl(const QString& data, const QString& /*extra1*/, const QString& /*extra2*/, int /*task_id*/,
-                       const QString& /*file*/) {
-    Q_EMIT Replayer::GetInstance()->HostCommand(data);
-  }
+  // Commands of hosts are not for a window that has no apps to start.
+  static void VControl(const QString& /*data*/, const QString& /*extra1*/, const QString& /*extra2*/, int /*task_id*/,
+                       const QString& /*file*/) {}
 
   static taviinputmanager::InputReplayerCallbacks* Table() {
     static taviinputmanager::InputReplayerCallbacks table{Started, Paused, Resumed, Stopped, Finished, VControl};

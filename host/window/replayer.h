@@ -44,8 +44,6 @@ class Replayer : public QObject {
   void Changed();
   // The library did not take the file.
   void Refused(const QString& file);
-  // A command of a host, which this one does not know.
-  void HostCommand(const QString& data);
 
  private:
   friend struct ReplayerFunctions;
