@@ -9,9 +9,18 @@ import unittest
 from pathlib import Path
 
 ROOT = Path(sys.argv.pop(1)).resolve()
-DOCUMENTS = [ROOT / "README.md"] + sorted((ROOT / "docs").glob("*.md"))
-LINK = re.compile(r"\]\(([^)\s#]+)(?:#[^)]*)?\)")
+DOCUMENTS = sorted(path for pattern in ["*.md", "docs/*.md", "examples/**/*.md", "fuzz/*.md"] for path in ROOT.glob(pattern))
+LINK = re.compile(r"\]\(([^)\s#]*)(#[^)\s]*)?\)")
+HEADING = re.compile(r"^#+ (.+)$", re.MULTILINE)
+# "<!-- file: NAME -->" before a code block: the block is the file; "part:": lines of it that stand together.
+FILE_BLOCK = re.compile(r"^<!-- (file|part): (\S+) -->\n```[a-z]*\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 SOURCE_NAME = re.compile(r"`((?:[a-z_]+/)*[a-z_]+\.(?:h|cpp))`")
+
+
+def sections(document):
+    """The anchors that a reader of Markdown makes of the headings."""
+    headings = HEADING.findall(document.read_text(encoding="utf-8"))
+    return {"#" + re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}
 
 
 class Documents(unittest.TestCase):
@@ -19,8 +28,15 @@ class Documents(unittest.TestCase):
 
     def test_links_lead_somewhere(self):
         dead = [f"{document.name}: {target}" for document in DOCUMENTS
-                for target in LINK.findall(document.read_text(encoding="utf-8"))
+                for target, _ in LINK.findall(document.read_text(encoding="utf-8"))
                 if "://" not in target and not (document.parent / target).exists()]
+        self.assertEqual(dead, [])
+
+    def test_links_to_sections_lead_to_one(self):
+        dead = [f"{document.name}: {target}{section}" for document in DOCUMENTS
+                for target, section in LINK.findall(document.read_text(encoding="utf-8"))
+                if section and "://" not in target and
+                section not in sections(document.parent / target if target else document)]
         self.assertEqual(dead, [])
 
     def test_files_that_are_named_exist(self):
@@ -29,9 +45,20 @@ class Documents(unittest.TestCase):
         text = (ROOT / "docs" / "architecture.md").read_text(encoding="utf-8")
         self.assertEqual([name for name in SOURCE_NAME.findall(text) if name not in known], [])
 
-    def test_the_host_in_the_readme_is_the_example(self):
-        example = (ROOT / "examples" / "host" / "main.cpp").read_text(encoding="utf-8")
-        self.assertIn(f"```cpp\n{example}```", (ROOT / "README.md").read_text(encoding="utf-8"))
+    def test_blocks_that_name_a_file_are_that_file(self):
+        shown = 0
+        for document in DOCUMENTS:
+            text = document.read_text(encoding="utf-8")
+            blocks = FILE_BLOCK.findall(text)
+            self.assertEqual(len(blocks), text.count("<!-- "), f"{document.name}: a comment without its block")
+            for amount, name, block in blocks:
+                shown += 1
+                content = (ROOT / name).read_text(encoding="utf-8")
+                if amount == "file":
+                    self.assertEqual(block, content, f"{document.name} shows {name}")
+                else:
+                    self.assertIn("\n" + block, "\n" + content, f"{document.name} shows a part of {name}")
+        self.assertGreater(shown, 0)
 
 
 if __name__ == "__main__":
