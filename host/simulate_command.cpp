@@ -15,6 +15,7 @@
 #include "host/simulation/script_player.h"
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "host/window_system.h"
 #include "keymapmanager/keymap_file.h"
 
 namespace tavi {
@@ -113,8 +114,7 @@ struct SimulateOptions {
 };
 
 int Play(const Invocation& invocation, const SimulateOptions& options, const Script& script) {
-  // The clock serves no window system, whatever the user's environment asks for.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  DoWithoutWindowSystem();  // the clock serves none
   auto* clock = new VirtualEventDispatcher;
   QCoreApplication::setEventDispatcher(clock);
   const QGuiApplication application(invocation.argc, invocation.argv);

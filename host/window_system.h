@@ -9,6 +9,10 @@ namespace tavi {
 // crash. `arguments` are those of the program, in which Qt may be told what to use.
 bool HasWindowSystem(const QStringList& arguments);
 
+// Before the application object is made: it gets along without a window system, whatever the environment asks for, and
+// does not tell of a session that has no folder for its sockets, since it opens none.
+void DoWithoutWindowSystem();
+
 }  // namespace tavi
 
 #endif  // HOST_WINDOW_SYSTEM_H_

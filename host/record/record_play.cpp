@@ -14,6 +14,7 @@
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "host/subcommands.h"
+#include "host/window_system.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -141,8 +142,7 @@ int RunRecordPlay(const Invocation& invocation) {
   const QString problem = ReadOptions(parsed, &options);
   if (!problem.isEmpty()) return FailUsage(kCommand, problem);
   if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;
-  // Neither clock needs a window system, whatever the user's environment asks for.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  DoWithoutWindowSystem();  // neither clock needs one
   if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
   if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // lines are seen as they fall due
   const QGuiApplication application(invocation.argc, invocation.argv);

@@ -35,6 +35,7 @@ class Program : public testing::Test {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY"}) environment.remove(QLatin1String(variable));
     if (!has_platform_) environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    if (!has_session_) environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TAVI_BINARY_DIR "/host/tavi"), arguments);
     process.write(input);
@@ -54,6 +55,7 @@ class Program : public testing::Test {
   }
 
   bool has_platform_ = true;
+  bool has_session_ = true;
 
  private:
   int argument_count_ = 0;

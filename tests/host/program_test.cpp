@@ -117,6 +117,13 @@ TEST_F(Program, SimulateReadsStandardInput) {
   EXPECT_TRUE(outcome.output.endsWith("0ms 1:SLOTPRESS:11:11:1:1:640:360\n"));
 }
 
+TEST_F(Program, SimulateNeedsNoSessionOfADesktop) {
+  has_session_ = false;
+  has_platform_ = false;
+  Write("good.yaml", kGood);
+  EXPECT_EQ(Run({"simulate", "good.yaml", "-"}, "down Space").errors, QString());
+}
+
 TEST_F(Program, SimulateTellsEveryFaultOfAScript) {
   Write("good.yaml", kGood);
   Write("bad.txt", "wait 5\n  donw Space; wait x\n");
