@@ -17,7 +17,7 @@
 
 namespace taviinputmanager {
 
-using namespace record_format;
+using namespace record_format;  // NOLINT(google-build-using-namespace): words of files, and nothing else
 
 namespace {
 
@@ -142,9 +142,9 @@ const QString& TextOf(QLatin1String type) {
 
 struct Rule {
   QLatin1String word;
-  Match match;
+  Match match = Match::kWord;
   QLatin1String type;  // one of TextOf's
-  bool (*translate)(const QString& command, RecordAction* action);
+  bool (*translate)(const QString& command, RecordAction* action) = nullptr;
 };
 
 bool Fits(const QString& command, const Rule& rule) {

@@ -19,7 +19,7 @@
 
 namespace taviinputmanager {
 
-using namespace record_format;
+using namespace record_format;  // NOLINT(google-build-using-namespace): words of files, and nothing else
 
 namespace {
 
@@ -69,7 +69,7 @@ QJsonObject RecordFileUtils::LoadJsonObject(const QString& path) {
   if (!file.open(QIODevice::ReadOnly)) return {};
   const QByteArray bytes = file.readAll();
   file.close();
-  QJsonParseError error;
+  QJsonParseError error{};
   const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
   if (error.error != QJsonParseError::NoError) return {};
   return document.object();
@@ -132,9 +132,9 @@ std::shared_ptr<RecordActions> RecordFileUtils::ReadMergeRecordActions(const QJs
   if (array.isEmpty()) return nullptr;
   const auto merged = std::make_shared<MergeRecordActions>();
   for (const QJsonValue& element : array) {
-    std::shared_ptr<RecordActions> item = ReadRecordActions(element.toObject());
+    const std::shared_ptr<RecordActions> item = ReadRecordActions(element.toObject());
     if (!item) return nullptr;  // one bad item fails the whole file
-    merged->items.append(std::move(item));
+    merged->items.append(item);
   }
   ReadControl(json, merged);
   return merged;

@@ -29,7 +29,7 @@ class RecordFileUtils {
 
   // ---- Reading ----
   // The file's JSON; an empty object for a file that cannot be read, or that is broken, or that is no object.
-  QJsonObject LoadJsonObject(const QString& file);
+  QJsonObject LoadJsonObject(const QString& path);
   // False, with `info` untouched, when the file has no header.
   bool GetRecordInfo(const QString& file, RecordInfo* info);
   // The names in the start marker; what is missing leaves its output as it is. Does not return for a file whose first
@@ -55,7 +55,7 @@ class RecordFileUtils {
   int SaveRecord(const QString& package_name, const QString& file, const QList<RecordAction*>& actions);
   // Sets create_time to now, and keeps all else, also keys of others. Lets the exceptions of the JSON parser through;
   // the file is untouched then.
-  void UpdateRecordTimestamp(const QString& file);
+  void UpdateRecordTimestamp(const QString& path);
   // Writes the records that `params` name, in order, as one. False when one of them cannot be read, or the target not
   // be written; the target is untouched then.
   bool MergeRecord(const QString& file, const QVector<MergeParam>& params);

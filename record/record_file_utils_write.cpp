@@ -20,7 +20,7 @@
 
 namespace taviinputmanager {
 
-using namespace record_format;
+using namespace record_format;  // NOLINT(google-build-using-namespace): words of files, and nothing else
 
 namespace {
 

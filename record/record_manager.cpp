@@ -15,7 +15,7 @@
 
 namespace taviinputmanager {
 
-using namespace record_format;
+using namespace record_format;  // NOLINT(google-build-using-namespace): words of files, and nothing else
 
 RecordManager* RecordManager::GetInstance() {
   static RecordManager instance;

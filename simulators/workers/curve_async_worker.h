@@ -37,7 +37,7 @@ class CurveAsyncWorker : public QObject {
   // Offsets from the origin, as fractions of the display.
   void CurvePointPressed(double x, double y);
   // Once. False at the end of the list.
-  void CurveFinished(bool forceStop);
+  void CurveFinished(bool forceStop);  // NOLINT(readability-identifier-naming)
 
  private:
   void Finish(bool force_stop);
