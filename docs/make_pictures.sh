@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the pictures of the window in docs/pictures anew: starts it on a display of its own and uses it as people would.
+# Makes the pictures of keymaps and of the window in docs/pictures anew: starts the window on a display of its own and
+# uses it as people would.
 #
 #   docs/make_pictures.sh [TAVI]    TAVI is the program, build/release/host/tavi unless given
 #
@@ -72,6 +73,8 @@ watch_replay() {
 }
 
 mkdir -p "$pictures"
+"$tavi" draw -o "$pictures/shooter_keymap.svg" "$keymaps/shooter.yaml"
+echo "$pictures/shooter_keymap.svg"
 picture shooter 3500 shooter.yaml play_shooter
 picture hero_battle 3500 hero_battle.yaml play_battle
 

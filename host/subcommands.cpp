@@ -6,6 +6,7 @@
 
 #include "host/check_command.h"
 #include "host/command_line.h"
+#include "host/draw_command.h"
 #include "host/guest_uinput_command.h"
 #include "host/record_command.h"
 #include "host/simulate_command.h"
@@ -16,8 +17,8 @@ namespace tavi {
 namespace {
 
 const auto& Subcommands() {
-  static const std::array<Subcommand, 5> all = {WindowCommand(), SimulateCommand(), RecordCommand(), CheckCommand(),
-                                                GuestUinputCommand()};
+  static const std::array<Subcommand, 6> all = {WindowCommand(), SimulateCommand(), RecordCommand(),
+                                                CheckCommand(),  DrawCommand(),     GuestUinputCommand()};
   return all;
 }
 

@@ -1,9 +1,9 @@
 #include "host/record/record_draw.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "host/command_line.h"
+#include "host/picture/picture_file.h"
 #include "host/record/record_file.h"
 #include "host/record/record_paths.h"
 #include "host/record/record_picture.h"
@@ -15,15 +15,6 @@ namespace {
 
 const QString kCommand = QStringLiteral("record draw");
 const QString kOutput = QStringLiteral("-o");
-
-// All of it or nothing.
-int Write(const QByteArray& picture, const QString& name) {
-  QSaveFile file(name);
-  const bool is_written = file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.commit();
-  if (is_written) return kExitDone;
-  PrintError(QStringLiteral("tavi record draw: cannot write %1: %2\n").arg(name, file.errorString()));
-  return kExitProblem;
-}
 
 }  // namespace
 
@@ -37,7 +28,8 @@ int RunRecordDraw(const QStringList& arguments) {
   if (!IsRecordUsable(name, record)) return kExitUsage;
   RecordInfo info;
   taviinputmanager::GetRecordInfo(name, &info);
-  return Write(DrawRecord({QFileInfo(name).fileName(), info, FollowContacts(record.root)}), parsed.options[kOutput]);
+  const RecordDrawing drawing{QFileInfo(name).fileName(), info, FollowContacts(record.root)};
+  return WritePicture(kCommand, parsed.options[kOutput], DrawRecord(drawing));
 }
 
 }  // namespace tavi

@@ -1,12 +1,11 @@
 #include "host/record/record_picture.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <QPair>
 #include <QSizeF>
-#include <QXmlStreamWriter>
 
+#include "host/picture/svg_writer.h"
 #include "host/record/time_colour.h"
 #include "host/record/time_text.h"
 
@@ -34,17 +33,7 @@ constexpr char kInk[] = "#202124";
 constexpr char kSoftInk[] = "#5f6368";
 constexpr QSize kDefaultDisplay(1280, 720);
 
-QString Number(double value) { return QString::number(value, 'f', 1); }
-
-// What no XML may hold becomes the sign for "no such character".
-QString Printable(const QString& text) {
-  QVector<uint> characters = text.toUcs4();  // halves of a pair that stand alone are replaced here
-  for (uint& character : characters) {
-    const bool is_bad = character < ' ' || character == 0xFFFE || character == 0xFFFF;
-    if (is_bad) character = QChar::ReplacementCharacter;
-  }
-  return QString::fromUcs4(characters.constData(), characters.size());
-}
+QString Number(double value) { return SvgWriter::Number(value); }
 
 // "1-3, 7": numbers in ascending order.
 QString JoinNumbers(const QVector<int>& numbers) {
@@ -60,55 +49,32 @@ QString JoinNumbers(const QVector<int>& numbers) {
 
 class PictureWriter {
  public:
-  explicit PictureWriter(const RecordDrawing& drawing) : drawing_(drawing), xml_(&bytes_) {
-    const QSize display = DisplaySize();
-    frame_ = QSizeF(display).scaled(kLongestWidth, kLongestHeight, Qt::KeepAspectRatio);
-    frame_ = frame_.expandedTo({kShortestSide, kShortestSide});
-  }
+  explicit PictureWriter(const RecordDrawing& drawing)
+      : drawing_(drawing), frame_(FrameOf(DisplaySize())), svg_(PageSize(), drawing.title) {}
 
   QByteArray Write() {
-    xml_.setAutoFormatting(true);
-    xml_.setAutoFormattingIndent(1);
-    xml_.writeStartDocument();
-    xml_.writeStartElement(QStringLiteral("svg"));
-    xml_.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
-    const double width = std::max(frame_.width(), kLegendWidth) + 2 * kMargin;
-    const double height = LegendTop() + (LegendLines() + 2) * kLineHeight + kBarHeight + kMargin;
-    Attributes({{"width", Number(width)},
-                {"height", Number(height)},
-                {"viewBox", QStringLiteral("0 0 %1 %2").arg(Number(width), Number(height))},
-                {"font-family", "sans-serif"},
-                {"stroke", "none"},
-                {"font-size", "13"}});
-    xml_.writeTextElement(QStringLiteral("title"), Printable(drawing_.title));
-    Empty("rect", {{"width", Number(width)}, {"height", Number(height)}, {"fill", "#ffffff"}});
+    const QSizeF page = PageSize();
+    svg_.Empty("rect", {{"width", Number(page.width())}, {"height", Number(page.height())}, {"fill", "#ffffff"}});
     WriteHeader();
     WriteFrame();
     WriteContacts();
     WriteLegend();
-    xml_.writeEndElement();
-    xml_.writeEndDocument();
-    return bytes_;
+    return svg_.Finish();
   }
 
  private:
-  using AttributeList = std::initializer_list<std::pair<const char*, QString>>;
-
-  void Attributes(AttributeList attributes) {
-    for (const auto& attribute : attributes) xml_.writeAttribute(QLatin1String(attribute.first), attribute.second);
+  static QSizeF FrameOf(const QSizeF& display) {
+    return display.scaled(kLongestWidth, kLongestHeight, Qt::KeepAspectRatio).expandedTo({kShortestSide, kShortestSide});
   }
 
-  void Empty(const char* name, AttributeList attributes) {
-    xml_.writeEmptyElement(QLatin1String(name));
-    Attributes(attributes);
+  QSizeF PageSize() const {
+    return {std::max(frame_.width(), kLegendWidth) + 2 * kMargin,
+            LegendTop() + (LegendLines() + 2) * kLineHeight + kBarHeight + kMargin};
   }
 
-  void Text(double x, double y, const QString& text, AttributeList attributes = {}) {
-    xml_.writeStartElement(QStringLiteral("text"));
-    Attributes({{"x", Number(x)}, {"y", Number(y)}});
-    Attributes(attributes);
-    xml_.writeCharacters(Printable(text));
-    xml_.writeEndElement();
+  void Empty(const char* name, SvgWriter::AttributeList attributes) { svg_.Empty(name, attributes); }
+  void Text(double x, double y, const QString& text, SvgWriter::AttributeList attributes = {}) {
+    svg_.Text({x, y}, text, attributes);
   }
 
   QSize DisplaySize() const { return drawing_.info.resolution.isEmpty() ? kDefaultDisplay : drawing_.info.resolution; }
@@ -277,9 +243,8 @@ class PictureWriter {
   }
 
   const RecordDrawing& drawing_;
-  QByteArray bytes_;
-  QXmlStreamWriter xml_;
-  QSizeF frame_;
+  const QSizeF frame_;
+  SvgWriter svg_;
 };
 
 }  // namespace

@@ -17,7 +17,7 @@ constexpr char kBad[] =
 TEST_F(Program, HelpTellsOfEveryCommandAndOfEachByItself) {
   const Outcome overview = Run({"--help"});
   EXPECT_EQ(overview.status, 0);
-  for (const char* command : {"window", "simulate", "record", "check", "guest-uinput"}) {
+  for (const char* command : {"window", "simulate", "record", "check", "draw", "guest-uinput"}) {
     SCOPED_TRACE(command);
     EXPECT_TRUE(overview.output.contains(QStringLiteral("\n  %1 ").arg(command)));
     const Outcome page = Run({command, "--help"});

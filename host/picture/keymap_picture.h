@@ -1,0 +1,29 @@
+// A keymap as a picture: each key where it acts on the guest's screen, and a list of those that act nowhere, as the
+// window shows them.
+#ifndef HOST_PICTURE_KEYMAP_PICTURE_H_
+#define HOST_PICTURE_KEYMAP_PICTURE_H_
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <QString>
+#include <QVector>
+
+#include "host/window/overlay_marks.h"
+
+namespace tavi {
+
+struct KeymapDrawing {
+  QString title;
+  QVector<OverlayMark> marks;
+  QSize size;         // of the picture in pixels; letters and keys grow with its shorter side
+  QImage background;  // stretched over all of it; null: a plain guest screen
+};
+
+// Each needs an application object, for its fonts. Main thread.
+QByteArray DrawKeymapAsSvg(const KeymapDrawing& drawing);
+QByteArray DrawKeymapAsPng(const KeymapDrawing& drawing);
+
+}  // namespace tavi
+
+#endif  // HOST_PICTURE_KEYMAP_PICTURE_H_

@@ -1,0 +1,15 @@
+#ifndef HOST_PICTURE_PICTURE_FILE_H_
+#define HOST_PICTURE_PICTURE_FILE_H_
+
+#include <QByteArray>
+#include <QString>
+
+namespace tavi {
+
+// Writes all of a picture or nothing: a file that was there before stays where that fails. Says so as `command`
+// ("draw"); returns the exit status.
+int WritePicture(const QString& command, const QString& name, const QByteArray& picture);
+
+}  // namespace tavi
+
+#endif  // HOST_PICTURE_PICTURE_FILE_H_
