@@ -10,7 +10,7 @@ if(TAVI_BUILD_HOST)
 endif()
 
 install(DIRECTORY include/ keymap DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
-install(FILES keymapmanager/keymap_file.h keymapmanager/key_names.h
+install(FILES keymapmanager/keymap_file.h keymapmanager/key_names.h keymapmanager/nearest_word.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/keymapmanager)
 
 install(EXPORT taviinputmanagerTargets NAMESPACE tavi:: DESTINATION ${package_dir})

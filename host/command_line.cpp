@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "keymapmanager/nearest_word.h"
+
 namespace tavi {
 
 namespace {
@@ -46,13 +48,19 @@ class ArgumentReader {
     const int equals = word.indexOf(QLatin1Char('='));
     const QString name = word.left(equals);
     const OptionRule* rule = FindRule(rules_, name);
-    if (!rule) return Fail(QStringLiteral("unknown option \"%1\"").arg(name));
+    if (!rule) return FailUnknown(name);
     if (!rule->takes_value && equals >= 0) return Fail(QStringLiteral("%1 takes no value").arg(name));
     if (rule->takes_value && equals < 0 && words_.isEmpty()) return Fail(QStringLiteral("%1 needs a value").arg(name));
     QString value = word.mid(equals + 1);
     if (equals < 0) value = rule->takes_value ? words_.takeFirst() : QString();
     result_.options[name] = value;
     result_.in_order.append({name, value});
+  }
+
+  void FailUnknown(const QString& name) {
+    QStringList known;
+    for (const OptionRule& rule : rules_) known += rule.name;
+    Fail(QStringLiteral("unknown option \"%1\"").arg(name) + Suggestion(name, known));
   }
 
   void Fail(const QString& error) { result_.error = error; }
@@ -97,6 +105,11 @@ QSize ParseSize(const QString& text) {
   };
   const QSize size(side(sides[0]), side(sides[1]));
   return size.isEmpty() ? QSize() : size;
+}
+
+QString Suggestion(const QString& word, const QStringList& known) {
+  const QString nearest = tavikeymapmanager::NearestWord(word, known);
+  return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
 }
 
 void Print(const QString& text) { Write(text, stdout); }

@@ -50,6 +50,9 @@ QSize ParseSize(const QString& text);
 void Print(const QString& text);       // to standard output, as UTF-8
 void PrintError(const QString& text);  // to standard error
 
+// "; did you mean "x"?" for the one of `known` that comes nearest to `word`, or nothing.
+QString Suggestion(const QString& word, const QStringList& known);
+
 // Tells what is wrong with the use of a subcommand and where help is; returns kExitUsage.
 int FailUsage(const QString& subcommand, const QString& error);
 

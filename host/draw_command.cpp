@@ -9,6 +9,7 @@
 #include "host/keymap_report.h"
 #include "host/picture/keymap_picture.h"
 #include "host/picture/picture_file.h"
+#include "host/window_system.h"
 #include "keymapmanager/keymap_file.h"
 
 namespace tavi {
@@ -30,7 +31,6 @@ constexpr char kHelp[] =
     "  --background FILE  a picture to draw on, such as a screenshot of the game; it is\n"
     "                     stretched over the whole\n"
     "  --joystick FILE    a keymap of gamepads, whose buttons are drawn too\n"
-    "  -h, --help         this page\n"
     "\n"
     "The letters of an SVG picture are outlines, so that it looks the same everywhere.\n"
     "\n"
@@ -129,8 +129,7 @@ int Run(const Invocation& invocation) {
       ParseArguments(invocation.arguments, {{kOutput, true}, {kSize, true}, {kBackground, true}, {kJoystick, true}});
   const QString problem = ReadOptions(parsed, &options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
-  // Pictures need no window system, whatever the user's environment asks for.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  DoWithoutWindowSystem();
   const QGuiApplication application(invocation.argc, invocation.argv);
   return Draw(options);
 }

@@ -11,7 +11,9 @@ constexpr char kHelp[] =
     "Plays guest lines on input devices of the Linux kernel. This program was built\n"
     "without it: it needs Linux and libevdev.\n"
     "\n"
-    "Example: apt-get install libevdev-dev, and build again\n";
+    "Exit status: 0 when there is nothing to do but to tell this, 2 for everything else.\n"
+    "\n"
+    "Example: tavi guest-uinput --help\n";
 
 int Run(const Invocation& /*invocation*/) {
   PrintError(

@@ -8,9 +8,6 @@ namespace tavi {
 
 namespace {
 
-// X11 counts its key codes from 8, and so do all who took its keyboard descriptions over.
-constexpr int kX11Offset = 8;
-
 // The library asks only whether a virtual key is known.
 constexpr quint32 kSomeVirtualKey = 0xFF;
 
@@ -24,7 +21,7 @@ quint32 VirtualKeyOf(int scancode) {
 }  // namespace
 
 NativeKey NativeKeyOf(const QKeyEvent& event) {
-  const int scancode = ScanCodeOfLinuxKey(static_cast<int>(event.nativeScanCode()) - kX11Offset);
+  const int scancode = ScanCodeOfLinuxKey(static_cast<int>(event.nativeScanCode()) - kX11KeyOffset);
   if (scancode == 0) return {};
   return {static_cast<quint32>(scancode), VirtualKeyOf(scancode)};
 }

@@ -9,6 +9,9 @@
 
 namespace tavi {
 
+// X11 counts its key codes from 8, and so do all who took its keyboard descriptions over.
+constexpr int kX11KeyOffset = 8;
+
 // The scan code of a key of Linux; 0 for a key that has none.
 int ScanCodeOfLinuxKey(int linux_code);
 

@@ -14,9 +14,9 @@ struct Invocation {
 };
 
 struct Subcommand {
-  const char* name;
+  const char* name;     // "check"; of a group two words, "record play"
   const char* summary;  // one line
-  const char* help;     // whole page, with an example
+  const char* help;     // the page from "Usage: " on, an example for the shell at its end
   int (*run)(const Invocation& invocation);
 };
 

@@ -59,6 +59,14 @@ QString NameOfKey(const ConfigKey& key) {
 
 QStringList AllKeyNames() { return KeyIndex::Get().Names(); }
 
+QStringList OtherNamesOfKey(const ConfigKey& key) {
+  if (key.device != keywords::kDeviceKeyboard) return {};
+  for (const KeyboardKeyRow& row : KeyboardKeys()) {
+    if (row.scancode == key.scancode && row.alias != nullptr) return {QString::fromLatin1(row.alias)};
+  }
+  return {};
+}
+
 QString NearestKeyName(const QString& word) { return NearestWord(word, AllKeyNames()); }
 
 ConfigKey JoystickKey(const QString& text) {

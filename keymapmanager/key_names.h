@@ -31,6 +31,9 @@ TAVI_KEYMAP_EXPORT QString NameOfKey(const ConfigKey& key);
 // scan codes (`Scan 200`) are left out.
 TAVI_KEYMAP_EXPORT QStringList AllKeyNames();
 
+// Other spellings that KeyFromName reads as this key: `Esc` of `Escape`.
+TAVI_KEYMAP_EXPORT QStringList OtherNamesOfKey(const ConfigKey& key);
+
 // The name that a misspelt one was most likely meant to be; empty when nothing comes near.
 TAVI_KEYMAP_EXPORT QString NearestKeyName(const QString& word);
 

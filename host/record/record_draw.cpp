@@ -14,12 +14,23 @@ namespace tavi {
 namespace {
 
 const QString kCommand = QStringLiteral("record draw");
+
+constexpr char kHelp[] =
+    "Usage: tavi record draw -o PICTURE FILE\n"
+    "\n"
+    "Draws a record as a picture: the ways that its fingers take, in the colours of time.\n"
+    "\n"
+    "  -o PICTURE    where to write it (SVG)\n"
+    "\n"
+    "Exit status: 0 when the picture was written, 1 when it cannot be, 2 when the record\n"
+    "or the command line cannot be used.\n"
+    "\n"
+    "Example: tavi record draw -o walk.svg examples/records/walk.json\n";
+
 const QString kOutput = QStringLiteral("-o");
 
-}  // namespace
-
-int RunRecordDraw(const QStringList& arguments) {
-  const ParsedArguments parsed = ParseArguments(arguments, {{kOutput, true}});
+int Run(const Invocation& invocation) {
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, {{kOutput, true}});
   if (!parsed.error.isEmpty()) return FailUsage(kCommand, parsed.error);
   if (parsed.positional.size() != 1) return FailUsage(kCommand, QStringLiteral("one record is needed"));
   if (parsed.options.value(kOutput).isEmpty()) return FailUsage(kCommand, QStringLiteral("-o FILE is missing"));
@@ -31,5 +42,9 @@ int RunRecordDraw(const QStringList& arguments) {
   const RecordDrawing drawing{QFileInfo(name).fileName(), info, FollowContacts(record.root)};
   return WritePicture(kCommand, parsed.options[kOutput], DrawRecord(drawing));
 }
+
+}  // namespace
+
+Subcommand RecordDrawCommand() { return {"record draw", "draws the ways of a record's fingers", kHelp, Run}; }
 
 }  // namespace tavi

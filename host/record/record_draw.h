@@ -1,12 +1,12 @@
 #ifndef HOST_RECORD_RECORD_DRAW_H_
 #define HOST_RECORD_RECORD_DRAW_H_
 
-#include <QStringList>
+#include "host/subcommands.h"
 
 namespace tavi {
 
-// `tavi record draw -o PICTURE FILE`
-int RunRecordDraw(const QStringList& arguments);
+// `tavi record draw`
+Subcommand RecordDrawCommand();
 
 }  // namespace tavi
 

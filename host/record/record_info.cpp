@@ -15,6 +15,19 @@ namespace tavi {
 
 namespace {
 
+const QString kName = QStringLiteral("record info");
+
+constexpr char kHelp[] =
+    "Usage: tavi record info FILE...\n"
+    "\n"
+    "Tells what is in record files: the app, the display, when they were made, how long\n"
+    "they play, and on standard error what of them a replay drops.\n"
+    "\n"
+    "Exit status: 0 when every file can be played, 1 when one cannot, 2 for a wrong\n"
+    "command line.\n"
+    "\n"
+    "Example: tavi record info examples/records/walk.json\n";
+
 constexpr int kDeepestIndent = 20;  // columns; levels below that are seldom and only told of
 
 QString Line(const char* name, const QString& value) {
@@ -113,6 +126,15 @@ bool TellAbout(const QString& name) {
   return IsRecordUsable(name, record);
 }
 
+int Run(const Invocation& invocation) {
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, {});
+  if (!parsed.error.isEmpty()) return FailUsage(kName, parsed.error);
+  if (parsed.positional.isEmpty()) return FailUsage(kName, QStringLiteral("a record is missing"));
+  bool all_good = true;
+  for (const QString& name : parsed.positional) all_good = TellAbout(name) && all_good;
+  return all_good ? kExitDone : kExitProblem;
+}
+
 }  // namespace
 
 QString DescribeRecord(const QString& name, const RecordFile& record) {
@@ -133,14 +155,6 @@ QString DescribeRecord(const QString& name, const RecordFile& record) {
   return text + DescribeParts(record.root, QStringLiteral("    "));
 }
 
-int RunRecordInfo(const QStringList& arguments) {
-  const ParsedArguments parsed = ParseArguments(arguments, {});
-  if (!parsed.error.isEmpty()) return FailUsage(QStringLiteral("record info"), parsed.error);
-  if (parsed.positional.isEmpty())
-    return FailUsage(QStringLiteral("record info"), QStringLiteral("a record is missing"));
-  bool all_good = true;
-  for (const QString& name : parsed.positional) all_good = TellAbout(name) && all_good;
-  return all_good ? kExitDone : kExitProblem;
-}
+Subcommand RecordInfoCommand() { return {"record info", "tells what is in record files", kHelp, Run}; }
 
 }  // namespace tavi

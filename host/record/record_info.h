@@ -2,7 +2,8 @@
 #define HOST_RECORD_RECORD_INFO_H_
 
 #include <QString>
-#include <QStringList>
+
+#include "host/subcommands.h"
 
 namespace tavi {
 
@@ -11,8 +12,8 @@ struct RecordFile;
 // All that there is to tell about a record that can be played, as lines of text.
 QString DescribeRecord(const QString& name, const RecordFile& record);
 
-// `tavi record info FILE...`
-int RunRecordInfo(const QStringList& arguments);
+// `tavi record info`
+Subcommand RecordInfoCommand();
 
 }  // namespace tavi
 

@@ -11,6 +11,28 @@ namespace tavi {
 namespace {
 
 const QString kCommand = QStringLiteral("record merge");
+
+constexpr char kHelp[] =
+    "Usage: tavi record merge -o TARGET FILE [OPTIONS] [FILE [OPTIONS]]...\n"
+    "\n"
+    "Writes one record that plays the others in turn. Options stand behind the record\n"
+    "that they are about.\n"
+    "\n"
+    "  -o TARGET     where to write it\n"
+    "  --times N     play it N times, from 1 on (1)\n"
+    "  --delay MS    pause between those times, in milliseconds from 0 on (0)\n"
+    "  --speed X     play it that many times as fast, any number above 0 (1)\n"
+    "  --gap MS      pause before the next record, in milliseconds from 0 on, shortened by\n"
+    "                this one's speed (0)\n"
+    "\n"
+    "A name that begins with a dash is written ./-name, or stands behind \"--\".\n"
+    "\n"
+    "Exit status: 0 when it was written, 1 when it cannot be, 2 when a record or the\n"
+    "command line cannot be used.\n"
+    "\n"
+    "Example: tavi record merge -o day.json examples/records/taps.json \\\n"
+    "           examples/records/walk.json --times 3 --delay 500\n";
+
 const QString kOutput = QStringLiteral("-o");
 const QString kTimes = QStringLiteral("--times");
 const QString kDelay = QStringLiteral("--delay");
@@ -58,6 +80,15 @@ bool AreRecordsUsable(const QVector<MergeParam>& records) {
   return all;
 }
 
+int Run(const Invocation& invocation) {
+  const MergeOrder order = ReadMergeOrder(invocation.arguments);
+  if (!order.problem.isEmpty()) return FailUsage(kCommand, order.problem);
+  if (!AreRecordsUsable(order.records)) return kExitUsage;
+  if (taviinputmanager::MergeRecord(order.target, order.records)) return kExitDone;
+  PrintError(QStringLiteral("tavi record merge: cannot write %1\n").arg(order.target));
+  return kExitProblem;
+}
+
 }  // namespace
 
 MergeOrder ReadMergeOrder(const QStringList& arguments) {
@@ -78,13 +109,6 @@ MergeOrder ReadMergeOrder(const QStringList& arguments) {
   return order;
 }
 
-int RunRecordMerge(const QStringList& arguments) {
-  const MergeOrder order = ReadMergeOrder(arguments);
-  if (!order.problem.isEmpty()) return FailUsage(kCommand, order.problem);
-  if (!AreRecordsUsable(order.records)) return kExitUsage;
-  if (taviinputmanager::MergeRecord(order.target, order.records)) return kExitDone;
-  PrintError(QStringLiteral("tavi record merge: cannot write %1\n").arg(order.target));
-  return kExitProblem;
-}
+Subcommand RecordMergeCommand() { return {"record merge", "writes one record that plays others in turn", kHelp, Run}; }
 
 }  // namespace tavi

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "host/subcommands.h"
 #include "taviinputmanager/types.h"
 
 namespace tavi {
@@ -19,7 +20,7 @@ struct MergeOrder {
 MergeOrder ReadMergeOrder(const QStringList& arguments);
 
 // `tavi record merge`
-int RunRecordMerge(const QStringList& arguments);
+Subcommand RecordMergeCommand();
 
 }  // namespace tavi
 

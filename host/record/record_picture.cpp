@@ -64,7 +64,8 @@ class PictureWriter {
 
  private:
   static QSizeF FrameOf(const QSizeF& display) {
-    return display.scaled(kLongestWidth, kLongestHeight, Qt::KeepAspectRatio).expandedTo({kShortestSide, kShortestSide});
+    return display.scaled(kLongestWidth, kLongestHeight, Qt::KeepAspectRatio)
+        .expandedTo({kShortestSide, kShortestSide});
   }
 
   QSizeF PageSize() const {

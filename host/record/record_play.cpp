@@ -13,7 +13,6 @@
 #include "host/record/record_file.h"
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
-#include "host/subcommands.h"
 #include "host/window_system.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -22,6 +21,25 @@ namespace tavi {
 namespace {
 
 const QString kCommand = QStringLiteral("record play");
+
+constexpr char kHelp[] =
+    "Usage: tavi record play [OPTIONS] FILE\n"
+    "\n"
+    "Plays a record and prints every line for the guest, and after a \"!\" every call of\n"
+    "the host, each with the time in milliseconds since the start. Time is not waited\n"
+    "for.\n"
+    "\n"
+    "  --speed X     that many times as fast, any number above 0 (1)\n"
+    "  --emulation   fingers miss their points by up to 2 pixels, at random\n"
+    "  --guest WxH   the guest's display in pixels, each side from 1 to 16384 (as it was\n"
+    "                recorded)\n"
+    "  --live        wait, and print each line as it falls due\n"
+    "\n"
+    "Exit status: 0 when it was played, 1 when the replay did not start, 2 when the\n"
+    "record or the command line cannot be used.\n"
+    "\n"
+    "Example: tavi record play --speed 2 examples/records/walk.json\n";
+
 const QString kSpeed = QStringLiteral("--speed");
 const QString kEmulation = QStringLiteral("--emulation");
 const QString kGuest = QStringLiteral("--guest");
@@ -133,9 +151,7 @@ int Replay(const PlayOptions& options) {
   return status;
 }
 
-}  // namespace
-
-int RunRecordPlay(const Invocation& invocation) {
+int Run(const Invocation& invocation) {
   PlayOptions options;
   const ParsedArguments parsed =
       ParseArguments(invocation.arguments, {{kSpeed, true}, {kEmulation}, {kGuest, true}, {kLive}});
@@ -149,5 +165,9 @@ int RunRecordPlay(const Invocation& invocation) {
   StartHost(GuestSize(options));
   return Replay(options);
 }
+
+}  // namespace
+
+Subcommand RecordPlayCommand() { return {"record play", "prints what a record plays", kHelp, Run}; }
 
 }  // namespace tavi

@@ -1,12 +1,12 @@
 #ifndef HOST_RECORD_RECORD_PLAY_H_
 #define HOST_RECORD_RECORD_PLAY_H_
 
+#include "host/subcommands.h"
+
 namespace tavi {
 
-struct Invocation;
-
-// `tavi record play FILE`; the arguments stand behind the word "play".
-int RunRecordPlay(const Invocation& invocation);
+// `tavi record play`
+Subcommand RecordPlayCommand();
 
 }  // namespace tavi
 

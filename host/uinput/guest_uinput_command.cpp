@@ -28,8 +28,10 @@ constexpr char kHelp[] =
     "desktop takes what they do for its user's doing.\n"
     "\n"
     "  --input FILE   reads a file or a named pipe instead\n"
-    "  --size WxH     the size of the touch surface; 1280x720 without it\n"
-    "  --display N    only the lines for this display of the guest, and texts\n"
+    "  --size WxH     the size of the touch surface in pixels, each side from 1 to 16384\n"
+    "                 (1280x720)\n"
+    "  --display N    only the lines for display N of the guest, a whole number, and texts\n"
+    "                 (all displays)\n"
     "  --timeline     the lines are what \"tavi simulate\" prints, and each is played\n"
     "                 at its time\n"
     "  --dry-run      makes no device and does not wait: prints the kernel's events,\n"
@@ -56,7 +58,8 @@ struct Options {
 Options ReadOptions(const ParsedArguments& arguments) {
   Options result;
   result.error = arguments.error;
-  if (result.error.isEmpty() && !arguments.positional.isEmpty()) {
+  if (!result.error.isEmpty()) return result;
+  if (!arguments.positional.isEmpty()) {
     result.error = QStringLiteral("\"%1\" is no option").arg(arguments.positional.first());
   }
   const QMap<QString, QString>& given = arguments.options;

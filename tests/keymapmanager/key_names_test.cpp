@@ -34,6 +34,14 @@ TEST(KeyNames, NoTwoKeysAreTheSame) {
   }
 }
 
+TEST(KeyNames, TellWhatElseAKeyIsCalled) {
+  EXPECT_EQ(OtherNamesOfKey(*KeyFromName("Escape")), QStringList{"Esc"});
+  EXPECT_EQ(OtherNamesOfKey(*KeyFromName("Right Alt")), QStringList{"Alt Gr"});
+  for (const char* name : {"W", "Mouse Left", "Wheel Up", "Pad A", "Scan 200"}) {
+    EXPECT_EQ(OtherNamesOfKey(*KeyFromName(name)), QStringList()) << name;
+  }
+}
+
 struct KeyboardRow {
   const char* name;
   int scancode;

@@ -1,0 +1,90 @@
+#!/usr/bin/env python3
+"""Every command has a page of help, and what the pages say is so.
+
+    help_test.py TAVI SOURCE_DIR
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from help_pages import Help
+
+TAVI, SOURCE = sys.argv[1], Path(sys.argv[2])
+del sys.argv[1:]
+ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen",
+               "PATH": str(Path(TAVI).parent) + os.pathsep + os.environ["PATH"]}
+HELP = Help(TAVI, ENVIRONMENT)
+COMMANDS = ["window", "simulate", "check", "draw", "keys", "record info", "record play", "record merge", "record draw",
+            "guest-uinput"]
+LONGEST_LINE = 88
+
+
+class HelpPages(unittest.TestCase):
+    maxDiff = None
+
+    def test_the_overview_lists_every_command(self):
+        self.assertEqual(list(HELP.pages), COMMANDS)
+        for page in HELP.pages.values():
+            self.assertIn(page.summary, HELP.overview)
+
+    def test_each_page_tells_purpose_use_exit_status_and_an_example(self):
+        for name, page in HELP.pages.items():
+            with self.subTest(name):
+                self.assertTrue(page.text.startswith(f"tavi {name} - "))
+                self.assertIn(f"\n\nUsage: tavi {name}", page.text)
+                self.assertIn("\n\nExit status: 0 when ", page.text)
+                self.assertIn("\n\nExample: ", page.text)
+                too_long = [line for line in page.text.splitlines() if len(line) > LONGEST_LINE]
+                self.assertEqual(too_long, [])
+
+    def test_the_ways_to_a_page_lead_to_the_same(self):
+        for name, page in HELP.pages.items():
+            words = name.split()
+            for way in (["help", *words], [*words, "-h"], [*words, "--unknown", "--help"]):
+                with self.subTest(" ".join(way)):
+                    outcome = HELP.run(*way)
+                    self.assertEqual((outcome.returncode, outcome.stdout, outcome.stderr), (0, page.text, ""))
+        for way in (["help"], ["-h"], ["help", "--help"]):
+            self.assertEqual(HELP.run(*way).stdout, HELP.overview)
+
+    def test_a_group_lists_its_commands(self):
+        for way in (["record", "--help"], ["help", "record"]):
+            outcome = HELP.run(*way)
+            self.assertEqual(outcome.returncode, 0)
+            for command in ("info", "play", "merge", "draw"):
+                self.assertIn(f"\n  {command}  ", outcome.stdout)
+
+    def test_options_that_are_told_of_are_taken(self):
+        for name, page in HELP.pages.items():
+            for option, value in page.options.items():
+                with self.subTest(f"{name} {option}"):
+                    # The first thing that is wrong is the option behind it.
+                    given = [option, "1"] if value else [option]
+                    if name == "record merge":
+                        given = ["file.json", *given]
+                    outcome = HELP.run(*name.split(), *given, "--no-such-option")
+                    self.assertEqual(outcome.returncode, 2)
+                    self.assertIn('unknown option "--no-such-option"', outcome.stderr)
+
+    def test_examples_work(self):
+        examples = {name: page.example for name, page in HELP.pages.items()}
+        examples[""] = HELP.overview.split("\nExample: ")[1]
+        examples["record"] = HELP.run("record", "--help").stdout.split("\nExample: ")[1]
+        # A window stays until someone closes it, unless it is to leave a picture.
+        examples["window"] = examples["window"].rstrip() + " --picture window.png --after 0"
+        for name, example in examples.items():
+            with self.subTest(name), tempfile.TemporaryDirectory() as folder:
+                shutil.copytree(SOURCE / "examples", Path(folder) / "examples")
+                outcome = subprocess.run(["bash", "-c", "set -o pipefail; " + example], cwd=folder, env=ENVIRONMENT,
+                                         capture_output=True, text=True, timeout=60)
+                self.assertEqual(outcome.returncode, 0, f"{example}\n{outcome.stdout}\n{outcome.stderr}")
+                written = [path for path in Path(folder).iterdir() if path.name != "examples"]
+                self.assertTrue(outcome.stdout or written, f"{example} does nothing")
+
+
+if __name__ == "__main__":
+    unittest.main()
