@@ -75,6 +75,8 @@ watch_replay() {
 mkdir -p "$pictures"
 "$tavi" draw -o "$pictures/shooter_keymap.svg" "$keymaps/shooter.yaml"
 echo "$pictures/shooter_keymap.svg"
+"$tavi" simulate --svg "$pictures/timeline.svg" "$keymaps/shooter.yaml" "$root/examples/scripts/tour.txt" >/dev/null
+echo "$pictures/timeline.svg"
 picture shooter 3500 shooter.yaml play_shooter
 picture hero_battle 3500 hero_battle.yaml play_battle
 

@@ -10,6 +10,9 @@
 
 #include "host/command_line.h"
 #include "host/keymap_report.h"
+#include "host/picture/picture_file.h"
+#include "host/picture/timeline_chart.h"
+#include "host/picture/timeline_picture.h"
 #include "host/record/script_recording.h"
 #include "host/simulation/script.h"
 #include "host/simulation/script_player.h"
@@ -35,20 +38,24 @@ constexpr char kHelp[] =
     "  mouse down left 640,360\n"
     "Positions are pixels of a guest view of 1280 x 720.\n"
     "\n"
+    "  --svg FILE       also draw the timeline as a picture: bars for what is held, a lane\n"
+    "                   for each key and finger\n"
     "  --record FILE    also save what the guest got on display 1 as a record, for\n"
     "                   \"tavi record\" to play\n"
     "  --package NAME   the app that the keymap is loaded for, and the record tells of\n"
     "                   (com.example.game)\n"
     "\n"
-    "Exit status: 0 when the script was played, 1 when there is no record to save or\n"
-    "it cannot be written, 2 when the script, the keymap or the command line cannot be\n"
-    "used.\n"
+    "Exit status: 0 when the script was played, 1 when there is no record to save, or it\n"
+    "or the picture cannot be written, 2 when the script, the keymap or the command line\n"
+    "cannot be used.\n"
     "\n"
     "Example: echo \"down Space; wait 50; up Space\" |\n"
     "           tavi simulate examples/keymaps/shooter.yaml -\n";
 
 constexpr char kStandardInput[] = "-";
 
+const QString kName = QStringLiteral("simulate");
+const QString kSvg = QStringLiteral("--svg");
 const QString kRecord = QStringLiteral("--record");
 const QString kPackage = QStringLiteral("--package");
 
@@ -103,15 +110,27 @@ bool AreKeymapsUsable(const QString& first, const Script& script) {
   return all;
 }
 
-void PrintTimeline(SimulatedHost* host) {
-  for (const TimelineEntry& entry : host->TakeTimeline()) Print(FormatLine(entry));
+void TakeTimeline(SimulatedHost* host, TimelineChart* chart) {
+  for (const TimelineEntry& entry : host->TakeTimeline()) {
+    Print(FormatLine(entry));
+    chart->AddEntry(entry);
+  }
 }
 
 struct SimulateOptions {
   QString keymap;
+  QString script;
+  std::optional<QString> svg;      // where to draw the timeline
   std::optional<QString> record;   // where to save one
   std::optional<QString> package;  // in place of the player's own
 };
+
+int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
+  const bool is_standard_input = options.script == QLatin1String(kStandardInput);
+  const QString script = is_standard_input ? QStringLiteral("Input") : QFileInfo(options.script).fileName();
+  const QString title = QStringLiteral("%1 with %2").arg(script, QFileInfo(options.keymap).fileName());
+  return WritePicture(kName, *options.svg, DrawTimeline(chart, title));
+}
 
 int Play(const Invocation& invocation, const SimulateOptions& options, const Script& script) {
   DoWithoutWindowSystem();  // the clock serves none
@@ -127,11 +146,17 @@ int Play(const Invocation& invocation, const SimulateOptions& options, const Scr
   host->StartTimeline();
   const QString package = player.package;  // a script may change the player's
   if (options.record) StartScriptRecording(package, player.display);
+  const qint64 start_ms = clock->NowMs();
+  TimelineChart chart;
   for (const ScriptCommand& command : script.commands) {
+    chart.AddInput(clock->NowMs() - start_ms, command);
     player.Play(command);
-    PrintTimeline(host);
+    TakeTimeline(host, &chart);
   }
-  return options.record ? SaveScriptRecording(package, *options.record) : kExitDone;
+  chart.Finish(clock->NowMs() - start_ms);
+  const int recorded = options.record ? SaveScriptRecording(package, *options.record) : kExitDone;
+  const int drawn = options.svg ? DrawChart(options, chart) : kExitDone;
+  return recorded == kExitDone ? drawn : recorded;
 }
 
 std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString& name) {
@@ -140,16 +165,21 @@ std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString&
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments arguments = ParseArguments(invocation.arguments, {{kRecord, true}, {kPackage, true}});
-  if (!arguments.error.isEmpty()) return FailUsage(QStringLiteral("simulate"), arguments.error);
+  const ParsedArguments arguments =
+      ParseArguments(invocation.arguments, {{kSvg, true}, {kRecord, true}, {kPackage, true}});
+  if (!arguments.error.isEmpty()) return FailUsage(kName, arguments.error);
   if (arguments.positional.size() != 2) {
-    return FailUsage(QStringLiteral("simulate"), QStringLiteral("a keymap and a script are needed"));
+    return FailUsage(kName, QStringLiteral("a keymap and a script are needed"));
   }
-  const SimulateOptions options{arguments.positional[0], OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
+  const SimulateOptions options{arguments.positional[0], arguments.positional[1], OptionOf(arguments, kSvg),
+                                OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
+  if (options.svg && options.svg->isEmpty()) {
+    return FailUsage(kName, QStringLiteral("the name of the picture is empty"));
+  }
   if (options.record && options.record->isEmpty()) {
-    return FailUsage(QStringLiteral("simulate"), QStringLiteral("the name of the record is empty"));
+    return FailUsage(kName, QStringLiteral("the name of the record is empty"));
   }
-  const std::optional<Script> script = ReadScript(arguments.positional[1]);
+  const std::optional<Script> script = ReadScript(options.script);
   if (!script || !AreKeymapsUsable(options.keymap, *script)) return kExitUsage;
   return Play(invocation, options, *script);
 }

@@ -9,7 +9,7 @@ namespace tavi {
 // The start of the program as a subcommand sees it. An application object needs the first two, which outlive it.
 struct Invocation {
   int& argc;
-  char** argv;
+  char** argv = nullptr;
   QStringList arguments;  // behind the subcommand
 };
 

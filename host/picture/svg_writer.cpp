@@ -32,7 +32,7 @@ SvgWriter::SvgWriter(const QSizeF& size, const QString& title) : xml_(&bytes_) {
               {"font-family", "sans-serif"},
               {"stroke", "none"},
               {"font-size", "13"}});
-  xml_.writeTextElement(QStringLiteral("title"), Printable(title));
+  TextElement("title", title);
 }
 
 void SvgWriter::Open(const char* name, AttributeList attributes) {
@@ -43,6 +43,10 @@ void SvgWriter::Open(const char* name, AttributeList attributes) {
 void SvgWriter::Empty(const char* name, AttributeList attributes) {
   xml_.writeEmptyElement(QLatin1String(name));
   Attributes(attributes);
+}
+
+void SvgWriter::TextElement(const char* name, const QString& text) {
+  xml_.writeTextElement(QLatin1String(name), Printable(text));
 }
 
 void SvgWriter::Text(const QPointF& place, const QString& text, AttributeList attributes) {

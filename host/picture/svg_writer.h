@@ -27,6 +27,8 @@ class SvgWriter {
   void Attribute(const char* name, const QString& value) { xml_.writeAttribute(QLatin1String(name), value); }
   void Close() { xml_.writeEndElement(); }
   void Empty(const char* name, AttributeList attributes);
+  // One that holds a text alone, such as a "title", which viewers show beside the pointer.
+  void TextElement(const char* name, const QString& text);
   // Text in the viewer's own letters, at the left end of its base line. Characters that no XML may hold are replaced.
   void Text(const QPointF& place, const QString& text, AttributeList attributes = {});
 

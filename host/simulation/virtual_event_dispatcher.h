@@ -82,12 +82,12 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
 
  private:
   struct Timer {
-    int id;
-    int interval_ms;
-    Qt::TimerType type;
-    QObject* object;
-    qint64 due_ms;
-    quint64 order;  // of all starts and timeouts
+    int id = 0;
+    int interval_ms = 0;
+    Qt::TimerType type = Qt::CoarseTimer;
+    QObject* object = nullptr;
+    qint64 due_ms = 0;
+    quint64 order = 0;  // of all starts and timeouts
     bool in_handler = false;
   };
   enum class Scope { kAll, kWorkers };

@@ -108,6 +108,25 @@ TEST_F(Program, SimulatePlaysAScript) {
                                            "50ms 1:SLOTRELEASE:11\n"));
 }
 
+TEST_F(Program, SimulateDrawsItsTimeline) {
+  Write("good.yaml", kGood);
+  Write("tap.txt", "down Space; wait 50; up Space\n");
+  const Outcome plain = Run({"simulate", "good.yaml", "tap.txt"});
+  const Outcome outcome = Run({"simulate", "--svg", "tap.svg", "good.yaml", "tap.txt"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, plain.output);
+  const QByteArray page = Content("tap.svg");
+  EXPECT_TRUE(page.contains("<title>tap.txt with good.yaml</title>"));
+  EXPECT_TRUE(page.contains("<title>Space: 0 ms to 50 ms</title>"));
+  EXPECT_TRUE(page.contains("<title>finger 11: 0 ms to 50 ms 640,360</title>"));
+
+  const Outcome failed = Run({"simulate", "--svg", "none/tap.svg", "good.yaml", "tap.txt"});
+  EXPECT_EQ(failed.status, 1);
+  EXPECT_EQ(failed.output, plain.output);
+  EXPECT_TRUE(failed.errors.contains("tavi simulate: cannot write none/tap.svg: "));
+  EXPECT_EQ(Run({"simulate", "--svg", "", "good.yaml", "tap.txt"}).status, 2);
+}
+
 TEST_F(Program, SimulateReadsStandardInput) {
   Write("good.yaml", kGood);
   const Outcome outcome = Run({"simulate", "good.yaml", "-"}, "down Space\n");

@@ -1,0 +1,74 @@
+// What a script did and what came of it, sorted into lanes along one axis of time: one lane for each key, finger and
+// whatever else there is, with bars for what lasts and marks for what does not.
+#ifndef HOST_PICTURE_TIMELINE_CHART_H_
+#define HOST_PICTURE_TIMELINE_CHART_H_
+
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+namespace tavi {
+
+struct GuestLine;
+struct ScriptCommand;
+struct TimelineEntry;
+
+// Times are milliseconds since the start.
+struct ChartBar {
+  qint64 start_ms = 0;
+  qint64 end_ms = 0;
+  bool is_open = true;  // not ended yet; at last: still down at the end
+  QString text;         // where a finger goes down, and, when it moves, where it is at last
+};
+
+struct ChartMark {
+  qint64 ms = 0;
+  QString text;  // may be empty
+};
+
+struct ChartLane {
+  enum class Group {
+    kInput,  // what the player does
+    kGuest,  // what the guest gets
+    kHost    // what the host is told
+  };
+
+  Group group = Group::kInput;
+  QString name;
+  int slot = -1;  // of a finger
+  QVector<ChartBar> bars;
+  QVector<ChartMark> marks;
+};
+
+// Lanes stand in the order in which they come up; who shows them sorts them by group. Not bound to a thread.
+class TimelineChart {
+ public:
+  // In the order of time, a command before the entries that come of it.
+  void AddInput(qint64 ms, const ScriptCommand& command);
+  void AddEntry(const TimelineEntry& entry);
+  // Ends all that is open, once, when nothing more comes.
+  void Finish(qint64 ms);
+
+  const QVector<ChartLane>& lanes() const { return lanes_; }
+  qint64 end_ms() const { return end_ms_; }
+  int input_count() const { return input_count_; }  // waits aside
+  int line_count() const { return line_count_; }    // for the guest
+
+ private:
+  ChartLane* LaneOf(ChartLane::Group group, const QString& name);
+  void StartBar(ChartLane* lane, qint64 ms, const QString& text);
+  void EndBar(ChartLane* lane, qint64 ms);
+  void AddTouchInput(qint64 ms, const ScriptCommand& command);
+  void AddLine(qint64 ms, const QString& prefix, const GuestLine& line);
+  void AddTouchLine(qint64 ms, const QString& prefix, const GuestLine& line);
+  void PutFinger(qint64 ms, const QString& prefix, int slot, const QPointF& point);
+
+  QVector<ChartLane> lanes_;
+  qint64 end_ms_ = 0;
+  int input_count_ = 0;
+  int line_count_ = 0;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_PICTURE_TIMELINE_CHART_H_
