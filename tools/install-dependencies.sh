@@ -5,7 +5,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
-test=(libgtest-dev python3 python3-jsonschema python3-yaml)
+test=(groff-base libgtest-dev python3 python3-jsonschema python3-yaml)
 lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 busybox-static cpio)
 windows=(g++-mingw-w64-x86-64-posix wine64)

@@ -52,6 +52,11 @@ class InstalledTree(unittest.TestCase):
                      f"{LIB}/pkgconfig/taviinputmanager.pc", f"{LIB}/pkgconfig/tavi-keymapmanager.pc"]:
             self.assertTrue((INSTALLED / name).is_file(), name)
 
+    def test_holds_the_manual_page_and_completions(self):
+        for name in ["man/man1/tavi.1", "bash-completion/completions/tavi", "zsh/site-functions/_tavi",
+                     "fish/vendor_completions.d/tavi.fish"]:
+            self.assertTrue((INSTALLED / "share" / name).is_file(), name)
+
     def test_holds_the_public_headers_and_no_other(self):
         expected = [path.relative_to(Path(SOURCE) / "include") for path in (Path(SOURCE) / "include").rglob("*.h")]
         expected += [path.relative_to(SOURCE) for path in (Path(SOURCE) / "keymap").glob("*.h")]

@@ -11,10 +11,12 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from help_pages import Help
-
 TAVI, SOURCE = sys.argv[1], Path(sys.argv[2])
 del sys.argv[1:]
+sys.path.insert(0, str(SOURCE / "tools"))
+
+from help_pages import Help  # noqa: E402
+
 ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen",
                "PATH": str(Path(TAVI).parent) + os.pathsep + os.environ["PATH"]}
 HELP = Help(TAVI, ENVIRONMENT)
@@ -29,7 +31,7 @@ class HelpPages(unittest.TestCase):
     def test_the_overview_lists_every_command(self):
         self.assertEqual(list(HELP.pages), COMMANDS)
         for page in HELP.pages.values():
-            self.assertIn(page.summary, HELP.overview)
+            self.assertIn(page.summary, HELP.overview.text)
 
     def test_each_page_tells_purpose_use_exit_status_and_an_example(self):
         for name, page in HELP.pages.items():
@@ -49,7 +51,7 @@ class HelpPages(unittest.TestCase):
                     outcome = HELP.run(*way)
                     self.assertEqual((outcome.returncode, outcome.stdout, outcome.stderr), (0, page.text, ""))
         for way in (["help"], ["-h"], ["help", "--help"]):
-            self.assertEqual(HELP.run(*way).stdout, HELP.overview)
+            self.assertEqual(HELP.run(*way).stdout, HELP.overview.text)
 
     def test_a_group_lists_its_commands(self):
         for way in (["record", "--help"], ["help", "record"]):
@@ -60,10 +62,10 @@ class HelpPages(unittest.TestCase):
 
     def test_options_that_are_told_of_are_taken(self):
         for name, page in HELP.pages.items():
-            for option, value in page.options.items():
-                with self.subTest(f"{name} {option}"):
+            for option in page.options:
+                with self.subTest(f"{name} {option.name}"):
                     # The first thing that is wrong is the option behind it.
-                    given = [option, "1"] if value else [option]
+                    given = [option.name, "1"] if option.value else [option.name]
                     if name == "record merge":
                         given = ["file.json", *given]
                     outcome = HELP.run(*name.split(), *given, "--no-such-option")
@@ -72,7 +74,7 @@ class HelpPages(unittest.TestCase):
 
     def test_examples_work(self):
         examples = {name: page.example for name, page in HELP.pages.items()}
-        examples[""] = HELP.overview.split("\nExample: ")[1]
+        examples[""] = HELP.overview.example
         examples["record"] = HELP.run("record", "--help").stdout.split("\nExample: ")[1]
         # A window stays until someone closes it, unless it is to leave a picture.
         examples["window"] = examples["window"].rstrip() + " --picture window.png --after 0"
