@@ -120,7 +120,10 @@ int Draw(const DrawOptions& options) {
     return kExitProblem;
   }
   const bool is_svg = options.format == Format::kSvg;
-  return WritePicture(kName, options.output, is_svg ? DrawKeymapAsSvg(drawing) : DrawKeymapAsPng(drawing));
+  const QByteArray picture = is_svg ? DrawKeymapAsSvg(drawing) : DrawKeymapAsPng(drawing);
+  if (!picture.isEmpty()) return WritePicture(kName, options.output, picture);
+  PrintError(QStringLiteral("tavi draw: there is not enough memory for a picture of this size\n"));
+  return kExitProblem;
 }
 
 int Run(const Invocation& invocation) {

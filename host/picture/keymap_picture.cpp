@@ -57,6 +57,7 @@ QByteArray DrawKeymapAsSvg(const KeymapDrawing& drawing) {
 
 QByteArray DrawKeymapAsPng(const KeymapDrawing& drawing) {
   QImage image(drawing.size, QImage::Format_RGB32);
+  if (image.isNull()) return {};
   Paint(&image, drawing);
   QByteArray png;
   QBuffer buffer(&png);

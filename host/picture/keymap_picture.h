@@ -22,6 +22,7 @@ struct KeymapDrawing {
 
 // Each needs an application object, for its fonts. Main thread.
 QByteArray DrawKeymapAsSvg(const KeymapDrawing& drawing);
+// Empty where there is not memory enough for its pixels.
 QByteArray DrawKeymapAsPng(const KeymapDrawing& drawing);
 
 }  // namespace tavi

@@ -12,8 +12,8 @@ struct GuestContact;
 
 // A point of a trail, fresh from the guest's state.
 struct TrailPoint {
-  QPoint point;  // touch coordinates
-  qint64 ms;     // when the finger came there
+  QPoint point;   // touch coordinates
+  qint64 ms = 0;  // when the finger came there
 };
 
 // One finger from its touch to its lift.

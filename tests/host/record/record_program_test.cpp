@@ -43,7 +43,8 @@ TEST_F(RecordProgram, RefusesWhatItDoesNotKnow) {
       {"no word", {"record"}, "tavi record: expected info, play, merge or draw\nTry \"tavi record --help\".\n"},
       {"another word",
        {"record", "paly"},
-       "tavi record: expected info, play, merge or draw, found \"paly\"; did you mean \"play\"?\nTry \"tavi record --help\".\n"},
+       "tavi record: expected info, play, merge or draw, found \"paly\"; did you mean \"play\"?\nTry \"tavi record "
+       "--help\".\n"},
       {"info of nothing",
        {"record", "info"},
        "tavi record info: a record is missing\nTry \"tavi record info --help\".\n"},
