@@ -21,7 +21,11 @@ FILES = {
     "--background": PICTURES,
     "--input": (),  # any
 }
-SIZES = ("1280x720", "1920x1080", "2560x1440")
+# What to offer for other values, by the word that stands for them.
+WORDS = {
+    "WxH": "1280x720 1920x1080 2560x1440",
+    "DEG": "0 90 180 270",
+}
 MADE = "# Made by tools/make_command_files.py of what tavi --help says."
 
 
@@ -140,8 +144,8 @@ def bash_value(command, option):
     found = endings(command, option.name, option.value)
     if found is not None:
         return " ".join(["_tavi_files", *found])
-    if option.value == "WxH":
-        return f'_tavi_words "{" ".join(SIZES)}"'
+    if option.value in WORDS:
+        return f'_tavi_words "{WORDS[option.value]}"'
     return "return 0"  # a number or a name: nothing to offer
 
 
@@ -174,8 +178,8 @@ def zsh_value(command, option):
     found = endings(command, option.name, option.value)
     if found is not None:
         return f":{option.value}:{zsh_files(found)}"
-    if option.value == "WxH":
-        return f":{option.value}:({' '.join(SIZES)})"
+    if option.value in WORDS:
+        return f":{option.value}:({WORDS[option.value]})"
     return f":{option.value}:" if option.value else ""
 
 
@@ -233,8 +237,8 @@ def fish_option(condition, command, option):
         flag += f" -x -a {fish_quoted('(' + fish_files(found) + ')')}"
     elif found is not None:
         flag += " -r"
-    elif option.value == "WxH":
-        flag += f" -x -a {fish_quoted(' '.join(SIZES))}"
+    elif option.value in WORDS:
+        flag += f" -x -a {fish_quoted(WORDS[option.value])}"
     elif option.value:
         flag += " -x"
     return fish_line(condition, flag, option.text)

@@ -44,7 +44,7 @@ class Page:
             if match:
                 found.append(Option(match[1], match[2] or "", match[3] or ""))
             elif found and re.match(r"^ {6,}\S", line):
-                found[-1].text += " " + line.strip()
+                found[-1].text = f"{found[-1].text} {line.strip()}".strip()
             elif not line.startswith("  "):
                 yield from found
                 found = []

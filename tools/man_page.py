@@ -62,7 +62,7 @@ def indented(lines):
         if match:
             out.append([match[1], match[2] or ""])
         else:
-            out[-1][1] += " " + line.strip()
+            out[-1][1] = f"{out[-1][1]} {line.strip()}".strip()
     return "".join(entry(term_of(term), words) for term, words in out)
 
 
