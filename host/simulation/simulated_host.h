@@ -57,7 +57,8 @@ class SimulatedHost {
   taviinputmanager::InputManagerCallbacks table;
 
  private:
-  friend struct HostFunctions;
+  template <typename Host>
+  friend struct TellingFunctions;
 
   SimulatedHost();
   void Add(TimelineEntry::Source source, const QString& text);

@@ -3,8 +3,8 @@
 #include <QCursor>
 #include <QWidget>
 
+#include "host/simulation/host_functions.h"
 #include "host/window/pad_input.h"
-#include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
 
@@ -22,61 +22,25 @@ quint64 Pack(const QSize& size) {
 }  // namespace
 
 // The plain functions that the library is given.
-struct WindowHostFunctions {
+struct WindowHostFunctions : TellingFunctions<WindowHost> {
   static WindowHost* Host() { return WindowHost::GetInstance(); }
-  static void Say(const QString& text) { Host()->Add(Source::kCallback, text); }
-
-  static void SendEvent(const char* data, int length) {
-    Host()->Add(Source::kLine, QString::fromUtf8(data, length - 1));  // without the newline
-  }
-  static void SendText(const char* data, int length) {
-    Host()->Add(Source::kText, QString::fromUtf8(data, length - 1));  // without the NUL
-  }
 
   static WindowGeometry GetWindowGeometry() { return Host()->Geometry(); }
   static int GetDisplayRotation() { return 0; }
   static bool IsTextInputActive() { return Host()->HasTextField(); }
-  static void OnInputStatusChanged(int status, const QString& key) {
-    Say(QStringLiteral("status %1 %2").arg(status).arg(key).trimmed());
-    Host()->SetInputStatus(status, key);
-  }
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
-  static void OnEscapeKeyOccupied(bool occupied) { Say(QStringLiteral("escape_occupied %1").arg(occupied)); }
   static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
-  static void OnMappedDeviceUsed(bool keyboard_or_mouse) { Say(QStringLiteral("mapped %1").arg(keyboard_or_mouse)); }
-  static void OnOperationRecorderStarted(const QString& name, int total_sleep_ms) {
-    Say(QStringLiteral("operation %1 %2").arg(name).arg(total_sleep_ms));
+  static bool IsPrimaryDisplay(int display) { return display == WindowHost::kDisplay; }
+
+  static void OnInputStatusChanged(int status, const QString& key) {
+    TellingFunctions::OnInputStatusChanged(status, key);
+    Host()->SetInputStatus(status, key);
   }
   static void SetGravity(double x, double y, double z) {
-    Say(QStringLiteral("gravity %1 %2 %3").arg(x).arg(y).arg(z));
+    TellingFunctions::SetGravity(x, y, z);
     Host()->SetGravity(x, y, z);
-  }
-  static bool IsPrimaryDisplay(int display) { return display == WindowHost::kDisplay; }
-  static void OnMouseLockSwitch(const QString& key_text) { Say(QStringLiteral("mouse_lock %1").arg(key_text)); }
-  static void OnVirtualJoystickChanged(bool enabled) { Say(QStringLiteral("virtual_joystick %1").arg(enabled)); }
-  static void OnScreenshotRequest(const QString& instruction) { Say(QStringLiteral("screenshot %1").arg(instruction)); }
-
-  static taviinputmanager::InputManagerCallbacks Table() {
-    taviinputmanager::InputManagerCallbacks table;
-    table.GetWindowGeometry = GetWindowGeometry;
-    table.GetDisplayRotation = GetDisplayRotation;
-    table.IsTextInputActive = IsTextInputActive;
-    table.OnInputStatusChanged = OnInputStatusChanged;
-    table.GetJoystickType = GetJoystickType;
-    table.IsEscapeBackEnabled = IsEscapeBackEnabled;
-    table.OnEscapeKeyOccupied = OnEscapeKeyOccupied;
-    table.GetDisplayRect = GetDisplayRect;
-    table.GetTouchRect = GetTouchRect;
-    table.OnMappedDeviceUsed = OnMappedDeviceUsed;
-    table.OnOperationRecorderStarted = OnOperationRecorderStarted;
-    table.SetGravity = SetGravity;
-    table.IsPrimaryDisplay = IsPrimaryDisplay;
-    table.OnMouseLockSwitch = OnMouseLockSwitch;
-    table.OnVirtualJoystickChanged = OnVirtualJoystickChanged;
-    table.OnScreenshotRequest = OnScreenshotRequest;
-    return table;
   }
 };
 
@@ -85,15 +49,13 @@ WindowHost* WindowHost::GetInstance() {
   return &instance;
 }
 
-WindowHost::WindowHost() : table_(WindowHostFunctions::Table()), guest_size_(Pack(kDefaultGuest)) {}
+WindowHost::WindowHost() : table_(CallbacksOf<WindowHostFunctions>()), guest_size_(Pack(kDefaultGuest)) {}
 
 void WindowHost::Start(QWidget* view) {
   view_ = view;
   if (clock_.isValid()) return;  // the library is initialised once
   clock_.start();
-  taviinputmanager::SetInputEventSendFunc(reinterpret_cast<void*>(WindowHostFunctions::SendEvent));
-  taviinputmanager::SetInputTextSendFunc(reinterpret_cast<void*>(WindowHostFunctions::SendText));
-  taviinputmanager::Initialize(&table_, 0, 0);
+  InitializeLibrary<WindowHostFunctions>(&table_);
 }
 
 void WindowHost::SetGuestSize(const QSize& size) { guest_size_ = Pack(size); }

@@ -56,6 +56,8 @@ class WindowHost : public QObject {
 
  private:
   friend struct WindowHostFunctions;
+  template <typename Host>
+  friend struct TellingFunctions;
 
   WindowHost();
 
