@@ -32,7 +32,7 @@ QString NameOfButton(int code) {
 }
 
 struct HatRow {
-  char16_t arrow;
+  char16_t arrow = 0;
   QPoint way;
 };
 

@@ -18,7 +18,8 @@ namespace {
 constexpr double kTextHeight = 0.022;  // of the view's height
 constexpr int kSmallestText = 9;       // pixels
 constexpr int kLargestText = 18;
-constexpr double kLabelSize = 0.85;  // of the size of key names
+constexpr double kLabelSize = 0.85;          // of the size of key names
+const QColor kLabelColor(0xCD, 0xD4, 0xE0);  // fainter than key names, and legible on a bright picture
 constexpr double kListMargin = 10;
 constexpr double kListGap = 4;
 constexpr double kKeyGap = 2;         // between two keys of one item
@@ -163,7 +164,7 @@ class MarkPainter {
 
   void PaintLabel(const QString& label, const QPointF& center) {
     painter_->setFont(label_font_);
-    PaintOutlinedText(painter_, label, center, theme::kFaintText);
+    PaintOutlinedText(painter_, label, center, kLabelColor);
     QRectF place(0, 0, LabelWidth(label), text_height_);
     place.moveCenter(center);
     taken_.append(place);
