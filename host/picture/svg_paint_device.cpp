@@ -65,6 +65,7 @@ class SvgPaintEngine : public QPaintEngine {
 
   void drawPath(const QPainterPath& path) override { WritePath(path, path.fillRule()); }
 
+  using QPaintEngine::drawPolygon;
   void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override {
     QPainterPath path;
     QPolygonF corners;
