@@ -115,10 +115,10 @@ TEST_F(DrawProgram, RefusesWhatItCannotUse) {
   Write("bad.yaml", "format: 1\nitems: [{type: Click, key: Spcae, point: [0.5, 0.5]}]\n");
   Write("text.png", "no picture\n");
   const struct {
-    const char* name;
+    const char* name = "";
     QStringList arguments;
-    int status;
-    const char* error;
+    int status = 0;
+    const char* error = "";
   } rows[] = {
       {"no keymap", {"-o", "a.png"}, 2, "tavi draw: one keymap is needed\n"},
       {"no output", {"keymap.yaml"}, 2, "tavi draw: -o PICTURE is missing\n"},

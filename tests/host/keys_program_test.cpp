@@ -17,7 +17,7 @@ class KeysProgram : public Program {
   QMap<QString, QJsonObject> Keys(const QStringList& arguments) {
     QMap<QString, QJsonObject> keys;
     const QString output = Run(QStringList{"keys", "--json"} + arguments).output;
-    for (const QJsonValue& key : QJsonDocument::fromJson(output.toUtf8()).array()) {
+    for (const QJsonValue key : QJsonDocument::fromJson(output.toUtf8()).array()) {
       keys.insert(key["name"].toString(), key.toObject());
     }
     return keys;
@@ -51,7 +51,7 @@ TEST_F(KeysProgram, AliasesAreSpellingsOfTheSameKey) {
   int count = 0;
   const QMap<QString, QJsonObject> keys = Keys({});
   for (const QJsonObject& key : keys) {
-    for (const QJsonValue& alias : key["aliases"].toArray()) {
+    for (const QJsonValue alias : key["aliases"].toArray()) {
       const auto found = tavikeymapmanager::KeyFromName(alias.toString());
       ASSERT_TRUE(found) << alias.toString().toStdString();
       EXPECT_EQ(found->scancode, key["scan_code"].toInt());

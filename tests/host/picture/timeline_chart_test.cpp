@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 #include "host/simulation/script.h"
 #include "host/simulation/simulated_host.h"
 
