@@ -1,6 +1,7 @@
 #include "simulators/curve_event_simulator.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QMutexLocker>
 
@@ -65,7 +66,11 @@ void CurveEventSimulator::StartRun(const CurveConfigItem& item, bool lifts_at_en
     if (IsLive(worker)) OnCurvePointPressed(x, y);
   };
   connect(worker, &CurveAsyncWorker::CurvePointPressed, this, on_point, Qt::QueuedConnection);
-  const auto on_finished = [=](bool force_stop) { EndRun(worker, run, force_stop || lifts_at_end); };
+  // A main thread that was busy finds the end told more than once; worker and run are gone after the first.
+  const auto on_finished = [this, worker, run, lifts_at_end, is_over = false](bool force_stop) mutable {
+    if (!std::exchange(is_over, true)) return EndRun(worker, run, force_stop || lifts_at_end);
+    if (lifts_at_end) OnCurveFinished();
+  };
   connect(worker, &CurveAsyncWorker::CurveFinished, this, on_finished, Qt::QueuedConnection);
   run->Start();
   const QMutexLocker lock(&mutex_);

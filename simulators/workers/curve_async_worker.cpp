@@ -30,21 +30,22 @@ void CurveAsyncWorker::Process() {
 }
 
 void CurveAsyncWorker::TimerOutTime() {
-  if (count_ >= points_.Count()) return Finish(false);
+  if (count_ >= points_.Count()) {
+    finished_ = true;  // the timer runs on
+    Q_EMIT CurveFinished(false);
+    return;
+  }
   if (const auto point = points_.At(count_)) Q_EMIT CurvePointPressed(point->x(), point->y());
   timer_->start(kTickMs);
   ++count_;
 }
 
 void CurveAsyncWorker::Stop(const QString& device, int scancode) {
-  if (HasKey(device, scancode)) Finish(true);
-}
-
-void CurveAsyncWorker::Finish(bool force_stop) {
+  if (!HasKey(device, scancode)) return;
   if (finished_) return;  // a stop that was on its way when the run ended
   finished_ = true;
   if (timer_) timer_->stop();
-  Q_EMIT CurveFinished(force_stop);
+  Q_EMIT CurveFinished(true);
 }
 
 }  // namespace taviinputmanager

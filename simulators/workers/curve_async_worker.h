@@ -11,8 +11,8 @@ class QTimer;
 
 namespace taviinputmanager {
 
-//   Process   first delay     8 ms           8 ms
-//   ------------------ point 1 --- point 2 ... --- finished (false)           Stop: finished (true)
+//   Process   first delay     8 ms           8 ms             8 ms
+//   ------------------ point 1 --- point 2 ... --- finished (false) --- finished (false) ...   Stop: finished (true)
 //
 // A bad entry presses nothing and takes its time like any other. Lives for one run, on a thread of its own, until that
 // run is quit; touches its own fields alone and reports by queued signals.
@@ -36,17 +36,15 @@ class CurveAsyncWorker : public QObject {
  Q_SIGNALS:
   // Offsets from the origin, as fractions of the display.
   void CurvePointPressed(double x, double y);
-  // Once. False at the end of the list.
+  // False at the end of the list, and at each tick from then on until the run is quit. True at a stop on the way.
   void CurveFinished(bool forceStop);  // NOLINT(readability-identifier-naming)
 
  private:
-  void Finish(bool force_stop);
-
   const tavikeymapmanager::CurveConfigItem item_;
   const CurvePoints points_;
   QTimer* timer_ = nullptr;  // a child, made where the run is
   int count_ = 0;            // entries so far
-  bool finished_ = false;
+  bool finished_ = false;    // has said so
 };
 
 }  // namespace taviinputmanager

@@ -232,6 +232,18 @@ TEST_F(Curve, ANotchPlaysOnceAndLifts) {
   EXPECT_WIRE_NONE();
 }
 
+// The end is told at 24 and at 32 ms, before the main thread can quit the run.
+TEST_F(Curve, ANotchLiftsAsOftenAsItsEndIsToldToABusyMainThread) {
+  auto* item = AddCurve("W", two_points_);
+  Load();
+  Simulator()->Wheel(item, nullptr);
+  Wait(0);
+  Clock::Sleep(39);
+  Wait(100);
+  EXPECT_WIRE("39ms 1:SLOTPRESS:5:5:1:1:480:180", "39ms 1:SLOTPRESS:5:5:1:1:640:270", "39ms 1:SLOTRELEASE:5",
+              "39ms 1:SLOTRELEASE:5");
+}
+
 TEST_F(Curve, ATurnOfTheWheelPlaysAMappedCurveWithoutASleep) {
   AddCurve("Wheel Up", two_points_);
   Load();

@@ -78,11 +78,24 @@ TEST_F(CurveWorker, IsStoppedByItsDeviceAndScanCode) {
   EXPECT_EQ("", Said());
 }
 
-TEST_F(CurveWorker, EndsOnce) {
+// Points at 8 and 16 ms, the end at 24 ms; its run would quit it now.
+TEST_F(CurveWorker, TellsItsEndAtEachTickUntilItIsQuit) {
   CurveAsyncWorker worker(Item());
   Listen(&worker);
   worker.Process();
-  Wait(100);
+  Wait(31);
+  EXPECT_EQ("0.25,0.5 0.125,0 finished", Said());
+  Wait(1);
+  EXPECT_EQ("finished", Said());
+  Wait(16);
+  EXPECT_EQ("finished finished", Said());
+}
+
+TEST_F(CurveWorker, AStopBehindItsEndSaysNothing) {
+  CurveAsyncWorker worker(Item());
+  Listen(&worker);
+  worker.Process();
+  Wait(24);
   worker.Stop("keyboard", 17);
   EXPECT_EQ("0.25,0.5 0.125,0 finished", Said());
 }
