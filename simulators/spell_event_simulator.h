@@ -48,6 +48,9 @@ class SpellEventSimulator : public EventSimulator {
   // The walk's direction has changed to `point`, a unit vector or (0, 0).
   void OnSwipeholdTargetPointChanged(QPointF& point);
 
+ private Q_SLOTS:
+  void TimerOutTime();
+
  private:
   SpellEventSimulator();
 
@@ -56,7 +59,6 @@ class SpellEventSimulator : public EventSimulator {
   void FinishOtherKey(const tavikeymapmanager::SpellConfigItem& next);
   // Whether the item of the present worker aims with the pointer, outside view control.
   bool FollowsPointer() const;
-  void TimerOutTime();
   void DropWorker();
 
   void ConnectWorkersOnce();

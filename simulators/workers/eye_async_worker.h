@@ -23,6 +23,8 @@ class EyeSlotManager;
 //
 // Main thread; it has no thread of its own. Reads the item during a call only.
 class EyeAsyncWorker : public EventHandler {
+  Q_OBJECT
+
  public:
   static EyeAsyncWorker* GetInstance();
 
@@ -31,13 +33,15 @@ class EyeAsyncWorker : public EventHandler {
   // Forgets the keys and lifts the finger; the release is sent in any case.
   void Stop();
 
+ private Q_SLOTS:
+  void TimerOutTime();
+
  private:
   EyeAsyncWorker();
 
   void Update(const tavikeymapmanager::EyeConfigItem& item, const tavikeymapmanager::ConfigKey& key, bool pressed);
   void Start(const tavikeymapmanager::EyeConfigItem& item);
   void LiftFinger();
-  void TimerOutTime();
   bool IsInWindow() const;
 
   EyeSlotManager* finger_;  // the singleton

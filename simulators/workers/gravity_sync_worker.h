@@ -24,6 +24,8 @@ class GravityFakeSlotManager;
 //
 // Main thread. Reads the item during a call only.
 class GravitySyncWorker : public EventHandler {
+  Q_OBJECT
+
  public:
   static GravitySyncWorker* GetInstance();
 
@@ -31,6 +33,9 @@ class GravitySyncWorker : public EventHandler {
   virtual void Release(const tavikeymapmanager::GravityConfigItem& item, const tavikeymapmanager::ConfigKey& key);
   // Forgets the keys and lays the sensor flat; the host is told in any case.
   void Stop();
+
+ private Q_SLOTS:
+  void TimerOutTime();
 
  private:
   struct Tilt {
@@ -45,7 +50,6 @@ class GravitySyncWorker : public EventHandler {
 
   GravitySyncWorker();
 
-  void TimerOutTime();
   // Forgets the tilt and tells the host so.
   void LevelOut();
   static void SendTilt(const Tilt& tilt);

@@ -22,6 +22,8 @@ class JoystickLeftStickSlotManager;
 //
 // Main thread. Keeps a copy of the item, so that the keymap may go before the stick's rest.
 class LeftStickWalkSyncWorker : public EventHandler {
+  Q_OBJECT
+
  public:
   static LeftStickWalkSyncWorker* GetInstance();
 
@@ -30,11 +32,13 @@ class LeftStickWalkSyncWorker : public EventHandler {
   // Lifts the finger; the release is sent in any case.
   void StopWalk();
 
+ private Q_SLOTS:
+  void onStopTimerOutTime();
+
  private:
   LeftStickWalkSyncWorker();
 
   void OnRest();
-  void onStopTimerOutTime();
   void PutDown(const QPoint& centre);
   // `jumps`: the first step is the item's longer one.
   void DrawTo(const QPoint& target, bool jumps);

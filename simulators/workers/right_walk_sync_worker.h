@@ -25,6 +25,8 @@ class MouseSwipeholdSlotManager;
 //
 // Main thread. Keeps a copy of the item, so that the keymap may go while a walk is on.
 class RightWalkSyncWorker : public EventHandler {
+  Q_OBJECT
+
  public:
   static RightWalkSyncWorker* GetInstance();
 
@@ -38,10 +40,12 @@ class RightWalkSyncWorker : public EventHandler {
   // Lifts the finger; the release is sent in any case.
   virtual void StopWalk();
 
+ private Q_SLOTS:
+  void ContinueWalkTimerOutTime() { StopWalk(); }
+
  private:
   RightWalkSyncWorker();
 
-  void ContinueWalkTimerOutTime() { StopWalk(); }
   // How far the character has to go, in radii of the stick.
   static double DistanceOf(const tavikeymapmanager::MouseRightWalkConfigItem& item, const QMouseEvent* event);
   void SlideTo(const QPoint& target, const QSize& display);
