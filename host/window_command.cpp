@@ -29,6 +29,11 @@ constexpr char kHelp[] =
     "                   gamepad reaches the guest as one\n"
     "  --guest WxH      the guest's display in pixels, each side from 1 to 16384; \"view\"\n"
     "                   for one as large as it is shown (1280x720)\n"
+    "  --pause-key KEY  the key that switches the mapping off, so that everything reaches the\n"
+    "                   guest as what it is, and on again (F12)\n"
+    "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays and\n"
+    "                   macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
+    "  --paused         begin with the mapping off\n"
     "  --record FILE    record what the guest gets, and save it when the window is closed\n"
     "  --replay FILE    play this record at once\n"
     "  --second-view    play records on a display of their own\n"
@@ -38,6 +43,9 @@ constexpr char kHelp[] =
     "  --picture FILE   save a picture of the window (PNG) and leave\n"
     "  --after MS       time until then in milliseconds from 0 on (1000)\n"
     "\n"
+    "KEY is a key as keymaps call it, if wanted behind Ctrl+, Alt+, Shift+ or Meta+. Such a\n"
+    "key is the window's: no keymap gets it.\n"
+    "\n"
     "Exit status: 0 when the window was closed, 1 when the picture could not be saved or\n"
     "the name to listen under is taken, 2 for a wrong command line or where there is no\n"
     "display to open a window on.\n"
@@ -46,6 +54,9 @@ constexpr char kHelp[] =
 
 const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
+const QString kPauseKey = QStringLiteral("--pause-key");
+const QString kPanicKey = QStringLiteral("--panic-key");
+const QString kPaused = QStringLiteral("--paused");
 const QString kRecord = QStringLiteral("--record");
 const QString kReplay = QStringLiteral("--replay");
 const QString kSecondView = QStringLiteral("--second-view");
@@ -60,8 +71,11 @@ struct WindowOptions {
   QString keymap;                   // empty: ask
   QString joystick_keymap;          // empty: none
   std::optional<QSize> guest_size;  // an empty size: as large as the view
-  QString record;                   // empty: none
-  QString replay;                   // empty: none
+  KeyCombination pause_key;
+  KeyCombination panic_key;
+  bool is_paused = false;
+  QString record;  // empty: none
+  QString replay;  // empty: none
   bool has_second_view = false;
   QString listen;  // empty: to nobody
   QStringList mirror;
@@ -69,7 +83,21 @@ struct WindowOptions {
   int after_ms = kDefaultAfterMs;
 };
 
-// Returns what is wrong, or nothing.
+// Each of these returns what is wrong, or nothing.
+QString ReadKey(const QString& option, const ParsedArguments& arguments, const char* usual, KeyCombination* key) {
+  const QString name = arguments.options.value(option, QLatin1String(usual));
+  const QString problem = ParseKeyCombination(name, key);
+  return problem.isEmpty() ? problem : QStringLiteral("%1: %2").arg(option, problem);
+}
+
+QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
+  QString problem = ReadKey(kPauseKey, arguments, MainWindow::kPauseKey, &options->pause_key);
+  if (problem.isEmpty()) problem = ReadKey(kPanicKey, arguments, MainWindow::kPanicKey, &options->panic_key);
+  const bool is_one_key = options->pause_key.scancode == options->panic_key.scancode;
+  if (problem.isEmpty() && is_one_key) return QStringLiteral("%1 and %2 are one key").arg(kPauseKey, kPanicKey);
+  return problem;
+}
+
 QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (!arguments.error.isEmpty()) return arguments.error;
   if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
@@ -97,7 +125,8 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (arguments.options.contains(kAfter) && options->picture.isEmpty()) {
     return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
   }
-  return {};
+  options->is_paused = arguments.options.contains(kPaused);
+  return ReadKeys(arguments, options);
 }
 
 void SavePictureAndLeave(MainWindow* window, const QString& file) {
@@ -119,6 +148,9 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
 int ShowWindow(const WindowOptions& options) {
   MainWindow window;
   if (options.guest_size) window.SetGuestSize(*options.guest_size);
+  window.SetPauseKey(options.pause_key);
+  window.SetPanicKey(options.panic_key);
+  if (options.is_paused) window.PauseMapping();
   window.LoadKeymap(options.keymap);
   if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
   if (!options.listen.isEmpty()) {
@@ -155,6 +187,9 @@ int Run(const Invocation& invocation) {
   // The application has taken out what is Qt's own, such as -platform.
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), {{kJoystick, true},
                                                                                       {kGuest, true},
+                                                                                      {kPauseKey, true},
+                                                                                      {kPanicKey, true},
+                                                                                      {kPaused, false},
                                                                                       {kRecord, true},
                                                                                       {kReplay, true},
                                                                                       {kSecondView, false},

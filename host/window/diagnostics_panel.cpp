@@ -27,6 +27,16 @@ QString FindingHtml(const Diagnostic& diagnostic) {
          QStringLiteral("<td>") + diagnostic.message.toHtmlEscaped() + QStringLiteral("</td></tr>");
 }
 
+// With a place for what the keymap is called.
+QString StateText(bool has_errors, bool keeps_earlier) {
+  if (!has_errors) return QStringLiteral("%1 is in use, but parts of it may not be as they were meant.");
+  if (keeps_earlier) {
+    return QStringLiteral(
+        "%1 cannot be used as it is now. The one before the change stays in use until it is correct.");
+  }
+  return QStringLiteral("%1 cannot be used. Correct it and save it: it is read again at once.");
+}
+
 }  // namespace
 
 DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
@@ -49,21 +59,15 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   hide();
 }
 
-void DiagnosticsPanel::Show(const tavikeymapmanager::LoadResult& keymap) {
+void DiagnosticsPanel::Show(const tavikeymapmanager::LoadResult& keymap, bool keeps_earlier) {
   QString rows;
   for (const Diagnostic& diagnostic : keymap.diagnostics) rows += FindingHtml(diagnostic);
   findings_->setText(QStringLiteral("<table cellspacing=0>") + rows + QStringLiteral("</table>"));
   findings_->adjustSize();
   scroll_->setFixedHeight(qMin(findings_->height(), kMostHeight));
   const QColor& color = keymap.HasErrors() ? theme::kError : theme::kWarning;
-  title_->setText(
-      QStringLiteral("<b style='color:%1'>%2</b>")
-          .arg(color.name(),
-               keymap.HasErrors()
-                   ? QStringLiteral("%1 cannot be used. Correct it and save it: it is read again "
-                                    "at once.")
-                         .arg(subject_)
-                   : QStringLiteral("%1 is in use, but parts of it may not be as they were meant.").arg(subject_)));
+  title_->setText(QStringLiteral("<b style='color:%1'>%2</b>")
+                      .arg(color.name(), StateText(keymap.HasErrors(), keeps_earlier).arg(subject_)));
   setVisible(!keymap.diagnostics.isEmpty());
 }
 

@@ -21,7 +21,8 @@ class DiagnosticsPanel : public QFrame {
   // `subject` is what the keymap is called in a sentence that begins with it.
   explicit DiagnosticsPanel(const QString& subject, QWidget* parent = nullptr);
 
-  void Show(const tavikeymapmanager::LoadResult& keymap);
+  // `keeps_earlier`: the file cannot be used, and an earlier state of it is used in its place.
+  void Show(const tavikeymapmanager::LoadResult& keymap, bool keeps_earlier = false);
 
  private:
   const QString subject_;

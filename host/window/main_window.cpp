@@ -29,7 +29,6 @@
 #include "host/window/record_bar.h"
 #include "host/window/recorder.h"
 #include "host/window/window_host.h"
-#include "keymap/keywords.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -43,6 +42,14 @@ constexpr QSize kGuestSizes[] = {{1280, 720}, {1920, 1080}, {2400, 1080}, {720, 
 constexpr int kReplayViewHeight = 180;
 constexpr int kMessageMs = 8000;
 constexpr char kExampleFolder[] = "examples/keymaps";
+
+enum ReservedKey { kPanic, kPause };
+
+KeyCombination KeyOf(const char* name) {
+  KeyCombination key;
+  ParseKeyCombination(QLatin1String(name), &key);
+  return key;
+}
 
 QString SizeText(const QSize& size) { return QStringLiteral("%1 \u00D7 %2").arg(size.width()).arg(size.height()); }
 
@@ -94,12 +101,15 @@ MainWindow::MainWindow()
       keymap_label_(new QLabel),
       pad_label_(new QLabel),
       size_label_(new QLabel),
-      pads_(taviinputmanager::OnJoystickEvent) {
+      pads_(taviinputmanager::OnJoystickEvent),
+      mapping_(&pads_) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
   MakeReplayDock();
   MakeToolBar();
   MakeRecordBar();
+  SetPanicKey(KeyOf(kPanicKey));
+  SetPauseKey(KeyOf(kPauseKey));
   statusBar()->addWidget(keymap_label_, 1);
   pad_label_->setContentsMargins(0, 0, kLabelGap, 0);
   statusBar()->addPermanentWidget(pad_label_);
@@ -151,6 +161,8 @@ void MainWindow::MakeToolBar() {
   AddMenuButton(bar, QStringLiteral("Guest"), MakeGuestMenu());
   bar->addSeparator();
 
+  mapping_on_ = AddSwitch(bar, QStringLiteral("Mapping"), QString(), true);
+  connect(mapping_on_, &QAction::toggled, &mapping_, [this](bool on) { mapping_.SetPaused(!on); });
   QAction* overlay = AddSwitch(bar, QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
   connect(overlay, &QAction::toggled, view_, &GuestView::SetOverlayShown);
   QAction* text = AddSwitch(bar, QStringLiteral("Text field"),
@@ -161,9 +173,22 @@ void MainWindow::MakeToolBar() {
 
   QAction* back = AddButton(bar, QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
   connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(WindowHost::kDisplay); });
-  QAction* release = AddButton(bar, QStringLiteral("Let go"), QStringLiteral("Lift every finger and key of the guest"));
-  connect(release, &QAction::triggered, this, [] { taviinputmanager::OnResetInputStatus(true, 0); });
+  let_go_ = AddButton(bar, QStringLiteral("Let go"), QString());
+  connect(let_go_, &QAction::triggered, &mapping_, &Mapping::LetGoOfEverything);
 }
+
+void MainWindow::SetPanicKey(const KeyCombination& key) {
+  let_go_->setToolTip(
+      QStringLiteral("Lift every finger and key of the guest, end replays and macros (%1)").arg(key.name));
+  reserved_keys_.Reserve(kPanic, key, [this] { let_go_->trigger(); });
+}
+
+void MainWindow::SetPauseKey(const KeyCombination& key) {
+  mapping_on_->setToolTip(QStringLiteral("Off: keys and buttons reach the guest as what they are (%1)").arg(key.name));
+  reserved_keys_.Reserve(kPause, key, [this] { mapping_on_->toggle(); });
+}
+
+void MainWindow::PauseMapping() { mapping_on_->setChecked(false); }
 
 QMenu* MainWindow::MakeGuestMenu() {
   auto* menu = new QMenu(this);
@@ -268,29 +293,34 @@ QString MainWindow::AskForKeymap(const QString& title, const Keymap& before) {
   return path;
 }
 
-QString MainWindow::Read(const QString& path, Keymap* keymap) {
-  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
+QString MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
+  const QString& path = source.Path();
+  const tavikeymapmanager::LoadResult& in_use = source.InUse();
   keymap->path = path;
-  keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(result));
-  keymap->marks = MarksOf(result);
-  keymap->diagnostics->Show(result);
+  keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(in_use));
+  keymap->marks = MarksOf(in_use);
+  keymap->diagnostics->Show(source.LastRead(), source.KeepsEarlierState());
   keymap->watch->Watch(path);
-  return result.name;
+  return in_use.name;
 }
 
 void MainWindow::LoadKeymap(const QString& path) {
-  const QString name = Read(path, &keymap_);
-  taviinputmanager::OnLoadKeymapConfigAndInfo(path, QString(), QString(), WindowHost::kDisplay);
+  mapping_.Read(path);
+  const QString name = Take(mapping_.Keymap(), &keymap_);
   setWindowTitle(TitleOf(name, path));
   records_->SetApp(name);
   ShowKeymaps();
+  for (const QString& key : reserved_keys_.FindIn(mapping_.Keymap().InUse().config.get())) {
+    Tell(QStringLiteral("%1 is a key of this keymap that the window keeps for itself; --pause-key and --panic-key take "
+                        "other keys")
+             .arg(key),
+         true);
+  }
 }
 
 void MainWindow::LoadJoystickKeymap(const QString& path) {
-  pads_.ReleaseAll();  // by the keymap that they were pressed by
-  Read(path, &joystick_keymap_);
-  // The system's keymap takes nothing and passes all on.
-  taviinputmanager::OnLoadJoystickConfigAndInfo(path.isEmpty() ? tavikeymapmanager::keywords::kSystemKeymap : path, 0);
+  mapping_.ReadJoystick(path);
+  Take(mapping_.JoystickKeymap(), &joystick_keymap_);
   ShowKeymaps();
 }
 

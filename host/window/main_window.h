@@ -8,7 +8,10 @@
 #include <QString>
 
 #include "host/window/gamepads.h"
+#include "host/window/key_combination.h"
+#include "host/window/mapping.h"
 #include "host/window/overlay_marks.h"
+#include "host/window/reserved_keys.h"
 
 class QAction;
 class QActionGroup;
@@ -49,6 +52,15 @@ class MainWindow : public QMainWindow {
   // The guest's display in pixels. An empty size: as large as the view, whatever that is.
   void SetGuestSize(const QSize& size);
 
+  // The keys that let go of everything, and that pause the mapping and let it go on. Few keyboards lack the ones that
+  // are taken by themselves, and hardly a game uses them.
+  static constexpr char kPanicKey[] = "Ctrl+Alt+Backspace";
+  static constexpr char kPauseKey[] = "F12";
+  void SetPanicKey(const KeyCombination& key);
+  void SetPauseKey(const KeyCombination& key);
+
+  void PauseMapping();
+
   // Listens to another instance's lines under this name. Returns what is wrong, or nothing.
   QString ListenAs(const QString& name);
   // Carries what the guest gets to the instances of these names.
@@ -58,6 +70,8 @@ class MainWindow : public QMainWindow {
   RecordBar* Records() const { return records_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
+  // The keymaps in use.
+  Mapping* Keymaps() { return &mapping_; }
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -81,8 +95,8 @@ class MainWindow : public QMainWindow {
   void Tell(const QString& text, bool is_problem);
   QMenu* MakeGuestMenu();
   QWidget* MakeCentre();
-  // Takes a keymap file in, and gives its own name.
-  QString Read(const QString& path, Keymap* keymap);
+  // Takes in a keymap file that was read, and gives its own name.
+  QString Take(const KeymapSource& source, Keymap* keymap);
   QString AskForKeymap(const QString& title, const Keymap& before);
   void ShowKeymaps();
   void TakeActivation();
@@ -97,6 +111,8 @@ class MainWindow : public QMainWindow {
   Keymap joystick_keymap_;
   LineLog* log_;
   QAction* log_shown_ = nullptr;
+  QAction* mapping_on_ = nullptr;
+  QAction* let_go_ = nullptr;
   QActionGroup* guest_sizes_ = nullptr;
   QLabel* keymap_label_;
   QLabel* pad_label_;
@@ -107,6 +123,8 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<MirrorServer> mirror_;
   bool guest_follows_view_ = false;
   Gamepads pads_;
+  Mapping mapping_;
+  ReservedKeys reserved_keys_;
   std::unique_ptr<GamepadPoll> pad_poll_;
 };
 

@@ -1,0 +1,64 @@
+#include "host/window/mapping.h"
+
+#include "host/window/gamepads.h"
+#include "host/window/replayer.h"
+#include "host/window/window_host.h"
+#include "keymap/keywords.h"
+#include "keymapmanager/keymap_file.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+namespace km = tavikeymapmanager;
+
+Mapping::Mapping(Gamepads* pads, QObject* parent) : QObject(parent), pads_(pads) {
+  connect(WindowHost::GetInstance(), &WindowHost::TextFieldChanged, this, &Mapping::PassInputOn);
+}
+
+void Mapping::Read(const QString& path) {
+  keymap_.Read(path);
+  if (!paused_ && !keymap_.KeepsEarlierState()) Load();
+}
+
+void Mapping::ReadJoystick(const QString& path) {
+  joystick_keymap_.Read(path);
+  if (!paused_ && !joystick_keymap_.KeepsEarlierState()) LoadJoystick();
+}
+
+void Mapping::SetPaused(bool paused) {
+  if (paused == paused_) return;
+  paused_ = paused;
+  LoadJoystick();
+  Load();  // lets go, too
+  PassInputOn();
+  Q_EMIT PausedChanged(paused);
+}
+
+// The system's keymap takes nothing and passes all on.
+void Mapping::Load() {
+  taviinputmanager::OnLoadKeymapConfigAndInfo(paused_ ? km::keywords::kSystemKeymap : keymap_.PathForUse(), QString(),
+                                              QString(), WindowHost::kDisplay);
+}
+
+void Mapping::LoadJoystick() {
+  pads_->ReleaseAll();  // by the keymap that they were pressed by
+  const QString path = joystick_keymap_.PathForUse();
+  const bool is_plain = paused_ || path.isEmpty();
+  taviinputmanager::OnLoadJoystickConfigAndInfo(is_plain ? km::keywords::kSystemKeymap : path, 0);
+}
+
+// A display that is forced to be transparent gets keys where a text field should get letters.
+void Mapping::PassInputOn() {
+  const bool is_forced = paused_ && !WindowHost::GetInstance()->HasTextField();
+  taviinputmanager::UpdateDisplayForceTransparent(WindowHost::kDisplay, is_forced);
+}
+
+// A change of the display, even to the same, ends more than a full reset: macros that go on by themselves, and what a
+// macro said about holding input.
+void Mapping::LetGoOfEverything() {
+  Replayer::GetInstance()->Stop();
+  pads_->ReleaseAll();
+  taviinputmanager::UpdateDisplayId(WindowHost::kDisplay);
+}
+
+}  // namespace tavi
