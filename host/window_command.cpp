@@ -29,6 +29,11 @@ constexpr char kHelp[] =
     "                   gamepad reaches the guest as one\n"
     "  --guest WxH      the guest's display in pixels, each side from 1 to 16384; \"view\"\n"
     "                   for one as large as it is shown (1280x720)\n"
+    "  --rotation DEG   what the display is turned by, as the host tells it: 0, 90, 180, 270\n"
+    "  --pixel-ratio X  how many pixels of the view the host counts for one of the guest's\n"
+    "                   display (1)\n"
+    "  --background PICTURE\n"
+    "                   a picture (PNG, JPEG) in place of the guest's screen\n"
     "  --pause-key KEY  the key that switches the mapping off, so that everything reaches the\n"
     "                   guest as what it is, and on again (F12)\n"
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays and\n"
@@ -54,6 +59,9 @@ constexpr char kHelp[] =
 
 const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
+const QString kRotation = QStringLiteral("--rotation");
+const QString kPixelRatio = QStringLiteral("--pixel-ratio");
+const QString kBackground = QStringLiteral("--background");
 const QString kPauseKey = QStringLiteral("--pause-key");
 const QString kPanicKey = QStringLiteral("--panic-key");
 const QString kPaused = QStringLiteral("--paused");
@@ -66,11 +74,16 @@ const QString kPicture = QStringLiteral("--picture");
 const QString kAfter = QStringLiteral("--after");
 
 constexpr int kDefaultAfterMs = 1000;
+constexpr double kLeastPixelRatio = 0.25;
+constexpr double kMostPixelRatio = 8;
 
 struct WindowOptions {
   QString keymap;                   // empty: ask
   QString joystick_keymap;          // empty: none
   std::optional<QSize> guest_size;  // an empty size: as large as the view
+  int rotation = 0;
+  double pixel_ratio = 1;
+  QString background;  // empty: none
   KeyCombination pause_key;
   KeyCombination panic_key;
   bool is_paused = false;
@@ -98,6 +111,31 @@ QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
   return problem;
 }
 
+QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
+  if (arguments.options.contains(kGuest)) {
+    const QString guest = arguments.options[kGuest];
+    options->guest_size = ParseSize(guest);
+    if (options->guest_size->isEmpty() && guest != QLatin1String("view")) {
+      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kGuest, guest);
+    }
+  }
+  const QString rotation = arguments.options.value(kRotation, QStringLiteral("0"));
+  if (!QStringList{"0", "90", "180", "270"}.contains(rotation)) {
+    return QStringLiteral("%1 needs 0, 90, 180 or 270, not \"%2\"").arg(kRotation, rotation);
+  }
+  options->rotation = rotation.toInt();
+  const QString ratio = arguments.options.value(kPixelRatio, QStringLiteral("1"));
+  options->pixel_ratio = ParseFactor(ratio).value_or(0);
+  if (options->pixel_ratio < kLeastPixelRatio || options->pixel_ratio > kMostPixelRatio) {
+    return QStringLiteral("%1 needs a number from %2 to %3, not \"%4\"")
+        .arg(kPixelRatio)
+        .arg(kLeastPixelRatio)
+        .arg(kMostPixelRatio)
+        .arg(ratio);
+  }
+  return {};
+}
+
 QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (!arguments.error.isEmpty()) return arguments.error;
   if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
@@ -108,16 +146,12 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   options->has_second_view = arguments.options.contains(kSecondView);
   options->listen = arguments.options.value(kListen);
   options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
-  for (const QString& file : {options->keymap, options->joystick_keymap, options->replay}) {
+  options->background = arguments.options.value(kBackground);
+  for (const QString& file : {options->keymap, options->joystick_keymap, options->replay, options->background}) {
     if (!file.isEmpty() && !QFileInfo(file).isFile()) return QStringLiteral("no such file: %1").arg(file);
   }
-  if (arguments.options.contains(kGuest)) {
-    const QString guest = arguments.options[kGuest];
-    options->guest_size = ParseSize(guest);
-    if (options->guest_size->isEmpty() && guest != QLatin1String("view")) {
-      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kGuest, guest);
-    }
-  }
+  const QString problem = ReadDisplay(arguments, options);
+  if (!problem.isEmpty()) return problem;
   options->picture = arguments.options.value(kPicture);
   bool is_number = true;
   if (arguments.options.contains(kAfter)) options->after_ms = arguments.options[kAfter].toInt(&is_number);
@@ -148,6 +182,13 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
 int ShowWindow(const WindowOptions& options) {
   MainWindow window;
   if (options.guest_size) window.SetGuestSize(*options.guest_size);
+  window.SetRotation(options.rotation);
+  window.SetPixelRatio(options.pixel_ratio);
+  const QString background_problem = window.SetBackground(options.background);
+  if (!background_problem.isEmpty()) {
+    PrintError(QStringLiteral("tavi window: %1\n").arg(background_problem));
+    return kExitUsage;
+  }
   window.SetPauseKey(options.pause_key);
   window.SetPanicKey(options.panic_key);
   if (options.is_paused) window.PauseMapping();
@@ -187,6 +228,9 @@ int Run(const Invocation& invocation) {
   // The application has taken out what is Qt's own, such as -platform.
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), {{kJoystick, true},
                                                                                       {kGuest, true},
+                                                                                      {kRotation, true},
+                                                                                      {kPixelRatio, true},
+                                                                                      {kBackground, true},
                                                                                       {kPauseKey, true},
                                                                                       {kPanicKey, true},
                                                                                       {kPaused, false},

@@ -27,14 +27,15 @@ double StrengthAt(qint64 ms, qint64 now_ms) { return 1.0 - static_cast<double>(n
 
 }  // namespace
 
-ContactPainter::ContactPainter(QPainter* painter, const QSize& guest, const QSizeF& view)
+ContactPainter::ContactPainter(QPainter* painter, const GuestGeometry& guest, const QSizeF& view)
     : painter_(painter),
-      guest_(guest.expandedTo({1, 1})),
+      guest_(guest),
       view_(view),
       radius_(qBound(kLeastRadius, view.height() * kRadius, kMostRadius)) {}
 
 QPointF ContactPainter::Place(const QPoint& touch) const {
-  return {touch.x() * view_.width() / guest_.width(), touch.y() * view_.height() / guest_.height()};
+  const QPointF fraction = guest_.FractionOf(touch);
+  return {fraction.x() * view_.width(), fraction.y() * view_.height()};
 }
 
 void ContactPainter::PaintTrails(const ContactTrails& trails, qint64 now_ms) {

@@ -2,8 +2,9 @@
 #define HOST_WINDOW_CONTACT_PAINTER_H_
 
 #include <QPointF>
-#include <QSize>
 #include <QSizeF>
+
+#include "host/window/guest_geometry.h"
 
 class QPainter;
 
@@ -17,7 +18,7 @@ struct GuestWheelTurn;
 class ContactPainter {
  public:
   // `guest` is the touch surface, `view` the size of the guest view in the painter's units.
-  ContactPainter(QPainter* painter, const QSize& guest, const QSizeF& view);
+  ContactPainter(QPainter* painter, const GuestGeometry& guest, const QSizeF& view);
 
   void PaintTrails(const ContactTrails& trails, qint64 now_ms);
   void PaintPointer(const QPoint& touch);
@@ -30,7 +31,7 @@ class ContactPainter {
   void PaintFinger(int slot, const QPointF& center, double strength);
 
   QPainter* painter_;
-  const QSize guest_;
+  const GuestGeometry guest_;
   const QSizeF view_;
   const double radius_;  // of a finger
 };

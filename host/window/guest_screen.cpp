@@ -26,6 +26,11 @@ GuestScreen::GuestScreen(int display, Texts texts, QWidget* parent)
 
 GuestScreen::~GuestScreen() = default;
 
+void GuestScreen::SetBackground(const BackgroundPicture& picture) {
+  background_ = picture;
+  update();
+}
+
 void GuestScreen::TakeEntry(const TimelineEntry& entry) {
   if (entry.source == TimelineEntry::Source::kCallback) return;
   if (entry.source == TimelineEntry::Source::kText && texts_ == Texts::kLeft) return;
@@ -63,6 +68,7 @@ void GuestScreen::PaintBackground(QPainter* painter) const {
   light.setColorAt(0, theme::kGuest);
   light.setColorAt(1, theme::kGuestEdge);
   painter->fillRect(area, light);
+  if (!background_.IsEmpty()) return background_.Paint(painter, area);
   painter->setPen(QPen(theme::kGrid, 1));
   for (int i = 1; i < kGridLines; ++i) {
     const double x = area.width() * i / kGridLines;
@@ -75,7 +81,7 @@ void GuestScreen::PaintBackground(QPainter* painter) const {
 void GuestScreen::PaintGuest(QPainter* painter) const {
   const GuestState& state = model_.state();
   const qint64 now_ms = clock_.elapsed();
-  ContactPainter contacts(painter, WindowHost::GetInstance()->GuestSize(), size());
+  ContactPainter contacts(painter, WindowHost::GetInstance()->Geometry(), size());
   contacts.PaintTrails(trails_, now_ms);
   const double wheel_strength = 1.0 - static_cast<double>(now_ms - wheel_ms_) / kWheelFadeMs;
   if (wheel_strength > 0) contacts.PaintWheel(state.wheel, wheel_strength);

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "host/guest_model.h"
+#include "host/window/background_picture.h"
 #include "host/window/contact_trails.h"
 
 class QPainter;
@@ -26,6 +27,8 @@ class GuestScreen : public QWidget {
   ~GuestScreen() override;
 
   const GuestModel& Model() const { return model_; }
+  // Shown in place of an empty screen.
+  void SetBackground(const BackgroundPicture& picture);
 
  Q_SIGNALS:
   // The model has taken a line.
@@ -45,6 +48,7 @@ class GuestScreen : public QWidget {
 
   GuestModel model_;
   const Texts texts_;
+  BackgroundPicture background_;
   ContactTrails trails_;
   QElapsedTimer clock_;
   QBasicTimer fading_;

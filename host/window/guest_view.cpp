@@ -158,8 +158,8 @@ void GuestView::wheelEvent(QWheelEvent* event) {
 }
 
 QPointF GuestView::ToGuest(const QPointF& place) const {
-  const QSize guest = WindowHost::GetInstance()->GuestSize();
-  return {place.x() * guest.width() / width(), place.y() * guest.height() / height()};
+  const QSize size = WindowHost::GetInstance()->ViewSize();
+  return {place.x() * size.width() / width(), place.y() * size.height() / height()};
 }
 
 void GuestView::inputMethodEvent(QInputMethodEvent* event) {

@@ -11,7 +11,8 @@
 namespace tavi {
 
 // The guest's display with a keymap over it, which gives its input to the library. Places are handed on in pixels of
-// the guest, however large it is shown, so that to the library the view is as large as the guest.
+// the guest, however large it is shown, so that to the library the view is as large as the guest's display, or a
+// multiple of it (WindowHost::ViewSize).
 //
 // All keys are the guest's while the view has the focus, those that move the focus or open menus among them. What is
 // pressed is let go when the view loses the focus, unless a macro asked to hold it.

@@ -1,6 +1,5 @@
 #include "host/window/main_window.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -19,6 +18,7 @@
 #include "host/window/gamepad_picture.h"
 #include "host/window/gamepad_poll.h"
 #include "host/window/guest_frame.h"
+#include "host/window/guest_menu.h"
 #include "host/window/guest_panel.h"
 #include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
@@ -28,6 +28,8 @@
 #include "host/window/mirror_targets.h"
 #include "host/window/record_bar.h"
 #include "host/window/recorder.h"
+#include "host/window/state_corner.h"
+#include "host/window/theme.h"
 #include "host/window/window_host.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -38,7 +40,6 @@ namespace {
 
 constexpr QSize kFirstSize(1360, 760);
 constexpr int kLabelGap = 16;  // in the status bar
-constexpr QSize kGuestSizes[] = {{1280, 720}, {1920, 1080}, {2400, 1080}, {720, 1280}};
 constexpr int kReplayViewHeight = 180;
 constexpr int kMessageMs = 8000;
 constexpr char kExampleFolder[] = "examples/keymaps";
@@ -50,8 +51,6 @@ KeyCombination KeyOf(const char* name) {
   ParseKeyCombination(QLatin1String(name), &key);
   return key;
 }
-
-QString SizeText(const QSize& size) { return QStringLiteral("%1 \u00D7 %2").arg(size.width()).arg(size.height()); }
 
 // A tool button of its own takes no focus, so that the keys stay the guest's.
 void AddMenuButton(QToolBar* bar, const QString& text, QMenu* menu) {
@@ -99,10 +98,13 @@ MainWindow::MainWindow()
           {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
       keymap_label_(new QLabel),
+      state_label_(new QLabel),
+      mirror_label_(new QLabel),
       pad_label_(new QLabel),
       size_label_(new QLabel),
       pads_(taviinputmanager::OnJoystickEvent),
-      mapping_(&pads_) {
+      mapping_(&pads_),
+      state_(&mapping_) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
   MakeReplayDock();
@@ -111,9 +113,12 @@ MainWindow::MainWindow()
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
   statusBar()->addWidget(keymap_label_, 1);
-  pad_label_->setContentsMargins(0, 0, kLabelGap, 0);
-  statusBar()->addPermanentWidget(pad_label_);
+  for (QLabel* label : {state_label_, mirror_label_, pad_label_}) {
+    label->setContentsMargins(0, 0, kLabelGap, 0);
+    statusBar()->addPermanentWidget(label);
+  }
   statusBar()->addPermanentWidget(size_label_);
+  new StateCorner(&state_, view_);
   resize(kFirstSize);
 
   WindowHost* host = WindowHost::GetInstance();
@@ -123,7 +128,10 @@ MainWindow::MainWindow()
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
+  connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
   ShowPads();
+  ShowState();
+  ShowMirrors();
   host->Start(view_);
   LoadJoystickKeymap(QString());
   SetGuestSize(host->GuestSize());
@@ -185,20 +193,22 @@ void MainWindow::SetPanicKey(const KeyCombination& key) {
 
 void MainWindow::SetPauseKey(const KeyCombination& key) {
   mapping_on_->setToolTip(QStringLiteral("Off: keys and buttons reach the guest as what they are (%1)").arg(key.name));
+  state_.SetPauseKey(key.name);
   reserved_keys_.Reserve(kPause, key, [this] { mapping_on_->toggle(); });
 }
 
 void MainWindow::PauseMapping() { mapping_on_->setChecked(false); }
 
-QMenu* MainWindow::MakeGuestMenu() {
-  auto* menu = new QMenu(this);
-  guest_sizes_ = new QActionGroup(menu);
-  for (const QSize& size : kGuestSizes) guest_sizes_->addAction(menu->addAction(SizeText(size)))->setData(size);
-  guest_sizes_->addAction(menu->addAction(QStringLiteral("As large as the view")))->setData(QSize());
-  for (QAction* action : guest_sizes_->actions()) action->setCheckable(true);
-  connect(guest_sizes_, &QActionGroup::triggered, this,
-          [this](const QAction* action) { SetGuestSize(action->data().toSize()); });
-  return menu;
+GuestMenu* MainWindow::MakeGuestMenu() {
+  guest_menu_ = new GuestMenu(this);
+  connect(guest_menu_, &GuestMenu::SizeChosen, this, &MainWindow::SetGuestSize);
+  connect(guest_menu_, &GuestMenu::RotationChosen, this, &MainWindow::SetRotation);
+  connect(guest_menu_, &GuestMenu::PixelRatioChosen, this, &MainWindow::SetPixelRatio);
+  connect(guest_menu_, &GuestMenu::BackgroundWanted, this, &MainWindow::OpenBackground);
+  connect(guest_menu_, &GuestMenu::BackgroundDropped, this, [this] { SetBackground(QString()); });
+  guest_menu_->MarkRotation(0);
+  guest_menu_->MarkPixelRatio(1);
+  return guest_menu_;
 }
 
 void MainWindow::MakeLogDock() {
@@ -245,19 +255,28 @@ void MainWindow::Tell(const QString& text, bool is_problem) {
 QString MainWindow::ListenAs(const QString& name) {
   mirror_ = std::make_unique<MirrorServer>(WindowHost::kDisplay);
   connect(mirror_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
+    mirror_sources_ = count;
+    ShowMirrors();
     Tell(QStringLiteral("%1 instances send lines to %2").arg(count).arg(name), false);
   });
-  return mirror_->Listen(name);
+  const QString problem = mirror_->Listen(name);
+  if (problem.isEmpty()) listens_as_ = name;
+  ShowMirrors();
+  return problem;
 }
 
 void MainWindow::MirrorTo(const QStringList& names) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  connect(targets, &MirrorTargets::Reached, this,
-          [this](const QString& name) { Tell(QStringLiteral("Lines go to %1, too").arg(name), false); });
+  connect(targets, &MirrorTargets::Reached, this, [this](const QString& name) {
+    ShowMirrors();
+    Tell(QStringLiteral("Lines go to %1, too").arg(name), false);
+  });
   connect(targets, &MirrorTargets::Lost, this, [this](const QString& name, const QString& problem) {
+    ShowMirrors();
     Tell(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
   });
   for (const QString& name : names) targets->Add(name);
+  ShowMirrors();
 }
 
 // A recording that was never saved is asked for.
@@ -358,24 +377,93 @@ void MainWindow::ShowPads() {
   panel_->SetPad(pad ? std::make_optional(PictureOf(*pad)) : std::nullopt, pads_.LastUsedName());
 }
 
+void MainWindow::ShowState() {
+  const StateWord word = state_.MappingWord();
+  state_label_->setText(QStringLiteral("<span style='color:%1'>\u25CF</span> %2").arg(word.color.name(), word.text));
+}
+
+void MainWindow::ShowMirrors() {
+  QStringList texts;
+  const QStringList targets = MirrorTargets::GetInstance()->Names();
+  if (!targets.isEmpty()) texts += QStringLiteral("Sends to ") + targets.join(QStringLiteral(", "));
+  if (!listens_as_.isEmpty()) texts += QStringLiteral("Listens as %1 (%2)").arg(listens_as_).arg(mirror_sources_);
+  mirror_label_->setText(texts.join(QStringLiteral(" \u00B7 ")));
+  mirror_label_->setToolTip(QStringLiteral("The instances that get the same lines, and how many send theirs"));
+  mirror_label_->setVisible(!texts.isEmpty());
+}
+
 void MainWindow::SetGuestSize(const QSize& size) {
-  taviinputmanager::OnResetInputStatus(true, 0);  // what is down has its place in the display before
   guest_follows_view_ = size.isEmpty();
   if (!guest_follows_view_) WindowHost::GetInstance()->SetGuestSize(size);
-  frame_->SetShape(size);
-  replay_frame_->SetShape(size);
+  guest_menu_->MarkSize(size);
+  ShapeGuest();
+}
+
+void MainWindow::SetRotation(int degrees) {
+  WindowHost::GetInstance()->SetRotation(degrees);
+  guest_menu_->MarkRotation(degrees);
+  ShapeGuest();
+}
+
+void MainWindow::SetPixelRatio(double ratio) {
+  WindowHost::GetInstance()->SetPixelRatio(ratio);
+  guest_menu_->MarkPixelRatio(ratio);
+  ShapeGuest();
+}
+
+void MainWindow::ShapeGuest() {
+  taviinputmanager::OnResetInputStatus(true, 0);  // what is down has its place in the display before
+  const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
+  for (GuestFrame* frame : {frame_, replay_frame_}) frame->SetShape(guest_follows_view_ ? QSize() : display);
   TakeViewSize();
-  for (QAction* action : guest_sizes_->actions()) action->setChecked(action->data().toSize() == size);
+  TellShapeOfBackground();
 }
 
 void MainWindow::TakeViewSize() {
-  if (guest_follows_view_) WindowHost::GetInstance()->SetGuestSize(view_->size());
+  WindowHost* host = WindowHost::GetInstance();
+  if (guest_follows_view_) {
+    host->SetGuestSize(host->Geometry().IsTurned() ? view_->size().transposed() : view_->size());
+  }
   ShowSizes();
 }
 
 void MainWindow::ShowSizes() {
-  size_label_->setText(QStringLiteral("Guest %1 \u00B7 shown at %2")
-                           .arg(SizeText(WindowHost::GetInstance()->GuestSize()), SizeText(view_->size())));
+  const WindowHost* host = WindowHost::GetInstance();
+  const GuestGeometry guest = host->Geometry();
+  QString text = QStringLiteral("Guest ") + SizeText(guest.DisplaySize());
+  if (guest.rotation != 0) text += QStringLiteral(" at %1\u00B0").arg(guest.rotation);
+  if (host->PixelRatio() != 1) text += QStringLiteral(" \u00B7 pixel ratio %1").arg(host->PixelRatio());
+  size_label_->setText(text + QStringLiteral(" \u00B7 shown at ") + SizeText(view_->size()));
+  size_label_->setToolTip(QStringLiteral("Touch surface %1, window as the library is told %2")
+                              .arg(SizeText(guest.touch_surface), SizeText(host->ViewSize())));
+}
+
+QString MainWindow::SetBackground(const QString& file) {
+  if (file.isEmpty()) {
+    background_.Clear();
+  } else {
+    const QString problem = background_.Read(file);
+    if (!problem.isEmpty()) return problem;
+  }
+  view_->SetBackground(background_);
+  guest_menu_->MarkBackground(!background_.IsEmpty());
+  TellShapeOfBackground();
+  return {};
+}
+
+void MainWindow::TellShapeOfBackground() {
+  const QString note = background_.ShapeNote(WindowHost::GetInstance()->Geometry().DisplaySize());
+  if (!note.isEmpty()) Tell(note, false);
+}
+
+void MainWindow::OpenBackground() {
+  const QString file =
+      QFileDialog::getOpenFileName(this, QStringLiteral("Open a picture of the guest's screen"), QString(),
+                                   QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
+  view_->setFocus();
+  if (file.isEmpty()) return;
+  const QString problem = SetBackground(file);
+  if (!problem.isEmpty()) Tell(problem, true);
 }
 
 }  // namespace tavi

@@ -7,17 +7,17 @@
 #include <QSize>
 #include <QString>
 
+#include "host/window/background_picture.h"
 #include "host/window/gamepads.h"
 #include "host/window/key_combination.h"
 #include "host/window/mapping.h"
 #include "host/window/overlay_marks.h"
 #include "host/window/reserved_keys.h"
+#include "host/window/window_state.h"
 
 class QAction;
-class QActionGroup;
 class QDockWidget;
 class QLabel;
-class QMenu;
 class QToolBar;
 
 namespace tavi {
@@ -25,6 +25,7 @@ namespace tavi {
 class DiagnosticsPanel;
 class GamepadPoll;
 class GuestFrame;
+class GuestMenu;
 class GuestPanel;
 class GuestView;
 class KeymapWatch;
@@ -51,6 +52,13 @@ class MainWindow : public QMainWindow {
   void ReadGamepads();
   // The guest's display in pixels. An empty size: as large as the view, whatever that is.
   void SetGuestSize(const QSize& size);
+  // What it is turned by: 0, 90, 180 or 270 degrees. The size is of the screen before it is turned.
+  void SetRotation(int degrees);
+  // How many pixels the host counts for one of the guest, for whoever wants to see that places agree all the same.
+  void SetPixelRatio(double ratio);
+  // A picture in place of the guest's screen; an empty name for none. Returns what is wrong, or nothing.
+  QString SetBackground(const QString& file);
+  void OpenBackground();
 
   // The keys that let go of everything, and that pause the mapping and let it go on. Few keyboards lack the ones that
   // are taken by themselves, and hardly a game uses them.
@@ -93,7 +101,7 @@ class MainWindow : public QMainWindow {
   void MakeReplayDock();
   void ShowSecondView(bool shown);
   void Tell(const QString& text, bool is_problem);
-  QMenu* MakeGuestMenu();
+  GuestMenu* MakeGuestMenu();
   QWidget* MakeCentre();
   // Takes in a keymap file that was read, and gives its own name.
   QString Take(const KeymapSource& source, Keymap* keymap);
@@ -101,8 +109,12 @@ class MainWindow : public QMainWindow {
   void ShowKeymaps();
   void TakeActivation();
   void ShowPads();
+  void ShowState();
+  void ShowMirrors();
   void TakeViewSize();
+  void ShapeGuest();
   void ShowSizes();
+  void TellShapeOfBackground();
 
   GuestView* view_;
   GuestFrame* frame_;
@@ -113,18 +125,24 @@ class MainWindow : public QMainWindow {
   QAction* log_shown_ = nullptr;
   QAction* mapping_on_ = nullptr;
   QAction* let_go_ = nullptr;
-  QActionGroup* guest_sizes_ = nullptr;
+  GuestMenu* guest_menu_ = nullptr;
+  BackgroundPicture background_;
   QLabel* keymap_label_;
+  QLabel* state_label_;
+  QLabel* mirror_label_;
   QLabel* pad_label_;
   QLabel* size_label_;
   RecordBar* records_ = nullptr;
   QDockWidget* replay_dock_ = nullptr;
   GuestFrame* replay_frame_ = nullptr;
   std::unique_ptr<MirrorServer> mirror_;
+  QString listens_as_;  // empty: to nobody
+  int mirror_sources_ = 0;
   bool guest_follows_view_ = false;
   Gamepads pads_;
   Mapping mapping_;
   ReservedKeys reserved_keys_;
+  WindowState state_;
   std::unique_ptr<GamepadPoll> pad_poll_;
 };
 

@@ -18,11 +18,13 @@ Mapping::Mapping(Gamepads* pads, QObject* parent) : QObject(parent), pads_(pads)
 void Mapping::Read(const QString& path) {
   keymap_.Read(path);
   if (!paused_ && !keymap_.KeepsEarlierState()) Load();
+  Q_EMIT Changed();
 }
 
 void Mapping::ReadJoystick(const QString& path) {
   joystick_keymap_.Read(path);
   if (!paused_ && !joystick_keymap_.KeepsEarlierState()) LoadJoystick();
+  Q_EMIT Changed();
 }
 
 void Mapping::SetPaused(bool paused) {
@@ -31,7 +33,7 @@ void Mapping::SetPaused(bool paused) {
   LoadJoystick();
   Load();  // lets go, too
   PassInputOn();
-  Q_EMIT PausedChanged(paused);
+  Q_EMIT Changed();
 }
 
 // The system's keymap takes nothing and passes all on.

@@ -39,7 +39,8 @@ class Mapping : public QObject {
   void LetGoOfEverything();
 
  Q_SIGNALS:
-  void PausedChanged(bool paused);
+  // The mapping is paused or goes on, or another keymap is in use.
+  void Changed();
 
  private:
   void Load();

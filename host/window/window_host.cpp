@@ -25,12 +25,12 @@ quint64 Pack(const QSize& size) {
 struct WindowHostFunctions : TellingFunctions<WindowHost> {
   static WindowHost* Host() { return WindowHost::GetInstance(); }
 
-  static WindowGeometry GetWindowGeometry() { return Host()->Geometry(); }
-  static int GetDisplayRotation() { return 0; }
+  static WindowGeometry GetWindowGeometry() { return Host()->ViewGeometry(); }
+  static int GetDisplayRotation() { return Host()->Geometry().rotation; }
   static bool IsTextInputActive() { return Host()->HasTextField(); }
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
-  static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
+  static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->Geometry().DisplaySize()}; }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static bool IsPrimaryDisplay(int display) { return display == WindowHost::kDisplay; }
 
@@ -71,16 +71,15 @@ void WindowHost::SetTextField(bool focused) {
   Q_EMIT TextFieldChanged(focused);
 }
 
-// Places come in pixels of the guest, so this is a view as large as the guest. Its corner is such that the pointer less
-// the corner is the pointer's place in the guest.
-WindowGeometry WindowHost::Geometry() const {
-  const QSize guest = GuestSize();
-  if (!view_) return {0, 0, guest.width(), guest.height()};
+// The corner is such that the pointer less the corner is the pointer's place in the view as the library is told of it.
+WindowGeometry WindowHost::ViewGeometry() const {
+  const QSize size = ViewSize();
+  if (!view_) return {0, 0, size.width(), size.height()};
   const QPoint pointer = QCursor::pos();
   const QPoint in_view = view_->mapFromGlobal(pointer);
-  const int x = in_view.x() * guest.width() / qMax(1, view_->width());
-  const int y = in_view.y() * guest.height() / qMax(1, view_->height());
-  return {pointer.x() - x, pointer.y() - y, guest.width(), guest.height()};
+  const int x = in_view.x() * size.width() / qMax(1, view_->width());
+  const int y = in_view.y() * size.height() / qMax(1, view_->height());
+  return {pointer.x() - x, pointer.y() - y, size.width(), size.height()};
 }
 
 void WindowHost::Add(Source source, const QString& text) {

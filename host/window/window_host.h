@@ -11,6 +11,7 @@
 #include <QString>
 
 #include "host/simulation/simulated_host.h"
+#include "host/window/guest_geometry.h"
 #include "taviinputmanager/callbacks.h"
 
 class QWidget;
@@ -38,6 +39,15 @@ class WindowHost : public QObject {
   // The guest's touch surface, which is not rotated.
   void SetGuestSize(const QSize& size);
   QSize GuestSize() const;
+  // What the display is turned by, in degrees.
+  void SetRotation(int degrees) { rotation_ = degrees; }
+  GuestGeometry Geometry() const { return {GuestSize(), rotation_}; }
+
+  // How many pixels of the view there are for one of the guest's display: hosts count them in many ways.
+  void SetPixelRatio(double ratio) { pixel_ratio_ = ratio; }
+  double PixelRatio() const { return pixel_ratio_; }
+  // The view as the library is told of it; the places of events are pixels of this.
+  QSize ViewSize() const { return (QSizeF(Geometry().DisplaySize()) * pixel_ratio_).toSize(); }
 
   // Whether the guest has a text field focused, so that keys are typed.
   void SetTextField(bool focused);
@@ -64,7 +74,7 @@ class WindowHost : public QObject {
   void Add(TimelineEntry::Source source, const QString& text);
   void SetInputStatus(int status, const QString& key);
   void SetGravity(double x, double y, double z);
-  taviinputmanager::WindowGeometry Geometry() const;
+  taviinputmanager::WindowGeometry ViewGeometry() const;
 
   taviinputmanager::InputManagerCallbacks table_;
   QElapsedTimer clock_;
@@ -72,6 +82,8 @@ class WindowHost : public QObject {
   bool text_field_ = false;
   int status_ = 0;
   std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library
+  std::atomic<int> rotation_{0};     // the same
+  double pixel_ratio_ = 1;
 };
 
 }  // namespace tavi

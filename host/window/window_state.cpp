@@ -1,0 +1,75 @@
+#include "host/window/window_state.h"
+
+#include "host/window/mapping.h"
+#include "host/window/recorder.h"
+#include "host/window/replayer.h"
+#include "host/window/theme.h"
+#include "host/window/window_host.h"
+#include "taviinputmanager/types.h"
+
+namespace tavi {
+
+using taviinputmanager::InputStatus;
+using taviinputmanager::RecordStatus;
+
+namespace {
+
+void AddMouse(QVector<StateWord>* words) {
+  switch (static_cast<InputStatus>(WindowHost::GetInstance()->InputStatus())) {
+    case InputStatus::Staring: words->append({QStringLiteral("View control"), theme::kView, true}); break;
+    case InputStatus::Observing: words->append({QStringLiteral("Looking around"), theme::kView, true}); break;
+    default: break;
+  }
+}
+
+void AddRecording(QVector<StateWord>* words) {
+  switch (Recorder::GetInstance()->Status()) {
+    case RecordStatus::Recording: words->append({QStringLiteral("Recording"), theme::kError}); break;
+    case RecordStatus::Paused: words->append({QStringLiteral("Recording paused"), theme::kFaintText}); break;
+    case RecordStatus::Stopped: break;
+  }
+}
+
+void AddReplay(QVector<StateWord>* words) {
+  switch (Replayer::GetInstance()->GetState()) {
+    case Replayer::State::kPlaying: words->append({QStringLiteral("Replaying"), theme::kMacro}); break;
+    case Replayer::State::kPaused: words->append({QStringLiteral("Replay paused"), theme::kFaintText}); break;
+    default: break;
+  }
+}
+
+}  // namespace
+
+WindowState::WindowState(const Mapping* mapping, QObject* parent) : QObject(parent), mapping_(mapping) {
+  const WindowHost* host = WindowHost::GetInstance();
+  connect(mapping, &Mapping::Changed, this, &WindowState::Changed);
+  connect(host, &WindowHost::InputStatusChanged, this, &WindowState::Changed);
+  connect(host, &WindowHost::TextFieldChanged, this, &WindowState::Changed);
+  connect(Recorder::GetInstance(), &Recorder::Changed, this, &WindowState::Changed);
+  connect(Replayer::GetInstance(), &Replayer::Changed, this, &WindowState::Changed);
+}
+
+void WindowState::SetPauseKey(const QString& name) {
+  pause_key_ = name;
+  Q_EMIT Changed();
+}
+
+StateWord WindowState::MappingWord() const {
+  if (mapping_->IsPaused()) return {QStringLiteral("Mapping off (%1: on)").arg(pause_key_), theme::kWarning, true};
+  const bool is_earlier = mapping_->Keymap().KeepsEarlierState() || mapping_->JoystickKeymap().KeepsEarlierState();
+  if (is_earlier) return {QStringLiteral("Mapping as before the last change"), theme::kWarning};
+  const bool has_keymap = !mapping_->Keymap().Path().isEmpty() || !mapping_->JoystickKeymap().Path().isEmpty();
+  if (!has_keymap) return {QStringLiteral("No keymap"), theme::kFaintText};
+  return {QStringLiteral("Mapping on"), theme::kWalk};
+}
+
+QVector<StateWord> WindowState::Words() const {
+  QVector<StateWord> words{MappingWord()};
+  AddMouse(&words);
+  if (WindowHost::GetInstance()->HasTextField()) words.append({QStringLiteral("Text field"), theme::kTap, true});
+  AddRecording(&words);
+  AddReplay(&words);
+  return words;
+}
+
+}  // namespace tavi

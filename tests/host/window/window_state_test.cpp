@@ -1,0 +1,118 @@
+// What the window says about its state, in the corner of the view and at the bottom.
+#include "host/window/window_state.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include "host/window/record_bar.h"
+#include "host/window/replayer.h"
+#include "host/window/state_corner.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+constexpr int kLeftAlt = 56;
+constexpr int kGrave = 41;
+constexpr int kF12 = 88;
+
+class WindowStateTest : public WindowFixture {
+ protected:
+  const StateCorner* Corner() const { return View()->findChild<StateCorner*>(); }
+  QStringList Texts() const { return Corner()->Texts(); }
+  // The texts at the bottom, without their marks.
+  QString Bottom() const {
+    QStringList texts;
+    for (const QLabel* label : Window()->statusBar()->findChildren<QLabel*>()) {
+      if (label->isVisible()) texts += label->text().remove(QRegExp("<[^>]*>"));
+    }
+    return texts.join(" | ");
+  }
+};
+
+TEST_F(WindowStateTest, WithoutAKeymap) {
+  Window()->LoadKeymap(QString());
+  EXPECT_EQ(Texts(), QStringList("No keymap"));
+  EXPECT_TRUE(Bottom().contains("No keymap"));
+}
+
+TEST_F(WindowStateTest, WithOneItIsOnOrOff) {
+  Load("");
+  EXPECT_EQ(Texts(), QStringList("Mapping on"));
+  EXPECT_TRUE(Bottom().contains("Mapping on"));
+  Press(kF12);
+  EXPECT_EQ(Texts(), QStringList("Mapping off (F12: on)"));
+  EXPECT_TRUE(Bottom().contains("Mapping off (F12: on)"));
+}
+
+TEST_F(WindowStateTest, ABrokenChangeIsShown) {
+  Load("{type: Click, key: Space, point: [0.5, 0.5]}");
+  Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
+  EXPECT_EQ(Texts(), QStringList("Mapping as before the last change"));
+}
+
+TEST_F(WindowStateTest, TheMouseThatTurnsTheView) {
+  Load("{type: Staring, key: Grave, point: [0.6, 0.4]}, {type: Observe, key: Left Alt, point: [0.8, 0.2]}");
+  Press(kGrave);
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "View control"}));
+  Release(kGrave);
+  Press(kGrave);
+  EXPECT_EQ(Texts(), QStringList("Mapping on"));
+  Release(kGrave);
+  Press(kLeftAlt);
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Looking around"}));
+}
+
+TEST_F(WindowStateTest, ATextFieldTakesTheKeys) {
+  Load("");
+  WindowHost::GetInstance()->SetTextField(true);
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Text field"}));
+  WindowHost::GetInstance()->SetTextField(false);
+  EXPECT_EQ(Texts(), QStringList("Mapping on"));
+}
+
+TEST_F(WindowStateTest, RecordsThatAreMadeAndPlayed) {
+  Load("{type: Click, key: Space, point: [0.5, 0.5]}");
+  RecordBar* records = Window()->Records();
+  const QString file = folder_.filePath("tap.json");
+  records->SetTarget(file);
+  records->ToggleRecording();
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Recording"}));
+  Press(kSpace);
+  clock_->Advance(500);
+  Release(kSpace);
+  records->ToggleRecording();
+  EXPECT_EQ(Texts(), QStringList("Mapping on"));
+  ASSERT_TRUE(records->OpenRecord(file));
+  records->TogglePlaying();
+  clock_->Advance(100);
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Replaying"}));
+  records->TogglePlaying();
+  clock_->Advance(1);
+  EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Replay paused"}));
+}
+
+TEST_F(WindowStateTest, TheCornerStaysInTheView) {
+  Load("{type: Staring, key: Grave, point: [0.6, 0.4]}");
+  WindowHost::GetInstance()->SetTextField(true);
+  Window()->Records()->ToggleRecording();
+  for (const QSize& size : {QSize(1280, 720), QSize(320, 1280)}) {  // the second is too narrow for one row
+    Window()->SetGuestSize(size);
+    EXPECT_TRUE(View()->rect().contains(Corner()->geometry())) << size.width();
+  }
+}
+
+// A finger under the corner is the guest's.
+TEST_F(WindowStateTest, TheCornerTakesNoInput) {
+  Load("");
+  EXPECT_EQ(View()->childAt(Corner()->geometry().center()), nullptr);
+}
+
+TEST_F(WindowStateTest, OthersThatSendOrListenAreShown) {
+  EXPECT_FALSE(Bottom().contains("Listens"));
+  EXPECT_EQ(Window()->ListenAs("window-state-test"), QString());
+  EXPECT_TRUE(Bottom().contains("Listens as window-state-test (0)")) << Bottom().toStdString();
+}
+
+}  // namespace
+}  // namespace tavi
