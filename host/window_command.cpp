@@ -39,6 +39,7 @@ constexpr char kHelp[] =
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays and\n"
     "                   macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
     "  --paused         begin with the mapping off\n"
+    "  --events         list each event of the host, what it matched and what went out\n"
     "  --record FILE    record what the guest gets, and save it when the window is closed\n"
     "  --replay FILE    play this record at once\n"
     "  --second-view    play records on a display of their own\n"
@@ -65,6 +66,7 @@ const QString kBackground = QStringLiteral("--background");
 const QString kPauseKey = QStringLiteral("--pause-key");
 const QString kPanicKey = QStringLiteral("--panic-key");
 const QString kPaused = QStringLiteral("--paused");
+const QString kEvents = QStringLiteral("--events");
 const QString kRecord = QStringLiteral("--record");
 const QString kReplay = QStringLiteral("--replay");
 const QString kSecondView = QStringLiteral("--second-view");
@@ -87,6 +89,7 @@ struct WindowOptions {
   KeyCombination pause_key;
   KeyCombination panic_key;
   bool is_paused = false;
+  bool shows_events = false;
   QString record;  // empty: none
   QString replay;  // empty: none
   bool has_second_view = false;
@@ -160,6 +163,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
     return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
   }
   options->is_paused = arguments.options.contains(kPaused);
+  options->shows_events = arguments.options.contains(kEvents);
   return ReadKeys(arguments, options);
 }
 
@@ -202,6 +206,7 @@ int ShowWindow(const WindowOptions& options) {
     }
   }
   window.MirrorTo(options.mirror);
+  if (options.shows_events) window.EventsShown()->trigger();
   StartRecords(options, window.Records());
   window.ReadGamepads();
   window.show();
@@ -234,6 +239,7 @@ int Run(const Invocation& invocation) {
                                                                                       {kPauseKey, true},
                                                                                       {kPanicKey, true},
                                                                                       {kPaused, false},
+                                                                                      {kEvents, false},
                                                                                       {kRecord, true},
                                                                                       {kReplay, true},
                                                                                       {kSecondView, false},

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include "host/native_key.h"
+#include "host/window/input_port.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -21,6 +22,7 @@ using taviinputmanager::InputStatus;
 namespace {
 
 constexpr int kHintMargin = 24;
+constexpr double kDimmed = 0.35;  // of keys that are out of use
 
 QPointF ClampTo(const QRect& rect, const QPointF& point) {
   return {qBound<double>(rect.left(), point.x(), rect.right()), qBound<double>(rect.top(), point.y(), rect.bottom())};
@@ -31,7 +33,7 @@ QPointF ClampTo(const QRect& rect, const QPointF& point) {
 GuestView::GuestView(QWidget* parent)
     : GuestScreen(WindowHost::kDisplay, Texts::kTaken, parent),
       capture_(this),
-      key_repeats_(taviinputmanager::OnQtInputEvent),
+      key_repeats_([](QKeyEvent* event) { InputPort::GetInstance()->Send(event); }),
       may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
@@ -53,6 +55,11 @@ void GuestView::SetMarks(const QVector<OverlayMark>& marks) {
 
 void GuestView::SetOverlayShown(bool shown) {
   overlay_shown_ = shown;
+  update();
+}
+
+void GuestView::SetOverlayDimmed(bool dimmed) {
+  overlay_dimmed_ = dimmed;
   update();
 }
 
@@ -110,7 +117,7 @@ bool GuestView::HandleKey(QKeyEvent* event) {
 
 void GuestView::Send(QEvent* event) {
   key_repeats_.Flush();
-  taviinputmanager::OnQtInputEvent(event);
+  InputPort::GetInstance()->Send(event);
 }
 
 bool GuestView::HandleTouch(QEvent* event) {
@@ -139,7 +146,7 @@ void GuestView::mouseMoveEvent(QMouseEvent* event) {
   const QPoint movement = capture_.TakeMovement(event->pos());
   if (movement.isNull()) return;
   key_repeats_.Flush();
-  taviinputmanager::OnWindowsWmRelativeInputEvent(movement.x(), movement.y());
+  InputPort::GetInstance()->SendRelative(movement.x(), movement.y());
 }
 
 // A drag may leave the view; a finger stays on the glass.
@@ -188,7 +195,11 @@ void GuestView::ReleaseInput() {
 // ---- Drawing
 
 void GuestView::PaintUnderFingers(QPainter* painter) {
-  if (overlay_shown_) overlay_.Paint(painter, size());
+  if (overlay_shown_) {
+    painter->setOpacity(overlay_dimmed_ ? kDimmed : 1);
+    overlay_.Paint(painter, size());
+    painter->setOpacity(1);
+  }
   PaintHint(painter);
 }
 

@@ -25,6 +25,8 @@ class GuestView : public GuestScreen {
 
   void SetMarks(const QVector<OverlayMark>& marks);
   void SetOverlayShown(bool shown);
+  // The keymap's keys are out of use for the moment.
+  void SetOverlayDimmed(bool dimmed);
   // Shown in the middle while the guest has nothing to show.
   void SetHint(const QString& hint);
 
@@ -61,6 +63,7 @@ class GuestView : public GuestScreen {
 
   KeymapOverlay overlay_;
   bool overlay_shown_ = true;
+  bool overlay_dimmed_ = false;
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;

@@ -15,6 +15,8 @@
 
 #include "host/keymap_report.h"
 #include "host/window/diagnostics_panel.h"
+#include "host/window/event_log.h"
+#include "host/window/event_viewer.h"
 #include "host/window/gamepad_picture.h"
 #include "host/window/gamepad_poll.h"
 #include "host/window/guest_frame.h"
@@ -22,6 +24,7 @@
 #include "host/window/guest_panel.h"
 #include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
+#include "host/window/input_port.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
 #include "host/window/mirror_server.h"
@@ -102,11 +105,12 @@ MainWindow::MainWindow()
       mirror_label_(new QLabel),
       pad_label_(new QLabel),
       size_label_(new QLabel),
-      pads_(taviinputmanager::OnJoystickEvent),
+      pads_([](QEvent* event) { InputPort::GetInstance()->SendJoystick(event); }),
       mapping_(&pads_),
       state_(&mapping_) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
+  MakeEventDock();
   MakeReplayDock();
   MakeToolBar();
   MakeRecordBar();
@@ -177,6 +181,7 @@ void MainWindow::MakeToolBar() {
                             QStringLiteral("As if the guest had a text field focused: keys are typed"), false);
   connect(text, &QAction::toggled, this, [](bool on) { WindowHost::GetInstance()->SetTextField(on); });
   bar->addAction(log_shown_);
+  bar->addAction(events_shown_);
   bar->addSeparator();
 
   QAction* back = AddButton(bar, QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
@@ -219,6 +224,17 @@ void MainWindow::MakeLogDock() {
   log_shown_ = dock->toggleViewAction();
   log_shown_->setText(QStringLiteral("Log"));
   log_shown_->setToolTip(QStringLiteral("Show the lines for the guest"));
+}
+
+void MainWindow::MakeEventDock() {
+  auto* dock = new QDockWidget(QStringLiteral("Events of the host"), this);
+  dock->setWidget(new EventViewer(new EventLog(&mapping_)));
+  dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  addDockWidget(Qt::BottomDockWidgetArea, dock);
+  events_shown_ = dock->toggleViewAction();
+  events_shown_->setText(QStringLiteral("Events"));
+  events_shown_->setToolTip(QStringLiteral("Show each event, what it matched and what went out because of it"));
+  dock->hide();
 }
 
 void MainWindow::MakeRecordBar() {
@@ -379,6 +395,7 @@ void MainWindow::ShowPads() {
 
 void MainWindow::ShowState() {
   const StateWord word = state_.MappingWord();
+  view_->SetOverlayDimmed(mapping_.IsPaused());
   state_label_->setText(QStringLiteral("<span style='color:%1'>\u25CF</span> %2").arg(word.color.name(), word.text));
 }
 
@@ -400,12 +417,14 @@ void MainWindow::SetGuestSize(const QSize& size) {
 }
 
 void MainWindow::SetRotation(int degrees) {
+  if (degrees == WindowHost::GetInstance()->Geometry().rotation) return;
   WindowHost::GetInstance()->SetRotation(degrees);
   guest_menu_->MarkRotation(degrees);
   ShapeGuest();
 }
 
 void MainWindow::SetPixelRatio(double ratio) {
+  if (ratio == WindowHost::GetInstance()->PixelRatio()) return;
   WindowHost::GetInstance()->SetPixelRatio(ratio);
   guest_menu_->MarkPixelRatio(ratio);
   ShapeGuest();

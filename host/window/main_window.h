@@ -76,6 +76,8 @@ class MainWindow : public QMainWindow {
 
   GuestView* View() const { return view_; }
   RecordBar* Records() const { return records_; }
+  // Lists the events of the host.
+  QAction* EventsShown() const { return events_shown_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
   // The keymaps in use.
@@ -97,6 +99,7 @@ class MainWindow : public QMainWindow {
 
   void MakeToolBar();
   void MakeLogDock();
+  void MakeEventDock();
   void MakeRecordBar();
   void MakeReplayDock();
   void ShowSecondView(bool shown);
@@ -123,6 +126,7 @@ class MainWindow : public QMainWindow {
   Keymap joystick_keymap_;
   LineLog* log_;
   QAction* log_shown_ = nullptr;
+  QAction* events_shown_ = nullptr;
   QAction* mapping_on_ = nullptr;
   QAction* let_go_ = nullptr;
   GuestMenu* guest_menu_ = nullptr;

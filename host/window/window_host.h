@@ -53,6 +53,9 @@ class WindowHost : public QObject {
   void SetTextField(bool focused);
   bool HasTextField() const { return text_field_; }
 
+  // Milliseconds since Start.
+  qint64 ElapsedMs() const { return clock_.elapsed(); }
+
   // An InputStatus, as last told.
   int InputStatus() const { return status_; }
 

@@ -260,8 +260,8 @@ TEST_F(MappingTest, ThePanicKeyGivesTheMouseBack) {
 
 TEST_F(MappingTest, ThePanicKeyEndsMacros) {
   Load(
-      "{type: Macro, key: E, press_commands: ['press_rel:(0.5,0.5)', 'sleep:100', 'release_rel', 'sleep:100',"
-      " 'press_rel:(0.5,0.5)', 'sleep:5000', 'release_rel']}");
+      "{type: Macro, key: E, press_commands: ['press_rel:(0.5,0.5)', 'sleep:100', 'release_rel:(0.5,0.5)', 'sleep:100',"
+      " 'press_rel:(0.5,0.5)', 'sleep:5000', 'release_rel:(0.5,0.5)']}");
   Press(kE);
   Release(kE);
   clock_->Advance(250);
