@@ -4,6 +4,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "host/window/keymap_source.h"
+#include "host/window/placed_finding.h"
 #include "host/window/theme.h"
 #include "keymapmanager/keymap_file.h"
 
@@ -17,14 +19,38 @@ constexpr int kMostHeight = 150;  // of the findings; more are scrolled to
 
 bool IsError(const Diagnostic& diagnostic) { return diagnostic.severity == Diagnostic::Severity::kError; }
 
-QString FindingHtml(const Diagnostic& diagnostic) {
+// The number that a finding has on the screen, as a link; empty for one that is not there.
+QString LabelHtml(const PlacedFinding* placed) {
+  if (!placed) return {};
+  const QColor& color = placed->is_error ? theme::kError : theme::kWarning;
+  return QStringLiteral("<a href='%1' style='color:%2; text-decoration:none'><b>\u25CF%1</b></a>&nbsp;")
+      .arg(placed->label, color.name());
+}
+
+QString MessageHtml(const QString& message, const PlacedFinding* placed) {
+  const QString text = message.toHtmlEscaped();
+  if (!placed) return text;
+  return QStringLiteral("<a href='%1' style='color:%2; text-decoration:none'>")
+             .arg(placed->label, theme::kText.name()) +
+         text + QStringLiteral("</a>");
+}
+
+QString FindingHtml(const Diagnostic& diagnostic, const PlacedFinding* placed) {
   const QColor& color = IsError(diagnostic) ? theme::kError : theme::kWarning;
-  return QStringLiteral("<tr><td align=right style='color:%1'>%2:%3&nbsp;</td><td style='color:%4'>%5&nbsp;</td>")
+  return QStringLiteral("<tr><td>") + LabelHtml(placed) +
+         QStringLiteral("</td><td align=right style='color:%1'>%2:%3&nbsp;</td><td style='color:%4'>%5&nbsp;</td>")
              .arg(theme::kFaintText.name())
              .arg(diagnostic.line)
              .arg(diagnostic.column)
              .arg(color.name(), IsError(diagnostic) ? QStringLiteral("error") : QStringLiteral("warning")) +
-         QStringLiteral("<td>") + diagnostic.message.toHtmlEscaped() + QStringLiteral("</td></tr>");
+         QStringLiteral("<td>") + MessageHtml(diagnostic.message, placed) + QStringLiteral("</td></tr>");
+}
+
+const PlacedFinding* FindPlaced(const QVector<PlacedFinding>& placed, int index) {
+  for (const PlacedFinding& finding : placed) {
+    if (finding.index == index) return &finding;
+  }
+  return nullptr;
 }
 
 // With a place for what the keymap is called.
@@ -45,7 +71,8 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
       title_(new QLabel(this)),
       findings_(new QLabel),
       scroll_(new QScrollArea(this)) {
-  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse);
+  connect(findings_, &QLabel::linkActivated, this, &DiagnosticsPanel::FindingChosen);
   findings_->setFocusPolicy(Qt::NoFocus);
   findings_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   findings_->setFont(theme::MonospaceFont());
@@ -59,15 +86,18 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   hide();
 }
 
-void DiagnosticsPanel::Show(const tavikeymapmanager::LoadResult& keymap, bool keeps_earlier) {
+void DiagnosticsPanel::Show(const KeymapSource& source, const QVector<PlacedFinding>& placed) {
+  const tavikeymapmanager::LoadResult& keymap = source.LastRead();
   QString rows;
-  for (const Diagnostic& diagnostic : keymap.diagnostics) rows += FindingHtml(diagnostic);
+  for (int i = 0; i < keymap.diagnostics.size(); ++i) {
+    rows += FindingHtml(keymap.diagnostics[i], FindPlaced(placed, i));
+  }
   findings_->setText(QStringLiteral("<table cellspacing=0>") + rows + QStringLiteral("</table>"));
   findings_->adjustSize();
   scroll_->setFixedHeight(qMin(findings_->height(), kMostHeight));
   const QColor& color = keymap.HasErrors() ? theme::kError : theme::kWarning;
   title_->setText(QStringLiteral("<b style='color:%1'>%2</b>")
-                      .arg(color.name(), StateText(keymap.HasErrors(), keeps_earlier).arg(subject_)));
+                      .arg(color.name(), StateText(keymap.HasErrors(), source.KeepsEarlierState()).arg(subject_)));
   setVisible(!keymap.diagnostics.isEmpty());
 }
 

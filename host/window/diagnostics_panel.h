@@ -3,15 +3,15 @@
 
 #include <QFrame>
 #include <QString>
+#include <QVector>
 
 class QLabel;
 class QScrollArea;
 
-namespace tavikeymapmanager {
-struct LoadResult;
-}
-
 namespace tavi {
+
+class KeymapSource;
+struct PlacedFinding;
 
 // Tells in place what is wrong with the keymap in use. Hidden while there is nothing to tell.
 class DiagnosticsPanel : public QFrame {
@@ -21,8 +21,12 @@ class DiagnosticsPanel : public QFrame {
   // `subject` is what the keymap is called in a sentence that begins with it.
   explicit DiagnosticsPanel(const QString& subject, QWidget* parent = nullptr);
 
-  // `keeps_earlier`: the file cannot be used, and an earlier state of it is used in its place.
-  void Show(const tavikeymapmanager::LoadResult& keymap, bool keeps_earlier = false);
+  // `placed` are those of its findings that are marked on the guest's screen.
+  void Show(const KeymapSource& source, const QVector<PlacedFinding>& placed);
+
+ Q_SIGNALS:
+  // A finding that is marked was clicked at.
+  void FindingChosen(const QString& label);
 
  private:
   const QString subject_;

@@ -27,15 +27,13 @@ KeymapSource::~KeymapSource() = default;
 void KeymapSource::Read(const QString& path) {
   const bool is_same_file = path == path_ && !path.isEmpty();
   auto result = std::make_unique<km::LoadResult>(km::ReadKeymapFile(path));
-  if (!result->HasErrors()) {
+  if (!result->HasErrors() || !is_same_file) {
     good_.reset();
-    text_ = ContentsOf(path);
-  } else if (!is_same_file) {
-    good_.reset();
-    text_.clear();
   } else if (!read_->HasErrors()) {
     good_ = std::move(read_);
+    good_text_ = text_;
   }
+  text_ = ContentsOf(path);
   path_ = path;
   read_ = std::move(result);
 }
@@ -46,8 +44,9 @@ const km::LoadResult& KeymapSource::InUse() const { return good_ ? *good_ : *rea
 
 QString KeymapSource::PathForUse() {
   if (!good_ && (path_.isEmpty() || QFile::exists(path_))) return path_;
+  const QByteArray& text = TextInUse();
   copy_ = std::make_unique<QTemporaryFile>();
-  const bool is_written = copy_->open() && copy_->write(text_) == text_.size() && copy_->flush();
+  const bool is_written = copy_->open() && copy_->write(text) == text.size() && copy_->flush();
   return is_written ? copy_->fileName() : path_;
 }
 

@@ -36,8 +36,9 @@ class KeymapSource {
   bool KeepsEarlierState() const;
   // What is in use: the file's last state without errors, or an empty keymap where there was none.
   const tavikeymapmanager::LoadResult& InUse() const;
-  // The file's text in that state.
-  const QByteArray& TextInUse() const { return text_; }
+  // The texts of these two states.
+  const QByteArray& TextInUse() const { return good_ ? good_text_ : text_; }
+  const QByteArray& LastText() const { return text_; }
 
   // A file for the library to load it from: the file itself, or a copy of its earlier state.
   QString PathForUse();
@@ -46,7 +47,8 @@ class KeymapSource {
   QString path_;
   std::unique_ptr<tavikeymapmanager::LoadResult> read_;  // last
   std::unique_ptr<tavikeymapmanager::LoadResult> good_;  // an earlier state, while `read_` has errors; else null
-  QByteArray text_;
+  QByteArray text_;                                      // of `read_`
+  QByteArray good_text_;                                 // of `good_`
   std::unique_ptr<QTemporaryFile> copy_;
 };
 

@@ -17,6 +17,7 @@
 #include "host/window/diagnostics_panel.h"
 #include "host/window/event_log.h"
 #include "host/window/event_viewer.h"
+#include "host/window/finding_marks.h"
 #include "host/window/gamepad_picture.h"
 #include "host/window/gamepad_poll.h"
 #include "host/window/guest_frame.h"
@@ -96,9 +97,9 @@ MainWindow::MainWindow()
     : view_(new GuestView),
       frame_(new GuestFrame(view_)),
       panel_(new GuestPanel(&view_->Model())),
-      keymap_{{}, {}, {}, new DiagnosticsPanel(QStringLiteral("This keymap")), new KeymapWatch(this)},
+      keymap_{{}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("This keymap")), new KeymapWatch(this)},
       joystick_keymap_{
-          {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
+          {}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
       keymap_label_(new QLabel),
       state_label_(new QLabel),
@@ -122,7 +123,11 @@ MainWindow::MainWindow()
     statusBar()->addPermanentWidget(label);
   }
   statusBar()->addPermanentWidget(size_label_);
+  finding_marks_ = new FindingMarks(view_);
   new StateCorner(&state_, view_);
+  for (const DiagnosticsPanel* panel : {keymap_.diagnostics, joystick_keymap_.diagnostics}) {
+    connect(panel, &DiagnosticsPanel::FindingChosen, finding_marks_, &FindingMarks::Flash);
+  }
   resize(kFirstSize);
 
   WindowHost* host = WindowHost::GetInstance();
@@ -334,7 +339,8 @@ QString MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
   keymap->path = path;
   keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(in_use));
   keymap->marks = MarksOf(in_use);
-  keymap->diagnostics->Show(source.LastRead(), source.KeepsEarlierState());
+  keymap->findings = PlaceFindings(source, keymap == &joystick_keymap_ ? QStringLiteral("G") : QString());
+  keymap->diagnostics->Show(source, keymap->findings);
   keymap->watch->Watch(path);
   return in_use.name;
 }
@@ -361,6 +367,7 @@ void MainWindow::LoadJoystickKeymap(const QString& path) {
 
 void MainWindow::ShowKeymaps() {
   view_->SetMarks(MergeMarks(keymap_.marks, joystick_keymap_.marks));
+  finding_marks_->Show(keymap_.findings + joystick_keymap_.findings);
   const bool has_keymap = !keymap_.path.isEmpty();
   view_->SetHint(has_keymap
                      ? QString()

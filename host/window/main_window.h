@@ -12,6 +12,7 @@
 #include "host/window/key_combination.h"
 #include "host/window/mapping.h"
 #include "host/window/overlay_marks.h"
+#include "host/window/placed_finding.h"
 #include "host/window/reserved_keys.h"
 #include "host/window/window_state.h"
 
@@ -23,6 +24,7 @@ class QToolBar;
 namespace tavi {
 
 class DiagnosticsPanel;
+class FindingMarks;
 class GamepadPoll;
 class GuestFrame;
 class GuestMenu;
@@ -93,6 +95,7 @@ class MainWindow : public QMainWindow {
     QString path;      // empty: none
     QString contents;  // for people
     QVector<OverlayMark> marks;
+    QVector<PlacedFinding> findings;  // that have a place on the screen
     DiagnosticsPanel* diagnostics;
     KeymapWatch* watch;
   };
@@ -136,6 +139,7 @@ class MainWindow : public QMainWindow {
   QLabel* mirror_label_;
   QLabel* pad_label_;
   QLabel* size_label_;
+  FindingMarks* finding_marks_ = nullptr;
   RecordBar* records_ = nullptr;
   QDockWidget* replay_dock_ = nullptr;
   GuestFrame* replay_frame_ = nullptr;

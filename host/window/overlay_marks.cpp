@@ -141,6 +141,8 @@ QVector<OverlayMark> MarksOf(const km::LoadResult& keymap) {
   return marks;
 }
 
+QPointF PlaceOf(const km::ConfigItem& item) { return MarkOf(item, QString()).point; }
+
 QVector<OverlayMark> MergeMarks(QVector<OverlayMark> marks, const QVector<OverlayMark>& others) {
   for (const OverlayMark& mark : others) AddMark(mark, &marks);
   return marks;

@@ -9,8 +9,9 @@
 #include <QVector>
 
 namespace tavikeymapmanager {
+class ConfigItem;
 struct LoadResult;
-}
+}  // namespace tavikeymapmanager
 
 namespace tavi {
 
@@ -37,6 +38,9 @@ struct OverlayMark {
 
 // In the order of the items, those on one point with one shape and label joined.
 QVector<OverlayMark> MarksOf(const tavikeymapmanager::LoadResult& keymap);
+
+// Where an item is marked; a null point when it has no place.
+QPointF PlaceOf(const tavikeymapmanager::ConfigItem& item);
 
 // The marks of two keymaps that are in use together, joined in the same way.
 QVector<OverlayMark> MergeMarks(QVector<OverlayMark> marks, const QVector<OverlayMark>& others);

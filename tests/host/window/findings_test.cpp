@@ -1,0 +1,152 @@
+// What is wrong with a keymap, told in a list and marked where its items are.
+#include <QFile>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QToolTip>
+
+#include "host/window/diagnostics_panel.h"
+#include "host/window/finding_marks.h"
+#include "host/window/keymap_source.h"
+#include "host/window/placed_finding.h"
+#include "keymapmanager/keymap_file.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+// Two taps on one key: the second will never answer, which is worth a warning.
+constexpr char kTwins[] =
+    "format: 1\n"
+    "items:\n"
+    "  - {type: Click, label: One, key: Space, point: [0.25, 0.75]}\n"
+    "  - {type: Click, label: Two, key: W, point: [0.5, 0.5]}\n"
+    "  - {type: Click, label: Three, key: E, point: [0.75, 0.25]}\n";
+
+class Findings : public WindowFixture {
+ protected:
+  // Writes the file anew and has it read, as an editor's save does.
+  void Save(const QByteArray& text) {
+    QFile file(folder_.filePath("keymap.yaml"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    Window()->LoadKeymap(file.fileName());
+  }
+  static QByteArray Replaced(const char* before, const char* after) {
+    return QByteArray(kTwins).replace(before, after);
+  }
+  FindingMarks* Marks() const { return View()->findChild<FindingMarks*>(); }
+  // What stands above the view, its links as their targets.
+  QString Panel() const {
+    QString text;
+    for (const auto* panel : Window()->findChildren<DiagnosticsPanel*>()) {
+      if (!panel->isVisible()) continue;
+      for (const QLabel* label : panel->findChildren<QLabel*>()) text += label->text();
+    }
+    return text;
+  }
+  void ExpectMarkAt(const char* label, double x, double y) const {
+    const QPointF place = Marks()->PlaceOfMark(label);
+    EXPECT_NEAR(place.x(), View()->width() * x - 24, 1) << label;  // beside the item's keys
+    EXPECT_NEAR(place.y(), View()->height() * y, 1) << label;
+  }
+};
+
+TEST_F(Findings, AKeymapWithoutAnyHasNoMarks) {
+  Save(kTwins);
+  EXPECT_FALSE(Marks()->isVisible());
+  EXPECT_EQ(Panel(), QString());
+}
+
+TEST_F(Findings, AWarningMarksItsItem) {
+  Save(Replaced("key: E", "key: Space"));
+  ASSERT_TRUE(Marks()->isVisible());
+  ExpectMarkAt("1", 0.75, 0.25);
+  EXPECT_TRUE(Panel().contains("is in use, but parts of it"));
+  EXPECT_TRUE(Panel().contains("href='1'")) << Panel().toStdString();
+}
+
+TEST_F(Findings, AnErrorMarksTheItemOfTheStateBefore) {
+  Save(kTwins);
+  Save(Replaced("key: W", "key: Spcae"));
+  ExpectMarkAt("1", 0.5, 0.5);
+  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+}
+
+// Lines were put in above the item with the error, and behind it nothing changed.
+TEST_F(Findings, LinesThatMovedStandForThemselves) {
+  Save(Replaced("key: E", "key: Spcae"));
+  EXPECT_FALSE(Marks()->isVisible());  // there is no state before
+  Save(kTwins);
+  Save(Replaced("  - {type: Click, label: One", "# a comment\n# another\n  - {type: Clack, label: One"));
+  ExpectMarkAt("1", 0.25, 0.75);
+  Save(kTwins);
+  Save(
+      "format: 1\nitems:\n"
+      "  - {type: Click, label: New, key: R, point: [0.1, 0.1]}\n" +
+      Replaced("key: E, point: [0.75", "key: Eh, point: [7.5").mid(17));
+  ExpectMarkAt("1", 0.75, 0.25);
+}
+
+TEST_F(Findings, SeveralOfOneItemStandAboveEachOther) {
+  Save(kTwins);
+  Save(Replaced("key: W, point", "key: Spcae, sped: 1, point"));
+  const QPointF first = Marks()->PlaceOfMark("1");
+  const QPointF second = Marks()->PlaceOfMark("2");
+  EXPECT_EQ(first.x(), second.x());
+  EXPECT_GT(first.y() - second.y(), 18);  // two radii of 9
+}
+
+TEST_F(Findings, WhatIsAboutNoItemHasNoMark) {
+  Save(kTwins);
+  Save(QByteArray(kTwins) + "colour: red\n");
+  EXPECT_FALSE(Marks()->isVisible());
+  EXPECT_TRUE(Panel().contains("colour"));
+  Save(QByteArray(kTwins).replace("format: 1", "format: 2"));
+  EXPECT_FALSE(Marks()->isVisible());
+}
+
+TEST_F(Findings, AChosenFindingLightsUp) {
+  Save(Replaced("key: E", "key: Space"));
+  const QImage before = Marks()->grab().toImage();
+  QLabel* list = nullptr;
+  for (QLabel* label : Window()->findChildren<QLabel*>()) {
+    if (label->text().contains("href='1'")) list = label;
+  }
+  ASSERT_NE(list, nullptr);
+  Q_EMIT list->linkActivated("1");
+  EXPECT_NE(Marks()->grab().toImage(), before);
+  clock_->Advance(2000);
+  EXPECT_EQ(Marks()->grab().toImage(), before);
+}
+
+TEST_F(Findings, ThePointerOnAMarkTellsTheMessage) {
+  Save(Replaced("key: E", "key: Space"));
+  const QPoint place = Marks()->PlaceOfMark("1").toPoint();
+  QHelpEvent help(QEvent::ToolTip, place, View()->mapToGlobal(place));
+  Send(&help);
+  EXPECT_TRUE(QToolTip::text().contains("Space")) << QToolTip::text().toStdString();
+}
+
+TEST_F(Findings, MarksTakeNoInput) {
+  Save(Replaced("key: E", "key: Space"));
+  EXPECT_EQ(View()->childAt(Marks()->PlaceOfMark("1").toPoint()), nullptr);
+}
+
+TEST_F(Findings, TheKeymapOfGamepadsHasLabelsOfItsOwn) {
+  Save(Replaced("key: E", "key: Space"));
+  LoadJoystick("{type: Click, key: Pad A, point: [0.1, 0.2]}, {type: Click, key: Pad A, point: [0.3, 0.4]}");
+  ExpectMarkAt("1", 0.75, 0.25);
+  ExpectMarkAt("G1", 0.3, 0.4);
+}
+
+TEST_F(Findings, TheyGoWhenTheFileIsCorrect) {
+  Save(kTwins);
+  Save(Replaced("key: W", "key: Spcae"));
+  Save(kTwins);
+  EXPECT_FALSE(Marks()->isVisible());
+  EXPECT_EQ(Panel(), QString());
+}
+
+}  // namespace
+}  // namespace tavi
