@@ -4,6 +4,7 @@
 
 #include "host/command_line.h"
 #include "host/picture/picture_file.h"
+#include "host/progress_line.h"
 #include "host/record/record_file.h"
 #include "host/record/record_paths.h"
 #include "host/record/record_picture.h"
@@ -22,12 +23,21 @@ constexpr char kHelp[] =
     "\n"
     "  -o PICTURE    where to write it (SVG)\n"
     "\n"
+    "Long work is told of on a terminal. Ctrl+C ends it, and leaves the picture as it was.\n"
+    "\n"
     "Exit status: 0 when the picture was written, 1 when it cannot be, 2 when the record\n"
     "or the command line cannot be used.\n"
     "\n"
     "Example: tavi record draw -o walk.svg examples/records/walk.json\n";
 
 const QString kOutput = QStringLiteral("-o");
+
+QByteArray Draw(const QString& name, const RecordFile& record) {
+  const ProgressLine progress(QStringLiteral("drawing ") + name);
+  RecordInfo info;
+  taviinputmanager::GetRecordInfo(name, &info);
+  return DrawRecord({QFileInfo(name).fileName(), info, FollowContacts(record.root)});
+}
 
 int Run(const Invocation& invocation) {
   const ParsedArguments parsed = ParseArguments(invocation.arguments, {{kOutput, true}});
@@ -37,10 +47,7 @@ int Run(const Invocation& invocation) {
   const QString name = parsed.positional[0];
   const RecordFile record = ReadRecordFile(name);
   if (!IsRecordUsable(name, record)) return kExitUsage;
-  RecordInfo info;
-  taviinputmanager::GetRecordInfo(name, &info);
-  const RecordDrawing drawing{QFileInfo(name).fileName(), info, FollowContacts(record.root)};
-  return WritePicture(kCommand, parsed.options[kOutput], DrawRecord(drawing));
+  return WritePicture(kCommand, parsed.options[kOutput], Draw(name, record));
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 #include <optional>
 
 #include "host/command_line.h"
+#include "host/progress_line.h"
 #include "host/record/record_file.h"
+#include "host/whole_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -80,11 +82,17 @@ bool AreRecordsUsable(const QVector<MergeParam>& records) {
   return all;
 }
 
+bool Merge(const MergeOrder& order) {
+  WholeFile file(order.target);
+  const ProgressLine progress(QStringLiteral("writing ") + order.target);
+  return taviinputmanager::MergeRecord(file.WorkingName(), order.records) && file.Keep();
+}
+
 int Run(const Invocation& invocation) {
   const MergeOrder order = ReadMergeOrder(invocation.arguments);
   if (!order.problem.isEmpty()) return FailUsage(kCommand, order.problem);
   if (!AreRecordsUsable(order.records)) return kExitUsage;
-  if (taviinputmanager::MergeRecord(order.target, order.records)) return kExitDone;
+  if (Merge(order)) return kExitDone;
   PrintError(QStringLiteral("tavi record merge: cannot write %1\n").arg(order.target));
   return kExitProblem;
 }

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 
+#include "host/progress_line.h"
 #include "host/record/record_action_check.h"
 #include "host/record/record_file.h"
 
@@ -260,6 +261,9 @@ class RecordReader {
 
 }  // namespace
 
-RecordFile ReadRecordFile(const QString& name) { return RecordReader().Read(name); }
+RecordFile ReadRecordFile(const QString& name) {
+  const ProgressLine progress(QStringLiteral("reading ") + name);
+  return RecordReader().Read(name);
+}
 
 }  // namespace tavi

@@ -1,0 +1,22 @@
+// The terminal that the program was started from.
+#ifndef HOST_TERMINAL_H_
+#define HOST_TERMINAL_H_
+
+#include <functional>
+
+namespace tavi {
+
+// Whether standard error is read by a person right now.
+bool IsErrorTerminal();
+
+// What is to be done before the program ends when it is interrupted (Ctrl+C) or told to end. `clean_up` is called on a
+// thread of its own while the others run on, and then the program ends as it would have. One at a time; an empty
+// function takes it back, and waits for one that is at work.
+//
+// To be called first while the program has no other threads, which would take the interruption otherwise. A program
+// that was started with interruptions ignored is not interrupted.
+void SetCleanUp(std::function<void()> clean_up);
+
+}  // namespace tavi
+
+#endif  // HOST_TERMINAL_H_
