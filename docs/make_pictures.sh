@@ -61,8 +61,62 @@ play_battle() {
   drag 60 4 2
 }
 
-# A field that is spelt wrong, and a key that does not exist.
-show_findings() { sleep 0.1; }
+# Saves a key that does not exist, and a field that is spelt wrong, and clicks at the first finding.
+break_keymap() {
+  sed -i 's/label: Crouch, key: C,/label: Crouch, key: Contrl,/; s/label: Map, key: M,/label: Map, kee: M,/' \
+    "$keymaps/shooter.yaml"
+  sleep 1.8
+  move_to 0.15 0.138
+  xdotool click 1
+}
+
+# Switches the mapping off: what was mapped is plain input.
+pause_mapping() {
+  move_to 0.40 0.50
+  xdotool key F12
+  sleep 0.3
+  xdotool keydown w keydown space
+  drag 4 6 -3
+}
+
+# What each event becomes: view control, a walk, a tap, turns of the wheel, a key that is nobody's.
+watch_events() {
+  move_to 0.30 0.30
+  xdotool key grave
+  sleep 0.2
+  xdotool keydown w
+  sleep 0.2
+  xdotool key r
+  drag 5 6 -3
+  xdotool key p
+  xdotool key grave
+  sleep 0.2
+  xdotool click 4
+  move_to 0.36 0.36
+  xdotool mousedown 1
+}
+
+# A landscape with a sun, for want of a game.
+make_landscape() {
+  awk 'BEGIN {
+    print "P3 1280 720 255"
+    for (j = 0; j < 720; ++j) for (i = 0; i < 1280; ++i) {
+      x = i / 2; y = j / 2
+      far = 190 + 22 * sin(x / 61) + 12 * sin(x / 23); near = 262 + 26 * sin(x / 97 + 2) + 9 * sin(x / 31)
+      if (y > near) print int(24 + y / 12), int(66 - y / 12), 44
+      else if (y > far) print 58, int(84 - y / 9), 92
+      else if ((x - 450) ^ 2 + (y - 92) ^ 2 < 900) print 250, 226, 168
+      else print int(58 + y / 1.6), int(78 + y / 2.4), int(132 + y / 5)
+    }
+  }' > "$1"
+}
+
+# Fingers on a picture of the guest's screen.
+play_on_picture() {
+  move_to 0.30 0.40
+  xdotool keydown w keydown d keydown space
+  sleep 0.6
+}
 
 # A record plays on a view of its own, while the player taps beside it.
 watch_replay() {
@@ -85,12 +139,14 @@ trap 'rm -rf "$folder"' EXIT
 "$tavi" record merge -o "$folder/walks.json" "$root/examples/records/walk.json" --times 5 --delay 200 >/dev/null
 picture replay 2600 shooter.yaml watch_replay --second-view --replay "$folder/walks.json"
 
-cat > "$folder/broken.yaml" <<'KEYMAP'
-format: 1
-name: Broken
-items:
-  - {type: Click, label: Jump, key: Spcae, point: [0.94, 0.74]}
-  - {type: Swipehold, label: Walk, point: [0.18, 0.72], radus: 0.09, key_up: W}
-KEYMAP
+picture paused 2600 shooter.yaml pause_mapping
+picture events 4000 shooter.yaml watch_events --events
+
+# The surface of a phone, turned by a quarter.
+make_landscape "$folder/landscape.ppm"
+picture background 3200 shooter.yaml play_on_picture --background "$folder/landscape.ppm" --guest 720x1280 \
+  --rotation 90
+
+cp "$keymaps/shooter.yaml" "$folder"
 keymaps=$folder
-picture findings 1500 broken.yaml show_findings
+picture findings 4000 shooter.yaml break_keymap

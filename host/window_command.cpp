@@ -31,7 +31,7 @@ constexpr char kHelp[] =
     "                   for one as large as it is shown (1280x720)\n"
     "  --rotation DEG   what the display is turned by, as the host tells it: 0, 90, 180, 270\n"
     "  --pixel-ratio X  how many pixels of the view the host counts for one of the guest's\n"
-    "                   display (1)\n"
+    "                   display (1): with others one sees which places go astray\n"
     "  --background PICTURE\n"
     "                   a picture (PNG, JPEG) in place of the guest's screen\n"
     "  --pause-key KEY  the key that switches the mapping off, so that everything reaches the\n"
@@ -209,6 +209,7 @@ int ShowWindow(const WindowOptions& options) {
   if (options.shows_events) window.EventsShown()->trigger();
   StartRecords(options, window.Records());
   window.ReadGamepads();
+  window.ClearLog();  // what the guest was sent by way of a beginning is no news
   window.show();
   window.activateWindow();
   if (!options.picture.isEmpty()) {

@@ -41,7 +41,8 @@ GuestMenu::GuestMenu(QWidget* parent)
     AddChoice(rotation, rotations_, QStringLiteral("%1\u00B0").arg(degrees), degrees);
   }
   QMenu* ratio = addMenu(QStringLiteral("Pixel ratio"));
-  ratio->menuAction()->setToolTip(QStringLiteral("How many pixels of the view the host counts for one of the guest"));
+  ratio->menuAction()->setToolTip(
+      QStringLiteral("How many pixels of the view the host counts for one of the display: walks go elsewhere then"));
   for (const double value : kPixelRatios) AddChoice(ratio, pixel_ratios_, QString::number(value), value);
   addSeparator();
   QAction* background = addAction(QStringLiteral("Background picture\u2026"));

@@ -14,6 +14,7 @@ namespace km = tavikeymapmanager;
 namespace {
 
 QByteArray ContentsOf(const QString& path) {
+  if (path.isEmpty()) return {};
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -207,6 +207,8 @@ void MainWindow::SetPauseKey(const KeyCombination& key) {
   reserved_keys_.Reserve(kPause, key, [this] { mapping_on_->toggle(); });
 }
 
+void MainWindow::ClearLog() { log_->Clear(); }
+
 void MainWindow::PauseMapping() { mapping_on_->setChecked(false); }
 
 GuestMenu* MainWindow::MakeGuestMenu() {

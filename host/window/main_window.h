@@ -56,7 +56,7 @@ class MainWindow : public QMainWindow {
   void SetGuestSize(const QSize& size);
   // What it is turned by: 0, 90, 180 or 270 degrees. The size is of the screen before it is turned.
   void SetRotation(int degrees);
-  // How many pixels the host counts for one of the guest, for whoever wants to see that places agree all the same.
+  // How many pixels the host counts for one of the guest, for whoever wants to see which places agree all the same.
   void SetPixelRatio(double ratio);
   // A picture in place of the guest's screen; an empty name for none. Returns what is wrong, or nothing.
   QString SetBackground(const QString& file);
@@ -70,6 +70,8 @@ class MainWindow : public QMainWindow {
   void SetPauseKey(const KeyCombination& key);
 
   void PauseMapping();
+  // Empties the list of the lines for the guest.
+  void ClearLog();
 
   // Listens to another instance's lines under this name. Returns what is wrong, or nothing.
   QString ListenAs(const QString& name);

@@ -80,6 +80,35 @@ TEST_F(GuestDisplay, AFingerIsSeenWhereThePlayerPutIt) {
   }
 }
 
+// The stick's radius is a fraction of the display's width: 0.1 of 1280 pixels is 0.178 of 720, and 0.1 of 720 pixels is
+// 0.056 of 1280.
+TEST_F(GuestDisplay, AWalkingFingerIsSeenOnItsStick) {
+  Load("{type: Swipehold, point: [0.2, 0.6], radius: 0.1, key_up: W, key_left: A, key_down: S, key_right: D}");
+  for (const QSize& surface : {QSize(1280, 720), QSize(720, 1280)}) {
+    Window()->SetGuestSize(surface);
+    for (const int rotation : {0, 90, 180, 270}) {
+      Window()->SetRotation(rotation);
+      const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
+      Press(kW);
+      clock_->Advance(1000);
+      ExpectSeenAt(0.2, 0.6 - 0.1 * display.width() / display.height(),
+                   QString("%1 wide, %2 degrees").arg(surface.width()).arg(rotation));
+      Release(kW);
+      clock_->Advance(1000);
+    }
+  }
+}
+
+// A walk is planned in pixels of the display, and they are taken for those of the view: where a host counts 1.5 of
+// these for one of those, 0.2 is seen at 0.2 / 1.5. This is what the switch is there to show.
+TEST_F(GuestDisplay, AWalkIsElsewhereWhereTheHostCountsOtherPixels) {
+  Load("{type: Swipehold, point: [0.2, 0.6], radius: 0.1, key_up: W, key_left: A, key_down: S, key_right: D}");
+  Window()->SetPixelRatio(1.5);
+  Press(kW);
+  clock_->Advance(1000);
+  ExpectSeenAt(0.2 / 1.5, (0.6 - 0.1 * 1280 / 720) / 1.5, "ratio 1.5");
+}
+
 // 0.25 of the display's width and 0.75 of its height; a quarter turn: a = 1 - 0.75, b = 0.25 of 720 x 1280.
 TEST_F(GuestDisplay, LinesAreOfTheSurfaceThatDoesNotTurn) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
