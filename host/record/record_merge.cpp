@@ -29,6 +29,8 @@ constexpr char kHelp[] =
     "\n"
     "A name that begins with a dash is written ./-name, or stands behind \"--\".\n"
     "\n"
+    "Long work is told of on a terminal. Ctrl+C ends it, and leaves the target as it was.\n"
+    "\n"
     "Exit status: 0 when it was written, 1 when it cannot be, 2 when a record or the\n"
     "command line cannot be used.\n"
     "\n"
