@@ -21,6 +21,11 @@ _tavi_value() {
   case "$1 $2" in
     "window --joystick") _tavi_files yaml yml ;;
     "window --guest") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "window --rotation") _tavi_words "0 90 180 270" ;;
+    "window --pixel-ratio") return 0 ;;
+    "window --background") _tavi_files png jpg jpeg webp bmp ;;
+    "window --pause-key") return 0 ;;
+    "window --panic-key") return 0 ;;
     "window --record") _tavi_files json ;;
     "window --replay") _tavi_files json ;;
     "window --listen") return 0 ;;
@@ -51,7 +56,7 @@ _tavi_value() {
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --guest --record --replay --second-view --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --guest --rotation --pixel-ratio --background --pause-key --panic-key --paused --events --record --replay --second-view --listen --mirror --picture --after" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;
