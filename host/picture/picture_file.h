@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-// Writes all of a picture or nothing: a file that was there before stays where that fails or is interrupted. Says so as `command`
-// ("draw"); returns the exit status.
+// Writes all of a picture or nothing: a file that was there before stays where that fails or is interrupted. Says so as
+// `command` ("draw"); returns the exit status.
 int WritePicture(const QString& command, const QString& name, const QByteArray& picture);
 
 }  // namespace tavi
