@@ -30,7 +30,11 @@ struct WindowHostFunctions : TellingFunctions<WindowHost> {
   static bool IsTextInputActive() { return Host()->HasTextField(); }
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
-  static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
+  // Aims and macros ask how far the pointer is from its corner.
+  static QRect GetDisplayRect() {
+    const WindowGeometry view = Host()->Geometry();
+    return {view.x, view.y, view.width, view.height};
+  }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static bool IsPrimaryDisplay(int display) { return display == WindowHost::kDisplay; }
 
