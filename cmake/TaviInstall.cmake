@@ -71,10 +71,10 @@ foreach(folder IN LISTS examples_for_tools)
 endforeach()
 install(DIRECTORY docs/pictures DESTINATION ${doc_dir}/docs COMPONENT tools PATTERN growth.svg EXCLUDE)
 install(DIRECTORY docs/ DESTINATION ${doc_dir}/docs COMPONENT tools
-  FILES_MATCHING REGEX "/(${documents_for_tools})\\.(md|json)$" PATTERN pictures EXCLUDE)
+  FILES_MATCHING REGEX "/(${documents_for_tools})\\.(md|json)$" PATTERN pictures EXCLUDE PATTERN man EXCLUDE)
 install(DIRECTORY docs/pictures DESTINATION ${doc_dir}/docs COMPONENT development
   FILES_MATCHING PATTERN growth.svg)
 install(DIRECTORY docs/ DESTINATION ${doc_dir}/docs COMPONENT development
-  FILES_MATCHING PATTERN "*.md" REGEX "/(${documents_for_tools})\\.md$" EXCLUDE PATTERN pictures EXCLUDE)
+  FILES_MATCHING PATTERN "*.md" REGEX "/(${documents_for_tools})\\.md$" EXCLUDE PATTERN pictures EXCLUDE PATTERN man EXCLUDE)
 install(FILES README.md CHANGELOG.md DESTINATION ${doc_dir} COMPONENT development)
 install(DIRECTORY examples/host examples/host_window DESTINATION ${doc_dir}/examples COMPONENT development)
