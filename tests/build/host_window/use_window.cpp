@@ -6,9 +6,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "guest_view.h"
+#include "examples/host_window/guest_view.h"
+#include "examples/host_window/scan_codes.h"
 #include "host/scan_codes.h"
-#include "scan_codes.h"
 
 namespace {
 
