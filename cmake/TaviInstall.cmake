@@ -39,7 +39,8 @@ endif()
 
 install(DIRECTORY include/ keymap DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
   FILES_MATCHING PATTERN "*.h")
-install(FILES keymapmanager/keymap_file.h keymapmanager/key_names.h keymapmanager/nearest_word.h
+install(FILES keymapmanager/item_types.h keymapmanager/key_names.h keymapmanager/keymap_file.h
+  keymapmanager/keymap_outline.h keymapmanager/nearest_word.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/keymapmanager COMPONENT development)
 
 install(EXPORT taviinputmanagerTargets NAMESPACE tavi:: DESTINATION ${package_dir} COMPONENT development)

@@ -78,7 +78,8 @@ class InstalledTree(unittest.TestCase):
     def test_holds_the_public_headers_and_no_other(self):
         expected = [path.relative_to(Path(SOURCE) / "include") for path in (Path(SOURCE) / "include").rglob("*.h")]
         expected += [path.relative_to(SOURCE) for path in (Path(SOURCE) / "keymap").glob("*.h")]
-        expected += [Path("keymapmanager") / name for name in ("keymap_file.h", "key_names.h", "nearest_word.h")]
+        expected += [Path(f"keymapmanager/{name}.h")
+                     for name in ("item_types", "key_names", "keymap_file", "keymap_outline", "nearest_word")]
         include = INSTALLED / "include"
         self.assertEqual(sorted(path.relative_to(include) for path in include.rglob("*") if path.is_file()),
                          sorted(expected))
