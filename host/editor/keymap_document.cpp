@@ -27,7 +27,7 @@ const QString kPad = QStringLiteral("Pad ");
 
 std::optional<QByteArray> ReadBytes(const QString& path) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
+  if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
   return file.readAll();
 }
 
@@ -112,7 +112,9 @@ KeymapDocument::KeymapDocument(QObject* parent) : QObject(parent), types_(km::De
   connect(&undo_, &QUndoStack::indexChanged, this, &KeymapDocument::Changed);
 }
 
-KeymapDocument::~KeymapDocument() = default;
+KeymapDocument::~KeymapDocument() {
+  undo_.disconnect(this);  // at its end it tells of a change
+}
 
 // ---- Files
 

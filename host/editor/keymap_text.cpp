@@ -250,9 +250,20 @@ QByteArray KeymapText::SeparatorBehind(const ItemOutline& item) const {
   return ',' + lines_.Break() + IndentationOf(item.range.begin);
 }
 
+// Behind the item's line where it has one to itself: what is said there stays with the first one.
+QByteArray KeymapText::WithCopyInBrackets(const ItemOutline& item) const {
+  const int end_of_line = lines_.End(item.range.end);
+  const int comma = lines_.SkipComments(item.range.end);
+  const QByteArray copy = Slice(item.range);
+  const bool has_own_line = IsFirstOnLine(item.range.begin) && comma < end_of_line && text_[comma] == ',' &&
+                            lines_.SkipComments(comma + 1) > end_of_line;
+  if (!has_own_line) return Inserted(item.range.end, SeparatorBehind(item) + copy);
+  return Inserted(end_of_line, lines_.Break() + IndentationOf(item.range.begin) + copy + ',');
+}
+
 QByteArray KeymapText::WithCopy(int item) const {
   const ItemOutline& outline = outline_.items[item];
-  if (outline.dash < 0) return Inserted(outline.range.end, SeparatorBehind(outline) + Slice(outline.range));
+  if (outline.dash < 0) return WithCopyInBrackets(outline);
   const TextRange lines = LinesOf(outline);
   const bool has_blank = !outline.in_braces && HasBlankAbove(outline);
   return Inserted(lines.end, (has_blank ? lines_.Break() : QByteArray()) + lines_.Break() + Slice(lines));

@@ -73,6 +73,7 @@ class KeymapText {
   int FieldBefore(const ItemOutline& item, const QString& name, const QStringList& order) const;
   QByteArray WithoutFieldInBraces(const ItemOutline& item, int field) const;
   QByteArray WithoutItemInBrackets(int item) const;
+  QByteArray WithCopyInBrackets(const ItemOutline& item) const;
 
   // The lines of an entry of a block list, the comments behind its fields included, from the dash to the last
   // character.

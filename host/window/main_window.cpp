@@ -22,6 +22,7 @@
 #include "host/window/guest_panel.h"
 #include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
+#include "host/window/keymap_editor.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
 #include "host/window/mirror_server.h"
@@ -94,11 +95,15 @@ MainWindow::MainWindow()
       keymap_label_(new QLabel),
       pad_label_(new QLabel),
       size_label_(new QLabel),
-      pads_(taviinputmanager::OnJoystickEvent) {
+      pads_([this](QEvent* event) {
+        if (!editor_->TakePad(event)) taviinputmanager::OnJoystickEvent(event);
+      }) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
   MakeReplayDock();
+  MakeEditor();
   MakeToolBar();
+  editor_->AddBar();
   MakeRecordBar();
   statusBar()->addWidget(keymap_label_, 1);
   pad_label_->setContentsMargins(0, 0, kLabelGap, 0);
@@ -110,7 +115,9 @@ MainWindow::MainWindow()
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
   connect(frame_, &GuestFrame::ViewResized, this, &MainWindow::TakeViewSize);
   connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
-  connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
+  connect(keymap_.watch, &KeymapWatch::Changed, this, [this] {
+    if (!editor_->TakeFileChange()) LoadKeymap(keymap_.path);
+  });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
   ShowPads();
@@ -149,6 +156,7 @@ void MainWindow::MakeToolBar() {
       AddButton(bar, QStringLiteral("Gamepad\u2026"), QStringLiteral("Use another keymap for gamepads"));
   connect(open_joystick, &QAction::triggered, this, &MainWindow::OpenJoystickKeymap);
   AddMenuButton(bar, QStringLiteral("Guest"), MakeGuestMenu());
+  bar->addAction(editor_->Switch());
   bar->addSeparator();
 
   QAction* overlay = AddSwitch(bar, QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
@@ -184,6 +192,13 @@ void MainWindow::MakeLogDock() {
   log_shown_ = dock->toggleViewAction();
   log_shown_->setText(QStringLiteral("Log"));
   log_shown_->setToolTip(QStringLiteral("Show the lines for the guest"));
+}
+
+void MainWindow::MakeEditor() {
+  editor_ = new KeymapEditor(this, view_, static_cast<QDockWidget*>(log_->parentWidget()));
+  connect(editor_, &KeymapEditor::Edited, this, &MainWindow::ShowEdited);
+  connect(editor_, &KeymapEditor::Finished, this, &MainWindow::UseEdited);
+  connect(editor_, &KeymapEditor::Message, this, &MainWindow::Tell);
 }
 
 void MainWindow::MakeRecordBar() {
@@ -235,8 +250,9 @@ void MainWindow::MirrorTo(const QStringList& names) {
   for (const QString& name : names) targets->Add(name);
 }
 
-// A recording that was never saved is asked for.
+// Edits and a recording that were never saved are asked for.
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!editor_->MayLeave()) return event->ignore();
   Recorder* recorder = Recorder::GetInstance();
   if (recorder->Status() == taviinputmanager::RecordStatus::Stopped) return event->accept();
   if (records_->HasTarget()) {
@@ -250,6 +266,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::OpenKeymap() {
+  if (!editor_->MayLeave()) return;
   const QString path = AskForKeymap(QStringLiteral("Open a keymap"), keymap_);
   if (!path.isEmpty()) LoadKeymap(path);
 }
@@ -270,20 +287,46 @@ QString MainWindow::AskForKeymap(const QString& title, const Keymap& before) {
 
 QString MainWindow::Read(const QString& path, Keymap* keymap) {
   const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
+  Take(result, path, keymap);
+  keymap->watch->Watch(path);
+  return result.name;
+}
+
+void MainWindow::Take(const tavikeymapmanager::LoadResult& result, const QString& path, Keymap* keymap) {
   keymap->path = path;
   keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(result));
   keymap->marks = MarksOf(result);
   keymap->diagnostics->Show(result);
-  keymap->watch->Watch(path);
-  return result.name;
 }
 
 void MainWindow::LoadKeymap(const QString& path) {
   const QString name = Read(path, &keymap_);
   taviinputmanager::OnLoadKeymapConfigAndInfo(path, QString(), QString(), WindowHost::kDisplay);
+  setWindowModified(false);
   setWindowTitle(TitleOf(name, path));
   records_->SetApp(name);
   ShowKeymaps();
+  editor_->Open(path);
+}
+
+// What is edited is shown at once, and used when the editing is over.
+void MainWindow::ShowEdited() {
+  KeymapDocument* document = editor_->Document();
+  if (keymap_.path != document->Path()) keymap_.watch->Watch(document->Path());
+  Take(document->Keymap(), document->Path(), &keymap_);
+  ShowKeymaps();
+  const bool is_empty = editor_->IsOn() && document->ItemCount() == 0 && document->Refusal().isEmpty();
+  if (is_empty)
+    view_->SetHint(QStringLiteral("No items yet. Click with the right button where the first one is to be."));
+  setWindowModified(false);
+  setWindowTitle(TitleOf(document->Keymap().name, document->Path()) +
+                 (document->IsModified() ? QStringLiteral("[*]") : QString()));
+  setWindowModified(document->IsModified());
+}
+
+void MainWindow::UseEdited(const QString& file) {
+  LoadKeymap(file);
+  ShowEdited();
 }
 
 void MainWindow::LoadJoystickKeymap(const QString& path) {

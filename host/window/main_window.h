@@ -17,6 +17,10 @@ class QLabel;
 class QMenu;
 class QToolBar;
 
+namespace tavikeymapmanager {
+struct LoadResult;
+}
+
 namespace tavi {
 
 class DiagnosticsPanel;
@@ -24,6 +28,7 @@ class GamepadPoll;
 class GuestFrame;
 class GuestPanel;
 class GuestView;
+class KeymapEditor;
 class KeymapWatch;
 class LineLog;
 class MirrorServer;
@@ -56,6 +61,7 @@ class MainWindow : public QMainWindow {
 
   GuestView* View() const { return view_; }
   RecordBar* Records() const { return records_; }
+  KeymapEditor* Editor() const { return editor_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
 
@@ -75,6 +81,7 @@ class MainWindow : public QMainWindow {
 
   void MakeToolBar();
   void MakeLogDock();
+  void MakeEditor();
   void MakeRecordBar();
   void MakeReplayDock();
   void ShowSecondView(bool shown);
@@ -83,6 +90,9 @@ class MainWindow : public QMainWindow {
   QWidget* MakeCentre();
   // Takes a keymap file in, and gives its own name.
   QString Read(const QString& path, Keymap* keymap);
+  void Take(const tavikeymapmanager::LoadResult& result, const QString& path, Keymap* keymap);
+  void ShowEdited();
+  void UseEdited(const QString& file);
   QString AskForKeymap(const QString& title, const Keymap& before);
   void ShowKeymaps();
   void TakeActivation();
@@ -93,6 +103,7 @@ class MainWindow : public QMainWindow {
   GuestView* view_;
   GuestFrame* frame_;
   GuestPanel* panel_;
+  KeymapEditor* editor_ = nullptr;
   Keymap keymap_;
   Keymap joystick_keymap_;
   LineLog* log_;

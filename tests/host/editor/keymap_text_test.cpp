@@ -254,6 +254,18 @@ TEST_F(KeymapTextTest, ACopyStandsAsideBehindItsItem) {
   EXPECT_EQ(Text(), "format: 1\nitems: [{type: Tip, point: [1, 0]}, {type: Tip, point: [0.97, 0.03]}]\n");
 }
 
+TEST_F(KeymapTextTest, ACopyLeavesTheCommentBehindItsItem) {
+  Open("format: 1\nitems: [\n  {type: Tip, point: [0, 1]},  # said of it\n  {type: Tip, point: [0.5, 0.5]}\n]\n");
+  EXPECT_EQ(document_.Duplicate(0), QString());
+  EXPECT_EQ(Text(),
+            "format: 1\nitems: [\n  {type: Tip, point: [0, 1]},  # said of it\n  {type: Tip, point: [0.03, 0.97]},\n"
+            "  {type: Tip, point: [0.5, 0.5]}\n]\n");
+  EXPECT_EQ(document_.Remove(1), QString());
+  document_.UndoStack()->undo();
+  document_.UndoStack()->undo();
+  EXPECT_FALSE(document_.IsModified());
+}
+
 // ---- Bytes
 
 TEST_F(KeymapTextTest, LineBreaksOfWindowsStay) {
