@@ -56,6 +56,7 @@ void InputStatusManager::ResetForKeymap(const KeymapConfig* config, const QStrin
 }
 
 void InputStatusManager::TakeStaringKey(const KeymapConfig* config) {
+  if (!config) return;
   for (const ConfigItem* item : config->items) {
     if (!item || item->type != tavikeymapmanager::keywords::kTypeStaring) continue;
     status_ = InputStatus::StaringOff;

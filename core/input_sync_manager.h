@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVector>
 
+#include "taviinputmanager/types.h"
+
 namespace taviinputmanager {
 
 // Main thread only.
@@ -26,6 +28,9 @@ class InputSyncManager {
   void SyncText(const QString& command) const;
 
  private:
+  // The two kinds of function have one type.
+  void Mirror(InputTextSyncFunc sync, const QString& command) const;
+
   QVector<QString> sync_targets_;
 };
 

@@ -126,6 +126,17 @@ watch_replay() {
   xdotool keydown d
 }
 
+# Switches the editor on, selects the walk, and takes it by its rim.
+edit_walk() {
+  move_to 0.1765 0.022
+  xdotool click 1
+  sleep 0.5
+  move_to 0.1325 0.65
+  xdotool click 1
+  sleep 0.3
+  move_to 0.199 0.65
+}
+
 mkdir -p "$pictures"
 "$tavi" draw -o "$pictures/shooter_keymap.svg" "$keymaps/shooter.yaml"
 echo "$pictures/shooter_keymap.svg"
@@ -133,6 +144,7 @@ echo "$pictures/shooter_keymap.svg"
 echo "$pictures/timeline.svg"
 picture shooter 3500 shooter.yaml play_shooter
 picture hero_battle 3500 hero_battle.yaml play_battle
+picture editor 3000 shooter.yaml edit_walk
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

@@ -12,18 +12,18 @@ class JoystickButtonEvent;
 // Each operation tells whether the event was used up.
 class JoystickEventHandler : public EventHandler {
  public:
+  // One kind of event each. `simulate_mode` is the keymap's.
   virtual bool OnAxis(JoystickAxisEvent* event) = 0;
+  virtual bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) = 0;
+  virtual bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) = 0;
 
-  // `simulate_mode` is the keymap's.
+  // A press or a release, by the event's type.
   bool HandleButtonEvent(JoystickButtonEvent* event, int simulate_mode);
 
  protected:
   // JoystickAxisEvent::stick
   static constexpr int kLeftStick = 0;
   static constexpr int kRightStick = 1;
-
-  virtual bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) = 0;
-  virtual bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) = 0;
 };
 
 }  // namespace taviinputmanager

@@ -32,8 +32,6 @@ class JoystickEventSimulateHandler : public JoystickEventHandler {
   void ForgetConfig() { joystick_config_ = nullptr; }
 
   bool OnAxis(JoystickAxisEvent* event) override;
-
- protected:
   bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) override;
   bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) override;
 

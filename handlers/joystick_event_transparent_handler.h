@@ -26,6 +26,8 @@ class JoystickEventTransparentHandler : public JoystickEventHandler {
   void SetVirtualJoystick(bool enable);
 
   bool OnAxis(JoystickAxisEvent* event) override;
+  bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) override;
+  bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) override;
 
   // The guest's code of the button that the host calls `name` on the gamepad `device`; kNoButtonCode for none.
   int LookupCode(int device, const QString& name, int simulate_mode) const;
@@ -37,10 +39,6 @@ class JoystickEventTransparentHandler : public JoystickEventHandler {
   void OnVJoystickButtonPressOrRelease(QString& text, bool press);
   // While pressed, the left stick counts `factor` times. It is sent anew at once.
   void OnVStickLeftShiftButtonPressOrRelease(double factor, bool press);
-
- protected:
-  bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) override;
-  bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) override;
 
  private:
   JoystickEventTransparentHandler();

@@ -40,7 +40,7 @@ void MouseTransparentManager::AddRelative(double dx, double dy) {
 
 QPoint MouseTransparentManager::GetPosition() const { return {Truncate(x_), Truncate(y_)}; }
 
-LineBuffer MouseTransparentManager::BuildMoveCommand() const {
+LineBuffer MouseTransparentManager::MoveLine() const {
   if (!HasPosition()) return {};
   const DisplayGeometry* geometry = DisplayGeometry::GetInstance();
   const QSize display = geometry->GetOrientedDisplaySize();
@@ -51,14 +51,14 @@ LineBuffer MouseTransparentManager::BuildMoveCommand() const {
   return guest_command::MouseMove(x, y);
 }
 
-LineBuffer MouseTransparentManager::BuildButtonPressCommand(int button) {
+LineBuffer MouseTransparentManager::ButtonPressLine(int button) {
   const int code = KeyCodeConverter::GetInstance()->MouseButtonToGuestCode(button);
   if (code == -1) return {};
   InputStatusManager::GetInstance()->AddHeldKey(code);
   return guest_command::KeyPress(code);
 }
 
-LineBuffer MouseTransparentManager::BuildButtonReleaseCommand(int button) {
+LineBuffer MouseTransparentManager::ButtonReleaseLine(int button) {
   const int code = KeyCodeConverter::GetInstance()->MouseButtonToGuestCode(button);
   if (code == -1) return {};
   InputStatusManager::GetInstance()->RemoveHeldKey(code);

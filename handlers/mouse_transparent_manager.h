@@ -3,6 +3,7 @@
 #define HANDLERS_MOUSE_TRANSPARENT_MANAGER_H_
 
 #include <QPoint>
+#include <QString>
 
 #include "core/line_buffer.h"
 
@@ -27,11 +28,16 @@ class MouseTransparentManager {
   QPoint GetPosition() const;
 
   // Empty while there is no position, or no display.
-  LineBuffer BuildMoveCommand() const;
+  LineBuffer MoveLine() const;
   // Take a Qt::MouseButton and keep the record of held keys: in the guest, mouse buttons are keys. Empty for a button
   // that the guest does not know.
-  LineBuffer BuildButtonPressCommand(int button);
-  LineBuffer BuildButtonReleaseCommand(int button);
+  LineBuffer ButtonPressLine(int button);
+  LineBuffer ButtonReleaseLine(int button);
+
+  // The same, for those who keep a command.
+  QString BuildMoveCommand() const { return MoveLine(); }
+  QString BuildButtonPressCommand(int button) { return ButtonPressLine(button); }
+  QString BuildButtonReleaseCommand(int button) { return ButtonReleaseLine(button); }
 
  private:
   MouseTransparentManager() = default;

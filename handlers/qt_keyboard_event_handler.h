@@ -13,7 +13,7 @@ class QtKeyboardEventHandler : public EventHandler {
   // Whether the event was used up. A repeat that the handler does not accept is not.
   bool HandleKeyEvent(QKeyEvent* event);
 
- protected:
+  // One kind of event each, without a look at repeats; whether it was used up.
   virtual bool OnKeyPress(QKeyEvent* event) = 0;
   virtual bool OnKeyRelease(QKeyEvent* event) = 0;
   // Whether the host's repeats of a key that stays down count as presses.

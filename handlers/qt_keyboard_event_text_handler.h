@@ -12,7 +12,6 @@ class QtKeyboardEventTextHandler : public QtKeyboardEventHandler {
  public:
   static QtKeyboardEventTextHandler* GetInstance();
 
- protected:
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
 

@@ -14,7 +14,6 @@ class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
     return &instance;
   }
 
- protected:
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
   bool AcceptsAutoRepeat(QKeyEvent* event) override;

@@ -51,7 +51,6 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // For a move: whether the left button is held and an item answers to it.
   bool IsHeldLeftMapped(QMouseEvent* event) const;
 
- protected:
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
   bool AcceptsAutoRepeat(QKeyEvent* event) override;

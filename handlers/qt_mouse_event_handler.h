@@ -12,7 +12,7 @@ class QtMouseEventHandler : public EventHandler {
  public:
   void HandleMouseEvent(QMouseEvent* event);
 
- protected:
+  // One kind of event each.
   virtual void OnMousePress(QMouseEvent* event) = 0;
   virtual void OnMouseRelease(QMouseEvent* event) = 0;
   virtual void OnMouseMove(QMouseEvent* event) = 0;

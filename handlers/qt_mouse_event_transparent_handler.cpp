@@ -17,7 +17,7 @@ QtMouseEventTransparentHandler::QtMouseEventTransparentHandler() : last_relative
 void QtMouseEventTransparentHandler::UpdatePosition(int x, int y) {
   MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
   pointer->SetPosition(x, y);
-  SendEvent(pointer->BuildMoveCommand());
+  SendEvent(pointer->MoveLine());
 }
 
 void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interval_ms, double factor) {
@@ -25,16 +25,16 @@ void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interva
   pointer->AddRelative(dx * factor, dy * factor);
   const qint64 now = Clock::NowMs();
   if (now - last_relative_send_ms_ < interval_ms) return;  // the next send carries this movement too
-  SendEvent(pointer->BuildMoveCommand());
+  SendEvent(pointer->MoveLine());
   last_relative_send_ms_ = now;
 }
 
 void QtMouseEventTransparentHandler::OnMousePress(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->BuildButtonPressCommand(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonPressLine(event->button()));
 }
 
 void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->BuildButtonReleaseCommand(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(event->button()));
 }
 
 void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) { UpdatePosition(event->x(), event->y()); }

@@ -18,7 +18,6 @@ class QtMouseEventTransparentHandler : public QtMouseEventHandler {
   // `interval_ms`.
   void OnRelativeInput(int dx, int dy, int interval_ms, double factor);
 
- protected:
   void OnMousePress(QMouseEvent* event) override;
   void OnMouseRelease(QMouseEvent* event) override;
   void OnMouseMove(QMouseEvent* event) override;

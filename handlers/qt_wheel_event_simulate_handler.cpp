@@ -77,10 +77,14 @@ ConfigItem* QtWheelEventSimulateHandler::FindItem(const ConfigKey& key) const {
   return nullptr;
 }
 
+EventSimulator* QtWheelEventSimulateHandler::GetWheelSimulator(const ConfigItem* item) {
+  return WheelSimulatorOf(item);
+}
+
 bool QtWheelEventSimulateHandler::PlayMappedItem(const QWheelEvent* event) {
   ConfigKey key = KeyOf(event);
   ConfigItem* item = FindItem(key);
-  EventSimulator* simulator = item ? WheelSimulatorOf(item) : nullptr;
+  EventSimulator* simulator = item ? GetWheelSimulator(item) : nullptr;
   if (!simulator) return false;
   if (simulator == CurveEventSimulator::GetInstance()) {
     CurveEventSimulator::GetInstance()->Wheel(item, &key);

@@ -12,6 +12,8 @@ struct KeymapConfig;
 
 namespace taviinputmanager {
 
+class EventSimulator;
+
 class QtWheelEventSimulateHandler : public QtWheelEventHandler {
  public:
   static QtWheelEventSimulateHandler* GetInstance();
@@ -21,6 +23,8 @@ class QtWheelEventSimulateHandler : public QtWheelEventHandler {
   void ForgetConfig() { config_ = nullptr; }
   // A tap of a mapped item blocks the caller for 50 ms. Reads the event alone of its arguments.
   void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) override;
+  // What an item that a notch is mapped to does; null for a type that a wheel cannot work.
+  static EventSimulator* GetWheelSimulator(const tavikeymapmanager::ConfigItem* item);
   // Whether a gesture of the wheel is under way; the mouse then moves nothing.
   bool IsWheelWorkerRunning() const;
 

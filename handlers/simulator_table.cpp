@@ -75,6 +75,7 @@ const Row kRows[] = {
 };
 
 EventSimulator* Find(const ConfigItem* item, Source source) {
+  if (!item) return nullptr;
   const auto row =
       std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return IsSameText(r.type, item->type); });
   return row == std::end(kRows) || (row->sources & source) == 0 ? nullptr : row->get(item);

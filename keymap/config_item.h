@@ -23,8 +23,8 @@ struct TAVI_KEYMAP_RECORD ConfigItem {
 
   QString type;      // keywords::kType...; an item of any other type does nothing
   double rel_x = 0;  // the item's point
-  double rel_y = 0;
-  ConfigKey key;
+  double rel_y = 0;  // the same
+  ConfigKey key;     // unset in items that have four keys
 };
 
 }  // namespace tavikeymapmanager

@@ -9,8 +9,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD CurveConfigItem : ComposableConfigItem {
-  QPointF curve_start;  // ends of a generated straight curve, offsets from the item's point
-  QPointF curve_end;
+  QPointF curve_start;           // start of a generated straight curve, an offset from the item's point
+  QPointF curve_end;             // its end, the same
   QString curve_points;          // "x,y;x,y;...", offsets from the item's point
   bool curve_straight = false;   // generate the list from the two ends
   int curve_first_delay_ms = 0;  // below 1: 8 ms

@@ -7,9 +7,9 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD FireConfigItem : ComposableConfigItem {
-  bool relative_mode = false;  // relative mouse counts drive the fire finger while the key is down
-  double alt_rel_x = 0;        // with alt_rel_y, unless both are 0: the press point in place of the item's
-  double alt_rel_y = 0;
+  bool relative_mode = false;   // relative mouse counts drive the fire finger while the key is down
+  double alt_rel_x = 0;         // with alt_rel_y, unless both are 0: the press point in place of the item's
+  double alt_rel_y = 0;         // see alt_rel_x
   double range_radius = 0;      // of the fire range, fraction of the display height
   int cancel_swipe_steps = 0;   // of the swipe to the spell-cancel point
   bool offset_enabled = false;  // a one-off offset at the first real movement

@@ -10,11 +10,11 @@ namespace tavikeymapmanager {
 struct TAVI_KEYMAP_RECORD GravityConfigItem : ConfigItem {
   bool IsKeyMatch(const ConfigKey& pressed) const override { return IsDirectionKeyMatch(*this, pressed); }
 
-  ConfigKey key_up;
-  ConfigKey key_right;
-  ConfigKey key_down;
-  ConfigKey key_left;
-  int speed = 100;  // per cent
+  ConfigKey key_up;     // of the direction up; unset, here and below: that direction has no key
+  ConfigKey key_right;  // of the direction right
+  ConfigKey key_down;   // of the direction down
+  ConfigKey key_left;   // of the direction left
+  int speed = 100;      // per cent of how fast the tilt grows
 };
 
 }  // namespace tavikeymapmanager

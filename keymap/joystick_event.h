@@ -10,9 +10,9 @@ namespace tavikeymapmanager {
 
 class TAVI_KEYMAP_EXPORT JoystickEvent {
  public:
-  static const QEvent::Type ButtonPress;
-  static const QEvent::Type ButtonRelease;
-  static const QEvent::Type AxisTriggle;
+  static const QEvent::Type ButtonPress;    // of a JoystickButtonEvent
+  static const QEvent::Type ButtonRelease;  // the same
+  static const QEvent::Type AxisTriggle;    // of a JoystickAxisEvent
 };
 
 }  // namespace tavikeymapmanager

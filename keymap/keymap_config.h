@@ -21,9 +21,9 @@ struct TAVI_KEYMAP_RECORD KeymapConfig {
     delete wheel_settings;
   }
 
-  QList<ConfigItem*> items;            // in the order of matching
-  KeymapSettings* settings = nullptr;  // null reads as defaults
-  WheelSettings* wheel_settings = nullptr;
+  QList<ConfigItem*> items;                 // in the order of matching
+  KeymapSettings* settings = nullptr;       // null reads as defaults
+  WheelSettings* wheel_settings = nullptr;  // the same
 };
 
 }  // namespace tavikeymapmanager

@@ -9,7 +9,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD KeymapSettings {
-  QString mouse_mode = QStringLiteral("Mouse_No_Transparent");  // or "Mouse_OtherButton_...", "Mouse_AllButton_..."
+  // Which unmapped mouse input passes through: none, or "Mouse_OtherButton_Transparent", "Mouse_AllButton_Transparent".
+  QString mouse_mode = QStringLiteral("Mouse_No_Transparent");
   bool escape_to_guest = false;       // Escape is the guest's key 1; false: it may act as back
   bool wheel_transparent = false;     // the wheel passes through
   int relative_interval_ms = 0;       // least time between relative moves of the guest's pointer

@@ -116,8 +116,8 @@ inline const QString kSystemKeymap = QStringLiteral("system-9252A9CA-0C32-4FFD-8
 }  // namespace keywords
 
 // The wheel directions are keys of the device "mouse".
-constexpr int kWheelUpCode = 548;
-constexpr int kWheelDownCode = 549;
+constexpr int kWheelUpCode = 548;    // away from the user
+constexpr int kWheelDownCode = 549;  // towards the user
 
 }  // namespace tavikeymapmanager
 

@@ -9,8 +9,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD MacroConfigItem : ComposableConfigItem {
-  QStringList press_commands;  // one command an element
-  QStringList release_commands;
+  QStringList press_commands;    // of the key's press, one command an element
+  QStringList release_commands;  // of its release
 };
 
 }  // namespace tavikeymapmanager

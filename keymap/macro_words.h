@@ -50,12 +50,14 @@ enum class MacroVerb {
   kScreenshotRel,
 };
 
+// How a command is compared with a word.
 enum class MacroMatch {
-  kPrefix,
+  kPrefix,           // the command begins with the word
   kPrefixWithColon,  // the word and the ":" behind it, so that `curve_rel` is not also read in `curve_release`
-  kEqual,
+  kEqual,            // the command is the word
 };
 
+// What stands behind the colon.
 enum class MacroArgument {
   kNone,  // what may stand behind the word is not looked at
   kInteger,
@@ -67,11 +69,12 @@ enum class MacroArgument {
   kAny,  // passed on with the command
 };
 
+// A row of the table.
 struct MacroWord {
-  MacroVerb verb;
-  const char* word;
-  MacroMatch match;
-  MacroArgument argument;
+  MacroVerb verb;             // what the command does
+  const char* word;           // as macros spell it
+  MacroMatch match;           // how it is recognised
+  MacroArgument argument;     // what it takes
   bool pauses;                // execution goes on at a later tick
   const char* argument_word;  // of kIntegerOrWord, else null
 };

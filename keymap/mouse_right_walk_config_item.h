@@ -7,13 +7,13 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD MouseRightWalkConfigItem : ComposableConfigItem {
-  double character_rel_x = 0.5;  // the character on screen
-  double character_rel_y = 0.5;
+  double character_rel_x = 0.5;  // the character on screen, fraction of the display's width
+  double character_rel_y = 0.5;  // the same, of its height
   double continue_factor = 1.0;  // on the time that a short click walks on
-  int press_hold_ms = 0;         // of the slide to the target
-  int swipe_steps = 1;
-  int swipe_step_ms = 0;
-  double walk_radius = 0;  // fraction of the display width
+  int press_hold_ms = 0;         // rest on the centre before the slide to the target
+  int swipe_steps = 1;           // of that slide
+  int swipe_step_ms = 0;         // between two of them
+  double walk_radius = 0;        // fraction of the display width
 };
 
 }  // namespace tavikeymapmanager

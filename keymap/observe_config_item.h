@@ -7,8 +7,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD ObserveConfigItem : ComposableConfigItem {
-  int sensitivity_x = 100;  // per cent
-  int sensitivity_y = 100;
+  int sensitivity_x = 100;   // per cent; 100 is one display pixel a count
+  int sensitivity_y = 100;   // the same, upright
   double sensitivity = 1.0;  // factor on both
   int move_interval_ms = 0;  // least time between sends
 };

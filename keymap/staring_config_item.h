@@ -9,9 +9,9 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD StaringConfigItem : ComposableConfigItem {
-  QSizeF range_size{0, 0};  // of the user range, fractions of the display's width and height
-  int sensitivity_x = 100;  // per cent; 100 is one display pixel a count
-  int sensitivity_y = 100;
+  QSizeF range_size{0, 0};       // of the user range, fractions of the display's width and height
+  int sensitivity_x = 100;       // per cent; 100 is one display pixel a count
+  int sensitivity_y = 100;       // the same, upright
   QString range_mode;            // "Infinite", "Range_User", ...; any other acts as "Range_Window"
   int press_interval_ms = 0;     // least time between sends while the finger is up
   int auto_reset_period_ms = 0;  // of the timer that lifts the finger; 0 or less: no timer

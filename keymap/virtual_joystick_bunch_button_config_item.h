@@ -10,8 +10,8 @@ struct TAVI_KEYMAP_RECORD VirtualJoystickBunchButtonConfigItem : ComposableConfi
   QString map_text;            // the virtual button's name
   bool bunch_enabled = false;  // false: a plain button
   QString bunch_mode;          // as in BunchClickConfigItem
-  int bunch_frequency = 10;
-  int bunch_count = 1;
+  int bunch_frequency = 10;    // presses a second
+  int bunch_count = 1;         // presses of a one-off run
 };
 
 }  // namespace tavikeymapmanager

@@ -7,7 +7,7 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD VirtualStickLeftShiftButtonConfigItem : ComposableConfigItem {
-  double factor = 1.0;
+  double factor = 1.0;  // on the stick's way; 0.5 walks at half speed
 };
 
 }  // namespace tavikeymapmanager

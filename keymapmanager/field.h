@@ -20,30 +20,9 @@
 #include "keymap/keymap_settings.h"
 #include "keymap/swipehold_config_item.h"
 #include "keymap/wheel_settings.h"
+#include "keymapmanager/item_types.h"
 
 namespace tavikeymapmanager {
-
-// How a field is written.
-enum class FieldKind {
-  kFlag,       // true or false
-  kInteger,    // a whole number in the range
-  kNumber,     // a number in the range
-  kPadButton,  // the name of a gamepad's button, without `Pad `
-  kWord,       // one of `words`
-  kPair,       // [x, y], both numbers in the range
-  kKey,        // a key
-  kChord,      // a key, or two keys of the keyboard: "Q + E"
-  kStick,      // the one key in `words`, a gamepad's stick
-  kCommands,   // a list of texts: the commands of a macro
-  kPoints,     // a list of at least two pairs, stored as "x,y;x,y"
-  kMatrix,     // a list of 16 numbers, stored joined by commas
-  kWalk,       // the fields of a Swipehold item
-};
-
-struct Range {
-  double min = 0;
-  double max = 0;
-};
 
 // Where the value lies in a record.
 struct PairTarget {
@@ -69,14 +48,8 @@ Record& RecordAs(const RecordRef& record) {
   }
 }
 
-struct Field {
-  QString name;
-  FieldKind kind = FieldKind::kFlag;
-  QString doc;  // for authors: meaning and unit
+struct Field : FieldInfo {
   std::function<FieldTarget(const RecordRef&)> target;
-  Range range;
-  QStringList words;
-  bool is_required = false;
 };
 
 // Rows of tables, one function a kind.

@@ -17,28 +17,31 @@ namespace tavikeymapmanager {
 
 // One finding, at the place in the file that it is about.
 struct TAVI_KEYMAP_RECORD Diagnostic {
+  // How bad a finding is.
   enum class Severity {
     kError,    // the file cannot be used: the config has default settings and no items
     kWarning,  // the file can be used, but a part of it is not what its author meant
   };
 
-  Severity severity = Severity::kError;
-  QString file;      // as given to the reader
-  int line = 1;      // from 1
-  int column = 1;    // from 1, in characters
-  int end_line = 1;  // the place behind the last character; equal to the start where there is no extent
-  int end_column = 1;
-  QString message;  // one line, without the place
+  Severity severity = Severity::kError;  // how bad it is
+  QString file;                          // as given to the reader
+  int line = 1;                          // from 1
+  int column = 1;                        // from 1, in characters
+  int end_line = 1;    // the place behind the last character; equal to the start where there is no extent
+  int end_column = 1;  // the same
+  QString message;     // one line, without the place
 };
 
 // Where an item stands in the file, from 1, and what its author calls it.
 struct TAVI_KEYMAP_RECORD ItemSource {
-  int line = 1;
-  int column = 1;
-  QString label;  // for overlays; empty when the file writes none
+  int line = 1;    // from 1
+  int column = 1;  // from 1, in characters
+  QString label;   // for overlays; empty when the file writes none
 };
 
+// What reading a file gives.
 struct TAVI_KEYMAP_RECORD LoadResult {
+  // Whether one of the findings is an error.
   bool HasErrors() const {
     for (const Diagnostic& diagnostic : diagnostics) {
       if (diagnostic.severity == Diagnostic::Severity::kError) return true;

@@ -48,6 +48,8 @@ class Event {
   yaml_event_t* get() { return &event_; }
   const yaml_event_t* operator->() const { return &event_; }
   YamlSpan span() const { return SpanOf(event_.start_mark, event_.end_mark); }
+  int begin() const { return static_cast<int>(event_.start_mark.index); }
+  int end() const { return static_cast<int>(event_.end_mark.index); }
 
  private:
   yaml_event_t event_{};
@@ -105,6 +107,8 @@ bool Parser::ParseNode(const Event& event, int depth, YamlNode* node) {
   if (tag != nullptr) return Fail(event.span(), QStringLiteral("a tag; tags are not used in keymaps"));
   node->kind = is_mapping ? YamlNode::Kind::kMapping : YamlNode::Kind::kSequence;
   node->span = event.span();
+  node->begin = event.begin();
+  node->end = event.begin();
   return ParseChildren(is_mapping ? YAML_MAPPING_END_EVENT : YAML_SEQUENCE_END_EVENT, depth, node);
 }
 
@@ -112,6 +116,8 @@ bool Parser::ParseScalar(const Event& event, YamlNode* node) {
   const auto& scalar = event->data.scalar;
   if (scalar.tag != nullptr) return Fail(event.span(), QStringLiteral("a tag; tags are not used in keymaps"));
   node->span = event.span();
+  node->begin = event.begin();
+  node->end = event.end();
   node->text = QString::fromUtf8(reinterpret_cast<const char*>(scalar.value), static_cast<int>(scalar.length));
   node->quoted = scalar.style != YAML_PLAIN_SCALAR_STYLE;
   return true;
@@ -122,8 +128,12 @@ bool Parser::ParseChildren(yaml_event_type_t end, int depth, YamlNode* node) {
     Event event;
     if (!Next(&event)) return false;
     if (event->type == end) {
-      const bool in_brackets = event->start_mark.index != event->end_mark.index;
-      if (!in_brackets) return true;  // a block ends where the next thing begins: no place worth telling
+      node->in_brackets = event.begin() != event.end();
+      if (!node->in_brackets) {  // a block ends where the next thing begins: no place worth telling
+        if (!node->children.empty()) node->end = node->children.back().end;
+        return true;
+      }
+      node->end = event.end();
       node->span.end_line = event.span().end_line;
       node->span.end_column = event.span().end_column;
       return true;

@@ -23,6 +23,9 @@ struct YamlNode {
 
   Kind kind = Kind::kScalar;
   YamlSpan span;
+  int begin = 0;                   // in the text, in characters from 0, a byte order mark left out
+  int end = 0;                     // behind the last character; of a block, that of its last child
+  bool in_brackets = false;        // a sequence or mapping of one line's style: [a, b], {a: b}
   QString text;                    // of a scalar
   bool quoted = false;             // a scalar in quotes or a block of text: never a number or a keyword of YAML
   std::vector<YamlNode> keys;      // of a mapping, all scalars; keys[i] names children[i]

@@ -48,6 +48,7 @@ void StaringAndFireEventSimulator::ConnectWorkers() {
 
 void StaringAndFireEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   std::call_once(connected_, [this] { ConnectWorkers(); });
+  if (!item) return;  // its type is what is asked for
   if (item->type == keywords::kTypeFire) {
     if (InputStatusManager::GetInstance()->GetStatus() != InputStatus::Staring) return;  // there is nothing to aim by
     FireSyncWorker::GetInstance()->OnFirePress(item);
@@ -61,6 +62,7 @@ void StaringAndFireEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
 }
 
 void StaringAndFireEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
+  if (!item) return;
   if (item->type == keywords::kTypeFire) {
     FireSyncWorker::GetInstance()->OnFireRelease();
   } else if (item->type == keywords::kTypeObserve) {

@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
 #
-#   tools/install-dependencies.sh [build|test|lint|bench|plot|guest|windows|coverage|valgrind|fuzz]...        (without a word: build)
+#   tools/install-dependencies.sh [build|test|docs|packaging|lint|bench|plot|guest|windows|coverage|valgrind|fuzz]...        (without a word: build)
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
 test=(groff-base libgtest-dev python3 python3-jsonschema python3-yaml)
+docs=(doxygen)
+packaging=(debootstrap lintian dpkg-dev file)
 lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 busybox-static cpio)
 windows=(g++-mingw-w64-x86-64-posix wine64)
@@ -20,6 +22,8 @@ for group in "${@:-build}"; do
   case $group in
     build) packages+=("${build[@]}") ;;
     test) packages+=("${test[@]}") ;;
+    docs) packages+=("${docs[@]}") ;;
+    packaging) packages+=("${packaging[@]}") ;;
     lint) packages+=("${lint[@]}") ;;
     guest) packages+=("${guest[@]}") ;;
     windows) packages+=("${windows[@]}") ;;

@@ -14,7 +14,7 @@ void Print(const char* line, int length) { std::fwrite(line, 1, length, stdout);
 
 tavi::InputManagerCallbacks MakeCallbacks() {
   tavi::InputManagerCallbacks callbacks;
-  callbacks.GetWindowGeometry = [] { return tavi::WindowGeometry{0, 0, 1280, 720}; };
+  callbacks.GetWindowGeometry = [] { return tavi::WindowGeometry{0, 0, 1920, 1080}; };
   callbacks.GetDisplayRect = [] { return QRect(0, 0, 1920, 1080); };
   callbacks.GetTouchRect = callbacks.GetDisplayRect;
   callbacks.GetDisplayRotation = [] { return 0; };

@@ -27,17 +27,6 @@ constexpr int kMostSteps = 14;        // that keys give way to others
 constexpr double kStepOfText = 0.8;   // one such step, of the height of the text
 constexpr double kKeysOnStick = 0.7;  // where a stick's keys stand, of its radius
 
-QColor ColorOf(Family family) {
-  switch (family) {
-    case Family::kTap: return theme::kTap;
-    case Family::kWalk: return theme::kWalk;
-    case Family::kView: return theme::kView;
-    case Family::kCast: return theme::kCast;
-    case Family::kMacro: return theme::kMacro;
-  }
-  return theme::kText;
-}
-
 QFont SizedFont(QFont font, int pixels, bool bold) {
   font.setPixelSize(pixels);
   font.setBold(bold);
@@ -227,6 +216,17 @@ class MarkPainter {
 };
 
 }  // namespace
+
+QColor ColorOf(Family family) {
+  switch (family) {
+    case Family::kTap: return theme::kTap;
+    case Family::kWalk: return theme::kWalk;
+    case Family::kView: return theme::kView;
+    case Family::kCast: return theme::kCast;
+    case Family::kMacro: return theme::kMacro;
+  }
+  return theme::kText;
+}
 
 void KeymapOverlay::Paint(QPainter* painter, const QSizeF& view) const {
   painter->save();

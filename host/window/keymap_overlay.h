@@ -1,6 +1,7 @@
 #ifndef HOST_WINDOW_KEYMAP_OVERLAY_H_
 #define HOST_WINDOW_KEYMAP_OVERLAY_H_
 
+#include <QColor>
 #include <QSizeF>
 #include <QVector>
 
@@ -9,6 +10,8 @@
 class QPainter;
 
 namespace tavi {
+
+QColor ColorOf(OverlayMark::Family family);
 
 // Draws a keymap's items over the guest view: each key where it acts, and a list of those that act nowhere.
 //

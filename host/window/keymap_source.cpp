@@ -25,18 +25,23 @@ KeymapSource::KeymapSource() : read_(std::make_unique<km::LoadResult>(km::ReadKe
 
 KeymapSource::~KeymapSource() = default;
 
-void KeymapSource::Read(const QString& path) {
+void KeymapSource::Read(const QString& path) { Take(path, ContentsOf(path), km::ReadKeymapFile(path)); }
+
+void KeymapSource::ReadText(const QString& path, const QByteArray& text) {
+  Take(path, text, km::ReadKeymapText(text, path));
+}
+
+void KeymapSource::Take(const QString& path, const QByteArray& text, km::LoadResult result) {
   const bool is_same_file = path == path_ && !path.isEmpty();
-  auto result = std::make_unique<km::LoadResult>(km::ReadKeymapFile(path));
-  if (!result->HasErrors() || !is_same_file) {
+  if (!result.HasErrors() || !is_same_file) {
     good_.reset();
   } else if (!read_->HasErrors()) {
     good_ = std::move(read_);
     good_text_ = text_;
   }
-  text_ = ContentsOf(path);
+  text_ = text;
   path_ = path;
-  read_ = std::move(result);
+  read_ = std::make_unique<km::LoadResult>(std::move(result));
 }
 
 bool KeymapSource::KeepsEarlierState() const { return good_ != nullptr; }

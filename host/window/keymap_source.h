@@ -27,6 +27,8 @@ class KeymapSource {
 
   // Reads the file; an empty path is no keymap. Another path forgets what was there before.
   void Read(const QString& path);
+  // The same of a text that is to be that file's.
+  void ReadText(const QString& path, const QByteArray& text);
 
   const QString& Path() const { return path_; }
   // The file as it was last read. Valid until it is read again.
@@ -44,6 +46,8 @@ class KeymapSource {
   QString PathForUse();
 
  private:
+  void Take(const QString& path, const QByteArray& text, tavikeymapmanager::LoadResult result);
+
   QString path_;
   std::unique_ptr<tavikeymapmanager::LoadResult> read_;  // last
   std::unique_ptr<tavikeymapmanager::LoadResult> good_;  // an earlier state, while `read_` has errors; else null

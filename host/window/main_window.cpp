@@ -26,6 +26,7 @@
 #include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
 #include "host/window/input_port.h"
+#include "host/window/keymap_editor.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
 #include "host/window/mirror_server.h"
@@ -106,14 +107,18 @@ MainWindow::MainWindow()
       mirror_label_(new QLabel),
       pad_label_(new QLabel),
       size_label_(new QLabel),
-      pads_([](QEvent* event) { InputPort::GetInstance()->SendJoystick(event); }),
+      pads_([this](QEvent* event) {
+        if (!editor_->TakePad(event)) InputPort::GetInstance()->SendJoystick(event);
+      }),
       mapping_(&pads_),
       state_(&mapping_) {
   setCentralWidget(MakeCentre());
   MakeLogDock();
   MakeEventDock();
   MakeReplayDock();
+  MakeEditor();
   MakeToolBar();
+  editor_->AddBar();
   MakeRecordBar();
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
@@ -134,7 +139,9 @@ MainWindow::MainWindow()
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
   connect(frame_, &GuestFrame::ViewResized, this, &MainWindow::TakeViewSize);
   connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
-  connect(keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadKeymap(keymap_.path); });
+  connect(keymap_.watch, &KeymapWatch::Changed, this, [this] {
+    if (!editor_->TakeFileChange()) LoadKeymap(keymap_.path);
+  });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
   connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
@@ -176,6 +183,7 @@ void MainWindow::MakeToolBar() {
       AddButton(bar, QStringLiteral("Gamepad\u2026"), QStringLiteral("Use another keymap for gamepads"));
   connect(open_joystick, &QAction::triggered, this, &MainWindow::OpenJoystickKeymap);
   AddMenuButton(bar, QStringLiteral("Guest"), MakeGuestMenu());
+  bar->addAction(editor_->Switch());
   bar->addSeparator();
 
   mapping_on_ = AddSwitch(bar, QStringLiteral("Mapping"), QString(), true);
@@ -244,6 +252,13 @@ void MainWindow::MakeEventDock() {
   dock->hide();
 }
 
+void MainWindow::MakeEditor() {
+  editor_ = new KeymapEditor(this, view_, static_cast<QDockWidget*>(log_->parentWidget()));
+  connect(editor_, &KeymapEditor::Edited, this, &MainWindow::ShowEdited);
+  connect(editor_, &KeymapEditor::Finished, this, &MainWindow::UseEdited);
+  connect(editor_, &KeymapEditor::Message, this, &MainWindow::Tell);
+}
+
 void MainWindow::MakeRecordBar() {
   addToolBarBreak();
   records_ = new RecordBar(this);
@@ -302,8 +317,9 @@ void MainWindow::MirrorTo(const QStringList& names) {
   ShowMirrors();
 }
 
-// A recording that was never saved is asked for.
+// Edits and a recording that were never saved are asked for.
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!editor_->MayLeave()) return event->ignore();
   Recorder* recorder = Recorder::GetInstance();
   if (recorder->Status() == taviinputmanager::RecordStatus::Stopped) return event->accept();
   if (records_->HasTarget()) {
@@ -317,6 +333,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::OpenKeymap() {
+  if (!editor_->MayLeave()) return;
   const QString path = AskForKeymap(QStringLiteral("Open a keymap"), keymap_);
   if (!path.isEmpty()) LoadKeymap(path);
 }
@@ -335,7 +352,7 @@ QString MainWindow::AskForKeymap(const QString& title, const Keymap& before) {
   return path;
 }
 
-QString MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
+void MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
   const QString& path = source.Path();
   const tavikeymapmanager::LoadResult& in_use = source.InUse();
   keymap->path = path;
@@ -343,27 +360,51 @@ QString MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
   keymap->marks = MarksOf(in_use);
   keymap->findings = PlaceFindings(source, keymap == &joystick_keymap_ ? QStringLiteral("G") : QString());
   keymap->diagnostics->Show(source, keymap->findings);
-  keymap->watch->Watch(path);
-  return in_use.name;
 }
 
 void MainWindow::LoadKeymap(const QString& path) {
   mapping_.Read(path);
-  const QString name = Take(mapping_.Keymap(), &keymap_);
-  setWindowTitle(TitleOf(name, path));
-  records_->SetApp(name);
+  Take(mapping_.Keymap(), &keymap_);
+  keymap_.watch->Watch(path);
+  const tavikeymapmanager::LoadResult& in_use = mapping_.Keymap().InUse();
+  setWindowModified(false);
+  setWindowTitle(TitleOf(in_use.name, path));
+  records_->SetApp(in_use.name);
   ShowKeymaps();
-  for (const QString& key : reserved_keys_.FindIn(mapping_.Keymap().InUse().config.get())) {
+  for (const QString& key : reserved_keys_.FindIn(in_use.config.get())) {
     Tell(QStringLiteral("%1 is a key of this keymap that the window keeps for itself; --pause-key and --panic-key take "
                         "other keys")
              .arg(key),
          true);
   }
+  editor_->Open(path);
+}
+
+// What is edited is shown at once, and used when the editing is over.
+void MainWindow::ShowEdited() {
+  KeymapDocument* document = editor_->Document();
+  if (keymap_.path != document->Path()) keymap_.watch->Watch(document->Path());
+  edited_.ReadText(document->Path(), document->Text());
+  Take(edited_, &keymap_);
+  ShowKeymaps();
+  const bool is_empty = editor_->IsOn() && document->ItemCount() == 0 && document->Refusal().isEmpty();
+  if (is_empty)
+    view_->SetHint(QStringLiteral("No items yet. Click with the right button where the first one is to be."));
+  setWindowModified(false);
+  setWindowTitle(TitleOf(document->Keymap().name, document->Path()) +
+                 (document->IsModified() ? QStringLiteral("[*]") : QString()));
+  setWindowModified(document->IsModified());
+}
+
+void MainWindow::UseEdited(const QString& file) {
+  LoadKeymap(file);
+  ShowEdited();
 }
 
 void MainWindow::LoadJoystickKeymap(const QString& path) {
   mapping_.ReadJoystick(path);
   Take(mapping_.JoystickKeymap(), &joystick_keymap_);
+  joystick_keymap_.watch->Watch(path);
   ShowKeymaps();
 }
 

@@ -10,6 +10,7 @@
 #include "host/window/background_picture.h"
 #include "host/window/gamepads.h"
 #include "host/window/key_combination.h"
+#include "host/window/keymap_source.h"
 #include "host/window/mapping.h"
 #include "host/window/overlay_marks.h"
 #include "host/window/placed_finding.h"
@@ -30,6 +31,7 @@ class GuestFrame;
 class GuestMenu;
 class GuestPanel;
 class GuestView;
+class KeymapEditor;
 class KeymapWatch;
 class LineLog;
 class MirrorServer;
@@ -82,6 +84,7 @@ class MainWindow : public QMainWindow {
   RecordBar* Records() const { return records_; }
   // Lists the events of the host.
   QAction* EventsShown() const { return events_shown_; }
+  KeymapEditor* Editor() const { return editor_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
   // The keymaps in use.
@@ -105,14 +108,17 @@ class MainWindow : public QMainWindow {
   void MakeToolBar();
   void MakeLogDock();
   void MakeEventDock();
+  void MakeEditor();
   void MakeRecordBar();
   void MakeReplayDock();
   void ShowSecondView(bool shown);
   void Tell(const QString& text, bool is_problem);
   GuestMenu* MakeGuestMenu();
   QWidget* MakeCentre();
-  // Takes in a keymap file that was read, and gives its own name.
-  QString Take(const KeymapSource& source, Keymap* keymap);
+  // Takes in a keymap that was read.
+  void Take(const KeymapSource& source, Keymap* keymap);
+  void ShowEdited();
+  void UseEdited(const QString& file);
   QString AskForKeymap(const QString& title, const Keymap& before);
   void ShowKeymaps();
   void TakeActivation();
@@ -127,6 +133,8 @@ class MainWindow : public QMainWindow {
   GuestView* view_;
   GuestFrame* frame_;
   GuestPanel* panel_;
+  KeymapEditor* editor_ = nullptr;
+  KeymapSource edited_;  // the keymap as the editor has it
   Keymap keymap_;
   Keymap joystick_keymap_;
   LineLog* log_;

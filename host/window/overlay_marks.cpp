@@ -38,13 +38,6 @@ const FamilyRow kFamilies[] = {
     {kw::kTypeOperationRecorder, Family::kMacro},
 };
 
-Family FamilyOf(const QString& type) {
-  for (const FamilyRow& row : kFamilies) {
-    if (row.type == type) return row.family;
-  }
-  return Family::kTap;
-}
-
 QString NameOrNothing(const km::ConfigKey& key) { return km::IsKeySet(key) ? km::NameOfKey(key) : QString(); }
 
 // "Left Ctrl + Q" of a chord
@@ -130,6 +123,13 @@ void AddMark(const OverlayMark& mark, QVector<OverlayMark>* marks) {
 }
 
 }  // namespace
+
+Family FamilyOf(const QString& type) {
+  for (const FamilyRow& row : kFamilies) {
+    if (row.type == type) return row.family;
+  }
+  return Family::kTap;
+}
 
 QVector<OverlayMark> MarksOf(const km::LoadResult& keymap) {
   QVector<OverlayMark> marks;

@@ -36,6 +36,9 @@ struct OverlayMark {
   QVector<QPointF> path;  // of a curve, offsets from the point
 };
 
+// How an item of this type is told apart.
+OverlayMark::Family FamilyOf(const QString& type);
+
 // In the order of the items, those on one point with one shape and label joined.
 QVector<OverlayMark> MarksOf(const tavikeymapmanager::LoadResult& keymap);
 

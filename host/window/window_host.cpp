@@ -30,7 +30,11 @@ struct WindowHostFunctions : TellingFunctions<WindowHost> {
   static bool IsTextInputActive() { return Host()->HasTextField(); }
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
-  static QRect GetDisplayRect() { return {QPoint(0, 0), Host()->Geometry().DisplaySize()}; }
+  // Aims and macros ask how far the pointer is from its corner.
+  static QRect GetDisplayRect() {
+    const WindowGeometry view = Host()->ViewGeometry();
+    return {{view.x, view.y}, Host()->Geometry().DisplaySize()};
+  }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static bool IsPrimaryDisplay(int display) { return display == WindowHost::kDisplay; }
 

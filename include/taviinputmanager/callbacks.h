@@ -15,10 +15,10 @@ namespace taviinputmanager {
 
 // The host view that shows the guest, in window pixels.
 struct WindowGeometry {
-  int x = 0;
-  int y = 0;
-  int width = 0;
-  int height = 0;
+  int x = 0;       // left edge; macros and aims take it from QCursor::pos
+  int y = 0;       // top edge
+  int width = 0;   // 0: places of the view give no line
+  int height = 0;  // the same
 };
 
 // Members marked "may be null" are tested before each call. The others are called without a test, so a host that gives
@@ -64,18 +64,23 @@ struct InputManagerCallbacks {
 
 // Told by the recorder. A table without a member filled is the host's fault: members are not tested.
 struct InputRecorderCallbacks {
-  void (*started)() = nullptr;
-  void (*paused)() = nullptr;
-  void (*resumed)() = nullptr;
-  // `result` is 0 when the file was saved, 1 when there was nothing worth saving, 2 when it could not be opened.
+  void (*started)() = nullptr;  // from within StartRecord
+  void (*paused)() = nullptr;   // from within PauseRecord
+  void (*resumed)() = nullptr;  // from within ResumeRecord
+  // From within StopRecord. `result` is 0 when the file was saved, 1 when there was nothing worth saving, 2 when it
+  // could not be opened.
   void (*stopped)(const QString& filename, int result) = nullptr;
 };
 
 // Told by replays. Members are not tested. All but `vcontrol` are called on the thread of the replay they speak of.
 struct InputReplayerCallbacks {
+  // The first action has its time; again after a restart. The two arguments are those of StartReplay, here and below.
   void (*started)(int task_id, const QString& filename) = nullptr;
+  // Answers PauseReplay.
   void (*paused)(int task_id, const QString& filename) = nullptr;
+  // Answers ResumeReplay.
   void (*resumed)(int task_id, const QString& filename) = nullptr;
+  // Answers StopReplay and StopAllReplay. The replay is gone.
   void (*stopped)(int task_id, const QString& filename) = nullptr;
   // The record ran out; `param` holds the speed and mode that it was played with.
   void (*finished)(int task_id, const QString& filename, ReplayParam param) = nullptr;

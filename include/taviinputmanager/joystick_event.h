@@ -12,6 +12,7 @@ namespace taviinputmanager {
 // A button of a gamepad went down or up: type ButtonPress or ButtonRelease.
 class JoystickButtonEvent : public QEvent {
  public:
+  // `type` is JoystickEvent::ButtonPress or ButtonRelease; the others fill the fields.
   JoystickButtonEvent(QEvent::Type type, const QString& text, int code, int device)
       : QEvent(type), text(text), code(code), device(device) {}
 
@@ -23,6 +24,7 @@ class JoystickButtonEvent : public QEvent {
 // A stick of a gamepad moved: type AxisTriggle.
 class JoystickAxisEvent : public QEvent {
  public:
+  // `type` is JoystickEvent::AxisTriggle; the others fill the fields.
   JoystickAxisEvent(QEvent::Type type, double x, double y, int stick, int device)
       : QEvent(type), x(x), y(y), stick(stick), device(device) {}
 

@@ -85,6 +85,7 @@ TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 // Nothing before Initialize.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
+// What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load.
 TAVI_EXPORT InputStatus GetInputStatus();
 
 // Resets all input on the current display; from then on input goes to `display`.
@@ -110,18 +111,24 @@ TAVI_EXPORT bool isInputHoldWhenWindowDeactivate();
 
 // ---- Command functions and mirroring -------------------------------------------------------------------------------
 
-// Each takes a pointer to a function of the type of the same name (types.h). Null leaves the function as it was; the
-// first two then log an error.
+// Each takes a pointer to a function of the type of the same name (types.h), which is not checked, and calls it from
+// the next line on.
+
+// The function that gets the event lines, an InputEventSendFunc. Null logs an error and leaves it as it was.
 TAVI_EXPORT void SetInputEventSendFunc(void* func);
+// The function that gets the text lines, an InputTextSendFunc. Null logs an error and leaves it as it was.
 TAVI_EXPORT void SetInputTextSendFunc(void* func);
+// The function that gets event lines to mirror, an InputEventSyncFunc. Null leaves it as it was.
 TAVI_EXPORT void SetInputEventSyncFunc(void* func);
+// The function that gets text lines to mirror, an InputTextSyncFunc. Null leaves it as it was.
 TAVI_EXPORT void SetInputTextSyncFunc(void* func);
 
 // Adds `target` to the names that the mirror functions get, once. The other two are ignored.
 TAVI_EXPORT void StartSync(const QString& target, const QString&, const QString&);
 
-// Removes `target` from those names. PauseSync is the same operation: StartSync adds the target again.
+// Removes `target` from those names. Nothing for a name that is not there.
 TAVI_EXPORT void StopSync(const QString& target);
+// The same operation as StopSync: StartSync adds the target again.
 TAVI_EXPORT void PauseSync(const QString& target);
 
 // ---- Recording -----------------------------------------------------------------------------------------------------
@@ -131,6 +138,7 @@ TAVI_EXPORT void PauseSync(const QString& target);
 
 // The table is the host's; null is allowed.
 TAVI_EXPORT void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks);
+// Whether a recording runs, rests or neither.
 TAVI_EXPORT RecordStatus GetRecordStatus();
 // Starts a recording; both names are put in front of it, for GetScriptAppAndPackage.
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
@@ -138,8 +146,9 @@ TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
 // recording of nothing but released fingers is worth no file. A file that is there is replaced as a whole or not at
 // all.
 TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
-// What happens in between is not recorded, and its time is cut out.
+// What happens from here to ResumeRecord is not recorded, and its time is cut out.
 TAVI_EXPORT void PauseRecord();
+// Goes on with the recording.
 TAVI_EXPORT void ResumeRecord();
 // Adds a command of the host's own to the recording; a replay hands it to the callback `vcontrol`. Nothing for empty
 // `data`. `extra1` "1" makes a recording worth its file.
@@ -149,6 +158,7 @@ TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, 
 TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
 // Captures host events as lines of the macro language under a name. Meanwhile no event line is recorded.
 TAVI_EXPORT void StartRecordMacroInstruction(QString name);
+// Ends that capture; what it gave can be asked for.
 TAVI_EXPORT void StopRecordMacroInstruction(QString name);
 // The macro that was captured last, "sleep:<ms>" and instruction by turns; empty under any other name and during a
 // capture.

@@ -33,10 +33,11 @@ enum class InputStatus : int {
   Observing = 3,   // an Observe key is held while staring was off
 };
 
+// What the recorder does at present.
 enum class RecordStatus : int {
-  Stopped = 0,
-  Recording = 1,
-  Paused = 2,
+  Stopped = 0,    // nothing is recorded
+  Recording = 1,  // lines to primary displays and texts are recorded
+  Paused = 2,     // a recording rests
 };
 
 // How a replay is played.
@@ -45,15 +46,16 @@ struct ReplayParam {
   bool emulation_mode = false;  // positions are disturbed a little, as a hand would
 };
 
-// The host's send functions. `data` holds `length` bytes of UTF-8 and a NUL behind them; it is the library's and valid
-// during the call only. An event line ends in a newline, which `length` counts. A text line has a NUL in place of its
-// newline, and `length` counts that NUL.
+// The host's function for event lines. `data` holds `length` bytes of UTF-8, the newline at the end among them, and a
+// NUL behind them; it is the library's and valid during the call only. Main thread, but at the natural end of a replay.
 using InputEventSendFunc = void (*)(const char* data, int length);
+// The host's function for text lines. The same, with a NUL in place of the newline, which `length` counts.
 using InputTextSendFunc = void (*)(const char* data, int length);
 
-// The host's mirror functions. `command` is the bare line with its newline and without display prefix, `targets` are
-// the names given to StartSync, in that order.
+// The host's function for event lines to mirror. `command` is the bare line with its newline and without display
+// prefix, `targets` are the names given to StartSync, in that order. Threads as above.
 using InputEventSyncFunc = void (*)(const QString& command, const QVector<QString>& targets);
+// The host's function for text lines to mirror; the same.
 using InputTextSyncFunc = void (*)(const QString& command, const QVector<QString>& targets);
 
 }  // namespace taviinputmanager

@@ -147,8 +147,10 @@ void QtWheelEventZoomWorker::MoveFingers(int direction) {
   finger_b_ = Sum(finger_b_, Mirrored(way));
 }
 
+// The outer end is on the left, or, beyond 90 degrees, on the right.
 bool QtWheelEventZoomWorker::IsWithinBounds() const {
-  return finger_a_.x() > outer_a_.x() && finger_a_.x() < inner_a_.x();
+  const auto [left, right] = std::minmax({inner_a_.x(), outer_a_.x()});
+  return finger_a_.x() > left && finger_a_.x() < right;
 }
 
 void QtWheelEventZoomWorker::GoOn() {

@@ -16,13 +16,31 @@ del sys.argv[1:8]
 WORK = Path(WORK)
 INSTALLED = WORK / "moved" / "installed"
 EXAMPLE = Path(SOURCE) / "examples" / "host"
+WINDOW = Path(SOURCE) / "examples" / "host_window"
 ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
 ENVIRONMENT.pop("LD_LIBRARY_PATH", None)
 
-# Each load lifts every finger of the display held so far: that of Initialize and that of the keymap, both before display 1.
-# Each load resets its display, and with that the curve, the right walk and the eye let go first. Then the key F is a finger
-# at (0.9, 0.5) of a touch surface of 1920 x 1080: 1728, 540. The first finger of taps is 11.
+# Each load resets the display held so far: the curve, the right walk and the eye let go first, then every finger is
+# lifted. That is the load of Initialize and that of the keymap, both before display 1. Then the key F is a finger at
+# (0.9, 0.5) of a touch surface of 1920 x 1080: 1728, 540. The first finger of taps is 11.
 EXPECTED = (EXAMPLE / "output.txt").read_text(encoding="utf-8")
+
+# The example with a window, used by host_window/use_window.cpp. The guest is 1920 x 1080, in a view of 640 x 360 at
+# first: a key at (0.9, 0.5) is 1728, 540 in any view; the place 320, 180 is a half of the view's size, then, when
+# that is 1280 x 720, a quarter. View control goes from (0.6, 0.4), 1152, 432, by a pixel a count; its first counts
+# press. A full reset of a display names the gestures' fingers, then all but those of macros.
+SWEEP = "".join(f"1:SLOTRELEASE:{slot}\n" for slot in [5, 4, 7, *range(18)])
+TAP = "1:SLOTPRESS:11:11:1:1:1728:540\n1:SLOTRELEASE:11\n"
+WINDOW_EXPECTED = ("# start\n" + EXPECTED[:-len(TAP)] +
+                   "# keys\n" + TAP + "1:KBDPR:35:1\n1:KBDRL:35:0\n1:KBDPR:96:1\n1:KBDRL:96:0\n"
+                   "# a finger, before and after the window grows\n"
+                   "1:SLOTPRESS:1:1:1:1:960:540\n1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:480:270\n1:SLOTRELEASE:1\n"
+                   "# everything passes through, and no longer\n" +
+                   SWEEP + "1:KBDPR:33:1\n1:KBDRL:33:0\n" + SWEEP + TAP +
+                   "# a text field\nTEXT:f\0TEXT:\u00e9\0"
+                   "# the mouse steers the view\n"
+                   "1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:1152:432\n1:SLOTPRESS:1:1:1:1:1162:432\n"
+                   "# the focus goes while a key is held\n1:SLOTPRESS:11:11:1:1:1728:540\n" + SWEEP + "# closed\n")
 
 
 def run(*command, **options):
@@ -33,8 +51,8 @@ def run(*command, **options):
     return result.stdout
 
 
-def output_of(program):
-    return subprocess.run([program, EXAMPLE / "keymap.yaml"], check=True, text=True, stdout=subprocess.PIPE,
+def output_of(program, example=EXAMPLE):
+    return subprocess.run([program, example / "keymap.yaml"], check=True, text=True, stdout=subprocess.PIPE,
                           env=ENVIRONMENT).stdout
 
 
@@ -60,7 +78,8 @@ class InstalledTree(unittest.TestCase):
     def test_holds_the_public_headers_and_no_other(self):
         expected = [path.relative_to(Path(SOURCE) / "include") for path in (Path(SOURCE) / "include").rglob("*.h")]
         expected += [path.relative_to(SOURCE) for path in (Path(SOURCE) / "keymap").glob("*.h")]
-        expected += [Path("keymapmanager") / name for name in ("keymap_file.h", "key_names.h", "nearest_word.h")]
+        expected += [Path(f"keymapmanager/{name}.h")
+                     for name in ("item_types", "key_names", "keymap_file", "keymap_outline", "nearest_word")]
         include = INSTALLED / "include"
         self.assertEqual(sorted(path.relative_to(include) for path in include.rglob("*") if path.is_file()),
                          sorted(expected))
@@ -88,6 +107,18 @@ class InstalledTree(unittest.TestCase):
         program = WORK / "by_pkg_config"
         run(COMPILER, "-std=c++17", EXAMPLE / "main.cpp", "-o", program, *flags, f"-Wl,-rpath,{INSTALLED / LIB}")
         self.assertEqual(output_of(program), EXPECTED)
+
+    def test_example_with_a_window_builds_and_runs(self):
+        build = WORK / "window"
+        run(CMAKE, "-G", GENERATOR, "-S", Path(__file__).parent / "host_window", "-B", build, f"-DEXAMPLE={WINDOW}",
+            f"-DSOURCE={SOURCE}", f"-DCMAKE_PREFIX_PATH={INSTALLED}", f"-DCMAKE_CXX_COMPILER={COMPILER}")
+        run(CMAKE, "--build", build)
+        self.assertEqual(output_of(build / "host_window_test", WINDOW), WINDOW_EXPECTED)
+        with subprocess.Popen([build / "example" / "host_window", WINDOW / "keymap.yaml"], text=True,
+                              stdout=subprocess.PIPE, env=ENVIRONMENT) as program:
+            lines = [program.stdout.readline() for _ in range(8)]
+            program.terminate()
+        self.assertEqual("".join(lines), EXPECTED[:-len(TAP)])
 
     def test_pkg_config_finds_the_keymap_library_by_itself(self):
         ENVIRONMENT["PKG_CONFIG_PATH"] = str(INSTALLED / LIB / "pkgconfig")

@@ -183,6 +183,22 @@ TEST_F(Sender, APausedTargetMustBeAddedAgain) {
   EXPECT_EQ((std::vector<std::string>{"KBDPR:30:1\n>two", "KBDRL:30:0\n>two+one"}), mirrored);
 }
 
+TEST_F(Sender, ATargetMayBeStoppedWhileTheHostGoesThroughAll) {
+  static std::vector<std::string> reached;
+  const auto stop_each = [](const QString&, const QVector<QString>& targets) {
+    for (const QString& target : targets) {
+      reached.push_back(target.toStdString());
+      StopSync(target);
+    }
+  };
+  const InputEventSyncFunc sync = stop_each;
+  SetInputEventSyncFunc(reinterpret_cast<void*>(sync));
+  for (const char* target : {"one", "two", "three"}) StartSync(target, "", "");
+  OnInputRawEventData("KBDPR:30:1\n", 2);
+  OnInputRawEventData("KBDRL:30:0\n", 2);  // nobody is left
+  EXPECT_EQ((std::vector<std::string>{"one", "two", "three"}), reached);
+}
+
 TEST_F(Sender, ANullFunctionLeavesTheOneBefore) {
   Mirror();
   SetInputEventSyncFunc(nullptr);

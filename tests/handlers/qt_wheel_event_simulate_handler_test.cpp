@@ -3,7 +3,6 @@
 #include <QWheelEvent>
 
 #include "core/input_status_manager.h"
-#include "handlers/simulator_table.h"
 #include "keymap/tavikeymapmanager.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/story.h"
@@ -28,13 +27,13 @@ TEST_F(Wheel, OnlySomeTypesAnswerToIt) {
   for (const char* type : {"Click", "BunchClick", "Staring", "Macro", "Zoom", "OperationRecorder", "Curve"}) {
     ConfigItem item;
     item.type = type;
-    EXPECT_NE(nullptr, WheelSimulatorOf(&item)) << type;
+    EXPECT_NE(nullptr, QtWheelEventSimulateHandler::GetWheelSimulator(&item)) << type;
   }
   for (const char* type : {"Swipehold", "Spell", "Eye", "Gravity", "Wheel", "Observe", "RightWalk", "SpellCancel",
                            "Fire", "VirtualJoystickButton", ""}) {
     ConfigItem item;
     item.type = type;
-    EXPECT_EQ(nullptr, WheelSimulatorOf(&item)) << type;
+    EXPECT_EQ(nullptr, QtWheelEventSimulateHandler::GetWheelSimulator(&item)) << type;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCursor>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QTouchEvent>
@@ -35,6 +36,15 @@ TEST_F(GuestViewTest, AnotherSizeOfTheGuestMovesThePoint) {
   qobject_cast<MainWindow*>(View()->window())->SetGuestSize(QSize(720, 1280));
   Press(kSpace);
   ExpectNear(Finger(), 180, 960);  // 0.25 * 720, 0.75 * 1280
+}
+
+TEST_F(GuestViewTest, AMacroFindsThePointerWhereverTheViewIs) {
+  Load("{type: Macro, key: Space, press_commands: ['press_rel:mouse']}");
+  const QPoint pointer = View()->mapToGlobal(At(0.25, 0.75).toPoint());
+  QCursor::setPos(pointer);
+  clock_->SetPointer(pointer);
+  Press(kSpace);
+  ExpectNear(Finger(), 320, 540);  // 0.25 * 1280, 0.75 * 720
 }
 
 TEST_F(GuestViewTest, AGuestAsLargeAsTheViewGetsItsPixels) {

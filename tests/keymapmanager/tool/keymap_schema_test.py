@@ -105,6 +105,9 @@ class KeymapSchema(unittest.TestCase):
     def test_examples_pass_both(self):
         self.assertGreaterEqual(len(files("examples/keymaps")), 3)
         self.check_all(files("examples/keymaps"), True)
+        steps = [path for path in files("examples/tutorial") if "/step_" in path]
+        self.assertGreaterEqual(len(steps), 7)
+        self.check_all(steps, True)
 
     def test_snippets_of_the_reference_pass_both(self):
         with tempfile.TemporaryDirectory() as folder:

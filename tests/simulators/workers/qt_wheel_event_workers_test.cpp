@@ -185,6 +185,17 @@ TEST_F(Pinch, TheLineIsTurned) {
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:640:420:10:10:640:300");
 }
 
+// At 180 degrees finger a begins 60 pixels to the right of the pointer, and goes on to the right.
+TEST_F(Pinch, TheLineMayPointTheOtherWay) {
+  LoadPinch();
+  Wheel().wheel_zoom = true;
+  Wheel().zoom_step = 0.005;
+  Wheel().zoom_angle = 180;
+  Load();
+  Play("wheel +120 640,360; wait 16");
+  EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:700:360:10:10:580:360", "16ms 1:SLOTMULTIPRESS:0:0:706:360:10:10:574:360");
+}
+
 TEST_F(Pinch, TheUnitIsOfTheLongerSide) {
   Host().display = QRect(0, 0, 720, 1280);
   LoadPinch();

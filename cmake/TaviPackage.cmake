@@ -1,0 +1,77 @@
+# Debian packages, made by `cpack -G DEB` in a build folder of the preset "package"; tools/try_packages tries them.
+#
+# Three of them, one a component: the libraries, what others build on, the program.
+set(CPACK_PACKAGE_VENDOR "taviinputmanager")
+set(TAVI_PACKAGE_CONTACT "taviinputmanager developers <taviinputmanager@example.org>" CACHE STRING
+  "Who answers for the Debian packages: name and address")
+set(CPACK_PACKAGE_CONTACT ${TAVI_PACKAGE_CONTACT})
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL runtime development tools)
+set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SOURCE taviinputmanager)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+set(runtime_package libtaviinputmanager${PROJECT_VERSION_MAJOR})
+set(package_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
+
+# What the programs and libraries need is read from them. Our own libraries are in no package yet.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/keymapmanager)
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "input layer of front ends for Android guests: libraries
+Keys, mouse, wheel, touch and gamepads of a desktop front end go in, and by a
+keymap they become touches, keys and gamepad reports of an Android guest. What
+was sent can be recorded and played again.
+.
+This package holds the input layer and the library that reads keymap files.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtaviinputmanager-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${package_version}), qtbase5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "tavi")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake, pkg-config")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "input layer of front ends for Android guests: development files
+Keys, mouse, wheel, touch and gamepads of a desktop front end go in, and by a
+keymap they become touches, keys and gamepad reports of an Android guest.
+.
+This package holds the headers, the ways in for CMake and pkg-config, the
+documents for engineers of front ends and guests, and example hosts.")
+
+set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tavi)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "libtaviinputmanager-dev")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "keymaps for Android guests: try, check, simulate, record
+What the keys, the mouse and the gamepads of this computer do on the screen of
+an Android guest is told by a keymap. tavi opens a window to try one in, checks
+it, plays scripts of input with it, and plays, merges and draws records. It can
+also be the guest, on input devices of the Linux kernel.
+.
+This package holds the program, example keymaps and the documents for authors
+of keymaps.")
+
+# The files that every package has. They are no part of a plain installation.
+set(changelog packaging/changelog.Debian)
+if(TAVI_FOR_DEBIAN)
+  tavi_compress(packaging/changelog.Debian changelog)
+endif()
+foreach(package IN ITEMS "runtime ${runtime_package}" "development libtaviinputmanager-dev" "tools tavi")
+  separate_arguments(package UNIX_COMMAND ${package})
+  list(POP_FRONT package component)
+  install(FILES packaging/copyright ${changelog}
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${component} EXCLUDE_FROM_ALL)
+endforeach()
+install(FILES packaging/libtaviinputmanager-dev.lintian-overrides RENAME libtaviinputmanager-dev
+  DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides COMPONENT development EXCLUDE_FROM_ALL)
+
+include(CPack)

@@ -1,0 +1,282 @@
+#include "host/editor/keymap_document.h"
+
+#include <algorithm>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include "host/editor/new_item.h"
+#include "keymap/tavikeymapmanager.h"
+
+namespace tavi {
+
+namespace km = tavikeymapmanager;
+using km::FieldKind;
+using km::KeymapOutline;
+using Form = FieldValue::Form;
+
+namespace {
+
+constexpr char kNewKeymap[] = "format: 1\n\nitems: []\n";
+constexpr double kAside = 0.03;  // from an item to its copy, fraction of the display
+const QString kType = QStringLiteral("type");
+const QString kLabel = QStringLiteral("label");
+const QString kPoint = QStringLiteral("point");
+const QString kPad = QStringLiteral("Pad ");
+
+std::optional<QByteArray> ReadBytes(const QString& path) {
+  QFile file(path);
+  if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
+  return file.readAll();
+}
+
+// Beside its place, and moved there when it is complete; in place where the folder takes no new file. Returns what went
+// wrong.
+QString WriteBytes(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  file.setDirectWriteFallback(true);
+  const bool is_written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  return is_written ? QString() : QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
+}
+
+QString FirstError(const km::LoadResult& keymap) {
+  for (const km::Diagnostic& diagnostic : keymap.diagnostics) {
+    if (diagnostic.severity == km::Diagnostic::Severity::kError) return diagnostic.message;
+  }
+  return {};
+}
+
+QByteArray Slice(const QByteArray& text, const km::TextRange& range) { return text.mid(range.begin, range.Length()); }
+
+// What a record says, without its comments and spaces.
+QByteArray Content(const km::RecordOutline& record, const QByteArray& text, const QString& without = {}) {
+  QByteArray content;
+  for (const km::FieldOutline& field : record.fields) {
+    if (field.name != without) content += field.name.toUtf8() + '\0' + Slice(text, field.value) + '\0';
+  }
+  return content;
+}
+
+QVector<QByteArray> ItemContents(const KeymapOutline& outline, const QByteArray& text) {
+  QVector<QByteArray> contents;
+  for (const km::ItemOutline& item : outline.items) contents.append(Content(item, text));
+  return contents;
+}
+
+// "0.5, 0.25", in brackets or without
+std::optional<QPointF> PairOf(const QString& text) {
+  static const QRegularExpression form(
+      QStringLiteral("\\A\\s*\\[?\\s*([-+.0-9eE]+)\\s*[,;\\s]\\s*([-+.0-9eE]+)\\s*\\]?\\s*\\z"));
+  const QRegularExpressionMatch match = form.match(text);
+  bool is_x = false;
+  bool is_y = false;
+  const QPointF pair(match.captured(1).toDouble(&is_x), match.captured(2).toDouble(&is_y));
+  return is_x && is_y ? std::make_optional(pair) : std::nullopt;
+}
+
+bool IsKeyCode(const QString& text) {
+  static const QRegularExpression form(QStringLiteral("\\A\\{ *(?:scan|pad): *[\\w ]+\\}\\z"));
+  return form.match(text).hasMatch();
+}
+
+}  // namespace
+
+// A step on the way back.
+class KeymapDocument::Edit : public QUndoCommand {
+ public:
+  Edit(KeymapDocument* document, const TextChange& change, const QString& name, int gesture)
+      : QUndoCommand(name), document_(document), change_(change), gesture_(gesture) {}
+
+  void redo() override { document_->Take(change_.AppliedTo(document_->text_)); }
+  void undo() override { document_->Take(change_.RevertedFrom(document_->text_)); }
+
+  int id() const override { return 1; }  // any two edits may belong together
+  bool mergeWith(const QUndoCommand* next) override {
+    const auto* edit = static_cast<const Edit*>(next);
+    if (gesture_ == 0 || edit->gesture_ != gesture_) return false;
+    const QByteArray& after = document_->text_;
+    change_ = ChangeBetween(change_.RevertedFrom(edit->change_.RevertedFrom(after)), after);
+    setObsolete(change_.IsEmpty());
+    return true;
+  }
+
+ private:
+  KeymapDocument* document_;
+  TextChange change_;
+  const int gesture_;
+};
+
+KeymapDocument::KeymapDocument(QObject* parent) : QObject(parent), types_(km::DescribeItemTypes()) {
+  Take(QByteArray());
+  connect(&undo_, &QUndoStack::indexChanged, this, &KeymapDocument::Changed);
+}
+
+KeymapDocument::~KeymapDocument() {
+  undo_.disconnect(this);  // at its end it tells of a change
+}
+
+// ---- Files
+
+bool KeymapDocument::Open(const QString& path) {
+  const std::optional<QByteArray> bytes = ReadBytes(path);
+  path_ = path;
+  text_on_disk_ = bytes.value_or(QByteArray());
+  Take(text_on_disk_);
+  undo_.clear();
+  Q_EMIT Changed();
+  return bytes.has_value();
+}
+
+void KeymapDocument::New() {
+  path_.clear();
+  text_on_disk_.clear();
+  Take(kNewKeymap);
+  undo_.clear();
+  Q_EMIT Changed();
+}
+
+QString KeymapDocument::Save(const QString& path) {
+  QString problem = WriteBytes(path, text_);
+  if (!problem.isEmpty()) return problem;
+  path_ = path;
+  text_on_disk_ = text_;
+  undo_.setClean();
+  Q_EMIT Changed();
+  return {};
+}
+
+bool KeymapDocument::IsFileChanged() const {
+  if (path_.isEmpty()) return false;
+  const std::optional<QByteArray> bytes = ReadBytes(path_);
+  return bytes && *bytes != text_on_disk_;
+}
+
+void KeymapDocument::Take(const QByteArray& text) {
+  text_ = text;
+  keymap_ = km::ReadKeymapText(text_, path_);
+  outline_ = keymap_.HasErrors() ? KeymapOutline() : km::OutlineKeymap(text_).value_or(KeymapOutline());
+}
+
+QString KeymapDocument::Refusal() const {
+  if (keymap_.HasErrors()) {
+    return QStringLiteral("A keymap with errors cannot be edited here. Correct them in the file first.");
+  }
+  const bool is_told = outline_.items.size() == keymap_.config->items.size() && !outline_.file.fields.isEmpty();
+  return is_told ? QString() : QStringLiteral("Only keymaps in UTF-8 can be edited here.");
+}
+
+// ---- Looking
+
+const km::ItemTypeInfo& KeymapDocument::TypeOf(int item) const {
+  const QString& type = Item(item)->type;
+  return *std::find_if(types_.begin(), types_.end(), [&type](const auto& info) { return info.name == type; });
+}
+
+QString KeymapDocument::WrittenText(int item, const QString& field) const {
+  const km::FieldOutline* outline = outline_.items[item].Find(field);
+  if (outline == nullptr) return {};
+  return outline->is_scalar ? outline->text : QString::fromUtf8(Slice(text_, outline->value));
+}
+
+QStringList KeymapDocument::FieldOrder(int item) const {
+  QStringList order{kType, kLabel};
+  for (const km::FieldInfo& field : TypeOf(item).fields) order += field.name;
+  return order;
+}
+
+QSet<QString> KeymapDocument::UsedKeys() const {
+  QSet<QString> keys;
+  for (int item = 0; item < ItemCount(); ++item) {
+    for (const km::FieldInfo& field : TypeOf(item).fields) {
+      const bool is_key = field.kind == FieldKind::kKey || field.kind == FieldKind::kChord;
+      if (is_key) keys.insert(WrittenText(item, field.name));
+    }
+  }
+  keys.remove(QString());
+  return keys;
+}
+
+// ---- Edits
+
+FieldValue KeymapDocument::ValueOf(int item, const QString& field, const QString& text) const {
+  if (field == kLabel) return {text, Form::kText};
+  const km::FieldInfo* info = TypeOf(item).Find(field);
+  if (info != nullptr && info->kind == FieldKind::kPadButton) return {text, Form::kText};
+  return {text, IsKeyCode(text) ? Form::kSource : Form::kPlain};
+}
+
+QString KeymapDocument::SetField(int item, const QString& field, const QString& text) {
+  if (text == WrittenText(item, field)) return {};
+  const km::FieldInfo* info = TypeOf(item).Find(field);
+  const bool is_pair = info != nullptr && info->kind == FieldKind::kPair;
+  const std::optional<QPointF> pair = is_pair ? PairOf(text) : std::nullopt;
+  if (pair) return SetPair(item, field, *pair);
+  const QByteArray after = text.isEmpty()
+                               ? Present().WithoutField(item, field)
+                               : Present().WithField(item, field, ValueOf(item, field, text), FieldOrder(item));
+  return Push(after, QStringLiteral("Set %1").arg(field), Effect::kChanges, item);
+}
+
+QString KeymapDocument::SetPair(int item, const QString& field, const QPointF& pair, int gesture) {
+  const QString name = field == kPoint ? QStringLiteral("Move") : QStringLiteral("Set %1").arg(field);
+  return Push(Present().WithPair(item, field, pair, FieldOrder(item)), name, Effect::kChanges, item, gesture);
+}
+
+QString KeymapDocument::SetNumber(int item, const QString& field, double number, int gesture) {
+  const FieldValue value{QString::fromUtf8(NumberText(number)), Form::kPlain};
+  return Push(Present().WithField(item, field, value, FieldOrder(item)), QStringLiteral("Set %1").arg(field),
+              Effect::kChanges, item, gesture);
+}
+
+QString KeymapDocument::Add(const QString& type, const QPointF& point) {
+  const QSet<QString> keys = UsedKeys();
+  const auto pads = std::count_if(keys.begin(), keys.end(), [](const QString& key) { return key.startsWith(kPad); });
+  const bool is_gamepad = pads > 0 && pads * 2 > keys.size();
+  return Push(Present().WithItem(FieldsOfNewItem(type, point, keys, is_gamepad)), QStringLiteral("Add %1").arg(type),
+              Effect::kAdds, ItemCount());
+}
+
+QString KeymapDocument::Remove(int item) {
+  return Push(Present().WithoutItem(item), QStringLiteral("Delete %1").arg(Item(item)->type), Effect::kRemoves, item);
+}
+
+QString KeymapDocument::Duplicate(int item) {
+  QByteArray after = Present().WithCopy(item);
+  const std::optional<KeymapOutline> outline = km::OutlineKeymap(after);
+  const QVector<double> point = km::NumbersOfField(*Item(item), kPoint);
+  const bool has_place = outline && outline->items.size() == ItemCount() + 1 && WrittenText(item, kPoint) != QString();
+  if (has_place && point.size() == 2) {
+    const auto aside = [](double from) { return from + kAside <= 1 ? from + kAside : from - kAside; };
+    after = KeymapText(after, *outline).WithPair(item + 1, kPoint, {aside(point[0]), aside(point[1])}, {});
+  }
+  return Push(after, QStringLiteral("Duplicate %1").arg(Item(item)->type), Effect::kAdds, item + 1);
+}
+
+QString KeymapDocument::Push(const QByteArray& after, const QString& name, Effect effect, int item, int gesture) {
+  const QString refusal = Refusal();
+  if (!refusal.isEmpty()) return refusal;
+  if (after == text_) return {};
+  const km::LoadResult keymap = km::ReadKeymapText(after, path_);
+  if (keymap.HasErrors()) return FirstError(keymap);
+  const std::optional<KeymapOutline> outline = km::OutlineKeymap(after);
+  if (!outline || !LeavesOthers(*outline, after, effect, item)) {
+    return QStringLiteral("This cannot be written without touching other parts of the file. Edit the file itself.");
+  }
+  undo_.push(new Edit(this, ChangeBetween(text_, after), name, gesture));
+  return {};
+}
+
+bool KeymapDocument::LeavesOthers(const KeymapOutline& outline, const QByteArray& after, Effect effect,
+                                  int item) const {
+  const QString items = QStringLiteral("items");
+  if (Content(outline_.file, text_, items) != Content(outline.file, after, items)) return false;
+  QVector<QByteArray> contents = ItemContents(outline_, text_);
+  QVector<QByteArray> contents_after = ItemContents(outline, after);
+  if (contents_after.size() - contents.size() != (effect == Effect::kAdds) - (effect == Effect::kRemoves)) return false;
+  if (effect != Effect::kAdds) contents.remove(item);
+  if (effect != Effect::kRemoves) contents_after.remove(item);
+  return contents == contents_after;
+}
+
+}  // namespace tavi

@@ -1,0 +1,25 @@
+#ifndef HOST_EDITOR_TEXT_CHANGE_H_
+#define HOST_EDITOR_TEXT_CHANGE_H_
+
+#include <QByteArray>
+
+namespace tavi {
+
+// What makes one text of another: the bytes of one place replaced by others.
+struct TextChange {
+  bool IsEmpty() const { return removed.isEmpty() && inserted.isEmpty(); }
+
+  QByteArray AppliedTo(const QByteArray& before) const;
+  QByteArray RevertedFrom(const QByteArray& after) const;
+
+  int at = 0;  // bytes from the start
+  QByteArray removed;
+  QByteArray inserted;
+};
+
+// The shortest change of one place.
+TextChange ChangeBetween(const QByteArray& before, const QByteArray& after);
+
+}  // namespace tavi
+
+#endif  // HOST_EDITOR_TEXT_CHANGE_H_

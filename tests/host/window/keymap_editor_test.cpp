@@ -1,0 +1,453 @@
+// Editing in the window: a person drags, presses keys, saves, and the file differs only there.
+#include "host/window/keymap_editor.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "host/editor/item_handles.h"
+#include "host/window/edit_layer.h"
+#include "host/window/field_editor.h"
+#include "host/window/item_inspector.h"
+#include "host/window/key_listener.h"
+#include "keymap/joystick_event.h"
+#include "taviinputmanager/joystick_event.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+constexpr char kItems[] =
+    "\n  {type: Click, label: Jump, key: Space, point: [0.25, 0.75]},  # jump\n"
+    "  {type: Swipehold, point: [0.5, 0.5], radius: 0.1, key_up: W}\n";
+
+class EditingInTheWindow : public WindowFixture {
+ protected:
+  EditingInTheWindow() {
+    Load(kItems);
+    before_ = FileText();
+    Editor()->SetAsk([this](const QString& question, KeymapEditor::Buttons) {
+      questions_ += question;
+      return answer_;
+    });
+    QObject::connect(Editor(), &KeymapEditor::Message, Window(),
+                     [this](const QString& text, bool is_problem) { (is_problem ? problem_ : news_) = text; });
+  }
+
+  KeymapEditor* Editor() const { return Window()->Editor(); }
+  KeymapDocument* Document() const { return Editor()->Document(); }
+  EditLayer* Layer() const { return Editor()->Layer(); }
+  ItemInspector* Inspector() const { return Editor()->Inspector(); }
+  void Edit(bool on = true) {
+    Editor()->Switch()->setChecked(on);
+    clock_->Settle();
+  }
+
+  QByteArray FileText() const {
+    QFile file(folder_.filePath("keymap.yaml"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  // The file that was there, with one part replaced.
+  std::string FileWith(const char* part, const char* by) const {
+    EXPECT_EQ(before_.count(part), 1) << part;
+    return QByteArray(before_).replace(part, by).toStdString();
+  }
+
+  void LayerMouse(QEvent::Type type, const QPointF& place, Qt::MouseButton button, Qt::MouseButtons buttons) {
+    QMouseEvent event(type, place, place, Layer()->mapToGlobal(place.toPoint()), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(Layer(), &event);
+  }
+  void DragFrom(const QPointF& from, const QPointF& to) {
+    LayerMouse(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    for (int step = 1; step <= 4; ++step) {
+      LayerMouse(QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, Qt::LeftButton);
+    }
+    LayerMouse(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+  }
+  void Click(const QPointF& place) { DragFrom(place, place); }
+  void LayerKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
+    QCoreApplication::sendEvent(Layer(), &event);
+  }
+  static void HostKey(QWidget* widget, QEvent::Type type, int linux_code) {
+    QKeyEvent event(type, 0, Qt::NoModifier, static_cast<quint32>(linux_code + 8), 0, 0);
+    QCoreApplication::sendEvent(widget, &event);
+  }
+  void Bind(const char* field, int linux_code) {
+    KeyListener* listener = Inspector()->Editor(field)->Listener();
+    listener->Listen();
+    HostKey(listener, QEvent::KeyPress, linux_code);
+    HostKey(listener, QEvent::KeyRelease, linux_code);
+  }
+  void Enter(const char* field, const char* text) {
+    Inspector()->Editor(field)->Line()->setText(text);
+    Inspector()->Editor(field)->Commit();
+  }
+
+  QByteArray before_;
+  KeymapEditor::Button answer_ = QMessageBox::Cancel;
+  QStringList questions_;
+  QString news_;
+  QString problem_;
+};
+
+// ---- The file
+
+TEST_F(EditingInTheWindow, ADragThatIsSavedChangesItsNumbersAlone) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.375, 0.25));
+  EXPECT_TRUE(Window()->isWindowModified());
+  EXPECT_EQ(FileText(), before_);
+  EXPECT_TRUE(Editor()->Save());
+  EXPECT_FALSE(Window()->isWindowModified());
+  EXPECT_EQ(FileText().toStdString(), FileWith("point: [0.25, 0.75]", "point: [0.375, 0.25]"));
+}
+
+TEST_F(EditingInTheWindow, ARadiusIsDraggedAtTheRim) {
+  Edit();
+  Click(At(0.5, 0.5));
+  ASSERT_EQ(Layer()->Selected(), 1);
+  DragFrom(At(0.6, 0.5), At(0.7, 0.5));  // 0.1 of the width to the right of the centre
+  Editor()->Save();
+  EXPECT_EQ(FileText().toStdString(), FileWith("radius: 0.1", "radius: 0.2"));
+}
+
+TEST_F(EditingInTheWindow, AClickMovesNothing) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.25, 0.75) + QPointF(2, 0));
+  EXPECT_EQ(Layer()->Selected(), 0);
+  EXPECT_FALSE(Window()->isWindowModified());
+}
+
+TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
+  Edit();
+  LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+  LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+  LayerKey(Qt::Key_Escape);
+  LayerMouse(QEvent::MouseMove, At(0.6, 0.25), Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(Document()->Text(), before_);
+}
+
+TEST_F(EditingInTheWindow, ArrowKeysMoveByPixelsOfTheGuest) {
+  Edit();
+  Layer()->Select(0);
+  LayerKey(Qt::Key_Right);
+  EXPECT_EQ(Document()->WrittenText(0, "point"), "[0.2508, 0.75]");  // 321 of 1280
+  LayerKey(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(Document()->WrittenText(0, "point"), "[0.2508, 0.7361]");  // 530 of 720
+  Document()->UndoStack()->undo();                                     // one step
+  EXPECT_EQ(Document()->Text(), before_);
+}
+
+TEST_F(EditingInTheWindow, UndoBehindASaveMakesItUnsavedAgain) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Editor()->Save();
+  clock_->Advance(1000);  // the watch has seen the file
+  Document()->UndoStack()->undo();
+  EXPECT_EQ(Document()->Text(), before_);
+  EXPECT_TRUE(Window()->isWindowModified());
+}
+
+// ---- Keys
+
+TEST_F(EditingInTheWindow, APressedKeyIsBound) {
+  Edit();
+  Layer()->Select(0);
+  Bind("key", kA);
+  Layer()->Select(1);
+  Bind("key_down", kSpace);
+  Editor()->Save();
+  EXPECT_EQ(FileText().toStdString(), QByteArray(FileWith("key: Space", "key: A").c_str())
+                                          .replace("key_up: W", "key_up: W, key_down: Space")
+                                          .toStdString());
+}
+
+// So that arrow keys move what was just bound.
+TEST_F(EditingInTheWindow, KeysGoBackToTheScreenBehindABinding) {
+  Edit();
+  Window()->activateWindow();
+  clock_->Settle();
+  Layer()->Select(0);
+  Bind("key", kA);
+  EXPECT_EQ(Window()->focusWidget(), Layer());
+}
+
+TEST_F(EditingInTheWindow, TwoKeysAreAChord) {
+  Edit();
+  Layer()->Select(0);
+  KeyListener* listener = Inspector()->Editor("key")->Listener();
+  listener->Listen();
+  HostKey(listener, QEvent::KeyPress, 42);  // Left Shift
+  HostKey(listener, QEvent::KeyPress, kA);
+  EXPECT_EQ(Document()->WrittenText(0, "key"), "Left Shift + A");
+}
+
+TEST_F(EditingInTheWindow, MouseButtonsWheelAndGamepadAreBoundAsWell) {
+  Edit();
+  Layer()->Select(0);
+  KeyListener* listener = Inspector()->Editor("key")->Listener();
+  listener->Listen();
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, QPointF(3, 3), Qt::RightButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(listener, &event);
+  }
+  EXPECT_EQ(Document()->WrittenText(0, "key"), "Mouse Right");
+
+  listener->Listen();
+  QWheelEvent wheel(QPointF(3, 3), QPointF(3, 3), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(listener, &wheel);
+  EXPECT_EQ(Document()->WrittenText(0, "key"), "Wheel Down");
+
+  listener->Listen();
+  Window()->Pads()->Add(1, "Pad", PadFamily::kLettered);
+  Window()->Pads()->SetButton(1, "a", true);
+  Window()->Pads()->SetButton(1, "a", false);
+  EXPECT_EQ(Document()->WrittenText(0, "key"), "Pad A");
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(EditingInTheWindow, EscapeBindsNothing) {
+  Edit();
+  Layer()->Select(0);
+  KeyListener* listener = Inspector()->Editor("key")->Listener();
+  listener->Listen();
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1 + 8, 0, 0);
+  QCoreApplication::sendEvent(listener, &escape);
+  EXPECT_FALSE(listener->IsListening());
+  EXPECT_EQ(Document()->Text(), before_);
+}
+
+// ---- Fields
+
+TEST_F(EditingInTheWindow, AFieldIsTyped) {
+  Edit();
+  Layer()->Select(0);
+  Enter("label", "Leap");
+  EXPECT_EQ(Document()->WrittenText(0, "label"), "Leap");
+  Enter("point", "0.5, 0.25");
+  EXPECT_EQ(Document()->WrittenText(0, "point"), "[0.5, 0.25]");
+}
+
+TEST_F(EditingInTheWindow, WhatIsWrongIsToldInPlace) {
+  Edit();
+  Layer()->Select(0);
+  Enter("key", "Spcae");
+  bool is_told = false;
+  for (const auto* label : Inspector()->Editor("key")->findChildren<QLabel*>()) {
+    is_told = is_told || label->text() == "unknown key 'Spcae'; did you mean 'Space'?";
+  }
+  EXPECT_TRUE(is_told);
+  EXPECT_EQ(Inspector()->Editor("key")->Line()->text(), "Spcae");  // to be corrected
+  EXPECT_EQ(Document()->Text(), before_);
+}
+
+// ---- Items
+
+TEST_F(EditingInTheWindow, ANewItemIsSelectedAndWaitsForAKey) {
+  Edit();
+  Editor()->Add("BunchClick", {0.75, 0.5});
+  EXPECT_EQ(Layer()->Selected(), 2);
+  EXPECT_TRUE(Inspector()->Editor("key")->Listener()->IsListening());
+  EXPECT_EQ(Document()->WrittenText(2, "point"), "[0.75, 0.5]");
+}
+
+TEST_F(EditingInTheWindow, ANoteWaitsForNoKey) {
+  Edit();
+  Editor()->Add("Tip", {0.75, 0.5});
+  EXPECT_EQ(Layer()->Selected(), 2);
+  EXPECT_FALSE(Inspector()->Editor("key")->Listener()->IsListening());
+}
+
+// Nothing that was typed for one item reaches another.
+TEST_F(EditingInTheWindow, AnotherFileDropsWhatWasOnlyTyped) {
+  Edit();
+  Layer()->Select(0);
+  Window()->activateWindow();
+  Inspector()->Editor("label")->Line()->setFocus();
+  Inspector()->Editor("label")->Line()->setText("Leap");
+  Load("{type: Tip, label: Note, point: [0.5, 0.5]}");
+  Layer()->Select(0);
+  EXPECT_EQ(Document()->WrittenText(0, "label"), "Note");
+  EXPECT_FALSE(Document()->IsModified());
+}
+
+TEST_F(EditingInTheWindow, ItemsAreDuplicatedAndDeleted) {
+  Edit();
+  Layer()->Select(0);
+  Editor()->Duplicate();
+  EXPECT_EQ(Layer()->Selected(), 1);
+  EXPECT_EQ(Document()->ItemCount(), 3);
+  LayerKey(Qt::Key_Delete);
+  EXPECT_EQ(Document()->Text(), before_);
+  EXPECT_EQ(Layer()->Selected(), -1);
+}
+
+// The index that was selected is another item's then.
+TEST_F(EditingInTheWindow, AnUndoneDeletionSelectsNothing) {
+  Edit();
+  Layer()->Select(0);
+  Editor()->Delete();
+  Layer()->Select(0);
+  Document()->UndoStack()->undo();
+  EXPECT_EQ(Layer()->Selected(), -1);
+}
+
+TEST_F(EditingInTheWindow, OfTwoItemsAtOnePlaceTheSelectedOneIsDragged) {
+  Edit();
+  Document()->SetPair(1, "point", {0.25, 0.75});
+  Click(At(0.25, 0.75));
+  EXPECT_EQ(Layer()->Selected(), 0);  // the first one
+  Layer()->Select(1);
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  EXPECT_EQ(Document()->WrittenText(0, "point"), "[0.25, 0.75]");
+  EXPECT_EQ(Document()->WrittenText(1, "point"), "[0.5, 0.25]");
+}
+
+TEST_F(EditingInTheWindow, ANeighbourWithinReachIsSelected) {
+  Edit();
+  Document()->SetPair(1, "point", {0.275, 0.75});  // 25 pixels of 1000 beside the other
+  Layer()->Select(1);
+  Click(At(0.25, 0.75));
+  EXPECT_EQ(Layer()->Selected(), 0);
+}
+
+TEST_F(EditingInTheWindow, TabGoesThroughTheItems) {
+  Edit();
+  LayerKey(Qt::Key_Tab);
+  EXPECT_EQ(Layer()->Selected(), 0);
+  LayerKey(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(Layer()->Selected(), 1);
+}
+
+// ---- The guest
+
+TEST_F(EditingInTheWindow, NothingReachesTheGuestMeanwhile) {
+  Press(kSpace);
+  EXPECT_EQ(Slots().size(), 1);
+  Edit();
+  EXPECT_TRUE(Slots().isEmpty());  // what was down is let go
+  EXPECT_EQ(View()->focusProxy(), Layer());
+  EXPECT_EQ(Layer()->geometry(), View()->geometry());
+  LayerKey(Qt::Key_Space);
+  Click(At(0.9, 0.1));
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+TEST_F(EditingInTheWindow, EditsAreInUseWhenItIsOver) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Edit(false);
+  EXPECT_TRUE(Window()->isWindowModified());
+  EXPECT_EQ(FileText(), before_);  // not saved yet
+  Press(kSpace);
+  ExpectNear(Finger(), 640, 180);  // 0.5 * 1280, 0.25 * 720
+  Release(kSpace);
+  Edit();
+  EXPECT_TRUE(Document()->UndoStack()->canUndo());
+  Document()->UndoStack()->undo();
+  Edit(false);
+  EXPECT_FALSE(Window()->isWindowModified());
+  Press(kSpace);
+  ExpectNear(Finger(), 320, 540);
+}
+
+TEST_F(EditingInTheWindow, SavedEditsCanBeTakenBackStill) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Editor()->Save();
+  Edit(false);
+  Press(kSpace);
+  ExpectNear(Finger(), 640, 180);
+  EXPECT_TRUE(Document()->UndoStack()->canUndo());
+}
+
+// ---- Files and other programs
+
+TEST_F(EditingInTheWindow, AForeignSaveIsReadWhereNothingIsLost) {
+  Edit();
+  Write("keymap.yaml", "{type: Tip, point: [0.5, 0.5]}");
+  EXPECT_FALSE(Editor()->TakeFileChange());  // the window reads it
+  Window()->LoadKeymap(folder_.filePath("keymap.yaml"));
+  EXPECT_EQ(Document()->ItemCount(), 1);
+}
+
+TEST_F(EditingInTheWindow, AForeignSaveTakesNoEditsAway) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Write("keymap.yaml", "{type: Tip, point: [0.5, 0.5]}");
+  const QByteArray foreign = FileText();
+  EXPECT_TRUE(Editor()->TakeFileChange());
+  EXPECT_TRUE(problem_.contains("Your edits are kept")) << problem_.toStdString();
+  EXPECT_EQ(Document()->ItemCount(), 2);
+
+  EXPECT_FALSE(Editor()->Save());  // Cancel
+  EXPECT_EQ(questions_.size(), 1);
+  EXPECT_EQ(FileText(), foreign);
+  answer_ = QMessageBox::Save;
+  EXPECT_TRUE(Editor()->Save());
+  EXPECT_EQ(FileText().toStdString(), FileWith("[0.25, 0.75]", "[0.5, 0.25]"));
+}
+
+TEST_F(EditingInTheWindow, AForeignSaveCanBeReadInstead) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Write("keymap.yaml", "{type: Tip, point: [0.5, 0.5]}");
+  answer_ = QMessageBox::Reset;
+  EXPECT_FALSE(Editor()->Save());
+  EXPECT_EQ(Document()->ItemCount(), 1);
+  EXPECT_FALSE(Document()->IsModified());
+  Edit(false);
+  Press(kSpace);
+  EXPECT_TRUE(Slots().isEmpty());  // the note answers to nothing
+}
+
+TEST_F(EditingInTheWindow, ClosingAsksForEdits) {
+  Edit();
+  EXPECT_TRUE(Editor()->MayLeave());
+  EXPECT_TRUE(questions_.isEmpty());
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  EXPECT_FALSE(Window()->close());
+  EXPECT_EQ(questions_, QStringList("Save the edits of the keymap?"));
+  answer_ = QMessageBox::Save;
+  EXPECT_TRUE(Window()->close());
+  EXPECT_NE(FileText(), before_);
+}
+
+TEST_F(EditingInTheWindow, AnotherKeymapIsUnmodified) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Window()->LoadKeymap(Write("other.yaml", "{type: Tip, point: [0.5, 0.5]}"));
+  EXPECT_FALSE(Window()->isWindowModified());
+  EXPECT_EQ(Document()->ItemCount(), 1);
+}
+
+TEST_F(EditingInTheWindow, ABrokenKeymapIsNotEdited) {
+  Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
+  const QByteArray broken = FileText();
+  Edit();
+  EXPECT_TRUE(problem_.contains("cannot be edited")) << problem_.toStdString();
+  Editor()->Add("Click", {0.5, 0.5});
+  EXPECT_EQ(Document()->Text(), broken);
+}
+
+TEST_F(EditingInTheWindow, WithoutAKeymapANewOneBegins) {
+  Window()->LoadKeymap(QString());
+  Edit();
+  EXPECT_TRUE(problem_.isEmpty()) << problem_.toStdString();
+  Editor()->Add("Click", {0.5, 0.5});
+  EXPECT_TRUE(Window()->isWindowModified());
+  Edit(false);
+  Press(kSpace);
+  ExpectNear(Finger(), 640, 360);  // in use without a name
+  Release(kSpace);
+  const QString path = folder_.filePath("mine.yaml");
+  EXPECT_TRUE(Editor()->SaveAs(path));
+  EXPECT_FALSE(Window()->isWindowModified());
+  EXPECT_EQ(Window()->windowTitle(), QStringLiteral("mine.yaml \u2013 tavi"));
+}
+
+}  // namespace
+}  // namespace tavi

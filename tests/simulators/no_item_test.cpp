@@ -1,0 +1,73 @@
+// Simulators that are handed no item do nothing.
+#include "core/input_status_manager.h"
+#include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
+#include "handlers/qt_wheel_event_simulate_handler.h"
+#include "keymap/tavikeymapmanager.h"
+#include "simulators/bunch_tap_event_simulator.h"
+#include "simulators/curve_event_simulator.h"
+#include "simulators/eye_event_simulator.h"
+#include "simulators/gravity_event_simulator.h"
+#include "simulators/left_stick_walk_event_simulator.h"
+#include "simulators/macro_event_simulator.h"
+#include "simulators/right_stick_eye_event_simulator.h"
+#include "simulators/right_walk_event_simulator.h"
+#include "simulators/spell_event_simulator.h"
+#include "simulators/staring_and_fire_event_simulator.h"
+#include "simulators/swipehold_event_simulator.h"
+#include "simulators/tap_event_simulator.h"
+#include "simulators/vjoystick_bunch_button_event_simulator.h"
+#include "simulators/vjoystick_button_event_simulator.h"
+#include "simulators/vstick_left_shift_button_event_simulator.h"
+#include "simulators/vstick_left_stick_simulator.h"
+#include "simulators/vstick_right_stick_simulator.h"
+#include "simulators/wheel_event_simulator.h"
+#include "simulators/zoom_event_simulator.h"
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+namespace {
+
+using tavikeymapmanager::ConfigKey;
+
+class NoItem : public Story {
+ protected:
+  NoItem() { Load(); }
+
+  template <typename Simulator>
+  static EventSimulator* Get() {
+    return Simulator::GetInstance();
+  }
+};
+
+TEST_F(NoItem, IsNoOnesSimulator) {
+  EXPECT_EQ(nullptr, QtKeyboardMouseEventSimulateHandler::GetSimulator(nullptr));
+  EXPECT_EQ(nullptr, QtWheelEventSimulateHandler::GetWheelSimulator(nullptr));
+}
+
+TEST_F(NoItem, PressesNothing) {
+  ConfigKey key = Key("W");
+  for (EventSimulator* simulator :
+       {Get<BunchTapEventSimulator>(), Get<CurveEventSimulator>(), Get<EyeEventSimulator>(),
+        Get<GravityEventSimulator>(), Get<LeftStickWalkEventSimulator>(), Get<MacroEventSimulator>(),
+        Get<RightStickEyeEventSimulator>(), Get<RightWalkEventSimulator>(), Get<SpellEventSimulator>(),
+        Get<StaringAndFireEventSimulator>(), Get<SwipeholdEventSimulator>(), Get<TapEventSimulator>(),
+        Get<VJoystickBunchButtonEventSimulator>(), Get<VJoystickButtonEventSimulator>(),
+        Get<VStickLeftShiftButtonEventSimulator>(), Get<VStickLeftStickSimulator>(), Get<VStickRightStickSimulator>(),
+        Get<WheelEventSimulator>(), Get<ZoomEventSimulator>()}) {
+    simulator->Press(nullptr, &key);
+    // The release of a curve goes by the key alone, and lifts the finger of a run that has ended.
+    if (simulator != Get<CurveEventSimulator>()) simulator->Release(nullptr, &key);
+    Wait(200);
+    EXPECT_WIRE_NONE();
+  }
+}
+
+TEST_F(NoItem, LeavesTheStatusOfAConfigThatIsNotThere) {
+  InputStatusManager* status = InputStatusManager::GetInstance();
+  status->ResetForKeymap(nullptr, "com.example.game", {}, false, 0, 3);
+  EXPECT_EQ(InputStatus::Normal, status->GetStatus());
+  EXPECT_EQ(3, status->GetDisplayId());
+}
+
+}  // namespace
+}  // namespace taviinputmanager
