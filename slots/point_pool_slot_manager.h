@@ -15,6 +15,8 @@ namespace taviinputmanager {
 // at exactly (0, 0) does not hold its slot.
 class PointPoolSlotManager : public SlotManager {
  public:
+  static constexpr int kSlotCount = 8;
+
   // A pool has no touch of its own.
   bool HasTouch() const override { return false; }
   LineBuffer PressLine() override { return {}; }
@@ -40,7 +42,6 @@ class PointPoolSlotManager : public SlotManager {
 
  private:
   static constexpr int kFirstSlot = 18;
-  static constexpr int kSlotCount = 8;
 
   // -1 for a point that no entry holds.
   int IndexOf(const QPointF& point) const;

@@ -11,16 +11,11 @@ namespace taviinputmanager {
 using guest_command::Contacts;
 using guest_command::Slots;
 
-namespace {
-
-constexpr int kPoolSize = 8;  // more fingers than these cannot hold one point
-
-}  // namespace
-
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
-  // At the end each press lifts one finger that its point has. A loop may press for hours.
-  if (pressed_points_.count(list.text) < kPoolSize) pressed_points_.append(list.text);
+  // At the end each press lifts one finger that its point has. A loop may press for hours, and more fingers than the
+  // pool has cannot hold one point.
+  if (pressed_points_.count(list.text) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
   Contacts contacts;
   for (const MacroPoint& element : list.elements) {
     const QPointF point = element.Now();
