@@ -3,7 +3,8 @@
 
     plot.py TIMES.json PICTURE.svg
 
-TIMES.json is what Google Benchmark writes for the benchmarks "growth/...", with repetitions; the least of each is drawn.
+TIMES.json is what Google Benchmark writes for the benchmarks "growth/...", with repetitions; the least of each is
+drawn.
 """
 import json
 import sys

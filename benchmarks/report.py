@@ -44,7 +44,7 @@ def row_of(limit, sides, counts):
         "ns_per_line_median": statistics.median(path["ns"]) / lines,
         "floor_ns_per_line": min(floor["ns"]) / lines,
         "ratio": (min(path["ns"]) / lines) / (min(against["ns"]) / against_lines),
-        "ratio_of_medians": (statistics.median(path["ns"]) / lines) / (statistics.median(against["ns"]) / against_lines),
+        "ratio_of_medians": statistics.median(path["ns"]) / lines / (statistics.median(against["ns"]) / against_lines),
         "limit": limit.get("ratio"),
         "against": limit.get("against", "floor"),
         "allocations": path["allocations"],

@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
-# Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is missing.
+# Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is
+# missing.
 #
-#   tools/install-dependencies.sh [build|test|docs|packaging|lint|bench|plot|guest|windows|coverage|valgrind|fuzz]...        (without a word: build)
+#   tools/install-dependencies.sh [GROUP...]      without a word: build
+#
+# Groups: build test docs packaging lint bench plot guest windows coverage valgrind fuzz
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)

@@ -3,8 +3,8 @@
 
 usage: written_records_test.py TEST_RECORD SCHEMA
 
-Runs the tests that save records, each in a process of its own, and looks at the files that they leave. Merged records are
-left out: those tests merge what is no record on purpose. Needs python3-jsonschema; without it the test is skipped.
+Runs the tests that save records, each in a process of its own, and looks at the files that they leave. Merged records
+are left out: those tests merge what is no record on purpose. Needs python3-jsonschema; without it the test is skipped.
 """
 import json
 import os

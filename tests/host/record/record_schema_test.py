@@ -41,7 +41,11 @@ reset
 """
 PASSING_KEYMAP = """
 format: 1
-settings: {keyboard_transparent: true, wheel_transparent: true, joystick_transparent: true, mouse_mode: Mouse_AllButton_Transparent}
+settings:
+  keyboard_transparent: true
+  wheel_transparent: true
+  joystick_transparent: true
+  mouse_mode: Mouse_AllButton_Transparent
 """
 
 
@@ -50,7 +54,8 @@ def errors(record):
 
 
 def run(*arguments, cwd, stdin=None):
-    return subprocess.run([TAVI, *map(str, arguments)], cwd=cwd, input=stdin, check=True, capture_output=True, text=True)
+    command = [TAVI, *map(str, arguments)]
+    return subprocess.run(command, cwd=cwd, input=stdin, check=True, capture_output=True, text=True)
 
 
 class RecordSchema(unittest.TestCase):
@@ -97,7 +102,8 @@ class RecordSchema(unittest.TestCase):
         for script in sorted(EXAMPLES.glob("*.txt")):
             keymap = EXAMPLES / script.read_text(encoding="utf-8").splitlines()[0].split(": ")[1]
             run("simulate", "--record", script.stem + ".json", keymap, script, cwd=self.folder)
-        for command in re.findall(r"^tavi (record merge .*)$", (EXAMPLES / "README.md").read_text(encoding="utf-8"), re.M):
+        readme = (EXAMPLES / "README.md").read_text(encoding="utf-8")
+        for command in re.findall(r"^tavi (record merge .*)$", readme, re.M):
             run(*command.split(), cwd=self.folder)
         for example in EXAMPLES.glob("*.json"):
             with self.subTest(example.name):
