@@ -6,11 +6,9 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 #include <QDateTime>
-#include <QDir>
 #include <QGuiApplication>
 #include <QThread>
 #include <QVector>
@@ -18,6 +16,7 @@
 #include "host/simulation/simulated_host.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/record/replay_file.h"
+#include "tests/support/count_threads.h"
 #include "tests/support/run_until.h"
 
 namespace taviinputmanager {
@@ -58,7 +57,6 @@ inline Ear& TheEar() {
 class Program {
  public:
   Program() {
-    std::thread([] {}).join();  // a sanitizer starts a thread of its own beside the first
     qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
     Host().table.OnInputStatusChanged = [](int status, const QString&) { TheEar().Hear("status", status); };
@@ -117,9 +115,6 @@ class Program {
   char* arguments_[2] = {program_name_, nullptr};
   std::unique_ptr<QGuiApplication> application_;
 };
-
-// Threads of this process.
-inline int CountThreads() { return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); }
 
 }  // namespace replay_threads
 }  // namespace taviinputmanager

@@ -9,7 +9,6 @@
 namespace taviinputmanager {
 namespace {
 
-using replay_threads::CountThreads;
 using replay_threads::Told;
 
 class RealReplay : public testing::Test {
