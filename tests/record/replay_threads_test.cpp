@@ -243,7 +243,7 @@ class LeavingMainWithReplays : public testing::Test {
       StopAllReplay();
       StartReplay(0, 11, QString(), busy, {});
     }
-    std::exit(CountThreads() == threads ? 0 : 2);
+    std::exit(ThreadsComeDownTo(threads) ? 0 : 2);
   }
 };
 

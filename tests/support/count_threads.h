@@ -4,6 +4,7 @@
 
 #include <thread>
 
+#include <QDeadlineTimer>
 #include <QDir>
 
 namespace taviinputmanager {
@@ -14,6 +15,16 @@ inline int CountThreads() {
   static const bool sanitizer_is_ready = (std::thread([] {}).join(), true);
   static_cast<void>(sanitizer_is_ready);
   return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+}
+
+// Whether no more than `count` are left. Qt tells that a thread is through a moment before it is gone.
+inline bool ThreadsComeDownTo(int count) {
+  const QDeadlineTimer limit(10000);
+  while (CountThreads() > count) {
+    if (limit.hasExpired()) return false;
+    std::this_thread::yield();
+  }
+  return true;
 }
 
 }  // namespace taviinputmanager

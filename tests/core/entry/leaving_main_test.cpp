@@ -162,7 +162,7 @@ class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwor
       StartReplay(0, 5, QString(), endless, {});
     }
     silence.Begin();
-    std::exit(CountThreads() == threads ? 0 : 2);
+    std::exit(ThreadsComeDownTo(threads) ? 0 : 2);
   }
 };
 
