@@ -22,22 +22,14 @@ class ItemIndex {
  public:
   // Makes the index of `items`, unless it is that of the same, unchanged list already.
   void Follow(const QList<ConfigItem*>& items) {
-    if (items_.isSharedWith(items)) return;
-    Clear();
-    items_ = items;  // shared: from now on nobody changes the list without a copy
-    for (int i = 0; i < items_.size(); ++i) Add(items_.at(i), i);
-    Link();
+    if (!items_.isSharedWith(items)) Make(items);
   }
   void Clear() { *this = ItemIndex(); }
 
   // The first item that answers to `key` alone, or null.
   ConfigItem* FindAlone(const ConfigKey& key) const {
-    const Entry* entry = FirstEntry(key, [](const Entry& e) { return !e.is_chord; });
-    for (const Stranger& stranger : strangers_) {
-      if (entry && stranger.position > entry->position) break;
-      if (stranger.item->IsKeyMatch(key) && !stranger.IsChord()) return stranger.item;
-    }
-    return entry ? entry->item : nullptr;
+    const Entry* entry = FirstAloneEntry(key);
+    return strangers_.empty() ? ItemOf(entry) : FindAloneAmongStrangers(key, entry);
   }
 
   // The first item that answers to the chord of `armed` and then `pressed`, or null.
@@ -47,20 +39,13 @@ class ItemIndex {
       if (entry && stranger.position > entry->position) break;
       if (stranger.composable && stranger.composable->IsChordMatch(armed, pressed)) return stranger.item;
     }
-    return entry ? entry->item : nullptr;
+    return ItemOf(entry);
   }
 
   // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
-    const Entry* alone = FirstEntry(configured, [](const Entry& e) { return !e.is_chord; });
-    const Entry* chord = FirstChordEntry(configured, pressed);
-    const Entry* entry = !chord || (alone && alone->position < chord->position) ? alone : chord;
-    for (const Stranger& stranger : strangers_) {
-      if (entry && stranger.position > entry->position) break;
-      if (!stranger.IsChord() && stranger.item->IsKeyMatch(configured)) return true;
-      if (stranger.composable && stranger.composable->IsChordMatch(configured, pressed)) return true;
-    }
-    return entry != nullptr;
+    if (!strangers_.empty()) return IsMatchAmongStrangers(configured, pressed);
+    return FirstAloneEntry(configured) || FirstChordEntry(configured, pressed);
   }
 
  private:
@@ -82,6 +67,34 @@ class ItemIndex {
 
     bool IsChord() const { return composable && IsKeySet(composable->first_key); }
   };
+
+  static ConfigItem* ItemOf(const Entry* entry) { return entry ? entry->item : nullptr; }
+
+  // What seldom happens stays out of the way of each event: a key of no item is told by its empty bucket.
+  Q_NEVER_INLINE void Make(const QList<ConfigItem*>& items) {
+    Clear();
+    items_ = items;  // shared: from now on nobody changes the list without a copy
+    for (int i = 0; i < items_.size(); ++i) Add(items_.at(i), i);
+    Link();
+  }
+  Q_NEVER_INLINE ConfigItem* FindAloneAmongStrangers(const ConfigKey& key, const Entry* entry) const {
+    for (const Stranger& stranger : strangers_) {
+      if (entry && stranger.position > entry->position) break;
+      if (stranger.item->IsKeyMatch(key) && !stranger.IsChord()) return stranger.item;
+    }
+    return ItemOf(entry);
+  }
+  Q_NEVER_INLINE bool IsMatchAmongStrangers(const ConfigKey& configured, const ConfigKey& pressed) const {
+    const Entry* alone = FirstAloneEntry(configured);
+    const Entry* chord = FirstChordEntry(configured, pressed);
+    const Entry* entry = !chord || (alone && alone->position < chord->position) ? alone : chord;
+    for (const Stranger& stranger : strangers_) {
+      if (entry && stranger.position > entry->position) break;
+      if (!stranger.IsChord() && stranger.item->IsKeyMatch(configured)) return true;
+      if (stranger.composable && stranger.composable->IsChordMatch(configured, pressed)) return true;
+    }
+    return entry != nullptr;
+  }
 
   static unsigned HashOf(const ConfigKey& key) {
     if (IsJoystickKey(key)) return qHash(key.text);
@@ -114,10 +127,13 @@ class ItemIndex {
     }
   }
 
+  // Of the bucket of `key`; kNone when no item has a key there.
+  int HeadOf(const ConfigKey& key) const {
+    return buckets_.empty() ? kNone : buckets_[HashOf(key) & (buckets_.size() - 1)];
+  }
+  // From entry `i` on.
   template <typename Condition>
-  const Entry* FirstEntry(const ConfigKey& key, Condition condition) const {
-    if (entries_.empty()) return nullptr;
-    int i = buckets_[HashOf(key) & (buckets_.size() - 1)];
+  Q_NEVER_INLINE const Entry* FirstOf(int i, const ConfigKey& key, Condition condition) const {
     while (i != kNone) {
       const Entry& entry = entries_[static_cast<std::size_t>(i)];
       if (IsSameKey(*entry.key, key) && condition(entry)) return &entry;
@@ -126,9 +142,15 @@ class ItemIndex {
     return nullptr;
   }
 
+  const Entry* FirstAloneEntry(const ConfigKey& key) const {
+    const int head = HeadOf(key);
+    return head == kNone ? nullptr : FirstOf(head, key, [](const Entry& e) { return !e.is_chord; });
+  }
   const Entry* FirstChordEntry(const ConfigKey& armed, const ConfigKey& pressed) const {
     if (!has_chords_ && !armed.device.isEmpty()) return nullptr;  // no first key is of any device
-    return FirstEntry(pressed, [&armed](const Entry& e) { return e.first_key && IsSameKey(*e.first_key, armed); });
+    const int head = HeadOf(pressed);
+    if (head == kNone) return nullptr;
+    return FirstOf(head, pressed, [&armed](const Entry& e) { return e.first_key && IsSameKey(*e.first_key, armed); });
   }
 
   static constexpr int kNone = -1;
