@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Draws how cost grows: keymap size and live workers.
+"""Draws how cost grows: keymap size, live workers and the length of a record.
 
-    plot.py TIMES.json PICTURE.svg
+    plot.py TIMES.json RECORDS.jsonl PICTURE.svg
 
 TIMES.json is what Google Benchmark writes for the benchmarks "growth/...", with repetitions; the least of each is
-drawn.
+drawn. RECORDS.jsonl has what tavi_bench_records prints, a line for each length.
 """
 import json
 import sys
@@ -22,7 +22,12 @@ TITLES = {
     "walk_tick": "tick of a walk, event loop included",
 }
 LINES = {"tap": 2, "pass_through": 2, "walk_tick": 1}
-AXES = {"items": "items of the keymap", "workers": "macros asleep beside it"}
+AXES = {"items": "items of the keymap", "workers": "macros asleep beside it", "actions": "actions of a record"}
+RECORD_TITLES = {
+    "parse_s": "bare parse of its bytes, an action",
+    "load_s": "loading, an action",
+    "replay_s": "replaying, an action",
+}
 
 
 def read_curves(times):
@@ -38,12 +43,19 @@ def read_curves(times):
     return curves
 
 
+def read_record_curves(lines):
+    """{what: {actions: ns an action}}"""
+    runs = [json.loads(line) for line in lines]
+    return {what: {run["actions"]: run[what] * 1e9 / run["actions"] for run in runs} for what in RECORD_TITLES}
+
+
 def draw(curves, picture):
-    figure, panels = plt.subplots(1, len(AXES), figsize=(10, 3.8), layout="constrained")
+    titles = {**TITLES, **RECORD_TITLES}
+    figure, panels = plt.subplots(1, len(AXES), figsize=(14, 3.8), layout="constrained")
     for panel, (by, title) in zip(panels, AXES.items()):
         for what, curve in sorted(curves[by].items()):
             sizes = sorted(curve)
-            panel.plot(sizes, [curve[size] for size in sizes], marker="o", label=TITLES[what])
+            panel.plot(sizes, [curve[size] for size in sizes], marker="o", label=titles[what])
         panel.set_xscale("log")
         panel.set_xlabel(title)
         panel.set_ylabel("ns")
@@ -53,4 +65,7 @@ def draw(curves, picture):
     figure.savefig(picture, metadata={"Date": None})
 
 
-draw(read_curves(json.loads(Path(sys.argv[1]).read_text())), sys.argv[2])
+times, records, picture = sys.argv[1:]
+curves = read_curves(json.loads(Path(times).read_text()))
+curves["actions"] = read_record_curves(Path(records).read_text().splitlines())
+draw(curves, picture)
