@@ -13,7 +13,8 @@ struct Source {
   KeymapConfig* keymap = nullptr;
   KeymapConfig* joystick = nullptr;
   bool fail = false;
-  QStringList paths;
+  int loads = 0;
+  QString last_path;
 };
 
 Source& GetSource() {
@@ -31,7 +32,8 @@ KeymapConfig* Give(KeymapConfig** next) {
 void SetNextKeymap(KeymapConfig* config) { GetSource().keymap = config; }
 void SetNextJoystickKeymap(KeymapConfig* config) { GetSource().joystick = config; }
 void FailLoads(bool fail) { GetSource().fail = fail; }
-const QStringList& KeymapPaths() { return GetSource().paths; }
+int KeymapLoads() { return GetSource().loads; }
+QString LastKeymapPath() { return GetSource().last_path; }
 
 }  // namespace taviinputmanager::test
 
@@ -39,7 +41,8 @@ namespace tavikeymapmanager {
 
 KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) {
   auto& source = taviinputmanager::test::GetSource();
-  source.paths.append(path);
+  ++source.loads;
+  source.last_path = path;
   return source.fail ? nullptr : taviinputmanager::test::Give(&source.keymap);
 }
 

@@ -14,12 +14,14 @@ using tavikeymapmanager::StaringConfigItem;
 
 class KeymapLoad : public Story {
  protected:
-  static QString LastPath() { return test::KeymapPaths().last(); }
   static void LoadFor(const QString& path, const QString& package) { OnLoadKeymapConfigAndInfo(path, package, "x", 1); }
   static void SetStatus(InputStatus status) { InputStatusManager::GetInstance()->SetStatus(status, "K"); }
 };
 
-TEST_F(KeymapLoad, InitializeLoadsAnEmptyKeymap) { EXPECT_EQ(QStringList{QString()}, test::KeymapPaths()); }
+TEST_F(KeymapLoad, InitializeLoadsAnEmptyKeymap) {
+  EXPECT_EQ(1, test::KeymapLoads());
+  EXPECT_EQ(QString(), test::LastKeymapPath());
+}
 
 TEST_F(KeymapLoad, KnowsThePackagesOfTheSystem) {
   for (const char* own :
@@ -34,19 +36,19 @@ TEST_F(KeymapLoad, KnowsThePackagesOfTheSystem) {
 
 TEST_F(KeymapLoad, AnAppOfTheSystemGetsTheSystemKeymap) {
   LoadFor("", "com.android.settings");
-  EXPECT_EQ("system-9252A9CA-0C32-4FFD-8BF6-82653751D068", LastPath());
+  EXPECT_EQ("system-9252A9CA-0C32-4FFD-8BF6-82653751D068", test::LastKeymapPath());
   EXPECT_TRUE(InputStatusManager::GetInstance()->HasKeymap());
 }
 
 TEST_F(KeymapLoad, AnyOtherAppWithoutPathGetsNone) {
   LoadFor("", "com.example");
-  EXPECT_EQ("", LastPath());
+  EXPECT_EQ("", test::LastKeymapPath());
   EXPECT_FALSE(InputStatusManager::GetInstance()->HasKeymap());
 }
 
 TEST_F(KeymapLoad, APathIsTakenWhateverThePackage) {
   LoadFor("a.yaml", "com.android.settings");
-  EXPECT_EQ("a.yaml", LastPath());
+  EXPECT_EQ("a.yaml", test::LastKeymapPath());
   EXPECT_TRUE(InputStatusManager::GetInstance()->HasKeymap());
   EXPECT_EQ("com.android.settings", InputStatusManager::GetInstance()->GetPackageName());
 }

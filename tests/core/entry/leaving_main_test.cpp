@@ -131,12 +131,12 @@ void LetGoAndHoldEverything() {
   HoldEverything();
 }
 
-class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwork, const char*>> {
+class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwork, std::string>> {
  protected:
   LeavingMainInTheMiddle() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 
   // Ends the process: 0 when all was well.
-  [[noreturn]] static void Leave(Clockwork clockwork, const char* keymap) {
+  [[noreturn]] static void Leave(Clockwork clockwork, const QString& keymap) {
     static Silence silence;
     int threads = 0;
     {
@@ -166,9 +166,9 @@ class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwor
   }
 };
 
-std::string NameOf(const testing::TestParamInfo<std::tuple<Clockwork, const char*>>& info) {
+std::string NameOf(const testing::TestParamInfo<std::tuple<Clockwork, std::string>>& info) {
   const bool is_real = std::get<0>(info.param) == Clockwork::kReal;
-  const QString file = QString(std::get<1>(info.param)).section('/', -1).section('.', 0, 0);
+  const QString file = QString::fromStdString(std::get<1>(info.param)).section('/', -1).section('.', 0, 0);
   return (file + (is_real ? "_real" : "_virtual")).toStdString();
 }
 
@@ -180,7 +180,8 @@ INSTANTIATE_TEST_SUITE_P(
     NameOf);
 
 TEST_P(LeavingMainInTheMiddle, IsSafe) {
-  EXPECT_EXIT(Leave(std::get<0>(GetParam()), std::get<1>(GetParam())), testing::ExitedWithCode(0), "");
+  const auto& [clockwork, keymap] = GetParam();
+  EXPECT_EXIT(Leave(clockwork, QString::fromStdString(keymap)), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
