@@ -1,5 +1,7 @@
 #include "core/display_geometry.h"
 
+#include <limits>
+
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/story.h"
 
@@ -174,6 +176,15 @@ TEST_F(Geometry, ScalesAVectorToALength) {
   EXPECT_EQ(QPoint(0, 0), DisplayGeometry::ScaleToLength({0, 0}, 10));
   // Squares that no int holds.
   EXPECT_EQ(QPoint(60, 80), DisplayGeometry::ScaleToLength({300000, 400000}, 100));
+}
+
+// A share of a window without size, say.
+TEST_F(Geometry, APlaceThatIsNoNumberIsNowhere) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  for (const double nowhere : {std::numeric_limits<double>::quiet_NaN(), kInfinity, -kInfinity}) {
+    EXPECT_EQ(QPoint(kNoPosition, kNoPosition), RelativeToTouch(nowhere, 0.5)) << nowhere;
+    EXPECT_EQ(QPoint(kNoPosition, kNoPosition), RelativeToTouch(0.5, nowhere)) << nowhere;
+  }
 }
 
 }  // namespace
