@@ -126,6 +126,14 @@ watch_replay() {
   xdotool keydown d
 }
 
+# Types into a text field of the guest while everything is recorded.
+type_text() {
+  move_to 0.314 0.022
+  xdotool click 1
+  sleep 0.3
+  xdotool type --delay 30 "good game"
+}
+
 # Switches the editor on, selects the walk, and takes it by its rim.
 edit_walk() {
   move_to 0.1765 0.022
@@ -149,6 +157,7 @@ picture editor 3000 shooter.yaml edit_walk
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 "$tavi" record merge -o "$folder/walks.json" "$root/examples/records/walk.json" --times 5 --delay 200 >/dev/null
+picture typing 2600 shooter.yaml type_text --record "$folder/typed.json"
 picture replay 2600 shooter.yaml watch_replay --second-view --replay "$folder/walks.json"
 
 picture paused 2600 shooter.yaml pause_mapping

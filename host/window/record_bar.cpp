@@ -1,6 +1,9 @@
 #include "host/window/record_bar.h"
 
+#include <memory>
+
 #include <QActionGroup>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -8,8 +11,10 @@
 #include <QProgressBar>
 #include <QToolButton>
 
+#include "host/window/long_work.h"
 #include "host/window/recorder.h"
 #include "host/window/replayer.h"
+#include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
 
@@ -21,6 +26,7 @@ namespace {
 constexpr double kSpeeds[] = {0.25, 0.5, 1.0, 2.0, 4.0};
 constexpr int kRefreshMs = 100;
 constexpr int kProgressWidth = 180;
+constexpr qint64 kAtOnceBytes = 16'000'000;  // a record up to here is read in less than half a second
 constexpr char kFileTypes[] = "Records (*.json);;All files (*)";
 
 QString TimeText(qint64 ms) {
@@ -28,7 +34,18 @@ QString TimeText(qint64 ms) {
   return QStringLiteral("%1:%2.%3").arg(tenths / 600).arg(tenths / 10 % 60, 2, 10, QLatin1Char('0')).arg(tenths % 10);
 }
 
+bool IsLong(const QString& file) { return QFileInfo(file).size() > kAtOnceBytes; }
+
 QString SpeedText(double speed) { return QStringLiteral("%1\u00D7").arg(speed); }
+
+// What the library does in one go: the pointer tells that it takes its time.
+class Waiting {
+ public:
+  Waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~Waiting() { QApplication::restoreOverrideCursor(); }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+};
 
 }  // namespace
 
@@ -142,8 +159,16 @@ bool RecordBar::SaveRecording() {
     Q_EMIT DialogClosed();
   }
   if (file.isEmpty()) return false;
+  Announce(QStringLiteral("Saving %1\u2026").arg(file));
+  const Waiting waiting;
   Recorder::GetInstance()->Stop(file);
   return true;
+}
+
+// Seen although the next step lets nothing be painted.
+void RecordBar::Announce(const QString& text) {
+  Q_EMIT Message(text, false);
+  window()->repaint();
 }
 
 bool RecordBar::OpenRecord(QString file) {
@@ -153,20 +178,47 @@ bool RecordBar::OpenRecord(QString file) {
     Q_EMIT DialogClosed();
   }
   if (file.isEmpty()) return false;
-  const QString problem = Replayer::GetInstance()->Open(file);
-  if (!problem.isEmpty()) Q_EMIT Message(problem, true);
-  return problem.isEmpty();
+  const std::optional<RecordInfo> info = Read(file);
+  if (!info) return false;
+  Replayer::GetInstance()->Open(file, *info);
+  return true;
+}
+
+std::optional<RecordInfo> RecordBar::Read(const QString& file) {
+  struct Result {
+    bool is_record = false;
+    RecordInfo info;
+  };
+  const auto result = std::make_shared<Result>();  // stays for a reading that was cancelled
+  const auto read = [file, result] { result->is_record = taviinputmanager::GetRecordInfo(file, &result->info); };
+  if (!IsLong(file)) {
+    read();
+  } else {
+    const bool is_done = DoLongWork(this, QStringLiteral("Reading %1\u2026").arg(QFileInfo(file).fileName()), read);
+    Q_EMIT DialogClosed();
+    if (!is_done) return std::nullopt;
+  }
+  if (result->is_record) return result->info;
+  Q_EMIT Message(QStringLiteral("%1 is no record").arg(file), true);
+  return std::nullopt;
 }
 
 void RecordBar::TogglePlaying() {
   Replayer* replayer = Replayer::GetInstance();
   switch (replayer->GetState()) {
     case State::kNone:
-    case State::kFinished: return replayer->Play({Speed(), hand_->isChecked()});
+    case State::kFinished: return Play();
     case State::kStarting: return;
     case State::kPlaying: return replayer->Pause();
     case State::kPaused: return replayer->Resume();
   }
+}
+
+void RecordBar::Play() {
+  Replayer* replayer = Replayer::GetInstance();
+  if (IsLong(replayer->File())) Announce(QStringLiteral("Reading %1\u2026").arg(replayer->File()));
+  const Waiting waiting;
+  replayer->Play({Speed(), hand_->isChecked()});
 }
 
 // ---- What is shown

@@ -1,6 +1,8 @@
 #ifndef HOST_WINDOW_RECORD_BAR_H_
 #define HOST_WINDOW_RECORD_BAR_H_
 
+#include <optional>
+
 #include <QString>
 #include <QTimer>
 #include <QToolBar>
@@ -10,6 +12,7 @@ class QActionGroup;
 class QLabel;
 class QMenu;
 class QProgressBar;
+struct RecordInfo;
 
 namespace tavi {
 
@@ -48,6 +51,10 @@ class RecordBar : public QToolBar {
   QMenu* MakeSpeedMenu();
   void AddSpeedButton();
   void TogglePause();
+  void Play();
+  // The header of a record; nothing when the file is none, which a person is told, or when the person backs out.
+  std::optional<RecordInfo> Read(const QString& file);
+  void Announce(const QString& text);
   void Show();
   void ShowRecording();
   void ShowReplay();

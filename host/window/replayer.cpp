@@ -56,14 +56,11 @@ Replayer* Replayer::GetInstance() {
 
 Replayer::Replayer() { taviinputmanager::InitializeReplayCallbacks(ReplayerFunctions::Table()); }
 
-QString Replayer::Open(const QString& file) {
-  RecordInfo info;
-  if (!taviinputmanager::GetRecordInfo(file, &info)) return QStringLiteral("%1 is no record").arg(file);
+void Replayer::Open(const QString& file, const RecordInfo& info) {
   Stop();
   file_ = file;
   info_ = info;
   TakeState(State::kNone);
-  return {};
 }
 
 void Replayer::Play(ReplayParam param) {

@@ -22,9 +22,8 @@ class Replayer : public QObject {
 
   static Replayer* GetInstance();
 
-  // Takes a record to play, and ends the replay before. Returns what is wrong with the file; empty when it can be
-  // played.
-  QString Open(const QString& file);
+  // Takes a record to play, whose header is `info`, and ends the replay before.
+  void Open(const QString& file, const RecordInfo& info);
   const QString& File() const { return file_; }
 
   // Each for a record that was opened; without effect where it makes no sense.

@@ -8,8 +8,8 @@
 // each change of the app in front; then events. The send functions are not tested: a line before they are set is a
 // fault.
 //
-// Threads: every function is called on the host's main thread, the one of QCoreApplication. Lines leave on it too, with
-// one exception told under hazards.
+// Threads: functions that do not say "any thread" are called on the host's main thread, the one of QCoreApplication.
+// Lines leave on it too, with one exception told under hazards.
 //
 // Ownership: tables, events and strings stay the caller's. Tables live as long as the library is used.
 //
@@ -153,8 +153,8 @@ TAVI_EXPORT void ResumeRecord();
 // Adds a command of the host's own to the recording; a replay hands it to the callback `vcontrol`. Nothing for empty
 // `data`. `extra1` "1" makes a recording worth its file.
 TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
-// Sets the time of creation in a record file to now; all else in it stays, also keys that are not the library's. Throws
-// what the JSON parser (Poco) throws.
+// Sets the time of creation in a record file to now; all else in it stays, also keys that are not the library's. Any
+// thread. Throws what the JSON parser (Poco) throws.
 TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
 // Captures host events as lines of the macro language under a name. Meanwhile no event line is recorded.
 TAVI_EXPORT void StartRecordMacroInstruction(QString name);
@@ -163,12 +163,12 @@ TAVI_EXPORT void StopRecordMacroInstruction(QString name);
 // The macro that was captured last, "sleep:<ms>" and instruction by turns; empty under any other name and during a
 // capture.
 TAVI_EXPORT QList<QString> getRecordMacroInstruction(QString name);
-// Reads the header of a record file. False when it cannot be read; `info` is the caller's, and untouched then.
+// Reads the header of a record file. False when it cannot be read; `info` is untouched then. Any thread.
 TAVI_EXPORT bool GetRecordInfo(const QString& file, RecordInfo* info);
-// Reads the names that StartRecord was given. What is not there leaves its output as it is.
+// Reads the names that StartRecord was given. What is not there leaves its output as it is. Any thread.
 TAVI_EXPORT void GetScriptAppAndPackage(const QString& file, QString& app, QString& package);
 // Writes the record files named in `params`, in order, as one merged record to `file`, a playlist. False, and `file`
-// untouched, when one of them cannot be read or `file` not be written. `file` may be one of the sources.
+// untouched, when one of them cannot be read or `file` not be written. `file` may be one of the sources. Any thread.
 TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& params);
 
 // ---- Replay --------------------------------------------------------------------------------------------------------
