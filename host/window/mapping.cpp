@@ -22,6 +22,7 @@ void Mapping::Read(const QString& path) {
 }
 
 void Mapping::ReadJoystick(const QString& path) {
+  pads_->ReleaseAll();  // while the items that they were pressed by are alive
   joystick_keymap_.Read(path);
   if (!paused_ && !joystick_keymap_.KeepsEarlierState()) LoadJoystick();
   Q_EMIT Changed();
@@ -29,6 +30,7 @@ void Mapping::ReadJoystick(const QString& path) {
 
 void Mapping::SetPaused(bool paused) {
   if (paused == paused_) return;
+  pads_->ReleaseAll();
   paused_ = paused;
   LoadJoystick();
   Load();  // lets go, too
@@ -43,7 +45,6 @@ void Mapping::Load() {
 }
 
 void Mapping::LoadJoystick() {
-  pads_->ReleaseAll();  // by the keymap that they were pressed by
   const QString path = joystick_keymap_.PathForUse();
   const bool is_plain = paused_ || path.isEmpty();
   taviinputmanager::OnLoadJoystickConfigAndInfo(is_plain ? km::keywords::kSystemKeymap : path, 0);
