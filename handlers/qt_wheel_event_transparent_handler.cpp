@@ -1,5 +1,6 @@
 #include "handlers/qt_wheel_event_transparent_handler.h"
 
+#include <cmath>
 #include <optional>
 
 #include <QWheelEvent>
@@ -45,8 +46,9 @@ void QtWheelEventTransparentHandler::OnWheel(QWheelEvent* event, bool transparen
   geometry->RelativeToTouch(x, y, static_cast<double>(point->x()) / display.width(),
                             static_cast<double>(point->y()) / display.height());
   if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
-  SendEvent(use_delta == 1 ? guest_command::WheelWithDelta(x, y, direction * delta * kUnitsPerNotch)
-                           : guest_command::Wheel(x, y, direction * kUnitsPerNotch, 0));
+  if (use_delta != 1) return SendEvent(guest_command::Wheel(x, y, direction * kUnitsPerNotch, 0));
+  const double amount = direction * delta * kUnitsPerNotch;
+  if (std::isfinite(amount)) SendEvent(guest_command::WheelWithDelta(x, y, amount));  // guests read numbers
 }
 
 }  // namespace taviinputmanager

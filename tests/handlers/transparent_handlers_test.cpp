@@ -214,6 +214,18 @@ TEST_F(Transparent, AWheelWithDelta) {
   EXPECT_WIRE("0ms 1:WHEEL_WITH_DELTA:640:360:125.5:0", "0ms 1:WHEEL_WITH_DELTA:640:360:-125.5:0");
 }
 
+// 1.7e308 * 100 is beyond what a double holds.
+TEST_F(Transparent, ATurnByNoNumberIsNoTurn) {
+  for (const double delta : {qQNaN(), qInf(), 1.7e308}) {
+    Settings().wheel_transparent = true;
+    Wheel().wheel_use_delta = 1;
+    Wheel().wheel_delta = delta;
+    Load();
+    Play("wheel +120 640,360");
+    EXPECT_WIRE_NONE() << delta;
+  }
+}
+
 TEST_F(Transparent, OnlyOneSelectsTheDelta) {
   Settings().wheel_transparent = true;
   Wheel().wheel_use_delta = 2;
