@@ -24,13 +24,18 @@ bool exit_is_watched = false;
 WorkerThread::WorkerThread(QObject* worker) : is_virtual_(Clock::IsVirtual()), worker_(worker) {
   new WorkerGate(worker, &state_);
   if (!is_virtual_) worker->moveToThread(this);
+  // Connected first, so that the worker is gone when others hear of `finished`.
+  connect(this, &QThread::finished, this, &WorkerThread::DeleteWorker, Qt::QueuedConnection);
   LiveRuns()->append(this);
   if (exit_is_watched) return;
   qAddPostRoutine(&WorkerThread::QuitLiveRuns);
   exit_is_watched = true;
 }
 
-WorkerThread::~WorkerThread() { LiveRuns()->removeOne(this); }
+WorkerThread::~WorkerThread() {
+  DeleteWorker();
+  LiveRuns()->removeOne(this);
+}
 
 void WorkerThread::Start() { QMetaObject::invokeMethod(this, &WorkerThread::Begin, Qt::QueuedConnection); }
 
@@ -44,7 +49,7 @@ QTimer* WorkerThread::MakeWorkerTimer(QObject* owner) {
 }
 
 void WorkerThread::quit() {
-  if (state_.exchange(WorkerRunState::kClosed) == WorkerRunState::kClosed) return;  // has ended already
+  if (MoveOn(&state_, WorkerRunState::kClosed) == WorkerRunState::kClosed) return;  // has ended already
   // Connected last, so that everyone else hears of `finished` first. Posted once more, so that what was posted to this
   // object up to then comes before its end.
   connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::QueuedConnection);
@@ -58,7 +63,9 @@ void WorkerThread::quit() {
 void WorkerThread::run() {
   if (state_.load() != WorkerRunState::kClosed) Q_EMIT started(QPrivateSignal());
   exec();
-  delete worker_;
+  const auto timers = worker_->findChildren<QTimer*>();
+  for (QTimer* timer : timers) timer->stop();  // which no other thread may do
+  worker_->moveToThread(thread());
 }
 
 void WorkerThread::Begin() {
@@ -74,14 +81,18 @@ void WorkerThread::Begin() {
 }
 
 void WorkerThread::RetireWorker() {
-  WorkerRunState open = WorkerRunState::kOpen;
-  state_.compare_exchange_strong(open, WorkerRunState::kRetiring);
+  MoveOn(&state_, WorkerRunState::kRetiring);
   worker_->deleteLater();
 }
 
 void WorkerThread::EndWithoutThread() {
-  delete worker_;
+  DeleteWorker();
   QMetaObject::invokeMethod(this, "finished", Qt::QueuedConnection);
+}
+
+void WorkerThread::DeleteWorker() {
+  delete worker_;
+  worker_ = nullptr;
 }
 
 // Never destroyed: an application object with static lifetime may go after all other static objects.

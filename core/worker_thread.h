@@ -5,7 +5,6 @@
 #include <atomic>
 
 #include <QList>
-#include <QPointer>
 #include <QThread>
 
 #include "core/worker_gate.h"
@@ -33,8 +32,8 @@ namespace taviinputmanager {
 // In real time and in virtual time alike:
 // - Nothing of the worker runs before the caller of Start has returned to the event loop. `started` reaches the worker
 //   before any request made after Start; a slot of it runs where the worker lives.
-// - After `quit` was handled no event and no tick reaches the worker. It is deleted then, if not before: in virtual
-//   time at once, else on its own thread when the slot that it may be in returns.
+// - After `quit` was handled no event and no tick reaches the worker. It is deleted on the main thread: in virtual time
+//   at once, else when the slot that it may be in has returned, ahead of `finished`.
 // - `finished` comes once, also for a run that was quit before it began; such a worker never runs.
 // - The run deletes itself after `finished`. What was posted to it before (a functor with the run as its context, and
 //   one more posted from there) still runs.
@@ -53,8 +52,8 @@ class WorkerThread : public QThread {
   // Once.
   void Start();
 
-  // From the first such signal on the worker gets no tick, and it deletes itself; requests that were on their way still
-  // reach it, unless quit comes first. To be used for every worker that ends its own life.
+  // From the first such signal on the worker gets no tick. Requests that were on their way still reach it, unless quit
+  // comes first; later ones do not. To be used for every worker that ends its own life.
   template <typename Worker, typename... Args>
   void DeleteWorkerOn(Worker* worker, void (Worker::*signal)(Args...)) {
     connect(worker, signal, this, &WorkerThread::RetireWorker, Qt::DirectConnection);
@@ -79,6 +78,7 @@ class WorkerThread : public QThread {
   void Begin();
   void RetireWorker();
   void EndWithoutThread();
+  void DeleteWorker();
 
   static QList<WorkerThread*>* LiveRuns();
   static void QuitLiveRuns();
@@ -86,7 +86,7 @@ class WorkerThread : public QThread {
   const bool is_virtual_;
   bool begun_ = false;  // main thread: a thread was started, or in virtual time `started` was emitted
   std::atomic<WorkerRunState> state_{WorkerRunState::kOpen};
-  QPointer<QObject> worker_;  // owned
+  QObject* worker_;  // owned; null once it is deleted
 };
 
 }  // namespace taviinputmanager

@@ -197,28 +197,40 @@ TEST_P(WorkerRun, QuitKeepsRequestsFromTheWorker) {
   EXPECT_EQ(journal_.Take(), "deleted");
 }
 
-TEST_P(WorkerRun, LetsAWorkerDeleteItselfByAPlainConnection) {
+TEST_P(WorkerRun, LetsAWorkerGiveItselfUpByAPlainConnection) {
   auto* worker = new TickWorker(&journal_, 2, 1);
   const QPointer<WorkerThread> run = new WorkerThread(worker);
   QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
+  QObject::connect(&owner_, &Owner::Request, worker, &TickWorker::Request, Qt::QueuedConnection);
   QObject::connect(worker, &TickWorker::Finished, worker, &QObject::deleteLater, Qt::DirectConnection);
+  QObject::connect(worker, &TickWorker::Ticked, &owner_, &Owner::OnTicked, Qt::QueuedConnection);
   run->Start();
-  ASSERT_TRUE(RunUntil([] { return live_workers == 0; }));
+  ASSERT_TRUE(RunUntil([this] { return owner_.ticks == 2; }));
+  for (int i = 0; i < 5; ++i) Clock::Sleep(1);  // in which it would tick on
+  program_.DeliverPosted();
+  Q_EMIT owner_.Request(QStringLiteral("request"));
+  Clock::Sleep(5);
+  program_.DeliverPosted();
   run->quit();
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(journal_.Take(), "process, tick, tick, deleted");
 }
 
-TEST_P(WorkerRun, DeletesAWorkerThatDoesNotDoItItself) {
+TEST_P(WorkerRun, DeletesItsWorkerBeforeOthersHearThatItFinished) {
   auto* worker = new TickWorker(&journal_, 2, 1);
   const QPointer<WorkerThread> run = new WorkerThread(worker);
   QObject::connect(run, &WorkerThread::started, worker, &TickWorker::Process);
   QObject::connect(worker, &TickWorker::Finished, run, &WorkerThread::quit, Qt::QueuedConnection);
+  QThread* deleted_on = nullptr;
+  QObject::connect(
+      worker, &QObject::destroyed, worker, [&deleted_on] { deleted_on = QThread::currentThread(); },
+      Qt::DirectConnection);
   int live_at_finish = -1;
   QObject::connect(run, &QThread::finished, &owner_, [&live_at_finish] { live_at_finish = live_workers; });
   run->Start();
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(live_at_finish, 0);
+  EXPECT_EQ(deleted_on, owner_.thread());
   EXPECT_GE(journal_.Count(QStringLiteral("tick")), 2);
 }
 
@@ -288,6 +300,19 @@ TEST_P(RealRun, AnswersRequestsThatWereOnTheirWayWhenItsWorkerGaveItselfUp) {
   while (journal_.Count(QStringLiteral("request")) == 0) Clock::Sleep(1);
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(journal_.Take(), "process, unblocked, finish, request, deleted");
+}
+
+TEST_P(RealRun, LosesNothingOfRequestsThatMeetTheEndOfItsWorker) {
+  // What was lost would be found by a leak checker.
+  for (int i = 0; i < 300; ++i) {
+    const QPointer<WorkerThread> run = owner_.StartRun(1, 0);
+    while (run) {
+      for (int k = 0; k < 20; ++k) Q_EMIT owner_.Request(QString());
+      QCoreApplication::processEvents();
+    }
+  }
+  EXPECT_EQ(owner_.finished_runs, 300);
+  EXPECT_EQ(live_workers, 0);
 }
 
 TEST_P(RealRun, EndsWhereTheSystemHasNoThreadToGive) {
