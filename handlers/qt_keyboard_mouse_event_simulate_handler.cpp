@@ -178,15 +178,18 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
   UpdateEscapeState();
 }
 
+bool QtKeyboardMouseEventSimulateHandler::IsEscapeOccupied() const {
+  if (!config_) return false;
+  const auto& settings = SettingsOf(config_);
+  if (settings.keyboard_transparent && settings.escape_to_guest) return true;
+  // As isConfigKeyMatch tells, of the index at hand: this is asked at each key that passes through.
+  const ItemIndex& index = Index();
+  return index.IsMatch(escape_key_, current_key_) ||
+         (IsKeySet(current_key_) && index.IsMatch(current_key_, escape_key_));
+}
+
 void QtKeyboardMouseEventSimulateHandler::UpdateEscapeState() {
-  bool occupied = false;
-  if (config_) {
-    occupied = tavikeymapmanager::isConfigKeyMatch(config_, &escape_key_, &current_key_) ||
-               (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &current_key_, &escape_key_));
-    const auto& settings = SettingsOf(config_);
-    if (settings.keyboard_transparent && settings.escape_to_guest) occupied = true;
-  }
-  if (callbacks_ && callbacks_->OnEscapeKeyOccupied) callbacks_->OnEscapeKeyOccupied(occupied);
+  if (callbacks_ && callbacks_->OnEscapeKeyOccupied) callbacks_->OnEscapeKeyOccupied(IsEscapeOccupied());
 }
 
 }  // namespace taviinputmanager

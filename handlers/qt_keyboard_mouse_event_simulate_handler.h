@@ -77,6 +77,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool PressEscape(const QKeyEvent* event);
   bool ReleaseEscape(const QKeyEvent* event);
   void ClearCurrentKey();
+  // Whether an item takes Escape, alone or in a chord with the key that is armed, or the guest gets it.
+  bool IsEscapeOccupied() const;
   // Tells the host whether Escape is taken.
   void UpdateEscapeState();
 

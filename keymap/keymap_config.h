@@ -10,7 +10,8 @@
 
 namespace tavikeymapmanager {
 
-// Owns all that it points to; the input manager owns the config and destroys it before the next load.
+// Owns all that it points to; the input manager owns the config and destroys it before the next load. Items keep their
+// keys once a keymap is in use: they are found by the keys that they had at the first search after the load.
 struct TAVI_KEYMAP_RECORD KeymapConfig {
   KeymapConfig() = default;
   KeymapConfig(const KeymapConfig&) = delete;

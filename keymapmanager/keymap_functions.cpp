@@ -21,13 +21,6 @@ KeymapConfig* Load(const QString& path) {
   return result.config.release();
 }
 
-// Of the list that was asked about last.
-const ItemIndex& IndexOf(const KeymapConfig& config) {
-  static ItemIndex index;
-  index.Follow(config.items);
-  return index;
-}
-
 }  // namespace
 
 KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) { return Load(path); }
@@ -47,7 +40,9 @@ void SetTextForConfigKey(ConfigKey* key) {
 
 bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed) {
   if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
-  return IndexOf(*config).IsMatch(*configured, *pressed);
+  ItemIndex index;  // a new one each time: a caller may have changed a key of the same config
+  index.Follow(config->items);
+  return index.IsMatch(*configured, *pressed);
 }
 
 int getMacroConfigKeyCode(QEvent* event) {

@@ -345,6 +345,23 @@ TEST_F(SimulateHandler, AMappedEscapeIsTaken) {
   EXPECT_CALLS("0ms status 0", "0ms escape_occupied 1", "0ms gravity 0 0 0");
 }
 
+TEST_F(SimulateHandler, AKeymapThatIsSetAgainIsReadAnew) {
+  Load();
+  tavikeymapmanager::KeymapConfig config;
+  auto* click = new ConfigItem;
+  click->type = "Click";
+  click->key = Key("W");
+  config.items = {click};
+  auto* handler = QtKeyboardMouseEventSimulateHandler::GetInstance();
+  Forget();
+  handler->SetConfig(&config);
+  EXPECT_CALLS("0ms escape_occupied 0");
+  click->key = Key("Esc");
+  handler->SetConfig(&config);
+  EXPECT_CALLS("0ms escape_occupied 1");
+  handler->ForgetConfig();
+}
+
 TEST_F(SimulateHandler, AnEscapeThatPassesIsTaken) {
   Settings().escape_to_guest = true;
   Settings().keyboard_transparent = true;

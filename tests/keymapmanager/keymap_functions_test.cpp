@@ -189,6 +189,22 @@ TEST_F(IsConfigKeyMatch, ALabelAnswersToNothing) {
   EXPECT_FALSE(Match("- {type: Tip, key: Escape, point: [0.5, 0.5]}\n", "Escape"));
 }
 
+TEST_F(IsConfigKeyMatch, KeysAreThoseOfTheMoment) {
+  KeymapConfig config;
+  auto* click = new ComposableConfigItem;
+  config.items = {click};
+  click->key = KeyOf("W");
+  ConfigKey w = KeyOf("W");
+  ConfigKey escape = KeyOf("Escape");
+  EXPECT_TRUE(isConfigKeyMatch(&config, &w, &escape));
+  click->first_key = w;
+  click->key = escape;  // from now on a chord
+  EXPECT_TRUE(isConfigKeyMatch(&config, &w, &escape));
+  EXPECT_FALSE(isConfigKeyMatch(&config, &w, &w));
+  click->first_key = ConfigKey();
+  EXPECT_TRUE(isConfigKeyMatch(&config, &escape, &w));
+}
+
 TEST_F(IsConfigKeyMatch, NullAndUnsetMatchNothing) {
   const LoadResult result = ReadItems("- {type: Click, key: Escape, point: [0.5, 0.5]}\n");
   ConfigKey key = KeyOf("Escape");
