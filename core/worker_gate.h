@@ -13,7 +13,8 @@ enum class WorkerRunState : int {
   kOpen,      // everything reaches the worker
   kRetiring,  // the worker gave itself up: no tick reaches it any more
   kRetired,   // its deferred delete is due: nothing reaches it any more
-  kClosed     // quit was handled: nothing reaches it any more
+  kClosed,    // quit was handled: nothing reaches it any more
+  kLeft       // its thread is through with it
 };
 
 // From any thread. Returns what `state` was.
