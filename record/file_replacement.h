@@ -7,9 +7,10 @@ class QString;
 
 namespace taviinputmanager {
 
-// Makes `bytes` the content of the file. It is written beside its place and moved there when it is complete, so that a
-// crash or a full disk on the way leaves the file that was there; where no file can be made beside it or moved there,
-// and for what is no plain file, it is written in place.
+// Makes `bytes` the content of the file. A copy is written beside it first: a new file is that copy, moved to its
+// place; one that is there stays the same file, for whoever holds it open, and is written over once the copy is
+// complete. So a full disk leaves what was there, and a crash leaves the old content, or the copy. Where no copy can be
+// made or moved, and for what is no plain file, it is written in place alone.
 //
 // False, and nothing changed, when the file cannot be opened for writing. What becomes of the writing itself is not
 // told.

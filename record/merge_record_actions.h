@@ -16,16 +16,19 @@ namespace taviinputmanager {
 // multiply from level to level, anew at each entry into an item.
 //
 // Between two items there is one pause, also one of 0 ms, and also behind an item without actions. Behind the last item
-// of a pass there is none. A list in which nothing has actions ends at once.
+// of a pass there is none. First and Next give false where they enter an item without actions, and the Next after that
+// gives the pause behind it.
 class MergeRecordActions : public RecordActions {
  public:
   using Items = QList<std::shared_ptr<RecordActions>>;
 
   bool First(RecordAction* action, int* delay) override;
   bool Next(RecordAction* action, int* delay) override;
+  // Whether no item has actions.
   bool IsEmpty() const override;
+  bool IsThrough() const override;
 
-  Items items;
+  Items items;                             // one that is null has nothing to play
   std::shared_ptr<RecordActions> current;  // the item that plays; null before the first
   // The pauses between items that were given in this run: (action_index, repeat_index). The item before a pause is
   // still `current` when it is over, so this is what tells that it is.
@@ -33,10 +36,11 @@ class MergeRecordActions : public RecordActions {
 
  private:
   bool EnterCurrentItem(RecordAction* action, int* delay);
-  // What follows an item that is through: a pause, the next item, the next repeat, or the end.
-  bool Advance(RecordAction* action, int* delay);
-
-  bool current_plays_ = false;  // false for an item that had no first action
+  bool IsLastItem() const { return action_index >= items.size() - 1; }
+  // What follows the last item: the list's own pause, its next repeat, or the end.
+  bool RepeatList(RecordAction* action, int* delay);
+  // What follows any other: a pause, and at the next call the next item.
+  bool LeaveItem(RecordAction* action, int* delay);
 };
 
 }  // namespace taviinputmanager

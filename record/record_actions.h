@@ -24,7 +24,9 @@ class RecordActions {
   virtual bool First(RecordAction* action, int* delay);
   virtual bool Next(RecordAction* action, int* delay);
   // Whether there is nothing to play at all.
-  virtual bool IsEmpty() const { return true; }
+  virtual bool IsEmpty() const { return false; }
+  // After a false: whether that was the end. Else an item had nothing to play, and Next goes on behind it.
+  virtual bool IsThrough() const { return true; }
 
   // The pause between this repeat and the next; false when it was given already, or when there is none. Other fields of
   // the action than its type stay.

@@ -112,7 +112,7 @@ std::shared_ptr<RecordActions> RecordFileUtils::ReadRecordActions(const QJsonObj
   return nullptr;
 }
 
-std::shared_ptr<RecordActions> RecordFileUtils::ReadSingleRecordActions(const QJsonObject& json) {
+std::shared_ptr<SingleRecordActions> RecordFileUtils::ReadSingleRecordActions(const QJsonObject& json) {
   const auto single = std::make_shared<SingleRecordActions>();
   const QJsonArray array = json.value(kActions).toArray();
   single->actions.reserve(array.size());
@@ -127,7 +127,7 @@ std::shared_ptr<RecordActions> RecordFileUtils::ReadSingleRecordActions(const QJ
   return single;
 }
 
-std::shared_ptr<RecordActions> RecordFileUtils::ReadMergeRecordActions(const QJsonObject& json) {
+std::shared_ptr<MergeRecordActions> RecordFileUtils::ReadMergeRecordActions(const QJsonObject& json) {
   const QJsonArray array = json.value(kMergedActions).toArray();
   if (array.isEmpty()) return nullptr;
   const auto merged = std::make_shared<MergeRecordActions>();

@@ -14,7 +14,9 @@ class QString;
 
 namespace taviinputmanager {
 
+class MergeRecordActions;
 class RecordActions;
+class SingleRecordActions;
 struct RecordAction;
 struct ReplayContext;
 
@@ -38,10 +40,10 @@ class RecordFileUtils {
   // Fills `context` with the header and the actions. False when one of them is missing.
   bool LoadRecord(const QString& file, ReplayContext* context);
 
-  // Null when the object has no list, or when an item of it has none.
+  // Null when the object has no list, or when an item of it has none; that of a single record is never null.
   std::shared_ptr<RecordActions> ReadRecordActions(const QJsonObject& json);
-  std::shared_ptr<RecordActions> ReadSingleRecordActions(const QJsonObject& json);
-  std::shared_ptr<RecordActions> ReadMergeRecordActions(const QJsonObject& json);
+  std::shared_ptr<SingleRecordActions> ReadSingleRecordActions(const QJsonObject& json);
+  std::shared_ptr<MergeRecordActions> ReadMergeRecordActions(const QJsonObject& json);
   void ReadControl(const QJsonObject& json, const std::shared_ptr<RecordActions>& actions);
   void ReadControlParam(const QJsonObject& json, MergeParam* param);
   void ReadRecordInfo(const QJsonObject& json, RecordInfo* info);

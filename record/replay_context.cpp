@@ -11,12 +11,17 @@ void ReplayContext::ApplySpeed(double ratio) {
 
 void ReplayContext::First() {
   current_action = RecordAction();
-  if (actions) actions->First(&current_action, &next_delay);
+  if (actions && !actions->First(&current_action, &next_delay)) SkipWhatIsEmpty();
 }
 
 void ReplayContext::Next() {
   current_action = RecordAction();
-  if (actions) actions->Next(&current_action, &next_delay);
+  if (actions && !actions->Next(&current_action, &next_delay)) SkipWhatIsEmpty();
+}
+
+void ReplayContext::SkipWhatIsEmpty() {
+  while (!actions->IsThrough() && !actions->Next(&current_action, &next_delay)) {
+  }
 }
 
 bool ReplayContext::CurrentAction(RecordAction* out) const {

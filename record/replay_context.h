@@ -28,6 +28,10 @@ struct ReplayContext {
   bool CurrentAction(RecordAction* out) const;
   // Takes time that has passed, in milliseconds, off the delay; 0 is its floor.
   void ReduceDelay(int elapsed);
+
+ private:
+  // To the next action behind items of a merged record that have none.
+  void SkipWhatIsEmpty();
 };
 
 }  // namespace taviinputmanager

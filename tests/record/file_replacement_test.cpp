@@ -82,11 +82,11 @@ TEST_F(FileReplacement, KeepsWhoMayReadIt) {
   EXPECT_EQ(0640U, ModeOf(file));
 }
 
-TEST_F(FileReplacement, WhoReadsTheOldFileReadsItToItsEnd) {
+TEST_F(FileReplacement, WhoHoldsItOpenReadsWhatIsNew) {
   QFile reader(Put("record", "before"));
   ASSERT_TRUE(reader.open(QIODevice::ReadOnly));
   EXPECT_TRUE(ReplaceFile(reader.fileName(), "after"));
-  EXPECT_EQ("before", reader.readAll());
+  EXPECT_EQ("after", reader.readAll());
 }
 
 TEST_F(FileReplacement, AFullDiskLeavesTheOldFile) {

@@ -151,33 +151,51 @@ TEST(MergeRecordActions, AnInnerListGivesItsGapsAgainInEachPassOfTheOuter) {
 
 TEST(MergeRecordActions, AnEmptyItemPlaysNothingAndItsGapIsIssued) {
   const auto empty = [] { return Single({}, WithGap(40)); };
-  EXPECT_STEPS(Merged({empty(), Single({{1, "a"}})}).get(), "40 timer", "1 a");
+  EXPECT_STEPS(Merged({empty(), Single({{1, "a"}})}).get(), "none", "40 timer", "1 a");
   EXPECT_STEPS(Merged({Single({{1, "a"}}, WithGap(10)), empty(), Single({{2, "b"}})}).get(),  //
-               "1 a", "10 timer", "40 timer", "2 b");
-  EXPECT_STEPS(Merged({empty(), empty(), Single({{1, "a"}})}).get(), "40 timer", "40 timer", "1 a");
+               "1 a", "10 timer", "none", "40 timer", "2 b");
+  EXPECT_STEPS(Merged({empty(), empty(), Single({{1, "a"}})}).get(),  //
+               "none", "40 timer", "none", "40 timer", "1 a");
+}
+
+TEST(MergeRecordActions, AReplayGoesOnBehindAnEmptyItem) {
+  const auto empty = [] { return Single({}, WithGap(40)); };
+  ReplayContext context;
+  context.actions = Merged({Single({{1, "a"}}, WithGap(10)), empty(), Single({{2, "b"}})});
+  EXPECT_EQ("1 a, 10 timer, 40 timer, 2 b", StepsOfReplay(&context).join(", ").toStdString());
+  context.actions = Merged({Merged({empty(), Single({{1, "a"}})}), Single({{2, "b"}})});
+  EXPECT_EQ("40 timer, 1 a, 0 timer, 2 b", StepsOfReplay(&context).join(", ").toStdString());
 }
 
 TEST(MergeRecordActions, AnEmptyLastItemHasNoGap) {
   const auto items = [] { return MergeRecordActions::Items{Single({{1, "a"}}, WithGap(10)), Single({}, WithGap(40))}; };
   EXPECT_STEPS(Merged(items()).get(), "1 a", "10 timer");
-  EXPECT_STEPS(Merged(items(), Repeated(2)).get(), "1 a", "10 timer", "1 a", "10 timer");
-  EXPECT_STEPS(Merged(items(), Repeated(2, 5)).get(), "1 a", "10 timer", "5 timer", "1 a", "10 timer");
+  EXPECT_STEPS(Merged(items(), Repeated(2)).get(), "1 a", "10 timer", "none", "1 a", "10 timer");
+  EXPECT_STEPS(Merged(items(), Repeated(2, 5)).get(), "1 a", "10 timer", "none", "5 timer", "1 a", "10 timer");
 }
 
-TEST(MergeRecordActions, AnEmptyItemIsNotRepeated) {
+// It counts its repeats like any other: one at the first call behind it, with the pause that belongs to that, and one
+// at the call that follows the gap.
+TEST(MergeRecordActions, AnEmptyItemStillPausesForItsRepeats) {
   MergeParam often = Repeated(5, 100);
   often.till_next_item_delay = 3;
-  EXPECT_STEPS(Merged({Single({}, often), Single({{1, "a"}})}).get(), "3 timer", "1 a");
+  EXPECT_STEPS(Merged({Single({}, often), Single({{1, "a"}})}).get(),  //
+               "none", "100 timer", "3 timer", "100 timer", "1 a");
 }
 
 TEST(MergeRecordActions, TheGapOfAnEmptyItemIsAtItsSpeed) {
   const auto list = Merged({Single({}, WithGap(40, 2.0)), Single({{1, "a"}})});
-  EXPECT_STEPS(list.get(), "20 timer", "1 a");
+  EXPECT_STEPS(list.get(), "none", "20 timer", "1 a");
 }
 
 TEST(MergeRecordActions, AnEmptyInnerListIsAnItemWithoutActions) {
-  EXPECT_STEPS(Merged({Merged({Single({}, WithGap(1)), Single({})}, WithGap(40)), Single({{1, "a"}})}).get(),  //
-               "40 timer", "1 a");
+  const auto inner = Merged({Single({}, WithGap(1)), Single({})}, WithGap(40));
+  EXPECT_STEPS(Merged({inner, Single({{1, "a"}})}).get(),  //
+               "none", "1 timer", "40 timer", "1 a");
+}
+
+TEST(MergeRecordActions, AnItemThatIsNullHasNothingToPlay) {
+  EXPECT_STEPS(Merged({nullptr, Single({{1, "a"}}), nullptr}).get(), "none", "0 timer", "1 a", "0 timer");
 }
 
 TEST(MergeRecordActions, AListWithNothingToPlayEndsAtOnce) {
@@ -186,6 +204,49 @@ TEST(MergeRecordActions, AListWithNothingToPlayEndsAtOnce) {
   EXPECT_NO_STEPS(Merged({empty()}).get());
   EXPECT_NO_STEPS(Merged({empty(), empty()}, Repeated(1000000000, 10)).get());
   EXPECT_NO_STEPS(Merged({empty(), Merged({empty(), Merged({empty()})})}, Repeated(3)).get());
+  const auto item = empty();
+  const auto list = Merged({item}, AtSpeed(1));
+  list->speed = 3;
+  RecordAction action;
+  int delay = 0;
+  EXPECT_FALSE(list->First(&action, &delay));
+  EXPECT_EQ(item, list->current);  // entered all the same
+  EXPECT_EQ(3, item->speed);
+}
+
+// An iterator that is none of ours plays like those.
+class Twice : public RecordActions {
+ public:
+  bool First(RecordAction* action, int* delay) override {
+    left_ = 2;
+    return Next(action, delay);
+  }
+  bool Next(RecordAction* action, int* delay) override {
+    if (left_-- <= 0) return false;
+    action->data = "x";
+    *delay = 5;
+    return true;
+  }
+
+ private:
+  int left_ = 0;
+};
+
+TEST(MergeRecordActions, PlaysItemsOfAnyKind) {
+  EXPECT_STEPS(Merged({std::make_shared<Twice>(), std::make_shared<Twice>()}).get(),  //
+               "5 x", "5 x", "0 timer", "5 x", "5 x");
+}
+
+// What stands in `current` is what plays, however it came there.
+TEST(MergeRecordActions, GoesOnWithTheCurrentItem) {
+  const auto item = Single({{1, "a"}, {20, "b"}});
+  const auto list = Merged({item, Single({{3, "c"}})});
+  list->current = item;
+  RecordAction action;
+  int delay = 0;
+  EXPECT_TRUE(list->Next(&action, &delay));
+  EXPECT_EQ("b", action.data.toStdString());
+  EXPECT_EQ(20, delay);
 }
 
 TEST(MergeRecordActions, NothingIsGivenBeforeTheFirst) {

@@ -106,11 +106,24 @@ QStringList Walk(RecordActions* actions, int limit) {
   QStringList steps;
   RecordAction action;
   int delay = -1;
-  for (bool more = actions->First(&action, &delay); more; more = actions->Next(&action, &delay)) {
+  bool more = actions->First(&action, &delay);
+  while (more || !actions->IsThrough()) {
     if (steps.size() == limit) return steps << QStringLiteral("...");
-    steps << QStringLiteral("%1 %2").arg(delay).arg(action.data.isEmpty() ? action.type : action.data);
+    const QString what = action.data.isEmpty() ? action.type : action.data;
+    steps << (more ? QStringLiteral("%1 %2").arg(delay).arg(what) : QStringLiteral("none"));
     action = RecordAction();
     delay = -1;
+    more = actions->Next(&action, &delay);
+  }
+  return steps;
+}
+
+QStringList StepsOfReplay(ReplayContext* context, int limit) {
+  QStringList steps;
+  RecordAction action;
+  for (context->First(); context->CurrentAction(&action); context->Next()) {
+    if (steps.size() == limit) return steps << QStringLiteral("...");
+    steps << QStringLiteral("%1 %2").arg(context->next_delay).arg(action.data.isEmpty() ? action.type : action.data);
   }
   return steps;
 }

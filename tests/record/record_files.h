@@ -13,6 +13,7 @@
 
 #include "record/merge_record_actions.h"
 #include "record/record_action.h"
+#include "record/replay_context.h"
 #include "record/single_record_actions.h"
 
 namespace taviinputmanager {
@@ -64,9 +65,11 @@ MergeParam Repeated(int times, int delay_ms = 0);
 MergeParam AtSpeed(double ratio);
 MergeParam WithGap(int ms, double speed_ratio = 1.0);
 
-// All that a walk gives, "delay data" each, or "delay type" of what has no data. Ends with "..." where there is more
-// than `limit`.
+// All that a walk gives, "delay data" each, "delay type" of what has no data, "none" where an item has nothing to play.
+// Ends with "..." where there is more than `limit`.
 QStringList Walk(RecordActions* actions, int limit = 1000);
+// What a replay makes of it.
+QStringList StepsOfReplay(ReplayContext* context, int limit = 1000);
 
 #define EXPECT_STEPS(actions, ...) \
   EXPECT_EQ((QStringList{__VA_ARGS__}).join('\n').toStdString(), Walk(actions).join('\n').toStdString())
