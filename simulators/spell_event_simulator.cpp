@@ -1,6 +1,6 @@
 #include "simulators/spell_event_simulator.h"
 
-#include <memory>
+#include <utility>
 
 #include <QTimer>
 
@@ -51,6 +51,8 @@ SpellEventSimulator::SpellEventSimulator() : follow_timer_(new QTimer(this)) {
   follow_timer_->setTimerType(Qt::PreciseTimer);
   connect(follow_timer_, &QTimer::timeout, this, &SpellEventSimulator::TimerOutTime);
 }
+
+SpellEventSimulator::~SpellEventSimulator() = default;
 
 void SpellEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   if (auto* spell = dynamic_cast<SpellConfigItem*>(item)) return PressSpell(spell, IsJoystick(key));
@@ -172,8 +174,9 @@ void SpellEventSimulator::EntrustToInnerSwipehold(SpellSyncWorker* worker, Spell
   SwipeholdEventSimulator* walk = SwipeholdEventSimulator::GetInstance();
   walk->SetExclusiveInner(item.inner_swipehold_exclusive);
   SwipeholdAsyncWorker* inner_walk = SwipeholdAsyncWorker::GetInstance(kInnerWalk);
-  inner_walk->SetItem(inner.get());  // it and the walk make copies
+  inner_walk->SetItem(inner.get());
   walk->AddWorker(inner_walk, inner.get());
+  inner_item_ = std::move(inner);
   walk->EntrustToInner();
 }
 

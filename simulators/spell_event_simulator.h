@@ -2,6 +2,8 @@
 #ifndef SIMULATORS_SPELL_EVENT_SIMULATOR_H_
 #define SIMULATORS_SPELL_EVENT_SIMULATOR_H_
 
+#include <memory>
+
 #include <QPointF>
 #include <QSet>
 
@@ -13,6 +15,7 @@ class QTimer;
 namespace tavikeymapmanager {
 struct SpellCancelConfigItem;
 struct SpellConfigItem;
+struct SwipeholdConfigItem;
 }  // namespace tavikeymapmanager
 
 namespace taviinputmanager {
@@ -27,6 +30,7 @@ class SpellEventSimulator : public EventSimulator {
 
  public:
   static SpellEventSimulator* GetInstance();
+  ~SpellEventSimulator() override;
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
@@ -69,6 +73,8 @@ class SpellEventSimulator : public EventSimulator {
   void CancelEntrustToInnerSwipehold(SpellSyncWorker* worker, bool not_sync_data);
 
   SpellSyncWorker* current_worker_ = nullptr;  // of the cast in progress or just ended; one of the four singletons
+  // What the walk was given for the latest aim; kept until the next.
+  std::unique_ptr<tavikeymapmanager::SwipeholdConfigItem> inner_item_;
   QTimer* follow_timer_;
   bool is_connected_ = false;
   QSet<SpellSyncWorker*> inner_walkers_;  // whose cast in force has an inner walk

@@ -362,23 +362,34 @@ TEST_F(SpellInnerWalk, EachAimBringsItsOwn) {
   EXPECT_WIRE(Walk(10, 256, 360), At(10, 960, 540), Walk(20, 256, 232), At(20, 960, 412));
 }
 
+// Tells how many of it live.
+struct CountedWalk : SwipeholdConfigItem {
+  CountedWalk(const SwipeholdConfigItem& walk, int* live) : SwipeholdConfigItem(walk), live(live) { ++*live; }
+  CountedWalk(const CountedWalk&) = delete;
+  CountedWalk& operator=(const CountedWalk&) = delete;
+  ~CountedWalk() override { --*live; }
+  int* live;
+};
+
 // A keymap library's own kind of spell, which makes its inner walk when it is asked.
 struct LibrarySpell : SpellConfigItem {
   SwipeholdConfigItem* InnerSwipeholdItem() const override {
     ++*asked;
-    auto* inner = new SwipeholdConfigItem(walk);
-    return inner;
+    return new CountedWalk(walk, live);
   }
   SwipeholdConfigItem walk;
   int* asked = nullptr;
+  int* live = nullptr;
 };
 
 TEST_F(SpellInnerWalk, TheKeymapsOwnItemIsAskedForIt) {
   int asked = 0;
+  static int live = 0;  // one stays to the end of the program
   AddWalk();
   auto* item = Add<LibrarySpell>(keywords::kTypeSpell, "Q", {0.75, 0.75});
   item->touch_location = keywords::kLocationInnerSwipehold;
   item->asked = &asked;
+  item->live = &live;
   SpellStory::MakeWalk(&item->walk);
   item->walk.rel_x = item->walk.rel_y = 0.25;
   item->walk.radius = 0.05;
@@ -389,6 +400,10 @@ TEST_F(SpellInnerWalk, TheKeymapsOwnItemIsAskedForIt) {
   Play("up Q");
   EXPECT_WIRE(Lift(10), Lift(10));
   EXPECT_EQ(asked, 1);  // what the end needs is known from the aim
+  EXPECT_EQ(live, 1);   // the walk keeps it until it is given another
+  Play("down Q; wait 10; up Q");
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(live, 1);
 }
 
 }  // namespace
