@@ -3,6 +3,7 @@
 #define SIMULATORS_BUNCH_TAP_RUN_H_
 
 #include "core/worker_thread.h"
+#include "simulators/once.h"
 
 namespace taviinputmanager {
 
@@ -20,7 +21,7 @@ class BunchTapRun {
     run->DeleteWorkerOn(worker, &Worker::BunchTapFinished);
     Connect(worker, &Worker::BunchTapPressed, simulator, &Simulator::OnBunchTapPressed);
     Connect(worker, &Worker::BunchTapReleased, simulator, &Simulator::OnBunchTapReleased);
-    Connect(worker, &Worker::BunchTapFinished, simulator, &Simulator::OnBunchTapFinished);
+    ConnectEnd(worker, &Worker::BunchTapFinished, simulator);
     run->Start();
   }
 
@@ -34,7 +35,7 @@ class BunchTapRun {
     run->DeleteWorkerOn(worker, &Worker::OneOffBunchTapFinished);
     Connect(worker, &Worker::OneOffBunchTapPressed, simulator, &Simulator::OnBunchTapPressed);
     Connect(worker, &Worker::OneOffBunchTapReleased, simulator, &Simulator::OnBunchTapReleased);
-    Connect(worker, &Worker::OneOffBunchTapFinished, simulator, &Simulator::OnBunchTapFinished);
+    ConnectEnd(worker, &Worker::OneOffBunchTapFinished, simulator);
     run->Start();
   }
 
@@ -42,6 +43,11 @@ class BunchTapRun {
   template <typename Worker, typename Signal, typename Simulator, typename Slot>
   static void Connect(Worker* worker, Signal signal, Simulator* simulator, Slot slot) {
     QObject::connect(worker, signal, simulator, slot, Qt::QueuedConnection);
+  }
+  template <typename Worker, typename Signal, typename Simulator>
+  static void ConnectEnd(Worker* worker, Signal signal, Simulator* simulator) {
+    const auto end = Once([simulator](const auto&... what) { simulator->OnBunchTapFinished(what...); });
+    QObject::connect(worker, signal, simulator, end, Qt::QueuedConnection);
   }
 };
 

@@ -69,7 +69,7 @@ void CurveEventSimulator::StartRun(const CurveConfigItem& item, bool lifts_at_en
   // A main thread that was busy finds the end told more than once; worker and run are gone after the first.
   const auto on_finished = [this, worker, run, lifts_at_end, is_over = false](bool force_stop) mutable {
     if (!std::exchange(is_over, true)) return EndRun(worker, run, force_stop || lifts_at_end);
-    if (lifts_at_end) OnCurveFinished();
+    if (force_stop || lifts_at_end) OnCurveFinished();
   };
   connect(worker, &CurveAsyncWorker::CurveFinished, this, on_finished, Qt::QueuedConnection);
   run->Start();

@@ -2,6 +2,7 @@
 
 #include "core/worker_thread.h"
 #include "keymap/wheel_config_item.h"
+#include "simulators/once.h"
 #include "simulators/workers/wheel_one_off_worker.h"
 #include "slots/multipoint_slot_manager.h"
 
@@ -54,13 +55,12 @@ void WheelEventSimulator::StartRun(const WheelConfigItem& item) {
     run->quit();
     if (IsRepeated(item.direction)) StartRun(item);
   };
-  connect(
-      worker, &WheelOneOffWorker::OneOffWheelFinished, run,
-      [run, end] { QMetaObject::invokeMethod(run, end, Qt::QueuedConnection); }, Qt::QueuedConnection);
+  connect(worker, &WheelOneOffWorker::OneOffWheelFinished, run,
+          Once([run, end](int) { QMetaObject::invokeMethod(run, end, Qt::QueuedConnection); }), Qt::QueuedConnection);
   connect(worker, &WheelOneOffWorker::OneOffWheelPressed, this, &WheelEventSimulator::OnWheelPressed,
           Qt::QueuedConnection);
-  connect(worker, &WheelOneOffWorker::OneOffWheelFinished, this, &WheelEventSimulator::OnWheelFinished,
-          Qt::QueuedConnection);
+  connect(worker, &WheelOneOffWorker::OneOffWheelFinished, this,
+          Once([this](int slot_id) { OnWheelFinished(slot_id); }), Qt::QueuedConnection);
   run->Start();
 }
 

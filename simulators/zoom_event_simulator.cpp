@@ -3,6 +3,7 @@
 #include "core/guest_command.h"
 #include "core/worker_thread.h"
 #include "keymap/zoom_config_item.h"
+#include "simulators/once.h"
 #include "simulators/workers/zoom_one_off_worker.h"
 #include "slots/macro_slot_manager.h"
 #include "slots/zoom_slot_manager.h"
@@ -54,12 +55,12 @@ void ZoomEventSimulator::Run(const ZoomConfigItem& item, int positive_slot_id, i
     run->quit();
     if (repeat_) StartRun(item);
   };
-  connect(
-      worker, &ZoomOneOffWorker::OneOffZoomFinished, run,
-      [run, end] { QMetaObject::invokeMethod(run, end, Qt::QueuedConnection); }, Qt::QueuedConnection);
-  connect(worker, &ZoomOneOffWorker::OneOffZoomPressed, this, &ZoomEventSimulator::OnZoomPressed, Qt::QueuedConnection);
-  connect(worker, &ZoomOneOffWorker::OneOffZoomFinished, this, &ZoomEventSimulator::OnZoomFinished,
+  connect(worker, &ZoomOneOffWorker::OneOffZoomFinished, run,
+          Once([run, end](int, int) { QMetaObject::invokeMethod(run, end, Qt::QueuedConnection); }),
           Qt::QueuedConnection);
+  connect(worker, &ZoomOneOffWorker::OneOffZoomPressed, this, &ZoomEventSimulator::OnZoomPressed, Qt::QueuedConnection);
+  connect(worker, &ZoomOneOffWorker::OneOffZoomFinished, this,
+          Once([this](int positive, int negative) { OnZoomFinished(positive, negative); }), Qt::QueuedConnection);
   run->Start();
 }
 

@@ -15,7 +15,9 @@ void BunchTapContinueVjoyWorker::TimerOutTime() { Beat(); }
 
 void BunchTapContinueVjoyWorker::Stop(const QString& device, const QString& text, int scancode) {
   const bool is_own_key = device == item_.key.device && scancode == item_.key.scancode;
-  if (is_own_key || text == kForceStop) Finish();
+  if (!is_own_key && text != kForceStop) return;
+  StopTimer();
+  EmitFinished();
 }
 
 void BunchTapContinueVjoyWorker::EmitPressed() { Q_EMIT BunchTapPressed(item_.map_text); }

@@ -22,7 +22,7 @@ class BunchTapContinueVjoyWorker : public BunchTapWorker {
  Q_SIGNALS:
   void BunchTapPressed(const QString& map_text);
   void BunchTapReleased(const QString& map_text);
-  // Once. The button may be up or down.
+  // Again at each further stop. The button may be up or down.
   void BunchTapFinished(const QString& map_text);
 
  private:

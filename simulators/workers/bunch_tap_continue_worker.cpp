@@ -16,7 +16,9 @@ void BunchTapContinueWorker::Process() {
 void BunchTapContinueWorker::TimerOutTime() { Beat(); }
 
 void BunchTapContinueWorker::Stop(const QString& device, const QString& text, int scancode) {
-  if (IsStoppedBy(device, text, scancode)) Finish();
+  if (!IsStoppedBy(device, text, scancode)) return;
+  StopTimer();
+  EmitFinished();
 }
 
 bool BunchTapContinueWorker::IsStoppedBy(const QString& device, const QString& text, int scancode) const {

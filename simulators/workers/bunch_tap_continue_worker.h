@@ -23,7 +23,7 @@ class BunchTapContinueWorker : public BunchTapWorker {
   // Fractions of the display.
   void BunchTapPressed(double x, double y);
   void BunchTapReleased(double x, double y);
-  // Once. The finger may be up or down.
+  // Again at each further stop. The finger may be up or down.
   void BunchTapFinished(double x, double y);
 
  private:

@@ -13,7 +13,7 @@ void BunchTapOneOffVjoyWorker::OneOffProcess() {
 
 void BunchTapOneOffVjoyWorker::OneOffTimerOutTime() { Beat(); }
 
-void BunchTapOneOffVjoyWorker::Stop() { Finish(); }
+void BunchTapOneOffVjoyWorker::Stop() { EmitFinished(); }
 
 void BunchTapOneOffVjoyWorker::EmitPressed() { Q_EMIT OneOffBunchTapPressed(item_.map_text); }
 void BunchTapOneOffVjoyWorker::EmitReleased() { Q_EMIT OneOffBunchTapReleased(item_.map_text); }

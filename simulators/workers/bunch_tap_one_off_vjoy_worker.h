@@ -22,7 +22,7 @@ class BunchTapOneOffVjoyWorker : public BunchTapWorker {
  Q_SIGNALS:
   void OneOffBunchTapPressed(const QString& map_text);
   void OneOffBunchTapReleased(const QString& map_text);
-  // Once. The button may be up or down.
+  // Again at each further stop and half tap. The button may be up or down.
   void OneOffBunchTapFinished(const QString& map_text);
 
  private:

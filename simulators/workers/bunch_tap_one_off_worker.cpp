@@ -13,7 +13,7 @@ void BunchTapOneOffWorker::OneOffProcess() {
 
 void BunchTapOneOffWorker::OneOffTimerOutTime() { Beat(); }
 
-void BunchTapOneOffWorker::Stop() { Finish(); }
+void BunchTapOneOffWorker::Stop() { EmitFinished(); }
 
 void BunchTapOneOffWorker::EmitPressed() { Q_EMIT OneOffBunchTapPressed(item_.rel_x, item_.rel_y); }
 void BunchTapOneOffWorker::EmitReleased() { Q_EMIT OneOffBunchTapReleased(item_.rel_x, item_.rel_y); }

@@ -23,7 +23,7 @@ class BunchTapOneOffWorker : public BunchTapWorker {
   // Fractions of the display.
   void OneOffBunchTapPressed(double x, double y);
   void OneOffBunchTapReleased(double x, double y);
-  // Once. The finger may be up or down.
+  // Again at each further stop and half tap. The finger may be up or down.
   void OneOffBunchTapFinished(double x, double y);
 
  private:

@@ -22,8 +22,7 @@ void BunchTapWorker::Begin(const std::function<void()>& on_timeout) {
     connect(timer_, &QTimer::timeout, this, on_timeout);
   }
   Beat();
-  if (finished_ || !period_ms_) return;
-  timer_->start(*period_ms_);
+  if (period_ms_) timer_->start(*period_ms_);
 }
 
 void BunchTapWorker::Beat() {
@@ -33,14 +32,11 @@ void BunchTapWorker::Beat() {
   } else {
     EmitReleased();
   }
-  if (taps_ && count_ / 2 == *taps_) Finish();
+  if (taps_ && count_ / 2 == *taps_) EmitFinished();
 }
 
-void BunchTapWorker::Finish() {
-  if (finished_) return;  // a stop that was on its way when the run ended
-  finished_ = true;
+void BunchTapWorker::StopTimer() {
   if (timer_) timer_->stop();
-  EmitFinished();
 }
 
 }  // namespace taviinputmanager

@@ -13,7 +13,7 @@ class QTimer;
 namespace taviinputmanager {
 
 //   Begin    period      period    period
-//   press --- release --- press --- release --- ...        Finish: finished, which lifts what is down
+//   press --- release --- press --- release --- ...        finished, which lifts what is down
 //
 // A tap takes two periods; one that lasts for n taps finishes with the release of the last, 2n - 1 periods after its
 // beginning, or with its first press where n is 0.
@@ -35,16 +35,16 @@ class BunchTapWorker : public QObject {
   // less.
   static std::optional<int> PeriodOfFrequency(int taps_per_second);
 
-  // Without a period the first press is all, until Finish. Without `taps` the run goes on until Finish; a number below
-  // 0 is never reached.
+  // Without a period the first press is all. Without `taps` the run goes on until it is stopped; a number below 0 is
+  // never reached.
   BunchTapWorker(std::optional<int> period_ms, std::optional<int> taps);
 
   // Presses at once. `on_timeout` is called at each further beat and is to call Beat.
   void Begin(const std::function<void()>& on_timeout);
-  // The next half of a tap.
+  // The next half of a tap. At the end of the last it reports the end, and the timer runs on: no tick reaches a worker
+  // that has given itself up.
   void Beat();
-  // Reports the end, once.
-  void Finish();
+  void StopTimer();
 
   virtual void EmitPressed() = 0;
   virtual void EmitReleased() = 0;
@@ -55,7 +55,6 @@ class BunchTapWorker : public QObject {
   const std::optional<int> taps_;
   QTimer* timer_ = nullptr;  // a child, made where the run is
   int count_ = 0;            // half taps so far; odd while the finger is down
-  bool finished_ = false;
 };
 
 }  // namespace taviinputmanager

@@ -31,8 +31,7 @@ void CurveAsyncWorker::Process() {
 
 void CurveAsyncWorker::TimerOutTime() {
   if (count_ >= points_.Count()) {
-    finished_ = true;  // the timer runs on
-    Q_EMIT CurveFinished(false);
+    Q_EMIT CurveFinished(false);  // the timer runs on
     return;
   }
   if (const auto point = points_.At(count_)) Q_EMIT CurvePointPressed(point->x(), point->y());
@@ -41,11 +40,7 @@ void CurveAsyncWorker::TimerOutTime() {
 }
 
 void CurveAsyncWorker::Stop(const QString& device, int scancode) {
-  if (!HasKey(device, scancode)) return;
-  if (finished_) return;  // a stop that was on its way when the run ended
-  finished_ = true;
-  if (timer_) timer_->stop();
-  Q_EMIT CurveFinished(true);
+  if (HasKey(device, scancode)) Q_EMIT CurveFinished(true);  // the timer runs on
 }
 
 }  // namespace taviinputmanager

@@ -36,7 +36,7 @@ class CurveAsyncWorker : public QObject {
  Q_SIGNALS:
   // Offsets from the origin, as fractions of the display.
   void CurvePointPressed(double x, double y);
-  // False at the end of the list, and at each tick from then on until the run is quit. True at a stop on the way.
+  // False at the end of the list, and at each tick from then on until the run is quit. True at each stop.
   void CurveFinished(bool forceStop);  // NOLINT(readability-identifier-naming)
 
  private:
@@ -44,7 +44,6 @@ class CurveAsyncWorker : public QObject {
   const CurvePoints points_;
   QTimer* timer_ = nullptr;  // a child, made where the run is
   int count_ = 0;            // entries so far
-  bool finished_ = false;    // has said so
 };
 
 }  // namespace taviinputmanager

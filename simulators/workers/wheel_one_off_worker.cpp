@@ -30,15 +30,9 @@ void WheelOneOffWorker::OneOffTimerOutTime() {
   Q_EMIT OneOffWheelPressed(slot_id_, position_.x(), position_.y());
   position_ += delta_;
   ++count_;
-  if (count_ > steps_) Finish();
+  if (count_ > steps_) Q_EMIT OneOffWheelFinished(slot_id_);
 }
 
-void WheelOneOffWorker::OneOffStop() { Finish(); }
-
-void WheelOneOffWorker::Finish() {
-  if (finished_) return;  // a stop that was on its way when the run ended
-  finished_ = true;
-  Q_EMIT OneOffWheelFinished(slot_id_);
-}
+void WheelOneOffWorker::OneOffStop() { Q_EMIT OneOffWheelFinished(slot_id_); }
 
 }  // namespace taviinputmanager

@@ -31,12 +31,10 @@ class WheelOneOffWorker : public QObject {
  Q_SIGNALS:
   // Fractions of the display.
   void OneOffWheelPressed(int slot_id, double x, double y);
-  // Once.
+  // After the last move, and again at each further one and at each stop.
   void OneOffWheelFinished(int slot_id);
 
  private:
-  void Finish();
-
   const tavikeymapmanager::WheelConfigItem item_;
   QTimer* timer_ = nullptr;  // a child, made where the run is
   int count_ = 0;
@@ -44,7 +42,6 @@ class WheelOneOffWorker : public QObject {
   const int slot_id_;
   QPointF delta_;
   QPointF position_;
-  bool finished_ = false;
 };
 
 }  // namespace taviinputmanager

@@ -49,7 +49,7 @@ void ZoomOneOffWorker::OneOffTimerOutTime() {
   positive_point_ += positive_step_;
   negative_point_ -= positive_step_;
   ++count_;
-  if (count_ > steps_) Finish();
+  if (count_ > steps_) Q_EMIT OneOffZoomFinished(positive_slot_id_, negative_slot_id_);
 }
 
 // The slot named negative holds the point named positive, and the other way round, unless the item swaps them.
@@ -63,12 +63,6 @@ QString ZoomOneOffWorker::BuildCommand() const {
   return guest_command::SlotMultiPress({a, b});
 }
 
-void ZoomOneOffWorker::OneOffStop() { Finish(); }
-
-void ZoomOneOffWorker::Finish() {
-  if (finished_) return;  // a stop that was on its way when the run ended
-  finished_ = true;
-  Q_EMIT OneOffZoomFinished(positive_slot_id_, negative_slot_id_);
-}
+void ZoomOneOffWorker::OneOffStop() { Q_EMIT OneOffZoomFinished(positive_slot_id_, negative_slot_id_); }
 
 }  // namespace taviinputmanager

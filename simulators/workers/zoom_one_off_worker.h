@@ -33,12 +33,11 @@ class ZoomOneOffWorker : public QObject {
  Q_SIGNALS:
   // A ready line with both contacts.
   void OneOffZoomPressed(const QString& cmd);
-  // Once.
+  // After the last move, and again at each further one and at each stop.
   void OneOffZoomFinished(int positive_slot_id, int negative_slot_id);
 
  private:
   QString BuildCommand() const;
-  void Finish();
 
   const tavikeymapmanager::ZoomConfigItem item_;
   QTimer* timer_ = nullptr;  // a child, made where the run is
@@ -49,7 +48,6 @@ class ZoomOneOffWorker : public QObject {
   QPointF negative_point_;
   int count_ = 0;
   int steps_ = 0;
-  bool finished_ = false;
 };
 
 }  // namespace taviinputmanager

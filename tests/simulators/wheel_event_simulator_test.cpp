@@ -1,6 +1,7 @@
 #include "simulators/wheel_event_simulator.h"
 
 #include "keymap/tavikeymapmanager.h"
+#include "simulators/workers/wheel_one_off_worker.h"
 #include "slots/multipoint_slot_manager.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/story.h"
@@ -118,6 +119,35 @@ TEST_F(WheelKey, AResetEndsTheRunAndItsRepeat) {
   Forget();
   Play("wait 1000");
   EXPECT_WIRE_NONE();
+}
+
+TEST_F(WheelKey, TwoStopsEndARunOnceAndOneFollows) {
+  AddWheel("W", 1, "vertical", 80);
+  Load();
+  Play("down W; wait 20");
+  Forget();
+  Q_EMIT WheelEventSimulator::GetInstance()->StopOneOffWheel();
+  Q_EMIT WheelEventSimulator::GetInstance()->StopOneOffWheel();
+  Play("wait 8");
+  EXPECT_WIRE("20ms 1:SLOTRELEASE:11", "28ms 1:SLOTPRESS:11:11:1:1:5000:5000");
+}
+
+// steps: 8 / 8 = 1, so the second move is the last of a run. By itself the worker moves on and says so each time.
+TEST_F(WheelKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
+  WheelConfigItem item;
+  item.direction = 1;
+  item.speed = 10;
+  item.duration_ms = 8;
+  WheelOneOffWorker worker(item, 11);
+  QStringList said;
+  QObject::connect(&worker, &WheelOneOffWorker::OneOffWheelPressed, [&said] { said << "move"; });
+  QObject::connect(&worker, &WheelOneOffWorker::OneOffWheelFinished,
+                   [&said](int slot) { said << QStringLiteral("end %1").arg(slot); });
+  worker.OneOffProcess();
+  Wait(24);
+  worker.OneOffStop();
+  worker.OneOffStop();
+  EXPECT_EQ("move, move, end 11, move, end 11, end 11, end 11", said.join(", ").toStdString());
 }
 
 TEST_F(WheelKey, AKeymapLoadInTheMiddleOfARunIsSafe) {

@@ -2,6 +2,7 @@
 
 #include "core/input_status_manager.h"
 #include "keymap/tavikeymapmanager.h"
+#include "simulators/workers/zoom_one_off_worker.h"
 #include "slots/macro_slot_manager.h"
 #include "slots/zoom_slot_manager.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -138,6 +139,37 @@ TEST_F(ZoomKey, AKeyHeldDuringAResetStartsItsNextPinch) {
   Forget();
   Play("wait 12");
   EXPECT_WIRE("32ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
+}
+
+// The slots of a pinch are given back once, and one follows.
+TEST_F(ZoomKey, TwoResetsEndAPinchOnce) {
+  AddZoom("W", 1, "horizontal", 120);
+  Load();
+  Play("down W; wait 20");
+  Forget();
+  Q_EMIT ZoomEventSimulator::GetInstance()->StopOneOffZoom();
+  Q_EMIT ZoomEventSimulator::GetInstance()->StopOneOffZoom();
+  Play("wait 12");
+  EXPECT_WIRE("20ms 1:SLOTMULTIRELEASE:19:18", "32ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
+}
+
+// steps: 12 / 12 = 1, so the second move is the last of a run. By itself the worker moves on and says so each time.
+TEST_F(ZoomKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
+  ZoomConfigItem item;
+  item.direction = 1;
+  item.speed = 10;
+  item.duration_ms = 12;
+  ZoomOneOffWorker worker(item, 19, 18);
+  QStringList said;
+  QObject::connect(&worker, &ZoomOneOffWorker::OneOffZoomPressed, [&said] { said << "move"; });
+  QObject::connect(&worker, &ZoomOneOffWorker::OneOffZoomFinished, [&said](int positive, int negative) {
+    said << QStringLiteral("end %1 %2").arg(positive).arg(negative);
+  });
+  worker.OneOffProcess();
+  Wait(36);
+  worker.OneOffStop();
+  worker.OneOffStop();
+  EXPECT_EQ("move, move, end 19 18, move, end 19 18, end 19 18, end 19 18", said.join(", ").toStdString());
 }
 
 TEST_F(ZoomKey, AKeymapLoadInTheMiddleIsSafe) {

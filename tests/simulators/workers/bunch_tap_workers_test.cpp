@@ -40,13 +40,16 @@ TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {
   EXPECT_EQ("", Said());
 }
 
-TEST_F(BunchTapWorkers, AContinueRunFinishesOnce) {
+TEST_F(BunchTapWorkers, AContinueRunFinishesAtEachStop) {
   BunchTapContinueWorker worker(ItemOf(Key("W")));
   Listen(&worker);
   worker.Process();
   worker.Stop("", "force_stop", tavikeymapmanager::kUnsetCode);
-  worker.Stop("keyboard", "W", 17);
   EXPECT_EQ("press, finish", Said());
+  worker.Stop("keyboard", "W", 17);
+  EXPECT_EQ("finish", Said());
+  Wait(1000);
+  EXPECT_EQ("", Said());
 }
 
 TEST_F(BunchTapWorkers, AStopBeforeTheBeginningFinishesToo) {
@@ -103,9 +106,21 @@ TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
   EXPECT_EQ("press", Said());
   Wait(1);
   EXPECT_EQ("release, finish", Said());
-  Wait(1000);
-  worker.Stop();
-  EXPECT_EQ("", Said());
+}
+
+// Half taps 4 and 5 are both of two whole taps. The run of a worker keeps further ticks from it.
+TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
+  BunchClickConfigItem item = ItemOf(Key("W"));
+  item.bunch_count = 2;
+  BunchTapOneOffWorker worker(item);
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(75);
+  EXPECT_EQ("press, release, press, release, finish", Said());
+  Wait(25);
+  EXPECT_EQ("press, finish", Said());
+  Wait(50);
+  EXPECT_EQ("release, press", Said());
 }
 
 TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
@@ -115,8 +130,8 @@ TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
   Listen(&worker);
   worker.OneOffProcess();
   EXPECT_EQ("press, finish", Said());
-  Wait(1000);
-  EXPECT_EQ("", Said());
+  Wait(25);
+  EXPECT_EQ("release", Said());
 }
 
 TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
@@ -128,8 +143,10 @@ TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
   Wait(30);
   worker.Stop();
   EXPECT_EQ("press, release, finish", Said());
-  Wait(1000);
-  EXPECT_EQ("", Said());
+  worker.Stop();
+  EXPECT_EQ("finish", Said());
+  Wait(20);
+  EXPECT_EQ("press", Said());
 }
 
 }  // namespace
