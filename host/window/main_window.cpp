@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QShowEvent>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -84,6 +85,12 @@ QAction* AddButton(QToolBar* bar, const QString& text, const QString& hint) {
 QString TitleOf(const QString& name, const QString& path) {
   if (path.isEmpty()) return QStringLiteral("tavi");
   return (name.isEmpty() ? QFileInfo(path).fileName() : name) + QStringLiteral(" \u2013 tavi");
+}
+
+QString SourcesText(int count, const QString& name) {
+  if (count == 0) return QStringLiteral("No instance sends lines to %1 any more").arg(name);
+  if (count == 1) return QStringLiteral("One instance sends its lines to %1").arg(name);
+  return QStringLiteral("%1 instances send their lines to %2").arg(count).arg(name);
 }
 
 QString PadsText(const Gamepads& pads) {
@@ -295,7 +302,7 @@ QString MainWindow::ListenAs(const QString& name) {
   connect(mirror_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
     mirror_sources_ = count;
     ShowMirrors();
-    Tell(QStringLiteral("%1 instances send lines to %2").arg(count).arg(name), false);
+    Tell(SourcesText(count, name), false);
   });
   const QString problem = mirror_->Listen(name);
   if (problem.isEmpty()) listens_as_ = name;
@@ -315,6 +322,15 @@ void MainWindow::MirrorTo(const QStringList& names) {
   });
   for (const QString& name : names) targets->Add(name);
   ShowMirrors();
+}
+
+// A message takes the place of those labels that are seen. What was told before the window was, is told again.
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  const QString told = statusBar()->currentMessage();
+  if (event->spontaneous() || told.isEmpty()) return;
+  statusBar()->clearMessage();
+  statusBar()->showMessage(told, kMessageMs);
 }
 
 // Edits and a recording that were never saved are asked for.

@@ -12,6 +12,17 @@ namespace {
 // A target that takes nothing any more must not make this instance grow without end.
 constexpr qint64 kMaxWaitingBytes = 1 << 20;
 
+const QString kGone = QStringLiteral("it went away");
+
+QString ProblemOf(const QLocalSocket& socket) {
+  switch (socket.error()) {
+    case QLocalSocket::PeerClosedError: return kGone;
+    case QLocalSocket::ServerNotFoundError:
+    case QLocalSocket::ConnectionRefusedError: return QStringLiteral("no instance listens as that");
+    default: return socket.errorString();
+  }
+}
+
 }  // namespace
 
 // The plain functions that the library is given.
@@ -51,9 +62,9 @@ void MirrorTargets::Add(const QString& name) {
     taviinputmanager::StartSync(name, QString(), QString());
     Q_EMIT Reached(name);
   });
-  connect(socket, &QLocalSocket::disconnected, this, [this, name] { Drop(name, QStringLiteral("it went away")); });
+  connect(socket, &QLocalSocket::disconnected, this, [this, name] { Drop(name, kGone); });
   connect(socket, &QLocalSocket::errorOccurred, this,
-          [this, name, socket](QLocalSocket::LocalSocketError) { Drop(name, socket->errorString()); });
+          [this, name, socket](QLocalSocket::LocalSocketError) { Drop(name, ProblemOf(*socket)); });
   socket->connectToServer(name, QIODevice::WriteOnly);
 }
 

@@ -1,8 +1,11 @@
 // The keys that the window keeps for itself: the one that pauses the mapping and the one that lets go of everything.
 #include "host/window/mapping.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QFile>
+#include <QLabel>
 #include <QStatusBar>
 #include <QWheelEvent>
 
@@ -108,6 +111,22 @@ TEST_F(MappingTest, AKeymapThatUsesTheKeyIsTold) {
   Window()->statusBar()->clearMessage();
   Load("{type: Click, key: Backspace, point: [0.25, 0.75]}");  // with Ctrl and Alt alone it is the window's
   EXPECT_EQ(Window()->statusBar()->currentMessage(), QString());
+}
+
+// The window reads its keymap before it is shown; the message stands alone all the same.
+TEST_F(MappingTest, WhatIsToldBeforeTheWindowIsSeenTakesThePlaceOfTheKeymapsName) {
+  Window()->hide();
+  Load("{type: Click, key: F12, point: [0.25, 0.75]}");
+  Window()->show();
+  clock_->Settle();
+  EXPECT_TRUE(Window()->statusBar()->currentMessage().startsWith("F12 is a key of this keymap"));
+  const QList<QLabel*> labels = Window()->statusBar()->findChildren<QLabel*>();
+  const auto keymap = std::find_if(labels.begin(), labels.end(),
+                                   [](const QLabel* label) { return label->text().startsWith("keymap.yaml"); });
+  ASSERT_NE(keymap, labels.end());
+  EXPECT_FALSE((*keymap)->isVisible());
+  Window()->statusBar()->clearMessage();
+  EXPECT_TRUE((*keymap)->isVisible());
 }
 
 // X11 tells a held key as releases and presses of one time each.

@@ -124,7 +124,9 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   int reached = 0;
   QStringList lost;
   QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name) { lost.append(name); });
+  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
+    lost.append({name, problem});
+  });
   targets->Add(Name("stays"));
   targets->Add(Name("goes"));
   ASSERT_TRUE(Until([&] { return reached == 2; }));
@@ -132,7 +134,7 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   ASSERT_TRUE(Until([&] { return goes.HasPeer(); }));
   goes.Leave();
   ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList{Name("goes")});
+  EXPECT_EQ(lost, QStringList({Name("goes"), QStringLiteral("it went away")}));
   EXPECT_EQ(targets->Names(), QStringList{Name("stays")});
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
   EXPECT_TRUE(Until([&] {
@@ -144,10 +146,12 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
 TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   QStringList lost;
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name) { lost.append(name); });
+  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
+    lost.append({name, problem});
+  });
   targets->Add(Name("nobody"));
   ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList{Name("nobody")});
+  EXPECT_EQ(lost, QStringList({Name("nobody"), QStringLiteral("no instance listens as that")}));
   EXPECT_TRUE(targets->Names().isEmpty());
 }
 
