@@ -4,7 +4,8 @@
 #
 #   docs/make_pictures.sh [TAVI]    TAVI is the program, build/release/host/tavi unless given
 #
-# Needs Xvfb, xvfb-run and xdotool (Debian: xvfb, xauth, xdotool), and fonts-dejavu-core for the letters.
+# Needs Xvfb, xvfb-run and xdotool (Debian: xvfb, xauth, xdotool), fonts-dejavu-core for the letters, and a compiler and
+# SDL2 (g++, libsdl2-dev) for the gamepad, which is held_gamepad.cpp.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 tavi=$(realpath "${1:-$root/build/release/host/tavi}")
@@ -28,10 +29,11 @@ drag() {
   done
 }
 
-# picture NAME AFTER_MS KEYMAP USE [OPTION...]: starts the window, calls the function USE once it has the keys, and waits
-# for the picture, which the window takes of itself.
+# picture NAME AFTER_MS KEYMAP USE [OPTION...]: starts the window, with what `environment` holds in its environment, calls
+# the function USE once it has the keys, and waits for the picture, which the window takes of itself.
+environment=()
 picture() {
-  (cd "$keymaps" && exec "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2" "${@:5}") &
+  (cd "$keymaps" && exec env "${environment[@]}" "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2" "${@:5}") &
   local program=$!
   window=$(xdotool search --sync --onlyvisible --pid "$program" --name tavi | head -n 1)
   xdotool windowfocus --sync "$window"
@@ -126,6 +128,19 @@ watch_replay() {
   xdotool keydown d
 }
 
+# The gamepad walks, looks, jumps and fires.
+hold_gamepad() {
+  touch "$folder/gamepad_is_held"
+  sleep 1
+}
+
+# Plays in a window that sends its lines to another one.
+play_for_both() {
+  move_to 0.30 0.40
+  xdotool keydown w keydown d keydown space
+  drag 20 6 -3
+}
+
 # Types into a text field of the guest while everything is recorded.
 type_text() {
   move_to 0.314 0.022
@@ -159,6 +174,21 @@ trap 'rm -rf "$folder"' EXIT
 "$tavi" record merge -o "$folder/walks.json" "$root/examples/records/walk.json" --times 5 --delay 200 >/dev/null
 picture typing 2600 shooter.yaml type_text --record "$folder/typed.json"
 picture replay 2600 shooter.yaml watch_replay --second-view --replay "$folder/walks.json"
+
+c++ -shared -fPIC -o "$folder/held_gamepad.so" "$root/docs/held_gamepad.cpp" $(pkg-config --cflags --libs sdl2)
+environment=("LD_PRELOAD=$folder/held_gamepad.so" "HELD_GAMEPAD=$folder/gamepad_is_held")
+picture gamepad 2600 shooter.yaml hold_gamepad --joystick shooter_gamepad.yaml
+environment=()
+
+# One window plays, the other gets its lines. A window leaves with its picture, so each is taken while the other stays.
+pictures=$folder picture mirrored 6000 shooter.yaml true --listen left >/dev/null &
+sleep 1.5
+picture mirror 2600 shooter.yaml play_for_both --mirror left
+wait
+picture mirrored 4000 shooter.yaml true --listen left &
+sleep 1.5
+pictures=$folder picture mirror 6000 shooter.yaml play_for_both --mirror left >/dev/null
+wait
 
 picture paused 2600 shooter.yaml pause_mapping
 picture events 4000 shooter.yaml watch_events --events
