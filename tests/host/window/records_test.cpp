@@ -1,7 +1,11 @@
 // Records in the window: what a person records, saves, opens and plays.
+#include <functional>
+#include <utility>
+
 #include <QAction>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QStatusBar>
 
 #include "host/window/guest_screen.h"
 #include "host/window/record_bar.h"
@@ -15,6 +19,29 @@ namespace {
 
 using State = Replayer::State;
 using taviinputmanager::RecordStatus;
+
+// What the window's status bar showed, as often as it was painted, and how far the work was by then.
+class PaintedNews : public QObject {
+ public:
+  PaintedNews(QStatusBar* bar, std::function<bool()> has_begun) : bar_(bar), has_begun_(std::move(has_begun)) {
+    bar->installEventFilter(this);
+  }
+
+  QStringList before_the_work;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !has_begun_()) before_the_work += bar_->currentMessage();
+    return false;
+  }
+
+ private:
+  QStatusBar* bar_;
+  std::function<bool()> has_begun_;
+};
+
+// -1 while the pointer is as ever.
+int PointerShape() { return QApplication::overrideCursor() ? QApplication::overrideCursor()->shape() : -1; }
 
 class RecordsInTheWindow : public WindowFixture {
  protected:
@@ -148,6 +175,48 @@ TEST_F(RecordsInTheWindow, ARecordingOfNothingIsToldAndLeavesNoFile) {
   Records()->ToggleRecording();
   EXPECT_FALSE(problem_.isEmpty());
   EXPECT_FALSE(QFileInfo::exists(Path("nothing.json")));
+  EXPECT_EQ(PointerShape(), -1);
+}
+
+// The library writes in one go: nothing is painted meanwhile, so the window tells beforehand.
+TEST_F(RecordsInTheWindow, SavingIsSeenBeforeItBegins) {
+  const QString file = Path("tap.json");
+  const PaintedNews painted(Window()->statusBar(), [file] { return QFileInfo::exists(file); });
+  int pointer_meanwhile = -1;
+  QObject::connect(Recorder::GetInstance(), &Recorder::Saved, Window(), [&] { pointer_meanwhile = PointerShape(); });
+  RecordATap();
+  EXPECT_TRUE(painted.before_the_work.contains(QStringLiteral("Saving %1\u2026").arg(file)));
+  EXPECT_EQ(pointer_meanwhile, Qt::WaitCursor);
+  EXPECT_EQ(PointerShape(), -1);
+  EXPECT_EQ(Window()->statusBar()->currentMessage(), QStringLiteral("Saved %1").arg(file));
+}
+
+// The library reads in one go, too.
+TEST_F(RecordsInTheWindow, ReadingALongRecordIsSeenBeforeItBegins) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  QFile longer(file);
+  ASSERT_TRUE(longer.open(QIODevice::Append));
+  longer.write(QByteArray(16'000'000, ' '));  // what is longer than that is announced
+  longer.close();
+  const PaintedNews painted(Window()->statusBar(), [] { return Replay()->GetState() != State::kNone; });
+  int pointer_meanwhile = -1;
+  QObject::connect(Replay(), &Replayer::Changed, Window(), [&] {
+    if (Replay()->GetState() == State::kStarting) pointer_meanwhile = PointerShape();
+  });
+  Records()->TogglePlaying();
+  EXPECT_TRUE(painted.before_the_work.contains(QStringLiteral("Reading %1\u2026").arg(file)));
+  EXPECT_EQ(pointer_meanwhile, Qt::WaitCursor);
+  EXPECT_EQ(PointerShape(), -1);
+}
+
+TEST_F(RecordsInTheWindow, ReadingAShortRecordIsNoNews) {
+  const QString file = RecordATap();
+  ASSERT_TRUE(Records()->OpenRecord(file));
+  news_.clear();
+  Records()->TogglePlaying();
+  EXPECT_EQ(news_, QString());
+  EXPECT_EQ(PointerShape(), -1);
 }
 
 TEST_F(RecordsInTheWindow, ClosingTheWindowSavesARecordingThatHasItsFile) {
