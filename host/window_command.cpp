@@ -8,7 +8,9 @@
 #include <QTimer>
 
 #include "host/command_line.h"
+#include "host/window/guest_display.h"
 #include "host/window/main_window.h"
+#include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/theme.h"
 #include "host/window_system.h"
@@ -186,10 +188,10 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
 
 int ShowWindow(const WindowOptions& options) {
   MainWindow window;
-  if (options.guest_size) window.SetGuestSize(*options.guest_size);
-  window.SetRotation(options.rotation);
-  window.SetPixelRatio(options.pixel_ratio);
-  const QString background_problem = window.SetBackground(options.background);
+  if (options.guest_size) window.Display()->SetSize(*options.guest_size);
+  window.Display()->SetRotation(options.rotation);
+  window.Display()->SetPixelRatio(options.pixel_ratio);
+  const QString background_problem = window.Display()->SetBackground(options.background);
   if (!background_problem.isEmpty()) {
     PrintError(QStringLiteral("tavi window: %1\n").arg(background_problem));
     return kExitUsage;
@@ -200,13 +202,13 @@ int ShowWindow(const WindowOptions& options) {
   window.LoadKeymap(options.keymap);
   if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
   if (!options.listen.isEmpty()) {
-    const QString problem = window.ListenAs(options.listen);
+    const QString problem = window.Mirrors()->ListenAs(options.listen);
     if (!problem.isEmpty()) {
       PrintError(QStringLiteral("tavi window: cannot listen as %1: %2\n").arg(options.listen, problem));
       return kExitProblem;
     }
   }
-  window.MirrorTo(options.mirror);
+  window.Mirrors()->MirrorTo(options.mirror);
   if (options.shows_events) window.EventsShown()->trigger();
   StartRecords(options, window.Records());
   window.ReadGamepads();

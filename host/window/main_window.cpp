@@ -6,12 +6,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMenu>
 #include <QMessageBox>
 #include <QShowEvent>
 #include <QStatusBar>
-#include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "host/keymap_report.h"
@@ -21,6 +18,7 @@
 #include "host/window/finding_marks.h"
 #include "host/window/gamepad_picture.h"
 #include "host/window/gamepad_poll.h"
+#include "host/window/guest_display.h"
 #include "host/window/guest_frame.h"
 #include "host/window/guest_menu.h"
 #include "host/window/guest_panel.h"
@@ -30,8 +28,8 @@
 #include "host/window/keymap_editor.h"
 #include "host/window/keymap_watch.h"
 #include "host/window/line_log.h"
-#include "host/window/mirror_server.h"
-#include "host/window/mirror_targets.h"
+#include "host/window/main_tool_bar.h"
+#include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/recorder.h"
 #include "host/window/state_corner.h"
@@ -58,39 +56,9 @@ KeyCombination KeyOf(const char* name) {
   return key;
 }
 
-// A tool button of its own takes no focus, so that the keys stay the guest's.
-void AddMenuButton(QToolBar* bar, const QString& text, QMenu* menu) {
-  auto* button = new QToolButton(bar);
-  button->setText(text);
-  button->setMenu(menu);
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setFocusPolicy(Qt::NoFocus);
-  bar->addWidget(button);
-}
-
-QAction* AddSwitch(QToolBar* bar, const QString& text, const QString& hint, bool on) {
-  QAction* action = bar->addAction(text);
-  action->setToolTip(hint);
-  action->setCheckable(true);
-  action->setChecked(on);
-  return action;
-}
-
-QAction* AddButton(QToolBar* bar, const QString& text, const QString& hint) {
-  QAction* action = bar->addAction(text);
-  action->setToolTip(hint);
-  return action;
-}
-
 QString TitleOf(const QString& name, const QString& path) {
   if (path.isEmpty()) return QStringLiteral("tavi");
   return (name.isEmpty() ? QFileInfo(path).fileName() : name) + QStringLiteral(" \u2013 tavi");
-}
-
-QString SourcesText(int count, const QString& name) {
-  if (count == 0) return QStringLiteral("No instance sends lines to %1 any more").arg(name);
-  if (count == 1) return QStringLiteral("One instance sends its lines to %1").arg(name);
-  return QStringLiteral("%1 instances send their lines to %2").arg(count).arg(name);
 }
 
 QString PadsText(const Gamepads& pads) {
@@ -111,9 +79,8 @@ MainWindow::MainWindow()
       log_(new LineLog),
       keymap_label_(new QLabel),
       state_label_(new QLabel),
-      mirror_label_(new QLabel),
+      mirrors_(new MirrorLabel(this)),
       pad_label_(new QLabel),
-      size_label_(new QLabel),
       pads_([this](QEvent* event) {
         if (!editor_->TakePad(event)) InputPort::GetInstance()->SendJoystick(event);
       }),
@@ -123,18 +90,14 @@ MainWindow::MainWindow()
   MakeLogDock();
   MakeEventDock();
   MakeReplayDock();
+  MakeDisplay();
   MakeEditor();
   MakeToolBar();
   editor_->AddBar();
   MakeRecordBar();
+  MakeStatusBar();
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
-  statusBar()->addWidget(keymap_label_, 1);
-  for (QLabel* label : {state_label_, mirror_label_, pad_label_}) {
-    label->setContentsMargins(0, 0, kLabelGap, 0);
-    statusBar()->addPermanentWidget(label);
-  }
-  statusBar()->addPermanentWidget(size_label_);
   finding_marks_ = new FindingMarks(view_);
   new StateCorner(&state_, view_);
   for (const DiagnosticsPanel* panel : {keymap_.diagnostics, joystick_keymap_.diagnostics}) {
@@ -144,7 +107,6 @@ MainWindow::MainWindow()
 
   WindowHost* host = WindowHost::GetInstance();
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
-  connect(frame_, &GuestFrame::ViewResized, this, &MainWindow::TakeViewSize);
   connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] {
     if (!editor_->TakeFileChange()) LoadKeymap(keymap_.path);
@@ -154,10 +116,9 @@ MainWindow::MainWindow()
   connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
   ShowPads();
   ShowState();
-  ShowMirrors();
   host->Start(view_);
   LoadJoystickKeymap(QString());
-  SetGuestSize(host->GuestSize());
+  display_->SetSize(host->GuestSize());
   // What a guest without any contact is sent by way of a beginning is no news.
   connect(host, &WindowHost::EntryAdded, log_, &LineLog::Add);
   view_->setFocus();
@@ -181,78 +142,64 @@ QWidget* MainWindow::MakeCentre() {
 }
 
 void MainWindow::MakeToolBar() {
-  QToolBar* bar = addToolBar(QStringLiteral("Tools"));
-  bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  QAction* open = AddButton(bar, QStringLiteral("Open\u2026"), QStringLiteral("Use another keymap"));
-  connect(open, &QAction::triggered, this, &MainWindow::OpenKeymap);
-  QAction* open_joystick =
-      AddButton(bar, QStringLiteral("Gamepad\u2026"), QStringLiteral("Use another keymap for gamepads"));
-  connect(open_joystick, &QAction::triggered, this, &MainWindow::OpenJoystickKeymap);
-  AddMenuButton(bar, QStringLiteral("Guest"), MakeGuestMenu());
-  bar->addAction(editor_->Switch());
-  bar->addSeparator();
+  tools_ = new MainToolBar({display_->Menu(), editor_->Switch(), log_shown_, events_shown_}, this);
+  addToolBar(tools_);
+  connect(tools_, &MainToolBar::KeymapWanted, this, &MainWindow::OpenKeymap);
+  connect(tools_, &MainToolBar::JoystickKeymapWanted, this, &MainWindow::OpenJoystickKeymap);
+  connect(tools_, &MainToolBar::OverlayToggled, view_, &GuestView::SetOverlayShown);
+  connect(tools_->MappingOn(), &QAction::toggled, &mapping_, [this](bool on) { mapping_.SetPaused(!on); });
+  connect(tools_->LetGo(), &QAction::triggered, &mapping_, &Mapping::LetGoOfEverything);
+}
 
-  mapping_on_ = AddSwitch(bar, QStringLiteral("Mapping"), QString(), true);
-  connect(mapping_on_, &QAction::toggled, &mapping_, [this](bool on) { mapping_.SetPaused(!on); });
-  QAction* overlay = AddSwitch(bar, QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
-  connect(overlay, &QAction::toggled, view_, &GuestView::SetOverlayShown);
-  QAction* text = AddSwitch(bar, QStringLiteral("Text field"),
-                            QStringLiteral("As if the guest had a text field focused: keys are typed"), false);
-  connect(text, &QAction::toggled, this, [](bool on) { WindowHost::GetInstance()->SetTextField(on); });
-  bar->addAction(log_shown_);
-  bar->addAction(events_shown_);
-  bar->addSeparator();
+void MainWindow::MakeDisplay() {
+  display_ = new GuestDisplay(view_, frame_, replay_frame_, this);
+  connect(display_, &GuestDisplay::Message, this, &MainWindow::Tell);
+  connect(display_, &GuestDisplay::DialogClosed, view_, QOverload<>::of(&QWidget::setFocus));
+}
 
-  QAction* back = AddButton(bar, QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
-  connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(WindowHost::kDisplay); });
-  let_go_ = AddButton(bar, QStringLiteral("Let go"), QString());
-  connect(let_go_, &QAction::triggered, &mapping_, &Mapping::LetGoOfEverything);
+void MainWindow::MakeStatusBar() {
+  connect(mirrors_, &MirrorLabel::Message, this, &MainWindow::Tell);
+  statusBar()->addWidget(keymap_label_, 1);
+  for (QLabel* label : {state_label_, static_cast<QLabel*>(mirrors_), pad_label_}) {
+    label->setContentsMargins(0, 0, kLabelGap, 0);
+    statusBar()->addPermanentWidget(label);
+  }
+  statusBar()->addPermanentWidget(display_->Label());
 }
 
 void MainWindow::SetPanicKey(const KeyCombination& key) {
-  let_go_->setToolTip(
-      QStringLiteral("Lift every finger and key of the guest, end replays and macros (%1)").arg(key.name));
-  reserved_keys_.Reserve(kPanic, key, [this] { let_go_->trigger(); });
+  tools_->TellPanicKey(key.name);
+  reserved_keys_.Reserve(kPanic, key, [this] { tools_->LetGo()->trigger(); });
 }
 
 void MainWindow::SetPauseKey(const KeyCombination& key) {
-  mapping_on_->setToolTip(QStringLiteral("Off: keys and buttons reach the guest as what they are (%1)").arg(key.name));
+  tools_->TellPauseKey(key.name);
   state_.SetPauseKey(key.name);
-  reserved_keys_.Reserve(kPause, key, [this] { mapping_on_->toggle(); });
+  reserved_keys_.Reserve(kPause, key, [this] { tools_->MappingOn()->toggle(); });
 }
 
 void MainWindow::ClearLog() { log_->Clear(); }
 
-void MainWindow::PauseMapping() { mapping_on_->setChecked(false); }
+void MainWindow::PauseMapping() { tools_->MappingOn()->setChecked(false); }
 
-GuestMenu* MainWindow::MakeGuestMenu() {
-  guest_menu_ = new GuestMenu(this);
-  connect(guest_menu_, &GuestMenu::SizeChosen, this, &MainWindow::SetGuestSize);
-  connect(guest_menu_, &GuestMenu::RotationChosen, this, &MainWindow::SetRotation);
-  connect(guest_menu_, &GuestMenu::PixelRatioChosen, this, &MainWindow::SetPixelRatio);
-  connect(guest_menu_, &GuestMenu::BackgroundWanted, this, &MainWindow::OpenBackground);
-  connect(guest_menu_, &GuestMenu::BackgroundDropped, this, [this] { SetBackground(QString()); });
-  guest_menu_->MarkRotation(0);
-  guest_menu_->MarkPixelRatio(1);
-  return guest_menu_;
+QDockWidget* MainWindow::AddDock(const QString& title, QWidget* content, Qt::DockWidgetArea area) {
+  auto* dock = new QDockWidget(title, this);
+  dock->setWidget(content);
+  dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  addDockWidget(area, dock);
+  return dock;
 }
 
 void MainWindow::MakeLogDock() {
-  auto* dock = new QDockWidget(QStringLiteral("Lines for the guest"), this);
-  dock->setWidget(log_);
-  dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-  addDockWidget(Qt::RightDockWidgetArea, dock);
+  const QDockWidget* dock = AddDock(QStringLiteral("Lines for the guest"), log_, Qt::RightDockWidgetArea);
   log_shown_ = dock->toggleViewAction();
   log_shown_->setText(QStringLiteral("Log"));
   log_shown_->setToolTip(QStringLiteral("Show the lines for the guest"));
 }
 
 void MainWindow::MakeEventDock() {
-  auto* dock = new QDockWidget(QStringLiteral("Events of the host"), this);
-  dock->setWidget(new EventViewer(new EventLog(&mapping_)));
-  dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-  addDockWidget(Qt::BottomDockWidgetArea, dock);
+  auto* viewer = new EventViewer(new EventLog(&mapping_));
+  QDockWidget* dock = AddDock(QStringLiteral("Events of the host"), viewer, Qt::BottomDockWidgetArea);
   events_shown_ = dock->toggleViewAction();
   events_shown_->setText(QStringLiteral("Events"));
   events_shown_->setToolTip(QStringLiteral("Show each event, what it matched and what went out because of it"));
@@ -280,10 +227,7 @@ void MainWindow::MakeRecordBar() {
 void MainWindow::MakeReplayDock() {
   replay_frame_ = new GuestFrame(new GuestScreen(WindowHost::kReplayDisplay, GuestScreen::Texts::kLeft));
   replay_frame_->setMinimumHeight(kReplayViewHeight);
-  replay_dock_ = new QDockWidget(QStringLiteral("Replays"), this);
-  replay_dock_->setWidget(replay_frame_);
-  replay_dock_->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-  addDockWidget(Qt::RightDockWidgetArea, replay_dock_);
+  replay_dock_ = AddDock(QStringLiteral("Replays"), replay_frame_, Qt::RightDockWidgetArea);
   replay_dock_->hide();
 }
 
@@ -295,33 +239,6 @@ void MainWindow::ShowSecondView(bool shown) {
 void MainWindow::Tell(const QString& text, bool is_problem) {
   if (is_problem) QApplication::beep();
   statusBar()->showMessage(text, kMessageMs);
-}
-
-QString MainWindow::ListenAs(const QString& name) {
-  mirror_ = std::make_unique<MirrorServer>(WindowHost::kDisplay);
-  connect(mirror_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
-    mirror_sources_ = count;
-    ShowMirrors();
-    Tell(SourcesText(count, name), false);
-  });
-  const QString problem = mirror_->Listen(name);
-  if (problem.isEmpty()) listens_as_ = name;
-  ShowMirrors();
-  return problem;
-}
-
-void MainWindow::MirrorTo(const QStringList& names) {
-  MirrorTargets* targets = MirrorTargets::GetInstance();
-  connect(targets, &MirrorTargets::Reached, this, [this](const QString& name) {
-    ShowMirrors();
-    Tell(QStringLiteral("Lines go to %1, too").arg(name), false);
-  });
-  connect(targets, &MirrorTargets::Lost, this, [this](const QString& name, const QString& problem) {
-    ShowMirrors();
-    Tell(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
-  });
-  for (const QString& name : names) targets->Add(name);
-  ShowMirrors();
 }
 
 // A message takes the place of those labels that are seen. What was told before the window was, is told again.
@@ -463,92 +380,6 @@ void MainWindow::ShowState() {
   const StateWord word = state_.MappingWord();
   view_->SetOverlayDimmed(mapping_.IsPaused());
   state_label_->setText(QStringLiteral("<span style='color:%1'>\u25CF</span> %2").arg(word.color.name(), word.text));
-}
-
-void MainWindow::ShowMirrors() {
-  QStringList texts;
-  const QStringList targets = MirrorTargets::GetInstance()->Names();
-  if (!targets.isEmpty()) texts += QStringLiteral("Sends to ") + targets.join(QStringLiteral(", "));
-  if (!listens_as_.isEmpty()) texts += QStringLiteral("Listens as %1 (%2)").arg(listens_as_).arg(mirror_sources_);
-  mirror_label_->setText(texts.join(QStringLiteral(" \u00B7 ")));
-  mirror_label_->setToolTip(QStringLiteral("The instances that get the same lines, and how many send theirs"));
-  mirror_label_->setVisible(!texts.isEmpty());
-}
-
-void MainWindow::SetGuestSize(const QSize& size) {
-  guest_follows_view_ = size.isEmpty();
-  if (!guest_follows_view_) WindowHost::GetInstance()->SetGuestSize(size);
-  guest_menu_->MarkSize(size);
-  ShapeGuest();
-}
-
-void MainWindow::SetRotation(int degrees) {
-  if (degrees == WindowHost::GetInstance()->Geometry().rotation) return;
-  WindowHost::GetInstance()->SetRotation(degrees);
-  guest_menu_->MarkRotation(degrees);
-  ShapeGuest();
-}
-
-void MainWindow::SetPixelRatio(double ratio) {
-  if (ratio == WindowHost::GetInstance()->PixelRatio()) return;
-  WindowHost::GetInstance()->SetPixelRatio(ratio);
-  guest_menu_->MarkPixelRatio(ratio);
-  ShapeGuest();
-}
-
-void MainWindow::ShapeGuest() {
-  taviinputmanager::OnResetInputStatus(true, 0);  // what is down has its place in the display before
-  const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
-  for (GuestFrame* frame : {frame_, replay_frame_}) frame->SetShape(guest_follows_view_ ? QSize() : display);
-  TakeViewSize();
-  TellShapeOfBackground();
-}
-
-void MainWindow::TakeViewSize() {
-  WindowHost* host = WindowHost::GetInstance();
-  if (guest_follows_view_) {
-    host->SetGuestSize(host->Geometry().IsTurned() ? view_->size().transposed() : view_->size());
-  }
-  ShowSizes();
-}
-
-void MainWindow::ShowSizes() {
-  const WindowHost* host = WindowHost::GetInstance();
-  const GuestGeometry guest = host->Geometry();
-  QString text = QStringLiteral("Guest ") + SizeText(guest.DisplaySize());
-  if (guest.rotation != 0) text += QStringLiteral(" at %1\u00B0").arg(guest.rotation);
-  if (host->PixelRatio() != 1) text += QStringLiteral(" \u00B7 pixel ratio %1").arg(host->PixelRatio());
-  size_label_->setText(text + QStringLiteral(" \u00B7 shown at ") + SizeText(view_->size()));
-  size_label_->setToolTip(QStringLiteral("Touch surface %1, window as the library is told %2")
-                              .arg(SizeText(guest.touch_surface), SizeText(host->ViewSize())));
-}
-
-QString MainWindow::SetBackground(const QString& file) {
-  if (file.isEmpty()) {
-    background_.Clear();
-  } else {
-    const QString problem = background_.Read(file);
-    if (!problem.isEmpty()) return problem;
-  }
-  view_->SetBackground(background_);
-  guest_menu_->MarkBackground(!background_.IsEmpty());
-  TellShapeOfBackground();
-  return {};
-}
-
-void MainWindow::TellShapeOfBackground() {
-  const QString note = background_.ShapeNote(WindowHost::GetInstance()->Geometry().DisplaySize());
-  if (!note.isEmpty()) Tell(note, false);
-}
-
-void MainWindow::OpenBackground() {
-  const QString file =
-      QFileDialog::getOpenFileName(this, QStringLiteral("Open a picture of the guest's screen"), QString(),
-                                   QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
-  view_->setFocus();
-  if (file.isEmpty()) return;
-  const QString problem = SetBackground(file);
-  if (!problem.isEmpty()) Tell(problem, true);
 }
 
 }  // namespace tavi

@@ -4,10 +4,8 @@
 #include <memory>
 
 #include <QMainWindow>
-#include <QSize>
 #include <QString>
 
-#include "host/window/background_picture.h"
 #include "host/window/gamepads.h"
 #include "host/window/key_combination.h"
 #include "host/window/keymap_source.h"
@@ -20,21 +18,21 @@
 class QAction;
 class QDockWidget;
 class QLabel;
-class QToolBar;
 
 namespace tavi {
 
 class DiagnosticsPanel;
 class FindingMarks;
 class GamepadPoll;
+class GuestDisplay;
 class GuestFrame;
-class GuestMenu;
 class GuestPanel;
 class GuestView;
 class KeymapEditor;
 class KeymapWatch;
 class LineLog;
-class MirrorServer;
+class MainToolBar;
+class MirrorLabel;
 class RecordBar;
 
 // The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
@@ -54,16 +52,6 @@ class MainWindow : public QMainWindow {
   void OpenJoystickKeymap();
   // From now on the gamepads of this computer are the guest's while the window is in use.
   void ReadGamepads();
-  // The guest's display in pixels. An empty size: as large as the view, whatever that is.
-  void SetGuestSize(const QSize& size);
-  // What it is turned by: 0, 90, 180 or 270 degrees. The size is of the screen before it is turned.
-  void SetRotation(int degrees);
-  // How many pixels the host counts for one of the guest, for whoever wants to see which places agree all the same.
-  void SetPixelRatio(double ratio);
-  // A picture in place of the guest's screen; an empty name for none. Returns what is wrong, or nothing.
-  QString SetBackground(const QString& file);
-  void OpenBackground();
-
   // The keys that let go of everything, and that pause the mapping and let it go on. Few keyboards lack the ones that
   // are taken by themselves, and hardly a game uses them.
   static constexpr char kPanicKey[] = "Ctrl+Alt+Backspace";
@@ -75,12 +63,9 @@ class MainWindow : public QMainWindow {
   // Empties the list of the lines for the guest.
   void ClearLog();
 
-  // Listens to another instance's lines under this name. Returns what is wrong, or nothing.
-  QString ListenAs(const QString& name);
-  // Carries what the guest gets to the instances of these names.
-  void MirrorTo(const QStringList& names);
-
   GuestView* View() const { return view_; }
+  GuestDisplay* Display() const { return display_; }
+  MirrorLabel* Mirrors() const { return mirrors_; }
   RecordBar* Records() const { return records_; }
   // Lists the events of the host.
   QAction* EventsShown() const { return events_shown_; }
@@ -107,6 +92,9 @@ class MainWindow : public QMainWindow {
   };
 
   void MakeToolBar();
+  void MakeDisplay();
+  void MakeStatusBar();
+  QDockWidget* AddDock(const QString& title, QWidget* content, Qt::DockWidgetArea area);
   void MakeLogDock();
   void MakeEventDock();
   void MakeEditor();
@@ -114,7 +102,6 @@ class MainWindow : public QMainWindow {
   void MakeReplayDock();
   void ShowSecondView(bool shown);
   void Tell(const QString& text, bool is_problem);
-  GuestMenu* MakeGuestMenu();
   QWidget* MakeCentre();
   // Takes in a keymap that was read.
   void Take(const KeymapSource& source, Keymap* keymap);
@@ -125,11 +112,6 @@ class MainWindow : public QMainWindow {
   void TakeActivation();
   void ShowPads();
   void ShowState();
-  void ShowMirrors();
-  void TakeViewSize();
-  void ShapeGuest();
-  void ShowSizes();
-  void TellShapeOfBackground();
 
   GuestView* view_;
   GuestFrame* frame_;
@@ -141,23 +123,16 @@ class MainWindow : public QMainWindow {
   LineLog* log_;
   QAction* log_shown_ = nullptr;
   QAction* events_shown_ = nullptr;
-  QAction* mapping_on_ = nullptr;
-  QAction* let_go_ = nullptr;
-  GuestMenu* guest_menu_ = nullptr;
-  BackgroundPicture background_;
+  MainToolBar* tools_ = nullptr;
+  GuestDisplay* display_ = nullptr;
   QLabel* keymap_label_;
   QLabel* state_label_;
-  QLabel* mirror_label_;
+  MirrorLabel* mirrors_;
   QLabel* pad_label_;
-  QLabel* size_label_;
   FindingMarks* finding_marks_ = nullptr;
   RecordBar* records_ = nullptr;
   QDockWidget* replay_dock_ = nullptr;
   GuestFrame* replay_frame_ = nullptr;
-  std::unique_ptr<MirrorServer> mirror_;
-  QString listens_as_;  // empty: to nobody
-  int mirror_sources_ = 0;
-  bool guest_follows_view_ = false;
   Gamepads pads_;
   Mapping mapping_;
   ReservedKeys reserved_keys_;

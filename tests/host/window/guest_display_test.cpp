@@ -61,11 +61,11 @@ TEST(GuestGeometryTest, EachRotationShowsAPlaceWhereItIs) {
 TEST_F(GuestDisplay, AFingerIsSeenWhereThePlayerPutIt) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   for (const QSize& surface : {QSize(1280, 720), QSize(720, 1280)}) {
-    Window()->SetGuestSize(surface);
+    Window()->Display()->SetSize(surface);
     for (const int rotation : {0, 90, 180, 270}) {
-      Window()->SetRotation(rotation);
+      Window()->Display()->SetRotation(rotation);
       for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
-        Window()->SetPixelRatio(ratio);
+        Window()->Display()->SetPixelRatio(ratio);
         const QString where = QString("%1 wide, %2 degrees, ratio %3").arg(surface.width()).arg(rotation).arg(ratio);
         Press(kSpace);
         ExpectSeenAt(0.25, 0.75, "key, " + where);
@@ -85,9 +85,9 @@ TEST_F(GuestDisplay, AFingerIsSeenWhereThePlayerPutIt) {
 TEST_F(GuestDisplay, AWalkingFingerIsSeenOnItsStick) {
   Load("{type: Swipehold, point: [0.2, 0.6], radius: 0.1, key_up: W, key_left: A, key_down: S, key_right: D}");
   for (const QSize& surface : {QSize(1280, 720), QSize(720, 1280)}) {
-    Window()->SetGuestSize(surface);
+    Window()->Display()->SetSize(surface);
     for (const int rotation : {0, 90, 180, 270}) {
-      Window()->SetRotation(rotation);
+      Window()->Display()->SetRotation(rotation);
       const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
       Press(kW);
       clock_->Advance(1000);
@@ -103,7 +103,7 @@ TEST_F(GuestDisplay, AWalkingFingerIsSeenOnItsStick) {
 // these for one of those, 0.2 is seen at 0.2 / 1.5. This is what the switch is there to show.
 TEST_F(GuestDisplay, AWalkIsElsewhereWhereTheHostCountsOtherPixels) {
   Load("{type: Swipehold, point: [0.2, 0.6], radius: 0.1, key_up: W, key_left: A, key_down: S, key_right: D}");
-  Window()->SetPixelRatio(1.5);
+  Window()->Display()->SetPixelRatio(1.5);
   Press(kW);
   clock_->Advance(1000);
   ExpectSeenAt(0.2 / 1.5, (0.6 - 0.1 * 1280 / 720) / 1.5, "ratio 1.5");
@@ -112,24 +112,24 @@ TEST_F(GuestDisplay, AWalkIsElsewhereWhereTheHostCountsOtherPixels) {
 // 0.25 of the display's width and 0.75 of its height; a quarter turn: a = 1 - 0.75, b = 0.25 of 720 x 1280.
 TEST_F(GuestDisplay, LinesAreOfTheSurfaceThatDoesNotTurn) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
-  Window()->SetGuestSize(QSize(720, 1280));
-  Window()->SetRotation(90);
+  Window()->Display()->SetSize(QSize(720, 1280));
+  Window()->Display()->SetRotation(90);
   Press(kSpace);
   EXPECT_EQ(Finger(), QPoint(180, 320));
   Release(kSpace);
-  Window()->SetRotation(270);  // a = 0.75, b = 1 - 0.25
+  Window()->Display()->SetRotation(270);  // a = 0.75, b = 1 - 0.25
   Press(kSpace);
   EXPECT_EQ(Finger(), QPoint(540, 960));
 }
 
 TEST_F(GuestDisplay, TheViewHasTheShapeOfTheTurnedDisplay) {
-  Window()->SetRotation(90);
+  Window()->Display()->SetRotation(90);
   EXPECT_NEAR(static_cast<double>(View()->width()) / View()->height(), 720.0 / 1280, 0.01);
 }
 
 TEST_F(GuestDisplay, AFingerIsDrawnWhereItIsSeen) {
   Load("{type: Click, key: Space, point: [0.75, 0.25]}");
-  Window()->SetRotation(270);
+  Window()->Display()->SetRotation(270);
   View()->SetOverlayShown(false);
   const QColor before = ColorAt(0.75, 0.25);
   Press(kSpace);
@@ -137,16 +137,16 @@ TEST_F(GuestDisplay, AFingerIsDrawnWhereItIsSeen) {
 }
 
 TEST_F(GuestDisplay, TheHostTellsTheLibraryOfItsPixels) {
-  Window()->SetPixelRatio(1.5);
+  Window()->Display()->SetPixelRatio(1.5);
   EXPECT_EQ(WindowHost::GetInstance()->ViewSize(), QSize(1920, 1080));
-  Window()->SetRotation(90);
+  Window()->Display()->SetRotation(90);
   EXPECT_EQ(WindowHost::GetInstance()->ViewSize(), QSize(1080, 1920));
 }
 
 TEST_F(GuestDisplay, WhatIsDownIsLetGoWhenTheDisplayTurns) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   Press(kSpace);
-  Window()->SetRotation(90);
+  Window()->Display()->SetRotation(90);
   EXPECT_TRUE(Slots().isEmpty());
 }
 
@@ -161,8 +161,8 @@ TEST_F(GuestDisplay, TheMenuMarksWhatIsSo) {
     texts.sort();
     return texts;
   };
-  Window()->SetRotation(270);
-  Window()->SetPixelRatio(2);
+  Window()->Display()->SetRotation(270);
+  Window()->Display()->SetPixelRatio(2);
   EXPECT_EQ(marked(), (QStringList{"1280 \u00D7 720", "2", "270\u00B0"}));
   for (QAction* action : menu->findChildren<QAction*>()) {
     if (action->text() == "90\u00B0") action->trigger();
@@ -173,13 +173,13 @@ TEST_F(GuestDisplay, TheMenuMarksWhatIsSo) {
 // ---- The picture
 
 TEST_F(GuestDisplay, APictureOfTheGuestsShapeFillsTheView) {
-  EXPECT_EQ(Window()->SetBackground(WritePicture("a.png", QSize(1920, 1080), Qt::red)), QString());
+  EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1920, 1080), Qt::red)), QString());
   EXPECT_EQ(Window()->statusBar()->currentMessage(), QString());
   for (const double place : {0.01, 0.5, 0.99}) EXPECT_EQ(ColorAt(place, place), QColor(Qt::red)) << place;
 }
 
 TEST_F(GuestDisplay, APictureOfAnotherShapeKeepsItAndIsTold) {
-  EXPECT_EQ(Window()->SetBackground(WritePicture("square.png", QSize(500, 500), Qt::red)), QString());
+  EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("square.png", QSize(500, 500), Qt::red)), QString());
   EXPECT_EQ(
       Window()->statusBar()->currentMessage(),
       QString("square.png is 500 \u00D7 500 and the guest 1280 \u00D7 720, which is another shape: it is shown with "
@@ -192,23 +192,23 @@ TEST_F(GuestDisplay, APictureOfAnotherShapeKeepsItAndIsTold) {
 }
 
 TEST_F(GuestDisplay, TheShapeIsComparedAgainWhenTheDisplayTurns) {
-  EXPECT_EQ(Window()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
-  Window()->SetRotation(90);
+  EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
+  Window()->Display()->SetRotation(90);
   EXPECT_TRUE(Window()->statusBar()->currentMessage().contains("the guest 720 \u00D7 1280"));
 }
 
 TEST_F(GuestDisplay, WhatIsNoPictureIsToldAndChangesNothing) {
-  ASSERT_EQ(Window()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
+  ASSERT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
   const QString text = Write("keymap.yaml", "");
-  const QString problem = Window()->SetBackground(text);
+  const QString problem = Window()->Display()->SetBackground(text);
   EXPECT_TRUE(problem.startsWith(text + " cannot be read as a picture: ")) << problem.toStdString();
-  EXPECT_TRUE(Window()->SetBackground(folder_.filePath("none.png")).contains("cannot be read"));
+  EXPECT_TRUE(Window()->Display()->SetBackground(folder_.filePath("none.png")).contains("cannot be read"));
   EXPECT_EQ(ColorAt(0.5, 0.5), QColor(Qt::red));
 }
 
 TEST_F(GuestDisplay, NoBackgroundAgain) {
-  ASSERT_EQ(Window()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
-  EXPECT_EQ(Window()->SetBackground(QString()), QString());
+  ASSERT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
+  EXPECT_EQ(Window()->Display()->SetBackground(QString()), QString());
   EXPECT_NE(ColorAt(0.5, 0.5), QColor(Qt::red));
 }
 
@@ -218,7 +218,7 @@ TEST_F(GuestDisplay, ThePictureIsKnownByItsContent) {
   image.fill(Qt::green);
   const QString path = folder_.filePath("screen.png");
   ASSERT_TRUE(image.save(path, "JPG"));
-  EXPECT_EQ(Window()->SetBackground(path), QString());
+  EXPECT_EQ(Window()->Display()->SetBackground(path), QString());
   EXPECT_GT(ColorAt(0.5, 0.5).green(), 200);
 }
 

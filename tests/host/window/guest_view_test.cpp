@@ -33,7 +33,7 @@ TEST_F(GuestViewTest, AKeyTapsAtThePointOfItsItem) {
 
 TEST_F(GuestViewTest, AnotherSizeOfTheGuestMovesThePoint) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
-  qobject_cast<MainWindow*>(View()->window())->SetGuestSize(QSize(720, 1280));
+  Window()->Display()->SetSize(QSize(720, 1280));
   Press(kSpace);
   ExpectNear(Finger(), 180, 960);  // 0.25 * 720, 0.75 * 1280
 }
@@ -49,7 +49,7 @@ TEST_F(GuestViewTest, AMacroFindsThePointerWhereverTheViewIs) {
 
 TEST_F(GuestViewTest, AGuestAsLargeAsTheViewGetsItsPixels) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}");
-  qobject_cast<MainWindow*>(View()->window())->SetGuestSize(QSize());
+  Window()->Display()->SetSize(QSize());
   Press(kSpace);
   ExpectNear(Finger(), View()->width() / 2, View()->height() / 2);
 }

@@ -104,7 +104,7 @@ TEST_F(RecordsInTheWindow, AReplayPutsTheFingerWhereItWas) {
 
 TEST_F(RecordsInTheWindow, AReplayLandsInAnotherGuestAtTheSamePlace) {
   const QString file = RecordATap();
-  Window()->SetGuestSize(QSize(1920, 1080));
+  Window()->Display()->SetSize(QSize(1920, 1080));
   ASSERT_TRUE(Records()->OpenRecord(file));
   Records()->TogglePlaying();
   clock_->Advance(150);

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "host/window/guest_display.h"
 #include "host/window/guest_view.h"
 #include "host/window/main_window.h"
 #include "host/window/window_host.h"
@@ -27,7 +28,7 @@ class WindowFixture : public testing::Test {
  protected:
   WindowFixture() : clock_(InstallClock()), application_(argument_count_, arguments_) {
     window_ = std::make_unique<MainWindow>();
-    window_->SetGuestSize(QSize(1280, 720));
+    window_->Display()->SetSize(QSize(1280, 720));
     window_->show();
     clock_->Settle();
   }

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/replayer.h"
 #include "host/window/state_corner.h"
@@ -97,7 +98,7 @@ TEST_F(WindowStateTest, TheCornerStaysInTheView) {
   WindowHost::GetInstance()->SetTextField(true);
   Window()->Records()->ToggleRecording();
   for (const QSize& size : {QSize(1280, 720), QSize(320, 1280)}) {  // the second is too narrow for one row
-    Window()->SetGuestSize(size);
+    Window()->Display()->SetSize(size);
     EXPECT_TRUE(View()->rect().contains(Corner()->geometry())) << size.width();
   }
 }
@@ -110,7 +111,7 @@ TEST_F(WindowStateTest, TheCornerTakesNoInput) {
 
 TEST_F(WindowStateTest, OthersThatSendOrListenAreShown) {
   EXPECT_FALSE(Bottom().contains("Listens"));
-  EXPECT_EQ(Window()->ListenAs("window-state-test"), QString());
+  EXPECT_EQ(Window()->Mirrors()->ListenAs("window-state-test"), QString());
   EXPECT_TRUE(Bottom().contains("Listens as window-state-test (0)")) << Bottom().toStdString();
 }
 

@@ -1,0 +1,106 @@
+#include "host/window/guest_display.h"
+
+#include <QFileDialog>
+#include <QLabel>
+
+#include "host/window/guest_frame.h"
+#include "host/window/guest_menu.h"
+#include "host/window/guest_view.h"
+#include "host/window/window_host.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+GuestDisplay::GuestDisplay(GuestView* view, GuestFrame* frame, GuestFrame* replay_frame, QWidget* window)
+    : QObject(window),
+      view_(view),
+      frame_(frame),
+      replay_frame_(replay_frame),
+      window_(window),
+      menu_(new GuestMenu(window)),
+      label_(new QLabel(window)) {
+  menu_->MarkRotation(0);
+  menu_->MarkPixelRatio(1);
+  connect(menu_, &GuestMenu::SizeChosen, this, &GuestDisplay::SetSize);
+  connect(menu_, &GuestMenu::RotationChosen, this, &GuestDisplay::SetRotation);
+  connect(menu_, &GuestMenu::PixelRatioChosen, this, &GuestDisplay::SetPixelRatio);
+  connect(menu_, &GuestMenu::BackgroundWanted, this, &GuestDisplay::OpenBackground);
+  connect(menu_, &GuestMenu::BackgroundDropped, this, [this] { SetBackground(QString()); });
+  connect(frame_, &GuestFrame::ViewResized, this, &GuestDisplay::TakeViewSize);
+}
+
+void GuestDisplay::SetSize(const QSize& size) {
+  follows_view_ = size.isEmpty();
+  if (!follows_view_) WindowHost::GetInstance()->SetGuestSize(size);
+  menu_->MarkSize(size);
+  Shape();
+}
+
+void GuestDisplay::SetRotation(int degrees) {
+  if (degrees == WindowHost::GetInstance()->Geometry().rotation) return;
+  WindowHost::GetInstance()->SetRotation(degrees);
+  menu_->MarkRotation(degrees);
+  Shape();
+}
+
+void GuestDisplay::SetPixelRatio(double ratio) {
+  if (ratio == WindowHost::GetInstance()->PixelRatio()) return;
+  WindowHost::GetInstance()->SetPixelRatio(ratio);
+  menu_->MarkPixelRatio(ratio);
+  Shape();
+}
+
+void GuestDisplay::Shape() {
+  taviinputmanager::OnResetInputStatus(true, 0);  // what is down has its place in the display before
+  const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
+  for (GuestFrame* frame : {frame_, replay_frame_}) frame->SetShape(follows_view_ ? QSize() : display);
+  TakeViewSize();
+  TellShapeOfBackground();
+}
+
+void GuestDisplay::TakeViewSize() {
+  WindowHost* host = WindowHost::GetInstance();
+  if (follows_view_) host->SetGuestSize(host->Geometry().IsTurned() ? view_->size().transposed() : view_->size());
+  ShowSizes();
+}
+
+void GuestDisplay::ShowSizes() {
+  const WindowHost* host = WindowHost::GetInstance();
+  const GuestGeometry guest = host->Geometry();
+  QString text = QStringLiteral("Guest ") + SizeText(guest.DisplaySize());
+  if (guest.rotation != 0) text += QStringLiteral(" at %1\u00B0").arg(guest.rotation);
+  if (host->PixelRatio() != 1) text += QStringLiteral(" \u00B7 pixel ratio %1").arg(host->PixelRatio());
+  label_->setText(text + QStringLiteral(" \u00B7 shown at ") + SizeText(view_->size()));
+  label_->setToolTip(QStringLiteral("Touch surface %1, window as the library is told %2")
+                         .arg(SizeText(guest.touch_surface), SizeText(host->ViewSize())));
+}
+
+QString GuestDisplay::SetBackground(const QString& file) {
+  if (file.isEmpty()) {
+    background_.Clear();
+  } else {
+    const QString problem = background_.Read(file);
+    if (!problem.isEmpty()) return problem;
+  }
+  view_->SetBackground(background_);
+  menu_->MarkBackground(!background_.IsEmpty());
+  TellShapeOfBackground();
+  return {};
+}
+
+void GuestDisplay::TellShapeOfBackground() {
+  const QString note = background_.ShapeNote(WindowHost::GetInstance()->Geometry().DisplaySize());
+  if (!note.isEmpty()) Q_EMIT Message(note, false);
+}
+
+void GuestDisplay::OpenBackground() {
+  const QString file =
+      QFileDialog::getOpenFileName(window_, QStringLiteral("Open a picture of the guest's screen"), QString(),
+                                   QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
+  Q_EMIT DialogClosed();
+  if (file.isEmpty()) return;
+  const QString problem = SetBackground(file);
+  if (!problem.isEmpty()) Q_EMIT Message(problem, true);
+}
+
+}  // namespace tavi

@@ -1,0 +1,62 @@
+#include "host/window/mirror_label.h"
+
+#include "host/window/mirror_server.h"
+#include "host/window/mirror_targets.h"
+#include "host/window/window_host.h"
+
+namespace tavi {
+
+namespace {
+
+QString SourcesText(int count, const QString& name) {
+  if (count == 0) return QStringLiteral("No instance sends lines to %1 any more").arg(name);
+  if (count == 1) return QStringLiteral("One instance sends its lines to %1").arg(name);
+  return QStringLiteral("%1 instances send their lines to %2").arg(count).arg(name);
+}
+
+}  // namespace
+
+MirrorLabel::MirrorLabel(QWidget* parent) : QLabel(parent) {
+  setToolTip(QStringLiteral("The instances that get the same lines, and how many send theirs"));
+  const MirrorTargets* targets = MirrorTargets::GetInstance();
+  connect(targets, &MirrorTargets::Reached, this, [this](const QString& name) {
+    ShowMirrors();
+    Q_EMIT Message(QStringLiteral("Lines go to %1, too").arg(name), false);
+  });
+  connect(targets, &MirrorTargets::Lost, this, [this](const QString& name, const QString& problem) {
+    ShowMirrors();
+    Q_EMIT Message(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
+  });
+  ShowMirrors();
+}
+
+MirrorLabel::~MirrorLabel() = default;
+
+QString MirrorLabel::ListenAs(const QString& name) {
+  server_ = std::make_unique<MirrorServer>(WindowHost::kDisplay);
+  connect(server_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
+    sources_ = count;
+    ShowMirrors();
+    Q_EMIT Message(SourcesText(count, name), false);
+  });
+  const QString problem = server_->Listen(name);
+  if (problem.isEmpty()) listens_as_ = name;
+  ShowMirrors();
+  return problem;
+}
+
+void MirrorLabel::MirrorTo(const QStringList& names) {
+  for (const QString& name : names) MirrorTargets::GetInstance()->Add(name);
+  ShowMirrors();
+}
+
+void MirrorLabel::ShowMirrors() {
+  QStringList texts;
+  const QStringList targets = MirrorTargets::GetInstance()->Names();
+  if (!targets.isEmpty()) texts += QStringLiteral("Sends to ") + targets.join(QStringLiteral(", "));
+  if (!listens_as_.isEmpty()) texts += QStringLiteral("Listens as %1 (%2)").arg(listens_as_).arg(sources_);
+  setText(texts.join(QStringLiteral(" \u00B7 ")));
+  setVisible(!texts.isEmpty());
+}
+
+}  // namespace tavi
