@@ -29,7 +29,7 @@ bool CheckFile(const QString& file) {
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments arguments = ParseArguments(invocation.arguments, {});
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!arguments.error.isEmpty()) return FailUsage(QStringLiteral("check"), arguments.error);
   if (arguments.positional.isEmpty()) return FailUsage(QStringLiteral("check"), QStringLiteral("a file is missing"));
   if (arguments.positional.contains(QString())) {

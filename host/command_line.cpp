@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include <QRegularExpression>
+
 #include "keymapmanager/nearest_word.h"
 
 namespace tavi {
@@ -75,7 +77,28 @@ void Write(const QString& text, std::FILE* file) {
   std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), file);
 }
 
+QString NeedText(const GivenArgument& given, const QString& need) {
+  return QStringLiteral("%1 needs %2, not \"%3\"").arg(given.option, need, given.value);
+}
+
 }  // namespace
+
+QVector<OptionRule> OptionsOf(const char* help) {
+  static const QRegularExpression form(QStringLiteral("^  (--?[a-z-]+)( [^ \n]+)?(  .*)?$"),
+                                       QRegularExpression::MultilineOption);
+  QVector<OptionRule> rules;
+  auto lines = form.globalMatch(QString::fromUtf8(help));
+  while (lines.hasNext()) {
+    const QRegularExpressionMatch line = lines.next();
+    rules.append({line.captured(1), !line.captured(2).isEmpty()});
+  }
+  return rules;
+}
+
+std::optional<GivenArgument> ParsedArguments::Find(const QString& option) const {
+  if (!options.contains(option)) return std::nullopt;
+  return GivenArgument{option, options[option]};
+}
 
 ParsedArguments ParseArguments(const QStringList& arguments, const QVector<OptionRule>& rules) {
   ParsedArguments result = ArgumentReader(arguments, rules).Read();
@@ -105,6 +128,30 @@ QSize ParseSize(const QString& text) {
   };
   const QSize size(side(sides[0]), side(sides[1]));
   return size.isEmpty() ? QSize() : size;
+}
+
+QString TakeWholeNumber(const std::optional<GivenArgument>& given, int least, int* field) {
+  if (!given) return {};
+  const std::optional<int> number = ParseWholeNumber(given->value, least);
+  if (!number) return NeedText(*given, QStringLiteral("a whole number from %1 on").arg(least));
+  *field = *number;
+  return {};
+}
+
+QString TakeFactor(const std::optional<GivenArgument>& given, double* field) {
+  if (!given) return {};
+  const std::optional<double> factor = ParseFactor(given->value);
+  if (!factor) return NeedText(*given, QStringLiteral("a number above 0"));
+  *field = *factor;
+  return {};
+}
+
+QString TakeSize(const std::optional<GivenArgument>& given, QSize* field) {
+  if (!given) return {};
+  const QSize size = ParseSize(given->value);
+  if (size.isEmpty()) return NeedText(*given, QStringLiteral("a size such as 1280x720"));
+  *field = size;
+  return {};
 }
 
 QString Suggestion(const QString& word, const QStringList& known) {

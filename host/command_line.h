@@ -24,6 +24,9 @@ struct OptionRule {
   bool takes_value = false;  // "--name VALUE" or "--name=VALUE"
 };
 
+// The options that a page of help lists, each at the start of a line, two spaces in: "  --name VALUE  what it does".
+QVector<OptionRule> OptionsOf(const char* help);
+
 struct GivenArgument {
   QString option;  // empty for a positional one
   QString value;   // empty for a mere flag
@@ -35,6 +38,9 @@ struct ParsedArguments {
   QMap<QString, QString> options;  // the last value of each that was given; an empty one for a mere flag
   bool help = false;               // --help or -h was among them, whatever else is wrong
   QString error;                   // what is wrong; empty when nothing is
+
+  // The option as it was given last; nothing when it was not.
+  std::optional<GivenArgument> Find(const QString& option) const;
 };
 
 // "--" ends the options; "-" alone is no option.
@@ -46,6 +52,12 @@ std::optional<double> ParseFactor(const QString& text);
 
 // A size such as "1280x720", each side from 1 to 16384; an empty size for anything else.
 QSize ParseSize(const QString& text);
+
+// Each puts the value of an option into `field` and returns what is wrong with it, or nothing. Of an option that was
+// not given the field stays as it is.
+QString TakeWholeNumber(const std::optional<GivenArgument>& given, int least, int* field);
+QString TakeFactor(const std::optional<GivenArgument>& given, double* field);
+QString TakeSize(const std::optional<GivenArgument>& given, QSize* field);
 
 void Print(const QString& text);       // to standard output, as UTF-8
 void PrintError(const QString& text);  // to standard error

@@ -76,13 +76,7 @@ QString ReadOptions(const ParsedArguments& parsed, DrawOptions* options) {
   if (options->format == Format::kNone) {
     return QStringLiteral("-o needs a name that ends in .svg or .png, not \"%1\"").arg(options->output);
   }
-  if (parsed.options.contains(kSize)) {
-    options->size = ParseSize(parsed.options[kSize]);
-    if (options->size.isEmpty()) {
-      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kSize, parsed.options[kSize]);
-    }
-  }
-  return {};
+  return TakeSize(parsed.Find(kSize), &options->size);
 }
 
 // Adds the keymap's marks and takes its name where there is none yet.
@@ -128,8 +122,7 @@ int Draw(const DrawOptions& options) {
 
 int Run(const Invocation& invocation) {
   DrawOptions options;
-  const ParsedArguments parsed =
-      ParseArguments(invocation.arguments, {{kOutput, true}, {kSize, true}, {kBackground, true}, {kJoystick, true}});
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   const QString problem = ReadOptions(parsed, &options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
   DoWithoutWindowSystem();

@@ -120,7 +120,7 @@ bool Has(const KeyRow& row, const QString& filter) {
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments parsed = ParseArguments(invocation.arguments, {{kJoystick}, {kJson}});
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!parsed.error.isEmpty()) return FailUsage(kName, parsed.error);
   if (parsed.positional.size() > 1) {
     return FailUsage(kName, QStringLiteral("more than one filter; write a name of several words in quotes"));

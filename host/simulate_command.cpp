@@ -165,8 +165,7 @@ std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString&
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments arguments =
-      ParseArguments(invocation.arguments, {{kSvg, true}, {kRecord, true}, {kPackage, true}});
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!arguments.error.isEmpty()) return FailUsage(kName, arguments.error);
   if (arguments.positional.size() != 2) {
     return FailUsage(kName, QStringLiteral("a keymap and a script are needed"));

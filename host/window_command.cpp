@@ -118,12 +118,11 @@ QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
 }
 
 QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
-  if (arguments.options.contains(kGuest)) {
-    const QString guest = arguments.options[kGuest];
-    options->guest_size = ParseSize(guest);
-    if (options->guest_size->isEmpty() && guest != QLatin1String("view")) {
-      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kGuest, guest);
-    }
+  if (const std::optional<GivenArgument> guest = arguments.Find(kGuest)) {
+    options->guest_size = QSize();
+    const bool is_view = guest->value == QLatin1String("view");
+    const QString problem = is_view ? QString() : TakeSize(guest, &*options->guest_size);
+    if (!problem.isEmpty()) return problem;
   }
   const QString rotation = arguments.options.value(kRotation, QStringLiteral("0"));
   if (!QStringList{"0", "90", "180", "270"}.contains(rotation)) {
@@ -235,22 +234,7 @@ int Run(const Invocation& invocation) {
   QApplication application(invocation.argc, invocation.argv);
   theme::Apply(&application);
   // The application has taken out what is Qt's own, such as -platform.
-  const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), {{kJoystick, true},
-                                                                                      {kGuest, true},
-                                                                                      {kRotation, true},
-                                                                                      {kPixelRatio, true},
-                                                                                      {kBackground, true},
-                                                                                      {kPauseKey, true},
-                                                                                      {kPanicKey, true},
-                                                                                      {kPaused, false},
-                                                                                      {kEvents, false},
-                                                                                      {kRecord, true},
-                                                                                      {kReplay, true},
-                                                                                      {kSecondView, false},
-                                                                                      {kListen, true},
-                                                                                      {kMirror, true},
-                                                                                      {kPicture, true},
-                                                                                      {kAfter, true}});
+  const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);
   if (!problem.isEmpty()) return FailUsage(QStringLiteral("window"), problem);

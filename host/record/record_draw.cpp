@@ -40,7 +40,7 @@ QByteArray Draw(const QString& name, const RecordFile& record) {
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments parsed = ParseArguments(invocation.arguments, {{kOutput, true}});
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!parsed.error.isEmpty()) return FailUsage(kCommand, parsed.error);
   if (parsed.positional.size() != 1) return FailUsage(kCommand, QStringLiteral("one record is needed"));
   if (parsed.options.value(kOutput).isEmpty()) return FailUsage(kCommand, QStringLiteral("-o FILE is missing"));

@@ -127,7 +127,7 @@ bool TellAbout(const QString& name) {
 }
 
 int Run(const Invocation& invocation) {
-  const ParsedArguments parsed = ParseArguments(invocation.arguments, {});
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!parsed.error.isEmpty()) return FailUsage(kName, parsed.error);
   if (parsed.positional.isEmpty()) return FailUsage(kName, QStringLiteral("a record is missing"));
   bool all_good = true;

@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <cstdio>
-#include <optional>
 
 #include <QAbstractEventDispatcher>
 #include <QDateTime>
@@ -64,18 +63,8 @@ QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
   options->file = parsed.positional[0];
   options->is_live = parsed.options.contains(kLive);
   options->param.emulation_mode = parsed.options.contains(kEmulation);
-  if (parsed.options.contains(kSpeed)) {
-    const std::optional<double> speed = ParseFactor(parsed.options[kSpeed]);
-    if (!speed) return QStringLiteral("%1 needs a number above 0, not \"%2\"").arg(kSpeed, parsed.options[kSpeed]);
-    options->param.speed_ratio = *speed;
-  }
-  if (parsed.options.contains(kGuest)) {
-    options->guest = ParseSize(parsed.options[kGuest]);
-    if (options->guest.isEmpty()) {
-      return QStringLiteral("%1 needs a size such as 1280x720, not \"%2\"").arg(kGuest, parsed.options[kGuest]);
-    }
-  }
-  return {};
+  const QString problem = TakeFactor(parsed.Find(kSpeed), &options->param.speed_ratio);
+  return problem.isEmpty() ? TakeSize(parsed.Find(kGuest), &options->guest) : problem;
 }
 
 QSize GuestSize(const PlayOptions& options) {
@@ -153,8 +142,7 @@ int Replay(const PlayOptions& options) {
 
 int Run(const Invocation& invocation) {
   PlayOptions options;
-  const ParsedArguments parsed =
-      ParseArguments(invocation.arguments, {{kSpeed, true}, {kEmulation}, {kGuest, true}, {kLive}});
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   const QString problem = ReadOptions(parsed, &options);
   if (!problem.isEmpty()) return FailUsage(kCommand, problem);
   if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;

@@ -66,11 +66,8 @@ Options ReadOptions(const ParsedArguments& arguments) {
   result.input = given.value(QStringLiteral("--input"));
   result.is_dry_run = given.contains(QStringLiteral("--dry-run"));
   result.player.is_timeline = given.contains(QStringLiteral("--timeline"));
-  if (const auto size = given.find(QStringLiteral("--size")); size != given.end()) {
-    result.player.surface = ParseSize(*size);
-    if (result.player.surface.isEmpty())
-      result.error = QStringLiteral("--size needs a size such as 1280x720, not \"%1\"").arg(*size);
-  }
+  const QString problem = TakeSize(arguments.Find(QStringLiteral("--size")), &result.player.surface);
+  if (!problem.isEmpty()) result.error = problem;
   if (const auto display = given.find(QStringLiteral("--display")); display != given.end()) {
     bool is_number = false;
     result.player.display = display->toInt(&is_number);
@@ -142,11 +139,7 @@ int Play(const Options& options) {
 }
 
 int Run(const Invocation& invocation) {
-  const Options options = ReadOptions(ParseArguments(invocation.arguments, {{QStringLiteral("--input"), true},
-                                                                            {QStringLiteral("--size"), true},
-                                                                            {QStringLiteral("--display"), true},
-                                                                            {QStringLiteral("--timeline")},
-                                                                            {QStringLiteral("--dry-run")}}));
+  const Options options = ReadOptions(ParseArguments(invocation.arguments, OptionsOf(kHelp)));
   if (!options.error.isEmpty()) return FailUsage(QLatin1String(kName), options.error);
   return Play(options);
 }

@@ -51,6 +51,45 @@ TEST(CommandLine, HelpIsFoundWhateverElseIsWrong) {
   EXPECT_FALSE(Parse({"help"}).help);
 }
 
+// The page is the only list of a command's options.
+TEST(CommandLine, APageOfHelpTellsTheOptions) {
+  constexpr char kPage[] =
+      "Usage: tavi play [OPTIONS] -o FILE\n"
+      "\n"
+      "  --live         wait, and print each line\n"
+      "                 --not-one of them\n"
+      "  --size WxH     the display's size\n"
+      "  --background PICTURE\n"
+      "                 a picture\n"
+      "  -o FILE        where to write it\n"
+      "  name           no option at all\n";
+  QStringList texts;
+  for (const OptionRule& rule : OptionsOf(kPage)) texts += rule.name + (rule.takes_value ? " takes a value" : "");
+  EXPECT_EQ(texts, (QStringList{"--live", "--size takes a value", "--background takes a value", "-o takes a value"}));
+}
+
+TEST(CommandLine, WhatWasNotGivenStaysAsItIs) {
+  const ParsedArguments parsed = Parse({"--value", "7", "--value", "8"});
+  int number = 3;
+  EXPECT_EQ(TakeWholeNumber(parsed.Find("--other"), 1, &number), QString());
+  EXPECT_EQ(number, 3);
+  EXPECT_EQ(TakeWholeNumber(parsed.Find("--value"), 1, &number), QString());
+  EXPECT_EQ(number, 8);  // the last one counts
+}
+
+TEST(CommandLine, AValueThatIsWrongIsToldAndLeftOut) {
+  const std::optional<GivenArgument> given = Parse({"--value", "0"}).Find("--value");
+  int number = 3;
+  double factor = 3;
+  QSize size(3, 3);
+  EXPECT_EQ(TakeWholeNumber(given, 1, &number), QStringLiteral("--value needs a whole number from 1 on, not \"0\""));
+  EXPECT_EQ(TakeFactor(given, &factor), QStringLiteral("--value needs a number above 0, not \"0\""));
+  EXPECT_EQ(TakeSize(given, &size), QStringLiteral("--value needs a size such as 1280x720, not \"0\""));
+  EXPECT_EQ(number, 3);
+  EXPECT_EQ(factor, 3);
+  EXPECT_EQ(size, QSize(3, 3));
+}
+
 TEST(CommandLine, ReadsNumbers) {
   EXPECT_EQ(ParseWholeNumber("1", 1), 1);
   for (const char* wrong : {"", "0", "-3", "1.5", "one", "2147483648"}) {
