@@ -160,6 +160,19 @@ edit_walk() {
   move_to 0.199 0.65
 }
 
+# Shows the walk as the file writes it, and spells one of its keys wrong.
+edit_as_text() {
+  edit_walk
+  move_to 0.825 0.911
+  xdotool click 1
+  sleep 0.4
+  move_to 0.846 0.526
+  xdotool click 1
+  sleep 0.2
+  xdotool key End x ctrl+Return
+  sleep 0.3
+}
+
 mkdir -p "$pictures"
 "$tavi" draw -o "$pictures/shooter_keymap.svg" "$keymaps/shooter.yaml"
 echo "$pictures/shooter_keymap.svg"
@@ -168,6 +181,7 @@ echo "$pictures/timeline.svg"
 picture shooter 3500 shooter.yaml play_shooter
 picture hero_battle 3500 hero_battle.yaml play_battle
 picture editor 3000 shooter.yaml edit_walk
+picture editor_text 4500 shooter.yaml edit_as_text
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

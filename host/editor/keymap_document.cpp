@@ -24,6 +24,9 @@ const QString kType = QStringLiteral("type");
 const QString kLabel = QStringLiteral("label");
 const QString kPoint = QStringLiteral("point");
 const QString kPad = QStringLiteral("Pad ");
+const QString kItems = QStringLiteral("items");
+const QString kSettings = QStringLiteral("settings");
+const QString kWheel = QStringLiteral("wheel");
 
 std::optional<QByteArray> ReadBytes(const QString& path) {
   QFile file(path);
@@ -40,20 +43,31 @@ QString WriteBytes(const QString& path, const QByteArray& bytes) {
   return is_written ? QString() : QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
 }
 
-QString FirstError(const km::LoadResult& keymap) {
-  for (const km::Diagnostic& diagnostic : keymap.diagnostics) {
-    if (diagnostic.severity == km::Diagnostic::Severity::kError) return diagnostic.message;
-  }
-  return {};
+// There is one.
+const km::Diagnostic& FirstError(const km::LoadResult& keymap) {
+  return *std::find_if(keymap.diagnostics.begin(), keymap.diagnostics.end(), [](const km::Diagnostic& diagnostic) {
+    return diagnostic.severity == km::Diagnostic::Severity::kError;
+  });
+}
+
+// The error with its place in the part; what comes to light behind the part has its place in the file.
+QString PlacedError(const km::Diagnostic& error, const PartWritten& written, int lines_of_part) {
+  const QByteArray front = written.text.left(written.begin);
+  const int line = error.line - front.count('\n');
+  const int columns = line == 1 ? QString::fromUtf8(front.mid(front.lastIndexOf('\n') + 1)).size() : 0;
+  const QString place = line >= 1 && line <= lines_of_part
+                            ? QStringLiteral("Line %1, column %2: ").arg(line).arg(error.column - columns)
+                            : QStringLiteral("Line %1 of the file: ").arg(error.line);
+  return place + error.message;
 }
 
 QByteArray Slice(const QByteArray& text, const km::TextRange& range) { return text.mid(range.begin, range.Length()); }
 
 // What a record says, without its comments and spaces.
-QByteArray Content(const km::RecordOutline& record, const QByteArray& text, const QString& without = {}) {
+QByteArray Content(const km::RecordOutline& record, const QByteArray& text, const QStringList& without = {}) {
   QByteArray content;
   for (const km::FieldOutline& field : record.fields) {
-    if (field.name != without) content += field.name.toUtf8() + '\0' + Slice(text, field.value) + '\0';
+    if (!without.contains(field.name)) content += field.name.toUtf8() + '\0' + Slice(text, field.value) + '\0';
   }
   return content;
 }
@@ -253,12 +267,32 @@ QString KeymapDocument::Duplicate(int item) {
   return Push(after, QStringLiteral("Duplicate %1").arg(Item(item)->type), Effect::kAdds, item + 1);
 }
 
+QString KeymapDocument::Source(const KeymapPart& part) const {
+  if (part.IsNone()) return {};
+  const std::optional<km::TextRange> place =
+      part.item >= 0 ? Present().PlaceOf(part.item) : Present().PlaceOfBlock(part.block);
+  return place ? QString::fromUtf8(Slice(text_, *place)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+               : QString();
+}
+
+QString KeymapDocument::SetSource(const KeymapPart& part, const QString& source) {
+  if (part.IsNone() || source == Source(part)) return {};
+  const bool is_item = part.item >= 0;
+  if (is_item && source.trimmed().isEmpty()) return QStringLiteral("Nothing is left of the item; Delete takes it out.");
+  const QByteArray lines = source.trimmed().isEmpty() ? QByteArray() : Present().InLines(source);
+  const PartWritten written = is_item ? Present().WithSource(part.item, lines) : Present().WithBlock(part.block, lines);
+  const km::LoadResult keymap = km::ReadKeymapText(written.text, path_);
+  if (keymap.HasErrors()) return PlacedError(FirstError(keymap), written, source.count(QLatin1Char('\n')) + 1);
+  const QString name = QStringLiteral("Edit %1").arg(is_item ? Item(part.item)->type : part.block);
+  return Push(written.text, name, is_item ? Effect::kChanges : Effect::kLeaves, part.item);
+}
+
 QString KeymapDocument::Push(const QByteArray& after, const QString& name, Effect effect, int item, int gesture) {
   const QString refusal = Refusal();
   if (!refusal.isEmpty()) return refusal;
   if (after == text_) return {};
   const km::LoadResult keymap = km::ReadKeymapText(after, path_);
-  if (keymap.HasErrors()) return FirstError(keymap);
+  if (keymap.HasErrors()) return FirstError(keymap).message;
   const std::optional<KeymapOutline> outline = km::OutlineKeymap(after);
   if (!outline || !LeavesOthers(*outline, after, effect, item)) {
     return QStringLiteral("This cannot be written without touching other parts of the file. Edit the file itself.");
@@ -269,13 +303,13 @@ QString KeymapDocument::Push(const QByteArray& after, const QString& name, Effec
 
 bool KeymapDocument::LeavesOthers(const KeymapOutline& outline, const QByteArray& after, Effect effect,
                                   int item) const {
-  const QString items = QStringLiteral("items");
-  if (Content(outline_.file, text_, items) != Content(outline.file, after, items)) return false;
+  const QStringList edited = effect == Effect::kLeaves ? QStringList{kItems, kSettings, kWheel} : QStringList(kItems);
+  if (Content(outline_.file, text_, edited) != Content(outline.file, after, edited)) return false;
   QVector<QByteArray> contents = ItemContents(outline_, text_);
   QVector<QByteArray> contents_after = ItemContents(outline, after);
   if (contents_after.size() - contents.size() != (effect == Effect::kAdds) - (effect == Effect::kRemoves)) return false;
-  if (effect != Effect::kAdds) contents.remove(item);
-  if (effect != Effect::kRemoves) contents_after.remove(item);
+  if (effect == Effect::kChanges || effect == Effect::kRemoves) contents.remove(item);
+  if (effect == Effect::kChanges || effect == Effect::kAdds) contents_after.remove(item);
   return contents == contents_after;
 }
 

@@ -16,6 +16,15 @@
 
 namespace tavi {
 
+// A part of a keymap file that can be edited as text.
+struct KeymapPart {
+  bool IsNone() const { return item < 0 && block.isEmpty(); }
+  bool operator==(const KeymapPart& other) const { return item == other.item && block == other.block; }
+
+  int item = -1;  // its index, or -1
+  QString block;  // of the keymap itself: "settings" or "wheel"
+};
+
 // A keymap file that is being edited: its text, what the loader makes of it, and the way back.
 //
 // Every edit changes the text where it has to and nowhere else, and is read by the ordinary loader before it counts:
@@ -64,6 +73,12 @@ class KeymapDocument : public QObject {
   // The new one comes right behind, a little aside.
   QString Duplicate(int item);
 
+  // The part as the file writes it, comments included, with "\n" at the ends of lines. Empty: it is not written.
+  QString Source(const KeymapPart& part) const;
+  // Writes it anew as it stands there; an empty text takes a block out. What is wrong comes with its line and column
+  // in `source`.
+  QString SetSource(const KeymapPart& part, const QString& source);
+
   // Makes the text the content of the file at `path`, which is the document's file from then on.
   QString Save(const QString& path);
   // Somebody else has written the document's file since it was read or saved here.
@@ -77,12 +92,12 @@ class KeymapDocument : public QObject {
   class Edit;
   friend class Edit;
 
-  // What an edit does to the list of items.
-  enum class Effect { kChanges, kAdds, kRemoves };
+  // What an edit does to the list of items; kLeaves is one of the blocks beside it.
+  enum class Effect { kChanges, kAdds, kRemoves, kLeaves };
 
   void Take(const QByteArray& text);
   QString Push(const QByteArray& after, const QString& name, Effect effect, int item, int gesture = 0);
-  // Whether all items but the edited one are as they were.
+  // Whether all items but the edited one, and what stands beside the items, are as they were.
   bool LeavesOthers(const tavikeymapmanager::KeymapOutline& outline, const QByteArray& after, Effect effect,
                     int item) const;
   QStringList FieldOrder(int item) const;

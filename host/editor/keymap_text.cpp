@@ -121,23 +121,28 @@ QByteArray KeymapText::WithoutField(int item, const QString& name) const {
   return Replaced({lines_.Begin(field->name_range.begin), lines_.Next(field->value.end)}, {});
 }
 
-QByteArray KeymapText::WithoutFieldInBraces(const ItemOutline& item, int field) const {
-  const bool is_last = field == item.fields.size() - 1;
-  if (!is_last) return Replaced({item.fields[field].name_range.begin, item.fields[field + 1].name_range.begin}, {});
-  const int begin = field == 0 ? item.fields[0].name_range.begin : item.fields[field - 1].value.end;
-  return Replaced({begin, item.fields[field].value.end}, {});
+QByteArray KeymapText::WithoutFieldInBraces(const tavikeymapmanager::RecordOutline& record, int field) const {
+  const QVector<FieldOutline>& fields = record.fields;
+  const bool is_last = field == fields.size() - 1;
+  if (!is_last) return Replaced({fields[field].name_range.begin, fields[field + 1].name_range.begin}, {});
+  const int begin = field == 0 ? fields[0].name_range.begin : fields[field - 1].value.end;
+  return Replaced({begin, fields[field].value.end}, {});
 }
 
 // ---- Lines of items
 
 KeymapText::TextRange KeymapText::LinesOf(const ItemOutline& item) const {
-  int end = lines_.End(item.range.end);
   const int deep = item.fields.isEmpty() ? 0 : item.fields.first().name_range.begin - lines_.Begin(item.dash);
+  return {lines_.Begin(item.dash), EndWithComments(item.range.end, deep)};
+}
+
+int KeymapText::EndWithComments(int position, int deep) const {
+  int end = lines_.End(position);
   for (int next = lines_.Next(end); next < text_.size() && lines_.IsComment(next); next = lines_.Next(next)) {
     if (lines_.Indentation(next) < deep) break;
     end = lines_.End(next);
   }
-  return {lines_.Begin(item.dash), end};
+  return end;
 }
 
 int KeymapText::CommentsAbove(const ItemOutline& item) const {
@@ -268,5 +273,52 @@ QByteArray KeymapText::WithCopy(int item) const {
   const bool has_blank = !outline.in_braces && HasBlankAbove(outline);
   return Inserted(lines.end, (has_blank ? lines_.Break() : QByteArray()) + lines_.Break() + Slice(lines));
 }
+
+// ---- As text
+
+KeymapText::TextRange KeymapText::PlaceOf(int item) const {
+  const ItemOutline& outline = outline_.items[item];
+  return outline.dash < 0 ? outline.range : LinesOf(outline);
+}
+
+PartWritten KeymapText::WithSource(int item, const QByteArray& source) const {
+  const TextRange place = PlaceOf(item);
+  return {Replaced(place, source), place.begin};
+}
+
+std::optional<KeymapText::TextRange> KeymapText::PlaceOfBlock(const QString& name) const {
+  const FieldOutline* field = outline_.file.Find(name);
+  if (field == nullptr) return {};
+  const int begin = field->name_range.begin;
+  if (outline_.file.in_braces) return TextRange{begin, field->value.end};
+  return TextRange{begin, EndWithComments(field->value.end, begin - lines_.Begin(begin) + 1)};
+}
+
+PartWritten KeymapText::WithBlock(const QString& name, const QByteArray& source) const {
+  const std::optional<TextRange> place = PlaceOfBlock(name);
+  if (!place) return source.isEmpty() ? PartWritten{text_} : WithNewBlock(source);
+  if (!source.isEmpty()) return {Replaced(*place, source), place->begin};
+  if (!outline_.file.in_braces) return {Replaced({place->begin, lines_.Next(place->end)}, {}), place->begin};
+  const auto field = static_cast<int>(outline_.file.Find(name) - outline_.file.fields.constData());
+  return {WithoutFieldInBraces(outline_.file, field), place->begin};
+}
+
+PartWritten KeymapText::WithNewBlock(const QByteArray& source) const {
+  const QVector<FieldOutline>& fields = outline_.file.fields;
+  const FieldOutline* items = outline_.file.Find(kItems);
+  const bool is_in_braces = outline_.file.in_braces;
+  if (items == &fields.first()) {
+    const int begin = items->name_range.begin;
+    return {Inserted(begin, source + (is_in_braces ? QByteArray(", ") : lines_.Break())), begin};
+  }
+  const FieldOutline& before = items == nullptr ? fields.last() : *(items - 1);
+  const bool has_own_line = IsFirstOnLine(before.name_range.begin);
+  const QByteArray new_line = lines_.Break() + IndentationOf(before.name_range.begin);
+  const QByteArray front = !is_in_braces ? new_line : has_own_line ? ',' + new_line : QByteArray(", ");
+  const int at = is_in_braces ? before.value.end : EndWithComments(before.value.end, 1);
+  return {Inserted(at, front + source), at + front.size()};
+}
+
+QByteArray KeymapText::InLines(const QString& source) const { return source.toUtf8().replace('\n', lines_.Break()); }
 
 }  // namespace tavi

@@ -1,6 +1,8 @@
 #ifndef HOST_EDITOR_KEYMAP_TEXT_H_
 #define HOST_EDITOR_KEYMAP_TEXT_H_
 
+#include <optional>
+
 #include <QByteArray>
 #include <QPointF>
 #include <QString>
@@ -30,6 +32,12 @@ struct NamedValue {
   FieldValue value;
 };
 
+// A text, and where in it a part begins that was written anew.
+struct PartWritten {
+  QByteArray text;
+  int begin = 0;  // bytes from the start
+};
+
 // The text of a keymap file, and what it would be with one thing changed. All else stays as it is, byte for byte:
 // order, comments, line breaks, a byte order mark. New parts are written in the style of their neighbours: in lines of
 // their own or in braces, names in quotes where the file is JSON.
@@ -54,6 +62,18 @@ class KeymapText {
   // The same item a second time, behind the first one.
   QByteArray WithCopy(int item) const;
 
+  // What a person edits as text. Of an item its lines, from the dash to the comments behind them; in brackets, what
+  // stands between the commas.
+  tavikeymapmanager::TextRange PlaceOf(int item) const;
+  PartWritten WithSource(int item, const QByteArray& source) const;
+  // The same of a field of the keymap itself, its name included. Nothing when it is not written.
+  std::optional<tavikeymapmanager::TextRange> PlaceOfBlock(const QString& name) const;
+  // A new one stands in front of the items; an empty source takes it out.
+  PartWritten WithBlock(const QString& name, const QByteArray& source) const;
+
+  // In the line breaks of this file.
+  QByteArray InLines(const QString& source) const;
+
  private:
   using FieldOutline = tavikeymapmanager::FieldOutline;
   using ItemOutline = tavikeymapmanager::ItemOutline;
@@ -71,13 +91,16 @@ class KeymapText {
 
   QByteArray WithNewField(const ItemOutline& item, const NamedValue& field, const QStringList& order) const;
   int FieldBefore(const ItemOutline& item, const QString& name, const QStringList& order) const;
-  QByteArray WithoutFieldInBraces(const ItemOutline& item, int field) const;
+  QByteArray WithoutFieldInBraces(const tavikeymapmanager::RecordOutline& record, int field) const;
   QByteArray WithoutItemInBrackets(int item) const;
   QByteArray WithCopyInBrackets(const ItemOutline& item) const;
 
   // The lines of an entry of a block list, the comments behind its fields included, from the dash to the last
   // character.
   TextRange LinesOf(const ItemOutline& item) const;
+  // The end of the line at `position`, or of the comments right below it that are indented by `deep` or more.
+  int EndWithComments(int position, int deep) const;
+  PartWritten WithNewBlock(const QByteArray& source) const;
   // Where the comments right above the item begin.
   int CommentsAbove(const ItemOutline& item) const;
   bool HasBlankAbove(const ItemOutline& item) const;

@@ -46,7 +46,7 @@ FieldEditor::FieldEditor(const FieldInfo& info, QWidget* parent) : QWidget(paren
   problem_->setWordWrap(true);
   problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::kError.name()));
   problem_->hide();
-  setToolTip(info.doc);
+  setToolTip(IsEditable(info.kind) ? info.doc : info.doc + QStringLiteral(" (\"As text\" changes it)"));
 }
 
 QWidget* FieldEditor::MakeLine() {

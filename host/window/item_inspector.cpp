@@ -1,7 +1,10 @@
 #include "host/window/item_inspector.h"
 
+#include <iterator>
+
 #include <QCheckBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -9,10 +12,10 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "host/editor/keymap_document.h"
 #include "host/window/field_editor.h"
 #include "host/window/key_listener.h"
 #include "host/window/keymap_overlay.h"
+#include "host/window/source_pane.h"
 #include "host/window/theme.h"
 
 namespace tavi {
@@ -25,6 +28,19 @@ namespace {
 
 constexpr int kListHeight = 150;
 const QString kLabel = QStringLiteral("label");
+
+// The blocks of a keymap beside its items, in the order that a file has them in.
+struct BlockRow {
+  const char* name;
+  const char* doc;
+  const char* example;
+};
+
+constexpr BlockRow kBlocks[] = {
+    {"settings", "What holds for the whole keymap: how keys, mouse and gamepads pass, and how view control feels.",
+     "settings:\n  keyboard_transparent: true"},
+    {"wheel", "What the wheel of the mouse does where no item takes it.", "wheel:\n  wheel_delta: 1.0"},
+};
 
 FieldInfo LabelField() {
   FieldInfo label;
@@ -58,46 +74,96 @@ ItemInspector::ItemInspector(KeymapDocument* document, QWidget* parent)
       list_(new QListWidget),
       title_(new QLabel),
       scroll_(new QScrollArea),
-      all_(new QCheckBox(QStringLiteral("All fields"))) {
+      pane_(new SourcePane),
+      all_(new QCheckBox(QStringLiteral("All fields"))),
+      as_text_(new QCheckBox(QStringLiteral("As text"))) {
   list_->setFixedHeight(kListHeight);
   title_->setWordWrap(true);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   all_->setToolTip(QStringLiteral("Also those that the file does not write"));
+  as_text_->setToolTip(QStringLiteral("The lines of the file, lists of commands and points among them"));
+  auto* switches = new QHBoxLayout;
+  switches->addWidget(all_);
+  switches->addWidget(as_text_);
+  switches->addStretch(1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(8, 8, 8, 8);
   layout->addWidget(list_);
   layout->addWidget(title_);
   layout->addWidget(scroll_, 1);
-  layout->addWidget(all_);
+  layout->addWidget(pane_, 1);
+  layout->addLayout(switches);
   connect(document_, &KeymapDocument::Changed, this, &ItemInspector::TakeDocument);
-  connect(list_, &QListWidget::currentRowChanged, this, &ItemInspector::ItemChosen);
-  connect(all_, &QCheckBox::toggled, this, &ItemInspector::ShowFields);
+  connect(list_, &QListWidget::currentRowChanged, this, &ItemInspector::TakeRow);
+  connect(all_, &QCheckBox::toggled, this, &ItemInspector::ShowPart);
+  connect(as_text_, &QCheckBox::toggled, this, [this] {
+    LeavePart();
+    ShowPart();
+  });
+  connect(pane_, &SourcePane::Entered, this, &ItemInspector::EnterSource);
+  ShowPart();
 }
 
 void ItemInspector::Show(int item) {
+  if (item != item_) LeavePart();
   item_ = item;
+  if (item >= 0) block_.clear();
   const QSignalBlocker blocker(list_);
-  list_->setCurrentRow(item);
-  ShowFields();
+  list_->setCurrentRow(Row());
+  ShowPart();
+}
+
+void ItemInspector::ShowBlock(const QString& block) {
+  LeavePart();
+  block_ = block;
+  item_ = -1;
+  Q_EMIT ItemChosen(-1);
+  Show(-1);
+}
+
+void ItemInspector::SetAsText(bool as_text) { as_text_->setChecked(as_text); }
+
+void ItemInspector::TakeRow(int row) {
+  const int block = row - document_->ItemCount();
+  if (block >= 0) return ShowBlock(QLatin1String(kBlocks[block].name));
+  Q_EMIT ItemChosen(row);
+}
+
+// Of the list, whose end are the blocks.
+int ItemInspector::Row() const {
+  int row = document_->ItemCount();
+  for (const BlockRow& block : kBlocks) {
+    if (block_ == QLatin1String(block.name)) return row;
+    ++row;
+  }
+  return item_;
 }
 
 void ItemInspector::TakeDocument() {
   if (item_ >= document_->ItemCount()) item_ = -1;
+  if (!document_->Refusal().isEmpty()) block_.clear();
   ShowList();
-  ShowFields();
+  ShowPart();
 }
 
 void ItemInspector::ShowList() {
   const QSignalBlocker blocker(list_);
-  while (list_->count() > document_->ItemCount()) delete list_->takeItem(list_->count() - 1);
-  while (list_->count() < document_->ItemCount()) list_->addItem(QString());
+  const int blocks = document_->Refusal().isEmpty() ? static_cast<int>(std::size(kBlocks)) : 0;
+  const int rows = document_->ItemCount() + blocks;
+  while (list_->count() > rows) delete list_->takeItem(list_->count() - 1);
+  while (list_->count() < rows) list_->addItem(QString());
   for (int item = 0; item < document_->ItemCount(); ++item) {
     list_->item(item)->setText(ListText(*document_, item));
     list_->item(item)->setForeground(ColorOf(FamilyOf(document_->Item(item)->type)));
   }
-  list_->setCurrentRow(item_);
+  for (int block = 0; block < blocks; ++block) {
+    QListWidgetItem* row = list_->item(document_->ItemCount() + block);
+    row->setText(QLatin1String(kBlocks[block].name));
+    row->setForeground(theme::kFaintText);
+  }
+  list_->setCurrentRow(Row());
 }
 
 bool ItemInspector::IsShown(const FieldInfo& field) const {
@@ -113,32 +179,73 @@ QVector<FieldInfo> ItemInspector::FieldsOf(int item) const {
   return fields;
 }
 
-void ItemInspector::ShowFields() {
-  if (item_ < 0 && !built_.isEmpty()) BuildFields({});
-  all_->setVisible(item_ >= 0);
-  scroll_->setVisible(item_ >= 0);
-  if (item_ < 0) {
-    title_->setText(document_->ItemCount() == 0
-                        ? QStringLiteral("Nothing here yet. Add puts the first item on the screen.")
-                        : QStringLiteral("Click an item on the screen or in the list."));
-    built_.clear();
-    return;
+void ItemInspector::ShowPart() {
+  const bool is_text = !block_.isEmpty() || (item_ >= 0 && as_text_->isChecked());
+  if (item_ < 0 && !built_.isEmpty()) BuildFields({});  // first: a line that is hidden says what was typed in it
+  all_->setVisible(item_ >= 0 && !is_text);
+  as_text_->setVisible(item_ >= 0);
+  scroll_->setVisible(item_ >= 0 && !is_text);
+  pane_->setVisible(is_text);
+  ShowTitle();
+  if (item_ >= 0) ShowFields();
+  ShowSource();
+}
+
+void ItemInspector::ShowTitle() {
+  const auto title = [](const QString& name, const QColor& color, const QString& doc) {
+    return QStringLiteral("<b style='color:%1'>%2</b><br><span style='color:%3'>%4</span>")
+        .arg(color.name(), name, theme::kFaintText.name(), doc.toHtmlEscaped());
+  };
+  for (const BlockRow& block : kBlocks) {
+    if (block_ == QLatin1String(block.name)) return title_->setText(title(block_, theme::kText, block.doc));
   }
-  const km::ItemTypeInfo& type = document_->TypeOf(item_);
-  title_->setText(
-      QStringLiteral("<b style='color:%1'>%2</b><br><span style='color:%3'>%4</span>")
-          .arg(ColorOf(FamilyOf(type.name)).name(), type.name, theme::kFaintText.name(), type.doc.toHtmlEscaped()));
+  if (item_ >= 0) {
+    const km::ItemTypeInfo& type = document_->TypeOf(item_);
+    return title_->setText(title(type.name, ColorOf(FamilyOf(type.name)), type.doc));
+  }
+  title_->setText(document_->ItemCount() == 0
+                      ? QStringLiteral("Nothing here yet. Add puts the first item on the screen.")
+                      : QStringLiteral("Click an item on the screen or in the list."));
+}
+
+void ItemInspector::ShowFields() {
   const QVector<FieldInfo> fields = FieldsOf(item_);
-  QStringList wanted{type.name, QString::number(item_)};
+  QStringList wanted{document_->TypeOf(item_).name, QString::number(item_)};
   for (const FieldInfo& field : fields) wanted += field.name;
-  if (wanted != built_) BuildFields(fields);
+  if (wanted == built_) return ShowValues();
+  BuildFields(fields);
   built_ = wanted;
   ShowValues();
+}
+
+void ItemInspector::ShowSource() {
+  if (pane_->isHidden()) return pane_->Show(QString(), QString());
+  QString hint;
+  for (const BlockRow& block : kBlocks) {
+    if (block_ == QLatin1String(block.name)) hint = QStringLiteral("# not written, for example:\n") + block.example;
+  }
+  pane_->Show(document_->Source({item_, block_}), hint);
+}
+
+void ItemInspector::EnterSource(const QString& source) {
+  pane_->ShowProblem(document_->SetSource({item_, block_}, source));
+}
+
+void ItemInspector::CommitSource() {
+  pane_->Commit();
+  if (!pane_->Problem().isEmpty()) Q_EMIT Refused(QStringLiteral("The text is not taken over. ") + pane_->Problem());
+}
+
+void ItemInspector::LeavePart() {
+  if (pane_->isHidden()) return;
+  CommitSource();
+  pane_->Revert();
 }
 
 // The sender of what led here may be one of the editors that go.
 void ItemInspector::BuildFields(const QVector<FieldInfo>& fields) {
   for (FieldEditor* editor : qAsConst(editors_)) editor->disconnect(this);  // what it still says is of another item
+  built_.clear();
   if (QWidget* before = scroll_->takeWidget()) {
     before->hide();
     before->deleteLater();
@@ -181,12 +288,14 @@ void ItemInspector::ListenForKey() {
   if (item_ < 0) return;
   for (const FieldInfo& field : document_->TypeOf(item_).fields) {
     if (!IsKeyKind(field.kind)) continue;
+    SetAsText(false);
     scroll_->ensureWidgetVisible(Editor(field.name));
     return Editor(field.name)->Listener()->Listen();
   }
 }
 
 void ItemInspector::Commit() {
+  if (!pane_->isHidden()) return CommitSource();
   const auto editors = editors_.values();
   for (FieldEditor* editor : editors) {
     if (editors_.key(editor).isEmpty()) return;  // the first one has built all anew

@@ -13,6 +13,7 @@
 #include "host/editor/new_item.h"
 #include "host/window/edit_layer.h"
 #include "host/window/item_inspector.h"
+#include "host/window/source_pane.h"
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -59,6 +60,7 @@ KeymapEditor::KeymapEditor(QMainWindow* window, QWidget* view, QDockWidget* neig
   connect(layer_, &EditLayer::MenuWanted, this, &KeymapEditor::ShowMenu);
   connect(inspector_, &ItemInspector::KeyBound, view_, QOverload<>::of(&QWidget::setFocus));
   connect(inspector_, &ItemInspector::ItemChosen, layer_, &EditLayer::Select);
+  connect(inspector_, &ItemInspector::Refused, this, &KeymapEditor::Report);
   ShowState();
 }
 
@@ -231,6 +233,7 @@ void KeymapEditor::Open(const QString& path) {
   if (is_own) return;
   const bool is_known = !path.isEmpty() && path == document_.Path() && !document_.IsModified();
   if (!is_known || document_.IsFileChanged()) {
+    inspector_->Pane()->Revert();  // what was typed is about the keymap that goes
     layer_->Select(-1);
     is_opening_ = true;
     document_.Open(path);

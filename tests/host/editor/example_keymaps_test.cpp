@@ -72,6 +72,19 @@ TEST_P(ExampleKeymap, ASavedMoveIsOfThoseLines) {
   EXPECT_EQ(ChangedLines(before_, BytesOf(path_)), lines);
 }
 
+// Macros, curves, aimed skills with a walk of their own among them.
+TEST_P(ExampleKeymap, AnItemsTextChangesItsLineAlone) {
+  for (int item = 0; item < document_.ItemCount(); ++item) {
+    const KeymapPart part{item, {}};
+    const QString source = document_.Source(part);
+    EXPECT_EQ(document_.SetSource(part, source + QStringLiteral("  # so")), QString()) << source.toStdString();
+    const int first_line = LineOf(before_, before_.indexOf(source.toUtf8()));
+    EXPECT_EQ(ChangedLines(before_, document_.Text()), QVector<int>{first_line + source.count('\n')});
+    document_.UndoStack()->undo();
+  }
+  ExpectUndoGivesTheFileBack();
+}
+
 TEST_P(ExampleKeymap, ARadiusChangesItsLine) {
   for (int item = 0; item < document_.ItemCount(); ++item) {
     for (const char* field : {"radius", "walk_radius", "swipe_radius"}) {

@@ -4,12 +4,15 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
 
 #include "host/editor/item_handles.h"
 #include "host/window/edit_layer.h"
 #include "host/window/field_editor.h"
 #include "host/window/item_inspector.h"
 #include "host/window/key_listener.h"
+#include "host/window/source_pane.h"
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/joystick_event.h"
 #include "tests/host/window/window_fixture.h"
@@ -84,6 +87,10 @@ class EditingInTheWindow : public WindowFixture {
     Inspector()->Editor(field)->Line()->setText(text);
     Inspector()->Editor(field)->Commit();
   }
+
+  QPlainTextEdit* Text() const { return Inspector()->Pane()->Text(); }
+  // The rows of the list: the items, then the blocks of settings.
+  void ChooseRow(int row) { Inspector()->findChild<QListWidget*>()->setCurrentRow(row); }
 
   QByteArray before_;
   KeymapEditor::Button answer_ = QMessageBox::Cancel;
@@ -244,6 +251,78 @@ TEST_F(EditingInTheWindow, WhatIsWrongIsToldInPlace) {
   EXPECT_EQ(Document()->Text(), before_);
 }
 
+// ---- As text
+
+TEST_F(EditingInTheWindow, AnItemIsEditedAsText) {
+  Edit();
+  Layer()->Select(0);
+  Inspector()->SetAsText(true);
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, label: Jump, key: Space, point: [0.25, 0.75]}");
+  Text()->setPlainText("{type: Macro, key: Space, press_commands: [sleep:40, release_all]}");
+  EXPECT_EQ(Document()->Text(), before_);  // until it is applied
+  Inspector()->Pane()->Commit();
+  const std::string after = FileWith("{type: Click, label: Jump, key: Space, point: [0.25, 0.75]}",
+                                     "{type: Macro, key: Space, press_commands: [sleep:40, release_all]}");
+  EXPECT_EQ(Document()->Text().toStdString(), after);
+  Document()->UndoStack()->undo();
+  EXPECT_EQ(Document()->Text(), before_);
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, label: Jump, key: Space, point: [0.25, 0.75]}");
+}
+
+TEST_F(EditingInTheWindow, TextThatIsWrongStaysToBeCorrected) {
+  Edit();
+  Layer()->Select(0);
+  Inspector()->SetAsText(true);
+  Text()->setPlainText("{type: Click, key: Spcae, point: [0.25, 0.75]}");
+  Inspector()->Pane()->Commit();
+  // "{type: Click, key: " are 19 characters.
+  EXPECT_EQ(Inspector()->Pane()->Problem(), "Line 1, column 20: unknown key 'Spcae'; did you mean 'Space'?");
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, key: Spcae, point: [0.25, 0.75]}");
+  EXPECT_EQ(Document()->Text(), before_);
+  DragFrom(At(0.5, 0.5), At(0.5, 0.25));  // another item: what was typed has to go, and a person is told
+  EXPECT_TRUE(problem_.contains("unknown key 'Spcae'")) << problem_.toStdString();
+  EXPECT_EQ(Layer()->Selected(), 1);
+  EXPECT_TRUE(Text()->toPlainText().startsWith("{type: Swipehold"));
+}
+
+TEST_F(EditingInTheWindow, AnEditElsewhereLeavesWhatIsTyped) {
+  Edit();
+  Layer()->Select(0);
+  Inspector()->SetAsText(true);
+  Text()->setPlainText("{type: Click, ");
+  EXPECT_EQ(Document()->SetNumber(1, "radius", 0.2), QString());
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, ");
+  EXPECT_EQ(Document()->SetField(0, "key", "E"), QString());  // the item itself is another one now
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, label: Jump, key: E, point: [0.25, 0.75]}");
+}
+
+TEST_F(EditingInTheWindow, SettingsAndWheelStandBelowTheItems) {
+  Edit();
+  Layer()->Select(1);
+  ChooseRow(2);
+  EXPECT_EQ(Layer()->Selected(), -1);
+  EXPECT_EQ(Text()->toPlainText(), "");
+  Text()->setPlainText("settings: {keyboard_transparent: true}");
+  ChooseRow(3);  // takes over what was typed
+  Text()->setPlainText("wheel: {wheel_delta: 2.0}");
+  EXPECT_TRUE(Editor()->Save());
+  EXPECT_TRUE(FileText().contains("settings: {keyboard_transparent: true}\nwheel: {wheel_delta: 2.0}\n"));
+  ChooseRow(1);
+  EXPECT_EQ(Layer()->Selected(), 1);
+  Edit(false);
+  Press(kA);  // nobody's, and the guest gets it now
+  EXPECT_EQ(Guest().held_keys, QSet<int>{kA});
+}
+
+TEST_F(EditingInTheWindow, AKeyIsPressedInTheFields) {
+  Edit();
+  Layer()->Select(0);
+  Inspector()->SetAsText(true);
+  Inspector()->ListenForKey();
+  EXPECT_TRUE(Inspector()->Pane()->isHidden());
+  EXPECT_TRUE(Inspector()->Editor("key")->Listener()->IsListening());
+}
+
 // ---- Items
 
 TEST_F(EditingInTheWindow, ANewItemIsSelectedAndWaitsForAKey) {
@@ -271,6 +350,15 @@ TEST_F(EditingInTheWindow, AnotherFileDropsWhatWasOnlyTyped) {
   Load("{type: Tip, label: Note, point: [0.5, 0.5]}");
   Layer()->Select(0);
   EXPECT_EQ(Document()->WrittenText(0, "label"), "Note");
+  EXPECT_FALSE(Document()->IsModified());
+}
+
+TEST_F(EditingInTheWindow, AnotherFileDropsWhatWasOnlyTypedAsText) {
+  Edit();
+  ChooseRow(2);  // its settings, which neither file has
+  Text()->setPlainText("settings: {keyboard_transparent: true}");
+  Load("{type: Tip, label: Note, point: [0.5, 0.5]}");
+  EXPECT_EQ(Text()->toPlainText(), "");
   EXPECT_FALSE(Document()->IsModified());
 }
 
