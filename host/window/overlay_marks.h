@@ -9,7 +9,7 @@
 #include <QVector>
 
 namespace tavikeymapmanager {
-class ConfigItem;
+struct ConfigItem;
 struct LoadResult;
 }  // namespace tavikeymapmanager
 
