@@ -21,24 +21,23 @@ MacroEventSimulator* MacroEventSimulator::GetInstance() {
 
 MacroEventSimulator::~MacroEventSimulator() { qDeleteAll(workers_); }
 
-MacroSequentialTapAsyncWorker* MacroEventSimulator::GetWorker(const MacroConfigItem& item) {
-  MacroSequentialTapAsyncWorker*& worker = workers_[MacroKeyText(item.key)];
+MacroSequentialTapAsyncWorker* MacroEventSimulator::GetWorker(const MacroConfigItem* item) {
+  if (!item) return nullptr;
+  MacroSequentialTapAsyncWorker*& worker = workers_[MacroKeyText(item->key)];
   if (!worker) worker = new MacroSequentialTapAsyncWorker;
-  const bool is_operation = dynamic_cast<const OperationRecorderConfigItem*>(&item) != nullptr;
+  const bool is_operation = dynamic_cast<const OperationRecorderConfigItem*>(item) != nullptr;
   return is_operation && worker->IsRunning() ? nullptr : worker;
 }
 
 void MacroEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   auto* macro = dynamic_cast<MacroConfigItem*>(item);
-  if (!macro) return;
-  MacroSequentialTapAsyncWorker* worker = GetWorker(*macro);
+  MacroSequentialTapAsyncWorker* worker = GetWorker(macro);
   if (worker && !worker->IsRunning()) worker->Press(macro, key);
 }
 
 void MacroEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
   auto* macro = dynamic_cast<MacroConfigItem*>(item);
-  if (!macro) return;
-  if (MacroSequentialTapAsyncWorker* worker = GetWorker(*macro)) worker->Release(macro, key);
+  if (MacroSequentialTapAsyncWorker* worker = GetWorker(macro)) worker->Release(macro, key);
 }
 
 void MacroEventSimulator::StopWorkers(bool all) {

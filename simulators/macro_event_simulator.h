@@ -25,6 +25,9 @@ class MacroEventSimulator : public EventSimulator {
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   // Never dropped, but for an OperationRecorderConfigItem whose macro runs.
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  // The worker of the item's key, made at its first use; the simulator owns it, and a reset may end it. Null for an
+  // OperationRecorderConfigItem whose macro runs, and without an item.
+  MacroSequentialTapAsyncWorker* GetWorker(const tavikeymapmanager::MacroConfigItem* item);
   // Ends the macros that have a loop until release, wherever they are in it; with `all` every macro. Sends what lifts
   // their fingers.
   void StopWorkers(bool all);
@@ -32,9 +35,6 @@ class MacroEventSimulator : public EventSimulator {
  private:
   MacroEventSimulator() = default;
   ~MacroEventSimulator() override;
-
-  // Null for an OperationRecorderConfigItem whose macro runs.
-  MacroSequentialTapAsyncWorker* GetWorker(const tavikeymapmanager::MacroConfigItem& item);
 
   QMap<QString, MacroSequentialTapAsyncWorker*> workers_;  // by MacroKeyText; owned
 };

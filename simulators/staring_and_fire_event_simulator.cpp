@@ -116,7 +116,7 @@ void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {
     case RelativeRoute::kStaring: break;
   }
   if (!staring_item_) return;
-  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(*staring_item_, dx, dy);
+  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(&*staring_item_, dx, dy);
 }
 
 void StaringAndFireEventSimulator::StopAutoReset() { StaringWmRelativeInputWorker::GetInstance()->StopAutoReset(); }

@@ -49,7 +49,7 @@ void FireSyncWorker::OnFirePress(const ConfigItem* item) {
 
 void FireSyncWorker::StartFire(const FireConfigItem& item) {
   fire_item_ = item;
-  FireSlotManager::GetInstance()->position = FirePressPoint(item);
+  FireSlotManager::GetInstance()->position = FirePressPoint(&item);
   SendFinger();
   accumulated_ = {};
   fire_offset_.Start(item.offset_enabled);
@@ -63,7 +63,7 @@ void FireSyncWorker::CancelFire(const SpellCancelConfigItem& cancel) {
   if (log->IsDebugOn()) log->Debug("simulate spell cancel event");
   const FireSlotManager* finger = FireSlotManager::GetInstance();
   if (finger->HasTouch()) {
-    SwipeFireFinger(*fire_item_, finger->position, PixelOf(cancel.rel_x, cancel.rel_y));
+    SwipeFireFinger(&*fire_item_, finger->position, PixelOf(cancel.rel_x, cancel.rel_y));
     if (!cancel_timer_.isActive()) {  // else the earlier cancel's time decides
       if (cancel.cancel_delay_ms >= 1) cancel_timer_.start(cancel.cancel_delay_ms);
       if (cancel.cancel_delay_ms == 0) LiftFinger();
@@ -85,13 +85,15 @@ void FireSyncWorker::EndFire() {
   fire_item_.reset();
 }
 
-QPoint FireSyncWorker::FirePressPoint(const FireConfigItem& item) {
-  const bool has_alternative = item.alt_rel_x != 0 || item.alt_rel_y != 0;
-  return has_alternative ? PixelOf(item.alt_rel_x, item.alt_rel_y) : PixelOf(item.rel_x, item.rel_y);
+QPoint FireSyncWorker::FirePressPoint(const FireConfigItem* item) {
+  if (!item) return {};
+  const bool has_alternative = item->alt_rel_x != 0 || item->alt_rel_y != 0;
+  return has_alternative ? PixelOf(item->alt_rel_x, item->alt_rel_y) : PixelOf(item->rel_x, item->rel_y);
 }
 
-void FireSyncWorker::SwipeFireFinger(const FireConfigItem& item, QPoint from, QPoint to) {
-  const int steps = item.cancel_swipe_steps;
+void FireSyncWorker::SwipeFireFinger(const FireConfigItem* item, QPoint from, QPoint to) {
+  if (!item) return;
+  const int steps = item->cancel_swipe_steps;
   if (steps < 1) return;
   const double step_x = (static_cast<double>(to.x()) - from.x()) / steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
@@ -118,7 +120,7 @@ QPoint FireSyncWorker::RelativePoint() {
   if (item.offset_enabled) {
     fire_offset_.OnMovement(accumulated_, sensitivity, h * item.offset_threshold, h * item.offset_length);
   }
-  const QPoint start = FirePressPoint(item);
+  const QPoint start = FirePressPoint(&item);
   const QPoint offset = fire_offset_.Get();
   const QPoint way = Sum(offset, accumulated_.ToPixels(sensitivity));
   if (item.range_mode == keywords::kFireRangeUnlimited) return Sum(start, way);

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include <QPoint>
 #include <QTimer>
 
 #include "core/event_handler.h"
@@ -38,6 +39,12 @@ class FireSyncWorker : public EventHandler {
   // Counts of one host event; nothing while no fire key is held.
   void OnFireRelativeInput(int dx, int dy);
 
+  // Where the item's button is, display pixels; (0, 0) for null.
+  static QPoint FirePressPoint(const tavikeymapmanager::FireConfigItem* item);
+  // Takes the finger from one point to another, display pixels, in the item's number of even steps, sent without a
+  // pause between them. Nothing for null or without steps.
+  void SwipeFireFinger(const tavikeymapmanager::FireConfigItem* item, QPoint from, QPoint to);
+
  public Q_SLOTS:
   // The finger has stood on the cancel point for its time.
   void CancelTimerOutTime();
@@ -56,12 +63,8 @@ class FireSyncWorker : public EventHandler {
   void StartFire(const tavikeymapmanager::FireConfigItem& item);
   void CancelFire(const tavikeymapmanager::SpellCancelConfigItem& cancel);
   void EndFire();
-  // Where the item's button is, display pixels.
-  static QPoint FirePressPoint(const tavikeymapmanager::FireConfigItem& item);
   // Where the counts of this hold put the finger.
   QPoint RelativePoint();
-  // In even steps, sent without a pause between them.
-  void SwipeFireFinger(const tavikeymapmanager::FireConfigItem& item, QPoint from, QPoint to);
   void LiftFinger();
   void SendFinger();
 

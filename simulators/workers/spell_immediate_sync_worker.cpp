@@ -15,7 +15,7 @@ void SpellImmediateSyncWorker::Press(SpellConfigItem* item, bool from_joystick) 
   if (IsActive()) return;  // held already
   StoreItem(*item);
   SetFromJoystick(from_joystick);
-  MoveFinger(PressPoint(*item));
+  MoveFinger(PressPoint(item));
   ChangeSpellState(kSpellAiming, item);
 }
 

@@ -19,7 +19,7 @@ void SpellOnNextSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
   if (!tavikeymapmanager::IsSameKey(in_force->key, item->key)) return;
   ChangeSpellState(kSpellFinished);
   LiftFinger();
-  AfterCast(*item);
+  AfterCast(item);
 }
 
 void SpellOnNextSyncWorker::Release(SpellConfigItem* /*item*/, bool /*from_joystick*/) {}

@@ -15,12 +15,12 @@ SpellOnPressSyncWorker* SpellOnPressSyncWorker::GetInstance() {
 void SpellOnPressSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
   if (!IsActive()) StoreItem(*item);
   SetFromJoystick(from_joystick);
-  const QPoint button = PressPoint(*item);
-  const QPoint target = CalculateTargetPoint(*item);
+  const QPoint button = PressPoint(item);
+  const QPoint target = CalculateTargetPoint(item);
   if (item->touch_location == keywords::kLocationMouse) {
-    SwipeToTarget(*item, button, target);
+    SwipeToTarget(item, button, target);
     LiftFinger();
-    AfterCast(*item);
+    AfterCast(item);
     DropItem();
   } else if (item->touch_location == keywords::kLocationInnerSwipehold) {
     MoveFinger(target);

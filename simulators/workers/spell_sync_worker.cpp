@@ -32,12 +32,12 @@ void SpellSyncWorker::PressAndAim(SpellConfigItem* item, bool from_joystick) {
   StoreItem(*item);
   SetFromJoystick(from_joystick);
   if (from_joystick) {
-    MoveFinger(PressPoint(*item));
+    MoveFinger(PressPoint(item));
   } else if (spell_aim::IsAimedByWalk(*item)) {
-    MoveFinger(CalculateTargetPoint(*item));
+    MoveFinger(CalculateTargetPoint(item));
   } else {
-    const QPoint target = CalculateTargetPoint(*item);
-    SwipeToTarget(*item, PressPoint(*item), target);
+    const QPoint target = CalculateTargetPoint(item);
+    SwipeToTarget(item, PressPoint(item), target);
   }
   ChangeSpellState(kSpellAiming, item);
 }
@@ -48,12 +48,12 @@ void SpellSyncWorker::CastOnRelease(SpellConfigItem* item) {
   ChangeSpellState(kSpellCast);
   DropItem();
   LiftFinger();
-  AfterCast(*item);
+  AfterCast(item);
 }
 
 void SpellSyncWorker::FinishAiming() {
   if (!spell_item_) return;
-  MoveFinger(PressPoint(*spell_item_));
+  MoveFinger(PressPoint(spell_item_.get()));
   ChangeSpellState(kSpellFinished);
   LiftFinger();
 }
@@ -67,7 +67,7 @@ void SpellSyncWorker::Cancel(SpellCancelConfigItem* item) {
   if (!from.isNull()) {
     const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
     const QPoint to(Truncate(display.width() * item->rel_x), Truncate(display.height() * item->rel_y));
-    SwipeToCancel(*spell_item_, from, to);
+    SwipeToCancel(spell_item_.get(), from, to);
     LiftAfter(item->cancel_delay_ms);
   }
   DropItem();  // the state stays, and with it what the aim subscribed to
@@ -98,20 +98,22 @@ void SpellSyncWorker::StoreItem(const SpellConfigItem& item) { spell_item_ = std
 
 void SpellSyncWorker::DropItem() { spell_item_.reset(); }
 
-void SpellSyncWorker::ChangeSpellState(SpellState state, SpellConfigItem* pressed) {
-  spell_state_ = state;
+void SpellSyncWorker::ChangeSpellState(int state, SpellConfigItem* pressed) {
+  if (state != kSpellAiming && state != kSpellCast && state != kSpellFinished) return;
+  spell_state_ = static_cast<SpellState>(state);
   if (state == kSpellAiming) return BeginAim(pressed);
   EndAim(state == kSpellCast);
   if (state == kSpellFinished) DropItem();
 }
 
 void SpellSyncWorker::BeginAim(SpellConfigItem* pressed) {
+  if (!spell_item_) return;  // nothing to aim
   accumulated_ = RelativeCounts();
   spell_offset_.Start(spell_item_->offset_enabled);
   if (spell_item_->touch_location == keywords::kLocationSwipehold) {
     Q_EMIT sigSubscribeSwipehold();  // the answer may cast at once, and the item is gone then
   } else if (spell_item_->touch_location == keywords::kLocationInnerSwipehold) {
-    Q_EMIT sigEntrustToInnerSwipehold(*pressed);
+    Q_EMIT sigEntrustToInnerSwipehold(pressed ? *pressed : *spell_item_);
   }
 }
 
@@ -124,8 +126,8 @@ void SpellSyncWorker::EndAim(bool not_sync_data) {
   }
 }
 
-void SpellSyncWorker::AfterCast(const SpellConfigItem& item) {
-  if (!item.stop_walk_after_cast) return;
+void SpellSyncWorker::AfterCast(const SpellConfigItem* item) {
+  if (!item || !item->stop_walk_after_cast) return;
   if (from_joystick_) return LeftStickWalkSyncWorker::GetInstance()->StopWalk();
   RightWalkSyncWorker::GetInstance()->StopWalk();
 }
@@ -142,16 +144,17 @@ void SpellSyncWorker::LiftFinger() {
   SendEvent(slot->UpdateLine());
 }
 
-void SpellSyncWorker::SwipeToTarget(const SpellConfigItem& item, const QPoint& from, const QPoint& to) {
+void SpellSyncWorker::SwipeToTarget(const SpellConfigItem* item, const QPoint& from, const QPoint& to) {
+  if (!item) return;
   MoveFinger(from);
-  if (item.mode == keywords::kModeCurve && item.curve_enabled) {
-    SwipeAlongCurve(item, from, to);
+  if (item->mode == keywords::kModeCurve && item->curve_enabled) {
+    SwipeAlongCurve(*item, from, to);
   } else {
-    Clock::Sleep(item.press_hold_ms);
+    Clock::Sleep(item->press_hold_ms);
   }
-  for (int i = 1; i < item.swipe_steps; ++i) {
-    MoveFinger(spell_aim::StepBetween(from, to, i, item.swipe_steps));
-    Clock::Sleep(item.swipe_step_ms);
+  for (int i = 1; i < item->swipe_steps; ++i) {
+    MoveFinger(spell_aim::StepBetween(from, to, i, item->swipe_steps));
+    Clock::Sleep(item->swipe_step_ms);
   }
   MoveFinger(to);
 }
@@ -164,14 +167,14 @@ void SpellSyncWorker::SwipeAlongCurve(const SpellConfigItem& item, const QPoint&
   }
 }
 
-void SpellSyncWorker::SwipeToCancel(const SpellConfigItem& item, const QPoint& from, const QPoint& to) {
-  if (item.swipe_steps < 1) return;
+void SpellSyncWorker::SwipeToCancel(const SpellConfigItem* item, const QPoint& from, const QPoint& to) {
+  if (!item || item->swipe_steps < 1) return;
   // By a step of one length, as a fire finger's swipe: half pixels may fall to the other side than in a cast's.
-  const double step_x = (static_cast<double>(to.x()) - from.x()) / item.swipe_steps;
-  const double step_y = (static_cast<double>(to.y()) - from.y()) / item.swipe_steps;
-  for (int i = 1; i <= item.swipe_steps; ++i) {
+  const double step_x = (static_cast<double>(to.x()) - from.x()) / item->swipe_steps;
+  const double step_y = (static_cast<double>(to.y()) - from.y()) / item->swipe_steps;
+  for (int i = 1; i <= item->swipe_steps; ++i) {
     MoveFinger({Round(from.x() + i * step_x), Round(from.y() + i * step_y)});
-    Clock::Sleep(item.swipe_step_ms);
+    Clock::Sleep(item->swipe_step_ms);
   }
 }
 

@@ -63,13 +63,32 @@ class SpellSyncWorker : public EventHandler {
   // The walk aims: its direction has changed to `point`, a unit vector, or (0, 0) at rest.
   virtual void OnSwipeholdTargetPoint(QPointF point);
 
-  // The item in force, or null. The copy cannot be asked for its inner walk: that only the keymap's own item knows.
+  // ---- The steps of a cast; points are display pixels. Without an item they do nothing, and a point is (0, 0) ----
+  // Where the skill button of `item` is.
+  static QPoint PressPoint(const tavikeymapmanager::SpellConfigItem* item);
+  // Where the pointer aims. The button, while the mouse is captured or a walk aims.
+  static QPoint CalculateTargetPoint(const tavikeymapmanager::SpellConfigItem* item);
+  // Puts the finger there, or down there; a point of (0, 0) lifts it.
+  void MoveFinger(const QPoint& point);
+  // From the button to the target. Blocks for the time of the swipe.
+  void SwipeToTarget(const tavikeymapmanager::SpellConfigItem* item, const QPoint& from, const QPoint& to);
+  // To where a cast is given up. Blocks likewise.
+  void SwipeToCancel(const tavikeymapmanager::SpellConfigItem* item, const QPoint& from, const QPoint& to);
+  // `state` is a SpellState; others mean nothing. Nothing is subscribed or ended without an item in force.
+  // kSpellFinished drops the item. For kSpellAiming `pressed` is the keymap's own record of the item in force; without
+  // it the copy is asked for the inner walk.
+  void ChangeSpellState(int state, tavikeymapmanager::SpellConfigItem* pressed = nullptr);
+  // Stops the walk if `item`, just cast, says so.
+  void AfterCast(const tavikeymapmanager::SpellConfigItem* item);
+
+  // The item in force, or null. The inner walk of an item of a derived class is known to the keymap's own record only,
+  // not to the copy.
   const tavikeymapmanager::SpellConfigItem* GetSpellItem() const { return spell_item_.get(); }
 
  Q_SIGNALS:
   void sigSubscribeSwipehold();
   void sigUnSubscribeSwipehold();
-  // `item` is the keymap's own.
+  // `item` is the keymap's own, where it is known.
   void sigEntrustToInnerSwipehold(tavikeymapmanager::SpellConfigItem& item);
   // `item` is the copy. `not_sync_data`: the ordinary walk takes the keys over.
   void sigCancelEntrustToInnerSwipehold(tavikeymapmanager::SpellConfigItem& item, bool not_sync_data);
@@ -96,28 +115,16 @@ class SpellSyncWorker : public EventHandler {
   bool IsFromJoystick() const { return from_joystick_; }
   void SetFromJoystick(bool from_joystick) { from_joystick_ = from_joystick; }
   SpellState GetSpellState() const { return spell_state_; }
-  // Nothing is subscribed or ended without an item in force. kSpellFinished drops the item. `pressed` is the keymap's
-  // own record of the item in force, for kSpellAiming.
-  void ChangeSpellState(SpellState state, tavikeymapmanager::SpellConfigItem* pressed = nullptr);
-  // Stops the walk if `item`, just cast, says so.
-  void AfterCast(const tavikeymapmanager::SpellConfigItem& item);
 
   // ---- The finger; display pixels ----
-  void MoveFinger(const QPoint& point);
   void LiftFinger();
-  // Blocks for the time of the swipe.
-  void SwipeToTarget(const tavikeymapmanager::SpellConfigItem& item, const QPoint& from, const QPoint& to);
-
-  static QPoint PressPoint(const tavikeymapmanager::SpellConfigItem& item);
-  static QPoint CalculateTargetPoint(const tavikeymapmanager::SpellConfigItem& item);
-  // Where `item` in force sends the finger for a direction of the walk.
+  // Where the item in force sends the finger for a direction of the walk.
   QPoint WalkPoint(const QPointF& direction) const;
 
  private:
   void BeginAim(tavikeymapmanager::SpellConfigItem* pressed);
   void EndAim(bool not_sync_data);
   void SwipeAlongCurve(const tavikeymapmanager::SpellConfigItem& item, const QPoint& from, const QPoint& to);
-  void SwipeToCancel(const tavikeymapmanager::SpellConfigItem& item, const QPoint& from, const QPoint& to);
   void LiftAfter(int delay_ms);
   // The finger on its way to `target`, in steps of that many pixels. Blocks for the time of the way.
   void SlideTowards(const QPoint& target, double step);

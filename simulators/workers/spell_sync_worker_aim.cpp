@@ -33,31 +33,34 @@ QSize DisplaySize() { return DisplayGeometry::GetInstance()->GetDisplayRect().si
 
 }  // namespace
 
-QPoint SpellSyncWorker::PressPoint(const SpellConfigItem& item) { return spell_aim::PressPoint(item, DisplaySize()); }
+QPoint SpellSyncWorker::PressPoint(const SpellConfigItem* item) {
+  return item ? spell_aim::PressPoint(*item, DisplaySize()) : QPoint();
+}
 
 QPoint SpellSyncWorker::WalkPoint(const QPointF& direction) const {
   const QSize display = DisplaySize();
   return spell_aim::WalkTarget(*spell_item_, direction, spell_aim::PressPoint(*spell_item_, display), display);
 }
 
-QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem& item) {
+QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem* item) {
+  if (!item) return {};
   const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
-  const QPoint button = spell_aim::PressPoint(item, display.size());
+  const QPoint button = spell_aim::PressPoint(*item, display.size());
   // The mouse is captured, or a walk aims: the pointer says nothing.
-  if (InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring || spell_aim::IsAimedByWalk(item)) {
+  if (InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring || spell_aim::IsAimedByWalk(*item)) {
     return button;
   }
 
   const QPoint pointer = Clock::Pointer() - display.topLeft();
-  if (item.mode == keywords::kModeCurve) return pointer;
-  const QPoint on_ground = ProjectOnGround(item, pointer, button, display.size());
+  if (item->mode == keywords::kModeCurve) return pointer;
+  const QPoint on_ground = ProjectOnGround(*item, pointer, button, display.size());
   if (!on_ground.isNull()) return on_ground;
-  return spell_aim::CircleTarget(item, pointer, button, display.size());
+  return spell_aim::CircleTarget(*item, pointer, button, display.size());
 }
 
 void SpellSyncWorker::Follow() {
   if (!spell_item_ || from_joystick_) return;
-  MoveFinger(CalculateTargetPoint(*spell_item_));
+  MoveFinger(CalculateTargetPoint(spell_item_.get()));
 }
 
 void SpellSyncWorker::OnRelativeInput(int dx, int dy) {

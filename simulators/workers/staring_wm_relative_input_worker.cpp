@@ -54,12 +54,13 @@ void StaringWmRelativeInputWorker::UpdateEffectiveSensitivity() {
                             EffectiveSensitivity(base_sensitivity_.y(), handy_factor_y_, effective_sensitivity_.y())};
 }
 
-void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigItem& item, int dx, int dy) {
+void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigItem* item, int dx, int dy) {
+  if (!item) return;
   accumulated_.Add(dx, dy);
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   const bool is_down = finger->HasTouch();
   const qint64 now = Clock::NowMs();
-  if (now - last_send_ms_ < (is_down ? item.move_interval_ms : item.press_interval_ms)) return;  // too soon to send
+  if (now - last_send_ms_ < (is_down ? item->move_interval_ms : item->press_interval_ms)) return;  // too soon to send
   const QPoint& centre = range_.GetCentre();
   if (is_down) {
     const QPoint way = accumulated_.ToPixels(effective_sensitivity_);
@@ -72,9 +73,10 @@ void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigIte
   last_send_ms_ = now;
 }
 
-void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem& item) {
+void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem* item) {
+  if (!item) return;
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
-  range_.Apply(finger, item.auto_reset, item.range_mode);
+  range_.Apply(finger, item->auto_reset, item->range_mode);
   SendEvent(finger->UpdateLine());
 }
 

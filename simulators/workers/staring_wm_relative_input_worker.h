@@ -34,12 +34,17 @@ class StaringWmRelativeInputWorker : public EventHandler {
   // from then on, if the item has one. Puts nothing down. Nothing for null.
   void StartStaring(const tavikeymapmanager::StaringConfigItem* item);
   void StopAutoReset();
-  // Counts of one host event.
-  void OnStaringRelativeInput(const tavikeymapmanager::StaringConfigItem& item, int dx, int dy);
+  // Counts of one host event. Nothing for null.
+  void OnStaringRelativeInput(const tavikeymapmanager::StaringConfigItem* item, int dx, int dy);
+  // Lifts the finger outside the range or moves it back in, and sends what it is now. The range is that of the last
+  // StartStaring; `item` says what becomes of a finger outside. Nothing for null.
+  void ApplyStaringRange(const tavikeymapmanager::StaringConfigItem* item);
 
   // Factors on the view sensitivity of each axis: 0 is one per cent, 1 the item's own value, 2 two hundred per cent.
   // They hold for all keymaps to come.
   void SetHandyStaringSensitivity(double x, double y);
+  // Works out what GetEffectiveSensitivity tells, from the item's sensitivities and the factors.
+  void UpdateEffectiveSensitivity();
   // Display pixels a count, by axis; 0 until view control was first on.
   const QPointF& GetEffectiveSensitivity() const { return effective_sensitivity_; }
 
@@ -50,10 +55,6 @@ class StaringWmRelativeInputWorker : public EventHandler {
  private:
   StaringWmRelativeInputWorker();
   ~StaringWmRelativeInputWorker() override;
-
-  // Lifts the finger outside the range or moves it back in, and sends what it is now.
-  void ApplyStaringRange(const tavikeymapmanager::StaringConfigItem& item);
-  void UpdateEffectiveSensitivity();
 
   RelativeCounts accumulated_;  // since the finger was last put on the centre
   qint64 last_send_ms_;         // since the epoch

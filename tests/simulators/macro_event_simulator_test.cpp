@@ -1,6 +1,7 @@
 // Macros by key, what resets do to them, and operations.
 #include "simulators/macro_event_simulator.h"
 
+#include "simulators/workers/macro_sequential_tap_async_worker.h"
 #include "slots/macro_held_input.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/simulators/macro_story.h"
@@ -167,6 +168,36 @@ TEST_F(MacroSimulator, AHostMayNotListenToOperations) {
 TEST_F(MacroSimulator, AMacroTellsNoLength) {
   Run({"sleep:100"});
   EXPECT_CALLS_NONE();
+}
+
+// ---- Workers ----
+
+TEST_F(MacroSimulator, EachKeyHasAWorkerOfItsOwn) {
+  const auto* macro = Macro({"sleep:100", "text_inject:a"});
+  const auto* same_key = Macro({"text_inject:b"});
+  const auto* other_key = Macro({"text_inject:c"}, {}, "F2");
+  Load();
+  MacroEventSimulator* simulator = MacroEventSimulator::GetInstance();
+  MacroSequentialTapAsyncWorker* worker = simulator->GetWorker(macro);
+  ASSERT_TRUE(worker);
+  EXPECT_EQ(worker, simulator->GetWorker(same_key));
+  EXPECT_NE(worker, simulator->GetWorker(other_key));
+  EXPECT_EQ(nullptr, simulator->GetWorker(nullptr));
+  Play("down F1");
+  EXPECT_TRUE(worker->IsRunning());
+  EXPECT_EQ(worker, simulator->GetWorker(macro));
+}
+
+TEST_F(MacroSimulator, AnOperationHasNoWorkerWhileItRuns) {
+  const auto* operation = Operation({"sleep:100"});
+  Load();
+  MacroEventSimulator* simulator = MacroEventSimulator::GetInstance();
+  const MacroSequentialTapAsyncWorker* worker = simulator->GetWorker(operation);
+  ASSERT_TRUE(worker);
+  Play("down F1");
+  EXPECT_EQ(nullptr, simulator->GetWorker(operation));
+  Wait(100);
+  EXPECT_EQ(worker, simulator->GetWorker(operation));
 }
 
 }  // namespace

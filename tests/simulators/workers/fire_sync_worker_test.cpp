@@ -331,5 +331,29 @@ TEST_F(Fire, CountsRunOnPastTheRangeOfAnInt) {
   EXPECT_WIRE(FireAt(1050, 540), FireAt(870, 540));  // the circle holds both
 }
 
+// ---- Its steps, one by one ----
+
+TEST_F(Fire, TheButtonIsTheItemsPointUnlessItHasAnother) {
+  FireConfigItem item;
+  item.rel_x = 0.75;
+  item.rel_y = 0.75;
+  EXPECT_EQ(QPoint(960, 540), FireSyncWorker::GetInstance()->FirePressPoint(&item));
+  item.alt_rel_x = 0.25;
+  EXPECT_EQ(QPoint(320, 0), FireSyncWorker::GetInstance()->FirePressPoint(&item));
+  EXPECT_EQ(QPoint(), FireSyncWorker::GetInstance()->FirePressPoint(nullptr));
+}
+
+TEST_F(Fire, ASwipeHasTheItemsNumberOfSteps) {
+  FireConfigItem item;
+  item.cancel_swipe_steps = 2;
+  Load();
+  FireSyncWorker::GetInstance()->SwipeFireFinger(&item, {960, 540}, {160, 180});
+  EXPECT_WIRE(FireAt(560, 360), FireAt(160, 180));
+  item.cancel_swipe_steps = 0;
+  FireSyncWorker::GetInstance()->SwipeFireFinger(&item, {960, 540}, {160, 180});
+  FireSyncWorker::GetInstance()->SwipeFireFinger(nullptr, {960, 540}, {160, 180});
+  EXPECT_WIRE_NONE();
+}
+
 }  // namespace
 }  // namespace taviinputmanager

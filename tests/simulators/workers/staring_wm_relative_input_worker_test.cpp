@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "slots/mouse_slot_manager.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/view_story.h"
 
@@ -354,6 +355,51 @@ TEST_F(Staring, ADisplayWithoutSizeHasNoPlaceForAFinger) {
   Stare();
   Play("rel 1,1; rel 1,1");
   EXPECT_WIRE(kViewUp, kViewUp);
+}
+
+// ---- The worker by itself ----
+
+TEST_F(Staring, TheWorkerTurnsByCountsAndWithoutAnItemLosesThem) {
+  const StaringConfigItem* item = AddStaring();
+  Load();
+  auto* worker = StaringWmRelativeInputWorker::GetInstance();
+  worker->StartStaring(item);
+  worker->OnStaringRelativeInput(item, 9, 9);
+  worker->OnStaringRelativeInput(item, 5, 6);
+  worker->OnStaringRelativeInput(nullptr, 50, 50);
+  worker->OnStaringRelativeInput(item, 1, 1);
+  EXPECT_WIRE(ViewAt(640, 360), ViewAt(645, 366), ViewAt(646, 367));
+}
+
+TEST_F(Staring, TheRangeIsAppliedToAFingerWhereverItIs) {
+  StaringConfigItem* item = AddStaring();
+  item->range_mode = "Range_User";
+  Stare();
+  auto* worker = StaringWmRelativeInputWorker::GetInstance();
+  MouseSlotManager* finger = MouseSlotManager::GetInstance();
+  finger->position = {960, 360};  // on the edge
+  worker->ApplyStaringRange(item);
+  finger->position = {961, 360};
+  worker->ApplyStaringRange(item);
+  EXPECT_WIRE(ViewAt(960, 360), kViewUp);
+
+  item->auto_reset = false;
+  finger->position = {1000, 100};
+  worker->ApplyStaringRange(item);
+  worker->ApplyStaringRange(nullptr);
+  EXPECT_WIRE(ViewAt(960, 180));
+}
+
+TEST_F(Staring, TheSensitivityIsWorkedOutFromTheLastItem) {
+  auto* worker = StaringWmRelativeInputWorker::GetInstance();
+  worker->UpdateEffectiveSensitivity();
+  EXPECT_EQ(QPointF(), Sensitivity());  // there was none
+  StaringConfigItem* item = AddStaring();
+  item->sensitivity_x = 50;
+  Stare();
+  item->sensitivity_x = 10;  // read when view control begins
+  worker->UpdateEffectiveSensitivity();
+  EXPECT_EQ(QPointF(0.5, 1), Sensitivity());
 }
 
 }  // namespace
