@@ -22,7 +22,7 @@ BunchTapEventSimulator* BunchTapEventSimulator::GetInstance() {
 void BunchTapEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
   const auto* bunch = dynamic_cast<const BunchClickConfigItem*>(item);
   if (!bunch || bunch->bunch_mode != keywords::kBunchContinue) return;
-  BunchTapRun::StartContinue(this, new BunchTapContinueWorker(*bunch));
+  BunchTapRun::StartContinue(this, new BunchTapContinueWorker(bunch));
 }
 
 void BunchTapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
@@ -31,7 +31,7 @@ void BunchTapEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
   if (bunch->bunch_mode == keywords::kBunchContinue) {
     Q_EMIT StopBunchTap(bunch->key.device, bunch->key.text, bunch->key.scancode);
   } else {
-    BunchTapRun::StartOneOff(this, new BunchTapOneOffWorker(*bunch));
+    BunchTapRun::StartOneOff(this, new BunchTapOneOffWorker(bunch));
   }
 }
 

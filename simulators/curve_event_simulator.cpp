@@ -58,7 +58,7 @@ void CurveEventSimulator::Reset() {
 }
 
 void CurveEventSimulator::StartRun(const CurveConfigItem& item, bool lifts_at_end) {
-  auto* worker = new CurveAsyncWorker(item);
+  auto* worker = new CurveAsyncWorker(&item);
   auto* run = new WorkerThread(worker);
   connect(run, &WorkerThread::started, worker, &CurveAsyncWorker::Process);
   connect(this, &CurveEventSimulator::StopCurve, worker, &CurveAsyncWorker::Stop, Qt::QueuedConnection);

@@ -15,13 +15,11 @@ EyeEventSimulator* EyeEventSimulator::GetInstance() {
 }
 
 void EyeEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
-  const auto* eye = dynamic_cast<EyeConfigItem*>(item);
-  if (eye) EyeAsyncWorker::GetInstance()->Press(*eye, *key);
+  EyeAsyncWorker::GetInstance()->Press(dynamic_cast<EyeConfigItem*>(item), key);
 }
 
 void EyeEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
-  const auto* eye = dynamic_cast<EyeConfigItem*>(item);
-  if (eye) EyeAsyncWorker::GetInstance()->Release(*eye, *key);
+  EyeAsyncWorker::GetInstance()->Release(dynamic_cast<EyeConfigItem*>(item), key);
 }
 
 void EyeEventSimulator::Stop() { EyeAsyncWorker::GetInstance()->Stop(); }

@@ -15,13 +15,11 @@ GravityEventSimulator* GravityEventSimulator::GetInstance() {
 }
 
 void GravityEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
-  const auto* gravity = dynamic_cast<GravityConfigItem*>(item);
-  if (gravity) GravitySyncWorker::GetInstance()->Press(*gravity, *key);
+  GravitySyncWorker::GetInstance()->Press(dynamic_cast<GravityConfigItem*>(item), key);
 }
 
 void GravityEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
-  const auto* gravity = dynamic_cast<GravityConfigItem*>(item);
-  if (gravity) GravitySyncWorker::GetInstance()->Release(*gravity, *key);
+  GravitySyncWorker::GetInstance()->Release(dynamic_cast<GravityConfigItem*>(item), key);
 }
 
 void GravityEventSimulator::Stop() { GravitySyncWorker::GetInstance()->Stop(); }

@@ -18,8 +18,7 @@ void LeftStickWalkEventSimulator::Press(ConfigItem* /*item*/, ConfigKey* /*key*/
 void LeftStickWalkEventSimulator::Release(ConfigItem* /*item*/, ConfigKey* /*key*/) {}
 
 void LeftStickWalkEventSimulator::OnStick(JoystickLeftWalkConfigItem* item, const QPointF& stick) {
-  if (!item) return;  // the stick's name is mapped to an item of another class
-  LeftStickWalkSyncWorker::GetInstance()->OnStick(*item, stick);
+  LeftStickWalkSyncWorker::GetInstance()->OnStick(item, stick);
 }
 
 void LeftStickWalkEventSimulator::StopWalk() { LeftStickWalkSyncWorker::GetInstance()->StopWalk(); }

@@ -18,8 +18,7 @@ void RightStickEyeEventSimulator::Press(ConfigItem* /*item*/, ConfigKey* /*key*/
 void RightStickEyeEventSimulator::Release(ConfigItem* /*item*/, ConfigKey* /*key*/) {}
 
 void RightStickEyeEventSimulator::OnStick(JoystickRightEyeConfigItem* item, const QPointF& stick) {
-  if (!item) return;  // the stick's name is mapped to an item of another class
-  RightStickEyeSyncWorker::GetInstance()->OnStick(*item, stick);
+  RightStickEyeSyncWorker::GetInstance()->OnStick(item, stick);
 }
 
 }  // namespace taviinputmanager

@@ -22,7 +22,7 @@ void VJoystickBunchButtonEventSimulator::Press(ConfigItem* item, ConfigKey* /*ke
   if (!button) return;  // not such a button
   if (!button->bunch_enabled) return Tell(button->map_text, true);
   if (button->bunch_mode != keywords::kBunchContinue) return;  // begins when the key comes up
-  BunchTapRun::StartContinue(this, new BunchTapContinueVjoyWorker(*button));
+  BunchTapRun::StartContinue(this, new BunchTapContinueVjoyWorker(button));
 }
 
 void VJoystickBunchButtonEventSimulator::Release(ConfigItem* item, ConfigKey* /*key*/) {
@@ -32,7 +32,7 @@ void VJoystickBunchButtonEventSimulator::Release(ConfigItem* item, ConfigKey* /*
   if (button->bunch_mode == keywords::kBunchContinue) {
     Q_EMIT StopBunchTap(button->key.device, button->key.text, button->key.scancode);
   } else {
-    BunchTapRun::StartOneOff(this, new BunchTapOneOffVjoyWorker(*button));
+    BunchTapRun::StartOneOff(this, new BunchTapOneOffVjoyWorker(button));
   }
 }
 

@@ -45,7 +45,7 @@ bool WheelEventSimulator::IsRepeated(int direction) const {
 void WheelEventSimulator::StartRun(const WheelConfigItem& item) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
   if (!pool->PressAt(item.rel_x, item.rel_y)) return;  // no finger is free
-  auto* worker = new WheelOneOffWorker(item, pool->GetSlotId());
+  auto* worker = new WheelOneOffWorker(&item, pool->GetSlotId());
   auto* run = new WorkerThread(worker);
   connect(run, &WorkerThread::started, worker, &WheelOneOffWorker::OneOffProcess);
   connect(this, &WheelEventSimulator::StopOneOffWheel, worker, &WheelOneOffWorker::OneOffStop, Qt::QueuedConnection);

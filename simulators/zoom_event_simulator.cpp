@@ -45,7 +45,7 @@ void ZoomEventSimulator::StartRun(const ZoomConfigItem& item) {
 }
 
 void ZoomEventSimulator::Run(const ZoomConfigItem& item, int positive_slot_id, int negative_slot_id) {
-  auto* worker = new ZoomOneOffWorker(item, positive_slot_id, negative_slot_id);
+  auto* worker = new ZoomOneOffWorker(&item, positive_slot_id, negative_slot_id);
   auto* run = new WorkerThread(worker);
   connect(run, &WorkerThread::started, worker, &ZoomOneOffWorker::OneOffProcess);
   connect(this, &ZoomEventSimulator::StopOneOffZoom, worker, &ZoomOneOffWorker::OneOffStop, Qt::QueuedConnection);

@@ -1,11 +1,14 @@
 #include "simulators/workers/bunch_tap_continue_vjoy_worker.h"
 
+#include "simulators/workers/item_or_default.h"
+
 namespace taviinputmanager {
 
 using tavikeymapmanager::VirtualJoystickBunchButtonConfigItem;
 
-BunchTapContinueVjoyWorker::BunchTapContinueVjoyWorker(const VirtualJoystickBunchButtonConfigItem& item)
-    : BunchTapWorker(PeriodOfFrequency(item.bunch_frequency), std::nullopt), item_(item) {}
+BunchTapContinueVjoyWorker::BunchTapContinueVjoyWorker(const VirtualJoystickBunchButtonConfigItem* item)
+    : BunchTapWorker(PeriodOfFrequency(ItemOrDefault(item).bunch_frequency), std::nullopt),
+      item_(ItemOrDefault(item)) {}
 
 void BunchTapContinueVjoyWorker::Process() {
   Begin([this] { TimerOutTime(); });

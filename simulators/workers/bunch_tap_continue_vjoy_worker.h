@@ -11,7 +11,8 @@ class BunchTapContinueVjoyWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  explicit BunchTapContinueVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem& item);
+  // Takes a copy of `item`; null stands for a default item.
+  explicit BunchTapContinueVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem* item);
 
  public Q_SLOTS:
   void Process();

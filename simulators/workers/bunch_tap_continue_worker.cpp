@@ -1,13 +1,16 @@
 #include "simulators/workers/bunch_tap_continue_worker.h"
 
+#include "simulators/workers/item_or_default.h"
+
 namespace taviinputmanager {
 
 using tavikeymapmanager::BunchClickConfigItem;
 using tavikeymapmanager::ConfigKey;
 namespace keywords = tavikeymapmanager::keywords;
 
-BunchTapContinueWorker::BunchTapContinueWorker(const BunchClickConfigItem& item)
-    : BunchTapWorker(PeriodOfFrequency(item.bunch_frequency), std::nullopt), item_(item) {}
+BunchTapContinueWorker::BunchTapContinueWorker(const BunchClickConfigItem* item)
+    : BunchTapWorker(PeriodOfFrequency(ItemOrDefault(item).bunch_frequency), std::nullopt),
+      item_(ItemOrDefault(item)) {}
 
 void BunchTapContinueWorker::Process() {
   Begin([this] { TimerOutTime(); });

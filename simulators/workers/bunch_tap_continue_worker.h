@@ -11,7 +11,8 @@ class BunchTapContinueWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  explicit BunchTapContinueWorker(const tavikeymapmanager::BunchClickConfigItem& item);
+  // Takes a copy of `item`; null stands for a default item.
+  explicit BunchTapContinueWorker(const tavikeymapmanager::BunchClickConfigItem* item);
 
  public Q_SLOTS:
   void Process();

@@ -1,11 +1,13 @@
 #include "simulators/workers/bunch_tap_one_off_vjoy_worker.h"
 
+#include "simulators/workers/item_or_default.h"
+
 namespace taviinputmanager {
 
 using tavikeymapmanager::VirtualJoystickBunchButtonConfigItem;
 
-BunchTapOneOffVjoyWorker::BunchTapOneOffVjoyWorker(const VirtualJoystickBunchButtonConfigItem& item)
-    : BunchTapWorker(kOneOffPeriodMs, item.bunch_count), item_(item) {}
+BunchTapOneOffVjoyWorker::BunchTapOneOffVjoyWorker(const VirtualJoystickBunchButtonConfigItem* item)
+    : BunchTapWorker(kOneOffPeriodMs, ItemOrDefault(item).bunch_count), item_(ItemOrDefault(item)) {}
 
 void BunchTapOneOffVjoyWorker::OneOffProcess() {
   Begin([this] { OneOffTimerOutTime(); });

@@ -12,7 +12,8 @@ class BunchTapOneOffVjoyWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  explicit BunchTapOneOffVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem& item);
+  // Takes a copy of `item`; null stands for a default item.
+  explicit BunchTapOneOffVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem* item);
 
  public Q_SLOTS:
   void OneOffProcess();

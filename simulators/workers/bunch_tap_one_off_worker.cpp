@@ -1,11 +1,13 @@
 #include "simulators/workers/bunch_tap_one_off_worker.h"
 
+#include "simulators/workers/item_or_default.h"
+
 namespace taviinputmanager {
 
 using tavikeymapmanager::BunchClickConfigItem;
 
-BunchTapOneOffWorker::BunchTapOneOffWorker(const BunchClickConfigItem& item)
-    : BunchTapWorker(kOneOffPeriodMs, item.bunch_count), item_(item) {}
+BunchTapOneOffWorker::BunchTapOneOffWorker(const BunchClickConfigItem* item)
+    : BunchTapWorker(kOneOffPeriodMs, ItemOrDefault(item).bunch_count), item_(ItemOrDefault(item)) {}
 
 void BunchTapOneOffWorker::OneOffProcess() {
   Begin([this] { OneOffTimerOutTime(); });

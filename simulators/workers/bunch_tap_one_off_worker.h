@@ -12,7 +12,8 @@ class BunchTapOneOffWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  explicit BunchTapOneOffWorker(const tavikeymapmanager::BunchClickConfigItem& item);
+  // Takes a copy of `item`; null stands for a default item.
+  explicit BunchTapOneOffWorker(const tavikeymapmanager::BunchClickConfigItem* item);
 
  public Q_SLOTS:
   void OneOffProcess();

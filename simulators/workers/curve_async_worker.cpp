@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "core/worker_thread.h"
+#include "simulators/workers/item_or_default.h"
 #include "slots/curve_slot_manager.h"
 
 namespace taviinputmanager {
@@ -12,8 +13,9 @@ constexpr int kTickMs = 8;
 
 }  // namespace
 
-CurveAsyncWorker::CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem& item) : item_(item), points_(item) {
-  CurveSlotManager::GetInstance()->SetOrigin({item.rel_x, item.rel_y});
+CurveAsyncWorker::CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem* item)
+    : item_(ItemOrDefault(item)), points_(item_) {
+  CurveSlotManager::GetInstance()->SetOrigin({item_.rel_x, item_.rel_y});
 }
 
 bool CurveAsyncWorker::HasKey(const QString& device, int scancode) const {

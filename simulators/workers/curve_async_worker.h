@@ -20,8 +20,9 @@ class CurveAsyncWorker : public QObject {
   Q_OBJECT
 
  public:
-  // Main thread: puts the origin of the curve's finger at the item's point.
-  explicit CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem& item);
+  // Main thread: puts the origin of the curve's finger at the item's point. Takes a copy of `item`; null stands for a
+  // default item.
+  explicit CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem* item);
 
   // Any thread: the item's key never changes.
   bool HasKey(const QString& device, int scancode) const;

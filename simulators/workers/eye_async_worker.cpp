@@ -32,14 +32,15 @@ EyeAsyncWorker::EyeAsyncWorker() : finger_(EyeSlotManager::GetInstance()) {
   connect(&timer_, &QTimer::timeout, this, &EyeAsyncWorker::TimerOutTime);
 }
 
-void EyeAsyncWorker::Press(const EyeConfigItem& item, const ConfigKey& key) { Update(item, key, true); }
+void EyeAsyncWorker::Press(const EyeConfigItem* item, const ConfigKey* key) { Update(item, key, true); }
 
-void EyeAsyncWorker::Release(const EyeConfigItem& item, const ConfigKey& key) { Update(item, key, false); }
+void EyeAsyncWorker::Release(const EyeConfigItem* item, const ConfigKey* key) { Update(item, key, false); }
 
-void EyeAsyncWorker::Update(const EyeConfigItem& item, const ConfigKey& key, bool pressed) {
-  finger_->SetDirectionKey(DirectionOfKey(item, key), pressed);
+void EyeAsyncWorker::Update(const EyeConfigItem* item, const ConfigKey* key, bool pressed) {
+  if (!item || !key) return;
+  finger_->SetDirectionKey(DirectionOfKey(*item, *key), pressed);
   if (finger_->HasDirection() == timer_.isActive()) return;  // a further key only changes the direction
-  if (finger_->HasDirection()) return Start(item);
+  if (finger_->HasDirection()) return Start(*item);
   timer_.stop();
   Clock::Sleep(kTickMs);  // the last step has its time too
   LiftFinger();

@@ -28,8 +28,9 @@ class EyeAsyncWorker : public EventHandler {
  public:
   static EyeAsyncWorker* GetInstance();
 
-  virtual void Press(const tavikeymapmanager::EyeConfigItem& item, const tavikeymapmanager::ConfigKey& key);
-  virtual void Release(const tavikeymapmanager::EyeConfigItem& item, const tavikeymapmanager::ConfigKey& key);
+  // One of the item's four keys goes down or up. Nothing for null.
+  virtual void Press(const tavikeymapmanager::EyeConfigItem* item, const tavikeymapmanager::ConfigKey* key);
+  virtual void Release(const tavikeymapmanager::EyeConfigItem* item, const tavikeymapmanager::ConfigKey* key);
   // Forgets the keys and lifts the finger; the release is sent in any case.
   void Stop();
 
@@ -39,7 +40,7 @@ class EyeAsyncWorker : public EventHandler {
  private:
   EyeAsyncWorker();
 
-  void Update(const tavikeymapmanager::EyeConfigItem& item, const tavikeymapmanager::ConfigKey& key, bool pressed);
+  void Update(const tavikeymapmanager::EyeConfigItem* item, const tavikeymapmanager::ConfigKey* key, bool pressed);
   void Start(const tavikeymapmanager::EyeConfigItem& item);
   void LiftFinger();
   bool IsInWindow() const;

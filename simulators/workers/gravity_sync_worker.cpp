@@ -28,17 +28,19 @@ GravitySyncWorker::GravitySyncWorker() : keys_(GravityFakeSlotManager::GetInstan
   connect(&timer_, &QTimer::timeout, this, &GravitySyncWorker::TimerOutTime);
 }
 
-void GravitySyncWorker::Press(const GravityConfigItem& item, const ConfigKey& key) {
+void GravitySyncWorker::Press(const GravityConfigItem* item, const ConfigKey* key) {
+  if (!item || !key) return;
   if (!keys_->HasDirection()) {
-    step_ = item.speed / 100.0;
+    step_ = item->speed / 100.0;
     keys_->ClearOffset();
     timer_.start(kTickMs);
   }
-  keys_->SetDirectionKey(DirectionOfKey(item, key), true);
+  keys_->SetDirectionKey(DirectionOfKey(*item, *key), true);
 }
 
-void GravitySyncWorker::Release(const GravityConfigItem& item, const ConfigKey& key) {
-  keys_->SetDirectionKey(DirectionOfKey(item, key), false);
+void GravitySyncWorker::Release(const GravityConfigItem* item, const ConfigKey* key) {
+  if (!item || !key) return;
+  keys_->SetDirectionKey(DirectionOfKey(*item, *key), false);
   if (!keys_->HasDirection()) timer_.stop();
   LevelOut();
 }

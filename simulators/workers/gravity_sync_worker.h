@@ -29,8 +29,9 @@ class GravitySyncWorker : public EventHandler {
  public:
   static GravitySyncWorker* GetInstance();
 
-  virtual void Press(const tavikeymapmanager::GravityConfigItem& item, const tavikeymapmanager::ConfigKey& key);
-  virtual void Release(const tavikeymapmanager::GravityConfigItem& item, const tavikeymapmanager::ConfigKey& key);
+  // One of the item's four keys goes down or up. Nothing for null.
+  virtual void Press(const tavikeymapmanager::GravityConfigItem* item, const tavikeymapmanager::ConfigKey* key);
+  virtual void Release(const tavikeymapmanager::GravityConfigItem* item, const tavikeymapmanager::ConfigKey* key);
   // Forgets the keys and lays the sensor flat; the host is told in any case.
   void Stop();
 

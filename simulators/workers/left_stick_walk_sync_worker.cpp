@@ -39,19 +39,20 @@ LeftStickWalkSyncWorker::LeftStickWalkSyncWorker() : finger_(JoystickLeftStickSl
   connect(&stop_timer_, &QTimer::timeout, this, &LeftStickWalkSyncWorker::onStopTimerOutTime);
 }
 
-void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem& item, const QPointF& stick) {
-  stick_item_ = item;
+void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem* item, const QPointF& stick) {
+  if (!item) return;  // the stick's name is mapped to an item of another class
+  stick_item_ = *item;
   stop_timer_.stop();
   if (stick.isNull()) return OnRest();
   if (!walk_enabled_) return;  // stopped by force: first the stick has to come to rest
   const QSize display = DisplayGeometry::GetInstance()->GetDisplayRect().size();
-  const QPoint centre(Truncate(display.width() * item.rel_x), Truncate(display.height() * item.rel_y));
+  const QPoint centre(Truncate(display.width() * item->rel_x), Truncate(display.height() * item->rel_y));
   const bool is_fresh = !finger_->HasTouch();
   if (is_fresh) PutDown(centre);
   // Both axes count in widths: the stick is round in pixels.
-  const QPoint target = Moved(centre, Truncate(item.walk_radius * stick.x() * display.width()),
-                              Truncate(item.walk_radius * stick.y() * display.width()));
-  DrawTo(target, is_fresh && item.smooth_start);
+  const QPoint target = Moved(centre, Truncate(item->walk_radius * stick.x() * display.width()),
+                              Truncate(item->walk_radius * stick.y() * display.width()));
+  DrawTo(target, is_fresh && item->smooth_start);
 }
 
 void LeftStickWalkSyncWorker::OnRest() {

@@ -27,8 +27,8 @@ class LeftStickWalkSyncWorker : public EventHandler {
  public:
   static LeftStickWalkSyncWorker* GetInstance();
 
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest.
-  void OnStick(const tavikeymapmanager::JoystickLeftWalkConfigItem& item, const QPointF& stick);
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Nothing without an item.
+  void OnStick(const tavikeymapmanager::JoystickLeftWalkConfigItem* item, const QPointF& stick);
   // Lifts the finger; the release is sent in any case.
   void StopWalk();
 

@@ -24,16 +24,17 @@ RightStickEyeSyncWorker* RightStickEyeSyncWorker::GetInstance() {
 
 RightStickEyeSyncWorker::RightStickEyeSyncWorker() : finger_(JoystickRightStickSlotManager::GetInstance()) {}
 
-void RightStickEyeSyncWorker::OnStick(const JoystickRightEyeConfigItem& item, const QPointF& stick) {
+void RightStickEyeSyncWorker::OnStick(const JoystickRightEyeConfigItem* item, const QPointF& stick) {
+  if (!item) return;  // the stick's name is mapped to an item of another class
   if (stick.isNull()) {
     finger_->Reset();
   } else {
     if (finger_->HasTouch()) {
       MoveBy(stick);
     } else {
-      PutDown(item);
+      PutDown(*item);
     }
-    range_.Apply(finger_, item.auto_reset, item.range_mode);
+    range_.Apply(finger_, item->auto_reset, item->range_mode);
   }
   SendEvent(finger_->UpdateLine());
 }

@@ -23,8 +23,8 @@ class RightStickEyeSyncWorker : public EventHandler {
  public:
   static RightStickEyeSyncWorker* GetInstance();
 
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest, and lifts.
-  void OnStick(const tavikeymapmanager::JoystickRightEyeConfigItem& item, const QPointF& stick);
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest, and lifts. Nothing without an item.
+  void OnStick(const tavikeymapmanager::JoystickRightEyeConfigItem* item, const QPointF& stick);
 
  private:
   RightStickEyeSyncWorker();

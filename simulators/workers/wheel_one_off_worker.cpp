@@ -4,6 +4,7 @@
 
 #include "core/worker_thread.h"
 #include "simulators/workers/axis_step.h"
+#include "simulators/workers/item_or_default.h"
 
 namespace taviinputmanager {
 namespace {
@@ -12,8 +13,8 @@ constexpr int kTickMs = 8;
 
 }  // namespace
 
-WheelOneOffWorker::WheelOneOffWorker(const tavikeymapmanager::WheelConfigItem& item, int slot_id)
-    : item_(item), slot_id_(slot_id) {}
+WheelOneOffWorker::WheelOneOffWorker(const tavikeymapmanager::WheelConfigItem* item, int slot_id)
+    : item_(ItemOrDefault(item)), slot_id_(slot_id) {}
 
 void WheelOneOffWorker::OneOffProcess() {
   delta_ = AxisVector(item_.axis, DirectionSign(item_.direction) * StepOfSpeed(item_.speed));

@@ -19,8 +19,8 @@ class WheelOneOffWorker : public QObject {
   Q_OBJECT
 
  public:
-  // `slot_id` was taken from the tap pool for this run.
-  WheelOneOffWorker(const tavikeymapmanager::WheelConfigItem& item, int slot_id);
+  // `slot_id` was taken from the tap pool for this run. Takes a copy of `item`; null stands for a default item.
+  WheelOneOffWorker(const tavikeymapmanager::WheelConfigItem* item, int slot_id);
 
  public Q_SLOTS:
   // A key without direction or speed moves nothing: such a run ends by OneOffStop only.

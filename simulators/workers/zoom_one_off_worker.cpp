@@ -8,6 +8,7 @@
 #include "core/guest_command.h"
 #include "core/worker_thread.h"
 #include "simulators/workers/axis_step.h"
+#include "simulators/workers/item_or_default.h"
 
 namespace taviinputmanager {
 namespace {
@@ -25,9 +26,9 @@ bool IsOnDisplay(const guest_command::Contact& contact) { return contact.x != kN
 
 }  // namespace
 
-ZoomOneOffWorker::ZoomOneOffWorker(const tavikeymapmanager::ZoomConfigItem& item, int positive_slot_id,
+ZoomOneOffWorker::ZoomOneOffWorker(const tavikeymapmanager::ZoomConfigItem* item, int positive_slot_id,
                                    int negative_slot_id)
-    : item_(item), positive_slot_id_(positive_slot_id), negative_slot_id_(negative_slot_id) {}
+    : item_(ItemOrDefault(item)), positive_slot_id_(positive_slot_id), negative_slot_id_(negative_slot_id) {}
 
 void ZoomOneOffWorker::OneOffProcess() {
   const double step = StepOfSpeed(item_.speed);

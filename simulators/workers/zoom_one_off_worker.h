@@ -21,8 +21,8 @@ class ZoomOneOffWorker : public QObject {
   Q_OBJECT
 
  public:
-  // Both slots were taken from the macro pool for this run.
-  ZoomOneOffWorker(const tavikeymapmanager::ZoomConfigItem& item, int positive_slot_id, int negative_slot_id);
+  // Both slots were taken from the macro pool for this run. Takes a copy of `item`; null stands for a default item.
+  ZoomOneOffWorker(const tavikeymapmanager::ZoomConfigItem* item, int positive_slot_id, int negative_slot_id);
 
  public Q_SLOTS:
   // A key without direction or speed moves nothing: such a run ends by OneOffStop only.

@@ -138,7 +138,7 @@ TEST_F(WheelKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
   item.direction = 1;
   item.speed = 10;
   item.duration_ms = 8;
-  WheelOneOffWorker worker(item, 11);
+  WheelOneOffWorker worker(&item, 11);
   QStringList said;
   QObject::connect(&worker, &WheelOneOffWorker::OneOffWheelPressed, [&said] { said << "move"; });
   QObject::connect(&worker, &WheelOneOffWorker::OneOffWheelFinished,
@@ -164,6 +164,43 @@ TEST_F(WheelKey, AnItemOfAnotherClassDoesNothing) {
   Load();
   Play("down W; up W; wait 100");
   EXPECT_WIRE_NONE();
+}
+
+// ---- The item of a worker by itself ----
+
+class WheelWorker : public WheelKey {
+ protected:
+  void Listen(WheelOneOffWorker* worker) {
+    QObject::connect(worker, &WheelOneOffWorker::OneOffWheelPressed, [this](int slot, double x, double y) {
+      said_ << QStringLiteral("%1 at %2,%3").arg(slot).arg(x).arg(y);
+    });
+    QObject::connect(worker, &WheelOneOffWorker::OneOffWheelFinished,
+                     [this](int slot) { said_ << QStringLiteral("%1 finished").arg(slot); });
+  }
+  std::string Said() const { return said_.join("; ").toStdString(); }
+
+ private:
+  QStringList said_;
+};
+
+TEST_F(WheelWorker, KeepsItsItemAsItWasAtItsBeginning) {
+  WheelConfigItem* item = AddWheel("W", 1, "vertical", 8);
+  WheelOneOffWorker worker(item, 11);
+  item->rel_x = 0.25;
+  item->speed = 0;
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(16);
+  EXPECT_EQ("11 at 0.5,0.5; 11 at 0.5,0.501; 11 finished", Said());
+}
+
+// A default item has a speed and no duration: one move, at its point, ends the run.
+TEST_F(WheelWorker, WithoutAnItemPlaysADefaultOne) {
+  WheelOneOffWorker worker(nullptr, 11);
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(8);
+  EXPECT_EQ("11 at 0,0; 11 finished", Said());
 }
 
 }  // namespace

@@ -159,7 +159,7 @@ TEST_F(ZoomKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
   item.direction = 1;
   item.speed = 10;
   item.duration_ms = 12;
-  ZoomOneOffWorker worker(item, 19, 18);
+  ZoomOneOffWorker worker(&item, 19, 18);
   QStringList said;
   QObject::connect(&worker, &ZoomOneOffWorker::OneOffZoomPressed, [&said] { said << "move"; });
   QObject::connect(&worker, &ZoomOneOffWorker::OneOffZoomFinished, [&said](int positive, int negative) {
@@ -179,6 +179,40 @@ TEST_F(ZoomKey, AKeymapLoadInTheMiddleIsSafe) {
   Load();
   Play("wait 1000");
   EXPECT_WIRE_NONE();
+}
+
+// ---- The item of a worker by itself ----
+
+class ZoomWorker : public ZoomKey {
+ protected:
+  void Listen(ZoomOneOffWorker* worker) {
+    QObject::connect(worker, &ZoomOneOffWorker::OneOffZoomPressed, [this](const QString& cmd) { said_ += cmd; });
+    QObject::connect(worker, &ZoomOneOffWorker::OneOffZoomFinished, [this] { said_ += "finished"; });
+  }
+  std::string Said() const { return said_.toStdString(); }
+
+ private:
+  QString said_;
+};
+
+TEST_F(ZoomWorker, KeepsItsItemAsItWasAtItsBeginning) {
+  ZoomConfigItem* item = AddZoom("W", 1, "horizontal", 0);
+  ZoomOneOffWorker worker(item, 19, 18);
+  item->rel_x = 0.25;
+  item->speed = 0;
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(12);
+  EXPECT_EQ("SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000\nfinished", Said());
+}
+
+// A default item has a speed and neither duration nor distance: one line, with both fingers at its point.
+TEST_F(ZoomWorker, WithoutAnItemPlaysADefaultOne) {
+  ZoomOneOffWorker worker(nullptr, 19, 18);
+  Listen(&worker);
+  worker.OneOffProcess();
+  Wait(12);
+  EXPECT_EQ("SLOTMULTIPRESS:18:18:0:0:19:19:0:0\nfinished", Said());
 }
 
 }  // namespace

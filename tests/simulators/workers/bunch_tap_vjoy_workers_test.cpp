@@ -23,7 +23,8 @@ class BunchTapVjoyWorkers : public BunchWorkerStory {
 };
 
 TEST_F(BunchTapVjoyWorkers, AContinueRunBeatsAtItsFrequencyUntilItIsStopped) {
-  BunchTapContinueVjoyWorker worker(ItemOf(Key("W")));
+  const VirtualJoystickBunchButtonConfigItem item = ItemOf(Key("W"));
+  BunchTapContinueVjoyWorker worker(&item);
   Listen(&worker);
   worker.Process();
   EXPECT_EQ("press", Said());
@@ -61,7 +62,8 @@ TEST_F(BunchTapVjoyWorkers, AContinueRunIsStoppedByItsDeviceAndCodeOnly) {
       {"force exactly", {"keyboard", "W", 87, 17}, "", "Force_Stop", 0x7FFFFFFF, false},
   };
   for (const auto& row : rows) {
-    BunchTapContinueVjoyWorker worker(ItemOf(row.own));
+    const VirtualJoystickBunchButtonConfigItem item = ItemOf(row.own);
+    BunchTapContinueVjoyWorker worker(&item);
     Listen(&worker);
     worker.Stop(row.device, row.text, row.scancode);
     EXPECT_EQ(row.stops ? "finish" : "", Said()) << row.name;
@@ -71,7 +73,7 @@ TEST_F(BunchTapVjoyWorkers, AContinueRunIsStoppedByItsDeviceAndCodeOnly) {
 TEST_F(BunchTapVjoyWorkers, AFrequencyWithoutAPeriodHoldsTheButton) {
   auto item = ItemOf(Key("W"));
   item.bunch_frequency = 0;
-  BunchTapContinueVjoyWorker worker(item);
+  BunchTapContinueVjoyWorker worker(&item);
   Listen(&worker);
   worker.Process();
   Wait(5000);
@@ -82,7 +84,7 @@ TEST_F(BunchTapVjoyWorkers, AOneOffRunBeatsEach25MillisecondsAndEndsWithItsLastR
   auto item = ItemOf(Key("W"));
   item.bunch_frequency = 1;  // not read
   item.bunch_count = 2;
-  BunchTapOneOffVjoyWorker worker(item);
+  BunchTapOneOffVjoyWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   EXPECT_EQ("press", Said());
@@ -101,7 +103,7 @@ TEST_F(BunchTapVjoyWorkers, AOneOffRunBeatsEach25MillisecondsAndEndsWithItsLastR
 TEST_F(BunchTapVjoyWorkers, AOneOffRunOfNoPressesEndsWithItsFirst) {
   auto item = ItemOf(Key("W"));
   item.bunch_count = 0;
-  BunchTapOneOffVjoyWorker worker(item);
+  BunchTapOneOffVjoyWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   EXPECT_EQ("press, finish", Said());
@@ -110,12 +112,31 @@ TEST_F(BunchTapVjoyWorkers, AOneOffRunOfNoPressesEndsWithItsFirst) {
 TEST_F(BunchTapVjoyWorkers, AOneOffRunIsStoppedAtOnce) {
   auto item = ItemOf(Key("W"));
   item.bunch_count = 9;
-  BunchTapOneOffVjoyWorker worker(item);
+  BunchTapOneOffVjoyWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   Wait(30);
   worker.Stop();
   EXPECT_EQ("press, release, finish", Said());
+}
+
+// ---- Items ----
+
+TEST_F(BunchTapVjoyWorkers, ARunKeepsItsItemAsItWasAtItsBeginning) {
+  PlayBothWhileTheItemChanges<BunchTapContinueVjoyWorker, BunchTapOneOffVjoyWorker>(ItemOf(Key("W")));
+  EXPECT_EQ("press, finish, press, release, finish", Said());
+}
+
+TEST_F(BunchTapVjoyWorkers, WithoutAnItemADefaultOneIsTapped) {
+  QStringList pressed;
+  BunchTapContinueVjoyWorker held(nullptr);
+  BunchTapOneOffVjoyWorker once(nullptr);
+  const auto on_press = [&pressed](const QString& text) { pressed.append("press " + text); };
+  QObject::connect(&held, &BunchTapContinueVjoyWorker::BunchTapPressed, on_press);
+  QObject::connect(&once, &BunchTapOneOffVjoyWorker::OneOffBunchTapPressed, on_press);
+  held.Process();
+  once.OneOffProcess();
+  EXPECT_EQ(QStringList({"press ", "press "}), pressed);
 }
 
 }  // namespace

@@ -24,7 +24,8 @@ class BunchTapWorkers : public BunchWorkerStory {
 };
 
 TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {
-  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  const BunchClickConfigItem item = ItemOf(Key("W"));
+  BunchTapContinueWorker worker(&item);
   Listen(&worker);
   worker.Process();
   EXPECT_EQ("press", Said());
@@ -41,7 +42,8 @@ TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {
 }
 
 TEST_F(BunchTapWorkers, AContinueRunFinishesAtEachStop) {
-  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  const BunchClickConfigItem item = ItemOf(Key("W"));
+  BunchTapContinueWorker worker(&item);
   Listen(&worker);
   worker.Process();
   worker.Stop("", "force_stop", tavikeymapmanager::kUnsetCode);
@@ -53,7 +55,8 @@ TEST_F(BunchTapWorkers, AContinueRunFinishesAtEachStop) {
 }
 
 TEST_F(BunchTapWorkers, AStopBeforeTheBeginningFinishesToo) {
-  BunchTapContinueWorker worker(ItemOf(Key("W")));
+  const BunchClickConfigItem item = ItemOf(Key("W"));
+  BunchTapContinueWorker worker(&item);
   Listen(&worker);
   worker.Stop("keyboard", "W", 17);
   EXPECT_EQ("finish", Said());
@@ -84,7 +87,8 @@ TEST_F(BunchTapWorkers, AContinueRunIsStoppedByItsOwnKeyOnly) {
       {"force exactly", {"keyboard", "W", 87, 17}, "", "Force_Stop", 0x7FFFFFFF, false},
   };
   for (const auto& row : rows) {
-    BunchTapContinueWorker worker(ItemOf(row.own));
+    const BunchClickConfigItem item = ItemOf(row.own);
+    BunchTapContinueWorker worker(&item);
     Listen(&worker);
     worker.Stop(row.device, row.text, row.scancode);
     EXPECT_EQ(row.stops ? "finish" : "", Said()) << row.name;
@@ -94,7 +98,7 @@ TEST_F(BunchTapWorkers, AContinueRunIsStoppedByItsOwnKeyOnly) {
 TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
   BunchClickConfigItem item = ItemOf(Key("W"));
   item.bunch_count = 2;
-  BunchTapOneOffWorker worker(item);
+  BunchTapOneOffWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   EXPECT_EQ("press", Said());
@@ -112,7 +116,7 @@ TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
 TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
   BunchClickConfigItem item = ItemOf(Key("W"));
   item.bunch_count = 2;
-  BunchTapOneOffWorker worker(item);
+  BunchTapOneOffWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   Wait(75);
@@ -126,7 +130,7 @@ TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
 TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
   BunchClickConfigItem item = ItemOf(Key("W"));
   item.bunch_count = 0;
-  BunchTapOneOffWorker worker(item);
+  BunchTapOneOffWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   EXPECT_EQ("press, finish", Said());
@@ -137,7 +141,7 @@ TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
 TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
   BunchClickConfigItem item = ItemOf(Key("W"));
   item.bunch_count = 9;
-  BunchTapOneOffWorker worker(item);
+  BunchTapOneOffWorker worker(&item);
   Listen(&worker);
   worker.OneOffProcess();
   Wait(30);
@@ -147,6 +151,32 @@ TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
   EXPECT_EQ("finish", Said());
   Wait(20);
   EXPECT_EQ("press", Said());
+}
+
+// ---- Items ----
+
+TEST_F(BunchTapWorkers, ARunKeepsItsItemAsItWasAtItsBeginning) {
+  PlayBothWhileTheItemChanges<BunchTapContinueWorker, BunchTapOneOffWorker>(ItemOf(Key("W")));
+  EXPECT_EQ("press, finish, press, release, finish", Said());
+}
+
+TEST_F(BunchTapWorkers, WithoutAnItemADefaultOneIsTapped) {
+  QList<QPointF> pressed;
+  BunchTapContinueWorker held(nullptr);
+  BunchTapOneOffWorker once(nullptr);
+  QObject::connect(&held, &BunchTapContinueWorker::BunchTapPressed, [&pressed](double x, double y) {
+    pressed.append({x, y});
+  });
+  QObject::connect(&once, &BunchTapOneOffWorker::OneOffBunchTapPressed, [&pressed](double x, double y) {
+    pressed.append({x, y});
+  });
+  held.Process();
+  Wait(99);  // 10 taps a second
+  EXPECT_EQ(QList<QPointF>({{0, 0}}), pressed);
+  Wait(1);
+  EXPECT_EQ(QList<QPointF>({{0, 0}, {0, 0}}), pressed);
+  once.OneOffProcess();
+  EXPECT_EQ(3, pressed.size());
 }
 
 }  // namespace

@@ -20,6 +20,19 @@ class BunchWorkerStory : public Story {
     QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](auto... what) { Add("release", what...); });
     QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](auto... what) { Add("finish", what...); });
   }
+  // A held run and a single tap, of an item that changes once they are made.
+  template <typename ContinueWorker, typename OneOffWorker, typename Item>
+  void PlayBothWhileTheItemChanges(Item item) {
+    ContinueWorker held(&item);
+    OneOffWorker once(&item);
+    item = Item();
+    ListenToContinue(&held);
+    ListenToOneOff(&once);
+    held.Process();
+    held.Stop(QStringLiteral("keyboard"), {}, 17);  // W
+    once.OneOffProcess();
+    Wait(25);
+  }
   // What was signalled since the last look: "press, release". Each is of the point (0.25, 0.5) or of the button "LB".
   std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
 

@@ -34,14 +34,16 @@ class CurveWorker : public Story {
 };
 
 TEST_F(CurveWorker, TakesTheOriginWhenItIsMade) {
-  const CurveAsyncWorker worker(Item());
+  const CurveConfigItem item = Item();
+  const CurveAsyncWorker worker(&item);
   CurveSlotManager* finger = CurveSlotManager::GetInstance();
   finger->SetOffset(0.25, 0);
   EXPECT_EQ("SLOTPRESS:5:5:1:1:960:360\n", finger->BuildPressCommand().toStdString());
 }
 
 TEST_F(CurveWorker, FinishesATickAfterItsLastPoint) {
-  CurveAsyncWorker worker(Item());
+  const CurveConfigItem item = Item();
+  CurveAsyncWorker worker(&item);
   Listen(&worker);
   worker.Process();
   Wait(16);
@@ -56,7 +58,7 @@ TEST_F(CurveWorker, AnEmptyListFinishesAtTheFirstTick) {
   CurveConfigItem item = Item();
   item.curve_points.clear();
   item.curve_first_delay_ms = 20;
-  CurveAsyncWorker worker(item);
+  CurveAsyncWorker worker(&item);
   Listen(&worker);
   worker.Process();
   Wait(19);
@@ -66,7 +68,8 @@ TEST_F(CurveWorker, AnEmptyListFinishesAtTheFirstTick) {
 }
 
 TEST_F(CurveWorker, IsStoppedByItsDeviceAndScanCode) {
-  CurveAsyncWorker worker(Item());
+  const CurveConfigItem item = Item();
+  CurveAsyncWorker worker(&item);
   Listen(&worker);
   worker.Process();
   worker.Stop("keyboard", 18);
@@ -80,7 +83,8 @@ TEST_F(CurveWorker, IsStoppedByItsDeviceAndScanCode) {
 
 // Points at 8 and 16 ms, the end at 24 ms; its run would quit it now.
 TEST_F(CurveWorker, TellsItsEndAtEachTickUntilItIsQuit) {
-  CurveAsyncWorker worker(Item());
+  const CurveConfigItem item = Item();
+  CurveAsyncWorker worker(&item);
   Listen(&worker);
   worker.Process();
   Wait(31);
@@ -92,13 +96,34 @@ TEST_F(CurveWorker, TellsItsEndAtEachTickUntilItIsQuit) {
 }
 
 TEST_F(CurveWorker, AStopBehindItsEndIsToldToo) {
-  CurveAsyncWorker worker(Item());
+  const CurveConfigItem item = Item();
+  CurveAsyncWorker worker(&item);
   Listen(&worker);
   worker.Process();
   Wait(24);
   worker.Stop("keyboard", 17);
   worker.Stop("keyboard", 17);
   EXPECT_EQ("0.25,0.5 0.125,0 finished forced forced", Said());
+}
+
+TEST_F(CurveWorker, KeepsItsItemAsItWasAtItsBeginning) {
+  CurveConfigItem item = Item();
+  CurveAsyncWorker worker(&item);
+  item = CurveConfigItem();
+  Listen(&worker);
+  worker.Process();
+  Wait(16);
+  EXPECT_EQ("0.25,0.5 0.125,0", Said());
+  worker.Stop("keyboard", 17);
+  EXPECT_EQ("forced", Said());
+}
+
+TEST_F(CurveWorker, WithoutAnItemHasNoPoint) {
+  CurveAsyncWorker worker(nullptr);
+  Listen(&worker);
+  worker.Process();
+  Wait(8);
+  EXPECT_EQ("finished", Said());
 }
 
 }  // namespace

@@ -233,5 +233,20 @@ TEST_F(Eye, AnItemOfAnotherClassDoesNothing) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(Eye, TheWorkerNeedsAnItemAndAKey) {
+  const EyeConfigItem* item = AddEye();
+  Load();
+  EyeAsyncWorker* worker = EyeAsyncWorker::GetInstance();
+  worker->Press(nullptr, &item->key_right);
+  worker->Press(item, nullptr);
+  EXPECT_WIRE_NONE();
+  worker->Press(item, &item->key_right);
+  worker->Release(nullptr, &item->key_right);
+  Wait(8);
+  EXPECT_WIRE(At(0, 640, 360), At(8, 648, 360));
+  worker->Release(item, &item->key_right);
+  EXPECT_WIRE(Up(16));
+}
+
 }  // namespace
 }  // namespace taviinputmanager

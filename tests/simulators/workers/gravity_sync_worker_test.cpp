@@ -193,5 +193,20 @@ TEST_F(Gravity, AnItemOfAnotherClassDoesNothing) {
   EXPECT_EQ("", Tilts());
 }
 
+TEST_F(Gravity, TheWorkerNeedsAnItemAndAKey) {
+  const GravityConfigItem* item = AddGravity();
+  Load();
+  GravitySyncWorker* worker = GravitySyncWorker::GetInstance();
+  worker->Press(nullptr, &item->key_right);
+  worker->Press(item, nullptr);
+  Wait(8);
+  EXPECT_EQ("", Tilts());
+  worker->Press(item, &item->key_right);
+  worker->Release(nullptr, &item->key_right);
+  Wait(8);
+  worker->Release(item, &item->key_right);
+  EXPECT_EQ("16ms 0 0 1; 16ms 0 0 0", Tilts());
+}
+
 }  // namespace
 }  // namespace taviinputmanager

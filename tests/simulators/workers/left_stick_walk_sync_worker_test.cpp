@@ -327,5 +327,18 @@ TEST_F(LeftStickWalk, AKeyDoesNotWalk) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(LeftStickWalk, TheWorkerNeedsAnItem) {
+  const JoystickLeftWalkConfigItem* item = AddWalk();
+  LoadJoystick();
+  LeftStickWalkSyncWorker* worker = LeftStickWalkSyncWorker::GetInstance();
+  worker->OnStick(nullptr, {0.125, 0});
+  EXPECT_WIRE_NONE();
+  worker->OnStick(item, {0.125, 0});
+  worker->OnStick(nullptr, {});
+  EXPECT_WIRE(At(0, 320, 360), At(16, 336, 360));
+  worker->OnStick(item, {});
+  EXPECT_WIRE(Up(24));
+}
+
 }  // namespace
 }  // namespace taviinputmanager

@@ -198,5 +198,18 @@ TEST_F(RightStickEye, AKeyTurnsNothing) {
   EXPECT_WIRE_NONE();
 }
 
+TEST_F(RightStickEye, TheWorkerNeedsAnItem) {
+  const JoystickRightEyeConfigItem* item = AddEye();
+  LoadJoystick();
+  RightStickEyeSyncWorker* worker = RightStickEyeSyncWorker::GetInstance();
+  worker->OnStick(nullptr, {1, 0});
+  EXPECT_WIRE_NONE();
+  worker->OnStick(item, {1, 0});
+  worker->OnStick(nullptr, {});
+  EXPECT_WIRE(At(640, 360));
+  worker->OnStick(item, {});
+  EXPECT_WIRE(Up());
+}
+
 }  // namespace
 }  // namespace taviinputmanager
