@@ -2,18 +2,29 @@
 #ifndef CORE_VIRTUAL_MOUSE_EVENT_H_
 #define CORE_VIRTUAL_MOUSE_EVENT_H_
 
+#include <type_traits>
+
 #include <QMouseEvent>
 
 namespace taviinputmanager {
 
 class VirtualMouseEvent final : public QMouseEvent {
  public:
-  // `position` in window pixels. `buttons` are those held after the event.
-  VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
-                    qint64 slot_index)
-      : QMouseEvent(type, position, button, buttons, Qt::NoModifier), slot_index(slot_index) {}
+  // A mouse event of any form, with slot_index 0. Positions in window pixels; `buttons` are those held after the event.
+  using QMouseEvent::QMouseEvent;
 
-  qint64 slot_index;  // the virtual pointer that its macro works with; 0 is the real mouse
+  // The short form, and the pointer behind it.
+  VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
+                    Qt::KeyboardModifiers modifiers, qint64 slot_index)
+      : QMouseEvent(type, position, button, buttons, modifiers), slot_index(slot_index) {}
+
+  // Without modifiers. A template, so that a modifier, which converts to any number, is not taken for a pointer.
+  template <typename Slot, typename = std::enable_if_t<std::is_integral_v<Slot>>>
+  VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
+                    Slot slot_index)
+      : VirtualMouseEvent(type, position, button, buttons, Qt::NoModifier, slot_index) {}
+
+  qint64 slot_index = 0;  // the virtual pointer that its macro works with; 0 is the real mouse
 };
 
 }  // namespace taviinputmanager

@@ -2,6 +2,7 @@
 
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
+#include "core/virtual_keyboard_event.h"
 #include "core/virtual_mouse_event.h"
 #include "handlers/simulator_table.h"
 #include "keymap/tavikeymapmanager.h"
@@ -491,6 +492,37 @@ TEST_F(SimulateHandler, AResetLeavesTheButtonsOfVirtualPointers) {
   VirtualMouseEvent move(QEvent::MouseMove, {110, 200}, Qt::NoButton, Qt::LeftButton, 77);
   OnQtInputEvent(&move);
   EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:100:200", "5ms 1:SLOTPRESS:18:18:1:1:110:200");
+}
+
+// ---- Events of every form ----
+
+TEST_F(SimulateHandler, AVirtualButtonMayCarryModifiers) {
+  Load();
+  VirtualMouseEvent press(QEvent::MouseButtonPress, {100, 200}, Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier, 77);
+  OnQtInputEvent(&press);
+  Wait(5);
+  VirtualMouseEvent move(QEvent::MouseMove, {110, 200}, Qt::NoButton, Qt::LeftButton, 77);
+  OnQtInputEvent(&move);
+  EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:100:200", "5ms 1:SLOTPRESS:18:18:1:1:110:200");
+  EXPECT_EQ(Qt::ShiftModifier, press.modifiers());
+}
+
+TEST_F(SimulateHandler, AVirtualEventInTheFormOfARealOneIsOfPointerZero) {
+  VirtualMouseEvent button(QEvent::MouseButtonPress, {100, 200}, Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_EQ(0, button.slot_index);
+  EXPECT_EQ(Qt::ShiftModifier, button.modifiers());
+  VirtualKeyboardEvent key(QEvent::KeyPress, Qt::Key_W, Qt::ShiftModifier);
+  EXPECT_EQ(0, key.slot_index);
+  EXPECT_EQ(Qt::ShiftModifier, key.modifiers());
+}
+
+TEST_F(SimulateHandler, AVirtualKeyMayHaveTheFormWithNativeCodes) {
+  Load();
+  Play("escape back off");  // the guest's back for a macro only
+  VirtualKeyboardEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1, 27, 0, "", false, 1, 77);
+  EXPECT_TRUE(QtKeyboardMouseEventSimulateHandler::GetInstance()->OnKeyPress(&escape));
+  EXPECT_WIRE("0ms 1:KBDPR:158:1");
+  EXPECT_EQ(77, escape.slot_index);
 }
 
 }  // namespace
