@@ -43,6 +43,8 @@ class InputStatusManager {
   InputStatus GetStatus() const { return status_; }
   // Stores both and tells the host, also without a change. `message` is the name of the key that caused it.
   void SetStatus(InputStatus status, const QString& message);
+  // The same, by the number of the status.
+  void SetStatus(int status, const QString& message) { SetStatus(static_cast<InputStatus>(status), message); }
 
   // ---- Keymap and displays ----
   // Takes over what a fresh keymap means for the status, resets everything on the display held so far, and moves on to

@@ -88,6 +88,13 @@ TEST_F(Reset, AStatusOfZeroStaysAndIsTold) {
   EXPECT_EQ("0ms status 0", TakeCalls().first().toStdString());
 }
 
+TEST_F(Reset, AStatusMayBeSetByItsNumber) {
+  Forget();
+  InputStatusManager::GetInstance()->SetStatus(3, "K");
+  EXPECT_CALLS("0ms status 3 K");
+  EXPECT_EQ(InputStatus::Observing, GetInputStatus());
+}
+
 // The status is told before any contact is released.
 TEST_F(Reset, AChangeOfDisplayTellsThenReleasesOnTheOldOne) {
   InputStatusManager::GetInstance()->SetStatus(InputStatus::Staring, "K");
