@@ -21,7 +21,8 @@ ReplayManager* ReplayManager::GetInstance() {
   return &instance;
 }
 
-void ReplayManager::StartReplay(int unused, int task_id, const QString& filename, ReplayParam param) {
+void ReplayManager::StartReplay(int unused, int task_id, const QString& /*unused_name*/, const QString& filename,
+                                ReplayParam param) {
   ReplayContext context;
   if (!RecordFileUtils::GetInstance()->LoadRecord(filename, &context)) return;
   HoldRecord(filename);
@@ -58,7 +59,7 @@ void ReplayManager::ResumeReplay(int task_id, const QString& filename) {
   Q_EMIT ReplayNeedResume(task_id, filename);
 }
 
-void ReplayManager::RestartReplay(int task_id, const QString& filename) {
+void ReplayManager::RestartReplay(int task_id, const QString& filename, ReplayParam /*param*/) {
   ReplayEventHandler::GetInstance()->Reset();
   Q_EMIT ReplayNeedRestart(task_id, filename);
 }

@@ -27,11 +27,12 @@ class ReplayManager : public QObject {
   // For the replays that are started from now on.
   void SetCallbacks(InputReplayerCallbacks* callbacks) { callbacks_ = callbacks; }
 
-  // A file that cannot be loaded starts nothing, and nobody is told.
-  void StartReplay(int unused, int task_id, const QString& filename, ReplayParam param);
+  // The arguments are those of the exports. A file that cannot be loaded starts nothing, and nobody is told.
+  void StartReplay(int unused, int task_id, const QString& unused_name, const QString& filename, ReplayParam param);
   void PauseReplay(int task_id, const QString& filename);
   void ResumeReplay(int task_id, const QString& filename);
-  void RestartReplay(int task_id, const QString& filename);
+  // From the beginning, at the speed of the start: `param` is not read.
+  void RestartReplay(int task_id, const QString& filename, ReplayParam param);
   void StopReplay(int task_id, const QString& filename, bool stop_by_user);
   void StopAllReplay();
 

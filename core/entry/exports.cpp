@@ -155,16 +155,16 @@ void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks) {
   ReplayManager::GetInstance()->SetCallbacks(callbacks);
 }
 
-void StartReplay(int unused, int task_id, const QString&, const QString& filename, ReplayParam param) {
-  ReplayManager::GetInstance()->StartReplay(unused, task_id, filename, param);
+void StartReplay(int unused, int task_id, const QString& unused_name, const QString& filename, ReplayParam param) {
+  ReplayManager::GetInstance()->StartReplay(unused, task_id, unused_name, filename, param);
 }
 
 void PauseReplay(int task_id, const QString& file) { ReplayManager::GetInstance()->PauseReplay(task_id, file); }
 
 void ResumeReplay(int task_id, const QString& file) { ReplayManager::GetInstance()->ResumeReplay(task_id, file); }
 
-void RestartReplay(int task_id, const QString& file, ReplayParam) {
-  ReplayManager::GetInstance()->RestartReplay(task_id, file);
+void RestartReplay(int task_id, const QString& file, ReplayParam param) {
+  ReplayManager::GetInstance()->RestartReplay(task_id, file, param);
 }
 
 void StopReplay(int task_id, const QString& file, bool stop_by_user) {

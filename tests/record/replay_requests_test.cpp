@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "record/replay_manager.h"
 #include "record/replay_worker.h"
 #include "tests/record/replay_story.h"
 
@@ -292,6 +293,17 @@ TEST_F(ReplayRequests, TheFirstNumberAndTheFirstTextMeanNothing) {
   StartReplay(-5, 7, Path("b.json"), Path("a.json"), {});
   Wait(50);
   EXPECT_STORY("0ms > started 7 a.json", "10ms 2:KBDPR:30:1");
+}
+
+TEST_F(ReplayRequests, TheManagerTakesWhatTheHostGives) {
+  Save("a.json", {KeyDown(10, 30), KeyUp(1000, 30)});
+  ReplayManager* manager = ReplayManager::GetInstance();
+  manager->StartReplay(-5, 7, Path("b.json"), Path("a.json"), {2.0, false});
+  Wait(8);
+  EXPECT_STORY("0ms > started 7 a.json", "5ms 2:KBDPR:30:1");
+  manager->RestartReplay(7, Path("a.json"), {1.0, false});  // at the speed of the start all the same
+  Wait(8);
+  EXPECT_STORY("8ms > started 7 a.json", "13ms 2:KBDPR:30:1");
 }
 
 TEST_F(ReplayRequests, NoTableIsAllowed) {
