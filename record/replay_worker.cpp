@@ -63,6 +63,7 @@ void ReplayWorker::TimerOutTime() {
 }
 
 void ReplayWorker::Pause(int task_id, QString filename) {
+  if (!timer_) return;  // not started: there is no delay to keep the rest of
   if (context_.current_action.type.isEmpty() || !IsNamed(task_id, filename)) return;
   // A second pause takes the same time off again.
   context_.ReduceDelay(LowDistance(last_start_time_, Clock::NowMs()));

@@ -239,6 +239,17 @@ TEST_F(ReplayWorkerAlone, LosesWhatComesBeforeItsStart) {
   EXPECT_EQ(0, pauses_);
 }
 
+TEST_F(ReplayWorkerAlone, LosesAPauseBeforeItsStartThoughAnActionIsAtHand) {
+  ReplayContext context;
+  context.current_action.type = "keyboard";
+  context.next_delay = 100;
+  ReplayWorker worker(context, {7, 0, Path("a.json"), {}, &table_});
+  QObject::connect(&worker, &ReplayWorker::ReplayPaused, [this] { ++pauses_; });
+  worker.Pause(7, Path("a.json"));
+  EXPECT_STORY_NONE();
+  EXPECT_EQ(0, pauses_);
+}
+
 TEST_F(ReplayWorkerAlone, MayBeRestartedBeforeItsStart) {
   worker_.Restart(8, Path("a.json"));
   worker_.Restart(7, Path("b.json"));
