@@ -1,7 +1,5 @@
 #include "record/record_manager.h"
 
-#include <utility>
-
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -51,7 +49,7 @@ void RecordManager::StopRecord(const QString& package_name, const QString& filen
 }
 
 void RecordManager::AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2) {
-  AddAction({0, kTypeVControl, data, extra1, extra2});
+  AddAction(kTypeVControl, data, extra1, extra2);
 }
 
 // What the host finds the right app by when the record is played.
@@ -61,21 +59,21 @@ void RecordManager::AddDetectAppAction(const QString& package, const QString& ap
   AddVControlCommand(QString::fromUtf8(marker.toJson(QJsonDocument::Compact)), {}, {});
 }
 
-void RecordManager::AddAction(RecordAction action) {
-  if (status_ != RecordStatus::Recording || action.data.isEmpty()) return;
-  actions_.Add(std::move(action));
+void RecordManager::AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2) {
+  if (status_ != RecordStatus::Recording || data.isEmpty()) return;
+  actions_.Add({0, type, data, extra1, extra2});
 }
 
 void RecordManager::OnEventCommand(const QString& command) {
   if (macro_recording_ || command.isEmpty()) return;
   RecordAction action;
-  if (TranslateEventCommand(command, &action)) AddAction(std::move(action));
+  if (TranslateEventCommand(command, &action)) AddAction(action.type, action.data, action.extra1, action.extra2);
 }
 
 void RecordManager::OnTextCommand(const QString& command) {
   if (command.isEmpty()) return;
   RecordAction action;
-  if (TranslateTextCommand(command, &action)) AddAction(std::move(action));
+  if (TranslateTextCommand(command, &action)) AddAction(action.type, action.data, action.extra1, action.extra2);
 }
 
 void RecordManager::StartRecordMacroInstruction(const QString& name) {

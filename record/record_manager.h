@@ -37,6 +37,9 @@ class RecordManager {
   // Saves, and forgets what was recorded. The host is told the result.
   void StopRecord(const QString& package_name, const QString& filename);
   void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
+  // The one way into a record: the action is timed from the one before it. Nothing unless recording, and nothing
+  // without `data`.
+  void AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2);
 
   void StartRecordMacroInstruction(const QString& name);
   void StopRecordMacroInstruction(const QString& name);
@@ -50,7 +53,6 @@ class RecordManager {
  private:
   RecordManager();
 
-  void AddAction(RecordAction action);
   void AddDetectAppAction(const QString& package, const QString& app);
 
   void CaptureEvent(QEvent* event);

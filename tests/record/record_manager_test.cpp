@@ -316,6 +316,18 @@ TEST_F(Recording, AHostsCommandIsKeptUnchanged) {
   EXPECT_RECORDED("8 vcontrol any text:1 1 two");
 }
 
+TEST_F(Recording, AnActionIsTimedAndKeptWhileRecordingIsOn) {
+  RecordManager* manager = RecordManager::GetInstance();
+  manager->AddAction("keyboard", "before the start", "", "");
+  StartRecord("p", "a");
+  Wait(30);
+  manager->AddAction("keyboard", "keyboard_press:30", "3", "x");
+  manager->AddAction("keyboard", "", "4", "");
+  PauseRecord();
+  manager->AddAction("touch", "in a pause", "", "");
+  EXPECT_RECORDED("30 keyboard keyboard_press:30 3 x");
+}
+
 TEST_F(Recording, EmptyCommandsLeaveTheListAlone) {
   StartRecord("p", "a");
   RecordManager::GetInstance()->OnEventCommand("");
