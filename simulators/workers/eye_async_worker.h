@@ -34,7 +34,7 @@ class EyeAsyncWorker : public EventHandler {
   // Forgets the keys and lifts the finger; the release is sent in any case.
   void Stop();
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void TimerOutTime();
 
  private:

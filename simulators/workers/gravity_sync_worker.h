@@ -35,7 +35,7 @@ class GravitySyncWorker : public EventHandler {
   // Forgets the keys and lays the sensor flat; the host is told in any case.
   void Stop();
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void TimerOutTime();
 
  private:

@@ -32,7 +32,7 @@ class LeftStickWalkSyncWorker : public EventHandler {
   // Lifts the finger; the release is sent in any case.
   void StopWalk();
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void onStopTimerOutTime();
 
  private:

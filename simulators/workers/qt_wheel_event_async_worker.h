@@ -28,7 +28,7 @@ class QtWheelEventAsyncWorker : public EventHandler {
   virtual void OnWheel(QWheelEvent* event, tavikeymapmanager::KeymapConfig* config);
   bool IsRunning() const;
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void TimerOutTime();
 
  private:

@@ -31,7 +31,7 @@ class QtWheelEventZoomWorker : public EventHandler {
   virtual void OnWheel(QWheelEvent* event, tavikeymapmanager::KeymapConfig* config);
   bool IsRunning() const;
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void TimerOutTime();
 
  private:

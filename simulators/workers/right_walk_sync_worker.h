@@ -40,7 +40,7 @@ class RightWalkSyncWorker : public EventHandler {
   // Lifts the finger; the release is sent in any case.
   virtual void StopWalk();
 
- private Q_SLOTS:
+ public Q_SLOTS:
   void ContinueWalkTimerOutTime() { StopWalk(); }
 
  private:
