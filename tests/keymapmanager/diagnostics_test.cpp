@@ -62,6 +62,17 @@ TEST(Diagnostics, AreToldInTheOrderOfTheFile) {
       Said(Read("a: 1\nitems:\n- {type: Click}\nb: 1\nformat: 2\n")));
 }
 
+// Column 61: "- {type: Spell, " ends with 16, "key: W, " with 24, "point: [0.5, 0.5], " with 43, "view_matrix: [1, "
+// with 60.
+TEST(Diagnostics, AnEntryOfAMatrixIsTold) {
+  const std::string said = Said(ReadItems(
+      "- {type: Spell, key: W, point: [0.5, 0.5], view_matrix: [1, two, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, "
+      "15, 16]}\n"));
+  EXPECT_EQ(0U, said.find("3:61 error: 'view_matrix': expected a number from ")) << said;
+  EXPECT_NE(std::string::npos, said.find(", got the text 'two'")) << said;
+  EXPECT_EQ(std::string::npos, said.find('\n')) << said;
+}
+
 TEST(Diagnostics, AFieldWrittenTwiceIsAnError) {
   EXPECT_EQ("3:1 error: 'name' is written a second time", Said(Read("format: 1\nname: A\nname: B\n")));
   EXPECT_EQ("3:25 error: 'key' is written a second time",

@@ -142,6 +142,7 @@ TEST(KeyNames, TheLetterAloneIsTheKeyboards) {
   EXPECT_EQ("joystick", KeyOf("Pad A").device.toStdString());
   EXPECT_EQ("Pad A", NameOf(JoystickKey(QStringLiteral("A"))));
   EXPECT_EQ("Pad Up+B", NameOf(JoystickKey(QStringLiteral("\u2191+B"))));
+  EXPECT_EQ("Pad Paddle3", NameOf(JoystickKey(QStringLiteral("Paddle3"))));  // a button that only its host knows
 }
 
 TEST(KeyNames, OtherSpellingsAreTheSameKey) {
