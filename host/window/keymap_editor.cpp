@@ -27,6 +27,7 @@ namespace {
 constexpr int kDockWidth = 340;
 constexpr double kNear = 0.06;  // of two items, fraction of the display
 constexpr int kTries = 12;      // to find a place
+constexpr int kColumns = 4;     // of the places that are tried
 constexpr char kNewName[] = "keymap.yaml";
 constexpr char kFileTypes[] = "Keymaps (*.yaml *.yml *.json);;All files (*)";
 
@@ -322,7 +323,11 @@ QPointF KeymapEditor::FreePlace() const {
     return false;
   };
   QPointF place(0.5, 0.5);
-  for (int i = 0; i < kTries && is_near(place); ++i) place = {0.5 + kNear * (i % 4), 0.5 + kNear * (i / 4)};
+  for (int i = 0; i < kTries && is_near(place); ++i) {
+    const int column = i % kColumns;
+    const int row = i / kColumns;
+    place = {0.5 + kNear * column, 0.5 + kNear * row};
+  }
   return place;
 }
 

@@ -7,8 +7,8 @@ namespace taviinputmanager {
 // What a run copies, so that it outlives its keymap; a run without an item is one of a default-constructed item.
 template <typename Item>
 const Item& ItemOrDefault(const Item* item) {
-  static const Item kDefault;
-  return item ? *item : kDefault;
+  static const Item default_item;
+  return item ? *item : default_item;
 }
 
 }  // namespace taviinputmanager
