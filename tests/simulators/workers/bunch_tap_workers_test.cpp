@@ -1,4 +1,6 @@
 // The workers of rapid taps without a run around them: what they signal, and what stops them.
+#include <memory>
+
 #include "simulators/workers/bunch_tap_continue_worker.h"
 #include "simulators/workers/bunch_tap_one_off_worker.h"
 #include "tests/simulators/workers/bunch_worker_story.h"
@@ -21,6 +23,15 @@ class BunchTapWorkers : public BunchWorkerStory {
   }
   void Listen(BunchTapContinueWorker* worker) { ListenToContinue(worker); }
   void Listen(BunchTapOneOffWorker* worker) { ListenToOneOff(worker); }
+  // A run of `taps` that has begun, without anything around it that would end it.
+  std::unique_ptr<BunchTapOneOffWorker> StartOneOff(int taps) {
+    BunchClickConfigItem item = ItemOf(Key("W"));
+    item.bunch_count = taps;
+    auto worker = std::make_unique<BunchTapOneOffWorker>(&item);
+    Listen(worker.get());
+    worker->OneOffProcess();
+    return worker;
+  }
 };
 
 TEST_F(BunchTapWorkers, AContinueRunBeatsUntilItIsStopped) {
@@ -96,11 +107,7 @@ TEST_F(BunchTapWorkers, AContinueRunIsStoppedByItsOwnKeyOnly) {
 }
 
 TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
-  BunchClickConfigItem item = ItemOf(Key("W"));
-  item.bunch_count = 2;
-  BunchTapOneOffWorker worker(&item);
-  Listen(&worker);
-  worker.OneOffProcess();
+  const auto worker = StartOneOff(2);
   EXPECT_EQ("press", Said());
   Wait(24);
   EXPECT_EQ("", Said());
@@ -114,11 +121,7 @@ TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
 
 // Half taps 4 and 5 are both of two whole taps. The run of a worker keeps further ticks from it.
 TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
-  BunchClickConfigItem item = ItemOf(Key("W"));
-  item.bunch_count = 2;
-  BunchTapOneOffWorker worker(&item);
-  Listen(&worker);
-  worker.OneOffProcess();
+  const auto worker = StartOneOff(2);
   Wait(75);
   EXPECT_EQ("press, release, press, release, finish", Said());
   Wait(25);
@@ -128,26 +131,18 @@ TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
 }
 
 TEST_F(BunchTapWorkers, AOneOffRunOfNoTapsEndsWithItsFirstPress) {
-  BunchClickConfigItem item = ItemOf(Key("W"));
-  item.bunch_count = 0;
-  BunchTapOneOffWorker worker(&item);
-  Listen(&worker);
-  worker.OneOffProcess();
+  const auto worker = StartOneOff(0);
   EXPECT_EQ("press, finish", Said());
   Wait(25);
   EXPECT_EQ("release", Said());
 }
 
 TEST_F(BunchTapWorkers, AOneOffRunIsStoppedAtOnce) {
-  BunchClickConfigItem item = ItemOf(Key("W"));
-  item.bunch_count = 9;
-  BunchTapOneOffWorker worker(&item);
-  Listen(&worker);
-  worker.OneOffProcess();
+  const auto worker = StartOneOff(9);
   Wait(30);
-  worker.Stop();
+  worker->Stop();
   EXPECT_EQ("press, release, finish", Said());
-  worker.Stop();
+  worker->Stop();
   EXPECT_EQ("finish", Said());
   Wait(20);
   EXPECT_EQ("press", Said());
