@@ -5,6 +5,7 @@
 
 #include "core/guest_words.h"
 #include "host/guest_line.h"
+#include "test_folders.h"
 
 namespace tavi {
 namespace {

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "test_folders.h"
+
 namespace tavi {
 
 struct Outcome {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "test_folders.h"
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
+#include "test_folders.h"
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {

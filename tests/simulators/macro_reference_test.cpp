@@ -7,6 +7,7 @@
 
 #include "keymap/macro_words.h"
 #include "simulators/workers/macro_command.h"
+#include "test_folders.h"
 #include "tests/simulators/macro_story.h"
 
 namespace taviinputmanager {

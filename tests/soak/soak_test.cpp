@@ -12,6 +12,7 @@
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "test_folders.h"
 #include "tests/support/allocation_count.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"

@@ -16,6 +16,7 @@
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "test_folders.h"
 #include "tests/record/replay_file.h"
 #include "tests/support/count_threads.h"
 #include "tests/support/keymap_source.h"

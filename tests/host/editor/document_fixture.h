@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "host/editor/keymap_document.h"
+#include "test_folders.h"
 
 namespace tavi {
 

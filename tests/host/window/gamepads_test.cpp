@@ -12,6 +12,7 @@
 #include "host/window/diagnostics_panel.h"
 #include "host/window/gamepad_picture.h"
 #include "host/window/keymap_watch.h"
+#include "test_folders.h"
 #include "tests/host/window/pad_fixture.h"
 #include "tests/host/window/window_fixture.h"
 
