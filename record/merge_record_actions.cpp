@@ -13,7 +13,7 @@ bool MergeRecordActions::IsEmpty() const {
 
 bool MergeRecordActions::IsThrough() const {
   const bool is_last_pass = repeat_index >= control.repeat_times;
-  return IsEmpty() || (IsLastItem() && is_last_pass && (!current || current->IsThrough()));
+  return (IsLastItem() && is_last_pass && (!current || current->IsThrough())) || IsEmpty();
 }
 
 bool MergeRecordActions::First(RecordAction* action, int* delay) {
@@ -24,7 +24,7 @@ bool MergeRecordActions::First(RecordAction* action, int* delay) {
 }
 
 bool MergeRecordActions::Next(RecordAction* action, int* delay) {
-  if (current && current->Next(action, delay)) return true;
+  if (NextOfItem(action, delay)) return true;
   return IsLastItem() ? RepeatList(action, delay) : LeaveItem(action, delay);
 }
 
@@ -32,7 +32,17 @@ bool MergeRecordActions::EnterCurrentItem(RecordAction* action, int* delay) {
   current = items.value(action_index);
   if (!current) return false;
   current->speed = current->control.speed_ratio * speed;
-  return current->First(action, delay);
+  const bool has_action = current->First(action, delay);
+  has_empty_item_ = !has_action && current->IsEmpty();
+  return has_action;
+}
+
+bool MergeRecordActions::NextOfItem(RecordAction* action, int* delay) {
+  if (!current || has_empty_item_) return false;
+  while (!current->Next(action, delay)) {
+    if (current->IsThrough()) return false;
+  }
+  return true;
 }
 
 bool MergeRecordActions::RepeatList(RecordAction* action, int* delay) {

@@ -16,8 +16,9 @@ namespace taviinputmanager {
 // multiply from level to level, anew at each entry into an item.
 //
 // Between two items there is one pause, also one of 0 ms, and also behind an item without actions. Behind the last item
-// of a pass there is none. First and Next give false where they enter an item without actions, and the Next after that
-// gives the pause behind it.
+// of a pass there is none. An item without actions, which a list of nothing but such items is too, plays nothing else:
+// neither its repeats nor pauses of its own. First and Next give false where they enter one, and the Next after that
+// gives the pause behind it. Within an inner list Next goes on by itself.
 class MergeRecordActions : public RecordActions {
  public:
   using Items = QList<std::shared_ptr<RecordActions>>;
@@ -36,11 +37,15 @@ class MergeRecordActions : public RecordActions {
 
  private:
   bool EnterCurrentItem(RecordAction* action, int* delay);
+  // The next step of the item that plays; of an inner list, past its items without actions.
+  bool NextOfItem(RecordAction* action, int* delay);
   bool IsLastItem() const { return action_index >= items.size() - 1; }
   // What follows the last item: the list's own pause, its next repeat, or the end.
   bool RepeatList(RecordAction* action, int* delay);
   // What follows any other: a pause, and at the next call the next item.
   bool LeaveItem(RecordAction* action, int* delay);
+
+  bool has_empty_item_ = false;  // `current` was entered and is empty
 };
 
 }  // namespace taviinputmanager

@@ -1,6 +1,7 @@
 #include "record/merge_record_actions.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 #include "record/record_action.h"
 #include "tests/record/record_files.h"
@@ -174,13 +175,16 @@ TEST(MergeRecordActions, AnEmptyLastItemHasNoGap) {
   EXPECT_STEPS(Merged(items(), Repeated(2, 5)).get(), "1 a", "10 timer", "none", "5 timer", "1 a", "10 timer");
 }
 
-// It counts its repeats like any other: one at the first call behind it, with the pause that belongs to that, and one
-// at the call that follows the gap.
-TEST(MergeRecordActions, AnEmptyItemStillPausesForItsRepeats) {
+TEST(MergeRecordActions, RepeatsOfAnEmptyItemPauseNothing) {
   MergeParam often = Repeated(5, 100);
   often.till_next_item_delay = 3;
-  EXPECT_STEPS(Merged({Single({}, often), Single({{1, "a"}})}).get(),  //
-               "none", "100 timer", "3 timer", "100 timer", "1 a");
+  EXPECT_STEPS(Merged({Single({}, often), Single({{1, "a"}})}).get(), "none", "3 timer", "1 a");
+  EXPECT_STEPS(Merged({Merged({Single({}, often)}, often), Single({{1, "a"}})}).get(), "none", "3 timer", "1 a");
+  // As the last item it has no gap either, neither at the end of a pass nor at that of the list.
+  EXPECT_STEPS(Merged({Single({{1, "a"}}), Single({}, often)}, Repeated(2)).get(),  //
+               "1 a", "0 timer", "none", "1 a", "0 timer");
+  EXPECT_STEPS(Merged({Merged({Single({{1, "a"}}), Single({}, often)}), Single({{2, "b"}})}).get(),  //
+               "1 a", "0 timer", "0 timer", "2 b");
 }
 
 TEST(MergeRecordActions, TheGapOfAnEmptyItemIsAtItsSpeed) {
@@ -191,7 +195,112 @@ TEST(MergeRecordActions, TheGapOfAnEmptyItemIsAtItsSpeed) {
 TEST(MergeRecordActions, AnEmptyInnerListIsAnItemWithoutActions) {
   const auto inner = Merged({Single({}, WithGap(1)), Single({})}, WithGap(40));
   EXPECT_STEPS(Merged({inner, Single({{1, "a"}})}).get(),  //
-               "none", "1 timer", "40 timer", "1 a");
+               "none", "40 timer", "1 a");
+}
+
+// ---- Items without actions in an inner list ----
+
+// a, a gap of 10, nothing, a gap of 40, b.
+std::shared_ptr<MergeRecordActions> AroundNothing(const MergeParam& control = {}) {
+  return Merged({Single({{1, "a"}}, WithGap(10)), Single({}, WithGap(40)), Single({{2, "b"}})}, control);
+}
+
+TEST(MergeRecordActions, AnInnerListGoesOnBehindItsEmptyItem) {
+  EXPECT_STEPS(Merged({AroundNothing()}).get(), "1 a", "10 timer", "40 timer", "2 b");
+  EXPECT_STEPS(Merged({AroundNothing()}, Repeated(2)).get(),  //
+               "1 a", "10 timer", "40 timer", "2 b",          //
+               "1 a", "10 timer", "40 timer", "2 b");
+  EXPECT_STEPS(Merged({AroundNothing()}, Repeated(2, 5)).get(),  //
+               "1 a", "10 timer", "40 timer", "2 b", "5 timer",  //
+               "1 a", "10 timer", "40 timer", "2 b");
+}
+
+TEST(MergeRecordActions, AnInnerListWithAnEmptyItemPlaysAllItsRepeatsBeforeTheGap) {
+  MergeParam twice = Repeated(2, 5);
+  twice.till_next_item_delay = 400;
+  EXPECT_STEPS(Merged({AroundNothing(twice), Single({{3, "c"}})}).get(),  //
+               "1 a", "10 timer", "40 timer", "2 b", "5 timer",           //
+               "1 a", "10 timer", "40 timer", "2 b", "400 timer", "3 c");
+  EXPECT_STEPS(Merged({AroundNothing(WithGap(400)), Single({{3, "c"}})}).get(),  //
+               "1 a", "10 timer", "40 timer", "2 b", "400 timer", "3 c");
+}
+
+TEST(MergeRecordActions, AnInnerListThatEndsWithAnEmptyItemIsRepeated) {
+  const auto inner = Merged({Single({{1, "a"}}, WithGap(10)), Single({}, WithGap(40))}, Repeated(2, 5));
+  EXPECT_STEPS(Merged({inner, Single({{2, "b"}})}).get(),  //
+               "1 a", "10 timer", "5 timer", "1 a", "10 timer", "0 timer", "2 b");
+}
+
+TEST(MergeRecordActions, AnInnerListThatBeginsWithAnEmptyItemIsRepeated) {
+  const auto inner = Merged({Single({}, WithGap(40)), Single({{1, "a"}})}, Repeated(2, 5));
+  EXPECT_STEPS(Merged({inner, Single({{2, "b"}})}).get(),  //
+               "none", "40 timer", "1 a", "5 timer", "40 timer", "1 a", "0 timer", "2 b");
+}
+
+TEST(MergeRecordActions, AnInnerListOfNothingStandsForNothingOnAnyLevel) {
+  const auto nothing = [] { return Merged({Single({}, WithGap(1)), Single({})}, Repeated(3, 7)); };
+  const auto inner = Merged({Single({{1, "a"}}), nothing(), nothing(), Single({{2, "b"}})});
+  EXPECT_STEPS(Merged({Merged({inner})}, Repeated(2)).get(),   //
+               "1 a", "0 timer", "0 timer", "0 timer", "2 b",  //
+               "1 a", "0 timer", "0 timer", "0 timer", "2 b");
+}
+
+TEST(MergeRecordActions, AReplayPlaysWhatIsAroundNothing) {
+  ReplayContext context;
+  context.actions = Merged({Single({}, Repeated(3, 100)), AroundNothing(Repeated(2))}, Repeated(2));
+  const QStringList pass{"1 a", "10 timer", "40 timer", "2 b"};
+  EXPECT_EQ((QStringList{"0 timer"} + pass + pass + QStringList{"0 timer"} + pass + pass).join(", ").toStdString(),
+            StepsOfReplay(&context).join(", ").toStdString());
+}
+
+// What a list of items plays, told without an iterator: its steps, and the gaps between its items.
+QStringList StepsOf(const RecordActions& actions) {
+  QStringList steps;
+  if (actions.IsEmpty()) return steps;
+  const auto* list = dynamic_cast<const MergeRecordActions*>(&actions);
+  for (int repeat = 1; repeat <= qMax(1, actions.control.repeat_times); ++repeat) {
+    if (repeat > 1 && actions.control.repeat_delay > 0) {
+      steps += QStringLiteral("%1 timer").arg(actions.control.repeat_delay);
+    }
+    if (!list) {
+      for (const RecordAction* action : static_cast<const SingleRecordActions&>(actions).actions) {
+        steps += QStringLiteral("%1 %2").arg(action->timing).arg(action->data);
+      }
+      continue;
+    }
+    for (int i = 0; i < list->items.size(); ++i) {
+      steps += StepsOf(*list->items.at(i));
+      if (i + 1 < list->items.size()) {
+        steps += QStringLiteral("%1 timer").arg(list->items.at(i)->control.till_next_item_delay);
+      }
+    }
+  }
+  return steps;
+}
+
+// A list of up to 3 items, down to `levels` of them; every fourth item is empty or so.
+std::shared_ptr<RecordActions> AnyList(std::mt19937* random, int levels) {
+  const auto up_to = [&](unsigned most) { return static_cast<int>((*random)() % (most + 1)); };
+  MergeParam control = Repeated(up_to(3), up_to(2) * 5);
+  control.till_next_item_delay = up_to(3) * 10;
+  if (levels == 0 || up_to(2) == 0) {
+    return up_to(2) == 0 ? Single({}, control) : Single({{up_to(9), "a"}, {up_to(9), "b"}}, control);
+  }
+  MergeRecordActions::Items items;
+  for (int count = 1 + up_to(2); count > 0; --count) items.append(AnyList(random, levels - 1));
+  return Merged(items, control);
+}
+
+TEST(MergeRecordActions, ListsOfAnyShapePlayWhatIsInThem) {
+  constexpr int kLists = 3000;
+  constexpr int kLevels = 4;
+  std::mt19937 random(7);
+  for (int i = 0; i < kLists; ++i) {
+    ReplayContext context;
+    context.actions = AnyList(&random, kLevels);
+    const QStringList expected = StepsOf(*context.actions);
+    ASSERT_EQ(expected.join(", ").toStdString(), StepsOfReplay(&context, 100000).join(", ").toStdString()) << i;
+  }
 }
 
 TEST(MergeRecordActions, AnItemThatIsNullHasNothingToPlay) {
