@@ -24,9 +24,9 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-constexpr unsigned kIndent = 4;      // columns a level, where the file is written by the other JSON library
-constexpr int kStepAsIndent = -1;    // of a nested level: the same
-constexpr std::size_t kDepth = 511;  // levels that QJsonDocument reads; anything deeper is broken for all readers
+constexpr unsigned kIndent = 4;       // columns a level, where the file is written by the other JSON library
+constexpr int kStepAsIndent = -1;     // of a nested level: the same
+constexpr std::size_t kDepth = 1024;  // levels that QJsonDocument reads; anything deeper is broken for all readers
 
 enum SaveResult : int { kSaved = 0, kNothingWorthSaving = 1, kOpenFailed = 2 };
 

@@ -66,6 +66,16 @@ QJsonObject Json(const QByteArray& json) {
   return document.object();
 }
 
+QByteArray NestedLists(int levels) { return QByteArray(levels, '[') + QByteArray(levels, ']'); }
+
+QByteArray NestedObjects(int levels) { return QByteArray("{\"a\":").repeated(levels) + '0' + QByteArray(levels, '}'); }
+
+QByteArray NestedByTurns(int levels) {
+  QByteArray json = "0";
+  for (int level = 0; level < levels; ++level) json = level % 2 == 0 ? '[' + json + ']' : "{\"a\":" + json + '}';
+  return json;
+}
+
 std::string Compact(const QJsonObject& json) {
   return QJsonDocument(json).toJson(QJsonDocument::Compact).replace('"', '\'').toStdString();
 }

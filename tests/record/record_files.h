@@ -49,6 +49,10 @@ class RecordFiles {
 QByteArray Text(QByteArray json);
 // The same as an object. The test fails on one that cannot be read.
 QJsonObject Json(const QByteArray& json);
+// Lists, objects, or both by turns, each in the one before it: as many levels as said.
+QByteArray NestedLists(int levels);
+QByteArray NestedObjects(int levels);
+QByteArray NestedByTurns(int levels);
 // In one line, keys in ascending order, with apostrophes.
 std::string Compact(const QJsonObject& json);
 

@@ -434,16 +434,47 @@ TEST_F(RecordReading, AnEmptyListLoadsAndPlaysNothing) {
   EXPECT_NOTHING_PLAYED("{'info': {'a': 1}, 'merged_actions': [{'actions': []}, {'actions': []}]}");
 }
 
-TEST_F(RecordReading, NestingIsReadToItsLimitAndRefusedBeyond) {
-  const auto nested = [](int levels) {
-    QByteArray json = "{'actions': [{'type': 'touch', 'data': 'a'}]}";
-    for (int i = 0; i < levels; ++i) json = "{'merged_actions': [" + json + "]}";
+// The file itself, its list and an action are 3 levels, each merged list around it 2 more: 3 + 2 * 510 = 1023.
+TEST_F(RecordReading, PartsAreNestedUpTo510Deep) {
+  const auto nested = [](int lists) {
+    const QByteArray json = QByteArray("{'merged_actions': [").repeated(lists) +
+                            "{'actions': [{'type': 'touch', 'data': 'a'}]}" + QByteArray("]}").repeated(lists);
     return Text("{'info': {'a': 1}," + json.mid(1));
   };
   ReplayContext context;
-  ASSERT_TRUE(Utils()->LoadRecord(Put("deep.json", nested(200)), &context));
+  ASSERT_TRUE(Utils()->LoadRecord(Put("deep.json", nested(510)), &context));
   EXPECT_STEPS(context.actions.get(), "0 a");
-  EXPECT_FALSE(Utils()->LoadRecord(Put("deep.json", nested(20000)), &context));
+  for (const int lists : {511, 20000}) {
+    EXPECT_FALSE(Utils()->LoadRecord(Put("deep.json", nested(lists)), &context)) << lists;
+  }
+}
+
+// Also where nobody looks at what is nested: 1024 levels are read, of which the root is one, and one more is broken.
+TEST_F(RecordReading, NestingIsReadToItsLimitByAllReaders) {
+  for (const auto nested : {NestedLists, NestedObjects, NestedByTurns}) {
+    const auto file_of = [&](int levels) {
+      return Put("deep.json", Text("{'info':{'package_name':'p'},'n':") + nested(levels - 1) +
+                                  Text(",'actions':[{'data':'{\\'params\\':{\\'app\\':\\'A\\'}}'}]}"));
+    };
+    const auto what_is_read = [&](const QString& file) {
+      RecordInfo info;
+      ReplayContext context;
+      QString app, package;
+      MergeParam source;
+      source.file_name = file;
+      GetScriptAppAndPackage(file, app, package);
+      return QStringLiteral("%1 %2 %3 %4 %5")
+          .arg(Utils()->LoadJsonObject(file).size())
+          .arg(GetRecordInfo(file, &info))
+          .arg(Utils()->LoadRecord(file, &context))
+          .arg(MergeRecord(Path("merged.json"), {source}))
+          .arg(app)
+          .toStdString();
+    };
+    EXPECT_EQ("3 1 1 1 A", what_is_read(file_of(1023)));
+    EXPECT_EQ("3 1 1 1 A", what_is_read(file_of(1024)));
+    EXPECT_EQ("0 0 0 0 ", what_is_read(file_of(1025)));
+  }
 }
 
 }  // namespace

@@ -121,11 +121,22 @@ TEST_F(UpdateTimestamp, ThrowsForARootThatHoldsNothing) {
   for (const char* root : {"null", "true", "5", "'info'"}) ExpectThrows<Poco::JSON::JSONException>(root, root);
 }
 
+// 1024 levels, of which the root is one; what it writes can be read again.
 TEST_F(UpdateTimestamp, NestedAsDeepAsAnyReaderReads) {
-  const auto nested = [](int levels) { return QByteArray(levels, '[') + QByteArray(levels, ']'); };
-  const QByteArray deep = "{'info':{'create_time':1577836800000},'n':" + nested(300) + "}";
-  EXPECT_EQ(Compact(Json(deep)), Compact(Json(QByteArray::fromStdString(Updated(deep)))));
-  ExpectThrows<Poco::JSON::JSONException>("deeper", "{'info':{},'n':" + nested(2000) + "}");
+  const struct {
+    const char* name;
+    QByteArray (*nested)(int levels);
+  } rows[] = {{"lists", NestedLists}, {"objects", NestedObjects}, {"both by turns", NestedByTurns}};
+  for (const auto& row : rows) {
+    const auto file_of = [&](int levels) {
+      return Text("{'info':{'create_time':1577836800000},'n':") + row.nested(levels - 1) + "}";
+    };
+    for (const int levels : {511, 512, 1024}) {
+      EXPECT_EQ(Compact(Json(file_of(levels))), Compact(Json(QByteArray::fromStdString(Updated(file_of(levels))))))
+          << levels << ' ' << row.name;
+    }
+    for (const int levels : {1025, 2000}) ExpectThrows<Poco::JSON::JSONException>(row.name, file_of(levels));
+  }
 }
 
 }  // namespace

@@ -49,6 +49,16 @@ TEST(RecordFile, TellsWhereJsonIsBroken) {
   EXPECT_TRUE(FindingsOf("").startsWith("f:1:1: error: broken JSON: "));
 }
 
+// The file is one level, so that a list of 1023 in it makes 1024.
+TEST(RecordFile, ReadsAsManyLevelsAsAReplayDoes) {
+  const auto findings_of = [](int levels) {
+    return FindingsOf(WithActions("").replace(
+        "\"info\"", "\"n\": " + QByteArray(levels - 1, '[') + QByteArray(levels - 1, ']') + ", \"info\""));
+  };
+  EXPECT_EQ(findings_of(1024), QStringLiteral("f: warning: n: not read: no such key here\n"));
+  EXPECT_TRUE(findings_of(1025).startsWith("f:1:1031: error: broken JSON: ")) << findings_of(1025).toStdString();
+}
+
 TEST(RecordFile, RefusesWhatCannotBePlayed) {
   const struct {
     const char* name;
