@@ -1,20 +1,35 @@
 #include "record/file_replacement.h"
 
+#include <memory>
+
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QString>
+#include <QTemporaryFile>
+
+#include "record/file_sync.h"
 
 namespace taviinputmanager {
 namespace {
 
+constexpr int kCopyLetters = 6;  // at random, of the name of a copy
+
+QString CopyNameStart(const QString& file) { return file + QLatin1String(".tavi-copy-"); }
+
 enum class Written { kRefused, kPart, kWhole };
 
+bool WriteAll(QFileDevice* file, const QByteArray& bytes) {
+  return file->write(bytes) == bytes.size() && file->flush() && SyncFile(*file);
+}
+
+// Somebody else may write the file at the same time: what is longer then is not what was to be written.
 Written WriteInPlace(const QString& path, const QByteArray& bytes) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return Written::kRefused;
-  return file.write(bytes) == bytes.size() && file.flush() ? Written::kWhole : Written::kPart;
+  return WriteAll(&file, bytes) && file.size() == bytes.size() ? Written::kWhole : Written::kPart;
 }
 
 // A file that is write-protected or held by someone refuses here, as it would refuse to be written in place. Opening it
@@ -23,21 +38,69 @@ bool CanBeOpenedForWriting(const QString& path) {
   return QFile(path).open(QIODevice::Append | QIODevice::ExistingOnly);
 }
 
+// A file has no name before it is whole, where the system knows such files; asking for the name gives it one.
+Written WriteCopy(QTemporaryFile* copy, const QByteArray& bytes) {
+  if (!copy->open()) return Written::kRefused;
+  ClaimFile(*copy);
+  if (!WriteAll(copy, bytes)) return Written::kPart;
+  const QString name = copy->fileName();
+  if (!QFile::exists(name)) return Written::kRefused;
+  SyncName(name);
+  return Written::kWhole;
+}
+
+// Copies that stayed when their programs died; not those of somebody who is writing the same file now.
+void RemoveLeftCopies(const QString& path) {
+  const QFileInfo file(path);
+  const QDir folder = file.absoluteDir();
+  const QString start = CopyNameStart(file.fileName());
+  const auto names = folder.entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Unsorted);
+  for (const QString& name : names) {
+    const bool is_copy = name.size() == start.size() + kCopyLetters && name.startsWith(start);
+    if (is_copy) RemoveUnclaimed(folder.filePath(name));
+  }
+}
+
+// The last way to a whole file: it becomes another one then. Where even that is barred, the copy stays beside it.
+void MoveToItsPlace(std::unique_ptr<QTemporaryFile> copy, const QString& path) {
+  const QString name = copy->fileName();
+  copy->setPermissions(QFile::permissions(path));
+  copy->setAutoRemove(false);
+  copy.reset();  // an open file cannot be moved everywhere
+  if (MoveOver(name, path)) SyncName(path);
+}
+
+bool WriteOver(const QString& path, const QByteArray& bytes) {
+  if (!CanBeOpenedForWriting(path)) return false;
+  auto copy = std::make_unique<QTemporaryFile>(CopyNameStart(path) + QString(kCopyLetters, QLatin1Char('X')));
+  const Written copied = WriteCopy(copy.get(), bytes);
+  if (copied == Written::kPart) return true;
+  const Written written = WriteInPlace(path, bytes);
+  if (written == Written::kWhole) RemoveLeftCopies(path);
+  if (written == Written::kPart && copied == Written::kWhole) MoveToItsPlace(std::move(copy), path);
+  return written != Written::kRefused;
+}
+
+bool MakeFile(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) return WriteInPlace(path, bytes) != Written::kRefused;
+  // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
+  if (file.write(bytes) != bytes.size() || !file.flush()) return true;
+  // Only the move tells that there can be no such name.
+  if (!file.commit()) return WriteInPlace(path, bytes) != Written::kRefused;
+  const QString made = QFileInfo(path).canonicalFilePath();
+  SyncName(made);
+  RemoveLeftCopies(made);
+  return true;
+}
+
 }  // namespace
 
 bool ReplaceFile(const QString& path, const QByteArray& bytes) {
-  const auto write_in_place = [&] { return WriteInPlace(path, bytes) != Written::kRefused; };
   const QFileInfo present(path);
-  if (present.exists() && !present.isFile()) return write_in_place();
-  if (present.exists() && !CanBeOpenedForWriting(path)) return false;
-
-  QSaveFile copy(path);
-  if (!copy.open(QIODevice::WriteOnly)) return write_in_place();
-  // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
-  if (copy.write(bytes) != bytes.size() || !copy.flush()) return true;
-  if (present.exists() && WriteInPlace(path, bytes) == Written::kWhole) return true;
-  // Only the move tells that there can be no such name, or that this file may not be moved away.
-  return copy.commit() || write_in_place();
+  if (!present.exists()) return MakeFile(path, bytes);
+  if (!present.isFile()) return WriteInPlace(path, bytes) != Written::kRefused;
+  return WriteOver(present.canonicalFilePath(), bytes);
 }
 
 }  // namespace taviinputmanager

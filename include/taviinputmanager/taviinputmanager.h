@@ -144,7 +144,10 @@ TAVI_EXPORT RecordStatus GetRecordStatus();
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
 // Ends the recording and saves it to `filename`, UTF-8 JSON. The result comes through the callback `stopped`: a
 // recording of nothing but released fingers is worth no file. A file that is there is replaced as a whole or not at
-// all.
+// all: while it is written over, a complete copy of what it will be lies beside it, `filename` with ".tavi-copy-" and
+// six letters behind it. The copy goes when the file is on the disk. Where the program or the machine dies before, it
+// stays, and so does what it holds, until the next save of that file is through. Where no copy can be made, as in a
+// folder that is write-protected, there is none. UpdateRecordTimestamp and MergeRecord write in the same way.
 TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
 // What happens from here to ResumeRecord is not recorded, and its time is cut out.
 TAVI_EXPORT void PauseRecord();

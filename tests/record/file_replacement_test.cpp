@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include "tests/record/record_files.h"
+#include "tests/record/stepped_process.h"
 
 namespace taviinputmanager {
 namespace {
@@ -105,6 +106,57 @@ TEST_F(FileReplacement, AFullDiskMakesNoHalfAFile) {
     EXPECT_TRUE(ReplaceFile(Path("new"), QByteArray(100000, 'x')));
   }
   EXPECT_EQ("", Names().join(' ').toStdString());
+}
+
+// The disk fills up when the copy is complete already.
+TEST_F(FileReplacement, AFileThatTakesAPartOnlyIsReplacedByItsCopy) {
+  const QString file = Put("record", "before");
+  SetMode(file, 0640);
+  SteppedProcess save([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    ReplaceFile(file, "and after");
+  });
+  if (!save.CanBeStepped()) GTEST_SKIP() << "this system lets nobody stop a process";
+  while (Bytes(file) == "before") ASSERT_TRUE(save.Step());
+  EXPECT_TRUE(save.FinishWithin(3));
+  EXPECT_EQ("and after", Bytes(file));
+  EXPECT_EQ(0640U, ModeOf(file));
+  EXPECT_EQ("record", Names().join(' ').toStdString());
+}
+
+TEST_F(FileReplacement, AFileThatIsNotWholeAndCannotBeMovedAwayKeepsItsCopy) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs a file of somebody else";
+  const QString file = Put("record", "before");
+  SetMode(file, 0666);
+  SetMode(Path("."), 01777);
+  SteppedProcess save([&] {
+    const PlainUser user;
+    ReplaceFile(file, "and after");
+  });
+  if (!save.CanBeStepped()) GTEST_SKIP() << "this system lets nobody stop a process";
+  while (Bytes(file) == "before") {
+    if (!save.Step()) GTEST_SKIP() << "this system forbids that too";
+  }
+  Put("record", "what is longer");  // by somebody else, before it is written
+  EXPECT_TRUE(save.Finish());
+  EXPECT_EQ("and afteronger", Bytes(file));
+  ASSERT_EQ(2, Names().size());
+  EXPECT_EQ("and after", Bytes(Path(Names().last())));
+}
+
+// A name that is like that of a copy, but is none.
+TEST_F(FileReplacement, FilesOfOthersStay) {
+  const QString file = Put("record", "before");
+  for (const char* name : {"record.tavi-copy", "record.tavi-copy-", "record.tavi-copy-abcde",
+                           "record.tavi-copy-abcdefg", "record2.tavi-copy-abcdef", "arecord.tavi-copy-abcdef"}) {
+    Put(name, "other");
+  }
+  const QStringList names = Names();
+  EXPECT_TRUE(ReplaceFile(file, "after"));
+  EXPECT_EQ(names, Names());
+  ASSERT_TRUE(QDir().mkdir(Path("record.tavi-copy-abcdef")));
+  EXPECT_TRUE(ReplaceFile(file, "again"));
+  EXPECT_EQ(names.size() + 1, Names().size());
 }
 
 TEST_F(FileReplacement, WhatIsNoPlainFileIsWrittenInPlace) {

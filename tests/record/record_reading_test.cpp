@@ -355,9 +355,9 @@ TEST_F(RecordReading, TheHeaderOfAMergedFileIsItsOwn) {
 // ---- What is refused ----
 
 TEST_F(RecordReading, EveryReaderRefusesInItsWay) {
-  const char* const kNames = "{'package':'P','app':'A'}";
+  const char* const names = "{'package':'P','app':'A'}";
   const QByteArray marker =
-      QByteArray("{'type': 'vcontrol', 'data': '{\\'params\\':") + QByteArray(kNames).replace("'", "\\'") + "}'}";
+      QByteArray("{'type': 'vcontrol', 'data': '{\\'params\\':") + QByteArray(names).replace("'", "\\'") + "}'}";
   const QByteArray list = "'actions': [" + marker + "]";
   const QByteArray info = "'info': {'package_name': 'p'}";
   const QByteArray item = "{" + list + "}";
