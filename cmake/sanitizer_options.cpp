@@ -11,11 +11,6 @@
 extern "C" __attribute__((visibility("default"))) const char* __tsan_default_options() {
   return "ignore_noninstrumented_modules=1:print_suppressions=0";
 }
-
-// The input reset at a replay's natural end runs on that replay's thread, without a lock. Hosts are told so.
-extern "C" __attribute__((visibility("default"))) const char* __tsan_default_suppressions() {
-  return "race:taviinputmanager::ReplayWorker::ResetAtEnd\n";
-}
 #endif
 
 #if defined(__SANITIZE_ADDRESS__)

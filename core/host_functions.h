@@ -2,16 +2,19 @@
 #ifndef CORE_HOST_FUNCTIONS_H_
 #define CORE_HOST_FUNCTIONS_H_
 
+#include <atomic>
+
 #include "taviinputmanager/types.h"
 
 namespace taviinputmanager {
 
-// Null until the host sets them. The send functions are called without a test, the sync functions after one.
+// Null until the host sets them. The send functions are called without a test, the sync functions after one. Set on the
+// main thread; a replay that ends reads them on its own.
 struct HostFunctions {
-  InputEventSendFunc send_event = nullptr;
-  InputTextSendFunc send_text = nullptr;
-  InputEventSyncFunc sync_event = nullptr;
-  InputTextSyncFunc sync_text = nullptr;
+  std::atomic<InputEventSendFunc> send_event{nullptr};
+  std::atomic<InputTextSendFunc> send_text{nullptr};
+  std::atomic<InputEventSyncFunc> sync_event{nullptr};
+  std::atomic<InputTextSyncFunc> sync_text{nullptr};
 };
 
 // The one set of the process.

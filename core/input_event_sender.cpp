@@ -12,7 +12,7 @@ namespace {
 void Transmit(const LineBuffer& line, int display) {
   int length = 0;
   const char* data = line.ForDisplay(display, &length);
-  GetHostFunctions().send_event(data, length);
+  GetHostFunctions().send_event.load()(data, length);
 }
 
 }  // namespace
@@ -23,7 +23,8 @@ InputEventSender* InputEventSender::GetInstance() {
 }
 
 bool InputEventSender::IsPrimary(int display) const {
-  return callbacks_ && callbacks_->IsPrimaryDisplay && callbacks_->IsPrimaryDisplay(display);
+  const InputManagerCallbacks* callbacks = callbacks_;
+  return callbacks && callbacks->IsPrimaryDisplay && callbacks->IsPrimaryDisplay(display);
 }
 
 void InputEventSender::SendEvent(const LineBuffer& line, int display) {
@@ -50,7 +51,7 @@ void InputEventSender::SendText(const QString& command) {
   const int length = line.size();
   line.data()[length - 1] = '\0';  // in place of the newline, and counted
   line.Byte('\0');
-  GetHostFunctions().send_text(line.data(), length);
+  GetHostFunctions().send_text.load()(line.data(), length);
 
   InputSyncManager::GetInstance()->SyncText(command);
   OfferTextLine(command);

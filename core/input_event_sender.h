@@ -2,6 +2,8 @@
 #ifndef CORE_INPUT_EVENT_SENDER_H_
 #define CORE_INPUT_EVENT_SENDER_H_
 
+#include <atomic>
+
 #include <QString>
 
 namespace taviinputmanager {
@@ -9,7 +11,8 @@ namespace taviinputmanager {
 struct InputManagerCallbacks;
 class LineBuffer;
 
-// Main thread, but for the reset at the natural end of a replay. No lock, no queue, no retry.
+// Main thread, but for the reset at the natural end of a replay, which sends on that replay's. No lock, no queue, no
+// retry.
 class InputEventSender {
  public:
   static InputEventSender* GetInstance();
@@ -26,7 +29,7 @@ class InputEventSender {
  private:
   bool IsPrimary(int display) const;
 
-  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
+  std::atomic<InputManagerCallbacks*> callbacks_{nullptr};  // the host's
 };
 
 }  // namespace taviinputmanager

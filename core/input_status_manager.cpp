@@ -27,16 +27,30 @@ constexpr int kLastMacroSlot = 25;
 
 void InputStatusManager::SetStatus(InputStatus status, const QString& message) {
   status_ = status;
-  status_message_ = message;
+  SetStatusMessage(message);
   NotifyStatus();
 }
 
-void InputStatusManager::NotifyStatus() const {
-  if (callbacks_) callbacks_->OnInputStatusChanged(static_cast<int>(status_), status_message_);
+void InputStatusManager::SetStatusMessage(const QString& message) {
+  const std::lock_guard<std::mutex> lock(status_message_mutex_);
+  status_message_ = message;
 }
 
+QString InputStatusManager::StatusMessage() const {
+  const std::lock_guard<std::mutex> lock(status_message_mutex_);
+  return status_message_;
+}
+
+void InputStatusManager::NotifyStatus() const {
+  const InputManagerCallbacks* callbacks = callbacks_;
+  if (callbacks) callbacks->OnInputStatusChanged(static_cast<int>(GetStatus()), StatusMessage());
+}
+
+// The main thread may load a keymap without Staring item meanwhile: that one's status stays.
 void InputStatusManager::LeaveModes() {
-  if (status_ != InputStatus::Normal) status_ = InputStatus::StaringOff;
+  InputStatus before = status_;
+  while (before != InputStatus::Normal && !status_.compare_exchange_weak(before, InputStatus::StaringOff)) {
+  }
   NotifyStatus();
 }
 
@@ -63,7 +77,7 @@ void InputStatusManager::TakeStaringKey(const KeymapConfig* config) {
     staring_key_ = item->key;
     ConfigKey named = item->key;
     tavikeymapmanager::SetTextForConfigKey(&named);
-    status_message_ = named.text;
+    SetStatusMessage(named.text);
     return;
   }
 }

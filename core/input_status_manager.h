@@ -3,6 +3,7 @@
 #define CORE_INPUT_STATUS_MANAGER_H_
 
 #include <atomic>
+#include <mutex>
 
 #include <QMap>
 #include <QMutex>
@@ -28,8 +29,8 @@ enum ResetMode : int {
   kResetMacro = 4,  // the macro slots alone
 };
 
-// Main thread, but for the reset at the natural end of a replay, and for the transparency of displays, which any thread
-// may ask.
+// Main thread, but for the reset of mode kResetMacro, which a replay makes on its own thread when it ends, for the
+// status and for the transparency of displays, which any thread may ask.
 class InputStatusManager {
  public:
   static InputStatusManager* GetInstance() {
@@ -40,7 +41,7 @@ class InputStatusManager {
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 
   // ---- Status ----
-  InputStatus GetStatus() const { return status_; }
+  InputStatus GetStatus() const { return status_.load(std::memory_order_relaxed); }
   // Stores both and tells the host, also without a change. `message` is the name of the key that caused it.
   void SetStatus(InputStatus status, const QString& message);
   // The same, by the number of the status.
@@ -53,7 +54,7 @@ class InputStatusManager {
                       bool has_path, int mode, int display);
   // Resets everything on the present display and moves on to `display`.
   void UpdateDisplayId(int display);
-  int GetDisplayId() const { return display_id_; }
+  int GetDisplayId() const { return display_id_.load(std::memory_order_relaxed); }
   int GetReplayDisplayId() const { return replay_display_id_; }
   void SetReplayDisplayId(int display) { replay_display_id_ = display; }
   void SetForceTransparent(int display, bool on);
@@ -98,15 +99,18 @@ class InputStatusManager {
   InputStatusManager() = default;
 
   void LeaveModes();
+  void SetStatusMessage(const QString& message);
+  QString StatusMessage() const;
   void NotifyStatus() const;
   void ReleaseSlotRange(int first, int last, int display);
   void ReleaseHeldKeysOn(int display);
   static void ReleaseKeys(CodeSet& keys, int display);
   void TakeStaringKey(const tavikeymapmanager::KeymapConfig* config);
 
-  InputStatus status_ = InputStatus::Normal;
-  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
-  QString status_message_;                      // kept when a keymap has no Staring item
+  std::atomic<InputStatus> status_{InputStatus::Normal};
+  std::atomic<InputManagerCallbacks*> callbacks_{nullptr};  // the host's
+  mutable std::mutex status_message_mutex_;                 // guards status_message_
+  QString status_message_;                                  // kept when a keymap has no Staring item
   CodeSet held_keys_;
   CodeSet replay_held_keys_;
   mutable QMutex force_transparent_mutex_;  // guards force_transparent_ only
@@ -116,7 +120,7 @@ class InputStatusManager {
   QString extra_;
   bool has_keymap_ = false;
   tavikeymapmanager::ConfigKey staring_key_;
-  int display_id_ = 0;
+  std::atomic<int> display_id_{0};
   int replay_display_id_ = 0;
   bool input_hold_ = false;
   double swipehold_factor_ = 1.0;

@@ -1,16 +1,26 @@
 #include "core/input_sync_manager.h"
 
+#include <utility>
+
 #include "core/host_functions.h"
 
 namespace taviinputmanager {
 
 void InputSyncManager::StartSync(const QString& target) {
-  if (!sync_targets_.contains(target)) sync_targets_.append(target);
+  QVector<QString> targets = Targets();
+  if (!targets.contains(target)) targets.append(target);
+  SetTargets(std::move(targets));
 }
 
-void InputSyncManager::StopSync(const QString& target) { sync_targets_.removeAll(target); }
+void InputSyncManager::StopSync(const QString& target) {
+  QVector<QString> targets = Targets();
+  targets.removeAll(target);
+  SetTargets(std::move(targets));
+}
 
-bool InputSyncManager::IsEventMirrored() const { return GetHostFunctions().sync_event && !sync_targets_.isEmpty(); }
+bool InputSyncManager::IsEventMirrored() const {
+  return has_targets_.load(std::memory_order_relaxed) && GetHostFunctions().sync_event.load();
+}
 
 void InputSyncManager::SyncEvent(const QString& command) const {
   if (IsEventMirrored()) Mirror(GetHostFunctions().sync_event, command);
@@ -18,12 +28,24 @@ void InputSyncManager::SyncEvent(const QString& command) const {
 
 void InputSyncManager::SyncText(const QString& command) const {
   const InputTextSyncFunc sync = GetHostFunctions().sync_text;
-  if (sync && !sync_targets_.isEmpty()) Mirror(sync, command);
+  if (sync && has_targets_.load(std::memory_order_relaxed)) Mirror(sync, command);
 }
 
 void InputSyncManager::Mirror(InputTextSyncFunc sync, const QString& command) const {
-  const QVector<QString> targets = sync_targets_;  // the host may stop one while it goes through them
-  sync(command, targets);
+  const QVector<QString> targets = Targets();  // the host may stop one while it goes through them
+  if (!targets.isEmpty()) sync(command, targets);
+}
+
+// In place of the list before, which another thread may be going through.
+void InputSyncManager::SetTargets(QVector<QString> targets) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  has_targets_.store(!targets.isEmpty(), std::memory_order_relaxed);
+  sync_targets_.swap(targets);
+}
+
+QVector<QString> InputSyncManager::Targets() const {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  return sync_targets_;
 }
 
 }  // namespace taviinputmanager

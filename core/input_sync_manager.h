@@ -2,6 +2,9 @@
 #ifndef CORE_INPUT_SYNC_MANAGER_H_
 #define CORE_INPUT_SYNC_MANAGER_H_
 
+#include <atomic>
+#include <mutex>
+
 #include <QString>
 #include <QVector>
 
@@ -9,7 +12,7 @@
 
 namespace taviinputmanager {
 
-// Main thread only.
+// Main thread, but for the lines of a replay that ends, which are mirrored on its own.
 class InputSyncManager {
  public:
   static InputSyncManager* GetInstance() {
@@ -30,8 +33,12 @@ class InputSyncManager {
  private:
   // The two kinds of function have one type.
   void Mirror(InputTextSyncFunc sync, const QString& command) const;
+  QVector<QString> Targets() const;
+  void SetTargets(QVector<QString> targets);
 
-  QVector<QString> sync_targets_;
+  mutable std::mutex mutex_;              // guards sync_targets_
+  QVector<QString> sync_targets_;         // changed on the main thread
+  std::atomic<bool> has_targets_{false};  // spares lines the lock where nobody mirrors
 };
 
 }  // namespace taviinputmanager

@@ -2,6 +2,8 @@
 #ifndef RECORD_ACTION_TRACK_H_
 #define RECORD_ACTION_TRACK_H_
 
+#include <utility>
+
 #include <QList>
 
 #include "record/record_action.h"
@@ -21,6 +23,8 @@ class ActionTrack {
   // `action` as it is, but for its timing.
   void Add(RecordAction action);
   void Clear();
+  // What was recorded, which is the caller's from then on; empty again.
+  QList<RecordAction*> Take() { return std::exchange(actions_, {}); }
   // Goes on as if the time since `pause_time`, milliseconds since the epoch, had not passed.
   void SkipSince(qint64 pause_time);
 

@@ -15,6 +15,17 @@ namespace taviinputmanager {
 
 using namespace record_format;  // NOLINT(google-build-using-namespace): words of files, and nothing else
 
+namespace {
+
+// What the host finds the right app by when the record is played.
+QString DetectAppMarker(const QString& package, const QString& app) {
+  const QJsonObject params{{kPackage, package}, {kApp, app}};
+  const QJsonDocument marker(QJsonObject{{kCmd, QString(kDetectApp)}, {kParams, params}});
+  return QString::fromUtf8(marker.toJson(QJsonDocument::Compact));
+}
+
+}  // namespace
+
 RecordManager* RecordManager::GetInstance() {
   static RecordManager instance;
   return &instance;
@@ -23,28 +34,41 @@ RecordManager* RecordManager::GetInstance() {
 RecordManager::RecordManager() : pause_time_(Clock::NowMs()) {}
 
 void RecordManager::StartRecord(const QString& package, const QString& app) {
-  status_ = RecordStatus::Recording;
-  actions_.Start();
-  AddDetectAppAction(package, app);
+  const QString marker = DetectAppMarker(package, app);
+  {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    status_ = RecordStatus::Recording;
+    actions_.Start();
+    actions_.Add({0, kTypeVControl, marker, {}, {}});  // ahead of all that another thread may add
+  }
   if (callbacks_) callbacks_->started();
 }
 
+void RecordManager::Leave(RecordStatus status) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  status_ = status;
+}
+
 void RecordManager::PauseRecord() {
-  status_ = RecordStatus::Paused;
+  Leave(RecordStatus::Paused);
   pause_time_ = Clock::NowMs();
   if (callbacks_) callbacks_->paused();
 }
 
 void RecordManager::ResumeRecord() {
-  status_ = RecordStatus::Recording;
-  actions_.SkipSince(pause_time_);
+  {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    status_ = RecordStatus::Recording;
+    actions_.SkipSince(pause_time_);
+  }
   if (callbacks_) callbacks_->resumed();
 }
 
 void RecordManager::StopRecord(const QString& package_name, const QString& filename) {
-  status_ = RecordStatus::Stopped;  // first: nothing can enter any more
-  const int result = RecordFileUtils::GetInstance()->SaveRecord(package_name, filename, actions_.Actions());
-  actions_.Clear();
+  Leave(RecordStatus::Stopped);
+  const QList<RecordAction*> actions = actions_.Take();  // saving asks the host, which may start the next recording
+  const int result = RecordFileUtils::GetInstance()->SaveRecord(package_name, filename, actions);
+  qDeleteAll(actions);
   if (callbacks_) callbacks_->stopped(filename, result);
 }
 
@@ -52,16 +76,10 @@ void RecordManager::AddVControlCommand(const QString& data, const QString& extra
   AddAction(kTypeVControl, data, extra1, extra2);
 }
 
-// What the host finds the right app by when the record is played.
-void RecordManager::AddDetectAppAction(const QString& package, const QString& app) {
-  const QJsonObject params{{kPackage, package}, {kApp, app}};
-  const QJsonDocument marker(QJsonObject{{kCmd, QString(kDetectApp)}, {kParams, params}});
-  AddVControlCommand(QString::fromUtf8(marker.toJson(QJsonDocument::Compact)), {}, {});
-}
-
 void RecordManager::AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2) {
-  if (status_ != RecordStatus::Recording || data.isEmpty()) return;
-  actions_.Add({0, type, data, extra1, extra2});
+  if (data.isEmpty()) return;
+  const std::lock_guard<std::mutex> lock(mutex_);
+  if (GetStatus() == RecordStatus::Recording) actions_.Add({0, type, data, extra1, extra2});
 }
 
 void RecordManager::OnEventCommand(const QString& command) {

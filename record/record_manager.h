@@ -2,6 +2,9 @@
 #ifndef RECORD_RECORD_MANAGER_H_
 #define RECORD_RECORD_MANAGER_H_
 
+#include <atomic>
+#include <mutex>
+
 #include <QString>
 #include <QStringList>
 
@@ -22,14 +25,15 @@ struct InputRecorderCallbacks;
 // Beside it, and independent of it, a macro can be captured: that one reads the host's events, and makes lines of the
 // macro language of them. While it runs no event line is recorded.
 //
-// Threads: main thread; no lock. (The lines of a reset at the natural end of a replay come on that replay's thread.)
+// Threads: main thread, but for lines: those of the reset at the natural end of a replay come on that replay's.
+// GetStatus is for any thread.
 class RecordManager {
  public:
   static RecordManager* GetInstance();
   virtual ~RecordManager() = default;
 
   void SetCallbacks(InputRecorderCallbacks* callbacks) { callbacks_ = callbacks; }
-  RecordStatus GetStatus() const { return status_; }
+  RecordStatus GetStatus() const { return status_.load(std::memory_order_relaxed); }
 
   void StartRecord(const QString& package, const QString& app);
   void PauseRecord();
@@ -53,14 +57,18 @@ class RecordManager {
  private:
   RecordManager();
 
-  void AddDetectAppAction(const QString& package, const QString& app);
+  // From its return on nothing enters, and the record is the main thread's alone.
+  void Leave(RecordStatus status);
 
   void CaptureEvent(QEvent* event);
   void AddMacroAction(const QString& data);
   void AddMacroMove(const QPoint& window_position);
 
-  RecordStatus status_ = RecordStatus::Stopped;
-  bool macro_recording_ = false;
+  // Guards actions_ while status_ is Recording, and all changes of status_. Not held while a file is written or the
+  // host is called.
+  std::mutex mutex_;
+  std::atomic<RecordStatus> status_{RecordStatus::Stopped};
+  std::atomic<bool> macro_recording_{false};
   qint64 pause_time_;  // of the last pause, milliseconds since the epoch
   ActionTrack actions_;
   ActionTrack macro_actions_;

@@ -44,12 +44,10 @@ void ReplayWorker::ScheduleNext() {
 
 void ReplayWorker::Finish() {
   timer_->stop();
-  ResetAtEnd();
+  // On this thread, beside whatever the main thread does: what the two share is guarded where it is.
+  InputStatusManager::GetInstance()->ResetInputStatus(kResetMacro, 0);
   if (param_.callbacks) param_.callbacks->finished(param_.task_id, param_.filename, param_.param);
 }
-
-// On this thread, beside whatever the main thread does. ThreadSanitizer is told of this function by its name.
-void ReplayWorker::ResetAtEnd() { InputStatusManager::GetInstance()->ResetInputStatus(kResetMacro, 0); }
 
 void ReplayWorker::TimerOutTime() {
   RecordAction action;

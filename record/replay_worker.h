@@ -69,7 +69,6 @@ class ReplayWorker : public QObject {
   void PlayFromFirst();
   void ScheduleNext();
   void Finish();
-  static void ResetAtEnd();
   void End(bool stop_by_user);
   void Tell(Callback InputReplayerCallbacks::*member) const;
 

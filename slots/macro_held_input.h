@@ -10,13 +10,16 @@
 
 namespace taviinputmanager {
 
-// Stands beside the slot managers because the sweep clears it. Main thread only.
+// Stands beside the slot managers because the sweep clears it. Main thread, but for RequestClear.
 class MacroHeldInput {
  public:
+  // Cleared first where that was requested, so ask for it at each use.
   static MacroHeldInput* GetInstance();
 
   // Forgets keys, mouse and gamepad buttons; the buttons of virtual pointers stay.
   void Clear();
+  // Any thread: does so before the main thread looks again.
+  static void RequestClear();
 
   CodeSet keys;
   CodeSet mouse_buttons;

@@ -8,9 +8,15 @@ constexpr QPointF kPlaceholder(1.0, 1.0);
 
 }  // namespace
 
+PointPoolSlotManager::Points& PointPoolSlotManager::Book() const {
+  if (reset_.Take()) points_.fill(QPointF());
+  return points_;
+}
+
 int PointPoolSlotManager::IndexOf(const QPointF& point) const {
+  const Points& points = Book();
   for (int i = 0; i < kSlotCount; ++i) {
-    if (points_[static_cast<std::size_t>(i)] == point) return i;
+    if (points[static_cast<std::size_t>(i)] == point) return i;
   }
   return -1;
 }
@@ -24,8 +30,9 @@ int PointPoolSlotManager::Allocate(const QPointF& point) {
 }
 
 int PointPoolSlotManager::FindFree() const {
+  const Points& points = Book();
   for (int i = 0; i < kSlotCount; ++i) {
-    if (points_[static_cast<std::size_t>(i)].isNull()) return kFirstSlot + i;
+    if (points[static_cast<std::size_t>(i)].isNull()) return kFirstSlot + i;
   }
   return kNoSlot;
 }
@@ -35,7 +42,7 @@ void PointPoolSlotManager::Reserve(int id) { SetPoint(id, kPlaceholder); }
 void PointPoolSlotManager::SetPoint(int id, const QPointF& point) {
   const int index = id - kFirstSlot;
   if (index < 0 || index >= kSlotCount) return;
-  points_[static_cast<std::size_t>(index)] = point;
+  Book()[static_cast<std::size_t>(index)] = point;
 }
 
 void PointPoolSlotManager::Free(int id) { SetPoint(id, QPointF()); }
@@ -50,9 +57,10 @@ int PointPoolSlotManager::FreeAt(const QPointF& point) {
 bool PointPoolSlotManager::Contains(const QPointF& point) const { return IndexOf(point) >= 0; }
 
 QSet<int> PointPoolSlotManager::ActiveSlots() const {
+  const Points& points = Book();
   QSet<int> active;
   for (int i = 0; i < kSlotCount; ++i) {
-    if (!points_[static_cast<std::size_t>(i)].isNull()) active.insert(kFirstSlot + i);
+    if (!points[static_cast<std::size_t>(i)].isNull()) active.insert(kFirstSlot + i);
   }
   return active;
 }

@@ -7,12 +7,15 @@
 #include <QPointF>
 #include <QSet>
 
+#include "slots/clear_request.h"
 #include "slots/slot_manager.h"
 
 namespace taviinputmanager {
 
 // Points are compared as QPointF compares them, which is fuzzy. A null point means that the entry is free, so a contact
 // at exactly (0, 0) does not hold its slot.
+//
+// Main thread, but for Reset.
 class PointPoolSlotManager : public SlotManager {
  public:
   static constexpr int kSlotCount = 8;
@@ -20,8 +23,8 @@ class PointPoolSlotManager : public SlotManager {
   // A pool has no touch of its own.
   bool HasTouch() const override { return false; }
   LineBuffer PressLine() override { return {}; }
-  // Frees every slot.
-  void Reset() override { points_.fill(QPointF()); }
+  // Frees every slot. Any thread.
+  void Reset() override { reset_.Make(); }
 
   // The slot that holds `point`, or a free one, which then holds it; kNoSlot when there is none.
   int Allocate(const QPointF& point);
@@ -43,10 +46,15 @@ class PointPoolSlotManager : public SlotManager {
  private:
   static constexpr int kFirstSlot = 18;
 
+  using Points = std::array<QPointF, kSlotCount>;  // entry i is slot kFirstSlot + i
+
   // -1 for a point that no entry holds.
   int IndexOf(const QPointF& point) const;
+  // After a reset that was asked for. The only way to the points.
+  Points& Book() const;
 
-  std::array<QPointF, kSlotCount> points_;  // entry i is slot kFirstSlot + i
+  mutable ClearRequest reset_;
+  mutable Points points_;
 };
 
 }  // namespace taviinputmanager

@@ -66,11 +66,12 @@ void ResetSimulators() {
 
 }  // namespace
 
+// Of all modes, kResetMacro alone touches nothing but what may be touched on the thread of a replay.
 void InputStatusManager::ResetGuestState(int mode, int display) {
   if (display == 0) display = display_id_;
   if (mode == kResetMacro) {
     MacroSlotManager::GetInstance()->Reset();
-    MacroHeldInput::GetInstance()->Clear();
+    MacroHeldInput::RequestClear();
     ReleaseSlots(mode, display);
     return;
   }
