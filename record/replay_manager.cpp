@@ -23,6 +23,10 @@ ReplayManager* ReplayManager::GetInstance() {
 
 void ReplayManager::StartReplay(int unused, int task_id, const QString& /*unused_name*/, const QString& filename,
                                 ReplayParam param) {
+  requests_.Perform([=] { Play(unused, task_id, filename, param); });
+}
+
+void ReplayManager::Play(int unused, int task_id, const QString& filename, const ReplayParam& param) {
   ReplayContext context;
   if (!RecordFileUtils::GetInstance()->LoadRecord(filename, &context)) return;
   HoldRecord(filename);
@@ -52,23 +56,35 @@ void ReplayManager::HoldRecord(const QString& filename) {
   if (file != kNoFile) open_files_.insert(filename, file);
 }
 
-void ReplayManager::PauseReplay(int task_id, const QString& filename) { Q_EMIT ReplayNeedPause(task_id, filename); }
+void ReplayManager::PauseReplay(int task_id, const QString& filename) {
+  requests_.Perform([=] { Q_EMIT ReplayNeedPause(task_id, filename); });
+}
 
 void ReplayManager::ResumeReplay(int task_id, const QString& filename) {
-  ReplayEventHandler::GetInstance()->ResumeHeldInput();
-  Q_EMIT ReplayNeedResume(task_id, filename);
+  requests_.Perform([=] {
+    ReplayEventHandler::GetInstance()->ResumeHeldInput();
+    Q_EMIT ReplayNeedResume(task_id, filename);
+  });
 }
 
 void ReplayManager::RestartReplay(int task_id, const QString& filename, ReplayParam /*param*/) {
-  ReplayEventHandler::GetInstance()->Reset();
-  Q_EMIT ReplayNeedRestart(task_id, filename);
+  requests_.Perform([=] {
+    ReplayEventHandler::GetInstance()->Reset();
+    Q_EMIT ReplayNeedRestart(task_id, filename);
+  });
 }
 
 void ReplayManager::StopReplay(int task_id, const QString& filename, bool stop_by_user) {
-  Q_EMIT ReplayNeedStop(task_id, filename, stop_by_user);
+  requests_.Perform([=] { Q_EMIT ReplayNeedStop(task_id, filename, stop_by_user); });
 }
 
-void ReplayManager::StopAllReplay() { Q_EMIT ReplayNeedForceStop(); }
+void ReplayManager::StopAllReplay() {
+  requests_.Perform([this] { Q_EMIT ReplayNeedForceStop(); });
+}
+
+void ReplayManager::UpdateReplayDisplayId(int display) {
+  requests_.Perform([display] { InputStatusManager::GetInstance()->SetReplayDisplayId(display); });
+}
 
 void ReplayManager::OnReplayEventTriggered(QString type, QString data, QString extra1, QString extra2, int task_id,
                                            QString filename, bool emulation_mode) {

@@ -173,6 +173,6 @@ void StopReplay(int task_id, const QString& file, bool stop_by_user) {
 
 void StopAllReplay() { ReplayManager::GetInstance()->StopAllReplay(); }
 
-void UpdateReplayDisplayId(int display) { InputStatusManager::GetInstance()->SetReplayDisplayId(display); }
+void UpdateReplayDisplayId(int display) { ReplayManager::GetInstance()->UpdateReplayDisplayId(display); }
 
 }  // namespace taviinputmanager

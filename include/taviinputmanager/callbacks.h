@@ -51,7 +51,8 @@ struct InputManagerCallbacks {
   void (*OnOperationRecorderStarted)(const QString& name, int total_sleep_ms) = nullptr;
   // The tilt of the guest's gravity sensor. May be null.
   void (*SetGravity)(double x, double y, double z) = nullptr;
-  // Whether commands to this display are mirrored and recorded. May be null, which means no.
+  // Whether commands to this display are mirrored and recorded. Also asked on the thread of a replay that ends. May be
+  // null, which means no.
   bool (*IsPrimaryDisplay)(int display) = nullptr;
   // A macro asks for the mouse to be locked or freed, in a keymap without Staring item. May be null.
   void (*OnMouseLockSwitch)(const QString& key_text) = nullptr;
@@ -73,6 +74,8 @@ struct InputRecorderCallbacks {
 };
 
 // Told by replays. Members are not tested. All but `vcontrol` are called on the thread of the replay they speak of.
+// There a host may start, pause, resume, restart and stop replays and change their display, but call nothing else that
+// belongs to the main thread (taviinputmanager.h, section Replay).
 struct InputReplayerCallbacks {
   // The first action has its time; again after a restart. The two arguments are those of StartReplay, here and below.
   void (*started)(int task_id, const QString& filename) = nullptr;
@@ -82,7 +85,8 @@ struct InputReplayerCallbacks {
   void (*resumed)(int task_id, const QString& filename) = nullptr;
   // Answers StopReplay and StopAllReplay. The replay is gone.
   void (*stopped)(int task_id, const QString& filename) = nullptr;
-  // The record ran out; `param` holds the speed and mode that it was played with.
+  // The record ran out; `param` holds the speed and mode that it was played with. A RestartReplay from here makes a
+  // loop.
   void (*finished)(int task_id, const QString& filename, ReplayParam param) = nullptr;
   // A host command of the record fell due. Called on the host's main thread.
   void (*vcontrol)(const QString& data, const QString& extra1, const QString& extra2, int task_id,

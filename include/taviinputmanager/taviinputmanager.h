@@ -19,8 +19,10 @@
 // - Several gestures block the calling thread on purpose for a few milliseconds (a swipe of a cast, a wheel notch).
 // - GetScriptAppAndPackage does not return for a file whose first action has no `data`.
 // - A macro loop without a pause may never return.
-// - At the natural end of a replay the reset of its contacts runs on the replay's thread: those lines, the status
-//   callback and `finished` arrive there, and may come before the lines of the last action.
+// - At the natural end of a replay the reset of its contacts runs on the replay's thread: those lines, also as they are
+//   mirrored, the status callback, IsPrimaryDisplay and `finished` arrive there, and may come before the lines of the
+//   last action. The main thread may do whatever it likes meanwhile, recording included.
+// - On the thread of a replay only some functions may be called; the section Replay names them.
 // - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
 // - UpdateRecordTimestamp lets the exception of its JSON parser through.
 // - A host does not load a keymap, reset or change the display from inside a callback.
@@ -85,7 +87,7 @@ TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 // Nothing before Initialize.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
-// What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load.
+// What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load. Any thread.
 TAVI_EXPORT InputStatus GetInputStatus();
 
 // Resets all input on the current display; from then on input goes to `display`.
@@ -138,7 +140,7 @@ TAVI_EXPORT void PauseSync(const QString& target);
 
 // The table is the host's; null is allowed.
 TAVI_EXPORT void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks);
-// Whether a recording runs, rests or neither.
+// Whether a recording runs, rests or neither. Any thread.
 TAVI_EXPORT RecordStatus GetRecordStatus();
 // Starts a recording; both names are put in front of it, for GetScriptAppAndPackage.
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
@@ -178,6 +180,12 @@ TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& par
 //
 // A replay is known by its task id and file. Requests reach it through its thread, so they take effect later, in their
 // order; those that name no replay do nothing. Fingers of a replay are those of macros, slots 18 to 25.
+//
+// On the thread of a replay, which is where its callbacks but `vcontrol` come, and what its natural end tells, a host
+// may call StartReplay, PauseReplay, ResumeReplay, RestartReplay, StopReplay, StopAllReplay and UpdateReplayDisplayId,
+// and the functions that say "any thread"; no other. These seven are then done on the main thread as soon as its event
+// loop comes to them: behind the actions that fell due before, and in the order of the calls. Called on the main thread
+// they act at once.
 
 // The table is the host's; null is allowed. A replay keeps the table of its start, but for `vcontrol`.
 TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
@@ -189,7 +197,8 @@ TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& fi
 TAVI_EXPORT void PauseReplay(int task_id, const QString& file);
 // Presses again what replays held down, and goes on.
 TAVI_EXPORT void ResumeReplay(int task_id, const QString& file);
-// Plays from the start again, at the speed that the replay was started with; `param` is ignored.
+// Plays from the start again, at the speed that the replay was started with; `param` is ignored. From `finished` it
+// makes a loop.
 TAVI_EXPORT void RestartReplay(int task_id, const QString& file, ReplayParam param);
 // Ends a replay, also one that has finished, which otherwise stays for a restart. `stop_by_user`: what replays hold
 // down is released.

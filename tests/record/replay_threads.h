@@ -34,18 +34,33 @@ struct Told {
 // Written on any thread.
 class Ear {
  public:
+  using Reaction = std::function<void(const Told&)>;
+
   void Hear(const QString& what, int task_id = 0, const QString& more = {}) {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    told_.append({what, task_id, more, QThread::currentThreadId(), QDateTime::currentMSecsSinceEpoch()});
+    const Told told{what, task_id, more, QThread::currentThreadId(), QDateTime::currentMSecsSinceEpoch()};
+    const Reaction reaction = Note(told);
+    if (reaction) reaction(told);
   }
   QVector<Told> Take() {
     const std::lock_guard<std::mutex> lock(mutex_);
     return std::exchange(told_, {});
   }
+  // What the host does from inside a send function or a callback, on the thread that it is called on.
+  void React(Reaction reaction) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    reaction_ = std::move(reaction);
+  }
 
  private:
+  Reaction Note(const Told& told) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    told_.append(told);
+    return reaction_;
+  }
+
   std::mutex mutex_;
   QVector<Told> told_;
+  Reaction reaction_;
 };
 
 inline Ear& TheEar() {
@@ -77,6 +92,9 @@ class Program {
     UpdateReplayDisplayId(2);
     TheEar().Take();
   }
+  ~Program() { TheEar().React({}); }
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
 
   static tavi::SimulatedHost& Host() { return *tavi::SimulatedHost::GetInstance(); }
 
