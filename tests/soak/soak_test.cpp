@@ -14,6 +14,7 @@
 #include "taviinputmanager/taviinputmanager.h"
 #include "test_folders.h"
 #include "tests/support/allocation_count.h"
+#include "tests/support/from_environment.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
 #include "tests/support/story.h"
@@ -23,10 +24,6 @@ namespace {
 
 using Kind = tavi::ScriptCommand::Kind;
 using tavi::ScriptCommand;
-
-int FromEnvironment(const char* name, int otherwise) {
-  return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
-}
 
 // TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run.
 class Soak : public Story {

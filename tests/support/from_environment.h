@@ -1,0 +1,15 @@
+// Numbers by which a long test is made longer.
+#ifndef TESTS_SUPPORT_FROM_ENVIRONMENT_H_
+#define TESTS_SUPPORT_FROM_ENVIRONMENT_H_
+
+#include <QtGlobal>
+
+namespace taviinputmanager {
+
+inline int FromEnvironment(const char* name, int otherwise) {
+  return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+}
+
+}  // namespace taviinputmanager
+
+#endif  // TESTS_SUPPORT_FROM_ENVIRONMENT_H_
