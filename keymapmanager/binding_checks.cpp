@@ -1,5 +1,7 @@
 #include "keymapmanager/binding_checks.h"
 
+#include <algorithm>
+
 #include "keymapmanager/key_names.h"
 
 namespace tavikeymapmanager {
@@ -62,6 +64,7 @@ bool IsKeyField(const Field& field) {
 
 void BindingChecks::Run() {
   Collect();
+  CheckMixedDevices();
   for (const Binding& binding : bindings_) CheckTwice(binding);
   for (const Binding& binding : bindings_) {
     CheckDevice(binding);
@@ -78,6 +81,25 @@ void BindingChecks::Collect() {
       if (IsKeySet(binding.key)) bindings_ += binding;
     }
   }
+}
+
+// A file is loaded as the keymap of keyboard and mouse, or as that of the gamepad; keys of the other answer to nothing.
+// The device with more keys is the one that is meant; of as many, the first.
+void BindingChecks::CheckMixedDevices() {
+  const auto is_pad = [](const Binding& binding) { return binding.key.device == kw::kDeviceJoystick; };
+  const auto pads = std::count_if(bindings_.begin(), bindings_.end(), is_pad);
+  const auto others = bindings_.size() - pads;
+  if (pads == 0 || others == 0) return;
+  const bool is_pads_keymap = pads > others || (pads == others && is_pad(bindings_.first()));
+  const auto stray = std::find_if(bindings_.begin(), bindings_.end(),
+                                  [&](const Binding& binding) { return is_pad(binding) != is_pads_keymap; });
+  const QString message = is_pads_keymap ? QStringLiteral(
+                                               "'%1' does nothing in a gamepad's keymap; keyboard and mouse have a "
+                                               "keymap of their own")
+                                         : QStringLiteral(
+                                               "'%1' does nothing in a keymap of keyboard and mouse; a gamepad has a "
+                                               "keymap of its own");
+  diagnostics_->Warning(stray->span, message.arg(NameOf(*stray)));
 }
 
 void BindingChecks::CheckTwice(const Binding& binding) {

@@ -26,6 +26,7 @@ class BindingChecks {
 
  private:
   void Collect();
+  void CheckMixedDevices();
   void CheckTwice(const Binding& binding);
   void CheckChord(const Binding& binding);
   void CheckDevice(const Binding& binding);

@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include "keymapmanager/foreign_key_names.h"
 #include "keymapmanager/key_index.h"
 #include "keymapmanager/key_table.h"
 #include "keymapmanager/nearest_word.h"
@@ -41,6 +42,21 @@ std::optional<ConfigKey> PadKeyFromName(const QString& name) {
   return JoystickKey(parts.join(QLatin1Char('+')));
 }
 
+// A key that is told from its neighbours by a part of its name is meant only where each part comes near: not `Wheel Up`
+// by `Scroll Up`, nor `F24` by `F25`.
+bool MayBeMeant(const QString& word, const QString& name) {
+  static const QRegularExpression no_digits(QStringLiteral("[^0-9]"));
+  if (QString(word).remove(no_digits) != QString(name).remove(no_digits)) return false;
+  const QStringList words = word.simplified().split(QLatin1Char(' '));
+  const QStringList names = name.split(QLatin1Char(' '));
+  if (words.size() != names.size())
+    return !NearestWord(QString(word).remove(QLatin1Char(' ')), {names.join(QString())}).isEmpty();
+  for (int i = 0; i < words.size(); ++i) {
+    if (NearestWord(words[i], {names[i]}).isEmpty()) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 std::optional<ConfigKey> KeyFromName(const QString& name) {
@@ -67,7 +83,15 @@ QStringList OtherNamesOfKey(const ConfigKey& key) {
   return {};
 }
 
-QString NearestKeyName(const QString& word) { return NearestWord(word, AllKeyNames()); }
+QString NearestKeyName(const QString& word) {
+  const QString elsewhere = KeyNameFromElsewhere(word);
+  if (!elsewhere.isEmpty()) return elsewhere;
+  QStringList candidates;
+  for (const QString& name : AllKeyNames()) {
+    if (MayBeMeant(word, name)) candidates += name;
+  }
+  return NearestWord(word, candidates);
+}
 
 ConfigKey JoystickKey(const QString& text) {
   ConfigKey key;

@@ -84,7 +84,7 @@ bool KeyReader::ReadAny(const YamlNode& node, ConfigKey* key) {
 
 bool KeyReader::ReadName(const YamlNode& node, const QString& name, ConfigKey* key) {
   const auto found = KeyFromName(name);
-  if (!found) return Fail(node, QStringLiteral("unknown key '%1'%2").arg(name.simplified(), HintFor(name)));
+  if (!found) return Fail(node, QStringLiteral("unknown key '%1'%2").arg(Shown(name), HintFor(name)));
   *key = *found;
   if (name.startsWith(kPadPrefix)) WarnOfUnusualPad(node, *key);
   return true;

@@ -3,14 +3,21 @@
 #include "keymap/macro_config_item.h"
 #include "keymap/spell_cancel_config_item.h"
 #include "keymap/spell_config_item.h"
+#include "keymap/wheel_config_item.h"
+#include "keymap/zoom_config_item.h"
 #include "keymapmanager/binding_checks.h"
 #include "keymapmanager/macro_checks.h"
+#include "keymapmanager/pause_checks.h"
 
 namespace tavikeymapmanager {
 
 namespace {
 
 namespace kw = keywords;
+
+// The ticks of slides and pinches by key.
+constexpr int kWheelTickMs = 8;
+constexpr int kZoomTickMs = 12;
 
 bool IsVirtualJoystick(const QString& type) {
   return type == kw::kTypeVirtualLeftStick || type == kw::kTypeVirtualRightStick ||
@@ -33,6 +40,11 @@ void KeymapChecks::CheckItem(const SourcedItem& sourced) {
   if (item->type == kw::kTypeFire) CheckFire(sourced);
   if (item->type == kw::kTypeSpellCancel) CheckSpellCancel(sourced);
   if (const auto* spell = dynamic_cast<const SpellConfigItem*>(item)) CheckSpell(sourced, *spell);
+  if (const auto* wheel = dynamic_cast<const WheelConfigItem*>(item)) {
+    CheckRun(sourced, wheel->duration_ms, kWheelTickMs);
+  }
+  if (const auto* zoom = dynamic_cast<const ZoomConfigItem*>(item)) CheckRun(sourced, zoom->duration_ms, kZoomTickMs);
+  PauseChecks(diagnostics_).Check(sourced);
   if (dynamic_cast<const MacroConfigItem*>(item) != nullptr) {
     MacroChecks(diagnostics_).Check(*sourced.node, QStringLiteral("press_commands"));
     MacroChecks(diagnostics_).Check(*sourced.node, QStringLiteral("release_commands"));
@@ -78,6 +90,18 @@ void KeymapChecks::CheckSpellAim(const SourcedItem& sourced, const SpellConfigIt
   if (!is_aimed || (spell.circle_size * spell.circle_percent > 0 && spell.swipe_radius > 0)) return;
   diagnostics_->Warning(sourced.node->span,
                         QStringLiteral("the mouse cannot aim without 'circle_size' and 'swipe_radius' above 0"));
+}
+
+// A run of one tick touches and does not move, and the next follows at once.
+void KeymapChecks::CheckRun(const SourcedItem& sourced, int duration_ms, int tick_ms) {
+  if (duration_ms >= tick_ms) return;
+  diagnostics_->Warning(
+      sourced.SpanOf(QStringLiteral("duration_ms")),
+      QStringLiteral("this %1 taps without a pause and moves nothing: 'duration_ms' is %2, and has to "
+                     "be %3 or more")
+          .arg(sourced.item->type)
+          .arg(duration_ms)
+          .arg(tick_ms));
 }
 
 void KeymapChecks::CheckVirtualJoystick() {

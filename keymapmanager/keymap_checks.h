@@ -24,6 +24,7 @@ class KeymapChecks {
   void CheckSpell(const SourcedItem& sourced, const SpellConfigItem& spell);
   void CheckSpellAim(const SourcedItem& sourced, const SpellConfigItem& spell);
   void CheckSpellCancel(const SourcedItem& sourced);
+  void CheckRun(const SourcedItem& sourced, int duration_ms, int tick_ms);
   void CheckVirtualJoystick();
 
   bool HasItem(const QString& type) const;

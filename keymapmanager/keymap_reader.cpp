@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include "keymap/spell_config_item.h"
+#include "keymapmanager/field_hints.h"
 #include "keymapmanager/keymap_checks.h"
 #include "keymapmanager/nearest_word.h"
 #include "keymapmanager/record_tables.h"
@@ -124,7 +125,7 @@ void KeymapReader::ReadFields(const YamlNode& root, LoadResult* result) {
       ReadItems(value);
     } else {
       diagnostics_->Error(name.span, QStringLiteral("unknown field '%1' of a keymap%2")
-                                         .arg(name.text.simplified(), DidYouMean(name.text, TopFields())));
+                                         .arg(Shown(name.text), HintForField(name.text, TopFields())));
     }
   }
   CompleteInnerWalks(items_);
@@ -135,7 +136,7 @@ void KeymapReader::ReportDuplicates(const YamlNode& node) {
   QSet<QString> names;
   for (const YamlNode& key : node.keys) {
     if (names.contains(key.text)) {
-      diagnostics_->Error(key.span, QStringLiteral("'%1' is written a second time").arg(key.text.simplified()));
+      diagnostics_->Error(key.span, QStringLiteral("'%1' is written a second time").arg(Shown(key.text)));
     }
     names += key.text;
   }

@@ -1,10 +1,15 @@
 #include "keymapmanager/macro_checks.h"
 
+#include <algorithm>
+#include <optional>
+
+#include <QPointF>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include "keymapmanager/nearest_word.h"
 #include "keymapmanager/record_reader.h"
+#include "keymapmanager/yaml_scalar.h"
 
 namespace tavikeymapmanager {
 
@@ -37,19 +42,44 @@ bool IsInteger(const QString& text) {
   return is_number;
 }
 
+// The negative time of a pause; the timer behind it would never fire.
+bool IsEndlessPause(MacroVerb verb, const QString& argument) {
+  return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && argument.toInt() < 0;
+}
+
+bool HasBlank(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
 bool IsNumber(const QString& text) {
   bool is_number = false;
   text.toDouble(&is_number);
   return is_number;
 }
 
-// "mouse", or "(x,y)" with two numbers that are not both 0.
-bool IsPoint(const QString& text) {
-  if (text == QLatin1String("mouse")) return true;
+// The numbers of "(x,y)" that are not both 0; nothing for any other text.
+std::optional<QPointF> PointOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("\\A\\(([^,()]+),([^,()]+)\\)\\z"));
   const QRegularExpressionMatch match = form.match(text);
-  if (!match.hasMatch() || !IsNumber(match.captured(1)) || !IsNumber(match.captured(2))) return false;
-  return match.captured(1).toDouble() != 0 || match.captured(2).toDouble() != 0;
+  if (!match.hasMatch() || !IsNumber(match.captured(1)) || !IsNumber(match.captured(2))) return {};
+  const double x = match.captured(1).toDouble();
+  const double y = match.captured(2).toDouble();
+  if (x == 0 && y == 0) return {};
+  return QPointF(x, y);
+}
+
+bool IsOnDisplay(const QPointF& point) { return point.x() >= 0 && point.x() <= 1 && point.y() >= 0 && point.y() <= 1; }
+
+// What is wrong with the point of a command; empty for a good one.
+QString FaultOfPoint(const QString& text) {
+  if (text == QLatin1String("mouse")) return {};
+  const std::optional<QPointF> point = PointOf(text);
+  if (!point) {
+    const QString hint = HasBlank(text) ? QStringLiteral(", without blanks around it") : QString();
+    return QStringLiteral("'%1' is no point; a point is (x,y), not (0,0), or mouse%2").arg(Shown(text), hint);
+  }
+  if (IsOnDisplay(*point)) return {};
+  return QStringLiteral("'%1' is outside the display: x and y are fractions from 0 to 1, not pixels").arg(Shown(text));
 }
 
 }  // namespace
@@ -73,8 +103,7 @@ void MacroChecks::CheckCommand(const YamlNode& node) {
   const MacroWord* row = FindWord(word, parts.size() > 1);
   if (row == nullptr) {
     ++loop_.commands;
-    diagnostics_->Warning(
-        node.span, QStringLiteral("unknown command '%1'%2").arg(word.simplified(), DidYouMean(word, AllWords())));
+    ReportUnknown(node, word);
     return;
   }
   CheckLoop(node, word, *row);
@@ -89,21 +118,30 @@ void MacroChecks::CheckCommand(const YamlNode& node) {
   diagnostics_->Warning(node.span, QStringLiteral("'%1' %2").arg(word, form));
 }
 
+void MacroChecks::ReportUnknown(const YamlNode& node, const QString& word) {
+  const QString hint = HasBlank(word) ? QStringLiteral("; a word has no blanks in or around it") : QString();
+  const QString meant = DidYouMean(word.simplified().replace(QLatin1Char(' '), QLatin1Char('_')), AllWords());
+  diagnostics_->Warning(node.span, QStringLiteral("unknown command '%1'%2%3").arg(Shown(word), hint, meant));
+}
+
 void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, const QString& argument) {
   const QString word = QString::fromLatin1(row.word);
   switch (row.argument) {
     case MacroArgument::kInteger:
+      if (IsEndlessPause(row.verb, argument)) {
+        diagnostics_->Warning(node.span, QStringLiteral("'%1': a negative time stops the macro for ever").arg(word));
+      }
       if (IsInteger(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no whole number").arg(word, argument));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no whole number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kIntegerOrWord:
       if (IsInteger(argument) || argument == QLatin1String(row.argument_word)) return;
       diagnostics_->Warning(node.span, QStringLiteral("'%1': expected a whole number or '%2', got '%3'")
-                                           .arg(word, QLatin1String(row.argument_word), argument));
+                                           .arg(word, QLatin1String(row.argument_word), Shown(argument)));
       return;
     case MacroArgument::kNumber:
       if (IsNumber(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no number").arg(word, argument));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kPoint: CheckPoints(node, argument, false); return;
     case MacroArgument::kPoints: CheckPoints(node, argument, true); return;
@@ -116,9 +154,8 @@ void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, cons
 void MacroChecks::CheckPoints(const YamlNode& node, const QString& points, bool allows_many) {
   const QStringList parts = allows_many ? points.split(QLatin1Char(';')) : QStringList(points);
   for (const QString& part : parts) {
-    if (IsPoint(part)) continue;
-    diagnostics_->Warning(
-        node.span, QStringLiteral("'%1' is no point; a point is (x,y), not (0,0), or mouse").arg(part.simplified()));
+    const QString fault = FaultOfPoint(part);
+    if (!fault.isEmpty()) diagnostics_->Warning(node.span, fault);
   }
 }
 

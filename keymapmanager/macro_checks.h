@@ -27,6 +27,7 @@ class MacroChecks {
   };
 
   void CheckCommand(const YamlNode& node);
+  void ReportUnknown(const YamlNode& node, const QString& word);
   void CheckArgument(const YamlNode& node, const MacroWord& row, const QString& argument);
   void CheckPoints(const YamlNode& node, const QString& points, bool allows_many);
   void CheckLoop(const YamlNode& node, const QString& word, const MacroWord& row);

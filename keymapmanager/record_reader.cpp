@@ -4,6 +4,7 @@
 
 #include <QLocale>
 
+#include "keymapmanager/field_hints.h"
 #include "keymapmanager/key_reader.h"
 #include "keymapmanager/nearest_word.h"
 #include "keymapmanager/pad_names.h"
@@ -94,7 +95,7 @@ void RecordReader::Read(const RecordTable& table, const YamlNode& node, const QS
     } else if (!also_known.contains(name)) {
       diagnostics_->Error(
           node.keys[i].span,
-          QStringLiteral("unknown field '%1' of %2%3").arg(name.simplified(), table.name, DidYouMean(name, known)));
+          QStringLiteral("unknown field '%1' of %2%3").arg(Shown(name), table.name, HintForField(name, known)));
     }
   }
   ReportMissing(table, node);
@@ -134,8 +135,10 @@ void RecordReader::ReadField(const Field& field, const YamlNode& node, const Rec
     case FieldKind::kWalk: is_good = ReadWalk(node, std::get<SwipeholdConfigItem*>(target)); break;
   }
   if (is_good || diagnostics_->ErrorCount() != errors_before) return;  // told already, at a place within
-  diagnostics_->Error(node.span,
-                      QStringLiteral("'%1': %2, got %3").arg(field.name, ExpectationOf(field), Describe(node)));
+  const QString got = field.kind == FieldKind::kPair ? DescribePair(node) : Describe(node);
+  diagnostics_->Error(
+      node.span,
+      QStringLiteral("'%1': %2, got %3%4").arg(field.name, ExpectationOf(field), got, HintForNumber(field, node)));
 }
 
 bool RecordReader::ReadFlag(const YamlNode& node, bool* value) {
@@ -182,9 +185,9 @@ bool RecordReader::ReadPair(const Field& field, const YamlNode& node, const Fiel
   for (const YamlNode& child : node.children) {
     const auto number = NumberOf(child);
     if (number && IsInRange(*number, field.range)) continue;
-    diagnostics_->Error(
-        child.span,
-        QStringLiteral("'%1': expected a number %2, got %3").arg(field.name, RangeText(field.range), Describe(child)));
+    diagnostics_->Error(child.span,
+                        QStringLiteral("'%1': expected a number %2, got %3%4")
+                            .arg(field.name, RangeText(field.range), Describe(child), HintForNumber(field, child)));
   }
   return false;
 }
@@ -216,7 +219,7 @@ bool RecordReader::ReadPoints(const Field& field, const YamlNode& node, QString*
       continue;
     }
     diagnostics_->Error(child.span, QStringLiteral("'%1': expected a point [x, y], both %2, got %3")
-                                        .arg(field.name, RangeText(field.range), Describe(child)));
+                                        .arg(field.name, RangeText(field.range), DescribePair(child)));
   }
   *value = points.join(QLatin1Char(';'));
   return true;
@@ -244,8 +247,9 @@ bool RecordReader::ReadPadButton(const YamlNode& node, QString* value) {
   if (!name || name->isEmpty()) return false;
   *value = PadTextFromName(*name);
   if (!IsUsualPadText(*value)) {
-    diagnostics_->Warning(node.span, QStringLiteral("the virtual gamepad has no button '%1'%2")
-                                         .arg(name->simplified(), DidYouMean(*name, PadNames())));
+    diagnostics_->Warning(
+        node.span,
+        QStringLiteral("the virtual gamepad has no button '%1'%2").arg(Shown(*name), DidYouMean(*name, PadNames())));
   }
   return true;
 }

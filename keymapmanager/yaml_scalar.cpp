@@ -96,12 +96,16 @@ bool IsNull(const YamlNode& node) {
   return node.kind == YamlNode::Kind::kScalar && ScalarTypeOf(node) == ScalarType::kNull;
 }
 
+QString Shown(const QString& text) {
+  constexpr int kMostShown = 40;
+  const QString line = text.simplified();
+  return line.size() > kMostShown ? line.left(kMostShown) + QStringLiteral("...") : line;
+}
+
 QString Describe(const YamlNode& node) {
   if (node.kind == YamlNode::Kind::kSequence) return QStringLiteral("a list");
   if (node.kind == YamlNode::Kind::kMapping) return QStringLiteral("fields");
-  constexpr int kShown = 40;              // of a long text
-  QString text = node.text.simplified();  // a message has one line
-  if (text.size() > kShown) text = text.left(kShown) + QStringLiteral("...");
+  const QString text = Shown(node.text);
   switch (ScalarTypeOf(node)) {
     case ScalarType::kNull: return QStringLiteral("nothing");
     case ScalarType::kBool: return text;

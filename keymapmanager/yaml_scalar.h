@@ -23,6 +23,9 @@ std::optional<QString> TextOf(const YamlNode& node);
 // A mapping without entries, or nothing at all where one may stand.
 bool IsNull(const YamlNode& node);
 
+// A name or text of the file as messages show it: on one line, its end left out where it is long.
+QString Shown(const QString& text);
+
 // "the number 12", "the text 'abc'", "a list": what stands there, for messages.
 QString Describe(const YamlNode& node);
 

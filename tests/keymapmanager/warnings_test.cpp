@@ -37,7 +37,8 @@ TEST(Warnings, KeysBoundTwice) {
       {"a chord", "- {key: Q + E, type: Click, point: [0.1, 0.1]}\n- {key: Q + E, type: Click, point: [0.2, 0.1]}\n",
        "4:9 warning: 'Q + E' is bound a second time; it does what line 3 says"},
       {"the letter on keyboard and gamepad",
-       "- {key: A, type: Click, point: [0.1, 0.1]}\n- {key: Pad A, type: Click, point: [0.2, 0.1]}\n", ""},
+       "- {key: A, type: Click, point: [0.1, 0.1]}\n- {key: Pad A, type: Click, point: [0.2, 0.1]}\n",
+       "4:9 warning: 'Pad A' does nothing in a keymap of keyboard and mouse; a gamepad has a keymap of its own"},
       {"a chord and its last key",
        "- {key: Q + E, type: Click, point: [0.1, 0.1]}\n- {key: E, type: Click, point: [0.2, 0.1]}\n", ""},
       {"a chord and its reverse",
@@ -69,14 +70,86 @@ TEST(Warnings, DevicesThatStartNoSuchItem) {
       {"a click by the right button", "- {key: Mouse Right, type: Click, point: [0.1, 0.1]}\n", ""},
       {"a right walk by a key", "- {key: F, type: RightWalk, point: [0.1, 0.1], walk_radius: 0.1}\n",
        "3:9 warning: only a mouse button starts a RightWalk"},
-      {"a wheel on the wheel", "- {key: Wheel Up, type: Wheel, point: [0.1, 0.1]}\n",
+      {"a wheel on the wheel", "- {key: Wheel Up, type: Wheel, point: [0.1, 0.1], duration_ms: 80}\n",
        "3:9 warning: the wheel starts no Wheel"},
-      {"a zoom on the wheel", "- {key: Wheel Up, type: Zoom, point: [0.1, 0.1]}\n", ""},
+      {"a zoom on the wheel", "- {key: Wheel Up, type: Zoom, point: [0.1, 0.1], duration_ms: 80}\n", ""},
       {"staring on a gamepad", "- {key: Pad A, type: Staring, point: [0.1, 0.1]}\n",
        "3:9 warning: a gamepad starts no Staring"},
       {"a macro on a gamepad", "- {key: Pad A, type: Macro, press_commands: []}\n", ""},
       {"a walk on a gamepad", "- {key_up: Pad Up, type: Swipehold, point: [0.1, 0.1]}\n",
        "3:12 warning: a gamepad starts no Swipehold"},
+  });
+}
+
+TEST(Warnings, DevicesThatShareNoKeymap) {
+  const std::string pad_among_keys =
+      "warning: 'Pad A' does nothing in a keymap of keyboard and mouse; a gamepad has a keymap of its own";
+  const std::string key_among_pads =
+      "warning: 'W' does nothing in a gamepad's keymap; keyboard and mouse have a keymap of their own";
+  EXPECT_EQ("4:9 " + pad_among_keys, Said(ReadItems("- {key: W, type: Click, point: [0.1, 0.1]}\n"
+                                                    "- {key: Pad A, type: Click, point: [0.1, 0.1]}\n"
+                                                    "- {key: Mouse Right, type: Click, point: [0.1, 0.1]}\n")));
+  EXPECT_EQ("3:9 " + key_among_pads, Said(ReadItems("- {key: W, type: Click, point: [0.1, 0.1]}\n"
+                                                    "- {key: Pad A, type: Click, point: [0.1, 0.1]}\n"
+                                                    "- {key: Pad B, type: Click, point: [0.1, 0.1]}\n")));
+  // As many of both: the first says whose keymap it is.
+  EXPECT_EQ("4:9 " + key_among_pads, Said(ReadItems("- {key: Pad A, type: Click, point: [0.1, 0.1]}\n"
+                                                    "- {key: W, type: Click, point: [0.1, 0.1]}\n")));
+}
+
+// A slide ticks each 8 ms, a pinch each 12; a run shorter than a tick has one touch and no move.
+TEST(Warnings, RunsThatTapWithoutAPause) {
+  CheckRows({
+      {"a slide without a length", "- {type: Wheel, key: A, point: [0.1, 0.1], direction: 1, speed: 10}\n",
+       "3:3 warning: this Wheel taps without a pause and moves nothing: 'duration_ms' is 0, and has to be 8 or more"},
+      {"a slide shorter than a tick",
+       "- {duration_ms: 7, type: Wheel, key: A, point: [0.1, 0.1], direction: 1, speed: 10}\n",
+       "3:17 warning: this Wheel taps without a pause and moves nothing: 'duration_ms' is 7, and has to be 8 or more"},
+      {"a slide of a tick", "- {duration_ms: 8, type: Wheel, key: A, point: [0.1, 0.1], direction: 1, speed: 10}\n",
+       ""},
+      {"a pinch shorter than a tick",
+       "- {duration_ms: 11, type: Zoom, key: A, point: [0.1, 0.1], direction: 1, speed: 10}\n",
+       "3:17 warning: this Zoom taps without a pause and moves nothing: 'duration_ms' is 11, and has to be 12 or more"},
+      {"a pinch of a tick", "- {duration_ms: 12, type: Zoom, key: A, point: [0.1, 0.1], direction: 1, speed: 10}\n",
+       ""},
+  });
+}
+
+TEST(Warnings, ItemsThatStopAllInput) {
+  CheckRows({
+      // 1000 + (101 - 1) * 10 = 2000 ms
+      {"a cast of two seconds",
+       "- {type: Spell, mode: Spell_mode_curve, key: Q, point: [0.1, 0.1], press_hold_ms: 1000, swipe_steps: 101, "
+       "swipe_step_ms: 10}\n",
+       ""},
+      {"and a millisecond",
+       "- {type: Spell, mode: Spell_mode_curve, key: Q, point: [0.1, 0.1], press_hold_ms: 1001, swipe_steps: 101, "
+       "swipe_step_ms: 10}\n",
+       "3:3 warning: this Spell stops all input for 2001 ms: its steps and delays add up"},
+      // the slow start, (51 - 1) * 50 = 2500 ms, is in place of the rest
+      {"a cast with a slow start",
+       "- {type: Spell, mode: Spell_mode_curve, key: Q, point: [0.1, 0.1], press_hold_ms: 9000, curve_enabled: true, "
+       "curve_steps: 51, curve_step_ms: 50}\n",
+       "3:3 warning: this Spell stops all input for 2500 ms: its steps and delays add up"},
+      // 3 * 700 = 2100 ms
+      {"a walk by the mouse",
+       "- {type: RightWalk, key: Mouse Right, point: [0.1, 0.1], walk_radius: 0.1, swipe_steps: 4, swipe_step_ms: "
+       "700}\n",
+       "3:3 warning: this RightWalk stops all input for 2100 ms: its steps and delays add up"},
+      {"a walk by the stick that begins slowly",
+       "- {type: LeftStickWalk, key: Pad Left_Stick, point: [0.1, 0.1], walk_radius: 0.1, smooth_start: true, "
+       "press_hold_ms: 3000}\n",
+       "3:3 warning: this LeftStickWalk stops all input for 3000 ms: its steps and delays add up"},
+      {"the same, with the slow start off",
+       "- {type: LeftStickWalk, key: Pad Left_Stick, point: [0.1, 0.1], walk_radius: 0.1, press_hold_ms: 3000}\n", ""},
+      {"a walk by the stick that ends slowly",
+       "- {type: LeftStickWalk, key: Pad Left_Stick, point: [0.1, 0.1], walk_radius: 0.1, delayed_stop: true, "
+       "stop_settle_ms: 4000}\n",
+       "3:3 warning: this LeftStickWalk stops all input for 4000 ms: its steps and delays add up"},
+      {"a walk with a long gap", "- {type: Swipehold, key_up: W, point: [0.1, 0.1], press_gap_ms: 2500}\n",
+       "3:3 warning: this Swipehold stops all input for 2500 ms: its steps and delays add up"},
+      {"a gap that a rest on the centre takes away",
+       "- {type: Swipehold, key_up: W, point: [0.1, 0.1], press_gap_ms: 2500, hold_center_ms: 10}\n", ""},
   });
 }
 
