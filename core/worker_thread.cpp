@@ -37,7 +37,18 @@ WorkerThread::~WorkerThread() {
   LiveRuns()->removeOne(this);
 }
 
-void WorkerThread::Start() { QMetaObject::invokeMethod(this, &WorkerThread::Begin, Qt::QueuedConnection); }
+void WorkerThread::Start() {
+  if (begun_ || state_.load() >= WorkerRunState::kClosed) return;  // quit came first
+  if (is_virtual_) {
+    begun_ = true;
+    Q_EMIT started(QPrivateSignal());  // the last thing: the worker may lead to the end of this run
+    return;
+  }
+  start(QThread::InheritPriority);
+  begun_ = isRunning() || isFinished();
+  // The system has no thread to give. The caller still holds the worker, which goes when it has returned.
+  if (!begun_) QMetaObject::invokeMethod(this, &WorkerThread::quit, Qt::QueuedConnection);
+}
 
 QTimer* WorkerThread::MakeWorkerTimer(QObject* owner) {
   auto* timer = new QTimer(owner);
@@ -67,18 +78,6 @@ void WorkerThread::run() {
   for (QTimer* timer : timers) timer->stop();  // which no other thread may do
   worker_->moveToThread(thread());
   MoveOn(&state_, WorkerRunState::kLeft);
-}
-
-void WorkerThread::Begin() {
-  if (begun_ || state_.load() >= WorkerRunState::kClosed) return;  // quit came first
-  if (is_virtual_) {
-    begun_ = true;
-    Q_EMIT started(QPrivateSignal());
-    return;
-  }
-  start(QThread::InheritPriority);
-  begun_ = isRunning() || isFinished();
-  if (!begun_) quit();  // the system has no thread to give
 }
 
 void WorkerThread::RetireWorker() {

@@ -30,11 +30,14 @@ namespace taviinputmanager {
 // makes its timer by MakeWorkerTimer.
 //
 // In real time and in virtual time alike:
-// - Nothing of the worker runs before the caller of Start has returned to the event loop. `started` reaches the worker
-//   before any request made after Start; a slot of it runs where the worker lives.
+// - The run begins inside Start: the worker works, and its timers tick, also while the main thread blocks. In virtual
+//   time a slot that `started` is connected to runs in that very call.
+// - What the worker signals waits until the main thread is back in its event loop. `started` reaches the worker before
+//   any request; a slot of it runs where the worker lives.
 // - After `quit` was handled no event and no tick reaches the worker. It is deleted on the main thread: in virtual time
 //   at once, else when the slot that it may be in has returned, ahead of `finished`.
-// - `finished` comes once, also for a run that was quit before it began; such a worker never runs.
+// - `finished` comes once, also for a run that was quit before it began, or that the system has no thread for; such a
+//   worker never runs.
 // - The run deletes itself after `finished`. What was posted to it before (a functor with the run as its context, and
 //   one more posted from there) still runs.
 // - When the application goes, all live runs are quit, and waited for within a limit. Nothing of them is delivered any
@@ -49,7 +52,7 @@ class WorkerThread : public QThread {
   explicit WorkerThread(QObject* worker);
   ~WorkerThread() override;
 
-  // Once.
+  // Once, and after all connections: the worker may be at work before this returns.
   void Start();
 
   // From the first such signal on the worker gets no tick. Requests that were on their way still reach it, unless quit
@@ -75,7 +78,6 @@ class WorkerThread : public QThread {
   void run() override;
 
  private:
-  void Begin();
   void RetireWorker();
   void EndWithoutThread();
   void DeleteWorker();

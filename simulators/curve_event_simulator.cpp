@@ -72,18 +72,21 @@ void CurveEventSimulator::StartRun(const CurveConfigItem& item, bool lifts_at_en
     if (force_stop || lifts_at_end) OnCurveFinished();
   };
   connect(worker, &CurveAsyncWorker::CurveFinished, this, on_finished, Qt::QueuedConnection);
+  // Also without an end that it told: the system may have no thread for it.
+  connect(
+      worker, &QObject::destroyed, this, [this, worker] { TakeOffList(worker); }, Qt::DirectConnection);
   run->Start();
   const QMutexLocker lock(&mutex_);
   workers_.append(worker);
 }
 
-// The worker goes with its run, so that it is alive for as long as it is on the list.
+bool CurveEventSimulator::TakeOffList(CurveAsyncWorker* worker) {
+  const QMutexLocker lock(&mutex_);
+  return workers_.removeOne(worker);
+}
+
 void CurveEventSimulator::EndRun(CurveAsyncWorker* worker, WorkerThread* run, bool lifts) {
-  bool was_live = false;
-  {
-    const QMutexLocker lock(&mutex_);
-    was_live = workers_.removeOne(worker);
-  }
+  const bool was_live = TakeOffList(worker);
   run->quit();
   if (lifts || !was_live) OnCurveFinished();
 }

@@ -46,6 +46,8 @@ class CurveEventSimulator : public EventSimulator {
   // `lifts_at_end`: the natural end of the list lifts the finger too.
   void StartRun(const tavikeymapmanager::CurveConfigItem& item, bool lifts_at_end);
   void EndRun(CurveAsyncWorker* worker, WorkerThread* run, bool lifts);
+  // False when it was taken off already.
+  bool TakeOffList(CurveAsyncWorker* worker);
   bool IsLive(CurveAsyncWorker* worker);
   bool HasRuns();
 

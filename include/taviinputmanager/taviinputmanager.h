@@ -191,7 +191,7 @@ TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& par
 TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
 // Plays `filename` on a thread of its own, known by `task_id` and `filename` from then on. The first int and the first
 // string are ignored. A file that cannot be read starts nothing, and `started` is not called. The file is held against
-// writers, as far as the platform goes, until the replay is stopped.
+// writers, as far as the platform goes, until the replay is stopped. Its first callbacks may come before this returns.
 TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& filename, ReplayParam param);
 // Keeps the rest of the running delay, and resets all input of the live display in full.
 TAVI_EXPORT void PauseReplay(int task_id, const QString& file);

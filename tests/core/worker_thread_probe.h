@@ -121,6 +121,12 @@ class Owner : public QObject {
 
   // A run that is over with the worker's own signal.
   WorkerThread* StartRun(int ticks, int interval_ms = 1) {
+    WorkerThread* run = MakeRun(ticks, interval_ms);
+    run->Start();
+    return run;
+  }
+  // The same, to be started.
+  WorkerThread* MakeRun(int ticks, int interval_ms = 1) {
     auto* worker = new TickWorker(journal_, ticks, interval_ms);
     auto* run = new WorkerThread(worker);
     connect(run, &WorkerThread::started, worker, &TickWorker::Process);
@@ -130,8 +136,10 @@ class Owner : public QObject {
     connect(worker, &TickWorker::Ticked, this, &Owner::OnTicked, Qt::QueuedConnection);
     connect(worker, &TickWorker::Finished, run, &WorkerThread::quit, Qt::QueuedConnection);
     run->DeleteWorkerOn(worker, &TickWorker::Finished);
-    connect(run, &QThread::finished, this, [this] { ++finished_runs; });
-    run->Start();
+    connect(run, &QThread::finished, this, [this] {
+      ++finished_runs;
+      Q_EMIT Ended();
+    });
     return run;
   }
 
@@ -167,6 +175,8 @@ class Owner : public QObject {
   void Request(const QString& what);
   void Block();
   void Stop();
+  // A run has finished.
+  void Ended();
 
  public Q_SLOTS:
   void OnTicked(int count) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QPointer>
 #include <QTimer>
 #include <QVariant>
@@ -17,6 +18,8 @@ namespace taviinputmanager {
 namespace {
 
 using namespace probe;
+
+constexpr int kPatienceMs = 60000;  // for a thread to come up on a busy machine
 
 class WorkerRun : public testing::TestWithParam<Mode> {
  protected:
@@ -47,12 +50,24 @@ TEST_P(WorkerRun, TicksAndEndsWithItsSignal) {
   EXPECT_EQ(owner_.finished_runs, 1);
 }
 
-TEST_P(WorkerRun, DoesNothingBeforeTheCallerReturns) {
-  WorkerThread* run = owner_.StartRun(kEndless);
-  Clock::Sleep(5);  // blocks the caller for longer than a thread needs to begin
-  EXPECT_FALSE(run->isRunning());
-  EXPECT_EQ(journal_.Take(), "");
-  EXPECT_TRUE(RunUntilSaid("process"));
+TEST_P(WorkerRun, BeginsAndTicksWhileItsCallerBlocks) {
+  owner_.StartRun(kEndless);
+  for (int i = 0; i < kPatienceMs && journal_.Count(QStringLiteral("tick")) < 3; ++i) Clock::Sleep(1);
+  EXPECT_GE(journal_.Count(QStringLiteral("tick")), 3);
+  EXPECT_EQ(journal_.Take().substr(0, 13), "process, tick");
+  EXPECT_EQ(owner_.ticks, 0);  // what it signalled waits for the event loop
+  EXPECT_TRUE(RunUntil([this] { return owner_.ticks >= 3; }));
+  EXPECT_TRUE(owner_.ticks_came_in_order);
+}
+
+TEST_P(WorkerRun, StartsInsideANestedEventLoop) {
+  QEventLoop loop;
+  QObject::connect(&owner_, &Owner::Ended, &loop, &QEventLoop::quit);
+  QTimer::singleShot(0, &owner_, [this] { owner_.StartRun(3); });
+  loop.exec();
+  EXPECT_EQ(owner_.ticks, 3);
+  EXPECT_EQ(owner_.finished_runs, 1);
+  EXPECT_EQ(journal_.Take(), "process, tick, tick, tick, deleted");
 }
 
 TEST_P(WorkerRun, BeginsBeforeItsFirstRequest) {
@@ -76,9 +91,10 @@ TEST_P(WorkerRun, HasAThreadOfItsOwnInRealTimeOnly) {
 
 TEST_P(WorkerRun, IsStartedOnce) {
   int started = 0;
-  WorkerThread* run = owner_.StartRun(kEndless, 1000);
+  WorkerThread* run = owner_.MakeRun(kEndless, 1000);
   QObject::connect(
       run, &WorkerThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
+  run->Start();
   run->Start();
   Q_EMIT owner_.Request(QStringLiteral("request"));
   ASSERT_TRUE(RunUntilSaid("request"));
@@ -158,16 +174,31 @@ TEST_P(WorkerRun, IsQuitOnceOnly) {
 
 TEST_P(WorkerRun, QuitBeforeItsBeginningNeverRuns) {
   int started = 0;
-  const QPointer<WorkerThread> run = owner_.StartRun(kEndless);
+  const QPointer<WorkerThread> run = owner_.MakeRun(kEndless);
   QObject::connect(
       run, &WorkerThread::started, &owner_, [&started] { ++started; }, Qt::QueuedConnection);
   Q_EMIT owner_.Request(QStringLiteral("request"));
   run->quit();
   run->quit();
+  run->Start();
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(journal_.Take(), "deleted");
   EXPECT_EQ(started, 0);
   EXPECT_EQ(owner_.finished_runs, 1);
+}
+
+// A thread that comes up late begins no more; one that was quick has begun, and nothing comes after the quit.
+TEST_P(WorkerRun, QuitRightAfterItsStartEndsOnce) {
+  for (int i = 0; i < 50; ++i) {
+    const QPointer<WorkerThread> run = owner_.StartRun(kEndless, 1000);
+    run->quit();
+    Q_EMIT owner_.Request(QStringLiteral("request"));
+    ASSERT_TRUE(RunUntilGone(run));
+    const std::string said = journal_.Take();
+    EXPECT_TRUE(said == "process, deleted" || (!is_virtual() && said == "deleted")) << said;
+  }
+  EXPECT_EQ(owner_.finished_runs, 50);
+  EXPECT_EQ(live_workers, 0);
 }
 
 TEST_P(WorkerRun, QuitWithoutAStartEndsToo) {
@@ -316,8 +347,10 @@ TEST_P(RealRun, LosesNothingOfRequestsThatMeetTheEndOfItsWorker) {
 }
 
 TEST_P(RealRun, EndsWhereTheSystemHasNoThreadToGive) {
-  const QPointer<WorkerThread> run = owner_.StartRun(kEndless);
+  const QPointer<WorkerThread> run = owner_.MakeRun(kEndless);
   run->setStackSize(1);  // less than any thread needs: it is refused
+  run->Start();
+  EXPECT_EQ(live_workers, 1);  // its caller has not returned
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(journal_.Take(), "deleted");
   EXPECT_EQ(owner_.finished_runs, 1);
@@ -354,9 +387,13 @@ TEST_P(VirtualRun, TakesItsTimeFromTheVirtualClock) {
   EXPECT_EQ(owner_.finished_runs, 1);
 }
 
+TEST_P(VirtualRun, BeginsInsideItsStart) {
+  owner_.StartRun(kEndless, 10);
+  EXPECT_EQ(journal_.Take(), "process");
+}
+
 TEST_P(VirtualRun, TicksAtItsTimesDuringABlockingSleep) {
   owner_.StartRun(kEndless, 10);
-  program_.time()->Settle();
   Clock::Sleep(35);
   EXPECT_EQ(journal_.Take(), "process, tick, tick, tick");
   EXPECT_EQ(owner_.ticks, 0);

@@ -47,6 +47,64 @@ TEST_F(Wheel, AMappedNotchIsATapOf50MsThatBlocks) {
   EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not told
 }
 
+// 40 taps a second are a change each 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
+// thread sleeps over all of it.
+TEST_F(Wheel, ARapidTapTapsOnDuringItsNotch) {
+  auto* bunch = Add<tavikeymapmanager::BunchClickConfigItem>("BunchClick", "Wheel Up", {0.5, 0.5});
+  bunch->bunch_mode = "Continue";
+  bunch->bunch_frequency = 40;
+  Load();
+  Play("wheel +120 10,10; wait 100");
+  const QString press = "50ms 1:SLOTPRESS:11:11:1:1:640:360";
+  const QString release = "50ms 1:SLOTRELEASE:11";
+  EXPECT_WIRE(press, release, press, release, press, release);
+}
+
+// duration 48: 48 / 12 = 4 steps, so 5 ticks, 12 to 60 ms behind the notch; those of the first 48 ms are due in its
+// sleep. Speed 100 is 0.01 of 1280 pixels a tick.
+TEST_F(Wheel, APinchBeginsWithItsNotch) {
+  auto* zoom = Add<tavikeymapmanager::ZoomConfigItem>("Zoom", "Wheel Up", {0.5, 0.5});
+  zoom->speed = 100;
+  zoom->axis = "horizontal";
+  zoom->duration_ms = 48;
+  zoom->start_distance = 0.25;
+  Load();
+  Play("wheel +120 10,10; wait 100");
+  EXPECT_WIRE("50ms 1:SLOTMULTIPRESS:18:18:960:360:19:19:320:360", "50ms 1:SLOTMULTIPRESS:18:18:973:360:19:19:307:360",
+              "50ms 1:SLOTMULTIPRESS:18:18:986:360:19:19:294:360", "50ms 1:SLOTMULTIPRESS:18:18:998:360:19:19:282:360",
+              "60ms 1:SLOTMULTIPRESS:18:18:1011:360:19:19:269:360", "60ms 1:SLOTMULTIRELEASE:19:18");
+}
+
+// A macro starts the run and turns the wheel in one go, so that the notch's 50 ms pass before anything is delivered.
+// The curve's points are due 8, 16 and 24 ms after its start: (0.25 + 0.125) * 1280 = 480.
+TEST_F(Wheel, ACurveIsFollowedDuringANotch) {
+  auto* curve = Add<tavikeymapmanager::CurveConfigItem>("Curve", "W", {0.25, 0.5});
+  curve->curve_points = "0.125,0;0.25,0;0.5,0";
+  Add<ConfigItem>("Click", "Wheel Up", {0.5, 0.5});
+  Add<tavikeymapmanager::MacroConfigItem>("Macro", "F1")->press_commands << "keyboard_press:17"
+                                                                         << "mouse_wheelup:1";
+  Load();
+  Play("down F1; wait 100");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:640:360", "50ms 1:SLOTRELEASE:11", "50ms 1:SLOTPRESS:5:5:1:1:480:360",
+              "50ms 1:SLOTPRESS:5:5:1:1:640:360", "50ms 1:SLOTPRESS:5:5:1:1:960:360");
+}
+
+// 16 / 8 + 1 ticks, at 8, 16 and 24 ms, of 0.001 of 1280 pixels each. Slot 11 is the slide's.
+TEST_F(Wheel, ASlideGoesOnDuringANotch) {
+  auto* slide = Add<tavikeymapmanager::WheelConfigItem>("Wheel", "W", {0.25, 0.5});
+  slide->speed = 10;
+  slide->axis = "horizontal";
+  slide->duration_ms = 16;
+  Add<ConfigItem>("Click", "Wheel Up", {0.5, 0.5});
+  Add<tavikeymapmanager::MacroConfigItem>("Macro", "F1")->press_commands << "keyboard_press:17"
+                                                                         << "keyboard_release:17"
+                                                                         << "mouse_wheelup:1";
+  Load();
+  Play("down F1; wait 100");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:12:12:1:1:640:360", "50ms 1:SLOTRELEASE:12", "50ms 1:SLOTPRESS:11:11:1:1:320:360",
+              "50ms 1:SLOTPRESS:11:11:1:1:321:360", "50ms 1:SLOTPRESS:11:11:1:1:323:360", "50ms 1:SLOTRELEASE:11");
+}
+
 TEST_F(Wheel, NoTurnAtAllCountsAsDown) {
   Add<ConfigItem>("Click", "Wheel Down", {0.25, 0.5});
   Load();
