@@ -180,12 +180,13 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
 
 bool QtKeyboardMouseEventSimulateHandler::IsEscapeOccupied() const {
   if (!config_) return false;
+  ConfigKey escape = escape_key_;
+  ConfigKey armed = current_key_;
+  // Asked of the keymap library and not of the index at hand: a host may have a function of its own in front.
+  if (tavikeymapmanager::isConfigKeyMatch(config_, &escape, &armed)) return true;
+  if (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &armed, &escape)) return true;
   const auto& settings = SettingsOf(config_);
-  if (settings.keyboard_transparent && settings.escape_to_guest) return true;
-  // As isConfigKeyMatch tells, of the index at hand: this is asked at each key that passes through.
-  const ItemIndex& index = Index();
-  return index.IsMatch(escape_key_, current_key_) ||
-         (IsKeySet(current_key_) && index.IsMatch(current_key_, escape_key_));
+  return settings.keyboard_transparent && settings.escape_to_guest;
 }
 
 void QtKeyboardMouseEventSimulateHandler::UpdateEscapeState() {

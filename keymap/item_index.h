@@ -2,6 +2,7 @@
 #ifndef KEYMAP_ITEM_INDEX_H_
 #define KEYMAP_ITEM_INDEX_H_
 
+#include <algorithm>
 #include <vector>
 
 #include <QHash>
@@ -42,10 +43,10 @@ class ItemIndex {
     return ItemOf(entry);
   }
 
-  // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`.
+  // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`. Unlike the
+  // searches it goes by the keys as they are now.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (!strangers_.empty()) return IsMatchAmongStrangers(configured, pressed);
-    return FirstAloneEntry(configured) || FirstChordEntry(configured, pressed);
+    return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }
 
  private:
@@ -84,16 +85,25 @@ class ItemIndex {
     }
     return ItemOf(entry);
   }
-  Q_NEVER_INLINE bool IsMatchAmongStrangers(const ConfigKey& configured, const ConfigKey& pressed) const {
-    const Entry* alone = FirstAloneEntry(configured);
-    const Entry* chord = FirstChordEntry(configured, pressed);
-    const Entry* entry = !chord || (alone && alone->position < chord->position) ? alone : chord;
-    for (const Stranger& stranger : strangers_) {
-      if (entry && stranger.position > entry->position) break;
-      if (!stranger.IsChord() && stranger.item->IsKeyMatch(configured)) return true;
-      if (stranger.composable && stranger.composable->IsChordMatch(configured, pressed)) return true;
+  Q_NEVER_INLINE bool IsMatchInList(const ConfigKey& configured, const ConfigKey& pressed) const {
+    return std::any_of(items_.cbegin(), items_.cend(), [&](const ConfigItem* item) {
+      if (!item || dynamic_cast<const TipConfigItem*>(item)) return false;
+      const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
+      const bool is_chord = composable && IsKeySet(composable->first_key);
+      if (!is_chord && item->IsKeyMatch(configured)) return true;
+      return composable && composable->IsChordMatch(configured, pressed);
+    });
+  }
+
+  // False where no entry's key can be either of the two. Without a way out, so that it takes a nanosecond an entry.
+  bool MayMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
+    if (IsJoystickKey(configured) || IsJoystickKey(pressed)) return true;  // goes by its name
+    bool may = false;
+    for (const Entry& entry : entries_) {
+      const int code = entry.key->scancode;
+      may |= (code == configured.scancode) | (code == pressed.scancode);
     }
-    return entry != nullptr;
+    return may;
   }
 
   static unsigned HashOf(const ConfigKey& key) {

@@ -23,7 +23,8 @@ TAVI_KEYMAP_EXPORT ConfigKey CreateConfigKey(QString device, int virtual_key, in
 // Fills `text` from the key's codes; a joystick key, which has none, keeps it. Nothing for null.
 TAVI_KEYMAP_EXPORT void SetTextForConfigKey(ConfigKey* key);
 
-// Whether an item of `config` answers to `configured` alone, or to the chord (`configured`, `pressed`). False for null.
+// Whether an item of `config` answers to `configured` alone, or to the chord (`configured`, `pressed`), by its keys as
+// they are now. False for null. Main thread.
 TAVI_KEYMAP_EXPORT bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed);
 // The macro language's code of an event: the native scan code of a key, the Qt::MouseButton of a button, else -1.
 TAVI_KEYMAP_EXPORT int getMacroConfigKeyCode(QEvent* event);

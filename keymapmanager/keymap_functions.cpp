@@ -40,7 +40,7 @@ void SetTextForConfigKey(ConfigKey* key) {
 
 bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed) {
   if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
-  ItemIndex index;  // a new one each time: a caller may have changed a key of the same config
+  static ItemIndex index;  // of the list asked for last: the same one is asked for at every key that passes through
   index.Follow(config->items);
   return index.IsMatch(*configured, *pressed);
 }
