@@ -4,6 +4,7 @@
 
 #include "keymap/macro_config_item.h"
 #include "keymap/operation_recorder_config_item.h"
+#include "simulators/workers/macro_calls.h"
 #include "simulators/workers/macro_key_text.h"
 #include "simulators/workers/macro_sequential_tap_async_worker.h"
 
@@ -30,12 +31,14 @@ MacroSequentialTapAsyncWorker* MacroEventSimulator::GetWorker(const MacroConfigI
 }
 
 void MacroEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
+  MacroCalls::GetInstance()->RunWaiting();
   auto* macro = dynamic_cast<MacroConfigItem*>(item);
   MacroSequentialTapAsyncWorker* worker = GetWorker(macro);
   if (worker && !worker->IsRunning()) worker->Press(macro, key);
 }
 
 void MacroEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
+  MacroCalls::GetInstance()->RunWaiting();
   auto* macro = dynamic_cast<MacroConfigItem*>(item);
   if (MacroSequentialTapAsyncWorker* worker = GetWorker(macro)) worker->Release(macro, key);
 }

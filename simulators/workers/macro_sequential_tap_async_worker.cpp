@@ -8,6 +8,7 @@
 #include "keymap/keywords.h"
 #include "keymap/macro_config_item.h"
 #include "keymap/operation_recorder_config_item.h"
+#include "simulators/workers/macro_calls.h"
 #include "simulators/workers/macro_command.h"
 #include "simulators/workers/macro_key_text.h"
 #include "taviinputmanager/callbacks.h"
@@ -21,21 +22,16 @@ using tavikeymapmanager::OperationRecorderConfigItem;
 
 namespace {
 
-constexpr int kMaxInnerReleases = 7;  // a release list that releases its own key would come back without end
-
-// While it lives, the worker is not deleted under its feet. The outermost call counts releases anew.
+// While it lives, the worker is not deleted under its feet.
 class CallScope {
  public:
-  CallScope(int* depth, int* inner_releases) : depth_(depth), inner_releases_(inner_releases) { ++*depth_; }
-  ~CallScope() {
-    if (--*depth_ == 0) *inner_releases_ = 0;
-  }
+  explicit CallScope(int* depth) : depth_(depth) { ++*depth_; }
+  ~CallScope() { --*depth_; }
   CallScope(const CallScope&) = delete;
   CallScope& operator=(const CallScope&) = delete;
 
  private:
   int* depth_;
-  int* inner_releases_;
 };
 
 void TellOperationStarted(const MacroConfigItem& item, const MacroProgram& program) {
@@ -71,7 +67,7 @@ const MacroSequentialTapAsyncWorker::Program& MacroSequentialTapAsyncWorker::Rea
 // ---- From outside ----
 
 void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*key*/) {
-  const CallScope scope(&depth_, &inner_releases_);
+  const CallScope scope(&depth_);
   key_name_ = item->key.text;
   state_ = State::kPress;
   const Program program = Read(&press_program_, item->press_commands);
@@ -85,8 +81,8 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
 void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
   if (loop_.IsUntilRelease()) return loop_.EndSoon();
   // A list that is over cannot come back to itself: whoever releases it then has an end of its own.
-  if (depth_ > 0 && program_ && inner_releases_++ >= kMaxInnerReleases) return;
-  const CallScope scope(&depth_, &inner_releases_);
+  if (program_ && !MacroCalls::GetInstance()->MayRestart(this)) return;
+  const CallScope scope(&depth_);
   key_name_ = item->key.text;
   state_ = State::kRelease;
   if (!item->release_commands.isEmpty()) {
@@ -99,7 +95,7 @@ void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*
 }
 
 void MacroSequentialTapAsyncWorker::OnTimer() {
-  const CallScope scope(&depth_, &inner_releases_);
+  const CallScope scope(&depth_);
   if (curve_.HasNextPoint()) {
     SendEvent(curve_.BuildNextPress());
     if (curve_.HasNextPoint()) {
@@ -114,7 +110,7 @@ void MacroSequentialTapAsyncWorker::OnTimer() {
   if (curve_.IsPlayedOut()) SendEvent(curve_.BuildRelease());
   if (!click_points_.IsEmpty()) SendEvent(fingers_.Release(std::exchange(click_points_, MacroPoints())));
   Timer()->stop();
-  Step();
+  MacroCalls::GetInstance()->Run(this);
 }
 
 void MacroSequentialTapAsyncWorker::Discard() {
@@ -145,21 +141,24 @@ void MacroSequentialTapAsyncWorker::RunList(const Program& program) {
   program_ = program;
   command_index_ = 0;
   default_sleep_ = kDefaultSleepMs;
-  Step();
+  MacroCalls::GetInstance()->Run(this);
 }
 
-void MacroSequentialTapAsyncWorker::Step() {
+bool MacroSequentialTapAsyncWorker::Step() {
+  const CallScope scope(&depth_);
+  const MacroCalls* calls = MacroCalls::GetInstance();
   Program running;  // kept while one of its commands is under way: that may replace the list
-  while (!is_discarded_) {
+  while (!is_discarded_ && !calls->HasWaiting()) {
     if (!program_ || command_index_ >= program_->Size()) {
       StopList();
       state_ = State::kFinished;
-      return;
+      return false;
     }
     if (running != program_) running = program_;
     const MacroProgram::Line& line = running->At(command_index_++);
-    if (line.command && !Obey(*line.command, line.text)) return;
+    if (line.command && !Obey(*line.command, line.text)) return false;
   }
+  return !is_discarded_;
 }
 
 bool MacroSequentialTapAsyncWorker::Obey(const MacroCommand& command, const QString& text) {

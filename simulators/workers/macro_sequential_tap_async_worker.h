@@ -28,8 +28,8 @@ namespace taviinputmanager {
 //
 // A command may inject input which comes back here before it returns: the release of this macro's own key, or a reset
 // that discards this worker. All calls share one place in the list, so an inner run that pauses is carried on by the
-// outer one at once. Beyond a few releases of a list in progress inside one call a further one is dropped. Lists are
-// copied (they share their text), and read once for all the times that they run; no item is kept beyond a call.
+// outer one at once. MacroCalls keeps the calls, and gives up a list that releases itself without end. Lists are copied
+// (they share their text), and read once for all the times that they run; no item is kept beyond a call.
 //
 // Main thread. The simulator owns it.
 class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
@@ -41,6 +41,10 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   void Press(tavikeymapmanager::MacroConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::MacroConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void OnTimer() override;
+
+  // For MacroCalls: runs commands until one pauses, the list ends, or one leaves other lists to be run first. Only then
+  // true: it goes on behind them.
+  bool Step();
 
   bool IsRunning() const { return state_ == State::kPress || state_ == State::kRelease; }
   // A list that this worker was pressed with has a loop until release.
@@ -60,8 +64,6 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   // `commands`, read into `program` unless that is where they were read before.
   static const Program& Read(Program* program, const QStringList& commands);
   void RunList(const Program& program);
-  // Runs commands until one pauses or the list ends.
-  void Step();
   // False when execution pauses.
   bool Obey(const MacroCommand& command, const QString& text);
   bool Click(const MacroPoints& list);
@@ -88,8 +90,7 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   MacroPoints click_points_;  // of the click under way
   bool has_until_release_ = false;
   bool is_discarded_ = false;
-  int depth_ = 0;           // of calls that are under way inside each other
-  int inner_releases_ = 0;  // since the outermost of them began
+  int depth_ = 0;  // of calls that are under way inside each other
 };
 
 }  // namespace taviinputmanager

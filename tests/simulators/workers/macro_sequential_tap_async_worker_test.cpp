@@ -158,6 +158,63 @@ TEST_F(MacroWorker, AMacroThatReleasesItselfGoesOnWithItsReleaseList) {
   EXPECT_WIRE("0ms text TEXT:b", "0ms text TEXT:c");
 }
 
+// Each of the keys releases F1, whose list begins again from the top and drops the presses of those that run already.
+// So it begins once, and once more for each key.
+TEST_F(MacroWorker, AFiniteProgramRunsWholeHoweverOftenItReleasesItself) {
+  constexpr int kKeys = 300;
+  QStringList list = {"text_inject:a"};
+  for (int i = 0; i < kKeys; ++i) {
+    const int code = 1000 + i;
+    Macro({"keyboard_release:59", "sleep:1000"})->key.scancode = code;
+    list << "keyboard_press:" + QString::number(code);
+  }
+  Macro({}, list << "text_inject:b");
+  Load();
+  Play("up F1");
+  const QStringList lines = TakeWire();
+  EXPECT_EQ(kKeys + 1, lines.count("0ms text TEXT:a"));
+  EXPECT_EQ(1, lines.count("0ms text TEXT:b"));
+  EXPECT_EQ("0ms text TEXT:b", lines.last().toStdString());
+}
+
+// Each macro taps the next one between two texts, far deeper than calls nest on the stack: the second texts come in the
+// opposite order.
+TEST_F(MacroWorker, CommandsComeInTheSameOrderHoweverDeep) {
+  constexpr int kKeys = 100;
+  QStringList expected;
+  for (int i = 0; i < kKeys; ++i) {
+    const QString number = QString::number(i);
+    const QString next = QString::number(1001 + i);
+    QStringList press = {"text_inject:in" + number};
+    if (i + 1 < kKeys) press << "keyboard_press:" + next << "keyboard_release:" + next;
+    Macro(press << "text_inject:out" + number, {"text_inject:up" + number})->key.scancode = 1000 + i;
+    expected << "0ms text TEXT:in" + number;
+  }
+  for (int i = kKeys - 1; i >= 0; --i) {
+    if (i + 1 < kKeys) expected << "0ms text TEXT:up" + QString::number(i + 1);
+    expected << "0ms text TEXT:out" + QString::number(i);
+  }
+  Macro({"keyboard_press:1000"});
+  Load();
+  Play("down F1");
+  EXPECT_EQ(expected.join('\n').toStdString(), TakeWire().join('\n').toStdString());
+}
+
+// Two that release each other without end, and one that does so by its own wheel notch, each of which takes 50 ms.
+TEST_F(MacroWorker, ReleaseListsThatReleaseEachOtherComeToAnEnd) {
+  Macro({}, {"keyboard_release:59", "text_inject:b"}, "F2");
+  Run({}, {"keyboard_release:60", "text_inject:a"});
+  Play("up F1");
+  EXPECT_EQ(1, TakeWire().filter("TEXT:a").size());
+}
+
+TEST_F(MacroWorker, AListThatTurnsItsOwnWheelComesToAnEnd) {
+  Macro({}, {"mouse_wheelup:1", "text_inject:a"}, "Wheel Up");
+  Load();
+  Play("wheel +120 10,10; wait 100");
+  EXPECT_EQ(1, TakeWire().filter("TEXT:a").size());
+}
+
 TEST_F(MacroWorker, AReleaseListThatReleasesItsOwnKeyComesToAnEnd) {
   Run({}, {"keyboard_release:59", "text_inject:a"});
   Play("up F1");
@@ -166,7 +223,7 @@ TEST_F(MacroWorker, AReleaseListThatReleasesItsOwnKeyComesToAnEnd) {
   EXPECT_WIRE("0ms text TEXT:a");
 }
 
-// Each inner run pauses at once, and the outer call is back at the release; after a few of them that is dropped.
+// Each inner run pauses at once, and the outer call is back at the release; after very many that is dropped.
 TEST_F(MacroWorker, AReleaseListThatPausesAndReleasesItsOwnKeyComesToAnEnd) {
   Run({}, {"sleep:5", "keyboard_release:59", "text_inject:a"});
   Play("up F1; wait 100");
