@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "core/numbers.h"
+#include "core/pixels.h"
 
 namespace taviinputmanager {
 namespace {
@@ -17,12 +19,16 @@ double Length(const QPoint& v) {
   return std::sqrt(x * x + y * y);
 }
 
-// Stops at the ends of an int.
-QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
+// The last pixel of an extent from `first` to `last`, nearer where the extent, or that less 1, would not fit an int.
+int Measurable(int first, int last) {
+  constexpr qint64 kLongest = std::numeric_limits<int>::max();
+  const qint64 extent = qint64{last} - first + 1;
+  return static_cast<int>(first + qBound(-kLongest, extent, kLongest) - 1);
+}
 
-// The same.
-QPoint Difference(const QPoint& a, const QPoint& b) {
-  return {Truncate(static_cast<double>(a.x()) - b.x()), Truncate(static_cast<double>(a.y()) - b.y())};
+// With the same top left corner. Qt computes extents in ints; those of the host's rectangles may be more than that.
+QRect Measurable(const QRect& rect) {
+  return {rect.topLeft(), QPoint(Measurable(rect.left(), rect.right()), Measurable(rect.top(), rect.bottom()))};
 }
 
 QPoint Scaled(const QPoint& v, double numerator, double denominator) {
@@ -41,7 +47,9 @@ WindowGeometry DisplayGeometry::GetWindowGeometry() const {
   return callbacks_->GetWindowGeometry();
 }
 
-QRect DisplayGeometry::GetDisplayRect() const { return callbacks_ ? callbacks_->GetDisplayRect() : kDefaultDisplay; }
+QRect DisplayGeometry::GetDisplayRect() const {
+  return callbacks_ ? Measurable(callbacks_->GetDisplayRect()) : kDefaultDisplay;
+}
 
 QSize DisplayGeometry::GetOrientedDisplaySize() const {
   const WindowGeometry window = GetWindowGeometry();
@@ -84,7 +92,7 @@ void DisplayGeometry::RelativeToTouch(int& x, int& y, double rel_x, double rel_y
     x = y = kNoPosition;
     return;
   }
-  const QRect touch = callbacks_->GetTouchRect();
+  const QRect touch = Measurable(callbacks_->GetTouchRect());
   double a = rel_x;
   double b = rel_y;
   switch (callbacks_->GetDisplayRotation()) {
@@ -105,7 +113,7 @@ void DisplayGeometry::RelativeToTouch(int& x, int& y, double rel_x, double rel_y
 void DisplayGeometry::WindowPositionToAndroid(int& x, int& y) const {
   if (!callbacks_) return;
   const WindowGeometry window = GetWindowGeometry();
-  const QRect touch = callbacks_->GetTouchRect();
+  const QRect touch = Measurable(callbacks_->GetTouchRect());
   const int rotation = callbacks_->GetDisplayRotation();
   const int across = rotation == 90 || rotation == 270 ? touch.height() : touch.width();
   if (window.width == 0 || across == 0) return;  // no factor to scale by

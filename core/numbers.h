@@ -50,6 +50,7 @@ inline int LowDistance(std::int64_t from, std::int64_t to) {
 
 // Positions stop at the ends of an int.
 inline int AddSaturated(int a, int b) { return Truncate(static_cast<double>(a) + b); }
+inline int SubtractSaturated(int a, int b) { return Truncate(static_cast<double>(a) - b); }
 inline int NegateSaturated(int a) { return Truncate(-static_cast<double>(a)); }
 
 }  // namespace taviinputmanager

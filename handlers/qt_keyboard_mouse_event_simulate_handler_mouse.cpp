@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "core/input_status_manager.h"
+#include "core/pixels.h"
 #include "core/virtual_mouse_event.h"
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "keymap/config_item.h"
@@ -107,7 +108,7 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
 void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
   MouseSlotManager* finger = FingerOf(event);
   if (!finger) return;  // the pool is empty: the press is given up
-  finger->position = event->pos();
+  finger->position = RoundedPoint(event->localPos());
   SendEvent(finger->UpdateLine());
 }
 

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "core/clock.h"
+#include "core/pixels.h"
 #include "handlers/mouse_transparent_manager.h"
 
 namespace taviinputmanager {
@@ -37,6 +38,9 @@ void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
   SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(event->button()));
 }
 
-void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) { UpdatePosition(event->x(), event->y()); }
+void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) {
+  const QPoint position = RoundedPoint(event->localPos());
+  UpdatePosition(position.x(), position.y());
+}
 
 }  // namespace taviinputmanager

@@ -9,6 +9,7 @@
 #include "core/input_status_manager.h"
 #include "core/keymap_access.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "core/wheel_event.h"
 #include "handlers/simulator_table.h"
 #include "handlers/single_key_item.h"
@@ -59,7 +60,7 @@ void QtWheelEventSimulateHandler::TurnWithoutKeymap(QWheelEvent* event) {
 
 // The guest's own apps take the last two fields as they are: the pointer's position, and no amount.
 void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
-  const QPoint position = event->position().toPoint();
+  const QPoint position = RoundedPoint(event->position());
   int x = position.x();
   int y = position.y();
   const int direction = WheelDelta(event) > 0 ? 1 : -1;

@@ -8,6 +8,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_command.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "core/wheel_event.h"
 #include "handlers/mouse_transparent_manager.h"
 
@@ -23,7 +24,7 @@ std::optional<QPoint> WheelPoint(const QWheelEvent* event, bool transparent_poin
   if (transparent_pointer && pointer->HasPosition()) return pointer->GetPosition();
   const double scale = DisplayGeometry::GetInstance()->GetWindowScale();
   if (!DisplayGeometry::IsScale(scale)) return std::nullopt;
-  const QPoint window = event->position().toPoint();
+  const QPoint window = RoundedPoint(event->position());
   return QPoint(Round(window.x() / scale), Round(window.y() / scale));
 }
 

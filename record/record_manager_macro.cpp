@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "core/display_geometry.h"
+#include "core/pixels.h"
 #include "core/wheel_event.h"
 #include "keymap/keymap_functions.h"
 #include "record/point_text.h"
@@ -25,6 +26,8 @@ QString Instruction(const char* word, int argument) {
   return QLatin1String(word) + QLatin1Char(':') + QString::number(argument);
 }
 
+QPoint PositionOf(const QEvent* mouse) { return RoundedPoint(static_cast<const QMouseEvent*>(mouse)->localPos()); }
+
 }  // namespace
 
 void RecordManager::OnQtInputEvent(QEvent* event) {
@@ -34,17 +37,17 @@ void RecordManager::OnQtInputEvent(QEvent* event) {
 void RecordManager::CaptureEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseMove:
-      if (mouse_move_counter_++ % kKeptMove == 0) AddMacroMove(static_cast<QMouseEvent*>(event)->pos());
+      if (mouse_move_counter_++ % kKeptMove == 0) AddMacroMove(PositionOf(event));
       return;
     case QEvent::MouseButtonPress:
-      AddMacroMove(static_cast<QMouseEvent*>(event)->pos());
+      AddMacroMove(PositionOf(event));
       return AddMacroAction(Instruction("vmouse_press", getMacroConfigKeyCode(event)));
     case QEvent::MouseButtonRelease:
-      AddMacroMove(static_cast<QMouseEvent*>(event)->pos());
+      AddMacroMove(PositionOf(event));
       return AddMacroAction(Instruction("vmouse_release", getMacroConfigKeyCode(event)));
     case QEvent::Wheel: {
       const auto* wheel = static_cast<QWheelEvent*>(event);
-      AddMacroMove(wheel->position().toPoint());
+      AddMacroMove(RoundedPoint(wheel->position()));
       const int delta = WheelDelta(wheel);
       return AddMacroAction(Instruction(delta > 0 ? "vmouse_wheelup" : "vmouse_wheeldown", delta));
     }

@@ -23,8 +23,9 @@ void EyeSlotManager::Reset() {
 }
 
 void EyeSlotManager::Step(int step) {
-  position.rx() = AddSaturated(position.x(), step * DirectionFlags::Sign(directions_.x));
-  position.ry() = AddSaturated(position.y(), step * DirectionFlags::Sign(directions_.y));
+  const double way = step;
+  position.rx() = Truncate(position.x() + way * DirectionFlags::Sign(directions_.x));
+  position.ry() = Truncate(position.y() + way * DirectionFlags::Sign(directions_.y));
 }
 
 }  // namespace taviinputmanager

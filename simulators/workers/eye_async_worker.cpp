@@ -64,8 +64,8 @@ void EyeAsyncWorker::TimerOutTime() {
 
 bool EyeAsyncWorker::IsInWindow() const {
   const QPoint& position = finger_->position;
-  return IsBetween(position.x(), kPadding, display_.width() - kPadding) &&
-         IsBetween(position.y(), kPadding, display_.height() - kPadding);
+  return IsBetween(position.x(), kPadding, SubtractSaturated(display_.width(), kPadding)) &&
+         IsBetween(position.y(), kPadding, SubtractSaturated(display_.height(), kPadding));
 }
 
 void EyeAsyncWorker::Stop() {

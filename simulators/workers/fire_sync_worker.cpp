@@ -4,6 +4,7 @@
 #include "core/display_geometry.h"
 #include "core/input_logger.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/spell_cancel_config_item.h"
 #include "simulators/workers/staring_wm_relative_input_worker.h"
 #include "slots/fire_slot_manager.h"
@@ -21,8 +22,6 @@ QPoint PixelOf(double rel_x, double rel_y) {
   const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
   return {Truncate(display.width() * rel_x), Truncate(display.height() * rel_y)};
 }
-
-QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
 
 }  // namespace
 
@@ -97,7 +96,7 @@ void FireSyncWorker::SwipeFireFinger(const FireConfigItem* item, QPoint from, QP
   if (steps < 1) return;
   const double step_x = (static_cast<double>(to.x()) - from.x()) / steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
-  for (int i = 1; i <= steps; ++i) {
+  for (qint64 i = 1; i <= steps; ++i) {
     FireSlotManager::GetInstance()->position = {Round(from.x() + i * step_x), Round(from.y() + i * step_y)};
     SendFinger();
   }

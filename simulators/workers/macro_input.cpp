@@ -9,6 +9,7 @@
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/keywords.h"
 #include "simulators/workers/macro_command.h"
 #include "simulators/workers/macro_points.h"
@@ -39,7 +40,7 @@ void Note(CodeSet* held, int code, bool press) {
 // Window pixels.
 QPoint Pointer() {
   const WindowGeometry window = DisplayGeometry::GetInstance()->GetWindowGeometry();
-  return Clock::Pointer() - QPoint(window.x, window.y);
+  return Difference(Clock::Pointer(), QPoint(window.x, window.y));
 }
 
 void SetKey(int code, bool press) {

@@ -8,6 +8,7 @@
 
 #include "core/display_geometry.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/keymap_config.h"
 #include "slots/mouse_wheel_slot_manager.h"
 
@@ -45,7 +46,7 @@ void QtWheelEventAsyncWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) 
   ticks_ = delta > 0 ? kMoves : -kMoves;
   if (IsRunning()) return;  // the swipe goes on from where it is
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
-  finger->position = event->position().toPoint();
+  finger->position = RoundedPoint(event->position());
   SendEvent(finger->UpdateLine());
   timer_->start(kTickMs);
 }
@@ -61,7 +62,7 @@ void QtWheelEventAsyncWorker::TimerOutTime() {
     return;
   }
   const int direction = ticks_ > 0 ? 1 : -1;
-  finger->position.setY(AddSaturated(finger->position.y(), direction * step_));
+  finger->position.setY(Truncate(finger->position.y() + direction * static_cast<double>(step_)));
   SendEvent(finger->UpdateLine());
   ticks_ -= direction;
 }

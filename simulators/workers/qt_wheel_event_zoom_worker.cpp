@@ -10,6 +10,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_command.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/keymap_config.h"
 
 namespace taviinputmanager {
@@ -28,7 +29,6 @@ constexpr int kInwardNotches = 3;  // how far out a pinch inwards starts
 double Product(int a, int b) { return static_cast<double>(a) * b; }
 
 QPoint Mirrored(const QPoint& a) { return {NegateSaturated(a.x()), NegateSaturated(a.y())}; }
-QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
 
 guest_command::Contact ContactAt(int slot, const QPoint& window) {
   guest_command::Contact contact{slot, window.x(), window.y()};
@@ -83,7 +83,7 @@ void QtWheelEventZoomWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) {
     return;
   }
   ticks_ = notch;
-  const QPoint center = event->position().toPoint();
+  const QPoint center = RoundedPoint(event->position());
   SetBounds(center);
   StartPinch(center);
 }

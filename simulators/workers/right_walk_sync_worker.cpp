@@ -8,6 +8,7 @@
 #include "core/clock.h"
 #include "core/display_geometry.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "slots/mouse_swipehold_slot_manager.h"
 
 namespace taviinputmanager {
@@ -21,8 +22,8 @@ constexpr double kWalkMsPerRadius = 1000;  // of a short click, before the item'
 
 // From the character to the pointer, in fractions of the display.
 QPointF WayOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
-  return {event->x() / static_cast<double>(display.width()) - item.character_rel_x,
-          event->y() / static_cast<double>(display.height()) - item.character_rel_y};
+  const QPointF pointer = RoundedPoint(event->localPos());
+  return {pointer.x() / display.width() - item.character_rel_x, pointer.y() / display.height() - item.character_rel_y};
 }
 
 QPoint RoundedCentre(const MouseRightWalkConfigItem& item, const QSize& display) {

@@ -5,6 +5,7 @@
 
 #include "core/display_geometry.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/spell_config_item.h"
 
 namespace taviinputmanager::spell_aim {
@@ -30,15 +31,12 @@ bool IsAimedByWalk(const SpellConfigItem& item) {
          item.touch_location == keywords::kLocationInnerSwipehold;
 }
 
-QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
-
 QPoint StepBetween(const QPoint& from, const QPoint& to, int i, int steps) {
   return {StepBetween(from.x(), to.x(), i, steps), StepBetween(from.y(), to.y(), i, steps)};
 }
 
 QPoint CurvePoint(const SpellConfigItem& item, const QPoint& from, const QPoint& to, int i, const QSize& display) {
-  const QPoint way(Truncate(static_cast<double>(to.x()) - from.x()), Truncate(static_cast<double>(to.y()) - from.y()));
-  const QPoint step = DisplayGeometry::ScaleToLength(way, display.height() * item.curve_step_length);
+  const QPoint step = DisplayGeometry::ScaleToLength(Difference(to, from), display.height() * item.curve_step_length);
   const double times = i;
   return {Truncate(from.x() + times * step.x()), Truncate(from.y() + times * step.y())};
 }

@@ -17,8 +17,6 @@ namespace taviinputmanager::spell_aim {
 // Whether a walk, the ordinary one or the spell's own, aims in place of the pointer.
 bool IsAimedByWalk(const tavikeymapmanager::SpellConfigItem& item);
 
-// a + b.
-QPoint Sum(const QPoint& a, const QPoint& b);
 // The end of step `i` of `steps` on the straight way between two points.
 QPoint StepBetween(const QPoint& from, const QPoint& to, int i, int steps);
 // The end of step `i` of the prelude to a swipe, whose steps have a length of their own.

@@ -172,7 +172,7 @@ void SpellSyncWorker::SwipeToCancel(const SpellConfigItem* item, const QPoint& f
   // By a step of one length, as a fire finger's swipe: half pixels may fall to the other side than in a cast's.
   const double step_x = (static_cast<double>(to.x()) - from.x()) / item->swipe_steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / item->swipe_steps;
-  for (int i = 1; i <= item->swipe_steps; ++i) {
+  for (qint64 i = 1; i <= item->swipe_steps; ++i) {
     MoveFinger({Round(from.x() + i * step_x), Round(from.y() + i * step_y)});
     Clock::Sleep(item->swipe_step_ms);
   }

@@ -6,6 +6,7 @@
 #include "core/display_geometry.h"
 #include "core/input_status_manager.h"
 #include "core/numbers.h"
+#include "core/pixels.h"
 #include "keymap/spell_config_item.h"
 #include "simulators/workers/ground_projection.h"
 #include "simulators/workers/spell_aim.h"
@@ -51,7 +52,7 @@ QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem* item) {
     return button;
   }
 
-  const QPoint pointer = Clock::Pointer() - display.topLeft();
+  const QPoint pointer = Difference(Clock::Pointer(), display.topLeft());
   if (item->mode == keywords::kModeCurve) return pointer;
   const QPoint on_ground = ProjectOnGround(*item, pointer, button, display.size());
   if (!on_ground.isNull()) return on_ground;
@@ -74,8 +75,8 @@ void SpellSyncWorker::OnRelativeInput(int dx, int dy) {
     spell_offset_.OnMovement(accumulated_, sensitivity, h * spell_item_->offset_threshold,
                              h * spell_item_->offset_length);
   }
-  const QPoint way = spell_aim::Sum(spell_offset_.Get(), accumulated_.ToPixels(sensitivity));
-  MoveFinger(spell_aim::LimitToSquare(*spell_item_, spell_aim::Sum(button, way), button, display));
+  const QPoint way = Sum(spell_offset_.Get(), accumulated_.ToPixels(sensitivity));
+  MoveFinger(spell_aim::LimitToSquare(*spell_item_, Sum(button, way), button, display));
 }
 
 void SpellSyncWorker::OnJoystickAxis(JoystickAxisEvent* event) {
@@ -97,7 +98,7 @@ void SpellSyncWorker::SlideTowards(const QPoint& target, double step) {
   const double cos = std::cos(angle);
   const double sin = -std::sin(angle);  // angles turn upwards, pixels count downwards
   for (double d = step; d < length; d += step) {
-    MoveFinger(spell_aim::Sum(from, {Truncate(cos * d), Truncate(sin * d)}));
+    MoveFinger(Sum(from, {Truncate(cos * d), Truncate(sin * d)}));
     Clock::Sleep(kStickStepMs);
   }
 }

@@ -43,7 +43,7 @@ void StaringRange::Prepare(const QPointF& centre, const QSizeF& size) {
   const int hy = HalfExtent(h, size.height());
   user_range_ = {AddSaturated(centre_.x(), -hx), AddSaturated(centre_.y(), -hy), AddSaturated(centre_.x(), hx),
                  AddSaturated(centre_.y(), hy)};
-  window_range_ = {kWindowRim, kWindowRim, w - kWindowRim, h - kWindowRim};
+  window_range_ = {kWindowRim, kWindowRim, SubtractSaturated(w, kWindowRim), SubtractSaturated(h, kWindowRim)};
   padded_range_ = {Truncate(w * kPaddingNear), Truncate(h * kPaddingNear), Truncate(w * kPaddingFar),
                    Truncate(h * kPaddingFar)};
   user_range_in_window_ = {std::max(user_range_.left, window_range_.left), std::max(user_range_.top, window_range_.top),

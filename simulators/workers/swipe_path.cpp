@@ -13,10 +13,6 @@ namespace {
 
 constexpr double kHeadPart = 5.0;  // of the base speed: a slide in big steps starts with a fifth of it
 
-// In doubles, since a radius may put points at the ends of what an int holds.
-int Difference(int to, int from) { return Truncate(static_cast<double>(to) - from); }
-int Sum(int a, int b) { return Truncate(static_cast<double>(a) + b); }
-
 }  // namespace
 
 void AxisSteps::Clear() { *this = AxisSteps(); }
@@ -53,8 +49,8 @@ void SwipePath::Rebuild() {
   x_steps.Clear();
   y_steps.Clear();
   if (target == start) return;
-  x_steps.Plan(Difference(target.x(), current.x()), remaining, mode);
-  y_steps.Plan(Difference(target.y(), current.y()), remaining, mode);
+  x_steps.Plan(SubtractSaturated(target.x(), current.x()), remaining, mode);
+  y_steps.Plan(SubtractSaturated(target.y(), current.y()), remaining, mode);
 }
 
 void SwipePath::Clear() {
@@ -64,8 +60,8 @@ void SwipePath::Clear() {
 }
 
 void SwipePath::TakeStep() {
-  current.ry() = Sum(current.y(), y_steps.TakeFirst());
-  current.rx() = Sum(current.x(), x_steps.TakeFirst());
+  current.ry() = AddSaturated(current.y(), y_steps.TakeFirst());
+  current.rx() = AddSaturated(current.x(), x_steps.TakeFirst());
   --remaining;
 }
 

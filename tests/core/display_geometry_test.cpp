@@ -30,6 +30,36 @@ class Geometry : public Story {
   }
 };
 
+// An extent is last - first + 1, and Qt computes that from the left: last - first has to fit too.
+TEST_F(Geometry, ExtentsThatNoIntHoldsStopAtItsEnds) {
+  constexpr int kHighest = std::numeric_limits<int>::max();
+  constexpr int kLowest = std::numeric_limits<int>::min();
+  const struct {
+    const char* name;
+    int first;
+    int last;
+    int extent;
+  } rows[] = {
+      {"an ordinary one stays", 3, 12, 10},
+      {"as wide as an int", 0, kHighest - 1, kHighest},
+      {"one more", 0, kHighest, kHighest},
+      {"from end to end", kLowest, kHighest, kHighest},
+      {"as far below 0 as it may", 0, kLowest, -kHighest},
+      {"one more below 0", 1, kLowest, -kHighest},
+      {"from end to end, backwards", kHighest, kLowest, -kHighest},
+      {"empty", 5, 4, 0},
+  };
+  for (const auto& row : rows) {
+    Host().display.setCoords(row.first, row.first, row.last, row.last);
+    const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
+    EXPECT_EQ(QSize(row.extent, row.extent), display.size()) << row.name;
+    EXPECT_EQ(QPoint(row.first, row.first), display.topLeft()) << row.name;
+    Host().touch.setCoords(row.first, row.first, row.last, row.last);
+    // The far corner; Round stops where the extent does.
+    EXPECT_EQ(QPoint(row.extent, row.extent), RelativeToTouch(1, 1)) << row.name;
+  }
+}
+
 TEST_F(Geometry, TurnsWindowPositionsIntoTouchCoordinates) {
   const struct {
     const char* name;

@@ -46,6 +46,9 @@ TEST(Numbers, CountsWrapAndPositionsStop) {
   EXPECT_EQ(kHighest, AddSaturated(kHighest, 1));
   EXPECT_EQ(kLowest, AddSaturated(kLowest, -1));
   EXPECT_EQ(-1, AddSaturated(kHighest, kLowest));
+  EXPECT_EQ(kLowest, SubtractSaturated(kLowest, 1));
+  EXPECT_EQ(kHighest, SubtractSaturated(0, kLowest));
+  EXPECT_EQ(kHighest, NegateSaturated(kLowest));
 }
 
 }  // namespace

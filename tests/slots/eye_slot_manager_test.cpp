@@ -57,6 +57,15 @@ TEST_F(EyeSlot, StopsAtTheEndsOfAnInt) {
   EXPECT_EQ(QPoint(std::numeric_limits<int>::max(), std::numeric_limits<int>::min()), eye_->position);
 }
 
+// The opposite of the lowest int is none.
+TEST_F(EyeSlot, AStepOfAnyLengthIsTakenEitherWay) {
+  constexpr int kLowest = std::numeric_limits<int>::min();
+  eye_->SetDirectionKey(kDirectionLeft, true);
+  eye_->SetDirectionKey(kDirectionDown, true);
+  eye_->Step(kLowest);
+  EXPECT_EQ(QPoint(std::numeric_limits<int>::max(), kLowest), eye_->position);
+}
+
 TEST_F(EyeSlot, AResetForgetsKeysHomeAndPosition) {
   eye_->home = eye_->position = QPoint(30, 40);
   eye_->SetDirectionKey(kDirectionLeft, true);

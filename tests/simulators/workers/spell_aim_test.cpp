@@ -3,6 +3,7 @@
 #include <climits>
 #include <gtest/gtest.h>
 
+#include "core/pixels.h"
 #include "keymap/spell_config_item.h"
 
 namespace taviinputmanager::spell_aim {

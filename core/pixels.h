@@ -1,0 +1,24 @@
+// Points of whole pixels, whatever numbers a host or a keymap comes up with.
+#ifndef CORE_PIXELS_H_
+#define CORE_PIXELS_H_
+
+#include <QPoint>
+#include <QPointF>
+
+#include "core/numbers.h"
+
+namespace taviinputmanager {
+
+// As QPointF::toPoint and the operators of QPoint give them; but what no int can hold stops at the ends of one, where
+// theirs is undefined.
+inline QPoint RoundedPoint(const QPointF& point) { return {Round(point.x()), Round(point.y())}; }
+
+inline QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }
+
+inline QPoint Difference(const QPoint& a, const QPoint& b) {
+  return {SubtractSaturated(a.x(), b.x()), SubtractSaturated(a.y(), b.y())};
+}
+
+}  // namespace taviinputmanager
+
+#endif  // CORE_PIXELS_H_
