@@ -20,15 +20,13 @@ class InputEventSender {
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 
   // Sends `command` to `display` with the display's number in front. A primary display's lines are then mirrored and
-  // offered to the recorder.
+  // offered to the recorder, in the order in which the host got them, also where it sends from inside a send.
   void SendEvent(const LineBuffer& line, int display);
   void SendEvent(const QString& command, int display);
   // Sends a text line, which has no display; always mirrored and offered.
   void SendText(const QString& command);
 
  private:
-  bool IsPrimary(int display) const;
-
   std::atomic<InputManagerCallbacks*> callbacks_{nullptr};  // the host's
 };
 

@@ -80,6 +80,7 @@ class LineBuffer {
   char* data() { return begin_; }
   int size() const { return static_cast<int>(end_ - begin_); }
   bool isEmpty() const { return begin_ == end_; }
+  void Clear() { end_ = begin_; }
 
   // The text with the number of a display and a colon in front and a NUL behind, which `length` does not count. Valid
   // until the next change.
