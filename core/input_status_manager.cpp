@@ -23,6 +23,19 @@ constexpr int kLastTapSlot = 17;
 constexpr int kFirstMacroSlot = 18;
 constexpr int kLastMacroSlot = 25;
 
+using Codes = QVarLengthArray<int, 16>;
+
+// Taken before anything is sent: sending may reach code that adds a key.
+Codes Take(CodeSet& keys) {
+  Codes codes(keys.begin(), keys.end());
+  keys.Clear();
+  return codes;
+}
+
+void ReleaseKeys(const Codes& codes, int display) {
+  for (const int code : codes) InputEventSender::GetInstance()->SendEvent(guest_command::KeyRelease(code), display);
+}
+
 }  // namespace
 
 void InputStatusManager::SetStatus(InputStatus status, const QString& message) {
@@ -64,9 +77,7 @@ void InputStatusManager::ResetForKeymap(const KeymapConfig* config, const QStrin
   TakeStaringKey(config);
   mode_ = mode;
   LeaveModes();
-  ResetGuestState(kResetAll, 0);
-  input_hold_ = false;
-  display_id_ = display;
+  ResetAndMoveTo(display);
 }
 
 void InputStatusManager::TakeStaringKey(const KeymapConfig* config) {
@@ -84,9 +95,21 @@ void InputStatusManager::TakeStaringKey(const KeymapConfig* config) {
 
 void InputStatusManager::UpdateDisplayId(int display) {
   LeaveModes();
-  ResetGuestState(kResetAll, 0);
+  ResetAndMoveTo(display);
+}
+
+void InputStatusManager::ResetAndMoveTo(int display) {
+  ForgetInput(kResetAll);
+  const int left = display_id_;
   display_id_ = display;
   input_hold_ = false;
+  SweepGuest(kResetAll, left);
+}
+
+void InputStatusManager::SweepGuest(int mode, int display) {
+  const Codes held = Take(held_keys_);
+  ReleaseSlots(mode, display);
+  ReleaseKeys(held, display);
 }
 
 void InputStatusManager::ResetInputStatus(int mode, int display) {
@@ -106,19 +129,13 @@ bool InputStatusManager::IsDisplayForceTransparent(int display) const {
   return force_transparent_.value(display, false);
 }
 
-void InputStatusManager::ReleaseHeldKeys() { ReleaseHeldKeysOn(display_id_); }
-
-void InputStatusManager::ReleaseHeldKeysOn(int display) { ReleaseKeys(held_keys_, display); }
+void InputStatusManager::ReleaseHeldKeys() { ReleaseKeys(Take(held_keys_), display_id_); }
 
 void InputStatusManager::ReleaseReplayInput() {
-  InputEventSender::GetInstance()->SendEvent(guest_command::SlotReleaseAll(), replay_display_id_);
-  ReleaseKeys(replay_held_keys_, replay_display_id_);
-}
-
-void InputStatusManager::ReleaseKeys(CodeSet& keys, int display) {
-  const QVarLengthArray<int, 16> codes(keys.begin(), keys.end());
-  keys.Clear();  // first: sending may reach code that adds a key
-  for (const int code : codes) InputEventSender::GetInstance()->SendEvent(guest_command::KeyRelease(code), display);
+  const int display = replay_display_id_;
+  const Codes held = Take(replay_held_keys_);
+  InputEventSender::GetInstance()->SendEvent(guest_command::SlotReleaseAll(), display);
+  ReleaseKeys(held, display);
 }
 
 void InputStatusManager::ReleaseSlots(int mode, int display) {

@@ -52,7 +52,8 @@ class InputStatusManager {
   // `display`. `extra` is kept and not read.
   void ResetForKeymap(const tavikeymapmanager::KeymapConfig* config, const QString& package, const QString& extra,
                       bool has_path, int mode, int display);
-  // Resets everything on the present display and moves on to `display`.
+  // Resets everything on the present display and moves on to `display`. What comes in while the present one is swept
+  // belongs to the next.
   void UpdateDisplayId(int display);
   int GetDisplayId() const { return display_id_.load(std::memory_order_relaxed); }
   int GetReplayDisplayId() const { return replay_display_id_; }
@@ -83,7 +84,7 @@ class InputStatusManager {
   // Leaves view control and observing, tells the host, and resets. `mode` is a ResetMode; display 0 is the present one.
   void ResetInputStatus(int mode, int display);
   // Clears the managers and simulators first, so that no later update can press again, then sweeps the guest. `mode`
-  // and `display` as above.
+  // and `display` as above. What is pressed from inside the sweep stays pressed.
   void ResetGuestState(int mode, int display);
   // The sweep. 0: slots 0 to 10; 1: 0 to 17; 2: all at once; 3: nothing; 4: 18 to 25.
   void ReleaseSlots(int mode, int display);
@@ -98,13 +99,16 @@ class InputStatusManager {
  private:
   InputStatusManager() = default;
 
+  // Both halves of a reset of everything on the present display, and between them the move to the next.
+  void ResetAndMoveTo(int display);
+  // What a reset does before the sweep, but for that of macros.
+  void ForgetInput(int mode);
+  void SweepGuest(int mode, int display);
   void LeaveModes();
   void SetStatusMessage(const QString& message);
   QString StatusMessage() const;
   void NotifyStatus() const;
   void ReleaseSlotRange(int first, int last, int display);
-  void ReleaseHeldKeysOn(int display);
-  static void ReleaseKeys(CodeSet& keys, int display);
   void TakeStaringKey(const tavikeymapmanager::KeymapConfig* config);
 
   std::atomic<InputStatus> status_{InputStatus::Normal};

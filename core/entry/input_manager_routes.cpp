@@ -92,8 +92,8 @@ void InputManager::RouteMouseButton(QMouseEvent* event) {
 void InputManager::RouteMouseMove(QMouseEvent* event) {
   const qint64 now = Clock::NowMs();
   if (now - last_mouse_move_ms_ < kMouseMoveFloorMs) return;
-  if (QtMouseEventHandler* target = SelectMoveHandler(event)) target->HandleMouseEvent(event);
   last_mouse_move_ms_ = now;
+  if (QtMouseEventHandler* target = SelectMoveHandler(event)) target->HandleMouseEvent(event);
 }
 
 // Null while a gesture of the wheel swallows moves.

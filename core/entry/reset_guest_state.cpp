@@ -75,12 +75,15 @@ void InputStatusManager::ResetGuestState(int mode, int display) {
     ReleaseSlots(mode, display);
     return;
   }
+  ForgetInput(mode);
+  SweepGuest(mode, display);
+}
+
+void InputStatusManager::ForgetInput(int mode) {
+  swipehold_factor_ = 1.0;
   ResetFixedSlots();
   if (mode == kResetFull || mode == kResetAll) ResetPools(mode == kResetAll);
   ResetSimulators();
-  ReleaseSlots(mode, display);
-  ReleaseHeldKeysOn(display);
-  swipehold_factor_ = 1.0;
 }
 
 void InputStatusManager::ToggleSwipeholdFactor(double value) {
