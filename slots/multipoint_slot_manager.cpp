@@ -6,8 +6,10 @@ namespace taviinputmanager {
 
 MultipointSlotManager::MultipointSlotManager() : SlotManager(kNoSlot) {}
 
-bool MultipointSlotManager::HasTouch() const {
-  const Entry* entry = EntryOf(GetSlotId());
+bool MultipointSlotManager::HasTouch() const { return IsDown(GetSlotId()); }
+
+bool MultipointSlotManager::IsDown(int id) const {
+  const Entry* entry = EntryOf(id);
   return entry && entry->in_use;
 }
 

@@ -45,6 +45,7 @@ class MultipointSlotManager : public SlotManager {
 
   MultipointSlotManager();
 
+  bool IsDown(int id) const override;
   Entry* FindPoint(double x, double y);
   Entry* FindFree();
   // Null for a slot that is not of this pool.

@@ -10,24 +10,30 @@ SlotManager::SlotManager(int slot_id) : slot_id_(slot_id), display_(DisplayGeome
 SlotManager::~SlotManager() = default;
 
 LineBuffer SlotManager::UpdateLine() {
-  if (slot_id_ == kNoSlot) return {};
-  return HasTouch() ? PressLine() : ReleaseLine();
+  const int id = slot_id_;
+  if (id == kNoSlot) return {};
+  if (!HasTouch()) return ReleaseLine();
+  LineBuffer line = PressLine();
+  if (!IsDown(id)) line.Clear();
+  return line;
 }
 
 LineBuffer SlotManager::PressLineAt(int x, int y) const {
-  if (slot_id_ == kNoSlot) return {};
+  const int id = slot_id_;  // asking the host may select another one
+  if (id == kNoSlot) return {};
   display_->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return {};
-  return guest_command::SlotPress(slot_id_, x, y);
+  return guest_command::SlotPress(id, x, y);
 }
 
 LineBuffer SlotManager::RelativePressLineAt(double x, double y) const {
-  if (slot_id_ == kNoSlot) return {};
+  const int id = slot_id_;
+  if (id == kNoSlot) return {};
   int touch_x = kNoPosition;
   int touch_y = kNoPosition;
   display_->RelativeToTouch(touch_x, touch_y, x, y);
   if (touch_x == kNoPosition || touch_y == kNoPosition) return {};  // no display to be on
-  return guest_command::SlotPress(slot_id_, touch_x, touch_y);
+  return guest_command::SlotPress(id, touch_x, touch_y);
 }
 
 LineBuffer SlotManager::ReleaseLine() const {

@@ -30,7 +30,8 @@ class SlotManager {
   // Forgets the contact. The guest's finger stays as it is until a release is sent.
   virtual void Reset() = 0;
 
-  // What brings the guest in line with this manager: a press or a release.
+  // What brings the guest in line with this manager: a press or a release. Empty where the host, asked for its display
+  // on the way, lifted the finger.
   LineBuffer UpdateLine();
   // In window pixels.
   LineBuffer PressLineAt(int x, int y) const;
@@ -50,6 +51,8 @@ class SlotManager {
  protected:
   explicit SlotManager(int slot_id);
 
+  // Whether the contact of slot `id` is down, for a manager of several.
+  virtual bool IsDown(int /*id*/) const { return HasTouch(); }
   const DisplayGeometry* Display() const { return display_; }
   void SetSlotId(int slot_id) { slot_id_ = slot_id; }
 
