@@ -22,6 +22,8 @@ namespace taviinputmanager {
 struct InputManagerCallbacks;
 class QtMouseEventHandler;
 
+constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
+
 // Main thread only. Owns both keymaps and destroys each before its successor is read.
 class InputManager {
  public:

@@ -2,6 +2,7 @@
 
 #include <QPointF>
 
+#include "core/input_manager.h"
 #include "handlers/simulator_table.h"
 #include "keymap/joystick_left_walk_config_item.h"
 #include "keymap/joystick_right_eye_config_item.h"
@@ -79,30 +80,40 @@ bool JoystickEventSimulateHandler::TryRelease(const QString& text) {
   EventSimulator* simulator = SimulatorFor(item);
   if (!simulator) return false;  // the entry stays active
   simulator->Release(item, &key);
-  active_texts_.removeAll(text);
   return true;
 }
 
 bool JoystickEventSimulateHandler::OnButtonPress(JoystickButtonEvent* event, int /*simulate_mode*/) {
   const QString name = event->text;
   const QStringList held = held_buttons_;  // a macro may press and release buttons while it runs
+  if (event->device != kMacroJoystickDevice) releasing_.removeAll(name);
+  pressing_.append(name);
   bool was_pressed = false;
   for (const QString& button : held) {
     if (button != name && TryPress(CombinationOf(button, name))) was_pressed = true;
   }
   if (!was_pressed) was_pressed = TryPress(name);
   if (!held_buttons_.contains(name)) held_buttons_.append(name);
+  if (!pressing_.removeOne(name)) Release(name);  // the host let go of it from inside
   return was_pressed;
 }
 
 bool JoystickEventSimulateHandler::OnButtonRelease(JoystickButtonEvent* event, int /*simulate_mode*/) {
   const QString name = event->text;
+  const bool is_pressing = event->device != kMacroJoystickDevice && pressing_.removeAll(name) > 0;
+  return Release(name) || is_pressing;
+}
+
+bool JoystickEventSimulateHandler::Release(const QString& name) {
   const QStringList active = active_texts_;  // as above
+  releasing_.append(name);
   bool was_released = false;
   for (const QString& text : active) {
-    if (EndsWith(text, name) && TryRelease(text)) was_released = true;
+    if (!EndsWith(text, name) || !TryRelease(text)) continue;
+    was_released = true;
+    if (releasing_.contains(name)) active_texts_.removeAll(text);
   }
-  held_buttons_.removeAll(name);
+  if (releasing_.removeOne(name)) held_buttons_.removeAll(name);  // else the host pressed it again from inside
   return was_released;
 }
 

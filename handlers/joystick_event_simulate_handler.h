@@ -22,6 +22,9 @@ struct InputManagerCallbacks;
 //
 // Main thread. What it remembers are names: no item is held beyond a call, and a press is released through whatever
 // item answers to its name by then. A new config leaves all of it as it is.
+//
+// Names are noted when a press or release is through: a macro that presses or releases its own button while it runs
+// finds nothing of it. Where a host does that from inside a send, it is made up for at the end.
 class JoystickEventSimulateHandler : public JoystickEventHandler {
  public:
   static JoystickEventSimulateHandler* GetInstance();
@@ -46,10 +49,14 @@ class JoystickEventSimulateHandler : public JoystickEventHandler {
   // Each tells whether an item and its simulator took the key called `text`.
   bool TryPress(const QString& text);
   bool TryRelease(const QString& text);
+  // Releases every active text that ends with the button `name`. Tells whether there was one.
+  bool Release(const QString& name);
 
   tavikeymapmanager::KeymapConfig* joystick_config_ = nullptr;  // the input manager's
   QStringList held_buttons_;                                    // by name, in the order of pressing
   QStringList active_texts_;                                    // pressed and not yet released
+  QStringList pressing_;                                        // presses under way that the host has not taken back
+  QStringList releasing_;                                       // the same of releases
   InputManagerCallbacks* callbacks_ = nullptr;                  // the host's
 };
 

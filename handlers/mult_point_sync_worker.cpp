@@ -13,6 +13,7 @@ MultPointSyncWorker* MultPointSyncWorker::GetInstance() {
 }
 
 void MultPointSyncWorker::OnTouchEvent(QTouchEvent* event) {
+  events_.Begin();
   switch (event->type()) {
     case QEvent::TouchBegin: return Begin(event->touchPoints());
     case QEvent::TouchUpdate: return Update(event->touchPoints());
@@ -21,45 +22,58 @@ void MultPointSyncWorker::OnTouchEvent(QTouchEvent* event) {
 }
 
 void MultPointSyncWorker::Begin(const QList<TouchPoint>& points) {
+  const unsigned turn = events_.Current();
   touches_.clear();
-  for (const TouchPoint& point : points) Press(point, MultPointSlotManager::GetInstance()->Allocate(point.pos()));
-}
-
-void MultPointSyncWorker::Update(const QList<TouchPoint>& points) {
-  QSet<int> present;
-  for (const TouchPoint& point : points) present.insert(point.id());
-  ReleaseExcept(present);
-  MultPointSlotManager* pool = MultPointSlotManager::GetInstance();
   for (const TouchPoint& point : points) {
-    const auto known = touches_.constFind(point.id());
-    if (known == touches_.constEnd()) {
-      Press(point, pool->Allocate(point.pos()));
-      continue;
-    }
-    pool->SetPoint(known.value(), point.pos());
-    Press(point, known.value());
+    Press(point, MultPointSlotManager::GetInstance()->Allocate(point.pos()));
+    if (events_.IsOver(turn)) return;
   }
 }
 
+void MultPointSyncWorker::Update(const QList<TouchPoint>& points) {
+  const unsigned turn = events_.Current();
+  QSet<int> present;
+  for (const TouchPoint& point : points) present.insert(point.id());
+  ReleaseExcept(present);
+  for (const TouchPoint& point : points) {
+    if (events_.IsOver(turn)) return;
+    Press(point, SlotFor(point));
+  }
+}
+
+int MultPointSyncWorker::SlotFor(const TouchPoint& point) {
+  MultPointSlotManager* pool = MultPointSlotManager::GetInstance();
+  const auto known = touches_.constFind(point.id());
+  if (known == touches_.constEnd()) return pool->Allocate(point.pos());
+  pool->SetPoint(known.value(), point.pos());
+  return known.value();
+}
+
 void MultPointSyncWorker::ReleaseExcept(const QSet<int>& kept) {
+  const unsigned turn = events_.Current();
   for (auto touch = touches_.begin(); touch != touches_.end();) {
-    if (kept.contains(touch.key())) {
+    const int id = touch.key();
+    if (kept.contains(id)) {
       ++touch;
       continue;
     }
-    SendEvent(guest_command::SlotMultiRelease({touch.value()}));
-    MultPointSlotManager::GetInstance()->Free(touch.value());
-    touch = touches_.erase(touch);
+    const int slot = touches_.take(id);
+    MultPointSlotManager::GetInstance()->Free(slot);
+    SendEvent(guest_command::SlotMultiRelease({slot}));
+    if (events_.IsOver(turn)) return;
+    touch = touches_.upperBound(id);
   }
 }
 
 void MultPointSyncWorker::Press(const TouchPoint& point, int slot) {
   if (slot == SlotManager::kNoSlot) return;  // every finger of the guest is down
+  const unsigned turn = events_.Current();
+  touches_.insert(point.id(), slot);
   int x = Truncate(point.pos().x());
   int y = Truncate(point.pos().y());
   DisplayGeometry::GetInstance()->WindowToTouch(x, y);
-  if (x != kNoPosition && y != kNoPosition) SendEvent(guest_command::SlotMultiPress({{slot, x, y}}));
-  touches_.insert(point.id(), slot);
+  if (x == kNoPosition || y == kNoPosition || events_.IsOver(turn)) return;
+  SendEvent(guest_command::SlotMultiPress({{slot, x, y}}));
 }
 
 }  // namespace taviinputmanager

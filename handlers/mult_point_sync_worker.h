@@ -7,6 +7,7 @@
 #include <QTouchEvent>
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 
 namespace taviinputmanager {
 
@@ -14,7 +15,8 @@ namespace taviinputmanager {
 // point that finds no free slot is left out, and is offered one again at its next event.
 //
 // No reset reaches the points known here: the next gesture forgets them. Slots of a gesture whose end never came stay
-// taken. Main thread.
+// taken. An event that comes from inside a send is the newer picture: what is left of the older one is dropped. Main
+// thread.
 class MultPointSyncWorker : public EventHandler {
  public:
   static MultPointSyncWorker* GetInstance();
@@ -30,12 +32,15 @@ class MultPointSyncWorker : public EventHandler {
 
   void Begin(const QList<TouchPoint>& points);
   void Update(const QList<TouchPoint>& points);
+  // The slot that the point has, moved there, or one from the pool; may be none.
+  int SlotFor(const TouchPoint& point);
   // Releases every known point that is not in `kept`, in ascending order of their ids.
   void ReleaseExcept(const QSet<int>& kept);
   // `slot` may be none.
   void Press(const TouchPoint& point, int slot);
 
   QMap<int, int> touches_;  // from touch point id to slot
+  Turns events_;
 };
 
 }  // namespace taviinputmanager

@@ -29,15 +29,15 @@ void LogKey(const QKeyEvent* event) {
 bool QtKeyboardEventTransparentHandler::OnKeyPress(QKeyEvent* event) {
   LogKey(event);
   const int code = GuestCodeOf(event);
+  InputStatusManager::GetInstance()->AddHeldKey(code);  // first: its release may come from inside the send
   SendEvent(guest_command::KeyPress(code));
-  InputStatusManager::GetInstance()->AddHeldKey(code);
   return true;
 }
 
 bool QtKeyboardEventTransparentHandler::OnKeyRelease(QKeyEvent* event) {
   const int code = GuestCodeOf(event);
-  SendEvent(guest_command::KeyRelease(code));
   InputStatusManager::GetInstance()->RemoveHeldKey(code);
+  SendEvent(guest_command::KeyRelease(code));
   return true;
 }
 

@@ -44,7 +44,7 @@ bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboa
 }  // namespace
 
 QtKeyboardMouseEventSimulateHandler::QtKeyboardMouseEventSimulateHandler()
-    : default_mouse_slot_(MouseSlotManager::GetInstance()) {
+    : default_mouse_slot_(std::shared_ptr<void>(), MouseSlotManager::GetInstance()) {
   escape_key_.device = tavikeymapmanager::keywords::kDeviceKeyboard;
   escape_key_.scancode = kEscapeScanCode;
   mouse_buttons_[0] = 0;
@@ -54,9 +54,7 @@ QtKeyboardMouseEventSimulateHandler::~QtKeyboardMouseEventSimulateHandler() = de
 
 void QtKeyboardMouseEventSimulateHandler::Initialize(InputManagerCallbacks* callbacks) {
   callbacks_ = callbacks;
-  ClearCurrentKey();
-  chord_items_.clear();
-  mouse_buttons_[0] = 0;
+  ResetKeyState();
 }
 
 void QtKeyboardMouseEventSimulateHandler::SetConfig(KeymapConfig* config) {
@@ -72,9 +70,9 @@ void QtKeyboardMouseEventSimulateHandler::ForgetConfig() {
 }
 
 void QtKeyboardMouseEventSimulateHandler::ResetKeyState() {
-  ClearCurrentKey();
   chord_items_.clear();
   mouse_buttons_[0] = 0;
+  ClearCurrentKey();
 }
 
 const ItemIndex& QtKeyboardMouseEventSimulateHandler::Index() const {
@@ -145,14 +143,14 @@ bool QtKeyboardMouseEventSimulateHandler::PressEscape(const QKeyEvent* event) {
   InputStatusManager* status = InputStatusManager::GetInstance();
   if (IsVirtual(event)) {
     const int code = IsEscapeToGuest() ? kEscapeCode : kBackCode;
-    SendEvent(guest_command::KeyPress(code));
     status->AddHeldKey(code);
+    SendEvent(guest_command::KeyPress(code));
     return true;
   }
   if (IsEscapeToGuest()) return false;  // a key like any other
   if (IsEscapeBack()) {
-    SendEvent(guest_command::KeyPress(kBackCode));
     status->AddHeldKey(kBackCode);
+    SendEvent(guest_command::KeyPress(kBackCode));
   }
   return true;  // it never reaches the guest as Escape
 }
@@ -161,14 +159,14 @@ bool QtKeyboardMouseEventSimulateHandler::ReleaseEscape(const QKeyEvent* event) 
   InputStatusManager* status = InputStatusManager::GetInstance();
   if (IsVirtual(event)) {
     const int code = IsEscapeToGuest() ? kEscapeCode : kBackCode;
-    SendEvent(guest_command::KeyRelease(code));
     status->AddHeldKey(code);  // not removed: the next reset releases a macro's Escape once more
+    SendEvent(guest_command::KeyRelease(code));
     return true;
   }
   if (IsEscapeToGuest()) return false;
   if (IsEscapeBack()) {
-    SendEvent(guest_command::KeyRelease(kBackCode));
     status->RemoveHeldKey(kBackCode);
+    SendEvent(guest_command::KeyRelease(kBackCode));
   }
   return true;
 }

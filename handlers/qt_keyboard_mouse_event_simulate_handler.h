@@ -86,17 +86,18 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   void ReleaseLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void MoveLeftFinger(QMouseEvent* event);
   // The finger of a virtual pointer, made at its first use; null when the macro pool has no slot left.
-  MouseSlotManager* GetMouseSlot(qint64 id);
-  // The finger that an event moves: the real mouse's, or its virtual pointer's. May be null, as above.
-  MouseSlotManager* FingerOf(const QMouseEvent* event);
+  std::shared_ptr<MouseSlotManager> GetMouseSlot(qint64 id);
+  // The finger that an event moves: the real mouse's, or its virtual pointer's. May be null, as above. Kept by whoever
+  // works with it: the host may release it from inside a question or a send.
+  std::shared_ptr<MouseSlotManager> FingerOf(const QMouseEvent* event);
   void GiveBackMouseSlot(qint64 id);
   void SetButton(qint64 id, Qt::MouseButton button, bool down);
   bool IsButtonHeld(qint64 id, Qt::MouseButton button) const;
 
   tavikeymapmanager::KeymapConfig* config_ = nullptr;                // the input manager's
   mutable tavikeymapmanager::ItemIndex index_;                       // of its items, made as they are searched
-  MouseSlotManager* default_mouse_slot_;                             // the singleton
-  std::map<qint64, std::unique_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
+  std::shared_ptr<MouseSlotManager> default_mouse_slot_;             // the singleton, not owned
+  std::map<qint64, std::shared_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
   InputManagerCallbacks* callbacks_ = nullptr;                       // the host's
   tavikeymapmanager::ConfigKey escape_key_;   // what the state of Escape is asked by; never changes
   tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord

@@ -98,32 +98,32 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
     if (IsFire(item)) StaringAndFireEventSimulator::GetInstance()->Release(item, key);
     return;
   }
-  MouseSlotManager* finger = FingerOf(event);
+  const auto finger = FingerOf(event);
   if (!finger) return;  // the pool is empty
   finger->Reset();
-  SendEvent(finger->UpdateLine());
   if (AsVirtual(event)) GiveBackMouseSlot(PointerOf(event));
+  SendEvent(finger->UpdateLine());
 }
 
 void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
-  MouseSlotManager* finger = FingerOf(event);
+  const auto finger = FingerOf(event);
   if (!finger) return;  // the pool is empty: the press is given up
   finger->position = RoundedPoint(event->localPos());
   SendEvent(finger->UpdateLine());
 }
 
-MouseSlotManager* QtKeyboardMouseEventSimulateHandler::FingerOf(const QMouseEvent* event) {
+std::shared_ptr<MouseSlotManager> QtKeyboardMouseEventSimulateHandler::FingerOf(const QMouseEvent* event) {
   return AsVirtual(event) ? GetMouseSlot(PointerOf(event)) : default_mouse_slot_;
 }
 
-MouseSlotManager* QtKeyboardMouseEventSimulateHandler::GetMouseSlot(qint64 id) {
+std::shared_ptr<MouseSlotManager> QtKeyboardMouseEventSimulateHandler::GetMouseSlot(qint64 id) {
   const auto known = mouse_slots_.find(id);
-  if (known != mouse_slots_.end()) return known->second.get();
+  if (known != mouse_slots_.end()) return known->second;
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   const int slot = pool->FindFree();
   if (slot == SlotManager::kNoSlot) return nullptr;
   pool->Reserve(slot);
-  return mouse_slots_.emplace(id, std::make_unique<MouseSlotManager>(slot)).first->second.get();
+  return mouse_slots_.emplace(id, std::make_shared<MouseSlotManager>(slot)).first->second;
 }
 
 void QtKeyboardMouseEventSimulateHandler::GiveBackMouseSlot(qint64 id) {

@@ -26,8 +26,8 @@ void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interva
   pointer->AddRelative(dx * factor, dy * factor);
   const qint64 now = Clock::NowMs();
   if (now - last_relative_send_ms_ < interval_ms) return;  // the next send carries this movement too
-  SendEvent(pointer->MoveLine());
   last_relative_send_ms_ = now;
+  SendEvent(pointer->MoveLine());
 }
 
 void QtMouseEventTransparentHandler::OnMousePress(QMouseEvent* event) {

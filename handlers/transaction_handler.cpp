@@ -25,8 +25,8 @@ TransactionHandler::~TransactionHandler() = default;
 
 void TransactionHandler::doBackAction(int display) {
   pending_display_ = display;
-  SendEventTo(guest_command::KeyPress(kBackCode), display);
   back_timer_.start(kBackClickMs);
+  SendEventTo(guest_command::KeyPress(kBackCode), display);
 }
 
 void TransactionHandler::doBackTimerOutTime() {

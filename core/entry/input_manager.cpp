@@ -42,7 +42,6 @@ namespace {
 constexpr int kNotch = 120;             // eighths of a degree
 constexpr int kMacroWheelUpCode = 224;  // the wheel as macros name it
 constexpr int kMacroWheelDownCode = 225;
-constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
 
 void LogLoad(const QString& path, bool is_system, const QString& package, int display) {
   InputLogger* log = InputLogger::GetInstance();
