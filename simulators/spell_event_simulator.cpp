@@ -87,8 +87,7 @@ void SpellEventSimulator::FinishOtherKey(const SpellConfigItem& next) {
 void SpellEventSimulator::PressCancel(SpellCancelConfigItem* item) {
   Q_EMIT sigSpellCancelPressed(*item);
   if (!item->cancel_immediately || !current_worker_) return;
-  current_worker_->Cancel(item);
-  DropWorker();
+  TakeWorker()->Cancel(item);
 }
 
 bool SpellEventSimulator::FollowsPointer() const {
@@ -101,9 +100,9 @@ void SpellEventSimulator::TimerOutTime() {
   if (FollowsPointer()) current_worker_->Follow();
 }
 
-void SpellEventSimulator::DropWorker() {
-  current_worker_ = nullptr;
+SpellSyncWorker* SpellEventSimulator::TakeWorker() {
   follow_timer_->stop();
+  return std::exchange(current_worker_, nullptr);
 }
 
 bool SpellEventSimulator::IsSpellActive() const { return current_worker_ && current_worker_->IsActive(); }
@@ -119,14 +118,14 @@ void SpellEventSimulator::OnJoystickAxis(JoystickAxisEvent* event) {
 }
 
 bool SpellEventSimulator::OnMouseEvent(QMouseEvent* event) {
-  if (!current_worker_ || !current_worker_->OnMouseEvent(event)) return false;
-  if (!current_worker_->IsActive()) DropWorker();
+  SpellSyncWorker* worker = current_worker_;
+  if (!worker || !worker->OnMouseEvent(event)) return false;
+  if (worker == current_worker_ && !worker->IsActive()) TakeWorker();
   return true;
 }
 
 void SpellEventSimulator::ForceStop() {
-  if (current_worker_) current_worker_->ForceStop();
-  DropWorker();
+  if (SpellSyncWorker* worker = TakeWorker()) worker->ForceStop();
 }
 
 void SpellEventSimulator::OnSwipeholdTargetPointChanged(QPointF& point) {

@@ -63,7 +63,8 @@ class SpellEventSimulator : public EventSimulator {
   void FinishOtherKey(const tavikeymapmanager::SpellConfigItem& next);
   // Whether the item of the present worker aims with the pointer, outside view control.
   bool FollowsPointer() const;
-  void DropWorker();
+  // The present worker, which is not that any more; may be null.
+  SpellSyncWorker* TakeWorker();
 
   void ConnectWorkersOnce();
   void ConnectWorker(SpellSyncWorker* worker);

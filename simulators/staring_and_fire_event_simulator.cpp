@@ -18,6 +18,12 @@ using tavikeymapmanager::SpellCancelConfigItem;
 using tavikeymapmanager::StaringConfigItem;
 namespace keywords = tavikeymapmanager::keywords;
 
+namespace {
+
+bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring; }
+
+}  // namespace
+
 StaringAndFireEventSimulator* StaringAndFireEventSimulator::GetInstance() {
   static StaringAndFireEventSimulator instance;
   return &instance;
@@ -35,8 +41,8 @@ void StaringAndFireEventSimulator::ConnectWorkers() {
                &StaringAndFireEventSimulator::OnSpellCancelPressed);
   });
   connect(fire, &FireSyncWorker::sigSubscribeWmRelativeInputEvent, this, [this] {
-    LiftViewFinger();
     relative_route_ = RelativeRoute::kFire;
+    LiftViewFinger();
   });
   connect(fire, &FireSyncWorker::sigUnSubscribeWmRelativeInputEvent, this,
           [this] { relative_route_ = RelativeRoute::kStaring; });
@@ -50,7 +56,7 @@ void StaringAndFireEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   std::call_once(connected_, [this] { ConnectWorkers(); });
   if (!item) return;  // its type is what is asked for
   if (item->type == keywords::kTypeFire) {
-    if (InputStatusManager::GetInstance()->GetStatus() != InputStatus::Staring) return;  // there is nothing to aim by
+    if (!IsStaring()) return;  // there is nothing to aim by
     FireSyncWorker::GetInstance()->OnFirePress(item);
   } else if (item->type == keywords::kTypeStaring) {
     ToggleStaring(item, key->text);
@@ -74,16 +80,17 @@ void StaringAndFireEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
 
 void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const QString& key_text) {
   InputStatusManager* status = InputStatusManager::GetInstance();
-  if (status->GetStatus() == InputStatus::Staring) {
-    status->SetStatus(InputStatus::StaringOff, key_text);
+  if (IsStaring()) {
     staring_item_.reset();
     has_observe_item_ = false;
     StopAutoReset();
+    status->SetStatus(InputStatus::StaringOff, key_text);
   } else {
-    status->SetStatus(InputStatus::Staring, key_text);
     const auto* staring = dynamic_cast<const StaringConfigItem*>(item);
     staring_item_ = staring ? std::make_optional(*staring) : std::nullopt;
-    StaringWmRelativeInputWorker::GetInstance()->StartStaring(staring);
+    status->SetStatus(InputStatus::Staring, key_text);
+    if (IsStaring()) StaringWmRelativeInputWorker::GetInstance()->StartStaring(staring);
+    if (!IsStaring()) StopAutoReset();  // the host turned it off from inside
   }
   LiftViewFinger();  // whatever it was down for
 }
@@ -96,6 +103,7 @@ void StaringAndFireEventSimulator::PressObserve(const ConfigItem* item, const QS
     case InputStatus::StaringOff:
       has_observe_item_ = dynamic_cast<const ObserveConfigItem*>(item) != nullptr;
       status->SetStatus(InputStatus::Observing, key_text);
+      if (status->GetStatus() != InputStatus::Observing) return;  // the host let go of the key from inside
       break;
     default: return;  // a second observe key
   }
@@ -116,7 +124,8 @@ void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {
     case RelativeRoute::kStaring: break;
   }
   if (!staring_item_) return;
-  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(&*staring_item_, dx, dy);
+  const StaringConfigItem item = *staring_item_;  // view control may end from inside a send
+  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(&item, dx, dy);
 }
 
 void StaringAndFireEventSimulator::StopAutoReset() { StaringWmRelativeInputWorker::GetInstance()->StopAutoReset(); }

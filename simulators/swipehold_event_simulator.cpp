@@ -70,8 +70,8 @@ void SwipeholdEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   if (!walk) return;  // not four keys
   if (IsTransparent(*walk)) {
     const int code = GuestCodeOf(*key);
-    SendEvent(guest_command::KeyPress(code));
-    return InputStatusManager::GetInstance()->AddHeldKey(code);
+    InputStatusManager::GetInstance()->AddHeldKey(code);
+    return SendEvent(guest_command::KeyPress(code));
   }
   Forward(&SwipeholdAsyncWorker::Press, key);
 }
@@ -81,14 +81,14 @@ void SwipeholdEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
   if (!walk) return;  // not four keys
   if (IsTransparent(*walk)) {
     const int code = GuestCodeOf(*key);
-    SendEvent(guest_command::KeyRelease(code));
-    return InputStatusManager::GetInstance()->RemoveHeldKey(code);
+    InputStatusManager::GetInstance()->RemoveHeldKey(code);
+    return SendEvent(guest_command::KeyRelease(code));
   }
   Forward(&SwipeholdAsyncWorker::Release, key);
 }
 
 void SwipeholdEventSimulator::Forward(KeyOperation operation, ConfigKey* key) {
-  // By position: who listens to a walk may enter or remove a worker.
+  // By position: what a walk sends and reports may lead to another worker's entering or leaving.
   for (size_t i = 0; i < workers_.size(); ++i) {
     Entry& entry = workers_[i];
     if (exclusive_inner_ && entry.worker == Walk()) continue;
@@ -123,8 +123,9 @@ void SwipeholdEventSimulator::RemoveWorker(SwipeholdAsyncWorker* worker) {
 
 void SwipeholdEventSimulator::EntrustToInner() {
   const QPoint directions = Walk()->GetDirections();
-  for (const Entry& entry : workers_) {
-    if (entry.worker != Walk()) entry.worker->ReplayDirections(directions);  // starts slides, and so tells nobody yet
+  for (size_t i = 0; i < workers_.size(); ++i) {  // by position, as above
+    SwipeholdAsyncWorker* worker = workers_[i].worker;
+    if (worker != Walk()) worker->ReplayDirections(directions);
   }
   if (exclusive_inner_) Walk()->StopAndRelease();
 }

@@ -69,8 +69,8 @@ void ZoomEventSimulator::OnZoomPressed(const QString& cmd) { SendEvent(cmd); }
 void ZoomEventSimulator::OnZoomFinished(int positive_slot_id, int negative_slot_id) {
   MacroSlotManager::GetInstance()->Free(positive_slot_id);
   MacroSlotManager::GetInstance()->Free(negative_slot_id);
-  SendEvent(guest_command::SlotMultiRelease({positive_slot_id, negative_slot_id}));
   ZoomSlotManager::GetInstance()->Reset();
+  SendEvent(guest_command::SlotMultiRelease({positive_slot_id, negative_slot_id}));
 }
 
 }  // namespace taviinputmanager

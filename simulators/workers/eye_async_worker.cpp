@@ -43,12 +43,13 @@ void EyeAsyncWorker::Update(const EyeConfigItem* item, const ConfigKey* key, boo
   if (finger_->HasDirection()) return Start(*item);
   timer_.stop();
   Clock::Sleep(kTickMs);  // the last step has its time too
-  LiftFinger();
+  if (!finger_->HasDirection()) LiftFinger();
 }
 
 void EyeAsyncWorker::Start(const EyeConfigItem& item) {
   timer_.start(kTickMs);
   display_ = DisplayGeometry::GetInstance()->GetDisplayRect().size();
+  if (!finger_->HasDirection()) return;  // the host let go of the key as it answered
   step_ = Round(item.speed * kStepAtFullSpeed / 100.0);
   finger_->home = {Truncate(display_.width() * item.rel_x), Truncate(display_.height() * item.rel_y)};
   finger_->position = finger_->home;
@@ -58,8 +59,8 @@ void EyeAsyncWorker::Start(const EyeConfigItem& item) {
 void EyeAsyncWorker::TimerOutTime() {
   finger_->Step(step_);
   if (IsInWindow()) return SendEvent(finger_->UpdateLine());
-  SendEvent(finger_->ReleaseLine());
   finger_->position = finger_->home;
+  SendEvent(finger_->ReleaseLine());
 }
 
 bool EyeAsyncWorker::IsInWindow() const {

@@ -47,12 +47,15 @@ void FireSyncWorker::OnFirePress(const ConfigItem* item) {
 }
 
 void FireSyncWorker::StartFire(const FireConfigItem& item) {
+  const unsigned turn = holds_.Begin();
   fire_item_ = item;
-  FireSlotManager::GetInstance()->position = FirePressPoint(&item);
-  SendFinger();
   accumulated_ = {};
   fire_offset_.Start(item.offset_enabled);
-  if (!item.relative_mode) return;
+  const QPoint button = FirePressPoint(&item);
+  if (holds_.IsOver(turn)) return;  // the host let go of the key as it answered
+  FireSlotManager::GetInstance()->position = button;
+  SendFinger();
+  if (!item.relative_mode || holds_.IsOver(turn)) return;
   Q_EMIT sigSubscribeSpellCancelKey();
   Q_EMIT sigSubscribeWmRelativeInputEvent();
 }
@@ -60,28 +63,32 @@ void FireSyncWorker::StartFire(const FireConfigItem& item) {
 void FireSyncWorker::CancelFire(const SpellCancelConfigItem& cancel) {
   InputLogger* log = InputLogger::GetInstance();
   if (log->IsDebugOn()) log->Debug("simulate spell cancel event");
+  const unsigned turn = holds_.Current();
   const FireSlotManager* finger = FireSlotManager::GetInstance();
-  if (finger->HasTouch()) {
-    SwipeFireFinger(&*fire_item_, finger->position, PixelOf(cancel.rel_x, cancel.rel_y));
-    if (!cancel_timer_.isActive()) {  // else the earlier cancel's time decides
-      if (cancel.cancel_delay_ms >= 1) cancel_timer_.start(cancel.cancel_delay_ms);
-      if (cancel.cancel_delay_ms == 0) LiftFinger();
-    }
+  const bool was_down = finger->HasTouch();
+  if (was_down) {
+    const FireConfigItem item = *fire_item_;
+    SwipeFireFinger(&item, finger->position, PixelOf(cancel.rel_x, cancel.rel_y));
   }
+  if (holds_.IsOver(turn)) return;  // let go of from inside the swipe
   EndFire();
+  if (!was_down || cancel_timer_.isActive()) return;  // the time of an earlier cancel decides
+  if (cancel.cancel_delay_ms >= 1) cancel_timer_.start(cancel.cancel_delay_ms);
+  if (cancel.cancel_delay_ms == 0) LiftFinger();
 }
 
 void FireSyncWorker::OnFireRelease() {
-  LiftFinger();
   EndFire();
+  LiftFinger();
 }
 
 void FireSyncWorker::EndFire() {
-  if (fire_item_ && fire_item_->relative_mode) {
-    Q_EMIT sigUnSubscribeSpellCancelKey();
-    Q_EMIT sigUnSubscribeWmRelativeInputEvent();
-  }
+  holds_.Begin();
+  const bool is_subscribed = fire_item_ && fire_item_->relative_mode;
   fire_item_.reset();
+  if (!is_subscribed) return;
+  Q_EMIT sigUnSubscribeSpellCancelKey();
+  Q_EMIT sigUnSubscribeWmRelativeInputEvent();
 }
 
 QPoint FireSyncWorker::FirePressPoint(const FireConfigItem* item) {
@@ -96,7 +103,8 @@ void FireSyncWorker::SwipeFireFinger(const FireConfigItem* item, QPoint from, QP
   if (steps < 1) return;
   const double step_x = (static_cast<double>(to.x()) - from.x()) / steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
-  for (qint64 i = 1; i <= steps; ++i) {
+  const unsigned turn = holds_.Current();
+  for (qint64 i = 1; i <= steps && !holds_.IsOver(turn); ++i) {
     FireSlotManager::GetInstance()->position = {Round(from.x() + i * step_x), Round(from.y() + i * step_y)};
     SendFinger();
   }
@@ -107,13 +115,15 @@ void FireSyncWorker::OnFireRelativeInput(int dx, int dy) {
   accumulated_.Add(dx, dy);
   const qint64 now = Clock::NowMs();
   if (now - last_send_ms_ < fire_item_->move_interval_ms) return;  // the next send carries these counts too
-  FireSlotManager::GetInstance()->position = RelativePoint();
-  SendFinger();
   last_send_ms_ = now;
+  const unsigned turn = holds_.Current();
+  const QPoint point = RelativePoint(FireConfigItem(*fire_item_));
+  if (holds_.IsOver(turn)) return;
+  FireSlotManager::GetInstance()->position = point;
+  SendFinger();
 }
 
-QPoint FireSyncWorker::RelativePoint() {
-  const FireConfigItem& item = *fire_item_;
+QPoint FireSyncWorker::RelativePoint(const FireConfigItem& item) {
   const double h = DisplayGeometry::GetInstance()->GetDisplayRect().height();
   const QPointF& sensitivity = StaringWmRelativeInputWorker::GetInstance()->GetEffectiveSensitivity();
   if (item.offset_enabled) {
@@ -128,8 +138,8 @@ QPoint FireSyncWorker::RelativePoint() {
 }
 
 void FireSyncWorker::CancelTimerOutTime() {
-  LiftFinger();
   cancel_timer_.stop();
+  LiftFinger();
 }
 
 void FireSyncWorker::LiftFinger() {

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 #include "keymap/fire_config_item.h"
 #include "simulators/workers/one_off_offset.h"
 #include "simulators/workers/relative_counts.h"
@@ -63,8 +64,8 @@ class FireSyncWorker : public EventHandler {
   void StartFire(const tavikeymapmanager::FireConfigItem& item);
   void CancelFire(const tavikeymapmanager::SpellCancelConfigItem& cancel);
   void EndFire();
-  // Where the counts of this hold put the finger.
-  QPoint RelativePoint();
+  // Where the counts of this hold put the finger. `item` is not the one in force, which may go on the way.
+  QPoint RelativePoint(const tavikeymapmanager::FireConfigItem& item);
   void LiftFinger();
   void SendFinger();
 
@@ -73,6 +74,7 @@ class FireSyncWorker : public EventHandler {
   RelativeCounts accumulated_;  // since the press
   OneOffOffset fire_offset_;
   qint64 last_send_ms_ = 0;  // since the epoch; of counts
+  Turns holds_;              // one begins as the item changes
 };
 
 }  // namespace taviinputmanager

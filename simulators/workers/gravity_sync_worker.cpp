@@ -50,8 +50,9 @@ void GravitySyncWorker::TimerOutTime() {
   const QPointF& offset = keys_->GetOffset();
   gravity_.z = qBound(-kMostTilt, gravity_.z + offset.x(), kMostTilt);
   gravity_.x = qBound(-kMostTilt, gravity_.x - offset.y(), kMostTilt);
-  if (!(last_ == gravity_)) SendTilt(gravity_);
+  if (last_ == gravity_) return;
   last_ = gravity_;
+  SendTilt(gravity_);
 }
 
 void GravitySyncWorker::LevelOut() {
@@ -62,9 +63,9 @@ void GravitySyncWorker::LevelOut() {
 }
 
 void GravitySyncWorker::Stop() {
-  LevelOut();
   keys_->Reset();
   timer_.stop();
+  LevelOut();
 }
 
 void GravitySyncWorker::SendTilt(const Tilt& tilt) {

@@ -41,6 +41,7 @@ LeftStickWalkSyncWorker::LeftStickWalkSyncWorker() : finger_(JoystickLeftStickSl
 
 void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem* item, const QPointF& stick) {
   if (!item) return;  // the stick's name is mapped to an item of another class
+  const unsigned turn = events_.Begin();
   stick_item_ = *item;
   stop_timer_.stop();
   if (stick.isNull()) return OnRest();
@@ -48,7 +49,8 @@ void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem* item, co
   const QSize display = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   const QPoint centre(Truncate(display.width() * item->rel_x), Truncate(display.height() * item->rel_y));
   const bool is_fresh = !finger_->HasTouch();
-  if (is_fresh) PutDown(centre);
+  if (is_fresh && !events_.IsOver(turn)) PutDown(centre);
+  if (events_.IsOver(turn)) return;  // a newer event says where the stick is
   // Both axes count in widths: the stick is round in pixels.
   const QPoint target = Moved(centre, Truncate(item->walk_radius * stick.x() * display.width()),
                               Truncate(item->walk_radius * stick.y() * display.width()));
@@ -57,23 +59,26 @@ void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem* item, co
 
 void LeftStickWalkSyncWorker::OnRest() {
   if (stick_item_.delayed_stop) return stop_timer_.start(std::max(0, stick_item_.stop_delay_ms));
-  LiftFinger();
   walk_enabled_ = true;
+  LiftFinger();
 }
 
 void LeftStickWalkSyncWorker::onStopTimerOutTime() {
-  LiftFinger();
+  const int settle_ms = stick_item_.stop_settle_ms;
   walk_enabled_ = true;
   stop_timer_.stop();
-  Clock::Sleep(stick_item_.stop_settle_ms);
+  LiftFinger();
+  Clock::Sleep(settle_ms);
 }
 
 void LeftStickWalkSyncWorker::PutDown(const QPoint& centre) {
+  const int pause_ms = stick_item_.smooth_start ? stick_item_.press_hold_ms : kPressMs;
   MoveFinger(centre);
-  Clock::Sleep(stick_item_.smooth_start ? stick_item_.press_hold_ms : kPressMs);
+  Clock::Sleep(pause_ms);
 }
 
 void LeftStickWalkSyncWorker::DrawTo(const QPoint& target, bool jumps) {
+  const unsigned turn = events_.Current();
   const QPoint from = finger_->position;
   const QLineF line(from, target);
   const double length = line.length();
@@ -83,8 +88,8 @@ void LeftStickWalkSyncWorker::DrawTo(const QPoint& target, bool jumps) {
   const double step =
       DisplayGeometry::GetInstance()->GetDisplayRect().width() * stick_item_.walk_radius / kStepsPerRadius;
   const auto step_to = [&](const QPoint& position) {
-    MoveFinger(position);
-    Clock::Sleep(kStepMs);
+    if (!events_.IsOver(turn)) MoveFinger(position);
+    if (!events_.IsOver(turn)) Clock::Sleep(kStepMs);
   };
 
   double distance = step;
@@ -102,6 +107,7 @@ void LeftStickWalkSyncWorker::DrawTo(const QPoint& target, bool jumps) {
 }
 
 void LeftStickWalkSyncWorker::StopWalk() {
+  events_.Begin();
   if (finger_->HasTouch()) walk_enabled_ = false;
   LiftFinger();
 }

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 #include "keymap/joystick_left_walk_config_item.h"
 
 namespace taviinputmanager {
@@ -48,6 +49,7 @@ class LeftStickWalkSyncWorker : public EventHandler {
   JoystickLeftStickSlotManager* finger_;                      // the singleton
   tavikeymapmanager::JoystickLeftWalkConfigItem stick_item_;  // seen last
   bool walk_enabled_ = true;                                  // false: waits for the stick's rest
+  Turns events_;                                              // a newer one ends a run of steps
   QTimer stop_timer_;                                         // from the stick's rest to the lift
 };
 

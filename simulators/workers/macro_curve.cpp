@@ -24,11 +24,13 @@ bool MacroCurve::Start(const QString& list) {
 }
 
 LineBuffer MacroCurve::BuildNextPress() {
-  const QPointF point = ReadMacroPoint(points_.at(index_++));
+  const int slot = slot_;
+  const QString element = points_.at(index_++);
+  const QPointF point = ReadMacroPoint(element);
   if (point.isNull()) return {};  // no point: the finger rests
   const auto touch = MacroPointToTouch(point);
-  if (!touch) return {};  // no display
-  return guest_command::SlotMultiPress({{slot_, touch->x(), touch->y()}});
+  if (!touch || slot_ != slot) return {};  // no display, or one whose host ended the curve as it answered
+  return guest_command::SlotMultiPress({{slot, touch->x(), touch->y()}});
 }
 
 LineBuffer MacroCurve::BuildRelease() {

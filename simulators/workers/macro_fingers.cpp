@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QVarLengthArray>
+
 #include "core/guest_command.h"
 #include "slots/macro_slot_manager.h"
 
@@ -11,21 +13,40 @@ namespace taviinputmanager {
 using guest_command::Contacts;
 using guest_command::Slots;
 
+namespace {
+
+// Where a finger goes.
+struct Place {
+  QPointF point;
+  QPoint touch;
+  bool is_mouse;
+};
+
+// All before the first finger is taken: asking the host may lead to another macro's taking one.
+QVarLengthArray<Place, MacroSlotManager::kSlotCount> PlacesOf(const MacroPoints& list) {
+  QVarLengthArray<Place, MacroSlotManager::kSlotCount> places;
+  for (const MacroPoint& element : list.elements) {
+    const QPointF point = element.Now();
+    if (point.isNull()) continue;  // no point
+    const auto touch = MacroPointToTouch(point);
+    if (touch) places.append({point, *touch, element.is_mouse});  // else there is no display
+  }
+  return places;
+}
+
+}  // namespace
+
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   // At the end each press lifts one finger that its point has. A loop may press for hours, and more fingers than the
   // pool has cannot hold one point.
   if (pressed_points_.count(list.text) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
   Contacts contacts;
-  for (const MacroPoint& element : list.elements) {
-    const QPointF point = element.Now();
-    if (point.isNull()) continue;  // no point
-    const auto touch = MacroPointToTouch(point);
-    if (!touch) continue;  // no display
-    const int slot = pool->Allocate(point);
+  for (const Place& place : PlacesOf(list)) {
+    const int slot = pool->Allocate(place.point);
     if (slot == SlotManager::kNoSlot) continue;  // all fingers of macros are down
-    contacts.append({slot, touch->x(), touch->y()});
-    if (element.is_mouse) mouse_point_ = point;
+    contacts.append({slot, place.touch.x(), place.touch.y()});
+    if (place.is_mouse) mouse_point_ = place.point;
   }
   return contacts.isEmpty() ? LineBuffer() : guest_command::SlotMultiPress(contacts);
 }

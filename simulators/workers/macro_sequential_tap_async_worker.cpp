@@ -46,7 +46,8 @@ void RequestScreenshot(const QString& text) {
   if (callbacks && callbacks->OnScreenshotRequest) callbacks->OnScreenshotRequest(text);
 }
 
-void SwitchMouseLock(const QString& key_name) {
+// A copy of the name: the host may press the next key before it reads it.
+void SwitchMouseLock(QString key_name) {  // NOLINT(performance-unnecessary-value-param)
   const InputManager* manager = InputManager::GetInstance();
   // There the Staring item's key does it.
   if (manager->isConfigHasSpeicalTypeKey(tavikeymapmanager::keywords::kTypeStaring)) return;
@@ -73,7 +74,10 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
   const Program program = Read(&press_program_, item->press_commands);
   const Program release = Read(&release_program_, item->release_commands);
   if (program->HasLoopUntilRelease() || release->HasLoopUntilRelease()) has_until_release_ = true;
+  const unsigned list = lists_.Current();
   TellOperationStarted(*item, *program);
+  if (lists_.IsOver(list)) return;  // the host let go of the key, whose release has a list of its own
+  state_ = State::kPress;
   StopList();
   RunList(program);
 }
@@ -138,6 +142,7 @@ void MacroSequentialTapAsyncWorker::RunList(const Program& program) {
     state_ = State::kFinished;
     return;
   }
+  lists_.Begin();
   program_ = program;
   command_index_ = 0;
   default_sleep_ = kDefaultSleepMs;
@@ -193,8 +198,9 @@ bool MacroSequentialTapAsyncWorker::Pause(int ms) {
 // ---- Fingers and loops ----
 
 bool MacroSequentialTapAsyncWorker::Click(const MacroPoints& list) {
-  SendEvent(fingers_.Press(list));
+  const LineBuffer press = fingers_.Press(list);
   click_points_ = list;
+  SendEvent(press);
   return Pause(default_sleep_);
 }
 
@@ -207,8 +213,8 @@ bool MacroSequentialTapAsyncWorker::DrawCurve(const QString& list) {
 void MacroSequentialTapAsyncWorker::ReleaseAll() {
   const LineBuffer release = MacroFingers::ReleaseAll();
   if (release.isEmpty()) return;  // no finger was down; the settings of the next curve stay too
-  SendEvent(release);
   curve_.Clear();
+  SendEvent(release);
 }
 
 void MacroSequentialTapAsyncWorker::Switch(const MacroPoints& list) {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/turns.h"
 #include "simulators/workers/macro_async_worker.h"
 #include "simulators/workers/macro_curve.h"
 #include "simulators/workers/macro_fingers.h"
@@ -81,6 +82,7 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   Program press_program_;  // of the last press
   Program release_program_;
   Program program_;        // the one in progress, or none
+  Turns lists_;            // one begins as a list does
   int command_index_ = 0;  // of the next command
   int default_sleep_ = kDefaultSleepMs;
   MacroLoop loop_;

@@ -40,7 +40,7 @@ void ObserveSyncWorker::OnObservePress(const ConfigItem* item) {
   observe_centre_ = {Round(display.width() * observe->rel_x), Round(display.height() * observe->rel_y)};
   LiftFinger();
   Clock::Sleep(kLiftMs);
-  Q_EMIT sigSubscribeWmRelativeInputEvent();
+  if (observe_item_) Q_EMIT sigSubscribeWmRelativeInputEvent();  // else the host let go of the key meanwhile
 }
 
 void ObserveSyncWorker::OnObserveRelativeInput(int dx, int dy) {
@@ -54,8 +54,8 @@ void ObserveSyncWorker::OnObserveRelativeInput(int dx, int dy) {
   } else {
     finger->position = observe_centre_;
   }
-  SendEvent(finger->UpdateLine());
   last_send_ms_ = now;
+  SendEvent(finger->UpdateLine());
 }
 
 void ObserveSyncWorker::MoveFinger() {
@@ -68,9 +68,9 @@ void ObserveSyncWorker::MoveFinger() {
 }
 
 void ObserveSyncWorker::OnObserveRelease() {
-  LiftFinger();
-  Q_EMIT sigUnSubscribeWmRelativeInputEvent();
   observe_item_.reset();
+  Q_EMIT sigUnSubscribeWmRelativeInputEvent();
+  LiftFinger();
 }
 
 void ObserveSyncWorker::LiftFinger() {

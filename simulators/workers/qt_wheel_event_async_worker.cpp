@@ -47,8 +47,8 @@ void QtWheelEventAsyncWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) 
   if (IsRunning()) return;  // the swipe goes on from where it is
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
   finger->position = RoundedPoint(event->position());
-  SendEvent(finger->UpdateLine());
   timer_->start(kTickMs);
+  SendEvent(finger->UpdateLine());
 }
 
 bool QtWheelEventAsyncWorker::IsRunning() const { return timer_->isActive(); }
@@ -57,14 +57,13 @@ void QtWheelEventAsyncWorker::TimerOutTime() {
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
   if (ticks_ == 0) {
     finger->Reset();
-    SendEvent(finger->UpdateLine());
     timer_->stop();
-    return;
+    return SendEvent(finger->UpdateLine());
   }
   const int direction = ticks_ > 0 ? 1 : -1;
   finger->position.setY(Truncate(finger->position.y() + direction * static_cast<double>(step_)));
-  SendEvent(finger->UpdateLine());
   ticks_ -= direction;
+  SendEvent(finger->UpdateLine());
 }
 
 }  // namespace taviinputmanager

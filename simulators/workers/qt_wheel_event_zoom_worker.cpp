@@ -110,8 +110,8 @@ void QtWheelEventZoomWorker::StartPinch(const QPoint& center) {
   finger_b_ = Sum(center, Mirrored(arm));
   const double angle = angle_degrees_ * kRadiansOfDegree;
   step_ = QPoint(Round(Unit() * std::cos(angle)), NegateSaturated(Round(Unit() * std::sin(angle))));
-  SendPinch();
   timer_->start(std::max(0, first_interval_ms_));
+  SendPinch();
 }
 
 void QtWheelEventZoomWorker::TimerOutTime() {
@@ -130,14 +130,15 @@ void QtWheelEventZoomWorker::TimerOutTime() {
 void QtWheelEventZoomWorker::MoveApart() {
   MoveFingers(-1);
   if (!IsWithinBounds()) return EndPinch();
-  GoOn();
   --ticks_;
+  GoOn();
 }
 
 void QtWheelEventZoomWorker::MoveTogether() {
   MoveFingers(1);
-  IsWithinBounds() ? GoOn() : EndPinch();
-  ++ticks_;  // also behind the end
+  if (!IsWithinBounds()) return EndPinch();
+  ++ticks_;
+  GoOn();
 }
 
 // 1 moves finger a right and down the line, towards the pointer; -1 away from it.
@@ -154,8 +155,8 @@ bool QtWheelEventZoomWorker::IsWithinBounds() const {
 }
 
 void QtWheelEventZoomWorker::GoOn() {
-  SendPinch();
   timer_->start(std::max(0, tick_ms_));
+  SendPinch();
 }
 
 void QtWheelEventZoomWorker::EndPinch() {

@@ -26,24 +26,26 @@ RightStickEyeSyncWorker::RightStickEyeSyncWorker() : finger_(JoystickRightStickS
 
 void RightStickEyeSyncWorker::OnStick(const JoystickRightEyeConfigItem* item, const QPointF& stick) {
   if (!item) return;  // the stick's name is mapped to an item of another class
+  const unsigned turn = events_.Begin();
   if (stick.isNull()) {
     finger_->Reset();
   } else {
     if (finger_->HasTouch()) {
       MoveBy(stick);
     } else {
-      PutDown(*item);
+      LayOut(*item);
+      if (events_.IsOver(turn)) return;  // a newer event came from inside the host's answer
+      finger_->position = range_.GetCentre();
     }
     range_.Apply(finger_, item->auto_reset, item->range_mode);
   }
   SendEvent(finger_->UpdateLine());
 }
 
-void RightStickEyeSyncWorker::PutDown(const JoystickRightEyeConfigItem& item) {
+void RightStickEyeSyncWorker::LayOut(const JoystickRightEyeConfigItem& item) {
   range_.Prepare({item.rel_x, item.rel_y}, item.range_size);
   display_width_ = DisplayGeometry::GetInstance()->GetDisplayRect().width();
   stick_sensitivity_ = item.sensitivity / 100.0;
-  finger_->position = range_.GetCentre();
 }
 
 void RightStickEyeSyncWorker::MoveBy(const QPointF& stick) {

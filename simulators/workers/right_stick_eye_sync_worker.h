@@ -3,6 +3,7 @@
 #define SIMULATORS_WORKERS_RIGHT_STICK_EYE_SYNC_WORKER_H_
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 #include "simulators/workers/staring_range.h"
 
 class QPointF;
@@ -29,13 +30,15 @@ class RightStickEyeSyncWorker : public EventHandler {
  private:
   RightStickEyeSyncWorker();
 
-  void PutDown(const tavikeymapmanager::JoystickRightEyeConfigItem& item);
+  // Before the finger goes down.
+  void LayOut(const tavikeymapmanager::JoystickRightEyeConfigItem& item);
   void MoveBy(const QPointF& stick);
 
   JoystickRightStickSlotManager* finger_;  // the singleton
   StaringRange range_;
   double stick_sensitivity_ = 0;  // 1 is the item's 100 per cent
   int display_width_ = 0;         // pixels
+  Turns events_;
 };
 
 }  // namespace taviinputmanager

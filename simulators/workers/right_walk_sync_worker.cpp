@@ -62,31 +62,36 @@ void RightWalkSyncWorker::Press(const MouseRightWalkConfigItem* item, QMouseEven
     finger_->TouchLastMove();
   }
   if (!walk_item_) return;  // no walk to steer
+  const unsigned turn = events_.Begin();
   const QSize display = DisplaySize();
-  if (display.isEmpty()) return;  // nowhere to walk
+  if (display.isEmpty() || events_.IsOver(turn)) return;  // nowhere to walk, or a newer event says where
   const QPoint target = TargetOf(*walk_item_, event, display);
   if (finger_->HasTouch()) return MoveFinger(target);
-  if (item) SlideTo(target, display);
+  if (item) SlideTo(*item, target, display);
 }
 
-void RightWalkSyncWorker::SlideTo(const QPoint& target, const QSize& display) {
-  const MouseRightWalkConfigItem& item = *walk_item_;
-  MoveFinger({Truncate(display.width() * item.rel_x), Truncate(display.height() * item.rel_y)});
-  Clock::Sleep(item.press_hold_ms);
+void RightWalkSyncWorker::SlideTo(const MouseRightWalkConfigItem& item, const QPoint& target, const QSize& display) {
+  const unsigned turn = events_.Current();
+  const auto slide = [&](const QPoint& position, int pause_ms) {
+    if (!events_.IsOver(turn)) MoveFinger(position);
+    if (!events_.IsOver(turn)) Clock::Sleep(pause_ms);
+  };
+  slide({Truncate(display.width() * item.rel_x), Truncate(display.height() * item.rel_y)}, item.press_hold_ms);
   const QPointF centre = RoundedCentre(item, display);
   const QPointF way = target - centre;
   for (int i = 1; i < item.swipe_steps; ++i) {
-    MoveFinger(
-        {Round(centre.x() + i * way.x() / item.swipe_steps), Round(centre.y() + i * way.y() / item.swipe_steps)});
-    Clock::Sleep(item.swipe_step_ms);
+    slide({Round(centre.x() + i * way.x() / item.swipe_steps), Round(centre.y() + i * way.y() / item.swipe_steps)},
+          item.swipe_step_ms);
   }
-  MoveFinger(target);
+  slide(target, 0);
 }
 
 void RightWalkSyncWorker::Release(const MouseRightWalkConfigItem* item, QMouseEvent* event) {
+  const unsigned turn = events_.Begin();
   const bool is_short_click = finger_->ElapsedSinceLastMove() < kShortClickMs && finger_->HasTouch();
   if (!item || !is_short_click) return StopWalk();
   const double distance = DistanceOf(*item, event);
+  if (events_.IsOver(turn)) return;
   if (!std::isfinite(distance)) return StopWalk();  // a stick or display of no size: no time follows from it
   if (distance <= 1.0) return StopWalk();           // the click was on the character
   continue_timer_.start(std::max(0, Truncate(distance * kWalkMsPerRadius * item->continue_factor)));
@@ -102,10 +107,11 @@ void RightWalkSyncWorker::OnMouseMove(QMouseEvent* event) {
 }
 
 void RightWalkSyncWorker::StopWalk() {
+  events_.Begin();
   continue_timer_.stop();
   finger_->Reset();
-  SendEvent(finger_->UpdateLine());
   walk_item_.reset();
+  SendEvent(finger_->UpdateLine());
 }
 
 void RightWalkSyncWorker::MoveFinger(const QPoint& position) {

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 #include "keymap/mouse_right_walk_config_item.h"
 
 class QMouseEvent;
@@ -48,12 +49,13 @@ class RightWalkSyncWorker : public EventHandler {
 
   // How far the character has to go, in radii of the stick.
   static double DistanceOf(const tavikeymapmanager::MouseRightWalkConfigItem& item, const QMouseEvent* event);
-  void SlideTo(const QPoint& target, const QSize& display);
+  void SlideTo(const tavikeymapmanager::MouseRightWalkConfigItem& item, const QPoint& target, const QSize& display);
   void MoveFinger(const QPoint& position);
 
   MouseSwipeholdSlotManager* finger_;  // the singleton
   QTimer continue_timer_;              // runs while a short click walks on; its timeout stops it
   std::optional<tavikeymapmanager::MouseRightWalkConfigItem> walk_item_;  // of the walk in force
+  Turns events_;                                                          // a newer one ends a slide
 };
 
 }  // namespace taviinputmanager

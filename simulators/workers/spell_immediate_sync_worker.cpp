@@ -15,8 +15,9 @@ void SpellImmediateSyncWorker::Press(SpellConfigItem* item, bool from_joystick) 
   if (IsActive()) return;  // held already
   StoreItem(*item);
   SetFromJoystick(from_joystick);
-  MoveFinger(PressPoint(item));
-  ChangeSpellState(kSpellAiming, item);
+  const unsigned cast = CurrentCast();
+  StepTo(PressPoint(item), 0, cast);
+  if (!IsCastOver(cast)) ChangeSpellState(kSpellAiming, item);
 }
 
 void SpellImmediateSyncWorker::Release(SpellConfigItem* item, bool /*from_joystick*/) { CastOnRelease(item); }

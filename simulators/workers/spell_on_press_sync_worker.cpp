@@ -15,21 +15,27 @@ SpellOnPressSyncWorker* SpellOnPressSyncWorker::GetInstance() {
 void SpellOnPressSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
   if (!IsActive()) StoreItem(*item);
   SetFromJoystick(from_joystick);
+  const unsigned cast = CurrentCast();
   const QPoint button = PressPoint(item);
   const QPoint target = CalculateTargetPoint(item);
+  if (IsCastOver(cast)) return;
   if (item->touch_location == keywords::kLocationMouse) {
     SwipeToTarget(item, button, target);
-    LiftFinger();
-    AfterCast(item);
-    DropItem();
+    if (End(cast)) AfterCast(item);
   } else if (item->touch_location == keywords::kLocationInnerSwipehold) {
     MoveFinger(target);
-    LiftFinger();
-    DropItem();
+    End(cast);
   } else if (item->touch_location == keywords::kLocationSwipehold) {
     MoveFinger(button);
-    ChangeSpellState(kSpellAiming, item);
+    if (!IsCastOver(cast)) ChangeSpellState(kSpellAiming, item);
   }
+}
+
+bool SpellOnPressSyncWorker::End(unsigned cast) {
+  if (IsCastOver(cast)) return false;
+  DropItem();
+  LiftFinger();
+  return true;
 }
 
 void SpellOnPressSyncWorker::Release(SpellConfigItem* /*item*/, bool /*from_joystick*/) {}
@@ -48,11 +54,12 @@ void SpellOnPressSyncWorker::OnRelativeInput(int /*dx*/, int /*dy*/) {}
 
 void SpellOnPressSyncWorker::OnSwipeholdTargetPoint(QPointF point) {
   if (!IsActive() || IsFromJoystick() || GetSpellState() != kSpellAiming) return;
+  const unsigned cast = CurrentCast();
   const QPoint target = WalkPoint(point);
+  if (IsCastOver(cast)) return;
   ChangeSpellState(kSpellCast);
   MoveFinger(target);
-  LiftFinger();
-  DropItem();
+  End(cast);
 }
 
 }  // namespace taviinputmanager

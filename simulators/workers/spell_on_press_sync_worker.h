@@ -27,6 +27,9 @@ class SpellOnPressSyncWorker : public SpellSyncWorker {
 
  private:
   SpellOnPressSyncWorker() = default;
+
+  // The end of `cast`. False, and nothing, where it is over already.
+  bool End(unsigned cast);
 };
 
 }  // namespace taviinputmanager

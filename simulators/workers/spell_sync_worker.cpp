@@ -31,21 +31,24 @@ SpellSyncWorker::~SpellSyncWorker() = default;
 void SpellSyncWorker::PressAndAim(SpellConfigItem* item, bool from_joystick) {
   StoreItem(*item);
   SetFromJoystick(from_joystick);
-  if (from_joystick) {
-    MoveFinger(PressPoint(item));
-  } else if (spell_aim::IsAimedByWalk(*item)) {
-    MoveFinger(CalculateTargetPoint(item));
+  const unsigned cast = CurrentCast();
+  const QPoint button = PressPoint(item);
+  const QPoint target = from_joystick ? button : CalculateTargetPoint(item);
+  if (IsCastOver(cast)) return;
+  if (from_joystick || spell_aim::IsAimedByWalk(*item)) {
+    MoveFinger(target);
   } else {
-    const QPoint target = CalculateTargetPoint(item);
-    SwipeToTarget(item, PressPoint(item), target);
+    SwipeToTarget(item, button, target);
   }
-  ChangeSpellState(kSpellAiming, item);
+  if (!IsCastOver(cast)) ChangeSpellState(kSpellAiming, item);
 }
 
 void SpellSyncWorker::CastOnRelease(SpellConfigItem* item) {
   if (!spell_item_) return;
   if (!tavikeymapmanager::IsSameKey(spell_item_->key, item->key)) return;
+  const unsigned cast = CurrentCast();
   ChangeSpellState(kSpellCast);
+  if (IsCastOver(cast)) return;
   DropItem();
   LiftFinger();
   AfterCast(item);
@@ -53,7 +56,10 @@ void SpellSyncWorker::CastOnRelease(SpellConfigItem* item) {
 
 void SpellSyncWorker::FinishAiming() {
   if (!spell_item_) return;
-  MoveFinger(PressPoint(spell_item_.get()));
+  const Item item = spell_item_;
+  const unsigned cast = CurrentCast();
+  MoveFinger(PressPoint(item.get()));
+  if (IsCastOver(cast)) return;
   ChangeSpellState(kSpellFinished);
   LiftFinger();
 }
@@ -63,14 +69,17 @@ void SpellSyncWorker::Cancel(SpellCancelConfigItem* item) {
   if (log->IsDebugOn()) log->Debug("simulate spell cancel event");
   if (!spell_item_) return;
 
+  const Item in_force = spell_item_;
+  const unsigned cast = CurrentCast();
   const QPoint from = SpellSlotManager::GetInstance()->position;
   if (!from.isNull()) {
     const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
     const QPoint to(Truncate(display.width() * item->rel_x), Truncate(display.height() * item->rel_y));
-    SwipeToCancel(spell_item_.get(), from, to);
-    LiftAfter(item->cancel_delay_ms);
+    if (!IsCastOver(cast)) SwipeToCancel(in_force.get(), from, to);
   }
+  if (IsCastOver(cast)) return;
   DropItem();  // the state stays, and with it what the aim subscribed to
+  if (!from.isNull()) LiftAfter(item->cancel_delay_ms);
 }
 
 void SpellSyncWorker::LiftAfter(int delay_ms) {
@@ -83,20 +92,26 @@ void SpellSyncWorker::LiftAfter(int delay_ms) {
 }
 
 void SpellSyncWorker::CancelTimerOutTime() {
-  LiftFinger();
   cancel_timer_->stop();
+  LiftFinger();
 }
 
 void SpellSyncWorker::ForceStop() {
+  ChangeSpellState(kSpellFinished);  // which sends nothing
   LiftFinger();
-  ChangeSpellState(kSpellFinished);
 }
 
 bool SpellSyncWorker::IsActive() const { return spell_item_ != nullptr; }
 
-void SpellSyncWorker::StoreItem(const SpellConfigItem& item) { spell_item_ = std::make_unique<SpellConfigItem>(item); }
+void SpellSyncWorker::StoreItem(const SpellConfigItem& item) {
+  casts_.Begin();
+  spell_item_ = std::make_shared<SpellConfigItem>(item);
+}
 
-void SpellSyncWorker::DropItem() { spell_item_.reset(); }
+void SpellSyncWorker::DropItem() {
+  casts_.Begin();
+  spell_item_.reset();
+}
 
 void SpellSyncWorker::ChangeSpellState(int state, SpellConfigItem* pressed) {
   if (state != kSpellAiming && state != kSpellCast && state != kSpellFinished) return;
@@ -144,26 +159,31 @@ void SpellSyncWorker::LiftFinger() {
   SendEvent(slot->UpdateLine());
 }
 
-void SpellSyncWorker::SwipeToTarget(const SpellConfigItem* item, const QPoint& from, const QPoint& to) {
-  if (!item) return;
-  MoveFinger(from);
-  if (item->mode == keywords::kModeCurve && item->curve_enabled) {
-    SwipeAlongCurve(*item, from, to);
-  } else {
-    Clock::Sleep(item->press_hold_ms);
-  }
-  for (int i = 1; i < item->swipe_steps; ++i) {
-    MoveFinger(spell_aim::StepBetween(from, to, i, item->swipe_steps));
-    Clock::Sleep(item->swipe_step_ms);
-  }
-  MoveFinger(to);
+void SpellSyncWorker::StepTo(const QPoint& point, int pause_ms, unsigned cast) {
+  if (!IsCastOver(cast)) MoveFinger(point);
+  if (!IsCastOver(cast)) Clock::Sleep(pause_ms);
 }
 
-void SpellSyncWorker::SwipeAlongCurve(const SpellConfigItem& item, const QPoint& from, const QPoint& to) {
+void SpellSyncWorker::SwipeToTarget(const SpellConfigItem* item, const QPoint& from, const QPoint& to) {
+  if (!item) return;
+  const unsigned cast = CurrentCast();
+  if (item->mode == keywords::kModeCurve && item->curve_enabled) {
+    StepTo(from, 0, cast);
+    SwipeAlongCurve(*item, from, to, cast);
+  } else {
+    StepTo(from, item->press_hold_ms, cast);
+  }
+  for (int i = 1; i < item->swipe_steps; ++i) {
+    StepTo(spell_aim::StepBetween(from, to, i, item->swipe_steps), item->swipe_step_ms, cast);
+  }
+  StepTo(to, 0, cast);
+}
+
+void SpellSyncWorker::SwipeAlongCurve(const SpellConfigItem& item, const QPoint& from, const QPoint& to,
+                                      unsigned cast) {
   const QSize display = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   for (int i = 1; i < item.curve_steps; ++i) {
-    MoveFinger(spell_aim::CurvePoint(item, from, to, i, display));
-    Clock::Sleep(item.curve_step_ms);
+    StepTo(spell_aim::CurvePoint(item, from, to, i, display), item.curve_step_ms, cast);
   }
 }
 
@@ -172,9 +192,9 @@ void SpellSyncWorker::SwipeToCancel(const SpellConfigItem* item, const QPoint& f
   // By a step of one length, as a fire finger's swipe: half pixels may fall to the other side than in a cast's.
   const double step_x = (static_cast<double>(to.x()) - from.x()) / item->swipe_steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / item->swipe_steps;
+  const unsigned cast = CurrentCast();
   for (qint64 i = 1; i <= item->swipe_steps; ++i) {
-    MoveFinger({Round(from.x() + i * step_x), Round(from.y() + i * step_y)});
-    Clock::Sleep(item->swipe_step_ms);
+    StepTo({Round(from.x() + i * step_x), Round(from.y() + i * step_y)}, item->swipe_step_ms, cast);
   }
 }
 

@@ -8,6 +8,7 @@
 #include <QPointF>
 
 #include "core/event_handler.h"
+#include "core/turns.h"
 #include "simulators/workers/one_off_offset.h"
 #include "simulators/workers/relative_counts.h"
 
@@ -35,7 +36,8 @@ enum SpellState : int {
 //
 // Main thread. Presses, cancels and stick events block it for as long as their swipes take. An item passed in is the
 // keymap's and valid during the call. The item in force is a copy of it, since a cast may outlive its keymap: a cancel
-// runs on through a load, and a joystick keymap goes without a reset.
+// runs on through a load, and a joystick keymap goes without a reset. It may also go, or be another one, after each
+// line and each question to the host: a swipe whose cast is not in force any more stops where it is.
 class SpellSyncWorker : public EventHandler {
   Q_OBJECT
 
@@ -112,24 +114,33 @@ class SpellSyncWorker : public EventHandler {
   // Puts a copy of `item` in force.
   void StoreItem(const tavikeymapmanager::SpellConfigItem& item);
   void DropItem();
+  // For those that go on after a line or a question.
+  unsigned CurrentCast() const { return casts_.Current(); }
+  bool IsCastOver(unsigned cast) const { return casts_.IsOver(cast); }
   bool IsFromJoystick() const { return from_joystick_; }
   void SetFromJoystick(bool from_joystick) { from_joystick_ = from_joystick; }
   SpellState GetSpellState() const { return spell_state_; }
 
   // ---- The finger; display pixels ----
   void LiftFinger();
+  // Puts the finger there, and blocks; nothing once `cast` is over.
+  void StepTo(const QPoint& point, int pause_ms, unsigned cast);
   // Where the item in force sends the finger for a direction of the walk.
   QPoint WalkPoint(const QPointF& direction) const;
 
  private:
   void BeginAim(tavikeymapmanager::SpellConfigItem* pressed);
   void EndAim(bool not_sync_data);
-  void SwipeAlongCurve(const tavikeymapmanager::SpellConfigItem& item, const QPoint& from, const QPoint& to);
+  void SwipeAlongCurve(const tavikeymapmanager::SpellConfigItem& item, const QPoint& from, const QPoint& to,
+                       unsigned cast);
   void LiftAfter(int delay_ms);
   // The finger on its way to `target`, in steps of that many pixels. Blocks for the time of the way.
-  void SlideTowards(const QPoint& target, double step);
+  void SlideTowards(const QPoint& target, double step, unsigned cast);
 
-  std::unique_ptr<tavikeymapmanager::SpellConfigItem> spell_item_;
+  using Item = std::shared_ptr<tavikeymapmanager::SpellConfigItem>;
+
+  Item spell_item_;  // also held by each operation that works with it
+  Turns casts_;      // one begins as the item changes
   bool from_joystick_ = false;
   SpellState spell_state_ = kSpellFinished;
   QTimer* cancel_timer_;

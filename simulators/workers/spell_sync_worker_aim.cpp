@@ -39,8 +39,9 @@ QPoint SpellSyncWorker::PressPoint(const SpellConfigItem* item) {
 }
 
 QPoint SpellSyncWorker::WalkPoint(const QPointF& direction) const {
+  const Item item = spell_item_;
   const QSize display = DisplaySize();
-  return spell_aim::WalkTarget(*spell_item_, direction, spell_aim::PressPoint(*spell_item_, display), display);
+  return spell_aim::WalkTarget(*item, direction, spell_aim::PressPoint(*item, display), display);
 }
 
 QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem* item) {
@@ -61,35 +62,40 @@ QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem* item) {
 
 void SpellSyncWorker::Follow() {
   if (!spell_item_ || from_joystick_) return;
-  MoveFinger(CalculateTargetPoint(spell_item_.get()));
+  const Item item = spell_item_;
+  const unsigned cast = CurrentCast();
+  StepTo(CalculateTargetPoint(item.get()), 0, cast);
 }
 
 void SpellSyncWorker::OnRelativeInput(int dx, int dy) {
   if (!spell_item_ || from_joystick_) return;
   accumulated_.Add(dx, dy);
+  const Item item = spell_item_;
+  const unsigned cast = CurrentCast();
   const QSize display = DisplaySize();
-  const QPoint button = spell_aim::PressPoint(*spell_item_, display);
+  const QPoint button = spell_aim::PressPoint(*item, display);
   const QPointF sensitivity = StaringWmRelativeInputWorker::GetInstance()->GetEffectiveSensitivity();
-  if (spell_item_->offset_enabled) {
+  if (item->offset_enabled) {
     const double h = display.height();
-    spell_offset_.OnMovement(accumulated_, sensitivity, h * spell_item_->offset_threshold,
-                             h * spell_item_->offset_length);
+    spell_offset_.OnMovement(accumulated_, sensitivity, h * item->offset_threshold, h * item->offset_length);
   }
   const QPoint way = Sum(spell_offset_.Get(), accumulated_.ToPixels(sensitivity));
-  MoveFinger(spell_aim::LimitToSquare(*spell_item_, Sum(button, way), button, display));
+  StepTo(spell_aim::LimitToSquare(*item, Sum(button, way), button, display), 0, cast);
 }
 
 void SpellSyncWorker::OnJoystickAxis(JoystickAxisEvent* event) {
   if (!spell_item_ || !from_joystick_) return;
+  const Item item = spell_item_;
+  const unsigned cast = CurrentCast();
   const QSize display = DisplaySize();
-  const QPoint button = spell_aim::PressPoint(*spell_item_, display);
-  const QPoint target = spell_aim::StickTarget(*spell_item_, {event->x, event->y}, button, display);
+  const QPoint button = spell_aim::PressPoint(*item, display);
+  const QPoint target = spell_aim::StickTarget(*item, {event->x, event->y}, button, display);
 
-  SlideTowards(target, display.width() * spell_item_->swipe_radius * kStickStep);
-  MoveFinger(target);
+  SlideTowards(target, display.width() * item->swipe_radius * kStickStep, cast);
+  StepTo(target, 0, cast);
 }
 
-void SpellSyncWorker::SlideTowards(const QPoint& target, double step) {
+void SpellSyncWorker::SlideTowards(const QPoint& target, double step, unsigned cast) {
   const QPoint from = SpellSlotManager::GetInstance()->position;
   const QLineF way(from, target);
   const double length = way.length();
@@ -98,14 +104,14 @@ void SpellSyncWorker::SlideTowards(const QPoint& target, double step) {
   const double cos = std::cos(angle);
   const double sin = -std::sin(angle);  // angles turn upwards, pixels count downwards
   for (double d = step; d < length; d += step) {
-    MoveFinger(Sum(from, {Truncate(cos * d), Truncate(sin * d)}));
-    Clock::Sleep(kStickStepMs);
+    StepTo(Sum(from, {Truncate(cos * d), Truncate(sin * d)}), kStickStepMs, cast);
   }
 }
 
 void SpellSyncWorker::OnSwipeholdTargetPoint(QPointF point) {
   if (!spell_item_ || from_joystick_ || spell_item_->touch_location != keywords::kLocationSwipehold) return;
-  MoveFinger(WalkPoint(point));
+  const unsigned cast = CurrentCast();
+  StepTo(WalkPoint(point), 0, cast);
 }
 
 }  // namespace taviinputmanager

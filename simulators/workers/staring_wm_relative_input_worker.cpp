@@ -69,8 +69,8 @@ void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigIte
     finger->position = centre;
     accumulated_ = {};
   }
-  ApplyStaringRange(item);
   last_send_ms_ = now;
+  ApplyStaringRange(item);
 }
 
 void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem* item) {
@@ -83,8 +83,8 @@ void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem* it
 void StaringWmRelativeInputWorker::OnPerioidAutoResetTimerOutOfTime() {
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   finger->Reset();
-  SendEvent(finger->UpdateLine());
   last_send_ms_ = Clock::NowMs();
+  SendEvent(finger->UpdateLine());
 }
 
 }  // namespace taviinputmanager

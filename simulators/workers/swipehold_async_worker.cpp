@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/clock.h"
+#include "core/line_buffer.h"
 #include "core/numbers.h"
 #include "keymap/keymap_functions.h"
 #include "simulators/direction_of_key.h"
@@ -90,12 +91,15 @@ void SwipeholdAsyncWorker::ReplayDirections(QPoint flags) {
       Slot()->DiffDirections(static_cast<quint32>(flags.x()), static_cast<quint32>(flags.y()));
   if (directions.isEmpty()) return;
   ClearAll();
+  // All before the first line: a key that is released from inside a send must find itself held.
   for (const int direction : directions) {
     // As if from the keyboard, whatever the device of the configured key.
-    ConfigKey key = tavikeymapmanager::CreateConfigKey(keywords::kDeviceKeyboard, tavikeymapmanager::kUnsetCode,
-                                                       KeyOf(direction).scancode);
-    Press(&*item_, &key);
+    ApplyKey(*item_,
+             tavikeymapmanager::CreateConfigKey(keywords::kDeviceKeyboard, tavikeymapmanager::kUnsetCode,
+                                                KeyOf(direction).scancode),
+             true);
   }
+  StartWalk();
 }
 
 void SwipeholdAsyncWorker::SetItem(const SwipeholdConfigItem* item) {
@@ -131,7 +135,8 @@ void SwipeholdAsyncWorker::FollowKeys(const QString& subsequent_mode) {
 void SwipeholdAsyncWorker::StartWalk() {
   WaitForPressGap();
   SwipeholdSlotManager* slot = Slot();
-  if (!item_->no_center_press) SendEvent(slot->RelativePressLineAt(item_->rel_x, item_->rel_y));
+  const LineBuffer centre =
+      item_->no_center_press ? LineBuffer() : slot->RelativePressLineAt(item_->rel_x, item_->rel_y);
   hold_center_timer_.stop();
   walk_ = *item_;
   StartTimer(&first_press_timer_, walk_.first_press_delay_ms);
@@ -140,6 +145,7 @@ void SwipeholdAsyncWorker::StartWalk() {
   path_.remaining = walk_.first_press_steps;
   path_.mode = walk_.variable_mode;
   RetargetSlide();
+  SendEvent(centre);
 }
 
 void SwipeholdAsyncWorker::WaitForPressGap() {
@@ -163,9 +169,15 @@ void SwipeholdAsyncWorker::FirstPressTimerOutTime() {
     return ApplyDirectionState();
   }
   path_.TakeStep();
-  SendEvent(Slot()->PressLineAt(path_.current.x(), path_.current.y()));
-  Report(ToStick(path_.current));
   StartTimer(&first_press_timer_, walk_.first_press_step_ms);
+  MoveAlong(path_.current, first_press_timer_);
+}
+
+void SwipeholdAsyncWorker::MoveAlong(QPoint pixels, const QTimer& move) {
+  const LineBuffer line = Slot()->PressLineAt(pixels.x(), pixels.y());
+  if (!move.isActive()) return;  // ended by a host that was asked for its display
+  SendEvent(line);
+  if (move.isActive()) Report(ToStick(pixels));
 }
 
 // ---- Subsequent moves ----
@@ -187,9 +199,7 @@ void SwipeholdAsyncWorker::SubsequentPressTimerOutTime() {
     return ApplyDirectionState();
   }
   position_ += move_delta_;
-  const QPoint pixels(Round(position_.x()), Round(position_.y()));
-  SendEvent(Slot()->PressLineAt(pixels.x(), pixels.y()));
-  Report(ToStick(pixels));
+  MoveAlong({Round(position_.x()), Round(position_.y())}, subsequent_press_timer_);
 }
 
 // ---- At the target, and the end ----
@@ -197,33 +207,33 @@ void SwipeholdAsyncWorker::SubsequentPressTimerOutTime() {
 void SwipeholdAsyncWorker::ApplyDirectionState() {
   if (Slot()->HasTouch()) return RestOnTarget();
   if (walk_.hold_center_ms <= 0) {
-    LetGo();
     last_release_time_ = Clock::NowMs();
-    return;
+    return LetGo();
   }
-  SendEvent(Slot()->RelativePressLineAt(walk_.rel_x, walk_.rel_y));
-  Report(QPointF());
   StartTimer(&hold_center_timer_, walk_.hold_center_ms);
+  SendEvent(Slot()->RelativePressLineAt(walk_.rel_x, walk_.rel_y));
+  if (!Slot()->HasTouch()) Report(QPointF());
 }
 
 void SwipeholdAsyncWorker::RestOnTarget() {
   const QPoint target = Slot()->GetTargetPoint();
   position_ = target;
+  if (walk_.compensate) {
+    wave_.Start(target);
+    StartTimer(&input_compensatory_timer_, walk_.compensate_interval_ms);
+  }
   SendEvent(Slot()->UpdateLine());
-  Report(ToStick(target));
-  if (!walk_.compensate) return;
-  wave_.Start(target);
-  StartTimer(&input_compensatory_timer_, walk_.compensate_interval_ms);
+  if (Slot()->HasTouch()) Report(ToStick(target));
 }
 
 void SwipeholdAsyncWorker::LetGo() {
   if (!keep_contact_) SendEvent(Slot()->ReleaseLine());
-  Report(QPointF());
+  if (!Slot()->HasTouch()) Report(QPointF());
 }
 
 void SwipeholdAsyncWorker::HoldCenterTimerOutTime() {
-  LetGo();
   hold_center_timer_.stop();
+  LetGo();
 }
 
 void SwipeholdAsyncWorker::InputCompensatoryTimerOutTime() {
@@ -232,8 +242,11 @@ void SwipeholdAsyncWorker::InputCompensatoryTimerOutTime() {
   if (!walk_.compensate || is_moving) return input_compensatory_timer_.stop();
   if (walk_.compensate_steps < 2) input_compensatory_timer_.stop();  // after this tick
   const auto pixels = wave_.Tick(walk_, Slot()->GetCenter(), Slot()->GetRadius());
-  if (pixels) SendEvent(Slot()->PressLineAt(Round(pixels->x()), Round(pixels->y())));
   if (wave_.GetRound() == walk_.compensate_rounds) StopWave();
+  if (!pixels) return;
+  const bool was_held = Slot()->HasTouch();  // a reset leaves the wave to its end
+  const LineBuffer line = Slot()->PressLineAt(Round(pixels->x()), Round(pixels->y()));
+  if (Slot()->HasTouch() == was_held) SendEvent(line);
 }
 
 void SwipeholdAsyncWorker::StopWave() {

@@ -53,7 +53,7 @@ class SwipeholdAsyncWorker : public EventHandler {
   virtual void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   virtual void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   // Takes over the keys of another walk, given as its flag words: unless these are this walk's already, begins anew and
-  // presses each. Nothing without an item.
+  // presses all. Nothing without an item.
   virtual void ReplayDirections(QPoint flags);
 
   // The item that ReplayDirections presses keys of; copied. Null: none.
@@ -102,6 +102,8 @@ class SwipeholdAsyncWorker : public EventHandler {
   // The walk under way after a change of its keys.
   void FollowKeys(const QString& subsequent_mode);
   void RetargetSlide();
+  // Moves the finger while `move` runs, and reports it: the host may end the walk from inside.
+  void MoveAlong(QPoint pixels, const QTimer& move);
   void StartSubsequentMove();
   // Jumps to where the keys say: the exact target, or the end of the walk.
   void ApplyDirectionState();
