@@ -74,13 +74,13 @@ void ReplayEventHandler::OnKeyboardAction(const QString& data, const QString& /*
   const int code = argument.toInt();
   CodeSet& held = InputStatusManager::GetInstance()->ReplayHeldKeys();
   if (is_press) {
-    SendToReplay(guest_command::KeyPress(code));
     held.Add(code);
     replayed_keys_.Add(code);
+    SendToReplay(guest_command::KeyPress(code));
   } else {
-    SendToReplay(guest_command::KeyRelease(code));
     held.Remove(code);
     replayed_keys_.Remove(code);
+    SendToReplay(guest_command::KeyRelease(code));
   }
 }
 
@@ -161,11 +161,15 @@ void ReplayEventHandler::Reset() {
 }
 
 void ReplayEventHandler::ResumeHeldInput() {
-  for (const QString& command : qAsConst(pressed_slots_)) SendToReplay(command);
-  if (!pressed_multi_slots_.isEmpty()) SendToReplay(guest_command::SlotMultiPressOf(pressed_multi_slots_.values()));
-  for (const int code : replayed_keys_) {
-    SendToReplay(guest_command::KeyPress(code));
+  // Copies: the host may restart a replay from inside a send, which forgets all this.
+  const QMap<int, QString> slots = pressed_slots_;
+  const QStringList multi_slots = pressed_multi_slots_.values();
+  const CodeSet keys = replayed_keys_;
+  for (const QString& command : slots) SendToReplay(command);
+  if (!multi_slots.isEmpty()) SendToReplay(guest_command::SlotMultiPressOf(multi_slots));
+  for (const int code : keys) {
     InputStatusManager::GetInstance()->ReplayHeldKeys().Add(code);
+    SendToReplay(guest_command::KeyPress(code));
   }
 }
 
