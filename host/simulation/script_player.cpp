@@ -63,11 +63,16 @@ void ScriptPlayer::LoadKeymap(const QString& path) {
 }
 
 void ScriptPlayer::Play(const ScriptCommand& command) {
+  if (command.kind == Kind::kWait) return clock_->Advance(command.number);
+  Feed(command);
+  clock_->Settle();
+}
+
+void ScriptPlayer::Feed(const ScriptCommand& command) {
   switch (command.kind) {
     case Kind::kKeyDown: SendKey(QEvent::KeyPress, command.key, false); break;
     case Kind::kKeyRepeat: SendKey(QEvent::KeyPress, command.key, true); break;
     case Kind::kKeyUp: SendKey(QEvent::KeyRelease, command.key, false); break;
-    case Kind::kWait: return clock_->Advance(command.number);
     case Kind::kMouseDown: SendMouse(QEvent::MouseButtonPress, command.point, ButtonOf(command.key)); break;
     case Kind::kMouseDouble: SendMouse(QEvent::MouseButtonDblClick, command.point, ButtonOf(command.key)); break;
     case Kind::kMouseUp: SendMouse(QEvent::MouseButtonRelease, command.point, ButtonOf(command.key)); break;
@@ -93,7 +98,6 @@ void ScriptPlayer::Play(const ScriptCommand& command) {
     case Kind::kBack: taviinputmanager::doBackAction(command.number); break;
     default: SetUpHost(command); break;
   }
-  clock_->Settle();
 }
 
 void ScriptPlayer::SetUpHost(const ScriptCommand& command) {

@@ -22,6 +22,8 @@ class ScriptPlayer {
   // Runs all commands. Time moves only in waits and where the library blocks.
   void Play(const QVector<ScriptCommand>& commands);
   void Play(const ScriptCommand& command);
+  // The same of a command that is no wait, without letting posted events run: for a call from inside a callback.
+  void Feed(const ScriptCommand& command);
 
   // Loads a keymap as a host does when an app comes to the front.
   void LoadKeymap(const QString& path);

@@ -56,6 +56,7 @@ void SimulatedHost::Add(Source source, const QString& text) {
   const TimelineEntry entry{now_() - start_ms_, source, text};
   if (listener) return listener(entry);
   timeline_.append(entry);
+  if (interruption) interruption(entry);
 }
 
 }  // namespace tavi

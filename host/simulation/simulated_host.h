@@ -44,6 +44,9 @@ class SimulatedHost {
   // one: they end on a thread of their own.
   std::function<void(const TimelineEntry&)> listener;
 
+  // Runs behind each entry that is written down, still inside the library's call.
+  std::function<void(const TimelineEntry&)> interruption;
+
   // What the host answers.
   taviinputmanager::WindowGeometry window{0, 0, 1280, 720};
   QRect display{0, 0, 1280, 720};

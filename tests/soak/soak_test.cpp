@@ -1,15 +1,11 @@
 // Random input, for long: nothing may crash, hang, or stay pressed in the guest.
 #include <malloc.h>
-#include <random>
 
-#include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "host/simulation/script_player.h"
 #include "host/simulation/virtual_event_dispatcher.h"
-#include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "test_folders.h"
@@ -17,13 +13,11 @@
 #include "tests/support/from_environment.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
+#include "tests/support/random_input.h"
 #include "tests/support/story.h"
 
 namespace taviinputmanager {
 namespace {
-
-using Kind = tavi::ScriptCommand::Kind;
-using tavi::ScriptCommand;
 
 // TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run.
 class Soak : public Story {
@@ -41,36 +35,16 @@ class Soak : public Story {
   // lost at every four-hundredth event of the shortest of such runs.
   static constexpr qint64 kMemoryTolerance = 64 * 1024;
 
-  Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(static_cast<unsigned>(seed_)) {
-    for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
-    // The keys that keymaps use come up more often than the hundred others.
-    for (const char* name :
-         {"W", "A", "S", "D", "Q", "E", "R", "F", "Space", "Left Shift", "Grave", "Left Alt", "Esc"}) {
-      for (int i = 0; i < 8; ++i) AddKey(name);
-    }
-    const QDir folder(QStringLiteral(TAVI_SOURCE_DIR "/examples/keymaps"));
-    for (const QFileInfo& file : folder.entryInfoList({"*.yaml"}, QDir::Files, QDir::Name)) {
-      keymaps_.append(file.filePath());
-    }
-    for (const char* name : {"every_gesture.yaml", "every_pad.yaml"}) {
-      keymaps_.append(QStringLiteral(TAVI_SOURCE_DIR "/tests/data/keymaps/good/") + name);
-    }
-    joystick_keymaps_ = keymaps_.filter(QRegularExpression("(gamepad|every_pad)\\.yaml$"));
+  Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(seed_) {
     LoadSomeKeymap();
     LoadSomeJoystickKeymap();
   }
 
-  void AddKey(const QString& name) {
-    const auto key = tavikeymapmanager::KeyFromName(name);
-    if (key && key->device == "keyboard") keys_.append(*key);
-  }
-
-  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-  bool OneIn(int n) { return Below(n) == 0; }
-  QPointF SomePoint() { return {static_cast<double>(Below(1400) - 60), static_cast<double>(Below(840) - 60)}; }
+  int Below(int limit) { return random_.Below(limit); }
+  bool OneIn(int n) { return random_.OneIn(n); }
 
   void LoadSomeKeymap() {
-    const QString& path = keymaps_[Below(keymaps_.size())];
+    const QString& path = random_.Keymaps()[Below(random_.Keymaps().size())];
     display_ = 1 + Below(kDisplays);
     LoadKeymap(path);
   }
@@ -81,52 +55,14 @@ class Soak : public Story {
     OnLoadKeymapConfigAndInfo("soak.yaml", "com.example.game", "", display_);
   }
 
-  void LoadSomeJoystickKeymap() { LoadJoystickKeymap(joystick_keymaps_[Below(joystick_keymaps_.size())]); }
+  void LoadSomeJoystickKeymap() {
+    LoadJoystickKeymap(random_.JoystickKeymaps()[Below(random_.JoystickKeymaps().size())]);
+  }
   void LoadJoystickKeymap(const QString& path) {
     auto result = tavikeymapmanager::ReadKeymapFile(path);
     ASSERT_FALSE(result.HasErrors());
     test::SetNextJoystickKeymap(result.config.release());
     OnLoadJoystickConfigAndInfo("soak.yaml", 0);
-  }
-
-  // Of all layouts, the hat, and some that no layout has.
-  QString SomePadButton() {
-    static const QStringList names = {"A",     "B",    "X", "Y", "LB", "RB", "LT", "RT", "LA",   "RA",
-                                      "Start", "Back", "↑", "↓", "←",  "→",  "",   "A+", "Guide"};
-    return OneIn(6) ? QString::number(Below(20)) : names[Below(names.size())];
-  }
-  QString SomeText() {
-    static const QStringList texts = {"a", "abc", "Hello, World 9", "é€", "😀", "a:b", "two\nlines", "\t"};
-    return texts[Below(texts.size())];
-  }
-
-  ScriptCommand SomeCommand() {
-    static const Kind kinds[] = {
-        Kind::kKeyDown, Kind::kKeyDown,  Kind::kKeyDown,     Kind::kKeyUp,     Kind::kKeyUp,     Kind::kKeyUp,
-        Kind::kMove,    Kind::kMove,     Kind::kRelative,    Kind::kRelative,  Kind::kMouseDown, Kind::kMouseUp,
-        Kind::kWheel,   Kind::kWait,     Kind::kWait,        Kind::kWait,      Kind::kWait,      Kind::kTouchBegin,
-        Kind::kCommit,  Kind::kTouchEnd, Kind::kTouchUpdate, Kind::kJoyDown,   Kind::kJoyDown,   Kind::kJoyUp,
-        Kind::kJoyUp,   Kind::kJoyAxis,  Kind::kJoyAxis,     Kind::kKeyRepeat, Kind::kType,      Kind::kCompose,
-    };
-    static const int buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton};
-    ScriptCommand command;
-    command.kind = kinds[Below(static_cast<int>(std::size(kinds)))];
-    command.key = keys_[Below(keys_.size())];
-    command.point = SomePoint();
-    command.number = Below(40);
-    const bool is_pad = command.kind == Kind::kJoyDown || command.kind == Kind::kJoyUp;
-    command.text = is_pad ? SomePadButton() : SomeText();
-    if (command.kind == Kind::kMouseDown || command.kind == Kind::kMouseUp) {
-      command.key.scancode = buttons[Below(static_cast<int>(std::size(buttons)))];
-    }
-    if (command.kind == Kind::kWheel) command.number = (Below(3) - 1) * 120;
-    if (command.kind == Kind::kRelative) command.point = QPointF(Below(81) - 40, Below(81) - 40);
-    if (command.kind == Kind::kJoyAxis) {
-      command.number = Below(3);
-      command.point = OneIn(3) ? QPointF() : QPointF(Below(201) - 100, Below(201) - 100) / 100;
-    }
-    for (int id = Below(3); id < 10 && !OneIn(3); ++id) command.touches.append({id, SomePoint()});
-    return command;
   }
 
   // What a host does from time to time, in the middle of every gesture.
@@ -198,8 +134,8 @@ class Soak : public Story {
 
   // Nothing plays or is recorded, no timer of a gesture runs, and the keymaps are always the same.
   void ComeToRest() {
-    LoadKeymap(keymaps_.first());
-    LoadJoystickKeymap(joystick_keymaps_.first());
+    LoadKeymap(random_.Keymaps().first());
+    LoadJoystickKeymap(random_.JoystickKeymaps().first());
     StopRecord("com.example.game", RecordPath(kRecords));
     EndReplays();
     in_replay_.clear();
@@ -239,10 +175,7 @@ class Soak : public Story {
   }
 
   int seed_;
-  std::mt19937 random_;
-  QVector<tavikeymapmanager::ConfigKey> keys_;
-  QStringList keymaps_;
-  QStringList joystick_keymaps_;
+  RandomInput random_;
   int display_ = 1;
   ModelGuest guest_;
   QTemporaryDir records_;
@@ -260,7 +193,7 @@ TEST_F(Soak, NothingStaysDown) {
       ComeToRest();
       early_memory = MemoryInUse();
     }
-    OneIn(200) ? DoSomethingRare() : player.Play(SomeCommand());
+    OneIn(200) ? DoSomethingRare() : player.Play(random_.SomeCommand());
     if (OneIn(100)) RecordOrReplay();
     if (i % 1000 == 0) Listen();
   }

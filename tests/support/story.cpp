@@ -22,6 +22,14 @@ int argument_count = 1;
 char program_name[] = "story";
 char* arguments[] = {program_name, nullptr};
 
+QVector<tavi::ScriptCommand> Parse(const QString& script) {
+  const tavi::Script parsed = tavi::ParseScript(script);
+  for (const tavi::ScriptError& error : parsed.errors) {
+    ADD_FAILURE() << "script " << error.line << ":" << error.column << ": " << error.message.toStdString();
+  }
+  return parsed.commands;
+}
+
 }  // namespace
 
 Story::Story() : clock_(new tavi::VirtualEventDispatcher) {
@@ -71,12 +79,10 @@ void Story::StartTimeline() {
   calls_.clear();
 }
 
-void Story::Play(const QString& script) {
-  const tavi::Script parsed = tavi::ParseScript(script);
-  for (const tavi::ScriptError& error : parsed.errors) {
-    ADD_FAILURE() << "script " << error.line << ":" << error.column << ": " << error.message.toStdString();
-  }
-  player_->Play(parsed.commands);
+void Story::Play(const QString& script) { player_->Play(Parse(script)); }
+
+void Story::Feed(const QString& script) {
+  for (const tavi::ScriptCommand& command : Parse(script)) player_->Feed(command);
 }
 
 void Story::Wait(int ms) { Time().Advance(ms); }

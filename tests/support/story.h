@@ -53,6 +53,8 @@ class Story : public testing::Test {
 
   // Commands between semicolons or newlines. A test fails on a script that cannot be read.
   void Play(const QString& script);
+  // The same from inside a callback of the host: nothing that was posted runs, and time stands still.
+  void Feed(const QString& script);
   void Wait(int ms);
 
   // Guest lines, and callbacks, since each was last asked for.
