@@ -1,8 +1,12 @@
 // The tables through which the library asks and tells the host.
 //
 // The host owns each table and keeps it alive for as long as it feeds events. Members are called on the host's main
-// thread but where a member says otherwise. A host does not load a keymap, reset or change the display from inside a
-// callback.
+// thread but where a member says otherwise.
+//
+// A member may call the library: on the main thread everything but the loads, the reset and the change of the display,
+// on another thread only what is for any thread (taviinputmanager.h, "Calls from inside"). That goes for the members
+// that answer a question too, though there is seldom a reason: input that comes while the library asks is handled
+// before what it asks for.
 #ifndef TAVIINPUTMANAGER_CALLBACKS_H_
 #define TAVIINPUTMANAGER_CALLBACKS_H_
 
@@ -45,7 +49,8 @@ struct InputManagerCallbacks {
   QRect (*GetDisplayRect)() = nullptr;
   // The guest's unrotated touch surface. Also asked on the thread of a zoom run.
   QRect (*GetTouchRect)() = nullptr;
-  // A keymap item matched: true for keyboard and mouse, false for a joystick. May be null.
+  // A keymap item matched: true for keyboard and mouse, false for a joystick. Told before the item does anything. May
+  // be null.
   void (*OnMappedDeviceUsed)(bool keyboard_or_mouse) = nullptr;
   // A recorded operation starts to play; `total_sleep_ms` is the sum of its pauses. May be null.
   void (*OnOperationRecorderStarted)(const QString& name, int total_sleep_ms) = nullptr;

@@ -9,7 +9,18 @@
 // fault.
 //
 // Threads: functions that do not say "any thread" are called on the host's main thread, the one of QCoreApplication.
-// Lines leave on it too, with one exception told under hazards.
+// Lines leave on it too, with one exception told under hazards. A debug build asserts it, in all but the functions of
+// replays.
+//
+// Calls from inside: a host may call the library from inside its own send and mirror functions and from inside the
+// members of its tables.
+// - On the main thread: everything but Initialize, OnLoadKeymapConfigAndInfo, OnLoadJoystickConfigAndInfo,
+//   OnResetInputStatus and UpdateDisplayId. Those take away what the caller inside the library still works with: post
+//   them (QMetaObject::invokeMethod with Qt::QueuedConnection). Do not run an event loop there either.
+// - On any other thread that a table names: the functions marked "any thread", and what the replay's table says.
+// What the inner call sends comes after the line that is being sent, for the guest as well as in mirrors and records.
+// An event of the same gesture overtakes the one under way: what is left of that one is dropped. No call limits how
+// deep this goes.
 //
 // Ownership: tables, events and strings stay the caller's. Tables live as long as the library is used.
 //
@@ -25,7 +36,7 @@
 // - On the thread of a replay only some functions may be called; the section Replay names them.
 // - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
 // - UpdateRecordTimestamp lets the exception of its JSON parser through.
-// - A host does not load a keymap, reset or change the display from inside a callback.
+// - A host that loads a keymap, resets or changes the display from inside a function of its own crashes; see above.
 //
 // Leaving main with gestures, macros or replays under way is safe.
 #ifndef TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
@@ -70,27 +81,28 @@ TAVI_EXPORT void doBackAction(int display);
 // ---- Configuration and state ---------------------------------------------------------------------------------------
 
 // Stores the host's table (null: the library works with a display of 1280 x 720 and calls nobody) and loads an empty
-// keymap and an empty joystick keymap. Both ints are ignored.
+// keymap and an empty joystick keymap. Both ints are ignored. Not from inside a callback.
 TAVI_EXPORT void Initialize(InputManagerCallbacks* callbacks, int, int);
 
 // Takes the keymap at `path` in place of the one before, resets all input on the display held so far, and makes
 // `display` the one that input goes to. With an empty path and a `package` of the system's own, the system keymap is
-// loaded. `extra` is kept and not read.
+// loaded. `extra` is kept and not read. Not from inside a callback.
 TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra,
                                            int display);
 
-// Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored.
+// Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored. Not from inside a
+// callback.
 TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 
 // Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps. Buttons and
 // sticks of gamepads stay as they are, here and wherever else input is reset: they are let go by events of their own.
-// Nothing before Initialize.
+// Nothing before Initialize. Not from inside a callback.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
 // What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load. Any thread.
 TAVI_EXPORT InputStatus GetInputStatus();
 
-// Resets all input on the current display; from then on input goes to `display`.
+// Resets all input on the current display; from then on input goes to `display`. Not from inside a callback.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
 // While on, keys and wheel of `display` pass through whatever the keymap says, and so do moves and mouse buttons that

@@ -12,10 +12,6 @@ namespace taviinputmanager {
 using Kind = tavi::ScriptCommand::Kind;
 using tavi::ScriptCommand;
 
-int FromEnvironment(const char* name, int otherwise) {
-  return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
-}
-
 RandomInput::RandomInput(int seed) : random_(static_cast<unsigned>(seed)) {
   for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
   // The keys that keymaps use come up more often than the hundred others.

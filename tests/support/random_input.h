@@ -14,9 +14,6 @@
 
 namespace taviinputmanager {
 
-// An integer from the environment.
-int FromEnvironment(const char* name, int otherwise);
-
 // The same seed gives the same stream.
 class RandomInput {
  public:
