@@ -90,10 +90,7 @@ void OnResetInputStatus(bool full, int display) {
   InputStatusManager::GetInstance()->ResetInputStatus(full ? kResetFull : kResetInput, display);
 }
 
-InputStatus GetInputStatus() {
-  TAVI_ASSERT_MAIN_THREAD();
-  return InputStatusManager::GetInstance()->GetStatus();
-}
+InputStatus GetInputStatus() { return InputStatusManager::GetInstance()->GetStatus(); }
 
 void UpdateDisplayId(int display) {
   TAVI_ASSERT_MAIN_THREAD();
@@ -171,10 +168,7 @@ void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks) {
   RecordManager::GetInstance()->SetCallbacks(callbacks);
 }
 
-RecordStatus GetRecordStatus() {
-  TAVI_ASSERT_MAIN_THREAD();
-  return RecordManager::GetInstance()->GetStatus();
-}
+RecordStatus GetRecordStatus() { return RecordManager::GetInstance()->GetStatus(); }
 
 void StartRecord(const QString& package, const QString& app) {
   TAVI_ASSERT_MAIN_THREAD();

@@ -7,6 +7,7 @@
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/from_environment.h"
 #include "tests/support/interruptions.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
