@@ -1,4 +1,8 @@
 // The program tavi.
 #include "host/subcommands.h"
+#include "host/terminal.h"
 
-int main(int argc, char** argv) { return tavi::RunProgram(argc, argv); }
+int main(int argc, char** argv) {
+  tavi::EndWithReader();
+  return tavi::RunProgram(argc, argv);
+}

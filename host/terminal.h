@@ -9,6 +9,11 @@ namespace tavi {
 // Whether standard error is read by a person right now.
 bool IsErrorTerminal();
 
+// A reader of the program's output that is gone ends the program, quietly and by the signal, as it ends others. What
+// was loaded with the program may have blocked that signal. To be called first: threads and programs that are started
+// later take it over.
+void EndWithReader();
+
 // What is to be done before the program ends when it is interrupted (Ctrl+C) or told to end. `clean_up` is called on a
 // thread of its own while the others run on, and then the program ends as it would have. One at a time; an empty
 // function takes it back, and waits for one that is at work.

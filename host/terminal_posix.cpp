@@ -33,6 +33,13 @@ sigset_t SignalsToTake() {
   return signals;
 }
 
+void Unblock(int number) {
+  sigset_t only;
+  sigemptyset(&only);
+  sigaddset(&only, number);
+  pthread_sigmask(SIG_UNBLOCK, &only, nullptr);
+}
+
 // Ends the program by the signal itself, so that whoever started it knows.
 void WaitForSignal(sigset_t signals) {
   int number = 0;
@@ -40,10 +47,7 @@ void WaitForSignal(sigset_t signals) {
   const std::lock_guard<std::mutex> lock(GetCleanUp()->mutex);
   if (GetCleanUp()->function) GetCleanUp()->function();
   std::signal(number, SIG_DFL);
-  sigset_t only;
-  sigemptyset(&only);
-  sigaddset(&only, number);
-  pthread_sigmask(SIG_UNBLOCK, &only, nullptr);
+  Unblock(number);
   raise(number);
 }
 
@@ -54,6 +58,8 @@ void StartWaiting() {
 }
 
 }  // namespace
+
+void EndWithReader() { Unblock(SIGPIPE); }
 
 bool IsErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
 

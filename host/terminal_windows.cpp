@@ -22,6 +22,8 @@ BOOL WINAPI TakeInterrupt(DWORD /*kind*/) {
 
 }  // namespace
 
+void EndWithReader() {}  // there is no such signal: a write fails
+
 bool IsErrorTerminal() { return _isatty(_fileno(stderr)) != 0; }
 
 void SetCleanUp(std::function<void()> clean_up) {
