@@ -1,24 +1,37 @@
-# What every target of the tree shares.
+# What every target of the tree shares. Inside another project it holds for this tree alone: what is set here is set in
+# this folder's scope, and what cannot be is left to that project.
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
 endif()
 
 find_program(TAVI_CCACHE ccache)
-if(TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+if(PROJECT_IS_TOP_LEVEL AND TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # A precompiled header defeats the cache unless its defines and times are allowed to differ.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-    CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} ${TAVI_CCACHE})
+    CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${TAVI_CCACHE})
+endif()
+
+set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+
+# Shared libraries, unless static ones are asked for. No cache entry: it would decide for the project around this one.
+set(TAVI_LIBRARY_TYPE SHARED)
+if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
+  set(TAVI_LIBRARY_TYPE STATIC)
+endif()
+set(TAVI_STATIC_ON_WINDOWS OFF)
+if(WIN32 AND TAVI_LIBRARY_TYPE STREQUAL STATIC)
+  set(TAVI_STATIC_ON_WINDOWS ON)
 endif()
 
 function(tavi_target_defaults target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${TAVI_WERROR}>:-Werror>)
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -46,9 +59,22 @@ function(tavi_count_lines target)
   endif()
 endfunction()
 
-# Leaves exactly the symbols that a version script names: hidden visibility alone leaks template instances.
-function(tavi_export_only target version_script)
-  if(WIN32 OR TAVI_SANITIZE)
+# What a shared library says of itself, for a library of the tree that is one.
+#
+# Its version is the first two numbers: while the first is 0, each second one may need programs to be built anew. It
+# stays in the process once it is loaded, since timers, threads and objects that are destroyed at exit run its code. And
+# it has exactly the symbols that a version script names: hidden visibility alone leaks template instances.
+function(tavi_shared_library target version_script)
+  get_target_property(type ${target} TYPE)
+  if(NOT type STREQUAL SHARED_LIBRARY)
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${TAVI_SOVERSION})
+  if(WIN32)
+    return()
+  endif()
+  target_link_options(${target} PRIVATE -Wl,-z,nodelete)
+  if(TAVI_SANITIZE)
     return()
   endif()
   target_link_options(${target} PRIVATE -Wl,--version-script=${version_script} -Wl,--no-undefined)

@@ -51,19 +51,23 @@ install(FILES
   ${PROJECT_BINARY_DIR}/taviinputmanagerConfig.cmake ${PROJECT_BINARY_DIR}/taviinputmanagerConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT development)
 
-function(tavi_install_pkg_config name description requires)
+# `private_libraries`: what the code needs and the headers do not. Not as packages that it requires: pkg-config would
+# ask for those of each who builds on the shared libraries.
+function(tavi_install_pkg_config name description requires private_libraries)
   set(pkg_config_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH prefix_from_here /${pkg_config_dir} /)
   configure_file(cmake/pkg-config.pc.in ${name}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${pkg_config_dir} COMPONENT development)
 endfunction()
 
-tavi_install_pkg_config(tavi-keymapmanager "Keymap files to records, key names, diagnostics" "Qt5Core Qt5Gui")
-tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapmanager")
+list(JOIN tavi_libyaml_LDFLAGS " " libyaml_flags)
+tavi_install_pkg_config(tavi-keymapmanager "Keymap files to records, key names, diagnostics" "Qt5Core Qt5Gui"
+  "${libyaml_flags}")
+tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapmanager"
+  "-lPocoJSON -lPocoFoundation")
 
 # The documents lie beside the examples as they do in the source, so that the links between them hold; they link to
-# nothing that is not installed. What players and
-# authors of keymaps read comes with the program.
+# nothing that is not installed. What players and authors of keymaps read comes with the program.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/taviinputmanager)
 set(examples_for_tools keymaps records scripts tutorial)
 set(documents_for_tools window editor tutorial keymap macros scripts record-format keymap.schema record.schema)

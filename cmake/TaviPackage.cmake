@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SOURCE taviinputmanager)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-set(runtime_package libtaviinputmanager${PROJECT_VERSION_MAJOR})
+set(runtime_package libtaviinputmanager${TAVI_SOVERSION})
 set(package_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
 # What the programs and libraries need is read from them. Our own libraries are in no package yet.

@@ -4,7 +4,10 @@
 
 #include <QtGlobal>
 
-#ifdef TAVI_BUILDING_INPUTMANAGER
+// TAVI_STATIC: the libraries are static ones, on Windows, where that makes a difference.
+#if defined(TAVI_STATIC)
+#define TAVI_EXPORT
+#elif defined(TAVI_BUILDING_INPUTMANAGER)
 #define TAVI_EXPORT Q_DECL_EXPORT
 #else
 #define TAVI_EXPORT Q_DECL_IMPORT

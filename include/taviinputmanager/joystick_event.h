@@ -12,9 +12,9 @@ namespace taviinputmanager {
 // A button of a gamepad went down or up: type ButtonPress or ButtonRelease.
 class JoystickButtonEvent : public QEvent {
  public:
-  // `type` is JoystickEvent::ButtonPress or ButtonRelease; the others fill the fields.
-  JoystickButtonEvent(QEvent::Type type, const QString& text, int code, int device)
-      : QEvent(type), text(text), code(code), device(device) {}
+  // `event_type` is JoystickEvent::ButtonPress or ButtonRelease; the others fill the fields.
+  JoystickButtonEvent(QEvent::Type event_type, const QString& button, int button_code, int device_id)
+      : QEvent(event_type), text(button), code(button_code), device(device_id) {}
 
   QString text;  // the button's name, or its digit; an arrow character for the hat
   int code;      // the host's own code; the library does not read it
@@ -24,9 +24,9 @@ class JoystickButtonEvent : public QEvent {
 // A stick of a gamepad moved: type AxisTriggle.
 class JoystickAxisEvent : public QEvent {
  public:
-  // `type` is JoystickEvent::AxisTriggle; the others fill the fields.
-  JoystickAxisEvent(QEvent::Type type, double x, double y, int stick, int device)
-      : QEvent(type), x(x), y(y), stick(stick), device(device) {}
+  // `event_type` is JoystickEvent::AxisTriggle; the others fill the fields.
+  JoystickAxisEvent(QEvent::Type event_type, double stick_x, double stick_y, int stick_index, int device_id)
+      : QEvent(event_type), x(stick_x), y(stick_y), stick(stick_index), device(device_id) {}
 
   double x;    // -1 (left) to 1 (right)
   double y;    // -1 (up) to 1 (down)

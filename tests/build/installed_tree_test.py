@@ -3,6 +3,7 @@
 
     installed_tree_test.py BUILD_DIR SOURCE_DIR LIB_DIR WORK_DIR CMAKE GENERATOR COMPILER
 """
+import functools
 import os
 import re
 import shutil
@@ -10,6 +11,8 @@ import subprocess
 import sys
 import unittest
 from pathlib import Path
+
+import commands
 
 BUILD, SOURCE, LIB, WORK, CMAKE, GENERATOR, COMPILER = sys.argv[1:8]
 del sys.argv[1:8]
@@ -19,6 +22,9 @@ EXAMPLE = Path(SOURCE) / "examples" / "host"
 WINDOW = Path(SOURCE) / "examples" / "host_window"
 ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
 ENVIRONMENT.pop("LD_LIBRARY_PATH", None)
+TOOLS = CMAKE, GENERATOR, COMPILER
+run = functools.partial(commands.run, env=ENVIRONMENT)
+build_by_cmake = functools.partial(commands.build_by_cmake, env=ENVIRONMENT)
 
 # Each load resets the display held so far: the curve, the right walk and the eye let go first, then every finger is
 # lifted. That is the load of Initialize and that of the keymap, both before display 1. Then the key F is a finger at
@@ -41,14 +47,6 @@ WINDOW_EXPECTED = ("# start\n" + EXPECTED[:-len(TAP)] +
                    "# the mouse steers the view\n"
                    "1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:1152:432\n1:SLOTPRESS:1:1:1:1:1162:432\n"
                    "# the focus goes while a key is held\n1:SLOTPRESS:11:11:1:1:1728:540\n" + SWEEP + "# closed\n")
-
-
-def run(*command, **options):
-    result = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE,
-                            stderr=subprocess.STDOUT, env=ENVIRONMENT, **options)
-    if result.returncode != 0:
-        raise AssertionError(f"{command} gave {result.returncode}:\n{result.stdout}")
-    return result.stdout
 
 
 def output_of(program, example=EXAMPLE):
@@ -96,9 +94,7 @@ class InstalledTree(unittest.TestCase):
 
     def test_example_host_builds_by_cmake_and_runs(self):
         build = WORK / "by_cmake"
-        run(CMAKE, "-G", GENERATOR, "-S", EXAMPLE, "-B", build, f"-DCMAKE_PREFIX_PATH={INSTALLED}",
-            f"-DCMAKE_CXX_COMPILER={COMPILER}")
-        run(CMAKE, "--build", build)
+        build_by_cmake(EXAMPLE, build, TOOLS, f"-DCMAKE_PREFIX_PATH={INSTALLED}")
         self.assertEqual(output_of(build / "example_host"), EXPECTED)
 
     def test_example_host_builds_by_pkg_config_and_runs(self):
@@ -110,9 +106,8 @@ class InstalledTree(unittest.TestCase):
 
     def test_example_with_a_window_builds_and_runs(self):
         build = WORK / "window"
-        run(CMAKE, "-G", GENERATOR, "-S", Path(__file__).parent / "host_window", "-B", build, f"-DEXAMPLE={WINDOW}",
-            f"-DSOURCE={SOURCE}", f"-DCMAKE_PREFIX_PATH={INSTALLED}", f"-DCMAKE_CXX_COMPILER={COMPILER}")
-        run(CMAKE, "--build", build)
+        build_by_cmake(Path(__file__).parent / "host_window", build, TOOLS, f"-DEXAMPLE={WINDOW}", f"-DSOURCE={SOURCE}",
+                       f"-DCMAKE_PREFIX_PATH={INSTALLED}")
         self.assertEqual(output_of(build / "host_window_test", WINDOW), WINDOW_EXPECTED)
         with subprocess.Popen([build / "example" / "host_window", WINDOW / "keymap.yaml"], text=True,
                               stdout=subprocess.PIPE, env=ENVIRONMENT) as program:
