@@ -1,6 +1,6 @@
 #include "host/guest_key_names.h"
 
-#include "host/scan_codes.h"
+#include "keymap/scan_codes.h"
 #include "keymapmanager/key_names.h"
 
 namespace tavi {
@@ -25,7 +25,7 @@ QString NameOfGuestKey(int code) {
     if (own.code == code) return QLatin1String(own.name);
   }
   // A scan code that the library has no guest code for reaches the guest as it is.
-  const int scancode = ScanCodeOfLinuxKey(code);
+  const int scancode = tavikeymapmanager::ScanCodeOfLinuxKey(code);
   const auto key = tavikeymapmanager::KeyFromName(QStringLiteral("Scan %1").arg(scancode != 0 ? scancode : code));
   return key ? tavikeymapmanager::NameOfKey(*key) : QStringLiteral("Key %1").arg(code);
 }

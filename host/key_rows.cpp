@@ -2,8 +2,8 @@
 
 #include <QMetaEnum>
 
-#include "host/scan_codes.h"
 #include "keymap/keywords.h"
+#include "keymap/scan_codes.h"
 #include "keymapmanager/key_names.h"
 
 namespace tavi {
@@ -67,8 +67,8 @@ KeyRow KeyboardRow(const km::ConfigKey& key) {
   row.aliases = km::OtherNamesOfKey(key);
   row.scancode = key.scancode;
   row.virtual_key = key.virtual_key;
-  row.linux_code = LinuxKeyOfScanCode(key.scancode);
-  if (row.linux_code != 0) row.x11_code = row.linux_code + kX11KeyOffset;
+  row.linux_code = km::LinuxKeyOfScanCode(key.scancode);
+  if (row.linux_code != 0) row.x11_code = row.linux_code + km::kX11KeyOffset;
   row.qt_key = QtKeyOf(km::NameOfKey(key));
   return row;
 }

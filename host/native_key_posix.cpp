@@ -1,7 +1,7 @@
 #include <QKeyEvent>
 
 #include "host/native_key.h"
-#include "host/scan_codes.h"
+#include "keymap/scan_codes.h"
 #include "keymapmanager/key_names.h"
 
 namespace tavi {
@@ -21,7 +21,8 @@ quint32 VirtualKeyOf(int scancode) {
 }  // namespace
 
 NativeKey NativeKeyOf(const QKeyEvent& event) {
-  const int scancode = ScanCodeOfLinuxKey(static_cast<int>(event.nativeScanCode()) - kX11KeyOffset);
+  const int linux_code = static_cast<int>(event.nativeScanCode()) - tavikeymapmanager::kX11KeyOffset;
+  const int scancode = tavikeymapmanager::ScanCodeOfLinuxKey(linux_code);
   if (scancode == 0) return {};
   return {static_cast<quint32>(scancode), VirtualKeyOf(scancode)};
 }

@@ -1,6 +1,7 @@
 #include "guest_view.h"
 
 #include <cstdio>
+#include <keymap/scan_codes.h>
 #include <taviinputmanager/taviinputmanager.h>
 
 #include <QCursor>
@@ -10,8 +11,6 @@
 #include <QPainter>
 #include <QTouchEvent>
 
-#include "scan_codes.h"
-
 namespace tavi = taviinputmanager;
 
 namespace {
@@ -20,8 +19,20 @@ constexpr int kDisplay = 1;            // the guest's own number of its display
 constexpr QSize kGuest(1920, 1080);    // pixels of its display, and of its touch surface
 constexpr int kPassKey = Qt::Key_F12;  // keys of the window's own
 constexpr int kTextKey = Qt::Key_F11;  // stands for a guest that tells of its text fields
+constexpr int kNotch = 120;            // of a wheel, in eighths of a degree
 
 GuestView* view = nullptr;
+
+// Qt gives a key's native code: on Windows the one that the library wants, and under X11 and Wayland that of X11. 0 for
+// a key that has no scan code.
+quint32 WindowsScanCode(const QKeyEvent& event) {
+#ifdef Q_OS_WIN
+  return event.nativeScanCode();
+#else
+  const int linux_code = static_cast<int>(event.nativeScanCode()) - tavikeymapmanager::kX11KeyOffset;
+  return static_cast<quint32>(tavikeymapmanager::ScanCodeOfLinuxKey(linux_code));
+#endif
+}
 
 }  // namespace
 
@@ -98,6 +109,7 @@ bool GuestView::event(QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd: SendTouch(*static_cast<QTouchEvent*>(event)); return true;
+    case QEvent::TouchCancel: SendTouch(QTouchEvent(QEvent::TouchEnd)); return true;
     default: return QWidget::event(event);
   }
 }
@@ -138,10 +150,16 @@ void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
   tavi::OnQtInputEvent(&converted);
 }
 
+// The library goes by which fingers are there. Qt lists one that goes up once more, and then says nothing for as long
+// as the others rest.
 void GuestView::SendTouch(const QTouchEvent& event) {
+  QList<QTouchEvent::TouchPoint> points;
+  for (QTouchEvent::TouchPoint point : event.touchPoints()) {
+    if (point.state() == Qt::TouchPointReleased) continue;
+    point.setPos(ToGuest(point.pos()));
+    points.append(point);
+  }
   QTouchEvent converted(event);
-  QList<QTouchEvent::TouchPoint> points = event.touchPoints();
-  for (QTouchEvent::TouchPoint& point : points) point.setPos(ToGuest(point.pos()));
   converted.setTouchPoints(points);
   tavi::OnQtInputEvent(&converted);
 }
@@ -152,9 +170,14 @@ void GuestView::mouseReleaseEvent(QMouseEvent* event) { SendMouse(event->type(),
 void GuestView::mouseDoubleClickEvent(QMouseEvent* event) { SendMouse(QEvent::MouseButtonPress, *event); }
 void GuestView::inputMethodEvent(QInputMethodEvent* event) { tavi::OnQtInputEvent(event); }
 
+// To an item on the wheel each event is a notch. Touchpads turn by parts of one, so those are added up.
 void GuestView::wheelEvent(QWheelEvent* event) {
-  QWheelEvent converted(ToGuest(event->position()), event->globalPosition(), event->pixelDelta(), event->angleDelta(),
-                        event->buttons(), event->modifiers(), event->phase(), event->inverted());
+  wheel_turn_ += event->angleDelta().y();
+  const int notches = wheel_turn_ / kNotch * kNotch;
+  if (notches == 0) return;
+  wheel_turn_ -= notches;
+  QWheelEvent converted(ToGuest(event->position()), event->globalPosition(), {}, {0, notches}, event->buttons(),
+                        event->modifiers(), event->phase(), event->inverted());
   tavi::OnQtInputEvent(&converted);
 }
 
@@ -176,7 +199,10 @@ void GuestView::SetCaptured(bool captured) {
 
 // The releases of what is held will go to another window.
 void GuestView::focusOutEvent(QFocusEvent* event) {
-  if (!tavi::isInputHoldWhenWindowDeactivate()) tavi::OnResetInputStatus(true, kDisplay);
+  if (!tavi::isInputHoldWhenWindowDeactivate()) {
+    tavi::OnResetInputStatus(true, kDisplay);
+    SendTouch(QTouchEvent(QEvent::TouchEnd));  // which a reset leaves alone
+  }
   SetCaptured(false);
   QWidget::focusOutEvent(event);
 }

@@ -42,6 +42,7 @@ class GuestView : public QWidget {
   bool passes_through_ = false;
   bool text_field_ = false;  // the guest has a text field focused
   bool captured_ = false;    // the mouse steers the view
+  int wheel_turn_ = 0;       // since the last notch, in eighths of a degree
 };
 
 #endif  // GUEST_VIEW_H_

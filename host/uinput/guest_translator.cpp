@@ -3,10 +3,10 @@
 #include <linux/input.h>
 
 #include "host/guest_line.h"
-#include "host/scan_codes.h"
 #include "host/uinput/device_description.h"
 #include "host/uinput/gamepad_axes.h"
 #include "host/uinput/text_typing.h"
+#include "keymap/scan_codes.h"
 
 namespace tavi {
 
@@ -27,7 +27,9 @@ double NotchesOf(const GuestLine& line) {
 
 // A scan code of the host that the library has no guest code for reaches the guest as it is. Those above the keyboard's
 // codes can be told from them.
-int KeyboardCodeOf(int guest_code) { return guest_code < BTN_MISC ? guest_code : LinuxKeyOfScanCode(guest_code); }
+int KeyboardCodeOf(int guest_code) {
+  return guest_code < BTN_MISC ? guest_code : tavikeymapmanager::LinuxKeyOfScanCode(guest_code);
+}
 
 }  // namespace
 

@@ -36,17 +36,24 @@ EXPECTED = (EXAMPLE / "output.txt").read_text(encoding="utf-8")
 # that is 1280 x 720, a quarter. View control goes from (0.6, 0.4), 1152, 432, by a pixel a count; its first counts
 # press. A full reset of a display names the gestures' fingers, then all but those of macros.
 SWEEP = "".join(f"1:SLOTRELEASE:{slot}\n" for slot in [5, 4, 7, *range(18)])
+WHEEL_TAP = "1:SLOTPRESS:11:11:1:1:1536:540\n1:SLOTRELEASE:11\n"
 TAP = "1:SLOTPRESS:11:11:1:1:1728:540\n1:SLOTRELEASE:11\n"
 WINDOW_EXPECTED = ("# start\n" + EXPECTED[:-len(TAP)] +
                    "# keys\n" + TAP + "1:KBDPR:35:1\n1:KBDRL:35:0\n1:KBDPR:96:1\n1:KBDRL:96:0\n"
                    "# a finger, before and after the window grows\n"
                    "1:SLOTPRESS:1:1:1:1:960:540\n1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:480:270\n1:SLOTRELEASE:1\n"
+                   "# of two fingers one goes up while the other rests, and then the touch is taken away\n"
+                   "1:SLOTMULTIPRESS:18:18:480:270\n"
+                   "1:SLOTMULTIPRESS:18:18:480:270\n1:SLOTMULTIPRESS:19:19:960:540\n"
+                   "1:SLOTMULTIRELEASE:19\n1:SLOTMULTIPRESS:18:18:480:270\n1:SLOTMULTIRELEASE:18\n"
+                   "# half a notch, sideways, and the other half\n" + WHEEL_TAP +
                    "# everything passes through, and no longer\n" +
                    SWEEP + "1:KBDPR:33:1\n1:KBDRL:33:0\n" + SWEEP + TAP +
                    "# a text field\nTEXT:f\0TEXT:\u00e9\0"
                    "# the mouse steers the view\n"
                    "1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:1152:432\n1:SLOTPRESS:1:1:1:1:1162:432\n"
-                   "# the focus goes while a key is held\n1:SLOTPRESS:11:11:1:1:1728:540\n" + SWEEP + "# closed\n")
+                   "# the focus goes while a key and a finger are held\n1:SLOTPRESS:11:11:1:1:1728:540\n"
+                   "1:SLOTMULTIPRESS:18:18:480:270\n" + SWEEP + "1:SLOTMULTIRELEASE:18\n# closed\n")
 
 
 def output_of(program, example=EXAMPLE):

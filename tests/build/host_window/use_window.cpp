@@ -5,14 +5,15 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTouchEvent>
+#include <QWheelEvent>
 
 #include "examples/host_window/guest_view.h"
-#include "examples/host_window/scan_codes.h"
-#include "host/scan_codes.h"
+#include "keymap/scan_codes.h"
+#include "tests/host/keyboard_105.h"
 
 namespace {
 
-constexpr int kX11Offset = 8;
 constexpr int kF = 33;
 constexpr int kGrave = 41;
 constexpr int kH = 35;
@@ -23,7 +24,7 @@ void Say(const char* what) {
   std::fflush(stdout);
 }
 
-quint32 NativeCode(int linux_code) { return static_cast<quint32>(linux_code + kX11Offset); }
+quint32 NativeCode(int linux_code) { return static_cast<quint32>(linux_code + tavikeymapmanager::kX11KeyOffset); }
 
 void Key(GuestView* view, QEvent::Type type, int linux_code, int key = Qt::Key_unknown, const QString& text = {}) {
   QKeyEvent event(type, key, Qt::NoModifier, NativeCode(linux_code), 0, 0, text);
@@ -46,13 +47,30 @@ void Tap(GuestView* view, const QPoint& place) {
   Mouse(view, QEvent::MouseButtonRelease, place);
 }
 
-// Every key of Linux: the example's table beside that of the program.
+QTouchEvent::TouchPoint Finger(int id, Qt::TouchPointState state, const QPoint& place) {
+  QTouchEvent::TouchPoint finger(id);
+  finger.setState(state);
+  finger.setPos(place);
+  return finger;
+}
+
+void Touch(GuestView* view, QEvent::Type type, const QList<QTouchEvent::TouchPoint>& fingers) {
+  QTouchEvent event(type);
+  event.setTouchPoints(fingers);
+  QCoreApplication::sendEvent(view, &event);
+}
+
+void Wheel(GuestView* view, const QPoint& turn) {
+  QWheelEvent event({320, 180}, view->mapToGlobal(QPoint(320, 180)), {}, turn, Qt::NoButton, Qt::NoModifier,
+                    Qt::ScrollUpdate, false);
+  QCoreApplication::sendEvent(view, &event);
+}
+
+// The table that is installed, beside that of a keyboard's makers.
 void CompareScanCodes() {
-  for (int code = 1; code <= 255; ++code) {
-    const QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, NativeCode(code), 0, 0);
-    const int expected = tavi::ScanCodeOfLinuxKey(code);
-    const int got = static_cast<int>(WindowsScanCode(event));
-    if (got != expected) std::printf("Linux key %d has scan code %d, not %d\n", code, expected, got);
+  for (const tavi::KeyboardKey& key : tavi::kKeyboard105) {
+    const int got = tavikeymapmanager::ScanCodeOfLinuxKey(key.linux_code);
+    if (got != key.scancode) std::printf("%s has scan code %d, not %d\n", key.name, key.scancode, got);
   }
 }
 
@@ -65,6 +83,17 @@ void UseView(GuestView* view) {
   Tap(view, {320, 180});
   view->resize(1280, 720);
   Tap(view, {320, 180});
+  Say("of two fingers one goes up while the other rests, and then the touch is taken away");
+  Touch(view, QEvent::TouchBegin, {Finger(1, Qt::TouchPointPressed, {320, 180})});
+  Touch(view, QEvent::TouchUpdate,
+        {Finger(1, Qt::TouchPointStationary, {320, 180}), Finger(2, Qt::TouchPointPressed, {640, 360})});
+  Touch(view, QEvent::TouchUpdate,
+        {Finger(1, Qt::TouchPointStationary, {320, 180}), Finger(2, Qt::TouchPointReleased, {640, 360})});
+  Touch(view, QEvent::TouchCancel, {});
+  Say("half a notch, sideways, and the other half");
+  Wheel(view, {0, 60});
+  Wheel(view, {120, 0});
+  Wheel(view, {0, 60});
   Say("everything passes through, and no longer");
   Click(view, 88, Qt::Key_F12);
   Click(view, kF);
@@ -82,8 +111,9 @@ void UseView(GuestView* view) {
   QCoreApplication::processEvents();
   Mouse(view, QEvent::MouseMove, view->rect().center() + QPoint(10, 0), Qt::NoButton);
   Mouse(view, QEvent::MouseMove, view->rect().center() + QPoint(10, 0), Qt::NoButton);
-  Say("the focus goes while a key is held");
+  Say("the focus goes while a key and a finger are held");
   Key(view, QEvent::KeyPress, kF);
+  Touch(view, QEvent::TouchBegin, {Finger(1, Qt::TouchPointPressed, {320, 180})});
   QFocusEvent focus(QEvent::FocusOut);
   QCoreApplication::sendEvent(view, &focus);
   Say("closed");

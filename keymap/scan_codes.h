@@ -1,17 +1,28 @@
-#include "host/scan_codes.h"
+// The scan codes of keys that a host gets from Linux.
+//
+// Keymaps, and so the input manager, know keys by the scan codes of Windows (set 1, the extended bit as 0x100). X11,
+// Wayland, evdev and SDL on Linux deliver Linux key codes, those of the kernel's input events. The two agree for the
+// keys of the oldest keyboards and nowhere else.
+//
+// Plain numbers and constant expressions: a host needs no library for it. Threads: any.
+#ifndef KEYMAP_SCAN_CODES_H_
+#define KEYMAP_SCAN_CODES_H_
 
-namespace tavi {
+namespace tavikeymapmanager {
 
-namespace {
+// X11 counts its key codes from 8, and so do all who took its keyboard descriptions over: Wayland's keymaps, and Qt in
+// QKeyEvent::nativeScanCode under both. The kernel and a wl_keyboard's own events count from 0.
+constexpr int kX11KeyOffset = 8;
 
-struct CodePair {
-  int linux_code;
-  int scancode;
+// A key that has different numbers in the two.
+struct KeyCodePair {
+  int linux_code;  // KEY_... of the kernel
+  int scancode;    // of Windows
 };
 
 // Escape (1) to F10 (68) are the same in both, and so are the keypad's keys and Scroll Lock (70 to 83), `<` beside Left
-// Shift (86), F11 and F12 (87, 88).
-constexpr CodePair kDifferent[] = {
+// Shift (86), F11 and F12 (87, 88). All others that have a scan code stand here.
+constexpr KeyCodePair kDifferentKeyCodes[] = {
     {69, 325},   // Num Lock
     {89, 115},   // Ro
     {92, 121},   // Henkan
@@ -73,26 +84,29 @@ constexpr CodePair kDifferent[] = {
     {226, 365},  // Media player
 };
 
-constexpr bool IsSameInBoth(int code) {
+// Whether a key has this number in both.
+constexpr bool IsSameKeyCode(int code) {
   return (code >= 1 && code <= 68) || (code >= 70 && code <= 83) || (code >= 86 && code <= 88);
 }
 
-}  // namespace
-
-int ScanCodeOfLinuxKey(int linux_code) {
-  if (IsSameInBoth(linux_code)) return linux_code;
-  for (const CodePair& pair : kDifferent) {
+// The scan code of a key of Linux; 0 for a key that has none, and for any other number.
+constexpr int ScanCodeOfLinuxKey(int linux_code) {
+  if (IsSameKeyCode(linux_code)) return linux_code;
+  for (const KeyCodePair& pair : kDifferentKeyCodes) {
     if (pair.linux_code == linux_code) return pair.scancode;
   }
   return 0;
 }
 
-int LinuxKeyOfScanCode(int scancode) {
-  if (IsSameInBoth(scancode)) return scancode;
-  for (const CodePair& pair : kDifferent) {
+// The other way; 0 for a scan code that no key of Linux has.
+constexpr int LinuxKeyOfScanCode(int scancode) {
+  if (IsSameKeyCode(scancode)) return scancode;
+  for (const KeyCodePair& pair : kDifferentKeyCodes) {
     if (pair.scancode == scancode) return pair.linux_code;
   }
   return 0;
 }
 
-}  // namespace tavi
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAP_SCAN_CODES_H_
