@@ -19,12 +19,16 @@ namespace taviinputmanager {
 
 // The host view that shows the guest, in window pixels.
 struct WindowGeometry {
-  int x = 0;       // left edge; macros and aims take it from QCursor::pos
+  int x = 0;       // left edge; the macro commands mouse_... act at QCursor::pos less this
   int y = 0;       // top edge
   int width = 0;   // 0: places of the view give no line
   int height = 0;  // the same
 };
 
+// GetWindowGeometry, GetDisplayRotation, GetDisplayRect and GetTouchRect are asked for no display in particular: they
+// speak of the one that input goes to (OnLoadKeymapConfigAndInfo, UpdateDisplayId). Lines of a replay are reckoned by
+// the same answers. A host may change them between any two of its calls.
+//
 // Members marked "may be null" are tested before each call. The others are called without a test, so a host that gives
 // a table fills them. The order of members is part of the contract.
 struct InputManagerCallbacks {
@@ -33,10 +37,13 @@ struct InputManagerCallbacks {
   // Rotation of the guest display in degrees; only 90 and 270 differ from the rest. Also asked on the thread of a zoom
   // run.
   int (*GetDisplayRotation)() = nullptr;
-  // Whether the guest has a text field focused and typed keys are to become text.
+  // Whether the guest has a text field focused and typed keys are to become text. While it says so no key of
+  // OnQtInputEvent meets the keymap; mouse, wheel and gamepads still do.
   bool (*IsTextInputActive)() = nullptr;
-  // `status` is an InputStatus, `message` the name of the staring key. Called at each set, also without a change; at
-  // the natural end of a replay on that replay's thread.
+  // `status` is an InputStatus, `message` the name of a key: at a keymap load that of its first Staring item, else that
+  // of the Staring or Observe item whose key changed the status last. A reset, a change of the display, and a load of a
+  // keymap without Staring item give the name that was given before. Called at each set, also without a change; at the
+  // natural end of a replay on that replay's thread.
   void (*OnInputStatusChanged)(int status, const QString& message) = nullptr;
   // The kind of gamepad `device` is: 2 and 3 have the second layout of button digits, 4 the third, all others the
   // first. Asked for each button that passes through; 100801 is the gamepad that keys play. May be null.
@@ -45,7 +52,8 @@ struct InputManagerCallbacks {
   bool (*IsEscapeBackEnabled)() = nullptr;
   // Whether the keymap takes Escape at present, so that the host must not use it itself. May be null.
   void (*OnEscapeKeyOccupied)(bool occupied) = nullptr;
-  // The guest display in display pixels, in the orientation that the window shows.
+  // The guest display in display pixels, in the orientation that the window shows. Its top left is where aimed skills
+  // and the macro point `mouse` take the pointer from: QCursor::pos less this.
   QRect (*GetDisplayRect)() = nullptr;
   // The guest's unrotated touch surface. Also asked on the thread of a zoom run.
   QRect (*GetTouchRect)() = nullptr;

@@ -39,6 +39,12 @@
 // - A host that loads a keymap, resets or changes the display from inside a function of its own crashes; see above.
 //
 // Leaving main with gestures, macros or replays under way is safe.
+//
+// Loading: once they are loaded the shared libraries stay in the process with their state, also after dlclose. The code
+// behind a host's tables and send functions has to stay too. Except on Windows, the load of Poco, on which this library
+// stands, blocks SIGPIPE on the loading thread, and threads started from there inherit that. It is not undone here: the
+// host, or another user of Poco in the process, may want it so. A host that counts on the signal unblocks it
+// (pthread_sigmask) at the start of main, or after dlopen.
 #ifndef TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
 #define TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
 
@@ -94,26 +100,31 @@ TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& p
 // callback.
 TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 
-// Lifts every finger and key of `display` (0: the current one). `full` also ends macros and rapid taps. Buttons and
-// sticks of gamepads stay as they are, here and wherever else input is reset: they are let go by events of their own.
-// Nothing before Initialize. Not from inside a callback.
+// Lets go of the keys and gestures on `display` (0: the current one): keys, and slots 0 to 10. `full` also lifts the
+// fingers of taps, slots 11 to 17, and ends macros with a loop until release, and rapid taps that go on while their key
+// is held. Other macros and rapid taps of a set number run on, and slots 18 to 25 are not swept; a keymap load and
+// UpdateDisplayId end and lift those too. Buttons and sticks of gamepads stay as they are, here and wherever else input
+// is reset: they are let go by events of their own. Nothing before Initialize. Not
+// from inside a callback.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
 // What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load. Any thread.
 TAVI_EXPORT InputStatus GetInputStatus();
 
-// Resets all input on the current display; from then on input goes to `display`. Not from inside a callback.
+// Ends and lifts everything on the current display; from then on input goes to `display`. The keymap stays. Not from
+// inside a callback.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
 // While on, keys and wheel of `display` pass through whatever the keymap says, and so do moves and mouse buttons that
 // the keymap does not map, but for the left one. A host resets input when it changes this.
 TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 
-// Puts the guest's pointer at a position of the guest view in window pixels, in keymaps whose mouse is transparent.
-// Nothing before Initialize.
+// Puts the guest's pointer at a position of the guest view in window pixels, in keymaps whose mouse is transparent:
+// where relative counts move it on from. Nothing before Initialize.
 TAVI_EXPORT void UpdateMousePosition(int x, int y);
 
-// Scales a position of the guest view to the guest's display, both in place, without turning it.
+// Scales a position of the guest view to the guest's touch surface, both in place. It is not turned as the places in
+// lines are, and one factor serves both: the width of the view to that of the surface as the window shows it.
 TAVI_EXPORT void ConvertWindowPositionToAndroid(int& x, int& y);
 
 // Factors on the view sensitivity of each axis: 1 leaves it, 0 takes it to 1 per cent, 2 to 200 per cent. Kept across
