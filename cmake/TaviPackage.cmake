@@ -5,6 +5,9 @@ set(CPACK_PACKAGE_VENDOR "taviinputmanager")
 set(TAVI_PACKAGE_CONTACT "taviinputmanager developers <taviinputmanager@example.org>" CACHE STRING
   "Who answers for the Debian packages: name and address")
 set(CPACK_PACKAGE_CONTACT ${TAVI_PACKAGE_CONTACT})
+set(TAVI_PACKAGE_HOMEPAGE "https://example.org/taviinputmanager" CACHE STRING
+  "Where the Debian packages say that more is to be read")
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TAVI_PACKAGE_HOMEPAGE})
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own
 set(CPACK_STRIP_FILES ON)
@@ -23,9 +26,18 @@ set(package_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/keymapmanager)
 
+# `multi_arch`: same, installed for several architectures side by side; foreign, used by packages of any.
+function(tavi_package_section component section multi_arch)
+  # CPack has no name for the field before 3.31: it goes out behind another.
+  set(CPACK_DEBIAN_${component}_PACKAGE_SECTION "${section}\nMulti-Arch: ${multi_arch}" PARENT_SCOPE)
+endfunction()
+
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+tavi_package_section(RUNTIME libs same)
+# The trigger runs ldconfig. CPack leaves out the scripts that would do it too where it is given some of its own, and takes
+# none where those are not there.
+set(no_scripts ${PROJECT_BINARY_DIR}/packaging/none/postinst ${PROJECT_BINARY_DIR}/packaging/none/postrm)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${no_scripts})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "input layer of front ends for Android guests: libraries
@@ -36,7 +48,7 @@ was sent can be recorded and played again.
 This package holds the input layer and the library that reads keymap files.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtaviinputmanager-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+tavi_package_section(DEVELOPMENT libdevel same)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${package_version}), qtbase5-dev (>= 5.15)")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "tavi")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake, pkg-config")
@@ -48,7 +60,7 @@ This package holds the headers, the ways in for CMake and pkg-config, the
 documents for engineers of front ends and guests, and example hosts.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tavi)
-set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+tavi_package_section(TOOLS utils foreign)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "libtaviinputmanager-dev")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "keymaps for Android guests: try, check, simulate, record
@@ -65,13 +77,35 @@ set(changelog packaging/changelog.Debian)
 if(TAVI_FOR_DEBIAN)
   tavi_compress(packaging/changelog.Debian changelog)
 endif()
+function(tavi_lintian_overrides package result)
+  configure_file(packaging/lintian-overrides.in packaging/overrides/${package} @ONLY)
+  set(more ${PROJECT_SOURCE_DIR}/packaging/${package}.lintian-overrides)
+  if(EXISTS ${more})
+    file(READ ${more} text)
+    file(APPEND ${PROJECT_BINARY_DIR}/packaging/overrides/${package} "${text}")
+  endif()
+  set(${result} ${PROJECT_BINARY_DIR}/packaging/overrides/${package} PARENT_SCOPE)
+endfunction()
 foreach(package IN ITEMS "runtime ${runtime_package}" "development libtaviinputmanager-dev" "tools tavi")
   separate_arguments(package UNIX_COMMAND ${package})
   list(POP_FRONT package component)
   install(FILES packaging/copyright ${changelog}
     DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${component} EXCLUDE_FROM_ALL)
+  tavi_lintian_overrides(${package} overrides)
+  install(FILES ${overrides}
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES packaging/libtaviinputmanager-dev.lintian-overrides RENAME libtaviinputmanager-dev
-  DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides COMPONENT development EXCLUDE_FROM_ALL)
+
+# Two builds of one source are equal byte for byte, wherever and whenever they are made: all that has a time has that of
+# the last entry of the changelog.
+if(TAVI_FOR_DEBIAN)
+  find_program(TAVI_PARSE_CHANGELOG dpkg-parsechangelog REQUIRED)
+  set(debian_changelog ${PROJECT_SOURCE_DIR}/packaging/changelog.Debian)
+  execute_process(COMMAND ${TAVI_PARSE_CHANGELOG} -l ${debian_changelog} -S Timestamp
+    OUTPUT_VARIABLE changelog_time OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${debian_changelog})
+  set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_BINARY_DIR}/packaging/time.cmake)
+  file(WRITE ${CPACK_PROJECT_CONFIG_FILE} "set(ENV{SOURCE_DATE_EPOCH} ${changelog_time})\n")
+endif()
 
 include(CPack)

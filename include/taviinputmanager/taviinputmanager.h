@@ -104,8 +104,8 @@ TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 // fingers of taps, slots 11 to 17, and ends macros with a loop until release, and rapid taps that go on while their key
 // is held. Other macros and rapid taps of a set number run on, and slots 18 to 25 are not swept; a keymap load and
 // UpdateDisplayId end and lift those too. Buttons and sticks of gamepads stay as they are, here and wherever else input
-// is reset: they are let go by events of their own. Nothing before Initialize. Not
-// from inside a callback.
+// is reset: they are let go by events of their own. Nothing before Initialize. Not from
+// inside a callback.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
 // What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load. Any thread.
