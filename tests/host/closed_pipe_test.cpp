@@ -6,6 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "test_folders.h"
+
 namespace tavi {
 namespace {
 

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include "keymapmanager/key_names.h"
+#include "test_folders.h"
 
 namespace taviinputmanager {
 
