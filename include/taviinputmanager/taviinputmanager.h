@@ -36,7 +36,7 @@
 // - On the thread of a replay only some functions may be called; the section Replay names them.
 // - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
 // - UpdateRecordTimestamp lets the exception of its JSON parser through.
-// - A host that loads a keymap, resets or changes the display from inside a function of its own crashes; see above.
+// - A host that loads a keymap, resets or changes the display from inside a function of its own can crash; see above.
 //
 // Leaving main with gestures, macros or replays under way is safe.
 //

@@ -48,6 +48,9 @@ def room_of(path):
     return max(rooms, key=len, default=None)
 
 
+MADE = "test_folders.h"  # by CMake, in the build folder
+
+
 def sources():
     for top in sorted({room.split("/")[0] for room in ALL_ROOMS}):
         for suffix in ("*.h", "*.cpp"):
@@ -129,7 +132,7 @@ class IncludeLines(unittest.TestCase):
 
     def test_quoted_names_are_files_of_the_tree(self):
         wrong = [f'{source} includes "{name}"' for source, delimiter, name, target in LINES
-                 if delimiter == '"' and not target and not name.endswith(".moc")]
+                 if delimiter == '"' and not target and not name.endswith(".moc") and name != MADE]
         self.assertEqual(wrong, [])
 
     def test_own_files_are_quoted(self):

@@ -36,7 +36,6 @@ const Row kMainThread[] = {
     ROW(OnLoadKeymapConfigAndInfo, ("", "", "", kDisplay)),
     ROW(OnLoadJoystickConfigAndInfo, ("", 0)),
     ROW(OnResetInputStatus, (true, kDisplay)),
-    ROW(GetInputStatus, ()),
     ROW(UpdateDisplayId, (kDisplay)),
     ROW(UpdateDisplayForceTransparent, (kDisplay, true)),
     ROW(UpdateMousePosition, (1, 1)),
@@ -56,7 +55,6 @@ const Row kMainThread[] = {
     ROW(StopSync, ("a")),
     ROW(PauseSync, ("a")),
     ROW(InitializeRecordCallbacks, (nullptr)),
-    ROW(GetRecordStatus, ()),
     ROW(StartRecord, ("a", "b")),
     ROW(PauseRecord, ()),
     ROW(ResumeRecord, ()),
@@ -104,6 +102,12 @@ TEST_F(Threads, AFunctionOfTheMainThreadSaysItsNameOnAnotherOne) {
 TEST_F(Threads, FilesAreForAnyThread) {
   MakeApplication();
   OnAnotherThread(AskForFiles);
+}
+
+TEST_F(Threads, TheTwoStatesAreForAnyThread) {
+  MakeApplication();
+  OnAnotherThread([] { EXPECT_EQ(InputStatus::Normal, GetInputStatus()); });
+  OnAnotherThread([] { EXPECT_EQ(RecordStatus::Stopped, GetRecordStatus()); });
 }
 
 TEST_F(Threads, BeforeTheApplicationThereIsNoMainThread) {

@@ -56,7 +56,9 @@ TEST_F(KeymapDocumentTest, WhatWouldNotLoadIsRefusedInTheLoadersWords) {
       {"point", "0.5, 2", "'point': expected a number from 0 to 1, got the number 2"},
       {"point", "the middle", "'point': expected [x, y], both from 0 to 1, got the text 'the middle'"},
       {"type", "Clik", "unknown item type: the text 'Clik'; did you mean 'Click'?"},
-      {"radius", "0.5", "unknown field 'radius' of Click"},
+      {"radius", "0.5",
+       "unknown field 'radius' of Click; it belongs to items of type Swipehold, VirtualLeftStick and "
+       "VirtualRightStick"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(document_.SetField(0, row.field, row.text), row.problem);
