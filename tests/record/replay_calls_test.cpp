@@ -143,7 +143,7 @@ constexpr Place kPlaces[] = {
 class HeldUpEnd : public ReplayCalls, public testing::WithParamInterface<Place> {
  protected:
   HeldUpEnd() {
-    program_.Host().primary_display = 1;
+    replay_threads::Program::Host().primary_display = 1;
     SetInputEventSyncFunc(reinterpret_cast<void*>(&HearMirrored));
     StartSync("other", {}, {});
   }
