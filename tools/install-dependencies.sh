@@ -7,8 +7,9 @@
 # Groups: build test docs packaging lint bench plot guest windows coverage valgrind fuzz
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libpoco-dev libyaml-dev libsdl2-dev libevdev-dev)
-test=(groff-base libgtest-dev python3 python3-jsonschema python3-yaml)
+build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
+  libyaml-dev libsdl2-dev libevdev-dev)
+test=(groff-base libgtest-dev libxcb-xfixes0-dev libxcb-xtest0-dev python3 python3-jsonschema python3-yaml xvfb)
 docs=(doxygen)
 packaging=(debootstrap lintian dpkg-dev file)
 lint=(clang-format-14 clang-tidy-14)

@@ -43,6 +43,7 @@ GuestView::GuestView(QWidget* parent)
   WindowHost* host = WindowHost::GetInstance();
   connect(host, &WindowHost::InputStatusChanged, this, &GuestView::TakeInputStatus);
   connect(host, &WindowHost::TextFieldChanged, this, &GuestView::TakeTextField);
+  connect(&capture_, &PointerCapture::Moved, this, &GuestView::SendWay);
   TakeTextField(host->HasTextField());
 }
 
@@ -72,9 +73,8 @@ void GuestView::SetHint(const QString& hint) {
 
 // While the mouse steers the view or looks around, only its movement counts.
 void GuestView::TakeInputStatus(int status) {
-  const bool is_captured =
-      status == static_cast<int>(InputStatus::Staring) || status == static_cast<int>(InputStatus::Observing);
-  capture_.SetActive(is_captured && hasFocus());
+  capture_.SetWanted(status == static_cast<int>(InputStatus::Staring) ||
+                     status == static_cast<int>(InputStatus::Observing));
 }
 
 // An input method that composes would keep keys from the guest while nothing is typed.
@@ -141,12 +141,14 @@ void GuestView::mouseReleaseEvent(QMouseEvent* event) { SendMouse(QEvent::MouseB
 // To a guest the second press of a double click is a press like any other, and the library drops double clicks.
 void GuestView::mouseDoubleClickEvent(QMouseEvent* event) { SendMouse(QEvent::MouseButtonPress, *event); }
 
+// A pointer that is held is moved by the window system alone.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
-  if (!capture_.IsActive()) return SendMouse(QEvent::MouseMove, *event);
-  const QPoint movement = capture_.TakeMovement(event->pos());
-  if (movement.isNull()) return;
+  if (!capture_.IsHeld()) SendMouse(QEvent::MouseMove, *event);
+}
+
+void GuestView::SendWay(int dx, int dy) {
   key_repeats_.Flush();
-  InputPort::GetInstance()->SendRelative(movement.x(), movement.y());
+  InputPort::GetInstance()->SendRelative(dx, dy);
 }
 
 // A drag may leave the view; a finger stays on the glass.
@@ -182,7 +184,6 @@ QVariant GuestView::inputMethodQuery(Qt::InputMethodQuery query) const {
 
 void GuestView::focusOutEvent(QFocusEvent* event) {
   if (!taviinputmanager::isInputHoldWhenWindowDeactivate()) ReleaseInput();
-  capture_.SetActive(false);
   QWidget::focusOutEvent(event);
 }
 

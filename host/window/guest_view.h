@@ -29,6 +29,8 @@ class GuestView : public GuestScreen {
   void SetOverlayDimmed(bool dimmed);
   // Shown in the middle while the guest has nothing to show.
   void SetHint(const QString& hint);
+  // Holds the pointer while the library takes nothing but its movement.
+  const PointerCapture& Capture() const { return capture_; }
 
  Q_SIGNALS:
   // An input method composes, and what it has is the whole of `text`.
@@ -55,6 +57,8 @@ class GuestView : public GuestScreen {
   // Hands an event to the library, behind all that came before it.
   void Send(QEvent* event);
   void SendMouse(QEvent::Type type, const QMouseEvent& event);
+  // Counts of a mouse whose pointer is held.
+  void SendWay(int dx, int dy);
   void ReleaseInput();
   // From pixels of the view.
   QPointF ToGuest(const QPointF& place) const;

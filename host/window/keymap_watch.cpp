@@ -1,5 +1,7 @@
 #include "host/window/keymap_watch.h"
 
+#include <utility>
+
 #include <QFileInfo>
 
 namespace tavi {
@@ -28,11 +30,14 @@ void KeymapWatch::Watch(const QString& path) {
   path_ = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
   if (path_.isEmpty()) return;
   watcher_.addPath(QFileInfo(path_).absolutePath());
-  if (QFileInfo::exists(path_)) watcher_.addPath(path_);
+  is_there_ = QFileInfo::exists(path_);
+  if (is_there_) watcher_.addPath(path_);
 }
 
 void KeymapWatch::Settle() {
-  if (!QFileInfo::exists(path_)) return;
+  const bool was_there = std::exchange(is_there_, QFileInfo::exists(path_));
+  if (was_there && !is_there_) Q_EMIT Vanished();
+  if (!is_there_) return;
   if (!watcher_.files().contains(path_)) watcher_.addPath(path_);
   Q_EMIT Changed();
 }

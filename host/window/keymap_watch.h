@@ -17,10 +17,14 @@ class KeymapWatch : public QObject {
 
   // One file at a time; an empty path ends the watch.
   void Watch(const QString& path);
+  // Whether there was such a file when it was last looked for.
+  bool IsThere() const { return is_there_; }
 
  Q_SIGNALS:
-  // A moment after the last of several changes. Not emitted while there is no such file.
+  // A moment after the last of several changes.
   void Changed();
+  // The same when there is no such file any more.
+  void Vanished();
 
  private:
   void Settle();
@@ -28,6 +32,7 @@ class KeymapWatch : public QObject {
   QFileSystemWatcher watcher_;
   QTimer settling_;
   QString path_;
+  bool is_there_ = false;
 };
 
 }  // namespace tavi

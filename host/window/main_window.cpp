@@ -111,6 +111,8 @@ MainWindow::MainWindow()
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] {
     if (!editor_->TakeFileChange()) LoadKeymap(keymap_.path);
   });
+  // What is in use stays, but nobody is to be caught in its view control.
+  connect(keymap_.watch, &KeymapWatch::Vanished, this, [] { taviinputmanager::OnResetInputStatus(true, 0); });
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
   connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
@@ -125,6 +127,7 @@ MainWindow::MainWindow()
 }
 
 MainWindow::~MainWindow() {
+  view_->clearFocus();  // lets go of what is held while all that hears of it is there
   // The dock tells of its end when this is no main window any more.
   disconnect(replay_dock_, nullptr, nullptr, nullptr);
 }

@@ -1,52 +1,95 @@
 #include "host/window/pointer_capture.h"
 
+#include <cmath>
+#include <utility>
+
 #include <QCursor>
+#include <QEvent>
+#include <QTimerEvent>
 #include <QWidget>
 
 namespace tavi {
 
 namespace {
 
-constexpr int kLeash = 4;  // the pointer strays up to this part of the widget's size
+constexpr int kRetryMs = 100;
 
 }  // namespace
 
-PointerCapture::PointerCapture(QWidget* widget) : widget_(widget) {}
+PointerCapture::PointerCapture(QWidget* view, std::unique_ptr<PointerLock> lock) : view_(view), lock_(std::move(lock)) {
+  view_->installEventFilter(this);
+}
 
-PointerCapture::~PointerCapture() { SetActive(false); }
+PointerCapture::~PointerCapture() {
+  blockSignals(true);
+  GiveBack();
+}
 
-void PointerCapture::SetActive(bool active) {
-  if (active == active_ || !widget_) return;
-  active_ = active;
-  if (active) {
-    start_ = QCursor::pos();
-    last_ = widget_->mapFromGlobal(start_);
-    widget_->setCursor(Qt::BlankCursor);
-    PutBack();
-  } else {
-    widget_->unsetCursor();
-    QCursor::setPos(start_);
+void PointerCapture::SetWanted(bool wanted) {
+  is_wanted_ = wanted;
+  Update();
+}
+
+bool PointerCapture::eventFilter(QObject* /*view*/, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::Show: Update(); break;
+    case QEvent::FocusOut:
+    case QEvent::Hide: GiveBack(); break;
+    default: break;
   }
+  return false;
 }
 
-// Between the order to put the pointer back and the move that does it, moves of the user's own may come, still on the
-// way that the pointer was on: they count from each other. The move to the middle counts for nothing.
-QPoint PointerCapture::TakeMovement(const QPoint& position) {
-  const bool is_landing = is_put_back_ && position == Middle();
-  const QPoint movement = is_landing ? QPoint() : position - last_;
-  last_ = position;
-  if (is_landing) is_put_back_ = false;
-  const QPoint strayed = position - Middle();
-  const bool is_far = qAbs(strayed.x()) > widget_->width() / kLeash || qAbs(strayed.y()) > widget_->height() / kLeash;
-  if (is_far && !is_put_back_) PutBack();
-  return movement;
+void PointerCapture::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != retrying_.timerId()) return QObject::timerEvent(event);
+  Update();
 }
 
-void PointerCapture::PutBack() {
-  is_put_back_ = last_ != Middle();  // where it is already no move will tell
-  QCursor::setPos(widget_->mapToGlobal(Middle()));
+void PointerCapture::Update() {
+  const bool is_due = is_wanted_ && view_->hasFocus() && view_->isVisible();
+  if (!is_due) return GiveBack();
+  if (!is_held_) Take();
 }
 
-QPoint PointerCapture::Middle() const { return widget_->rect().center(); }
+void PointerCapture::Take() {
+  const QPoint start = QCursor::pos();
+  const PointerLock::Outcome outcome = lock_->Hold(view_, [this](const QPointF& way) { Count(way); });
+  if (outcome.result == PointerLock::Result::kBusy) return Retry(outcome.reason);
+  retrying_.stop();
+  SetProblem(outcome.reason);
+  if (outcome.result == PointerLock::Result::kImpossible) return;
+  is_held_ = true;
+  start_ = start;
+  rest_ = {};
+  view_->setCursor(Qt::BlankCursor);
+}
+
+// Many hold the pointer for a moment only, so that the first refusal is not told.
+void PointerCapture::Retry(const QString& reason) {
+  if (retrying_.isActive()) return SetProblem(reason);
+  retrying_.start(kRetryMs, this);
+}
+
+void PointerCapture::GiveBack() {
+  retrying_.stop();
+  SetProblem(QString());
+  if (!std::exchange(is_held_, false)) return;
+  lock_->Release();
+  view_->unsetCursor();
+  QCursor::setPos(start_);
+}
+
+void PointerCapture::Count(const QPointF& way) {
+  rest_ += way;
+  const QPoint counts(static_cast<int>(std::trunc(rest_.x())), static_cast<int>(std::trunc(rest_.y())));
+  rest_ -= counts;
+  if (!counts.isNull()) Q_EMIT Moved(counts.x(), counts.y());
+}
+
+void PointerCapture::SetProblem(const QString& problem) {
+  if (problem == std::exchange(problem_, problem)) return;
+  Q_EMIT ProblemChanged();
+}
 
 }  // namespace tavi

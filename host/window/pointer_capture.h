@@ -1,40 +1,65 @@
 #ifndef HOST_WINDOW_POINTER_CAPTURE_H_
 #define HOST_WINDOW_POINTER_CAPTURE_H_
 
+#include <memory>
+
+#include <QBasicTimer>
+#include <QObject>
 #include <QPoint>
-#include <QPointer>
+#include <QPointF>
+#include <QString>
+
+#include "host/window/pointer_lock.h"
 
 class QWidget;
 
 namespace tavi {
 
-// Keeps the pointer near the middle of a widget and hidden, so that only its movement counts.
+// Holds the pointer for a view, hidden, while that is wanted and the view has the focus. Whenever it ends, the pointer
+// is back where it began.
 //
-// The pointer is put back to the middle when it strays, which window systems other than X11 and Windows may refuse.
-// Main thread.
-class PointerCapture {
+// Where someone else holds the pointer it is tried again, ten times a second, and until then all is as if it were not
+// wanted. Main thread.
+class PointerCapture : public QObject {
+  Q_OBJECT
+
  public:
-  explicit PointerCapture(QWidget* widget);
-  ~PointerCapture();
-  PointerCapture(const PointerCapture&) = delete;
-  PointerCapture& operator=(const PointerCapture&) = delete;
+  // `view` outlives the capture.
+  explicit PointerCapture(QWidget* view, std::unique_ptr<PointerLock> lock = MakePointerLock());
+  ~PointerCapture() override;
 
-  bool IsActive() const { return active_; }
-  // When the capture ends the pointer is back where it began.
-  void SetActive(bool active);
+  // Only movement counts while it is held.
+  bool IsHeld() const { return is_held_; }
+  void SetWanted(bool wanted);
 
-  // Takes a move of the pointer to `position` of the widget and gives what its user moved it by, in pixels.
-  QPoint TakeMovement(const QPoint& position);
+  // Why it is not held though it should be; empty otherwise.
+  const QString& Problem() const { return problem_; }
+
+ Q_SIGNALS:
+  // The mouse went this many counts. What is less than one is kept for the next time.
+  void Moved(int dx, int dy);
+  void ProblemChanged();
+
+ protected:
+  bool eventFilter(QObject* view, QEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
-  QPoint Middle() const;
-  void PutBack();
+  void Update();
+  void Take();
+  void GiveBack();
+  void Retry(const QString& reason);
+  void Count(const QPointF& way);
+  void SetProblem(const QString& problem);
 
-  QPointer<QWidget> widget_;
-  bool active_ = false;
-  QPoint start_;              // of the screen
-  QPoint last_;               // of the widget, where the last move went
-  bool is_put_back_ = false;  // and the move that tells so has not come yet
+  QWidget* const view_;
+  const std::unique_ptr<PointerLock> lock_;
+  bool is_wanted_ = false;
+  bool is_held_ = false;
+  QPoint start_;  // of the screen
+  QPointF rest_;  // counts that are not told yet, less than one
+  QBasicTimer retrying_;
+  QString problem_;
 };
 
 }  // namespace tavi

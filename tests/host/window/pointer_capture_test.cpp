@@ -2,73 +2,196 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <utility>
 
 #include <QApplication>
 #include <QCursor>
+#include <QFocusEvent>
+#include <QMouseEvent>
 #include <QWidget>
+
+#include "host/simulation/virtual_event_dispatcher.h"
 
 namespace tavi {
 namespace {
 
-// A widget whose middle is at 150, 100 of the screen.
+constexpr int kRetryMs = 100;
+
+// A lock that does as it is told.
+struct FakeLock : PointerLock {
+  // Outlives the lock.
+  struct State {
+    Outcome outcome;
+    int tries = 0;
+    bool is_held = false;
+    WaySink sink;
+  };
+  explicit FakeLock(State* state) : state_(state) {}
+
+  Outcome Hold(QWidget* /*view*/, WaySink sink) override {
+    ++state_->tries;
+    state_->is_held = state_->outcome.result == Result::kHeld;
+    state_->sink = std::move(sink);
+    return state_->outcome;
+  }
+  void Release() override { state_->is_held = false; }
+
+  State* state_;
+};
+
+// A view whose middle is at 150, 100 of the screen, and which has the focus.
 class PointerCaptureTest : public testing::Test {
  protected:
-  PointerCaptureTest() : application_(argument_count_, arguments_), widget_(std::make_unique<QWidget>()) {
-    widget_->setGeometry(100, 50, 101, 101);
+  PointerCaptureTest()
+      : clock_(InstallClock()), application_(argument_count_, arguments_), view_(std::make_unique<QWidget>()) {
+    view_->setGeometry(100, 50, 101, 101);
+    view_->setMouseTracking(true);
+    view_->show();
+    view_->activateWindow();
+    view_->setFocus();
+    clock_->Settle();
     QCursor::setPos(10, 20);
   }
 
+  // A capture that the window system answers as `state_` says.
+  PointerCapture* Capture() {
+    if (!capture_) {
+      capture_ = std::make_unique<PointerCapture>(view_.get(), std::make_unique<FakeLock>(&state_));
+      QObject::connect(capture_.get(), &PointerCapture::Moved, [this](int dx, int dy) { moves_ += QPoint(dx, dy); });
+    }
+    return capture_.get();
+  }
+  void Answer(PointerLock::Result result, const char* reason = "") { state_.outcome = {result, QLatin1String(reason)}; }
+
  private:
+  static VirtualEventDispatcher* InstallClock() {
+    auto* clock = new VirtualEventDispatcher;
+    QCoreApplication::setEventDispatcher(clock);
+    return clock;
+  }
   int argument_count_ = 0;
   char* arguments_[1] = {nullptr};
+
+ protected:
+  VirtualEventDispatcher* clock_;  // the application's
+
+ private:
   QApplication application_;
 
  protected:
-  std::unique_ptr<QWidget> widget_;
+  std::unique_ptr<QWidget> view_;
+  FakeLock::State state_;
+  std::unique_ptr<PointerCapture> capture_;
+  QVector<QPoint> moves_;
 };
 
 TEST_F(PointerCaptureTest, ThePointerWaitsInTheMiddleAndComesBack) {
-  PointerCapture capture(widget_.get());
-  capture.SetActive(true);
+  PointerCapture capture(view_.get());
+  capture.SetWanted(true);
   EXPECT_EQ(QCursor::pos(), QPoint(150, 100));
-  EXPECT_EQ(widget_->cursor().shape(), Qt::BlankCursor);
+  EXPECT_EQ(view_->cursor().shape(), Qt::BlankCursor);
 
-  capture.SetActive(false);
+  capture.SetWanted(false);
   EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
-  EXPECT_EQ(widget_->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(PointerCaptureTest, EachMoveCountsFromTheOneBefore) {
-  PointerCapture capture(widget_.get());
-  capture.SetActive(true);
-  EXPECT_EQ(capture.TakeMovement({50, 50}), QPoint(0, 0));  // the way to the middle
-  EXPECT_EQ(capture.TakeMovement({55, 47}), QPoint(5, -3));
-  EXPECT_EQ(capture.TakeMovement({58, 47}), QPoint(3, 0));
-  EXPECT_EQ(capture.TakeMovement({50, 50}), QPoint(-8, 3));  // the user's own way back
-}
-
-// A quarter of 101 pixels is 25. The pointer of the screen stands for what the window system was told.
-TEST_F(PointerCaptureTest, ThePointerIsPutBackBeforeItGetsAway) {
-  PointerCapture capture(widget_.get());
-  capture.SetActive(true);
-  capture.TakeMovement({50, 50});
-  QCursor::setPos(175, 100);
-  EXPECT_EQ(capture.TakeMovement({75, 50}), QPoint(25, 0));
-  EXPECT_EQ(QCursor::pos(), QPoint(175, 100));
-  QCursor::setPos(176, 100);
-  EXPECT_EQ(capture.TakeMovement({76, 50}), QPoint(1, 0));
-  EXPECT_EQ(QCursor::pos(), QPoint(150, 100));
-
-  EXPECT_EQ(capture.TakeMovement({79, 50}), QPoint(3, 0));  // under way before it was put back
-  EXPECT_EQ(capture.TakeMovement({50, 50}), QPoint(0, 0));
-  EXPECT_EQ(capture.TakeMovement({48, 50}), QPoint(-2, 0));
+  EXPECT_EQ(view_->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(PointerCaptureTest, TheEndOfTheCaptureIsTheEndOfItsOwner) {
   {
-    PointerCapture capture(widget_.get());
-    capture.SetActive(true);
+    PointerCapture capture(view_.get());
+    capture.SetWanted(true);
+    EXPECT_EQ(QCursor::pos(), QPoint(150, 100));
   }
+  EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
+}
+
+// Where there is no window system, moves of the view count from each other.
+TEST_F(PointerCaptureTest, WithoutAMouseMovesOfTheViewAreWays) {
+  PointerCapture capture(view_.get());
+  QObject::connect(&capture, &PointerCapture::Moved, [this](int dx, int dy) { moves_ += QPoint(dx, dy); });
+  capture.SetWanted(true);
+  for (const QPoint& place : {QPoint(50, 50), QPoint(55, 47), QPoint(58, 47), QPoint(50, 50)}) {
+    QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view_.get(), &move);
+  }
+  EXPECT_EQ(moves_, (QVector<QPoint>{{5, -3}, {3, 0}, {-8, 3}}));
+}
+
+// 0.75 + 0.75 = 1.5 makes 1 and leaves 0.5; -0.5 and 0.25 leave 0.25; 0.75 more make 1. The other way: -2.5 makes -2.
+TEST_F(PointerCaptureTest, PartsOfACountAreKept) {
+  Capture()->SetWanted(true);
+  for (const QPointF& way : {QPointF(0.75, 0), QPointF(0.75, 0), QPointF(-0.5, 0), QPointF(0.25, 0), QPointF(0.75, 0),
+                             QPointF(0, -2.5), QPointF(0, -0.5)}) {
+    state_.sink(way);
+  }
+  EXPECT_EQ(moves_, (QVector<QPoint>{{1, 0}, {1, 0}, {0, -2}, {0, -1}}));
+}
+
+TEST_F(PointerCaptureTest, PartsOfACountAreNotKeptForTheNextTime) {
+  Capture()->SetWanted(true);
+  state_.sink({0.75, 0});
+  Capture()->SetWanted(false);
+  Capture()->SetWanted(true);
+  state_.sink({0.75, 0});
+  EXPECT_EQ(moves_, QVector<QPoint>());
+}
+
+TEST_F(PointerCaptureTest, OnlyAViewWithTheFocusHoldsIt) {
+  view_->clearFocus();
+  Capture()->SetWanted(true);
+  EXPECT_FALSE(state_.is_held);
+  view_->setFocus();
+  EXPECT_TRUE(state_.is_held);
+  view_->clearFocus();
+  EXPECT_FALSE(state_.is_held);
+  EXPECT_EQ(view_->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(PointerCaptureTest, AHiddenViewGivesItBack) {
+  Capture()->SetWanted(true);
+  view_->hide();
+  EXPECT_FALSE(state_.is_held);
+  EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
+}
+
+// Told from the second refusal on, and tried every 100 ms.
+TEST_F(PointerCaptureTest, APointerThatIsTakenIsTriedAgain) {
+  Answer(PointerLock::Result::kBusy, "taken");
+  Capture()->SetWanted(true);
+  EXPECT_EQ(Capture()->Problem(), QString());
+  clock_->Advance(kRetryMs - 1);
+  EXPECT_EQ(state_.tries, 1);
+  clock_->Advance(1);
+  EXPECT_EQ(state_.tries, 2);
+  EXPECT_EQ(Capture()->Problem(), "taken");
+  EXPECT_FALSE(Capture()->IsHeld());
+  EXPECT_EQ(view_->cursor().shape(), Qt::ArrowCursor);
+
+  Answer(PointerLock::Result::kHeld);
+  clock_->Advance(kRetryMs);
+  EXPECT_TRUE(Capture()->IsHeld());
+  EXPECT_EQ(Capture()->Problem(), QString());
+  clock_->Advance(10 * kRetryMs);
+  EXPECT_EQ(state_.tries, 3);
+}
+
+TEST_F(PointerCaptureTest, TriesEndWithTheWish) {
+  Answer(PointerLock::Result::kBusy, "taken");
+  Capture()->SetWanted(true);
+  clock_->Advance(kRetryMs);
+  Capture()->SetWanted(false);
+  EXPECT_EQ(Capture()->Problem(), QString());
+  clock_->Advance(10 * kRetryMs);
+  EXPECT_EQ(state_.tries, 2);
+}
+
+TEST_F(PointerCaptureTest, WhatIsImpossibleIsToldAndNotTriedAgain) {
+  Answer(PointerLock::Result::kImpossible, "never");
+  Capture()->SetWanted(true);
+  EXPECT_EQ(Capture()->Problem(), "never");
+  EXPECT_FALSE(Capture()->IsHeld());
+  clock_->Advance(10 * kRetryMs);
+  EXPECT_EQ(state_.tries, 1);
   EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
 }
 
