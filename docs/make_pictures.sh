@@ -192,6 +192,8 @@ picture replay 2600 shooter.yaml watch_replay --second-view --replay "$folder/wa
 c++ -shared -fPIC -o "$folder/held_gamepad.so" "$root/docs/held_gamepad.cpp" $(pkg-config --cflags --libs sdl2)
 environment=("LD_PRELOAD=$folder/held_gamepad.so" "HELD_GAMEPAD=$folder/gamepad_is_held")
 picture gamepad 2600 shooter.yaml hold_gamepad --joystick shooter_gamepad.yaml
+environment=(XDG_SESSION_TYPE=wayland QT_QPA_PLATFORM=xcb)
+picture wayland 1500 shooter.yaml true
 environment=()
 
 # One window plays, the other gets its lines. A window leaves with its picture, so each is taken while the other stays.

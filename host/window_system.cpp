@@ -1,6 +1,6 @@
 #include "host/window_system.h"
 
-#include <QtGlobal>
+#include <QGuiApplication>
 
 namespace tavi {
 
@@ -18,6 +18,17 @@ void DropSessionWarning(QtMsgType type, const QMessageLogContext& context, const
 void DoWithoutWindowSystem() {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   next_handler = qInstallMessageHandler(DropSessionWarning);
+}
+
+WindowSystem CurrentWindowSystem() {
+  return WindowSystemOf(QGuiApplication::platformName(), qEnvironmentVariable("XDG_SESSION_TYPE"),
+                        qEnvironmentVariable("WAYLAND_DISPLAY"));
+}
+
+WindowSystem WindowSystemOf(const QString& platform, const QString& session_type, const QString& wayland_display) {
+  if (platform.startsWith(QLatin1String("wayland"))) return WindowSystem::kWayland;
+  const bool is_wayland_session = session_type == QLatin1String("wayland") || !wayland_display.isEmpty();
+  return platform == QLatin1String("xcb") && is_wayland_session ? WindowSystem::kXWayland : WindowSystem::kOther;
 }
 
 }  // namespace tavi

@@ -13,6 +13,19 @@ bool HasWindowSystem(const QStringList& arguments);
 // does not tell of a session that has no folder for its sockets, since it opens none.
 void DoWithoutWindowSystem();
 
+// What windows are on, as far as it matters to who holds a pointer.
+enum class WindowSystem {
+  kXWayland,  // an X server that is itself a client of Wayland
+  kWayland,
+  kOther,
+};
+
+// Of the application, which is made already.
+WindowSystem CurrentWindowSystem();
+
+// `platform` is Qt's name; the other two are the values of XDG_SESSION_TYPE and WAYLAND_DISPLAY.
+WindowSystem WindowSystemOf(const QString& platform, const QString& session_type, const QString& wayland_display);
+
 }  // namespace tavi
 
 #endif  // HOST_WINDOW_SYSTEM_H_

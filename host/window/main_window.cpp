@@ -30,6 +30,7 @@
 #include "host/window/line_log.h"
 #include "host/window/main_tool_bar.h"
 #include "host/window/mirror_label.h"
+#include "host/window/pointer_notice.h"
 #include "host/window/record_bar.h"
 #include "host/window/recorder.h"
 #include "host/window/state_corner.h"
@@ -73,6 +74,7 @@ MainWindow::MainWindow()
     : view_(new GuestView),
       frame_(new GuestFrame(view_)),
       panel_(new GuestPanel(&view_->Model())),
+      full_screen_(new QAction(QStringLiteral("Full screen"), this)),
       keymap_{{}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("This keymap")), new KeymapWatch(this)},
       joystick_keymap_{
           {}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
@@ -91,6 +93,7 @@ MainWindow::MainWindow()
   MakeEventDock();
   MakeReplayDock();
   MakeDisplay();
+  MakeFullScreen();
   MakeEditor();
   MakeToolBar();
   editor_->AddBar();
@@ -137,6 +140,7 @@ QWidget* MainWindow::MakeCentre() {
   auto* layout = new QVBoxLayout(centre);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
+  layout->addWidget(new PointerNotice(CurrentWindowSystem(), &view_->Capture(), full_screen_));
   layout->addWidget(keymap_.diagnostics);
   layout->addWidget(joystick_keymap_.diagnostics);
   layout->addWidget(frame_, 1);
@@ -158,6 +162,14 @@ void MainWindow::MakeDisplay() {
   display_ = new GuestDisplay(view_, frame_, replay_frame_, this);
   connect(display_, &GuestDisplay::Message, this, &MainWindow::Tell);
   connect(display_, &GuestDisplay::DialogClosed, view_, QOverload<>::of(&QWidget::setFocus));
+}
+
+void MainWindow::MakeFullScreen() {
+  full_screen_->setCheckable(true);
+  connect(full_screen_, &QAction::triggered, this,
+          [this](bool on) { setWindowState(windowState().setFlag(Qt::WindowFullScreen, on)); });
+  display_->Menu()->addSeparator();
+  display_->Menu()->addAction(full_screen_);
 }
 
 void MainWindow::MakeStatusBar() {
@@ -364,6 +376,7 @@ void MainWindow::ReadGamepads() {
 
 void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange) TakeActivation();
+  if (event->type() == QEvent::WindowStateChange) full_screen_->setChecked(isFullScreen());
   QMainWindow::changeEvent(event);
 }
 

@@ -93,6 +93,7 @@ class MainWindow : public QMainWindow {
 
   void MakeToolBar();
   void MakeDisplay();
+  void MakeFullScreen();
   void MakeStatusBar();
   QDockWidget* AddDock(const QString& title, QWidget* content, Qt::DockWidgetArea area);
   void MakeLogDock();
@@ -116,6 +117,7 @@ class MainWindow : public QMainWindow {
   GuestView* view_;
   GuestFrame* frame_;
   GuestPanel* panel_;
+  QAction* full_screen_;
   KeymapEditor* editor_ = nullptr;
   KeymapSource edited_;  // the keymap as the editor has it
   Keymap keymap_;
