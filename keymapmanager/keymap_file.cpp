@@ -1,6 +1,7 @@
 #include "keymapmanager/keymap_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "keymap/keywords.h"
 #include "keymapmanager/diagnostic_list.h"
@@ -10,8 +11,6 @@
 namespace tavikeymapmanager {
 
 namespace {
-
-constexpr qint64 kMostBytes = 1024 * 1024;
 
 LoadResult DefaultResult() {
   LoadResult result;
@@ -27,6 +26,12 @@ LoadResult SystemResult() {
   return result;
 }
 
+// A pipe keeps its reader waiting, and could be read once only; a device may have no end.
+bool IsDeviceOrPipe(const QString& path) {
+  const QFileInfo info(path);
+  return info.exists() && !info.isFile() && !info.isDir();
+}
+
 LoadResult FailedResult(const QString& file, const YamlSpan& span, const QString& message) {
   DiagnosticList diagnostics(file);
   diagnostics.Error(span, message);
@@ -40,24 +45,26 @@ LoadResult FailedResult(const QString& file, const YamlSpan& span, const QString
 LoadResult ReadKeymapFile(const QString& path) {
   if (path.isEmpty()) return DefaultResult();
   if (path == keywords::kSystemKeymap) return SystemResult();
+  if (IsDeviceOrPipe(path)) return FailedResult(path, {}, QStringLiteral("cannot be read: not a plain file"));
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
     return FailedResult(path, {}, QStringLiteral("cannot be read: %1").arg(file.errorString()));
   }
-  // One byte more than allowed is enough to see that it is too long; a device may have no end.
-  return ReadKeymapText(file.read(kMostBytes + 1), path);
+  // One byte more than allowed is enough to see that it is too long.
+  return ReadKeymapText(file.read(kMostKeymapBytes + 1), path);
 }
 
 LoadResult ReadKeymapText(const QByteArray& text, const QString& file) {
-  if (text.size() > kMostBytes) {
-    return FailedResult(file, {}, QStringLiteral("longer than %1 bytes").arg(kMostBytes));
+  if (text.size() > kMostKeymapBytes) {
+    return FailedResult(file, {}, QStringLiteral("longer than %1 bytes").arg(kMostKeymapBytes));
   }
   YamlError error;
   const std::optional<YamlNode> root = ParseYaml(text, &error);
-  if (!root) return FailedResult(file, error.span, error.message);
   DiagnosticList diagnostics(file);
-  LoadResult result = KeymapReader(&diagnostics).Read(*root);
+  LoadResult result = root ? KeymapReader(&diagnostics).Read(*root) : DefaultResult();
+  if (!root) diagnostics.Error(error.span, error.message);
   result.diagnostics = diagnostics.Sorted();
+  result.text = text;
   return result;
 }
 

@@ -53,10 +53,15 @@ struct TAVI_KEYMAP_RECORD LoadResult {
   QString name;                          // the keymap's own name, for people
   QVector<ItemSource> item_sources;      // one for each of config->items, in their order
   QVector<Diagnostic> diagnostics;       // in the order of the file
+  QByteArray text;                       // all of the above is of this; empty for what cannot be read or is too long
 };
 
-// Reads the keymap at `path`. An empty path is "no keymap", the reserved system name the built-in system keymap; both
-// give no diagnostics. A syntax error is reported by itself, the errors of the content all at once. Any thread.
+// A keymap of more bytes is refused.
+constexpr qint64 kMostKeymapBytes = 1024 * 1024;
+
+// Reads the keymap at `path`, at once: a pipe or a device is refused.  An empty path is "no keymap", the reserved
+// system name the built-in system keymap; both give no diagnostics. A syntax error is reported by itself, the errors of
+// the content all at once. Any thread.
 TAVI_KEYMAP_EXPORT LoadResult ReadKeymapFile(const QString& path);
 
 // The same for a text in memory; `file` is the name that the diagnostics carry.

@@ -43,6 +43,13 @@ struct RecordFile {
   QVector<RecordFinding> findings;
 };
 
+// Records beyond this are refused: reading takes some ten times their size in memory. Two days of play are shorter.
+constexpr qint64 kMostRecordBytes = qint64{512} << 20;
+
+// Why a file is not even looked into: it is a folder, a pipe or a device, or too long. Empty: it can be read, if it is
+// there. The library itself takes everything, and waits for a pipe.
+QString RecordRefusal(const QString& name);
+
 RecordFile ReadRecordFile(const QString& name);
 
 // The findings, a line each with the file's name in front; beyond a screenful, how many more there are.

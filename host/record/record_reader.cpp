@@ -76,12 +76,10 @@ class RecordReader {
   }
   void Warn(const QString& path, const QString& message) { record_.findings.append({false, 0, 0, path, message}); }
 
-  // A pipe could be read once only, and the library reads the file again.
   bool ReadBytes(const QString& name, QByteArray* bytes) {
+    const QString refusal = RecordRefusal(name);
+    if (!refusal.isEmpty()) return Error({}, QStringLiteral("cannot be read: ") + refusal);
     QFile file(name);
-    if (QFileInfo::exists(name) && !QFileInfo(name).isFile()) {
-      return Error({}, QStringLiteral("cannot be read: not a plain file"));
-    }
     if (!file.open(QIODevice::ReadOnly)) {
       return Error({}, QStringLiteral("cannot be read: %1").arg(file.errorString()));
     }
@@ -260,6 +258,13 @@ class RecordReader {
 };
 
 }  // namespace
+
+// A pipe keeps its reader waiting and could be read once only, while the library reads the file again.
+QString RecordRefusal(const QString& name) {
+  const QFileInfo info(name);
+  if (info.exists() && !info.isFile()) return QStringLiteral("not a plain file");
+  return info.size() <= kMostRecordBytes ? QString() : QStringLiteral("longer than %1 bytes").arg(kMostRecordBytes);
+}
 
 RecordFile ReadRecordFile(const QString& name) {
   const ProgressLine progress(QStringLiteral("reading ") + name);
