@@ -14,18 +14,24 @@ constexpr char kHelp[] =
     "Reads keymap files and prints everything that is wrong with them, one finding a\n"
     "line, as compilers do: \"file:line:column: error: message\". A warning tells of a\n"
     "part that is not what its author meant; the file can be used. A file with\n"
-    "nothing to say about gets the line \"file: 12 items\".\n"
+    "nothing to say about gets the line \"file: 12 items\". \"-\" is standard input.\n"
     "\n"
     "Exit status: 0 when no file has an error, 1 when one has, 2 for a wrong command\n"
     "line.\n"
     "\n"
     "Example: tavi check examples/keymaps/shooter.yaml\n";
 
-bool CheckFile(const QString& file) {
-  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(file);
+bool TellAbout(const QString& name, const tavikeymapmanager::LoadResult& result) {
   Print(FormatDiagnostics(result));
-  if (result.diagnostics.isEmpty()) Print(QStringLiteral("%1: %2\n").arg(file, ItemCountText(result)));
+  if (result.diagnostics.isEmpty()) Print(QStringLiteral("%1: %2\n").arg(name, ItemCountText(result)));
   return !result.HasErrors();
+}
+
+bool CheckFile(const QString& file) {
+  if (file != QLatin1String(kStandardStream)) return TellAbout(file, tavikeymapmanager::ReadKeymapFile(file));
+  const QString name = QStringLiteral("<stdin>");
+  const QByteArray input = ReadStandardInput(tavikeymapmanager::kMostKeymapBytes + 1);  // enough to see that it is long
+  return TellAbout(name, tavikeymapmanager::ReadKeymapText(input, name));
 }
 
 int Run(const Invocation& invocation) {

@@ -1,8 +1,12 @@
 #include "host/command_line.h"
 
+#include <atomic>
+#include <cerrno>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 
+#include <QFile>
 #include <QRegularExpression>
 
 #include "keymapmanager/nearest_word.h"
@@ -72,9 +76,14 @@ class ArgumentReader {
   ParsedArguments result_;
 };
 
-void Write(const QString& text, std::FILE* file) {
-  const QByteArray bytes = text.toUtf8();
-  std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), file);
+std::atomic<int> output_error{0};  // the first that writing to standard output met; a replay may write on its thread
+
+// Nobody reads what is still to come, so that there is nothing to go on for: as it is where the system itself ends the
+// writer.
+void TakeOutputError(int error) {
+  if (error == EPIPE) std::_Exit(kExitProblem);
+  int none = 0;
+  output_error.compare_exchange_strong(none, error);
 }
 
 QString NeedText(const GivenArgument& given, const QString& need) {
@@ -159,9 +168,34 @@ QString Suggestion(const QString& word, const QStringList& known) {
   return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
 }
 
-void Print(const QString& text) { Write(text, stdout); }
+void Print(const QString& text) { PrintBytes(text.toUtf8()); }
 
-void PrintError(const QString& text) { Write(text, stderr); }
+void PrintBytes(const QByteArray& bytes) {
+  const auto size = static_cast<size_t>(bytes.size());
+  if (std::fwrite(bytes.constData(), 1, size, stdout) != size) TakeOutputError(errno);
+}
+
+QString FlushOutput() {
+  if (std::fflush(stdout) != 0) TakeOutputError(errno);
+  return output_error == 0 ? QString() : qt_error_string(output_error);
+}
+
+int FinishOutput(int status) {
+  const QString problem = FlushOutput();
+  if (problem.isEmpty()) return status;
+  PrintError(QStringLiteral("tavi: standard output cannot be written: %1\n").arg(problem));
+  return status == kExitDone ? kExitProblem : status;
+}
+
+void PrintError(const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
+}
+
+QByteArray ReadStandardInput(qint64 most) {
+  QFile input;
+  return input.open(stdin, QIODevice::ReadOnly) ? input.read(most) : QByteArray();
+}
 
 int FailUsage(const QString& subcommand, const QString& error) {
   const QString name = subcommand.isEmpty() ? QStringLiteral("tavi") : QStringLiteral("tavi ") + subcommand;

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include <QByteArray>
 #include <QMap>
 #include <QSize>
 #include <QString>
@@ -59,8 +60,21 @@ QString TakeWholeNumber(const std::optional<GivenArgument>& given, int least, in
 QString TakeFactor(const std::optional<GivenArgument>& given, double* field);
 QString TakeSize(const std::optional<GivenArgument>& given, QSize* field);
 
-void Print(const QString& text);       // to standard output, as UTF-8
-void PrintError(const QString& text);  // to standard error
+// The name that stands for standard input or output in the place of a file's.
+constexpr char kStandardStream[] = "-";
+
+void Print(const QString& text);           // to standard output, as UTF-8
+void PrintBytes(const QByteArray& bytes);  // to standard output
+void PrintError(const QString& text);      // to standard error
+
+// What went wrong with standard output up to here, or nothing. Where nobody reads it any more, each of these ends the
+// program without a word.
+QString FlushOutput();
+// The exit status in place of `status` when not all of standard output could be written, which is told.
+int FinishOutput(int status);
+
+// What there is on standard input, but no more than so many bytes.
+QByteArray ReadStandardInput(qint64 most);
 
 // "; did you mean "x"?" for the one of `known` that comes nearest to `word`, or nothing.
 QString Suggestion(const QString& word, const QStringList& known);

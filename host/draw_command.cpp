@@ -25,7 +25,8 @@ constexpr char kHelp[] =
     "guest's screen, with what its author calls it, and a list of the keys that act\n"
     "nowhere in particular.\n"
     "\n"
-    "  -o PICTURE         where to write it; a name that ends in .svg or .png\n"
+    "  -o PICTURE         where to write it; a name that ends in .svg or .png, or \"-\" for\n"
+    "                     SVG on standard output\n"
     "  --size WxH         size of the picture in pixels, each side from 1 to 16384; the\n"
     "                     size of the background, or 1280x720\n"
     "  --background FILE  a picture to draw on, such as a screenshot of the game; it is\n"
@@ -58,6 +59,7 @@ struct DrawOptions {
 };
 
 Format FormatOf(const QString& name) {
+  if (name == QLatin1String(kStandardStream)) return Format::kSvg;
   const QString suffix = QFileInfo(name).suffix().toLower();
   if (suffix == QLatin1String("svg")) return Format::kSvg;
   return suffix == QLatin1String("png") ? Format::kPng : Format::kNone;

@@ -52,15 +52,13 @@ constexpr char kHelp[] =
     "Example: echo \"down Space; wait 50; up Space\" |\n"
     "           tavi simulate examples/keymaps/shooter.yaml -\n";
 
-constexpr char kStandardInput[] = "-";
-
 const QString kName = QStringLiteral("simulate");
 const QString kSvg = QStringLiteral("--svg");
 const QString kRecord = QStringLiteral("--record");
 const QString kPackage = QStringLiteral("--package");
 
 std::optional<QString> ReadText(const QString& name) {
-  const bool is_standard_input = name == QLatin1String(kStandardInput);
+  const bool is_standard_input = name == QLatin1String(kStandardStream);
   QFile file(name);
   const bool is_open = is_standard_input ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
   if (is_open) return QString::fromUtf8(file.readAll());
@@ -74,7 +72,7 @@ bool IsLoad(const ScriptCommand& command) {
 
 // The files that a script names are looked for from its own folder.
 void ResolveFiles(const QString& script_name, Script* script) {
-  if (script_name == QLatin1String(kStandardInput)) return;
+  if (script_name == QLatin1String(kStandardStream)) return;
   const QDir folder = QFileInfo(script_name).dir();
   for (ScriptCommand& command : script->commands) {
     if (IsLoad(command) && !command.text.isEmpty()) command.text = QDir::cleanPath(folder.filePath(command.text));
@@ -85,7 +83,7 @@ std::optional<Script> ReadScript(const QString& name) {
   const std::optional<QString> text = ReadText(name);
   if (!text) return std::nullopt;
   Script script = ParseScript(*text);
-  const QString shown = name == QLatin1String(kStandardInput) ? QStringLiteral("<stdin>") : name;
+  const QString shown = name == QLatin1String(kStandardStream) ? QStringLiteral("<stdin>") : name;
   for (const ScriptError& error : script.errors) {
     PrintError(QStringLiteral("%1:%2:%3: error: ").arg(shown).arg(error.line).arg(error.column) + error.message +
                QLatin1Char('\n'));
@@ -126,7 +124,7 @@ struct SimulateOptions {
 };
 
 int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
-  const bool is_standard_input = options.script == QLatin1String(kStandardInput);
+  const bool is_standard_input = options.script == QLatin1String(kStandardStream);
   const QString script = is_standard_input ? QStringLiteral("Input") : QFileInfo(options.script).fileName();
   const QString title = QStringLiteral("%1 with %2").arg(script, QFileInfo(options.keymap).fileName());
   return WritePicture(kName, *options.svg, DrawTimeline(chart, title));
@@ -164,6 +162,18 @@ std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString&
   return arguments.options[name];
 }
 
+// Returns what is wrong with the names of the files to write, or nothing. Standard output is the timeline's.
+QString ProblemOf(const SimulateOptions& options) {
+  if (options.svg && options.svg->isEmpty()) return QStringLiteral("the name of the picture is empty");
+  if (options.record && options.record->isEmpty()) return QStringLiteral("the name of the record is empty");
+  for (const std::optional<QString>& name : {options.svg, options.record}) {
+    if (name.value_or(QString()) == QLatin1String(kStandardStream)) {
+      return QStringLiteral("standard output gets the lines; pictures and records need a file");
+    }
+  }
+  return SvgNameProblem(kSvg, options.svg.value_or(QString()));
+}
+
 int Run(const Invocation& invocation) {
   const ParsedArguments arguments = ParseArguments(invocation.arguments, OptionsOf(kHelp));
   if (!arguments.error.isEmpty()) return FailUsage(kName, arguments.error);
@@ -172,12 +182,8 @@ int Run(const Invocation& invocation) {
   }
   const SimulateOptions options{arguments.positional[0], arguments.positional[1], OptionOf(arguments, kSvg),
                                 OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
-  if (options.svg && options.svg->isEmpty()) {
-    return FailUsage(kName, QStringLiteral("the name of the picture is empty"));
-  }
-  if (options.record && options.record->isEmpty()) {
-    return FailUsage(kName, QStringLiteral("the name of the record is empty"));
-  }
+  const QString problem = ProblemOf(options);
+  if (!problem.isEmpty()) return FailUsage(kName, problem);
   const std::optional<Script> script = ReadScript(options.script);
   if (!script || !AreKeymapsUsable(options.keymap, *script)) return kExitUsage;
   return Play(invocation, options, *script);

@@ -143,9 +143,7 @@ int RunNamed(const QString& name, const Invocation& invocation) {
 
 bool IsHelp(const QString& word) { return word == QLatin1String("--help") || word == QLatin1String("-h"); }
 
-}  // namespace
-
-int RunProgram(int& argc, char** argv) {
+int RunWords(int& argc, char** argv) {
   QStringList words;
   for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
   if (words.isEmpty()) return FailUsage({}, QStringLiteral("a command is missing"));
@@ -159,5 +157,9 @@ int RunProgram(int& argc, char** argv) {
   }
   return RunNamed(name, {argc, argv, words});
 }
+
+}  // namespace
+
+int RunProgram(int& argc, char** argv) { return FinishOutput(RunWords(argc, argv)); }
 
 }  // namespace tavi

@@ -11,15 +11,18 @@ namespace tavi {
 
 namespace {
 
-struct CleanUp {
-  std::mutex mutex;  // of `function`, held while it runs
-  std::function<void()> function;
+struct Reactions {
+  std::mutex mutex;  // of both, held while one runs
+  std::function<void()> clean_up;
+  std::function<void(int)> take;
 };
 
+std::once_flag waits;  // for signals
+
 // Never destroyed: the thread that waits for signals outlives everything.
-CleanUp* GetCleanUp() {
-  static auto* clean_up = new CleanUp;
-  return clean_up;
+Reactions* GetReactions() {
+  static auto* reactions = new Reactions;
+  return reactions;
 }
 
 sigset_t SignalsToTake() {
@@ -41,20 +44,38 @@ void Unblock(int number) {
 }
 
 // Ends the program by the signal itself, so that whoever started it knows.
-void WaitForSignal(sigset_t signals) {
-  int number = 0;
-  if (sigwait(&signals, &number) != 0) return;
-  const std::lock_guard<std::mutex> lock(GetCleanUp()->mutex);
-  if (GetCleanUp()->function) GetCleanUp()->function();
+void EndBySignal(int number) {
   std::signal(number, SIG_DFL);
   Unblock(number);
   raise(number);
 }
 
+void WaitForSignals(sigset_t signals) {
+  int number = 0;
+  while (sigwait(&signals, &number) == 0) {
+    Reactions* reactions = GetReactions();
+    const std::lock_guard<std::mutex> lock(reactions->mutex);
+    if (reactions->take) {
+      reactions->take(number);
+      continue;
+    }
+    if (reactions->clean_up) reactions->clean_up();
+    EndBySignal(number);
+  }
+}
+
 void StartWaiting() {
   const sigset_t signals = SignalsToTake();
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);  // threads that are started from here on inherit it
-  std::thread(WaitForSignal, signals).detach();
+  std::thread(WaitForSignals, signals).detach();
+}
+
+// With a thread that waits for signals from the first time on.
+template <typename Reaction>
+void SetReaction(Reaction Reactions::*which, Reaction reaction) {
+  std::call_once(waits, StartWaiting);
+  const std::lock_guard<std::mutex> lock(GetReactions()->mutex);
+  GetReactions()->*which = std::move(reaction);
 }
 
 }  // namespace
@@ -63,11 +84,10 @@ void EndWithReader() { Unblock(SIGPIPE); }
 
 bool IsErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
 
-void SetCleanUp(std::function<void()> clean_up) {
-  static std::once_flag once;
-  std::call_once(once, StartWaiting);
-  const std::lock_guard<std::mutex> lock(GetCleanUp()->mutex);
-  GetCleanUp()->function = std::move(clean_up);
-}
+void SetCleanUp(std::function<void()> clean_up) { SetReaction(&Reactions::clean_up, std::move(clean_up)); }
+
+void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&Reactions::take, std::move(take)); }
+
+void MakeOutputBinary() {}
 
 }  // namespace tavi

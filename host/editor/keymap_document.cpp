@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include <QFile>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include "host/editor/new_item.h"
+#include "host/plain_file.h"
+#include "host/whole_file.h"
 #include "keymap/tavikeymapmanager.h"
 
 namespace tavi {
@@ -28,20 +28,7 @@ const QString kItems = QStringLiteral("items");
 const QString kSettings = QStringLiteral("settings");
 const QString kWheel = QStringLiteral("wheel");
 
-std::optional<QByteArray> ReadBytes(const QString& path) {
-  QFile file(path);
-  if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
-  return file.readAll();
-}
-
-// Beside its place, and moved there when it is complete; in place where the folder takes no new file. Returns what went
-// wrong.
-QString WriteBytes(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  file.setDirectWriteFallback(true);
-  const bool is_written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-  return is_written ? QString() : QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
-}
+std::optional<QByteArray> ReadBytes(const QString& path) { return ReadPlainFile(path, km::kMostKeymapBytes); }
 
 // There is one.
 const km::Diagnostic& FirstError(const km::LoadResult& keymap) {
@@ -134,12 +121,16 @@ KeymapDocument::~KeymapDocument() {
 
 bool KeymapDocument::Open(const QString& path) {
   const std::optional<QByteArray> bytes = ReadBytes(path);
+  Open(path, bytes.value_or(QByteArray()));
+  return bytes.has_value();
+}
+
+void KeymapDocument::Open(const QString& path, const QByteArray& text) {
   path_ = path;
-  text_on_disk_ = bytes.value_or(QByteArray());
+  text_on_disk_ = text;
   Take(text_on_disk_);
   undo_.clear();
   Q_EMIT Changed();
-  return bytes.has_value();
 }
 
 void KeymapDocument::New() {
@@ -151,8 +142,8 @@ void KeymapDocument::New() {
 }
 
 QString KeymapDocument::Save(const QString& path) {
-  QString problem = WriteBytes(path, text_);
-  if (!problem.isEmpty()) return problem;
+  const QString problem = WriteWholeFile(path, text_);
+  if (!problem.isEmpty()) return QStringLiteral("%1 cannot be written: %2").arg(path, problem);
   path_ = path;
   text_on_disk_ = text_;
   undo_.setClean();

@@ -42,11 +42,14 @@ class KeymapDocument : public QObject {
   // Takes the file at `path` in; the way back ends here. A file with errors is taken in as well, for looking.
   // False when there is no such file to read: the document is then empty.
   bool Open(const QString& path);
+  // The same of what has just been read from it.
+  void Open(const QString& path, const QByteArray& text);
   // A keymap without items, which has no file yet.
   void New();
 
   const QString& Path() const { return path_; }  // empty: no file yet
   const QByteArray& Text() const { return text_; }
+  const QByteArray& TextOnDisk() const { return text_on_disk_; }  // as it was last read or written here
   const tavikeymapmanager::LoadResult& Keymap() const { return keymap_; }
   const tavikeymapmanager::KeymapOutline& Outline() const { return outline_; }
   QUndoStack* UndoStack() { return &undo_; }
@@ -79,7 +82,8 @@ class KeymapDocument : public QObject {
   // in `source`.
   QString SetSource(const KeymapPart& part, const QString& source);
 
-  // Makes the text the content of the file at `path`, which is the document's file from then on.
+  // Makes the text the content of the file at `path`, which is the document's file from then on. Where that fails, the
+  // file stays as it was.
   QString Save(const QString& path);
   // Somebody else has written the document's file since it was read or saved here.
   bool IsFileChanged() const;

@@ -1,20 +1,37 @@
 #include "host/picture/picture_file.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
 
 #include "host/command_line.h"
+#include "host/terminal.h"
 #include "host/whole_file.h"
 
 namespace tavi {
 
+namespace {
+
+// What goes wrong there is told at the end of the program.
+int WriteToOutput(const QByteArray& picture) {
+  MakeOutputBinary();
+  PrintBytes(picture);
+  return FlushOutput().isEmpty() ? kExitDone : kExitProblem;
+}
+
+}  // namespace
+
 int WritePicture(const QString& command, const QString& name, const QByteArray& picture) {
-  WholeFile whole(name);
-  QFile file(whole.WorkingName());
-  const bool is_written =
-      file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.flush() && whole.Keep();
-  if (is_written) return kExitDone;
-  PrintError(QStringLiteral("tavi %1: cannot write %2: %3\n").arg(command, name, file.errorString()));
+  if (name == QLatin1String(kStandardStream)) return WriteToOutput(picture);
+  const QString problem = WriteWholeFile(name, picture);
+  if (problem.isEmpty()) return kExitDone;
+  PrintError(QStringLiteral("tavi %1: cannot write %2: %3\n").arg(command, name, problem));
   return kExitProblem;
+}
+
+QString SvgNameProblem(const QString& option, const QString& name) {
+  static const QStringList others = {"png", "jpg", "jpeg", "gif", "bmp", "webp", "tif", "tiff", "pdf", "ps", "eps"};
+  if (!others.contains(QFileInfo(name).suffix().toLower())) return {};
+  return QStringLiteral("%1 draws SVG only and needs a name that ends in .svg, not \"%2\"").arg(option, name);
 }
 
 }  // namespace tavi

@@ -21,7 +21,7 @@ constexpr char kHelp[] =
     "\n"
     "Draws a record as a picture: the ways that its fingers take, in the colours of time.\n"
     "\n"
-    "  -o PICTURE    where to write it (SVG)\n"
+    "  -o PICTURE    where to write it, as SVG; \"-\" is standard output\n"
     "\n"
     "Long work is told of on a terminal. Ctrl+C ends it, and leaves the picture as it was.\n"
     "\n"
@@ -39,11 +39,19 @@ QByteArray Draw(const QString& name, const RecordFile& record) {
   return DrawRecord({QFileInfo(name).fileName(), info, FollowContacts(record.root)});
 }
 
+// Returns what is wrong with the command line, or nothing.
+QString ProblemOf(const ParsedArguments& parsed) {
+  if (!parsed.error.isEmpty()) return parsed.error;
+  if (parsed.positional.size() != 1) return QStringLiteral("one record is needed");
+  const QString output = parsed.options.value(kOutput);
+  if (output.isEmpty()) return QStringLiteral("-o FILE is missing");
+  return SvgNameProblem(kOutput, output);
+}
+
 int Run(const Invocation& invocation) {
   const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
-  if (!parsed.error.isEmpty()) return FailUsage(kCommand, parsed.error);
-  if (parsed.positional.size() != 1) return FailUsage(kCommand, QStringLiteral("one record is needed"));
-  if (parsed.options.value(kOutput).isEmpty()) return FailUsage(kCommand, QStringLiteral("-o FILE is missing"));
+  const QString problem = ProblemOf(parsed);
+  if (!problem.isEmpty()) return FailUsage(kCommand, problem);
   const QString name = parsed.positional[0];
   const RecordFile record = ReadRecordFile(name);
   if (!IsRecordUsable(name, record)) return kExitUsage;

@@ -3,6 +3,7 @@
 #include "host/command_line.h"
 #include "host/progress_line.h"
 #include "host/record/record_file.h"
+#include "host/record/written_record.h"
 #include "host/whole_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -62,18 +63,26 @@ bool AreRecordsUsable(const QVector<MergeParam>& records) {
   return all;
 }
 
-bool Merge(const MergeOrder& order) {
+// Returns what went wrong, or nothing.
+QString Merge(const MergeOrder& order) {
   WholeFile file(order.target);
+  if (!file.Problem().isEmpty()) return file.Problem();
   const ProgressLine progress(QStringLiteral("writing ") + order.target);
-  return taviinputmanager::MergeRecord(file.WorkingName(), order.records) && file.Keep();
+  taviinputmanager::MergeRecord(file.WorkingName(), order.records);
+  RecordInfo info;
+  const QString problem = WrittenRecordProblem(file.WorkingName(), &info);
+  if (!problem.isEmpty()) return problem;
+  file.Keep();
+  return file.Problem();
 }
 
 int Run(const Invocation& invocation) {
   const MergeOrder order = ReadMergeOrder(invocation.arguments);
   if (!order.problem.isEmpty()) return FailUsage(kCommand, order.problem);
   if (!AreRecordsUsable(order.records)) return kExitUsage;
-  if (Merge(order)) return kExitDone;
-  PrintError(QStringLiteral("tavi record merge: cannot write %1\n").arg(order.target));
+  const QString problem = Merge(order);
+  if (problem.isEmpty()) return kExitDone;
+  PrintError(QStringLiteral("tavi record merge: cannot write %1: %2\n").arg(order.target, problem));
   return kExitProblem;
 }
 

@@ -1,16 +1,28 @@
 #include "host/record/script_recording.h"
 
 #include "host/command_line.h"
+#include "host/record/written_record.h"
 #include "host/simulation/simulated_host.h"
+#include "host/whole_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
 
 namespace {
 
-enum Outcome : int { kSaved = 0, kNothingToSave = 1, kCannotWrite = 2 };
+int last_outcome = kRecordSaved;
 
-int last_outcome = kSaved;
+// Returns what went wrong, or nothing.
+QString Save(const QString& package, const QString& file) {
+  WholeFile whole(file);
+  if (!whole.Problem().isEmpty()) return QStringLiteral("cannot be written: ") + whole.Problem();
+  taviinputmanager::StopRecord(package, whole.WorkingName());
+  if (last_outcome == kNothingToSave) return QStringLiteral("not written: there is nothing to record");
+  RecordInfo info;
+  QString problem = WrittenRecordProblem(whole.WorkingName(), &info);
+  if (problem.isEmpty() && !whole.Keep()) problem = whole.Problem();
+  return problem.isEmpty() ? problem : QStringLiteral("cannot be written: ") + problem;
+}
 
 taviinputmanager::InputRecorderCallbacks MakeTable() {
   const auto ignore = [] {};
@@ -30,10 +42,8 @@ void StartScriptRecording(const QString& package, int display) {
 }
 
 int SaveScriptRecording(const QString& package, const QString& file) {
-  taviinputmanager::StopRecord(package, file);
-  if (last_outcome == kSaved) return kExitDone;
-  const QString problem = last_outcome == kNothingToSave ? QStringLiteral("not written: there is nothing to record")
-                                                         : QStringLiteral("cannot be written");
+  const QString problem = Save(package, file);
+  if (problem.isEmpty()) return kExitDone;
   PrintError(QStringLiteral("%1: %2\n").arg(file, problem));
   return kExitProblem;
 }

@@ -6,6 +6,10 @@
 namespace tavi {
 
 void GuestPlayer::Play(const SentLine& line) {
+  if (line.is_cut) {
+    const QString problem = QStringLiteral("passed over, longer than %1 bytes").arg(GuestStream::kMostLineBytes);
+    return Tell(problem, line.line + QStringLiteral("..."));
+  }
   if (settings_.is_timeline) {
     PlayTimed(line);
   } else {

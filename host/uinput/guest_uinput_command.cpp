@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <fcntl.h>
 #include <thread>
 #include <unistd.h>
@@ -37,8 +36,9 @@ constexpr char kHelp[] =
     "  --dry-run      makes no device and does not wait: prints the kernel's events,\n"
     "                 such as \"screen EV_ABS ABS_MT_SLOT 11\"\n"
     "\n"
-    "A line that is not understood, and characters of a text that no key of a US\n"
-    "keyboard types, are told on standard error, and the rest is played.\n"
+    "A line that is not understood or is longer than 64 KiB, and characters of a text\n"
+    "that no key of a US keyboard types, are told on standard error, and the rest is\n"
+    "played.\n"
     "docs/guest-protocol.md tells the lines.\n"
     "\n"
     "Exit status: 0 when every line was played, 1 when one was not, 2 when /dev/uinput\n"
@@ -107,7 +107,7 @@ bool PlayAll(int file, GuestPlayer* player) {
     }
     stream.Append(QByteArray(buffer, static_cast<int>(count)));
     while (const auto line = stream.Next()) player->Play(*line);
-    std::fflush(stdout);
+    FlushOutput();
   }
 }
 
@@ -126,7 +126,7 @@ int Play(const Options& options) {
       return kExitUsage;
     }
     for (const QString& place : devices.Places()) Print(place + QLatin1Char('\n'));
-    std::fflush(stdout);
+    FlushOutput();
   }
   const bool is_named = !options.input.isEmpty();
   const int file = is_named ? ::open(QFile::encodeName(options.input).constData(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO;

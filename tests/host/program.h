@@ -39,6 +39,7 @@ class Program : public testing::Test {
     if (!has_platform_) environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
     if (!has_session_) environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
     process.setProcessEnvironment(environment);
+    if (!output_.isEmpty()) process.setStandardOutputFile(output_);
     process.start(QStringLiteral(TAVI_BINARY_DIR "/host/tavi"), arguments);
     process.write(input);
     process.closeWriteChannel();
@@ -58,6 +59,7 @@ class Program : public testing::Test {
 
   bool has_platform_ = true;
   bool has_session_ = true;
+  QString output_;  // where standard output goes; empty: into the outcome
 
  private:
   int argument_count_ = 0;

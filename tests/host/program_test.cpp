@@ -1,5 +1,7 @@
 #include "tests/host/program.h"
 
+#include <sys/stat.h>
+
 namespace tavi {
 namespace {
 
@@ -190,6 +192,84 @@ TEST_F(Program, WindowSavesItsPicture) {
   EXPECT_EQ(Run({"window", "good.yaml", "--picture", "out.png", "--after", "0"}).status, 0);
   EXPECT_TRUE(Has("out.png"));
   EXPECT_EQ(Run({"window", "good.yaml", "--picture", "none/out.png", "--after", "0"}).status, 1);
+}
+
+// ---- Standard input and output
+
+TEST_F(Program, CheckReadsStandardInput) {
+  EXPECT_EQ(Run({"check", "-"}, kGood).output, QString("<stdin>: 1 item\n"));
+  const Outcome outcome = Run({"check", "-"}, kBad);
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(outcome.output.startsWith("<stdin>:3:24: error: ")) << outcome.output.toStdString();
+  const Outcome too_long = Run({"check", "-"}, QByteArray((1 << 20) + 1, '#'));
+  EXPECT_EQ(too_long.output, QString("<stdin>:1:1: error: longer than 1048576 bytes\n"));
+}
+
+TEST_F(Program, WhatStandardOutputDoesNotTakeIsTold) {
+  Write("good.yaml", kGood);
+  const QList<QStringList> commands = {{"--help"},
+                                       {"keys"},
+                                       {"check", "good.yaml"},
+                                       {"draw", "-o", "-", "good.yaml"},
+                                       {"record", "info", TAVI_SOURCE_DIR "/examples/records/walk.json"},
+                                       {"record", "play", TAVI_SOURCE_DIR "/examples/records/walk.json"},
+                                       {"record", "draw", "-o", "-", TAVI_SOURCE_DIR "/examples/records/walk.json"}};
+  for (const QStringList& command : commands) {
+    SCOPED_TRACE(command.join(' ').toStdString());
+    output_ = "/dev/full";
+    const Outcome outcome = Run(command);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, QString("tavi: standard output cannot be written: No space left on device\n"));
+  }
+}
+
+// By the signal that tells of it, or by itself where that is blocked.
+TEST_F(Program, AReaderThatGoesEndsTheProgramQuietly) {
+  QProcess shell;
+  shell.start("sh", {"-c", "{ \"$0\" keys; echo $? >&2; } | true", TAVI_BINARY_DIR "/host/tavi"});
+  ASSERT_TRUE(shell.waitForFinished());
+  const QByteArray status = shell.readAllStandardError().trimmed();
+  EXPECT_TRUE(status == "1" || status == "141") << status.toStdString();  // 128 + SIGPIPE
+}
+
+TEST_F(Program, PicturesGoToStandardOutput) {
+  Write("good.yaml", kGood);
+  const Outcome drawn = Run({"draw", "-o", "-", "good.yaml"});
+  EXPECT_EQ(drawn.status, 0);
+  EXPECT_TRUE(drawn.output.contains("<svg") && drawn.output.endsWith("</svg>\n")) << drawn.output.toStdString();
+  EXPECT_FALSE(Has("-"));
+  const Outcome mixed = Run({"simulate", "--svg", "-", "good.yaml", "-"});
+  EXPECT_EQ(mixed.status, 2);
+  EXPECT_TRUE(mixed.errors.startsWith("tavi simulate: standard output gets the lines")) << mixed.errors.toStdString();
+}
+
+TEST_F(Program, WhatIsDrawnAsSvgAloneIsNotCalledOtherwise) {
+  Write("good.yaml", kGood);
+  const Outcome outcome = Run({"simulate", "--svg", "tap.png", "good.yaml", "-"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_TRUE(outcome.errors.startsWith("tavi simulate: --svg draws SVG only")) << outcome.errors.toStdString();
+}
+
+// ---- What is no plain file
+
+TEST_F(Program, APipeIsNoKeymapAndNoRecord) {
+  ASSERT_EQ(mkfifo(QFile::encodeName(Folder() + "/pipe").constData(), 0600), 0);
+  const QString problem = "cannot be read: not a plain file\n";
+  EXPECT_EQ(Run({"check", "pipe"}).output, "pipe:1:1: error: " + problem);
+  EXPECT_EQ(Run({"check", "/dev/zero"}).output, "/dev/zero:1:1: error: " + problem);
+  EXPECT_EQ(Run({"draw", "-o", "a.svg", "pipe"}).errors, "pipe:1:1: error: " + problem);
+  EXPECT_EQ(Run({"simulate", "pipe", "-"}).errors, "pipe:1:1: error: " + problem);
+  EXPECT_EQ(Run({"record", "info", "pipe"}).errors, "pipe: error: " + problem);
+  const Outcome window = Run({"window", "pipe"});
+  EXPECT_EQ(window.status, 2);
+  EXPECT_TRUE(window.errors.contains("tavi window: not a plain file: pipe\n")) << window.errors.toStdString();
+}
+
+TEST_F(Program, ARecordIsReadUpToALimit) {
+  Write("big.json", "");
+  QFile::resize(Folder() + "/big.json", (qint64{512} << 20) + 1);  // takes no room
+  EXPECT_EQ(Run({"record", "info", "big.json"}).errors,
+            QString("big.json: error: cannot be read: longer than 536870912 bytes\n"));
 }
 
 }  // namespace

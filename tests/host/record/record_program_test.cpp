@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QXmlStreamReader>
 
+#include "tests/host/full_disk.h"
 #include "tests/host/program.h"
 #include "tests/host/record/record_text.h"
 
@@ -251,7 +252,8 @@ TEST_F(RecordProgram, MergeTellsWhenItCannotWrite) {
   WriteTap("tap.json");
   const Outcome outcome = Run({"record", "merge", "-o", "none/out.json", "tap.json"});
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.errors, QStringLiteral("tavi record merge: cannot write none/out.json\n"));
+  EXPECT_EQ(outcome.errors,
+            QStringLiteral("tavi record merge: cannot write none/out.json: No such file or directory\n"));
 }
 
 TEST_F(RecordProgram, DrawWritesAPicture) {
@@ -303,7 +305,31 @@ TEST_F(RecordProgram, SimulateTellsWhenThereIsNoRecord) {
   const Outcome nowhere =
       Run({"simulate", "--record", "none/out.json", "keymap.yaml", "-"}, "down Space; wait 1; up Space\n");
   EXPECT_EQ(nowhere.status, 1);
-  EXPECT_TRUE(nowhere.errors.endsWith("none/out.json: cannot be written\n"));
+  EXPECT_TRUE(nowhere.errors.endsWith("none/out.json: cannot be written: No such file or directory\n"));
+}
+
+// The library says that all is well then.
+TEST_F(RecordProgram, AFullDiskLeavesTheRecordThatWasThere) {
+  Write("keymap.yaml", kKeymap);
+  Write("tap.json", "before");
+  Outcome outcome;
+  {
+    const FileSizeLimit full(100);
+    outcome = Run({"simulate", "--record", "tap.json", "keymap.yaml", "-"}, "down Space; wait 50; up Space\n");
+  }
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.errors, QString("tap.json: cannot be written: it came out short; the disk may be full\n"));
+  EXPECT_EQ(Content("tap.json"), QByteArray("before"));
+}
+
+TEST_F(RecordProgram, DrawsToStandardOutputAndNoOtherKindOfPicture) {
+  WriteTap("tap.json");
+  EXPECT_TRUE(Run({"record", "draw", "-o", "-", "tap.json"}).output.contains("<svg"));
+  const Outcome png = Run({"record", "draw", "-o", "tap.png", "tap.json"});
+  EXPECT_EQ(png.status, 2);
+  EXPECT_TRUE(png.errors.startsWith("tavi record draw: -o draws SVG only and needs a name that ends in .svg"))
+      << png.errors.toStdString();
+  EXPECT_FALSE(Has("tap.png"));
 }
 
 }  // namespace

@@ -59,6 +59,51 @@ TEST(GuestStream, TheLastLineMayLackItsEnd) {
   EXPECT_EQ(text->line, QStringLiteral("TEXT:a\nb"));
 }
 
+constexpr int kMost = GuestStream::kMostLineBytes;
+
+TEST(GuestStream, ALineThatIsTooLongIsPassedOver) {
+  GuestStream stream;
+  stream.Append("1:" + QByteArray(kMost, 'A'));
+  const auto cut = stream.Next();
+  ASSERT_TRUE(cut.has_value());
+  EXPECT_TRUE(cut->is_cut);
+  EXPECT_EQ(cut->line, "1:" + QString(38, 'A'));  // its first 40 bytes
+  EXPECT_FALSE(stream.Next().has_value());
+  stream.Append(QByteArray(3 * kMost, 'A'));
+  EXPECT_FALSE(stream.Next().has_value());  // told once
+  stream.Append("AAA\n1:HATX:0\n");
+  EXPECT_EQ(Taken(&stream), QStringList{"1:HATX:0"});
+  EXPECT_FALSE(stream.Last().has_value());
+}
+
+TEST(GuestStream, ALineMayBeAsLongAsTheLimit) {
+  GuestStream stream;
+  stream.Append(QByteArray(kMost, 'A'));
+  EXPECT_FALSE(stream.Next().has_value());
+  stream.Append("\n" + QByteArray(kMost + 1, 'B') + "\n");
+  EXPECT_EQ(stream.Next()->line, QString(kMost, 'A'));
+  EXPECT_TRUE(stream.Next()->is_cut);
+  EXPECT_FALSE(stream.Next().has_value());
+}
+
+TEST(GuestStream, ATextThatIsTooLongEndsInItsNul) {
+  GuestStream stream;
+  stream.Append("TEXT:" + QByteArray(kMost, '\n'));
+  EXPECT_TRUE(stream.Next()->is_cut);
+  stream.Append(
+      QByteArray("\n1:HATX:0\n\0"
+                 "1:HATY:0\n",
+                 20));
+  EXPECT_EQ(Taken(&stream), QStringList{"1:HATY:0"});
+}
+
+TEST(GuestStream, TheRestOfALineThatIsTooLongIsNoLastLine) {
+  GuestStream stream;
+  stream.Append(QByteArray(kMost + 1, 'A'));
+  EXPECT_TRUE(stream.Next()->is_cut);
+  EXPECT_FALSE(stream.Last().has_value());
+}
+
 TEST(TimelineLine, HasATimeAndMayHaveAMark) {
   const auto event = ReadTimelineLine("40ms 1:SLOTRELEASE:11");
   ASSERT_TRUE(event.has_value());

@@ -38,6 +38,13 @@ TEST_F(GuestUinput, TellsOfALineAndGoesOn) {
   EXPECT_EQ(outcome.errors, QStringLiteral("tavi guest-uinput: not understood: 1:NOTHING\n"));
 }
 
+TEST_F(GuestUinput, TellsOfALineThatIsTooLongAndGoesOn) {
+  const Outcome outcome = DryRun("1:" + QByteArray(70000, 'A') + "\n1:KBDPR:30:1\n");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, QLatin1String(kKeyDown));
+  EXPECT_EQ(outcome.errors, "tavi guest-uinput: passed over, longer than 65536 bytes: 1:" + QString(38, 'A') + "...\n");
+}
+
 TEST_F(GuestUinput, TakesItsSizeAndDisplay) {
   const Outcome outcome = DryRun("1:KBDPR:30:1\n2:MOUSEMOVE_REL:640:360\n", {"--size", "100x50", "--display", "2"});
   EXPECT_EQ(outcome.output, QStringLiteral("pointer EV_ABS ABS_X 99\n"

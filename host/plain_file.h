@@ -1,0 +1,17 @@
+#ifndef HOST_PLAIN_FILE_H_
+#define HOST_PLAIN_FILE_H_
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+namespace tavi {
+
+// The content of a file of at most so many bytes, at once: nothing where there is none, where it cannot be read or is
+// longer, and of pipes and devices, which may keep their reader waiting or have no end.
+std::optional<QByteArray> ReadPlainFile(const QString& name, qint64 most);
+
+}  // namespace tavi
+
+#endif  // HOST_PLAIN_FILE_H_
