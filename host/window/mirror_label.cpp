@@ -27,6 +27,9 @@ MirrorLabel::MirrorLabel(QWidget* parent) : QLabel(parent) {
     ShowMirrors();
     Q_EMIT Message(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
   });
+  connect(targets, &MirrorTargets::TooLong, this, [this](int characters) {
+    Q_EMIT Message(QStringLiteral("A text of %1 characters is too long for other instances").arg(characters), true);
+  });
   ShowMirrors();
 }
 

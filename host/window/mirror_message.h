@@ -5,6 +5,8 @@
 #include <QDataStream>
 #include <QString>
 
+class QIODevice;
+
 namespace tavi {
 
 // A line with its newline, and without a display: each instance puts it on its own.
@@ -15,12 +17,22 @@ struct MirrorMessage {
 
 constexpr auto kMirrorStreamVersion = QDataStream::Qt_5_15;
 
+// No line has so many characters; who sends one is no instance of ours.
+constexpr int kTooLongMirrorLine = 64 * 1024;
+// Holds any message.
+constexpr qint64 kMirrorBufferBytes = 5 + 2 * qint64{kTooLongMirrorLine};
+
 inline QDataStream& operator<<(QDataStream& stream, const MirrorMessage& message) {
   return stream << message.is_text << message.line;
 }
 inline QDataStream& operator>>(QDataStream& stream, MirrorMessage& message) {
   return stream >> message.is_text >> message.line;
 }
+
+// Takes the next message that is there whole. It is waited for by its length alone, so what has come of it is not
+// looked at again and again.
+enum class MirrorReading { kMessage, kIncomplete, kBroken };
+MirrorReading ReadMirrorMessage(QIODevice* device, MirrorMessage* message);
 
 }  // namespace tavi
 

@@ -11,23 +11,12 @@
 
 namespace tavi {
 
-namespace {
-
-constexpr int kProbeMs = 200;
-
-// Whether someone answers under this name.
-bool IsInUse(const QString& name) {
-  QLocalSocket probe;
-  probe.connectToServer(name);
-  return probe.waitForConnected(kProbeMs);
-}
-
-}  // namespace
-
 // One other instance. What it holds down is let go when it goes.
 class MirrorServer::Source {
  public:
-  Source(QLocalSocket* socket, int display) : socket_(socket), display_(display), model_(display) {}
+  Source(QLocalSocket* socket, int display) : socket_(socket), display_(display), model_(display) {
+    socket_->setReadBufferSize(kMirrorBufferBytes);
+  }
   ~Source() {
     socket_->disconnect();
     socket_->deleteLater();
@@ -38,13 +27,10 @@ class MirrorServer::Source {
 
   // False when what came is no message.
   bool TakeMessages() {
-    QDataStream stream(socket_);
-    stream.setVersion(kMirrorStreamVersion);
-    while (true) {
+    for (;;) {
       MirrorMessage message;
-      stream.startTransaction();
-      stream >> message;
-      if (!stream.commitTransaction()) return stream.status() != QDataStream::ReadCorruptData;
+      const MirrorReading reading = ReadMirrorMessage(socket_, &message);
+      if (reading != MirrorReading::kMessage) return reading == MirrorReading::kIncomplete;
       Take(message);
     }
   }
@@ -81,35 +67,28 @@ class MirrorServer::Source {
     if (pad.touchpad_pressed) Put(QStringLiteral("TOUCHPADRELEASE\n"));
   }
 
-  QLocalSocket* socket_;  // the server's
+  QLocalSocket* socket_;
   const int display_;
   GuestModel model_;
 };
 
 MirrorServer::MirrorServer(int display) : display_(display) {
-  connect(&server_, &QLocalServer::newConnection, this, &MirrorServer::TakeConnections);
+  connect(&listener_, &MirrorListener::Connected, this, &MirrorServer::TakeConnection);
 }
 
 MirrorServer::~MirrorServer() = default;
 
-QString MirrorServer::Listen(const QString& name) {
-  if (IsInUse(name)) return QStringLiteral("another instance listens as %1").arg(name);
-  QLocalServer::removeServer(name);
-  server_.setSocketOptions(QLocalServer::UserAccessOption);
-  return server_.listen(name) ? QString() : server_.errorString();
-}
+QString MirrorServer::Listen(const QString& name) { return listener_.Listen(name); }
 
-void MirrorServer::TakeConnections() {
-  while (QLocalSocket* socket = server_.nextPendingConnection()) {
-    sources_.push_back(std::make_unique<Source>(socket, display_));
-    Source* source = sources_.back().get();
-    connect(socket, &QLocalSocket::disconnected, this, [this, source] { Forget(source); });
-    connect(socket, &QLocalSocket::readyRead, this, [this, source] {
-      if (!source->TakeMessages()) Forget(source);
-    });
+void MirrorServer::TakeConnection(QLocalSocket* socket) {
+  sources_.push_back(std::make_unique<Source>(socket, display_));
+  Source* source = sources_.back().get();
+  connect(socket, &QLocalSocket::disconnected, this, [this, source] { Forget(source); });
+  connect(socket, &QLocalSocket::readyRead, this, [this, source] {
     if (!source->TakeMessages()) Forget(source);
-  }
+  });
   Q_EMIT SourcesChanged(static_cast<int>(sources_.size()));
+  if (!source->TakeMessages()) Forget(source);
 }
 
 void MirrorServer::Forget(Source* source) {

@@ -4,16 +4,17 @@
 #include <memory>
 #include <vector>
 
-#include <QLocalServer>
 #include <QObject>
 #include <QString>
+
+#include "host/window/mirror_listener.h"
 
 class QLocalSocket;
 
 namespace tavi {
 
 // Takes the lines of other instances and gives them to this one's guest, as they are: places are touch coordinates, so
-// guests of one size are meant.
+// guests of one size are meant. Who sends what no instance would is shut out.
 //
 // Main thread.
 class MirrorServer : public QObject {
@@ -24,8 +25,7 @@ class MirrorServer : public QObject {
   explicit MirrorServer(int display);
   ~MirrorServer() override;
 
-  // Listens under a name until the end. Returns what is wrong, or nothing. A name that a crashed instance left behind
-  // is taken over; one that is in use is not.
+  // Listens under a name until the end. Returns what is wrong, or nothing.
   QString Listen(const QString& name);
 
  Q_SIGNALS:
@@ -35,11 +35,11 @@ class MirrorServer : public QObject {
  private:
   class Source;
 
-  void TakeConnections();
+  void TakeConnection(QLocalSocket* socket);
   void Forget(Source* source);
 
   const int display_;
-  QLocalServer server_;
+  MirrorListener listener_;
   std::vector<std::unique_ptr<Source>> sources_;
 };
 

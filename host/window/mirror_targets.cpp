@@ -2,6 +2,7 @@
 
 #include <QLocalSocket>
 
+#include "host/window/mirror_address.h"
 #include "host/window/mirror_message.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -56,16 +57,19 @@ void MirrorTargets::DeleteLater::operator()(QLocalSocket* socket) const {
 
 void MirrorTargets::Add(const QString& name) {
   if (sockets_.count(name) != 0) return;
+  const QString problem = MirrorNameProblem(name);
+  if (!problem.isEmpty()) return Q_EMIT Lost(name, problem);
   auto* socket = new QLocalSocket;
   sockets_[name].reset(socket);
-  connect(socket, &QLocalSocket::connected, this, [this, name] {
+  connect(socket, &QLocalSocket::connected, this, [this, name, socket] {
+    if (!IsOfThisUser(*socket)) return Drop(name, QStringLiteral("another user listens as that"));
     taviinputmanager::StartSync(name, QString(), QString());
     Q_EMIT Reached(name);
   });
   connect(socket, &QLocalSocket::disconnected, this, [this, name] { Drop(name, kGone); });
   connect(socket, &QLocalSocket::errorOccurred, this,
           [this, name, socket](QLocalSocket::LocalSocketError) { Drop(name, ProblemOf(*socket)); });
-  socket->connectToServer(name, QIODevice::WriteOnly);
+  socket->connectToServer(MirrorAddressOf(name), QIODevice::WriteOnly);
 }
 
 void MirrorTargets::Remove(const QString& name) {
@@ -87,6 +91,7 @@ void MirrorTargets::Drop(const QString& name, const QString& problem) {
 
 void MirrorTargets::Carry(const MirrorMessage& message, const QVector<QString>& targets) {
   if (pauses_ > 0) return;
+  if (message.line.size() >= kTooLongMirrorLine) return Q_EMIT TooLong(message.line.size());
   for (const QString& name : targets) {
     const auto found = sockets_.find(name);
     if (found == sockets_.end()) continue;

@@ -45,6 +45,8 @@ class MirrorTargets : public QObject {
  Q_SIGNALS:
   void Reached(const QString& name);
   void Lost(const QString& name, const QString& problem);
+  // A line of so many characters was carried nowhere.
+  void TooLong(int characters);
 
  private:
   friend struct MirrorFunctions;

@@ -1,18 +1,28 @@
 // Lines carried between instances. The other instance is a bare socket here, which says and hears what one would.
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
 
+#include "host/window/mirror_address.h"
 #include "host/window/mirror_message.h"
 #include "host/window/mirror_server.h"
 #include "host/window/mirror_targets.h"
 #include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/host/full_disk.h"
 
 namespace tavi {
 namespace {
@@ -22,14 +32,32 @@ constexpr int kLimitMs = 20000;  // never reached when all is well
 class Mirror : public testing::Test {
  protected:
   Mirror() : application_(argument_count_, arguments_) {
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));  // no other test has these names
     WindowHost::GetInstance()->Start(nullptr);
     QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &context_, [this](const TimelineEntry& entry) {
       if (entry.source != TimelineEntry::Source::kCallback) said_.append(entry.text);
     });
   }
 
-  // A name that no other test uses.
-  QString Name(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+  // A socket that whoever listened by has left behind.
+  static void LeaveSocket(const QString& name) {
+    sockaddr_un address{};
+    const int file = BindTo(name, &address);
+    EXPECT_EQ(listen(file, 1), 0);
+    close(file);
+  }
+  // A Unix socket that is bound to the name's address.
+  static int BindTo(const QString& name, sockaddr_un* address) {
+    const int file = Unbound(name, address);
+    EXPECT_EQ(bind(file, reinterpret_cast<const sockaddr*>(address), sizeof(*address)), 0);
+    return file;
+  }
+  static int Unbound(const QString& name, sockaddr_un* address) {
+    *address = {};
+    address->sun_family = AF_UNIX;
+    qstrncpy(address->sun_path, QFile::encodeName(MirrorAddressOf(name)).constData(), sizeof(address->sun_path));
+    return socket(AF_UNIX, SOCK_STREAM, 0);
+  }
 
   static bool Until(const std::function<bool()>& done) {
     const QDeadlineTimer limit(kLimitMs);
@@ -63,7 +91,7 @@ class Mirror : public testing::Test {
 // Another instance that listens.
 class Listener {
  public:
-  explicit Listener(const QString& name) { server_.listen(name); }
+  explicit Listener(const QString& name) { server_.listen(MirrorAddressOf(name)); }
 
   void Read() {
     if (!socket_) socket_ = server_.nextPendingConnection();
@@ -95,13 +123,13 @@ class Listener {
 };
 
 TEST_F(Mirror, LinesOfALiveDisplayGoToEveryTarget) {
-  Listener first(Name("first"));
-  Listener second(Name("second"));
+  Listener first("first");
+  Listener second("second");
   MirrorTargets* targets = MirrorTargets::GetInstance();
   int reached = 0;
   QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  targets->Add(Name("first"));
-  targets->Add(Name("second"));
+  targets->Add("first");
+  targets->Add("second");
   ASSERT_TRUE(Until([&] { return reached == 2; }));
 
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
@@ -118,8 +146,8 @@ TEST_F(Mirror, LinesOfALiveDisplayGoToEveryTarget) {
 }
 
 TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
-  Listener stays(Name("stays"));
-  Listener goes(Name("goes"));
+  Listener stays("stays");
+  Listener goes("goes");
   MirrorTargets* targets = MirrorTargets::GetInstance();
   int reached = 0;
   QStringList lost;
@@ -127,15 +155,15 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
     lost.append({name, problem});
   });
-  targets->Add(Name("stays"));
-  targets->Add(Name("goes"));
+  targets->Add("stays");
+  targets->Add("goes");
   ASSERT_TRUE(Until([&] { return reached == 2; }));
 
   ASSERT_TRUE(Until([&] { return goes.HasPeer(); }));
   goes.Leave();
   ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList({Name("goes"), QStringLiteral("it went away")}));
-  EXPECT_EQ(targets->Names(), QStringList{Name("stays")});
+  EXPECT_EQ(lost, QStringList({"goes", QStringLiteral("it went away")}));
+  EXPECT_EQ(targets->Names(), QStringList{"stays"});
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
   EXPECT_TRUE(Until([&] {
     stays.Read();
@@ -149,17 +177,17 @@ TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
   QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
     lost.append({name, problem});
   });
-  targets->Add(Name("nobody"));
+  targets->Add("nobody");
   ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList({Name("nobody"), QStringLiteral("no instance listens as that")}));
+  EXPECT_EQ(lost, QStringList({"nobody", QStringLiteral("no instance listens as that")}));
   EXPECT_TRUE(targets->Names().isEmpty());
 }
 
 TEST_F(Mirror, LinesOfAnotherInstanceReachTheGuest) {
   MirrorServer server(WindowHost::kDisplay);
-  ASSERT_EQ(server.Listen(Name("server")), QString());
+  ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
-  other.connectToServer(Name("server"));
+  other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("SLOTPRESS:11:11:1:1:640:360\n")});
   Say(&other, {true, QStringLiteral("TEXT:abc\n")});
   ASSERT_TRUE(Until([&] { return said_.size() == 2; }));
@@ -168,9 +196,9 @@ TEST_F(Mirror, LinesOfAnotherInstanceReachTheGuest) {
 
 TEST_F(Mirror, WhatAnotherInstanceHoldsIsLetGoWhenItGoes) {
   MirrorServer server(WindowHost::kDisplay);
-  ASSERT_EQ(server.Listen(Name("server")), QString());
+  ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
-  other.connectToServer(Name("server"));
+  other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("SLOTPRESS:11:11:1:1:640:360\n")});
   Say(&other, {false, QStringLiteral("SLOTPRESS:12:12:1:1:10:20\n")});
   Say(&other, {false, QStringLiteral("SLOTRELEASE:12\n")});
@@ -185,17 +213,17 @@ TEST_F(Mirror, WhatAnotherInstanceHoldsIsLetGoWhenItGoes) {
 }
 
 TEST_F(Mirror, WhatCameFromAnotherInstanceIsNotPassedOn) {
-  Listener third(Name("third"));
+  Listener third("third");
   MirrorTargets* targets = MirrorTargets::GetInstance();
   int reached = 0;
   QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  targets->Add(Name("third"));
+  targets->Add("third");
   MirrorServer server(WindowHost::kDisplay);
-  ASSERT_EQ(server.Listen(Name("server")), QString());
+  ASSERT_EQ(server.Listen("server"), QString());
   ASSERT_TRUE(Until([&] { return reached == 1; }));
 
   QLocalSocket other;
-  other.connectToServer(Name("server"));
+  other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("KBDPR:30:1\n")});
   ASSERT_TRUE(Until([&] { return said_.size() == 1; }));
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), WindowHost::kDisplay);
@@ -210,9 +238,9 @@ TEST_F(Mirror, BytesThatAreNoMessageEndTheConnection) {
   MirrorServer server(WindowHost::kDisplay);
   int sources = -1;
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
-  ASSERT_EQ(server.Listen(Name("server")), QString());
+  ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
-  other.connectToServer(Name("server"));
+  other.connectToServer(MirrorAddressOf("server"));
   ASSERT_TRUE(Until([&] { return sources == 1; }));
   other.write(QByteArray("\x00\x00\x00\x00\x03odd", 8));  // a string of an odd number of bytes
   other.flush();
@@ -220,11 +248,246 @@ TEST_F(Mirror, BytesThatAreNoMessageEndTheConnection) {
   EXPECT_TRUE(said_.isEmpty());
 }
 
+// ---- Names and sockets
+
+TEST_F(Mirror, NamesAreWords) {
+  const struct {
+    const char* name;
+    bool is_name;
+  } rows[] = {
+      {"left", true}, {"Left-2_b", true}, {"", false},         {"../left", false},    {"/tmp/left", false},
+      {"a b", false}, {".", false},       {"keymap.y", false}, {"l\u00E4nge", false}, {"left\n", false},
+  };
+  for (const auto& row : rows) EXPECT_EQ(MirrorNameProblem(row.name).isEmpty(), row.is_name) << row.name;
+  MirrorServer server(WindowHost::kDisplay);
+  EXPECT_EQ(server.Listen("keymap.yaml"), MirrorNameProblem("keymap.yaml"));
+}
+
+TEST_F(Mirror, SocketsLieInAFolderOfTheUsersOwn) {
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  struct stat folder {};
+  ASSERT_EQ(stat(QFile::encodeName(folder_.filePath("tavi")).constData(), &folder), 0);
+  EXPECT_EQ(folder.st_mode & 0777U, 0700U);
+  EXPECT_TRUE(QFileInfo::exists(folder_.filePath("tavi/server")));
+}
+
+TEST_F(Mirror, AFolderThatOthersMayEnterIsClosed) {
+  ASSERT_EQ(mkdir(QFile::encodeName(folder_.filePath("tavi")).constData(), 0777), 0);
+  ASSERT_EQ(chmod(QFile::encodeName(folder_.filePath("tavi")).constData(), 0777), 0);
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  struct stat folder {};
+  ASSERT_EQ(stat(QFile::encodeName(folder_.filePath("tavi")).constData(), &folder), 0);
+  EXPECT_EQ(folder.st_mode & 0777U, 0700U);
+}
+
+TEST_F(Mirror, TheSocketGoesWithItsServer) {
+  {
+    MirrorServer server(WindowHost::kDisplay);
+    ASSERT_EQ(server.Listen("server"), QString());
+  }
+  EXPECT_FALSE(QFileInfo::exists(MirrorAddressOf("server")));
+}
+
+TEST_F(Mirror, WhatACrashedInstanceLeftIsReplaced) {
+  LeaveSocket("server");
+  ASSERT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
+  MirrorServer server(WindowHost::kDisplay);
+  EXPECT_EQ(server.Listen("server"), QString());
+  QLocalSocket other;
+  other.connectToServer(MirrorAddressOf("server"));
+  EXPECT_TRUE(other.waitForConnected());
+}
+
+TEST_F(Mirror, WhatIsNoSocketStays) {
+  QFile file(MirrorAddressOf("server"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("dear");
+  file.close();
+  {
+    MirrorServer server(WindowHost::kDisplay);
+    EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+  }
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), QByteArray("dear"));
+}
+
+TEST_F(Mirror, ASocketOfAnotherUserStays) {
+  if (!IsRoot()) GTEST_SKIP() << "only root has files of others";
+  LeaveSocket("server");
+  const QByteArray address = QFile::encodeName(MirrorAddressOf("server"));
+  ASSERT_EQ(chown(address.constData(), kNobody, kNobody), 0);
+  MirrorServer server(WindowHost::kDisplay);
+  EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+  EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
+}
+
+TEST_F(Mirror, AnotherUserIsNotHeard) {
+  if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  sockaddr_un address{};
+  const int other = Unbound("server", &address);
+  for (const QString& open : {folder_.path(), folder_.filePath("tavi"), MirrorAddressOf("server")}) {
+    ASSERT_EQ(chmod(QFile::encodeName(open).constData(), 0777), 0);
+  }
+  {
+    const AsNobody nobody;
+    ASSERT_EQ(::connect(other, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+  }
+  char byte = 0;
+  EXPECT_TRUE(Until([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is shut out
+  close(other);
+}
+
+TEST_F(Mirror, NothingGoesToAnotherUser) {
+  if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
+  sockaddr_un address{};
+  const int other = BindTo("other", &address);
+  {
+    const AsNobody nobody;  // whoever calls listen is who listens
+    ASSERT_EQ(listen(other, 1), 0);
+  }
+  MirrorTargets* targets = MirrorTargets::GetInstance();
+  QStringList lost;
+  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
+    lost.append({name, problem});
+  });
+  targets->Add("other");
+  ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
+  EXPECT_EQ(lost, QStringList({"other", "another user listens as that"}));
+  close(other);
+}
+
+// Whoever asks whether a name is in use is no instance that sends lines.
+TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  QVector<int> counts;
+  QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { counts += count; });
+  MirrorServer second(WindowHost::kDisplay);
+  EXPECT_EQ(second.Listen("server"), QString("another instance listens as server"));
+  QLocalSocket other;
+  other.connectToServer(MirrorAddressOf("server"));
+  ASSERT_TRUE(Until([&] { return !counts.isEmpty(); }));
+  EXPECT_EQ(counts, QVector<int>{1});
+}
+
+// ---- Limits
+
+TEST_F(Mirror, ALineThatIsTooLongEndsTheConnection) {
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  int sources = 0;
+  QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
+  QLocalSocket other;
+  other.connectToServer(MirrorAddressOf("server"));
+  const QString longest = "TEXT:" + QString(kTooLongMirrorLine - 7, 'a') + "\n";  // one less than too long
+  Say(&other, {true, longest});
+  ASSERT_TRUE(Until([&] { return said_.size() == 1; }));
+  EXPECT_EQ(TakeSaid(), QStringList(longest.chopped(1)));
+  Say(&other, {true, "TEXT:" + QString(kTooLongMirrorLine - 6, 'a') + "\n"});
+  EXPECT_TRUE(Until([&] { return sources == 0; }));
+  EXPECT_TRUE(said_.isEmpty());
+}
+
+// The length alone is enough: who announces gigabytes is not waited for.
+TEST(MirrorMessageTest, IsReadByItsLength) {
+  QByteArray bytes;
+  QDataStream writer(&bytes, QIODevice::WriteOnly);
+  writer << MirrorMessage{true, "TEXT:a\n"};
+  for (int size = 0; size < bytes.size(); ++size) {
+    QByteArray part = bytes.left(size);
+    QBuffer device(&part);
+    device.open(QIODevice::ReadOnly);
+    MirrorMessage message;
+    EXPECT_EQ(ReadMirrorMessage(&device, &message), MirrorReading::kIncomplete) << size;
+    EXPECT_EQ(device.pos(), 0) << size;
+  }
+  QBuffer device(&bytes);
+  device.open(QIODevice::ReadOnly);
+  MirrorMessage message;
+  EXPECT_EQ(ReadMirrorMessage(&device, &message), MirrorReading::kMessage);
+  EXPECT_EQ(message.line, QString("TEXT:a\n"));
+  EXPECT_TRUE(message.is_text);
+
+  QByteArray gigabytes("\1\x7F\xFF\xFF\xFE", 5);
+  QBuffer endless(&gigabytes);
+  endless.open(QIODevice::ReadOnly);
+  EXPECT_EQ(ReadMirrorMessage(&endless, &message), MirrorReading::kBroken);
+}
+
+TEST_F(Mirror, ATextThatIsTooLongIsToldAndNotSent) {
+  Listener listener("first");
+  MirrorTargets* targets = MirrorTargets::GetInstance();
+  int reached = 0;
+  int too_long = 0;
+  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
+  QObject::connect(targets, &MirrorTargets::TooLong, targets, [&](int characters) { too_long = characters; });
+  targets->Add("first");
+  ASSERT_TRUE(Until([&] { return reached == 1; }));
+  taviinputmanager::OnInputRawTextData("TEXT:" + QString(70000, 'a') + "\n");
+  taviinputmanager::OnInputRawTextData("TEXT:b\n");
+  EXPECT_TRUE(Until([&] {
+    listener.Read();
+    return !listener.lines.isEmpty();
+  }));
+  EXPECT_EQ(listener.lines, QStringList("text TEXT:b\n"));
+  EXPECT_EQ(too_long, 70006);
+}
+
+TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
+  sockaddr_un address{};
+  const int silent = BindTo("silent", &address);
+  ASSERT_EQ(listen(silent, 1), 0);
+  MirrorTargets* targets = MirrorTargets::GetInstance();
+  int reached = 0;
+  QStringList lost;
+  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
+  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
+    lost.append({name, problem});
+  });
+  targets->Add("silent");
+  ASSERT_TRUE(Until([&] { return reached == 1; }));
+  const QString text = "TEXT:" + QString(30000, 'a') + "\n";
+  // 60 kB each: the system holds some hundred kB, this instance one MB.
+  for (int i = 0; i < 100 && lost.isEmpty(); ++i) {
+    taviinputmanager::OnInputRawTextData(text);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(lost, QStringList({"silent", "it takes no more lines"}));
+  EXPECT_TRUE(targets->Names().isEmpty());
+  close(silent);
+}
+
+TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
+  MirrorServer server(WindowHost::kDisplay);
+  ASSERT_EQ(server.Listen("server"), QString());
+  int sources = 0;
+  QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
+  sockaddr_un address{};
+  const int other = Unbound("server", &address);
+  rlimit before{};
+  getrlimit(RLIMIT_NOFILE, &before);
+  const rlimit few{static_cast<rlim_t>(other) + 1, before.rlim_max};  // the next new file has a higher number
+  setrlimit(RLIMIT_NOFILE, &few);
+  QVector<int> gaps;  // below it
+  for (int file = dup(other); file >= 0; file = dup(other)) gaps += file;
+  ASSERT_EQ(::connect(other, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(sources, 0);
+  setrlimit(RLIMIT_NOFILE, &before);
+  for (const int file : gaps) close(file);
+  EXPECT_TRUE(Until([&] { return sources == 1; }));
+  close(other);
+}
+
 TEST_F(Mirror, ANameInUseIsRefused) {
   MirrorServer first(WindowHost::kDisplay);
-  ASSERT_EQ(first.Listen(Name("name")), QString());
+  ASSERT_EQ(first.Listen("name"), QString());
   MirrorServer second(WindowHost::kDisplay);
-  EXPECT_NE(second.Listen(Name("name")), QString());
+  EXPECT_NE(second.Listen("name"), QString());
 }
 
 }  // namespace
