@@ -4,12 +4,17 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QFileInfo>
 #include <QTimer>
 
 #include "host/command_line.h"
+#include "host/picture/picture_file.h"
+#include "host/terminal.h"
+#include "host/whole_file.h"
 #include "host/window/guest_display.h"
 #include "host/window/main_window.h"
+#include "host/window/mirror_address.h"
 #include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/theme.h"
@@ -43,23 +48,31 @@ constexpr char kHelp[] =
     "                   and macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
     "  --paused         begin with the mapping off\n"
     "  --events         list each event of the host, what it matched and what went out\n"
-    "  --record FILE    record what the guest gets, and save it when the window is closed\n"
+    "  --record FILE    record what the guest gets, and save it when the window is closed;\n"
+    "                   what cannot be saved is kept until you say to drop it\n"
     "  --replay FILE    play this record at once\n"
     "  --second-view    play records on a display of their own\n"
-    "  --listen NAME    let other instances send their lines to this one\n"
+    "  --listen NAME    let other instances of yours send their lines to this one; a name is\n"
+    "                   a word of letters, digits, - and _\n"
     "  --mirror NAMES   send the lines for the guest to the instances that listen under\n"
     "                   these names, separated by commas, too\n"
-    "  --picture FILE   save a picture of the window (PNG) and leave\n"
+    "  --picture FILE   save a picture of the window (PNG) and leave; \"-\" is standard output\n"
     "  --after MS       time until then in milliseconds from 0 on (1000)\n"
     "\n"
     "KEY is a key as keymaps call it, if wanted behind Ctrl+, Alt+, Shift+ or Meta+. Such a\n"
     "key is the window's: no keymap gets it.\n"
     "\n"
-    "Exit status: 0 when the window was closed, 1 when the picture could not be saved or\n"
-    "the name to listen under is taken, 2 for a wrong command line or where there is no\n"
-    "display to open a window on.\n"
+    "Told to end by a signal (Ctrl+C, SIGTERM, SIGHUP), the window lifts what is down,\n"
+    "saves the recording, and keeps unsaved edits in a file that it tells of.\n"
+    "\n"
+    "Exit status: 0 when the window was closed, 1 when the picture or the recording could\n"
+    "not be saved or the name to listen under is taken, 2 for a wrong command line or\n"
+    "where there is no display to open a window on, 128 and the signal's number after a\n"
+    "signal.\n"
     "\n"
     "Example: tavi window examples/keymaps/shooter.yaml\n";
+
+const QString kName = QStringLiteral("window");
 
 const QString kJoystick = QStringLiteral("--joystick");
 const QString kGuest = QStringLiteral("--guest");
@@ -141,6 +154,24 @@ QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
   return {};
 }
 
+QString ReadMirrors(const ParsedArguments& arguments, WindowOptions* options) {
+  options->listen = arguments.options.value(kListen);
+  options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
+  const QString listening = arguments.options.contains(kListen) ? MirrorNameProblem(options->listen) : QString();
+  if (!listening.isEmpty()) return QStringLiteral("%1: %2").arg(kListen, listening);
+  for (const QString& name : qAsConst(options->mirror)) {
+    const QString problem = MirrorNameProblem(name);
+    if (!problem.isEmpty()) return QStringLiteral("%1: %2").arg(kMirror, problem);
+  }
+  return {};
+}
+
+QString FileProblem(const QString& file) {
+  const QFileInfo info(file);
+  if (file.isEmpty() || info.isFile()) return {};
+  return (info.exists() ? QStringLiteral("not a plain file: %1") : QStringLiteral("no such file: %1")).arg(file);
+}
+
 QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (!arguments.error.isEmpty()) return arguments.error;
   if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
@@ -149,13 +180,13 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   options->record = arguments.options.value(kRecord);
   options->replay = arguments.options.value(kReplay);
   options->has_second_view = arguments.options.contains(kSecondView);
-  options->listen = arguments.options.value(kListen);
-  options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
   options->background = arguments.options.value(kBackground);
   for (const QString& file : {options->keymap, options->joystick_keymap, options->replay, options->background}) {
-    if (!file.isEmpty() && !QFileInfo(file).isFile()) return QStringLiteral("no such file: %1").arg(file);
+    const QString problem = FileProblem(file);
+    if (!problem.isEmpty()) return problem;
   }
-  const QString problem = ReadDisplay(arguments, options);
+  QString problem = ReadMirrors(arguments, options);
+  if (problem.isEmpty()) problem = ReadDisplay(arguments, options);
   if (!problem.isEmpty()) return problem;
   options->picture = arguments.options.value(kPicture);
   bool is_number = true;
@@ -169,12 +200,43 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   return ReadKeys(arguments, options);
 }
 
-void SavePictureAndLeave(MainWindow* window, const QString& file) {
-  const bool is_saved = window->grab().save(file, "PNG");
-  if (!is_saved) PrintError(QStringLiteral("tavi window: cannot write %1\n").arg(file));
-  window->close();  // saves a recording
-  QCoreApplication::exit(is_saved ? kExitDone : kExitProblem);
+void Tell(const QString& text) { PrintError(QStringLiteral("tavi window: %1\n").arg(text)); }
+
+// Returns whether all that there was has its place.
+bool Leave(MainWindow* window) {
+  const QStringList news = window->LeaveWithoutAsking();
+  for (const QString& text : news) Tell(text);
+  return news.isEmpty();
 }
+
+void SavePictureAndLeave(MainWindow* window, const QString& file) {
+  QBuffer png;
+  png.open(QIODevice::WriteOnly);
+  window->grab().save(&png, "PNG");
+  const int written = WritePicture(kName, file, png.data());
+  const bool is_all_saved = Leave(window);
+  QCoreApplication::exit(is_all_saved ? written : kExitProblem);
+}
+
+// While it lives, a signal that tells the program to end has it end in order.
+class InterruptionWatch {
+ public:
+  explicit InterruptionWatch(MainWindow* window) {
+    SetInterruptionTaker([window](int number) {
+      QMetaObject::invokeMethod(
+          window, [window, number] { End(window, number); }, Qt::QueuedConnection);
+    });
+  }
+  ~InterruptionWatch() { SetInterruptionTaker({}); }
+  InterruptionWatch(const InterruptionWatch&) = delete;
+  InterruptionWatch& operator=(const InterruptionWatch&) = delete;
+
+ private:
+  static void End(MainWindow* window, int number) {
+    Leave(window);
+    QCoreApplication::exit(ExitStatusOfSignal(number));
+  }
+};
 
 void StartRecords(const WindowOptions& options, RecordBar* records) {
   if (!options.record.isEmpty()) {
@@ -192,8 +254,15 @@ int ShowWindow(const WindowOptions& options) {
   window.Display()->SetPixelRatio(options.pixel_ratio);
   const QString background_problem = window.Display()->SetBackground(options.background);
   if (!background_problem.isEmpty()) {
-    PrintError(QStringLiteral("tavi window: %1\n").arg(background_problem));
+    Tell(background_problem);
     return kExitUsage;
+  }
+  if (!options.record.isEmpty()) {
+    const QString problem = TryWholeFile(options.record);
+    if (!problem.isEmpty()) {
+      Tell(QStringLiteral("cannot write %1: %2").arg(options.record, problem));
+      return kExitProblem;
+    }
   }
   window.SetPauseKey(options.pause_key);
   window.SetPanicKey(options.panic_key);
@@ -203,7 +272,7 @@ int ShowWindow(const WindowOptions& options) {
   if (!options.listen.isEmpty()) {
     const QString problem = window.Mirrors()->ListenAs(options.listen);
     if (!problem.isEmpty()) {
-      PrintError(QStringLiteral("tavi window: cannot listen as %1: %2\n").arg(options.listen, problem));
+      Tell(QStringLiteral("cannot listen as %1: %2").arg(options.listen, problem));
       return kExitProblem;
     }
   }
@@ -214,6 +283,7 @@ int ShowWindow(const WindowOptions& options) {
   window.ClearLog();  // what the guest was sent by way of a beginning is no news
   window.show();
   window.activateWindow();
+  const InterruptionWatch interruptions(&window);
   if (!options.picture.isEmpty()) {
     QTimer::singleShot(options.after_ms, &window, [&] { SavePictureAndLeave(&window, options.picture); });
   } else if (options.keymap.isEmpty()) {
@@ -229,6 +299,7 @@ int Run(const Invocation& invocation) {
                        "\"tavi simulate\" plays keymaps without one.\n"));
     return kExitUsage;
   }
+  SetCleanUp({});  // signals have a thread of their own, which begins before the window system's
   QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   QApplication application(invocation.argc, invocation.argv);
@@ -237,7 +308,7 @@ int Run(const Invocation& invocation) {
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);
-  if (!problem.isEmpty()) return FailUsage(QStringLiteral("window"), problem);
+  if (!problem.isEmpty()) return FailUsage(kName, problem);
   return ShowWindow(options);
 }
 

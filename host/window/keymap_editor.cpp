@@ -1,7 +1,6 @@
 #include "host/window/keymap_editor.h"
 
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLineF>
 #include <QMainWindow>
@@ -11,6 +10,8 @@
 #include <QToolButton>
 
 #include "host/editor/new_item.h"
+#include "host/roomy_folder.h"
+#include "host/whole_file.h"
 #include "host/window/edit_layer.h"
 #include "host/window/item_inspector.h"
 #include "host/window/source_pane.h"
@@ -42,9 +43,8 @@ KeymapEditor::KeymapEditor(QMainWindow* window, QWidget* view, QDockWidget* neig
       switch_(new QAction(QStringLiteral("Edit"), this)) {
   switch_->setCheckable(true);
   switch_->setToolTip(QStringLiteral("Move, bind, add and delete the keymap's items on the screen"));
-  ask_ = [window](const QString& question, Buttons buttons) {
-    return QMessageBox::question(window, QStringLiteral("tavi"), question, buttons);
-  };
+  ask_ = AskIn(window);
+  ask_for_name_ = AskForNameIn(window);
   MakeDock();
   window_->tabifyDockWidget(neighbour, dock_);
   dock_->hide();
@@ -202,19 +202,22 @@ void KeymapEditor::SetOn(bool on) {
   if (!on) Finish();
 }
 
+QString KeymapEditor::FileName() const {
+  return document_.Path().isEmpty() ? QLatin1String(kNewName) : QFileInfo(document_.Path()).fileName();
+}
+
 // What the view showed is what is played, saved or not.
 void KeymapEditor::Finish() {
   if (document_.Text() == in_use_ || document_.Keymap().HasErrors()) return;
   in_use_ = document_.Text();
   if (!document_.IsModified()) return Q_EMIT Finished(document_.Path());
   unsaved_ = std::make_unique<QTemporaryDir>();
-  const QString name = document_.Path().isEmpty() ? QLatin1String(kNewName) : QFileInfo(document_.Path()).fileName();
-  QFile file(unsaved_->filePath(name));
-  if (!file.open(QIODevice::WriteOnly) || file.write(document_.Text()) != document_.Text().size()) {
-    return Report(QStringLiteral("The edits cannot be used before they are saved: %1").arg(file.errorString()));
+  const QString file = unsaved_->filePath(FileName());
+  const QString problem = WriteWholeFile(file, document_.Text());
+  if (!problem.isEmpty()) {
+    return Report(QStringLiteral("The edits cannot be used before they are saved: %1").arg(problem));
   }
-  file.close();
-  Q_EMIT Finished(file.fileName());
+  Q_EMIT Finished(file);
   Q_EMIT Message(QStringLiteral("The edits are in use, but not saved yet"), false);
 }
 
@@ -229,15 +232,15 @@ bool KeymapEditor::TakePad(QEvent* event) {
 
 // ---- Files
 
-void KeymapEditor::Open(const QString& path) {
+void KeymapEditor::Open(const QString& path, const QByteArray& text) {
   const bool is_own = unsaved_ != nullptr && path.startsWith(unsaved_->path());
   if (is_own) return;
   const bool is_known = !path.isEmpty() && path == document_.Path() && !document_.IsModified();
-  if (!is_known || document_.IsFileChanged()) {
+  if (!is_known || text != document_.TextOnDisk()) {
     inspector_->Pane()->Revert();  // what was typed is about the keymap that goes
     layer_->Select(-1);
     is_opening_ = true;
-    document_.Open(path);
+    document_.Open(path, text);
     is_opening_ = false;
   }
   in_use_ = document_.Text();
@@ -257,29 +260,43 @@ bool KeymapEditor::MayLeave() {
   inspector_->Commit();
   if (!document_.IsModified()) return true;
   const Button answer = ask_(QStringLiteral("Save the edits of the keymap?"),
-                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+                             {{QMessageBox::Save, {}}, {QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
   return answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save());
+}
+
+QString KeymapEditor::KeepEdits() {
+  inspector_->Commit();
+  if (!document_.IsModified()) return {};
+  QTemporaryDir folder(RoomyFolder() + QStringLiteral("/edits-XXXXXX"));
+  const QString file = folder.filePath(FileName());
+  const QString problem = folder.isValid() ? WriteWholeFile(file, document_.Text()) : folder.errorString();
+  if (!problem.isEmpty()) return QStringLiteral("the edits of %1 are lost: %2").arg(FileName(), problem);
+  folder.setAutoRemove(false);
+  return QStringLiteral("the edits of %1 are kept as %2").arg(FileName(), file);
 }
 
 bool KeymapEditor::Save() {
   inspector_->Commit();
-  if (document_.IsFileChanged()) {
-    const Button answer = ask_(QStringLiteral("Another program has written %1 since it was read. Overwrite it? Reset "
-                                              "reads it again, and your edits are lost.")
-                                   .arg(document_.Path()),
-                               QMessageBox::Save | QMessageBox::Reset | QMessageBox::Cancel);
-    if (answer == QMessageBox::Reset) document_.Open(document_.Path());
-    if (answer != QMessageBox::Save) return false;
-  }
-  return SaveAs(document_.Path());
+  if (!document_.IsFileChanged()) return SaveAs(document_.Path());
+  const Button answer =
+      ask_(QStringLiteral("Another program has written %1 since it was read. Read again gives your edits up.")
+               .arg(document_.Path()),
+           {{QMessageBox::Save, QStringLiteral("Overwrite")},
+            {QMessageBox::Reset, QStringLiteral("Read again")},
+            {QMessageBox::SaveAll, QStringLiteral("Save as\u2026")},
+            {QMessageBox::Cancel, {}}});
+  if (answer == QMessageBox::Reset) document_.Open(document_.Path());
+  if (answer == QMessageBox::SaveAll) return SaveAs(QString());
+  return answer == QMessageBox::Save && SaveAs(document_.Path());
 }
 
 bool KeymapEditor::SaveAs(const QString& path) {
   QString target = path;
   if (target.isEmpty()) {
     const QString before = document_.Path().isEmpty() ? QLatin1String(kNewName) : document_.Path();
-    target =
-        QFileDialog::getSaveFileName(window_, QStringLiteral("Save the keymap"), before, QLatin1String(kFileTypes));
+    const bool is_json = QFileInfo(before).suffix() == QLatin1String("json");  // and stays it
+    target = ask_for_name_({QStringLiteral("Save the keymap"), before, QLatin1String(kFileTypes),
+                            is_json ? QStringLiteral("json") : QStringLiteral("yaml")});
     view_->setFocus();
   }
   if (target.isEmpty()) return false;

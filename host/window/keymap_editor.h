@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "host/editor/keymap_document.h"
+#include "host/window/question.h"
 
 class QAction;
 class QDockWidget;
@@ -34,10 +35,7 @@ class KeymapEditor : public QObject {
   Q_OBJECT
 
  public:
-  using Buttons = QMessageBox::StandardButtons;
   using Button = QMessageBox::StandardButton;
-  // Puts a question with these buttons to a person.
-  using Ask = std::function<Button(const QString& question, Buttons buttons)>;
 
   // Puts its bar into `window`, and its dock to that of `neighbour`; `view` shows the guest. They outlive the editor.
   KeymapEditor(QMainWindow* window, QWidget* view, QDockWidget* neighbour);
@@ -51,18 +49,23 @@ class KeymapEditor : public QObject {
   EditLayer* Layer() const { return layer_; }
   ItemInspector* Inspector() const { return inspector_; }
   void SetAsk(const Ask& ask) { ask_ = ask; }
+  void SetAskForName(const AskForName& ask) { ask_for_name_ = ask; }
 
-  // The keymap at `path` has come into use; an empty path is none.
-  void Open(const QString& path);
+  // The keymap at `path` has come into use, with this text; an empty path is none.
+  void Open(const QString& path, const QByteArray& text);
   // The file was written. True when nothing is to be read: it was the editor, or there are edits that would be lost,
   // which a person is told.
   bool TakeFileChange();
   // Whether the edits may be lost; asks where there are some, and saves them on demand.
   bool MayLeave();
+  // Puts the edits that are not saved aside without asking. Tells where they are or what went wrong; nothing when there
+  // are none.
+  QString KeepEdits();
   // True when the event of a gamepad is the editor's.
   bool TakePad(QEvent* event);
 
-  // Each false when the person backs out or the file cannot be written.
+  // Each false when the person backs out or the file cannot be written. Of a file that another program has written
+  // meanwhile, the person says what is to become. An empty path is asked for.
   bool Save();
   bool SaveAs(const QString& path);
   void Add(const QString& type, const QPointF& point);
@@ -84,6 +87,7 @@ class KeymapEditor : public QObject {
   QAction* AddButton(const QString& text, const QString& hint, const QKeySequence& keys);
   void SetOn(bool on);
   void Finish();
+  QString FileName() const;
   void TakeSelection(int item);
   void ShowState();
   void ShowMenu(const QPoint& global, const QPointF& place);
@@ -104,6 +108,7 @@ class KeymapEditor : public QObject {
   QAction* delete_ = nullptr;
   QAction* save_ = nullptr;
   Ask ask_;
+  AskForName ask_for_name_;
   bool is_opening_ = false;                 // what comes is no edit
   std::unique_ptr<QTemporaryDir> unsaved_;  // holds edits that are in use and not saved
   QByteArray in_use_;                       // the text that the guest's input goes by

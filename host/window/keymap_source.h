@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
-class QTemporaryFile;
+class QTemporaryDir;
 
 namespace tavikeymapmanager {
 struct LoadResult;
@@ -39,21 +39,19 @@ class KeymapSource {
   // What is in use: the file's last state without errors, or an empty keymap where there was none.
   const tavikeymapmanager::LoadResult& InUse() const;
   // The texts of these two states.
-  const QByteArray& TextInUse() const { return good_ ? good_text_ : text_; }
-  const QByteArray& LastText() const { return text_; }
+  const QByteArray& TextInUse() const;
+  const QByteArray& LastText() const;
 
-  // A file for the library to load it from: the file itself, or a copy of its earlier state.
+  // A file for the library to load what is in use from: a copy, since the file itself may be another one by now.
   QString PathForUse();
 
  private:
-  void Take(const QString& path, const QByteArray& text, tavikeymapmanager::LoadResult result);
+  void Take(const QString& path, tavikeymapmanager::LoadResult result);
 
   QString path_;
   std::unique_ptr<tavikeymapmanager::LoadResult> read_;  // last
   std::unique_ptr<tavikeymapmanager::LoadResult> good_;  // an earlier state, while `read_` has errors; else null
-  QByteArray text_;                                      // of `read_`
-  QByteArray good_text_;                                 // of `good_`
-  std::unique_ptr<QTemporaryFile> copy_;
+  std::unique_ptr<QTemporaryDir> copies_;                // holds the file for the library
 };
 
 }  // namespace tavi

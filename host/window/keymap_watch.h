@@ -27,7 +27,7 @@ class KeymapWatch : public QObject {
   void Vanished();
 
  private:
-  void Settle();
+  Q_INVOKABLE void Settle();
 
   QFileSystemWatcher watcher_;
   QTimer settling_;

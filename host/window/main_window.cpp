@@ -6,7 +6,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMessageBox>
 #include <QShowEvent>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -32,7 +31,6 @@
 #include "host/window/mirror_label.h"
 #include "host/window/pointer_notice.h"
 #include "host/window/record_bar.h"
-#include "host/window/recorder.h"
 #include "host/window/state_corner.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
@@ -116,6 +114,9 @@ MainWindow::MainWindow()
   });
   // What is in use stays, but nobody is to be caught in its view control.
   connect(keymap_.watch, &KeymapWatch::Vanished, this, [] { taviinputmanager::OnResetInputStatus(true, 0); });
+  for (const Keymap* keymap : {&keymap_, &joystick_keymap_}) {
+    connect(keymap->watch, &KeymapWatch::Vanished, this, [this, keymap] { TellVanished(*keymap); });
+  }
   connect(joystick_keymap_.watch, &KeymapWatch::Changed, this, [this] { LoadJoystickKeymap(joystick_keymap_.path); });
   connect(&pads_, &Gamepads::Changed, this, &MainWindow::ShowPads);
   connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
@@ -265,19 +266,18 @@ void MainWindow::showEvent(QShowEvent* event) {
   statusBar()->showMessage(told, kMessageMs);
 }
 
-// Edits and a recording that were never saved are asked for.
+// Edits and a recording that were never saved are asked for. What is down is lifted while it is recorded still.
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!editor_->MayLeave()) return event->ignore();
-  Recorder* recorder = Recorder::GetInstance();
-  if (recorder->Status() == taviinputmanager::RecordStatus::Stopped) return event->accept();
-  if (records_->HasTarget()) {
-    event->setAccepted(records_->SaveRecording());
-    return;
-  }
-  const auto answer = QMessageBox::question(this, windowTitle(), QStringLiteral("Save what was recorded?"),
-                                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-  if (answer == QMessageBox::Discard) recorder->Discard();
-  event->setAccepted(answer == QMessageBox::Discard || (answer == QMessageBox::Save && records_->SaveRecording()));
+  mapping_.LetGoOfEverything();
+  event->setAccepted(records_->MayLeave());
+}
+
+QStringList MainWindow::LeaveWithoutAsking() {
+  mapping_.LetGoOfEverything();
+  QStringList news{editor_->KeepEdits(), records_->SaveWithoutAsking()};
+  news.removeAll(QString());
+  return news;
 }
 
 void MainWindow::OpenKeymap() {
@@ -310,10 +310,11 @@ void MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
   keymap->diagnostics->Show(source, keymap->findings);
 }
 
+// Watched from before it is read, so that no change is missed.
 void MainWindow::LoadKeymap(const QString& path) {
+  keymap_.watch->Watch(path);
   mapping_.Read(path);
   Take(mapping_.Keymap(), &keymap_);
-  keymap_.watch->Watch(path);
   const tavikeymapmanager::LoadResult& in_use = mapping_.Keymap().InUse();
   setWindowModified(false);
   setWindowTitle(TitleOf(in_use.name, path));
@@ -325,7 +326,13 @@ void MainWindow::LoadKeymap(const QString& path) {
              .arg(key),
          true);
   }
-  editor_->Open(path);
+  editor_->Open(path, mapping_.Keymap().LastText());
+}
+
+void MainWindow::TellVanished(const Keymap& keymap) {
+  const QString name = QFileInfo(keymap.path).fileName();
+  Tell(QStringLiteral("%1 is gone; the keymap stays in use as it was read last").arg(name), true);
+  ShowKeymaps();
 }
 
 // What is edited is shown at once, and used when the editing is over.
@@ -350,10 +357,14 @@ void MainWindow::UseEdited(const QString& file) {
 }
 
 void MainWindow::LoadJoystickKeymap(const QString& path) {
+  joystick_keymap_.watch->Watch(path);
   mapping_.ReadJoystick(path);
   Take(mapping_.JoystickKeymap(), &joystick_keymap_);
-  joystick_keymap_.watch->Watch(path);
   ShowKeymaps();
+}
+
+QString MainWindow::ContentsOf(const Keymap& keymap) {
+  return keymap.watch->IsThere() ? keymap.contents : keymap.contents + QStringLiteral(" \u00B7 the file is gone");
 }
 
 void MainWindow::ShowKeymaps() {
@@ -363,8 +374,8 @@ void MainWindow::ShowKeymaps() {
   view_->SetHint(has_keymap
                      ? QString()
                      : QStringLiteral("No keymap. The left mouse button is a finger; Open\u2026 takes a keymap."));
-  QStringList contents(has_keymap ? keymap_.contents : QStringLiteral("No keymap"));
-  if (!joystick_keymap_.path.isEmpty()) contents += QStringLiteral("gamepads: ") + joystick_keymap_.contents;
+  QStringList contents(has_keymap ? ContentsOf(keymap_) : QStringLiteral("No keymap"));
+  if (!joystick_keymap_.path.isEmpty()) contents += QStringLiteral("gamepads: ") + ContentsOf(joystick_keymap_);
   keymap_label_->setText(contents.join(QStringLiteral("  \u00B7  ")));
   keymap_label_->setToolTip((keymap_.path + QLatin1Char('\n') + joystick_keymap_.path).trimmed());
 }

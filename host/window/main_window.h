@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 #include <QString>
+#include <QStringList>
 
 #include "host/window/gamepads.h"
 #include "host/window/key_combination.h"
@@ -60,6 +61,9 @@ class MainWindow : public QMainWindow {
   void SetPauseKey(const KeyCombination& key);
 
   void PauseMapping();
+  // Lifts what is down, and saves a recording or puts it aside, as it does with edits. Returns what a person is to know
+  // of, such as where these are.
+  QStringList LeaveWithoutAsking();
   // Empties the list of the lines for the guest.
   void ClearLog();
 
@@ -108,6 +112,8 @@ class MainWindow : public QMainWindow {
   void Take(const KeymapSource& source, Keymap* keymap);
   void ShowEdited();
   void UseEdited(const QString& file);
+  void TellVanished(const Keymap& keymap);
+  static QString ContentsOf(const Keymap& keymap);
   QString AskForKeymap(const QString& title, const Keymap& before);
   void ShowKeymaps();
   void TakeActivation();

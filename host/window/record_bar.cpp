@@ -11,6 +11,8 @@
 #include <QProgressBar>
 #include <QToolButton>
 
+#include "host/record/record_file.h"
+#include "host/whole_file.h"
 #include "host/window/long_work.h"
 #include "host/window/recorder.h"
 #include "host/window/replayer.h"
@@ -59,7 +61,9 @@ RecordBar::RecordBar(QWidget* parent)
       restart_(nullptr),
       stop_(nullptr),
       progress_(new QProgressBar),
-      second_view_(nullptr) {
+      second_view_(nullptr),
+      ask_(AskIn(this)),
+      ask_for_name_(AskForNameIn(this)) {
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   addWidget(recorded_);
@@ -84,9 +88,7 @@ RecordBar::RecordBar(QWidget* parent)
   connect(stop_, &QAction::triggered, Replayer::GetInstance(), &Replayer::Stop);
   connect(&refresh_, &QTimer::timeout, this, &RecordBar::ShowTimes);
   connect(Recorder::GetInstance(), &Recorder::Changed, this, &RecordBar::Show);
-  connect(Recorder::GetInstance(), &Recorder::Saved, this, [this](const QString& file, const QString& problem) {
-    Q_EMIT Message(problem.isEmpty() ? QStringLiteral("Saved %1").arg(file) : problem, !problem.isEmpty());
-  });
+  connect(Recorder::GetInstance(), &Recorder::Saved, this, &RecordBar::TakeSaved);
   connect(Replayer::GetInstance(), &Replayer::Changed, this, &RecordBar::Show);
   connect(Replayer::GetInstance(), &Replayer::Refused, this, [this](const QString& file) {
     Q_EMIT Message(QStringLiteral("%1 holds no actions that can be played").arg(file), true);
@@ -134,11 +136,15 @@ double RecordBar::Speed() const { return speeds_->checkedAction()->data().toDoub
 
 void RecordBar::ToggleRecording() {
   Recorder* recorder = Recorder::GetInstance();
-  if (recorder->Status() == RecordStatus::Stopped) {
-    recorder->Start(app_);
-  } else {
+  if (recorder->HasRecording()) {
     SaveRecording();
+    return;
   }
+  const QString problem = target_.isEmpty() ? QString() : TryWholeFile(target_);
+  if (!problem.isEmpty()) {
+    return Q_EMIT Message(QStringLiteral("Nothing is recorded: %1 cannot be written: %2").arg(target_, problem), true);
+  }
+  recorder->Start(app_);
 }
 
 void RecordBar::TogglePause() {
@@ -150,19 +156,71 @@ void RecordBar::TogglePause() {
   }
 }
 
-bool RecordBar::SaveRecording() {
-  QString file = target_;
-  if (file.isEmpty()) {
-    Recorder::GetInstance()->Pause();  // the dialog is no part of it, and whoever backs out can go on
-    file = QFileDialog::getSaveFileName(this, QStringLiteral("Save the record"), QString(),
-                                        QString::fromLatin1(kFileTypes));
-    Q_EMIT DialogClosed();
-  }
-  if (file.isEmpty()) return false;
+QString RecordBar::AskForTarget() {
+  Recorder* recorder = Recorder::GetInstance();
+  // The dialog is no part of it, and whoever backs out can go on.
+  if (recorder->Status() == RecordStatus::Recording) recorder->Pause();
+  const QString file = ask_for_name_(
+      {QStringLiteral("Save the record"), folder_, QString::fromLatin1(kFileTypes), QStringLiteral("json")});
+  Q_EMIT DialogClosed();
+  return file;
+}
+
+QString RecordBar::SaveTo(const QString& file) {
   Announce(QStringLiteral("Saving %1\u2026").arg(file));
   const Waiting waiting;
-  Recorder::GetInstance()->Stop(file);
-  return true;
+  Recorder* recorder = Recorder::GetInstance();
+  const QString problem = recorder->End();
+  return problem.isEmpty() ? recorder->Save(file) : problem;
+}
+
+bool RecordBar::SaveRecording() {
+  QString file = target_.isEmpty() ? AskForTarget() : target_;
+  while (!file.isEmpty()) {
+    const QString problem = SaveTo(file);
+    Q_EMIT Message(problem.isEmpty() ? QStringLiteral("Saved %1").arg(file) : problem, !problem.isEmpty());
+    if (Recorder::GetInstance()->KeptFile().isEmpty()) break;
+    file = AskAfter(problem, file);
+  }
+  return !Recorder::GetInstance()->HasRecording();
+}
+
+QString RecordBar::AskAfter(const QString& problem, const QString& file) {
+  const auto answer = ask_(QStringLiteral("%1.\n\nThe recording is kept.").arg(problem),
+                           {{QMessageBox::Save, QStringLiteral("Save as\u2026")},
+                            {QMessageBox::Retry, {}},
+                            {QMessageBox::Discard, QStringLiteral("Drop it")},
+                            {QMessageBox::Cancel, {}}});
+  if (answer == QMessageBox::Discard) Recorder::GetInstance()->Discard();
+  if (answer == QMessageBox::Save) return AskForTarget();
+  return answer == QMessageBox::Retry ? file : QString();
+}
+
+bool RecordBar::MayLeave() {
+  Recorder* recorder = Recorder::GetInstance();
+  if (!recorder->HasRecording()) return true;
+  if (!target_.isEmpty()) return SaveRecording();
+  const auto answer = ask_(QStringLiteral("Save what was recorded?"),
+                           {{QMessageBox::Save, {}}, {QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
+  if (answer == QMessageBox::Discard) recorder->Discard();
+  return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveRecording());
+}
+
+QString RecordBar::SaveWithoutAsking() {
+  Recorder* recorder = Recorder::GetInstance();
+  QString problem = recorder->End();
+  if (recorder->KeptFile().isEmpty()) return problem;
+  if (!target_.isEmpty()) problem = recorder->Save(target_) + QStringLiteral("; ");
+  if (recorder->KeptFile().isEmpty()) return {};
+  return problem + QStringLiteral("the recording is kept as %1").arg(recorder->KeptFile());
+}
+
+// A recording is played at once, unless another record is at work.
+void RecordBar::TakeSaved(const QString& file, const RecordInfo& info) {
+  target_.clear();  // another recording is not to take its place
+  folder_ = QFileInfo(file).absolutePath();
+  const State state = Replayer::GetInstance()->GetState();
+  if (state == State::kNone || state == State::kFinished) Replayer::GetInstance()->Open(file, info);
 }
 
 // Seen although the next step lets nothing be painted.
@@ -174,10 +232,11 @@ void RecordBar::Announce(const QString& text) {
 bool RecordBar::OpenRecord(QString file) {
   if (file.isEmpty()) {
     file =
-        QFileDialog::getOpenFileName(this, QStringLiteral("Open a record"), QString(), QString::fromLatin1(kFileTypes));
+        QFileDialog::getOpenFileName(this, QStringLiteral("Open a record"), folder_, QString::fromLatin1(kFileTypes));
     Q_EMIT DialogClosed();
   }
   if (file.isEmpty()) return false;
+  folder_ = QFileInfo(file).absolutePath();
   const std::optional<RecordInfo> info = Read(file);
   if (!info) return false;
   Replayer::GetInstance()->Open(file, *info);
@@ -185,6 +244,11 @@ bool RecordBar::OpenRecord(QString file) {
 }
 
 std::optional<RecordInfo> RecordBar::Read(const QString& file) {
+  const QString refusal = RecordRefusal(file);
+  if (!refusal.isEmpty()) {
+    Q_EMIT Message(QStringLiteral("%1 cannot be read: %2").arg(file, refusal), true);
+    return std::nullopt;
+  }
   struct Result {
     bool is_record = false;
     RecordInfo info;
@@ -236,9 +300,10 @@ void RecordBar::Show() {
 void RecordBar::ShowRecording() {
   const RecordStatus status = Recorder::GetInstance()->Status();
   const bool is_stopped = status == RecordStatus::Stopped;
-  record_->setText(is_stopped ? QStringLiteral("\u25CF Record") : QStringLiteral("\u25A0 Save\u2026"));
-  record_->setToolTip(is_stopped ? QStringLiteral("Record what the guest gets")
-                                 : QStringLiteral("End the recording and save it"));
+  const bool has_recording = Recorder::GetInstance()->HasRecording();
+  record_->setText(has_recording ? QStringLiteral("\u25A0 Save\u2026") : QStringLiteral("\u25CF Record"));
+  record_->setToolTip(has_recording ? QStringLiteral("End the recording and save it")
+                                    : QStringLiteral("Record what the guest gets"));
   pause_record_->setEnabled(!is_stopped);
   pause_record_->setText(status == RecordStatus::Paused ? QStringLiteral("Resume") : QStringLiteral("Pause"));
 }
@@ -256,8 +321,7 @@ void RecordBar::ShowReplay() {
 
 void RecordBar::ShowTimes() {
   const Recorder* recorder = Recorder::GetInstance();
-  const bool is_stopped = recorder->Status() == RecordStatus::Stopped;
-  recorded_->setText(is_stopped ? QString() : TimeText(recorder->RecordedMs()));
+  recorded_->setText(!recorder->HasRecording() ? QString() : TimeText(recorder->RecordedMs()));
   const Replayer* replayer = Replayer::GetInstance();
   progress_->setRange(0, static_cast<int>(qBound<qint64>(1, replayer->TotalMs(), 0x7FFFFFFF)));
   progress_->setValue(static_cast<int>(qMin<qint64>(replayer->PlayedMs(), progress_->maximum())));

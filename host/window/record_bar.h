@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include "host/window/question.h"
+
 class QAction;
 class QActionGroup;
 class QLabel;
@@ -25,14 +27,20 @@ class RecordBar : public QToolBar {
 
   // The name of what is played, which a record keeps.
   void SetApp(const QString& app) { app_ = app; }
-  // Where recordings are saved; empty: a person is asked.
+  // Where the next recording is saved; empty: a person is asked.
   void SetTarget(const QString& file) { target_ = file; }
-  bool HasTarget() const { return !target_.isEmpty(); }
+  void SetAsk(const Ask& ask) { ask_ = ask; }
+  void SetAskForName(const AskForName& ask) { ask_for_name_ = ask; }
 
-  // Starts a recording, or ends the one that runs.
+  // Starts a recording, if its target can be written, or ends and saves the one that there is.
   void ToggleRecording();
-  // Ends the recording and saves it. False when the person backs out: the recording is then paused.
+  // Ends the recording and saves it; where that fails, the person is asked what to do. False when there is a recording
+  // still: the person backed out. It is then paused, or kept.
   bool SaveRecording();
+  // Whether the window may go: a recording is saved, or dropped on demand.
+  bool MayLeave();
+  // The same without asking anybody. Returns what went wrong, and where the recording is kept, or nothing.
+  QString SaveWithoutAsking();
   // Takes a record to play; asks for one when `file` is empty. False when it is none, or when the person backs out.
   bool OpenRecord(QString file = {});
   // Plays the record, or pauses it, or goes on.
@@ -47,11 +55,17 @@ class RecordBar : public QToolBar {
   void DialogClosed();
 
  private:
+  QString AskForTarget();
+  // Returns what went wrong, or nothing.
+  QString SaveTo(const QString& file);
+  // What becomes of a recording that cannot be saved; an empty name: it stays. Not asked for what was dropped.
+  QString AskAfter(const QString& problem, const QString& file);
   QAction* AddButton(const QString& text, const QString& hint);
   QMenu* MakeSpeedMenu();
   void AddSpeedButton();
   void TogglePause();
   void Play();
+  void TakeSaved(const QString& file, const RecordInfo& info);
   // The header of a record; nothing when the file is none, which a person is told, or when the person backs out.
   std::optional<RecordInfo> Read(const QString& file);
   void Announce(const QString& text);
@@ -75,6 +89,9 @@ class RecordBar : public QToolBar {
   QTimer refresh_;  // of the times, while something runs
   QString app_;
   QString target_;
+  QString folder_;  // where records were saved or opened last
+  Ask ask_;
+  AskForName ask_for_name_;
 };
 
 }  // namespace tavi

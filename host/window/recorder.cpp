@@ -1,29 +1,17 @@
 #include "host/window/recorder.h"
 
+#include "host/record/written_record.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
 
 using taviinputmanager::RecordStatus;
 
-namespace {
-
-// As the library tells them.
-enum Result { kSaved = 0, kNothingWorthSaving = 1 };
-
-QString ProblemOf(const QString& file, int result) {
-  if (result == kSaved) return {};
-  if (result == kNothingWorthSaving) return QStringLiteral("Nothing was recorded that the guest would notice");
-  return QStringLiteral("%1 cannot be written").arg(file);
-}
-
-}  // namespace
-
 // The plain functions that the library is given.
 struct RecorderFunctions {
   static void Started() { Recorder::GetInstance()->TakeRunning(true); }
   static void Paused() { Recorder::GetInstance()->TakeRunning(false); }
-  static void Stopped(const QString& file, int result) { Recorder::GetInstance()->TakeStopped(file, result); }
+  static void Stopped(const QString& /*file*/, int result) { Recorder::GetInstance()->TakeStopped(result); }
 
   static taviinputmanager::InputRecorderCallbacks* Table() {
     static taviinputmanager::InputRecorderCallbacks table{Started, Paused, Started, Stopped};
@@ -49,14 +37,45 @@ void Recorder::Pause() { taviinputmanager::PauseRecord(); }
 
 void Recorder::Resume() { taviinputmanager::ResumeRecord(); }
 
-void Recorder::Stop(const QString& file) { taviinputmanager::StopRecord(QString(), file); }
+// The file itself tells whether it is whole.
+QString Recorder::End() {
+  if (Status() == RecordStatus::Stopped) return {};
+  auto kept = std::make_unique<KeptRecording>();
+  if (kept->File().isEmpty()) return QStringLiteral("The recording goes on: no disk has room for it");
+  taviinputmanager::StopRecord(QString(), kept->File());
+  const bool is_empty = result_ == kNothingToSave;
+  const bool is_kept = !is_empty && WrittenRecordProblem(kept->File(), &info_).isEmpty();
+  if (is_kept) {
+    kept_ = std::move(kept);
+  } else {
+    kept->Drop();
+  }
+  Q_EMIT Changed();
+  if (is_empty) return QStringLiteral("Nothing was recorded that the guest would notice");
+  return is_kept ? QString() : QStringLiteral("The recording is lost: no disk has room for it");
+}
+
+QString Recorder::Save(const QString& file) {
+  if (!kept_) return {};
+  const QString problem = kept_->SaveTo(file);
+  if (!problem.isEmpty()) return QStringLiteral("%1 cannot be written: %2").arg(file, problem);
+  kept_.reset();
+  Q_EMIT Saved(file, info_);
+  Q_EMIT Changed();
+  return {};
+}
 
 // No file can be opened under an empty name.
 void Recorder::Discard() {
-  is_discarding_ = true;
-  Stop(QString());
-  is_discarding_ = false;
+  if (Status() != RecordStatus::Stopped) taviinputmanager::StopRecord(QString(), QString());
+  if (kept_) kept_->Drop();
+  kept_.reset();
+  Q_EMIT Changed();
 }
+
+bool Recorder::HasRecording() const { return kept_ || Status() != RecordStatus::Stopped; }
+
+QString Recorder::KeptFile() const { return kept_ ? kept_->File() : QString(); }
 
 qint64 Recorder::RecordedMs() const { return before_ms_ + (running_.isValid() ? running_.elapsed() : 0); }
 
@@ -70,11 +89,10 @@ void Recorder::TakeRunning(bool running) {
   Q_EMIT Changed();
 }
 
-void Recorder::TakeStopped(const QString& file, int result) {
+void Recorder::TakeStopped(int result) {
+  result_ = result;
   before_ms_ = RecordedMs();
   running_.invalidate();
-  Q_EMIT Changed();
-  if (!is_discarding_) Q_EMIT Saved(file, ProblemOf(file, result));
 }
 
 }  // namespace tavi

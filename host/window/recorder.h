@@ -1,10 +1,13 @@
 #ifndef HOST_WINDOW_RECORDER_H_
 #define HOST_WINDOW_RECORDER_H_
 
+#include <memory>
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 
+#include "host/record/kept_recording.h"
 #include "taviinputmanager/types.h"
 
 namespace tavi {
@@ -22,19 +25,25 @@ class Recorder : public QObject {
   void Start(const QString& app);
   void Pause();
   void Resume();
-  // Ends the recording and saves it; Saved tells what came of it.
-  void Stop(const QString& file);
+  // Ends the recording, which is kept until it is saved or discarded. Returns what is wrong where nothing is kept;
+  // where there is no room at all, it goes on.
+  QString End();
+  // Saves what was kept. Returns what went wrong, for people, or nothing; then it is kept still.
+  QString Save(const QString& file);
   // Ends it without a file.
   void Discard();
 
   taviinputmanager::RecordStatus Status() const;
+  // The recording runs or is paused, or has ended and is kept.
+  bool HasRecording() const;
+  // Where it is kept; empty when none is.
+  QString KeptFile() const;
   // Milliseconds that were recorded so far, pauses left out.
   qint64 RecordedMs() const;
 
  Q_SIGNALS:
   void Changed();
-  // `problem` is for people; empty when the file was written.
-  void Saved(const QString& file, const QString& problem);
+  void Saved(const QString& file, const RecordInfo& info);
 
  private:
   friend struct RecorderFunctions;
@@ -42,11 +51,13 @@ class Recorder : public QObject {
   Recorder();
 
   void TakeRunning(bool running);
-  void TakeStopped(const QString& file, int result);
+  void TakeStopped(int result);
 
   QElapsedTimer running_;  // since the start or the last resume; not valid otherwise
   qint64 before_ms_ = 0;   // up to the last pause
-  bool is_discarding_ = false;
+  int result_ = 0;         // of the last recording, as the library tells it
+  std::unique_ptr<KeptRecording> kept_;
+  RecordInfo info_;  // of what is kept
 };
 
 }  // namespace tavi

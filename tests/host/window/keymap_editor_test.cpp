@@ -2,10 +2,12 @@
 #include "host/window/keymap_editor.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include "host/editor/item_handles.h"
 #include "host/window/edit_layer.h"
@@ -15,6 +17,7 @@
 #include "host/window/source_pane.h"
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/joystick_event.h"
+#include "tests/host/full_disk.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -29,7 +32,8 @@ class EditingInTheWindow : public WindowFixture {
   EditingInTheWindow() {
     Load(kItems);
     before_ = FileText();
-    Editor()->SetAsk([this](const QString& question, KeymapEditor::Buttons) {
+    Editor()->SetAsk([this](const QString& question, const QVector<Answer>& answers) {
+      answers_ = answers;
       questions_ += question;
       return answer_;
     });
@@ -95,6 +99,7 @@ class EditingInTheWindow : public WindowFixture {
   QByteArray before_;
   KeymapEditor::Button answer_ = QMessageBox::Cancel;
   QStringList questions_;
+  QVector<Answer> answers_;  // to the last one
   QString news_;
   QString problem_;
 };
@@ -490,6 +495,65 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeReadInstead) {
   Edit(false);
   Press(kSpace);
   EXPECT_TRUE(Slots().isEmpty());  // the note answers to nothing
+}
+
+TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  Write("keymap.yaml", "{type: Tip, point: [0.5, 0.5]}");
+  const QByteArray foreign = FileText();
+  answer_ = QMessageBox::SaveAll;
+  Editor()->SetAskForName([this](const SaveQuestion&) { return folder_.filePath("mine.yaml"); });
+  EXPECT_TRUE(Editor()->Save());
+  QStringList texts;
+  for (const Answer& answer : qAsConst(answers_)) texts += answer.text;
+  EXPECT_EQ(texts, (QStringList{"Overwrite", "Read again", "Save as\u2026", ""}));
+  EXPECT_EQ(FileText(), foreign);
+  EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
+  EXPECT_FALSE(Document()->IsModified());
+}
+
+// The dialog itself, as a person fills it in.
+TEST_F(EditingInTheWindow, ANameWithoutSuffixGetsOne) {
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  Edit();
+  QTimer::singleShot(0, Window(), [this] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder_.filePath("mine"));
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  EXPECT_TRUE(Editor()->SaveAs(QString()));
+  EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
+  EXPECT_TRUE(QFile::exists(folder_.filePath("mine.yaml")));
+}
+
+TEST_F(EditingInTheWindow, AFullDiskLeavesTheKeymapThatWasThere) {
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  {
+    const FileSizeLimit full(20);
+    EXPECT_FALSE(Editor()->Save());
+  }
+  EXPECT_EQ(problem_, folder_.filePath("keymap.yaml") + " cannot be written: File too large");
+  EXPECT_EQ(FileText(), before_);
+  EXPECT_TRUE(Window()->isWindowModified());
+  EXPECT_TRUE(Editor()->Save());
+  EXPECT_EQ(FileText().toStdString(), FileWith("[0.25, 0.75]", "[0.5, 0.25]"));
+}
+
+TEST_F(EditingInTheWindow, EditsThatNobodyIsAskedAboutAreKept) {
+  qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
+  EXPECT_EQ(Window()->LeaveWithoutAsking(), QStringList());
+  Edit();
+  DragFrom(At(0.25, 0.75), At(0.5, 0.25));
+  const QString news = Window()->LeaveWithoutAsking().value(0);
+  const QString told = "the edits of keymap.yaml are kept as ";
+  ASSERT_TRUE(news.startsWith(told + folder_.filePath("data/tavi/"))) << news.toStdString();
+  QFile kept(news.mid(told.size()));
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+  EXPECT_EQ(kept.readAll(), Document()->Text());
+  EXPECT_EQ(FileText(), before_);
 }
 
 TEST_F(EditingInTheWindow, ClosingAsksForEdits) {

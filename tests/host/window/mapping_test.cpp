@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include "host/window/key_combination.h"
+#include "host/window/keymap_watch.h"
 #include "host/window/record_bar.h"
 #include "host/window/replayer.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -366,6 +367,32 @@ TEST_F(MappingTest, AnotherFileThatIsBrokenIsNotTheOneBefore) {
   Window()->LoadKeymap(Write("other.yaml", "{type: Click, key: Spcae, point: [0.5, 0.5]}"));
   Press(kSpace);
   EXPECT_TRUE(Slots().isEmpty());
+}
+
+// What is used is what was read, whatever the file has become by then.
+TEST_F(MappingTest, AFileThatIsWrittenButNotReadYetIsNotInUse) {
+  ClickPauseKey();
+  Load("{type: Click, key: Space, point: [0.25, 0.75]}");
+  Write("keymap.yaml", "{type: Click, key: Space, point: [0.5, 0.5]}");
+  ClickPauseKey();
+  Press(kSpace);
+  ExpectNear(Finger(), 320, 540);
+}
+
+TEST_F(MappingTest, AFileThatGoesIsToldAndStaysInUse) {
+  Load("{type: Click, key: Space, point: [0.25, 0.75]}");
+  QFile::remove(folder_.filePath("keymap.yaml"));
+  auto* watch = Window()->findChild<KeymapWatch*>();  // the first is the keymap's
+  ASSERT_NE(watch, nullptr);
+  QMetaObject::invokeMethod(watch, "Settle");
+  EXPECT_EQ(Window()->statusBar()->currentMessage(),
+            QString("keymap.yaml is gone; the keymap stays in use as it was read last"));
+  const QList<QLabel*> labels = Window()->statusBar()->findChildren<QLabel*>();
+  EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+    return label->text().contains("1 item \u00B7 the file is gone");
+  }));
+  Press(kSpace);
+  ExpectNear(Finger(), 320, 540);
 }
 
 }  // namespace

@@ -1,17 +1,23 @@
 // Records in the window: what a person records, saves, opens and plays.
 #include <functional>
+#include <sys/stat.h>
 #include <utility>
 
 #include <QAction>
+#include <QDir>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "host/window/guest_screen.h"
 #include "host/window/record_bar.h"
 #include "host/window/recorder.h"
 #include "host/window/replayer.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/host/full_disk.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -46,6 +52,11 @@ int PointerShape() { return QApplication::overrideCursor() ? QApplication::overr
 class RecordsInTheWindow : public WindowFixture {
  protected:
   RecordsInTheWindow() {
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));  // where recordings are kept
+    Records()->SetAsk([this](const QString& question, const QVector<Answer>& /*answers*/) {
+      questions_ += question;
+      return answers_.isEmpty() ? QMessageBox::Cancel : answers_.takeFirst();
+    });
     Load("{type: Click, key: Space, point: [0.25, 0.75]}");
     QObject::connect(Records(), &RecordBar::Message, Window(),
                      [this](const QString& text, bool is_problem) { (is_problem ? problem_ : news_) = text; });
@@ -75,9 +86,33 @@ class RecordsInTheWindow : public WindowFixture {
     return nullptr;
   }
 
+  // A tap that is recorded still.
+  void BeginATap(const QString& target) {
+    Records()->SetTarget(target);
+    Records()->ToggleRecording();
+    Press(kSpace);
+    clock_->Advance(200);
+    Release(kSpace);
+  }
+  static bool IsRecord(const QString& file) {
+    RecordInfo info;
+    return taviinputmanager::GetRecordInfo(file, &info);
+  }
+  // What is kept of recordings that have no place yet.
+  QStringList Kept() const { return QDir(folder_.filePath("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot); }
+  QByteArray Text(const QString& file) const {
+    QFile opened(file);
+    EXPECT_TRUE(opened.open(QIODevice::ReadOnly));
+    return opened.readAll();
+  }
+
   QString news_;
   QString problem_;
+  QStringList questions_;
+  QVector<QMessageBox::StandardButton> answers_;  // to the questions to come; then Cancel
 };
+
+constexpr char kFull[] = "/dev/full";  // opens, and takes nothing
 
 TEST_F(RecordsInTheWindow, ARecordingIsSaved) {
   const QString file = RecordATap();
@@ -225,6 +260,173 @@ TEST_F(RecordsInTheWindow, ClosingTheWindowSavesARecordingThatHasItsFile) {
   Press(kSpace);
   Window()->close();
   EXPECT_TRUE(QFileInfo::exists(Path("closed.json")));
+}
+
+// ---- Recordings that cannot be saved
+
+TEST_F(RecordsInTheWindow, ATargetThatCannotBeWrittenIsToldAtTheStart) {
+  Records()->SetTarget(Path("none/tap.json"));
+  Records()->ToggleRecording();
+  EXPECT_EQ(Recorder::GetInstance()->Status(), RecordStatus::Stopped);
+  EXPECT_EQ(problem_,
+            QString("Nothing is recorded: %1 cannot be written: No such file or directory").arg(Path("none/tap.json")));
+}
+
+TEST_F(RecordsInTheWindow, WhatCannotBeSavedIsSavedElsewhere) {
+  BeginATap(kFull);
+  answers_ = {QMessageBox::Save};
+  Records()->SetAskForName([this](const SaveQuestion&) { return Path("elsewhere.json"); });
+  EXPECT_TRUE(Records()->SaveRecording());
+  ASSERT_EQ(questions_.size(), 1);
+  EXPECT_EQ(questions_[0], QString("/dev/full cannot be written: No space left on device.\n\nThe recording is kept."));
+  EXPECT_TRUE(IsRecord(Path("elsewhere.json")));
+  EXPECT_TRUE(Kept().isEmpty());
+}
+
+TEST_F(RecordsInTheWindow, WhatCannotBeSavedIsTriedAgain) {
+  QDir(folder_.path()).mkdir("later");
+  BeginATap(Path("later/tap.json"));
+  QDir(folder_.path()).rmdir("later");
+  Records()->SetAsk([this](const QString& question, const QVector<Answer>&) {
+    questions_ += question;
+    QDir(folder_.path()).mkdir("later");
+    return QMessageBox::Retry;
+  });
+  EXPECT_TRUE(Records()->SaveRecording());
+  EXPECT_EQ(questions_.size(), 1);
+  EXPECT_TRUE(IsRecord(Path("later/tap.json")));
+}
+
+TEST_F(RecordsInTheWindow, TheWindowStaysUntilTheRecordingIsSavedOrDropped) {
+  BeginATap(kFull);
+  EXPECT_FALSE(Window()->close());  // Cancel
+  EXPECT_TRUE(Window()->isVisible());
+  EXPECT_TRUE(Recorder::GetInstance()->HasRecording());
+  EXPECT_EQ(Kept().size(), 1);
+  EXPECT_TRUE(IsRecord(Recorder::GetInstance()->KeptFile()));
+  EXPECT_FALSE(Window()->close());
+  EXPECT_EQ(questions_.size(), 2);
+  answers_ = {QMessageBox::Discard};
+  EXPECT_TRUE(Window()->close());
+  EXPECT_FALSE(Recorder::GetInstance()->HasRecording());
+  EXPECT_TRUE(Kept().isEmpty());
+}
+
+// The button saves what is kept; a new recording would take its place.
+TEST_F(RecordsInTheWindow, WhatIsKeptIsSavedBeforeAnythingElseIsRecorded) {
+  BeginATap(kFull);
+  Records()->ToggleRecording();  // Cancel
+  Records()->SetTarget(Path("tap.json"));
+  Records()->ToggleRecording();
+  EXPECT_EQ(Recorder::GetInstance()->Status(), RecordStatus::Stopped);
+  EXPECT_TRUE(IsRecord(Path("tap.json")));
+}
+
+TEST_F(RecordsInTheWindow, WhoBacksOutOfTheDialogGoesOnRecording) {
+  BeginATap(QString());
+  Records()->SetAskForName([](const SaveQuestion&) { return QString(); });
+  EXPECT_FALSE(Records()->SaveRecording());
+  EXPECT_EQ(Recorder::GetInstance()->Status(), RecordStatus::Paused);
+}
+
+TEST_F(RecordsInTheWindow, AFullDiskLeavesTheRecordThatWasThere) {
+  QFile before(Path("tap.json"));
+  ASSERT_TRUE(before.open(QIODevice::WriteOnly));
+  before.write("before");
+  before.close();
+  BeginATap(Path("tap.json"));
+  ASSERT_EQ(Recorder::GetInstance()->End(), QString());  // kept, where there is room
+  {
+    const FileSizeLimit full(100);
+    EXPECT_FALSE(Records()->SaveRecording());
+  }
+  EXPECT_TRUE(questions_.value(0).contains("File too large")) << questions_.value(0).toStdString();
+  EXPECT_EQ(Text(Path("tap.json")), QByteArray("before"));
+  EXPECT_TRUE(Records()->SaveRecording());
+  EXPECT_TRUE(IsRecord(Path("tap.json")));
+}
+
+TEST_F(RecordsInTheWindow, WithoutAskingItIsSavedOrKept) {
+  BeginATap(kFull);
+  const QStringList news = Window()->LeaveWithoutAsking();
+  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording is kept as " +
+                              Recorder::GetInstance()->KeptFile()));
+  EXPECT_TRUE(IsRecord(Recorder::GetInstance()->KeptFile()));
+  Records()->SetTarget(Path("tap.json"));
+  EXPECT_EQ(Window()->LeaveWithoutAsking(), QStringList());
+  EXPECT_TRUE(IsRecord(Path("tap.json")));
+  EXPECT_TRUE(questions_.isEmpty());
+}
+
+TEST_F(RecordsInTheWindow, WhatIsDownAtTheEndIsLiftedInTheRecord) {
+  Records()->SetTarget(Path("held.json"));
+  Records()->ToggleRecording();
+  Press(kSpace);
+  EXPECT_TRUE(Window()->close());
+  const QByteArray text = Text(Path("held.json"));
+  EXPECT_GT(text.indexOf("release"), text.indexOf("press_rel")) << text.toStdString();
+  EXPECT_TRUE(Slots().isEmpty());
+}
+
+// ---- Names of records
+
+TEST_F(RecordsInTheWindow, WhatWasSavedPlaysAtOnce) {
+  const QString file = RecordATap();
+  EXPECT_EQ(Replay()->File(), file);
+  EXPECT_EQ(Replay()->TotalMs(), 300);
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  EXPECT_EQ(Slots(), QList<int>{18});
+}
+
+TEST_F(RecordsInTheWindow, AReplayThatRunsIsNotTakenAway) {
+  const QString first = RecordATap();
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  BeginATap(Path("second.json"));
+  ASSERT_EQ(Replay()->GetState(), State::kFinished);  // BeginATap took 200 ms
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  ASSERT_EQ(Replay()->GetState(), State::kPlaying);
+  EXPECT_TRUE(Records()->SaveRecording());
+  EXPECT_EQ(Replay()->File(), first);
+}
+
+// The target was for one recording; a second one would have taken its place.
+TEST_F(RecordsInTheWindow, ASecondRecordingDoesNotTakeThePlaceOfTheFirst) {
+  RecordATap();
+  const QByteArray first = Text(Path("tap.json"));
+  int asked = 0;
+  Records()->SetAskForName([&asked](const SaveQuestion&) {
+    ++asked;
+    return QString();
+  });
+  Records()->ToggleRecording();
+  Press(kSpace);
+  EXPECT_FALSE(Records()->SaveRecording());
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(Text(Path("tap.json")), first);
+}
+
+// The dialog itself, as a person fills it in.
+TEST_F(RecordsInTheWindow, ANameWithoutSuffixGetsOneThatOpenRecordLists) {
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  BeginATap(QString());
+  QTimer::singleShot(0, Window(), [this] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(Path("walk"));
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  EXPECT_TRUE(Records()->SaveRecording());
+  EXPECT_TRUE(IsRecord(Path("walk.json")));
+  EXPECT_FALSE(QFileInfo::exists(Path("walk")));
+}
+
+TEST_F(RecordsInTheWindow, APipeIsNoRecord) {
+  ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), 0600), 0);
+  EXPECT_FALSE(Records()->OpenRecord(Path("pipe")));
+  EXPECT_EQ(problem_, Path("pipe") + " cannot be read: not a plain file");
 }
 
 }  // namespace

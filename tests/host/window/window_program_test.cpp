@@ -1,0 +1,158 @@
+// The window as a program: how it ends when it is told to from outside.
+#include <csignal>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "host/window/mirror_address.h"
+#include "host/window/mirror_message.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+namespace {
+
+constexpr int kLimitMs = 20000;  // never reached when all is well
+
+// A finger that goes down at once and stays for an hour.
+constexpr char kHeld[] = R"~({"info": {"total_running_time": 3600000}, "actions": [
+  {"timing": 0, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"},
+  {"timing": 3600000, "type": "touch", "data": "release", "extra1": "2"}]})~";
+
+class WindowProgram : public testing::Test {
+ protected:
+  WindowProgram() : application_(argument_count_, arguments_) {
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
+    QFile record(Path("held.json"));
+    EXPECT_TRUE(record.open(QIODevice::WriteOnly));
+    record.write(kHeld);
+    record.close();
+    EXPECT_TRUE(guest_.listen(MirrorAddressOf("guest")));
+  }
+  ~WindowProgram() override {
+    if (program_.state() == QProcess::NotRunning) return;
+    program_.kill();
+    program_.waitForFinished();
+  }
+
+  QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+
+  static bool Until(const std::function<bool()>& done) {
+    const QDeadlineTimer limit(kLimitMs);
+    while (!done() && !limit.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    return done();
+  }
+
+  // Starts a window that plays the record with the finger, and waits until the finger is down.
+  void StartWithAFingerDown(const QStringList& options) {
+    const QStringList usual{"window", "-platform", "offscreen", "--replay", Path("held.json"), "--mirror", "guest"};
+    program_.start(TAVI_BINARY_DIR "/host/tavi", usual + options);
+    ASSERT_TRUE(Until([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
+  }
+
+  // What the window tells the instance that it mirrors to, which this test is.
+  bool HasSaid(const char* part) {
+    if (!socket_) socket_ = guest_.nextPendingConnection();
+    MirrorMessage message;
+    while (socket_ && ReadMirrorMessage(socket_, &message) == MirrorReading::kMessage) said_ += message.line;
+    return !said_.filter(QLatin1String(part)).isEmpty();
+  }
+
+  int EndBy(int number) {
+    kill(static_cast<pid_t>(program_.processId()), number);
+    EXPECT_TRUE(Until([&] { return program_.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
+    return program_.exitCode();
+  }
+
+ private:
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QCoreApplication application_;
+
+ protected:
+  QTemporaryDir folder_;
+  QProcess program_;
+  QLocalServer guest_;
+  QLocalSocket* socket_ = nullptr;  // the server's
+  QStringList said_;
+};
+
+TEST_F(WindowProgram, ASignalEndsItInOrder) {
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+    SCOPED_TRACE(number);
+    said_.clear();
+    socket_ = nullptr;
+    const QString record = Path("record.json");
+    StartWithAFingerDown({"--listen", "window", "--record", record});
+    EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("window")));
+    EXPECT_EQ(EndBy(number), 128 + number);
+    EXPECT_TRUE(Until([&] { return HasSaid("RELEASE"); }));
+    EXPECT_FALSE(QFileInfo::exists(MirrorAddressOf("window")));
+    RecordInfo info;
+    EXPECT_TRUE(taviinputmanager::GetRecordInfo(record, &info));
+    EXPECT_TRUE(QFile::remove(record));
+  }
+}
+
+TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
+  StartWithAFingerDown({"--record", "/dev/full"});
+  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
+  const QString told = QString::fromUtf8(program_.readAllStandardError());
+  const QString start = "tavi window: /dev/full cannot be written: No space left on device; the recording is kept as ";
+  ASSERT_TRUE(told.contains(start)) << told.toStdString();
+  const QString kept = told.mid(told.indexOf(start) + start.size()).trimmed();
+  RecordInfo info;
+  EXPECT_TRUE(taviinputmanager::GetRecordInfo(kept, &info)) << kept.toStdString();
+}
+
+TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {
+  const struct {
+    QStringList arguments;
+    int status;
+    QString error;
+  } rows[] = {
+      {{"--record", Path("none/a.json")},
+       1,
+       "tavi window: cannot write " + Path("none/a.json") + ": No such file or directory\n"},
+      {{"--listen", Path("held.json")}, 2, "tavi window: --listen: a name has up to 64 letters"},
+      {{"--mirror", "left,../right"}, 2, "tavi window: --mirror: a name has up to 64 letters"},
+      {{"--listen", "guest"}, 1, "tavi window: cannot listen as guest: another instance listens as guest\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.error.toStdString());
+    program_.start(TAVI_BINARY_DIR "/host/tavi", QStringList{"window", "-platform", "offscreen"} + row.arguments);
+    ASSERT_TRUE(program_.waitForFinished());
+    EXPECT_EQ(program_.exitCode(), row.status);
+    const QString told = QString::fromUtf8(program_.readAllStandardError());
+    EXPECT_TRUE(told.contains(row.error)) << told.toStdString();
+  }
+  EXPECT_TRUE(QFileInfo::exists(Path("held.json")));
+}
+
+TEST_F(WindowProgram, APictureThatCannotBeWrittenLeavesTheOneThatWasThere) {
+  program_.start(TAVI_BINARY_DIR "/host/tavi",
+                 {"window", "-platform", "offscreen", "--picture", "/dev/full", "--after", "0"});
+  ASSERT_TRUE(program_.waitForFinished());
+  EXPECT_EQ(program_.exitCode(), 1);
+  EXPECT_TRUE(
+      program_.readAllStandardError().contains("tavi window: cannot write /dev/full: No space left on device\n"));
+  program_.start(TAVI_BINARY_DIR "/host/tavi",
+                 {"window", "-platform", "offscreen", "--picture", Path("a.png"), "--after", "0"});
+  ASSERT_TRUE(program_.waitForFinished());
+  EXPECT_EQ(program_.exitCode(), 0);
+  EXPECT_GT(QFileInfo(Path("a.png")).size(), 1000);
+}
+
+}  // namespace
+}  // namespace tavi
