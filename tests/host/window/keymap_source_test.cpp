@@ -1,17 +1,16 @@
 // A keymap file as the window reads it: once, and told when it changes or goes.
 #include "host/window/keymap_source.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "host/window/keymap_watch.h"
 #include "keymapmanager/keymap_file.h"
+#include "tests/support/run_until.h"
 
 namespace tavi {
 namespace {
@@ -19,8 +18,6 @@ namespace {
 constexpr char kOne[] = "format: 1\nitems: [{type: Click, key: Space, point: [0.5, 0.5]}]\n";
 constexpr char kNone[] = "format: 1\nitems: []\n";
 constexpr char kBroken[] = "format: 1\nitems: [\n";
-constexpr int kLimitMs = 20000;  // never reached when all is well
-
 class KeymapSourceTest : public testing::Test {
  protected:
   QString Path() const { return folder_.filePath("keymap.yaml"); }
@@ -85,8 +82,7 @@ class KeymapWatchTest : public KeymapSourceTest {
   }
 
   bool IsToldOnce(const char* what) {
-    const QDeadlineTimer limit(kLimitMs);
-    while (told_.isEmpty() && !limit.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    EXPECT_TRUE(taviinputmanager::RunEventsUntil([this] { return !told_.isEmpty(); }));
     const QStringList told = std::exchange(told_, {});
     return told == QStringList(what);
   }

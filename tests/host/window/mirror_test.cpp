@@ -1,5 +1,4 @@
 // Lines carried between instances. The other instance is a bare socket here, which says and hears what one would.
-#include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -9,7 +8,6 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalServer>
@@ -23,15 +21,21 @@
 #include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/full_disk.h"
+#include "tests/support/run_until.h"
 
 namespace tavi {
 namespace {
 
-constexpr int kLimitMs = 20000;  // never reached when all is well
+using taviinputmanager::RunEventsUntil;
 
 class Mirror : public testing::Test {
  protected:
   Mirror() : application_(argument_count_, arguments_) {
+    const MirrorTargets* targets = MirrorTargets::GetInstance();
+    QObject::connect(targets, &MirrorTargets::Reached, &context_, [this] { ++reached_; });
+    QObject::connect(targets, &MirrorTargets::Lost, &context_, [this](const QString& name, const QString& problem) {
+      lost_.append({name, problem});
+    });
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));  // no other test has these names
     WindowHost::GetInstance()->Start(nullptr);
     QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &context_, [this](const TimelineEntry& entry) {
@@ -59,10 +63,10 @@ class Mirror : public testing::Test {
     return socket(AF_UNIX, SOCK_STREAM, 0);
   }
 
-  static bool Until(const std::function<bool()>& done) {
-    const QDeadlineTimer limit(kLimitMs);
-    while (!done() && !limit.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-    return done();
+  // Sends lines to whoever listens under these names.
+  void Reach(const QStringList& names) {
+    for (const QString& name : names) MirrorTargets::GetInstance()->Add(name);
+    ASSERT_TRUE(RunEventsUntil([&] { return reached_ == names.size(); }));
   }
 
   static void Say(QLocalSocket* socket, const MirrorMessage& message) {
@@ -80,6 +84,8 @@ class Mirror : public testing::Test {
 
   QTemporaryDir folder_;
   QStringList said_;  // lines for this instance's guest
+  int reached_ = 0;   // instances that get lines
+  QStringList lost_;  // names of those that do not, each with what is wrong
 
  private:
   int argument_count_ = 0;
@@ -125,18 +131,13 @@ class Listener {
 TEST_F(Mirror, LinesOfALiveDisplayGoToEveryTarget) {
   Listener first("first");
   Listener second("second");
-  MirrorTargets* targets = MirrorTargets::GetInstance();
-  int reached = 0;
-  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  targets->Add("first");
-  targets->Add("second");
-  ASSERT_TRUE(Until([&] { return reached == 2; }));
+  Reach({"first", "second"});
 
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), WindowHost::kDisplay + 1);  // not a live one
   taviinputmanager::OnInputRawTextData(QStringLiteral("TEXT:two\nlines\n"));
   const QStringList expected{QStringLiteral("KBDPR:30:1\n"), QStringLiteral("text TEXT:two\nlines\n")};
-  EXPECT_TRUE(Until([&] {
+  EXPECT_TRUE(RunEventsUntil([&] {
     first.Read();
     second.Read();
     return first.lines.size() >= 2 && second.lines.size() >= 2;
@@ -149,23 +150,15 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   Listener stays("stays");
   Listener goes("goes");
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  int reached = 0;
-  QStringList lost;
-  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
-    lost.append({name, problem});
-  });
-  targets->Add("stays");
-  targets->Add("goes");
-  ASSERT_TRUE(Until([&] { return reached == 2; }));
+  Reach({"stays", "goes"});
 
-  ASSERT_TRUE(Until([&] { return goes.HasPeer(); }));
+  ASSERT_TRUE(RunEventsUntil([&] { return goes.HasPeer(); }));
   goes.Leave();
-  ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList({"goes", QStringLiteral("it went away")}));
+  ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
+  EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it went away")}));
   EXPECT_EQ(targets->Names(), QStringList{"stays"});
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
-  EXPECT_TRUE(Until([&] {
+  EXPECT_TRUE(RunEventsUntil([&] {
     stays.Read();
     return stays.lines.size() == 1;
   }));
@@ -173,13 +166,9 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
 
 TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  QStringList lost;
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
-    lost.append({name, problem});
-  });
   targets->Add("nobody");
-  ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList({"nobody", QStringLiteral("no instance listens as that")}));
+  ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
+  EXPECT_EQ(lost_, QStringList({"nobody", QStringLiteral("no instance listens as that")}));
   EXPECT_TRUE(targets->Names().isEmpty());
 }
 
@@ -190,7 +179,7 @@ TEST_F(Mirror, LinesOfAnotherInstanceReachTheGuest) {
   other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("SLOTPRESS:11:11:1:1:640:360\n")});
   Say(&other, {true, QStringLiteral("TEXT:abc\n")});
-  ASSERT_TRUE(Until([&] { return said_.size() == 2; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 2; }));
   EXPECT_EQ(TakeSaid(), (QStringList{QStringLiteral("1:SLOTPRESS:11:11:1:1:640:360"), QStringLiteral("TEXT:abc")}));
 }
 
@@ -204,30 +193,25 @@ TEST_F(Mirror, WhatAnotherInstanceHoldsIsLetGoWhenItGoes) {
   Say(&other, {false, QStringLiteral("SLOTRELEASE:12\n")});
   Say(&other, {false, QStringLiteral("KBDPR:30:1\n")});
   Say(&other, {false, QStringLiteral("LSTICKAXIS:1000000:0\n")});
-  ASSERT_TRUE(Until([&] { return said_.size() == 5; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 5; }));
   TakeSaid();
   other.abort();
-  ASSERT_TRUE(Until([&] { return said_.size() == 3; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 3; }));
   EXPECT_EQ(TakeSaid(), (QStringList{QStringLiteral("1:SLOTRELEASE:11"), QStringLiteral("1:KBDRL:30:0"),
                                      QStringLiteral("1:LSTICKAXIS:0:0")}));
 }
 
 TEST_F(Mirror, WhatCameFromAnotherInstanceIsNotPassedOn) {
   Listener third("third");
-  MirrorTargets* targets = MirrorTargets::GetInstance();
-  int reached = 0;
-  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  targets->Add("third");
+  Reach({"third"});
   MirrorServer server(WindowHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
-  ASSERT_TRUE(Until([&] { return reached == 1; }));
-
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("KBDPR:30:1\n")});
-  ASSERT_TRUE(Until([&] { return said_.size() == 1; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 1; }));
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), WindowHost::kDisplay);
-  ASSERT_TRUE(Until([&] {
+  ASSERT_TRUE(RunEventsUntil([&] {
     third.Read();
     return !third.lines.isEmpty();
   }));
@@ -241,10 +225,10 @@ TEST_F(Mirror, BytesThatAreNoMessageEndTheConnection) {
   ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
-  ASSERT_TRUE(Until([&] { return sources == 1; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return sources == 1; }));
   other.write(QByteArray("\x00\x00\x00\x00\x03odd", 8));  // a string of an odd number of bytes
   other.flush();
-  EXPECT_TRUE(Until([&] { return sources == 0; }));
+  EXPECT_TRUE(RunEventsUntil([&] { return sources == 0; }));
   EXPECT_TRUE(said_.isEmpty());
 }
 
@@ -337,7 +321,7 @@ TEST_F(Mirror, AnotherUserIsNotHeard) {
     ASSERT_EQ(::connect(other, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
   }
   char byte = 0;
-  EXPECT_TRUE(Until([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is shut out
+  EXPECT_TRUE(RunEventsUntil([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is shut out
   close(other);
 }
 
@@ -350,13 +334,9 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
     ASSERT_EQ(listen(other, 1), 0);
   }
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  QStringList lost;
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
-    lost.append({name, problem});
-  });
   targets->Add("other");
-  ASSERT_TRUE(Until([&] { return !lost.isEmpty(); }));
-  EXPECT_EQ(lost, QStringList({"other", "another user listens as that"}));
+  ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
+  EXPECT_EQ(lost_, QStringList({"other", "another user listens as that"}));
   close(other);
 }
 
@@ -370,7 +350,7 @@ TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
   EXPECT_EQ(second.Listen("server"), QString("another instance listens as server"));
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
-  ASSERT_TRUE(Until([&] { return !counts.isEmpty(); }));
+  ASSERT_TRUE(RunEventsUntil([&] { return !counts.isEmpty(); }));
   EXPECT_EQ(counts, QVector<int>{1});
 }
 
@@ -385,10 +365,10 @@ TEST_F(Mirror, ALineThatIsTooLongEndsTheConnection) {
   other.connectToServer(MirrorAddressOf("server"));
   const QString longest = "TEXT:" + QString(kTooLongMirrorLine - 7, 'a') + "\n";  // one less than too long
   Say(&other, {true, longest});
-  ASSERT_TRUE(Until([&] { return said_.size() == 1; }));
+  ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 1; }));
   EXPECT_EQ(TakeSaid(), QStringList(longest.chopped(1)));
   Say(&other, {true, "TEXT:" + QString(kTooLongMirrorLine - 6, 'a') + "\n"});
-  EXPECT_TRUE(Until([&] { return sources == 0; }));
+  EXPECT_TRUE(RunEventsUntil([&] { return sources == 0; }));
   EXPECT_TRUE(said_.isEmpty());
 }
 
@@ -421,15 +401,12 @@ TEST(MirrorMessageTest, IsReadByItsLength) {
 TEST_F(Mirror, ATextThatIsTooLongIsToldAndNotSent) {
   Listener listener("first");
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  int reached = 0;
   int too_long = 0;
-  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
   QObject::connect(targets, &MirrorTargets::TooLong, targets, [&](int characters) { too_long = characters; });
-  targets->Add("first");
-  ASSERT_TRUE(Until([&] { return reached == 1; }));
+  Reach({"first"});
   taviinputmanager::OnInputRawTextData("TEXT:" + QString(70000, 'a') + "\n");
   taviinputmanager::OnInputRawTextData("TEXT:b\n");
-  EXPECT_TRUE(Until([&] {
+  EXPECT_TRUE(RunEventsUntil([&] {
     listener.Read();
     return !listener.lines.isEmpty();
   }));
@@ -442,21 +419,14 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
   const int silent = BindTo("silent", &address);
   ASSERT_EQ(listen(silent, 1), 0);
   MirrorTargets* targets = MirrorTargets::GetInstance();
-  int reached = 0;
-  QStringList lost;
-  QObject::connect(targets, &MirrorTargets::Reached, targets, [&] { ++reached; });
-  QObject::connect(targets, &MirrorTargets::Lost, targets, [&](const QString& name, const QString& problem) {
-    lost.append({name, problem});
-  });
-  targets->Add("silent");
-  ASSERT_TRUE(Until([&] { return reached == 1; }));
+  Reach({"silent"});
   const QString text = "TEXT:" + QString(30000, 'a') + "\n";
   // 60 kB each: the system holds some hundred kB, this instance one MB.
-  for (int i = 0; i < 100 && lost.isEmpty(); ++i) {
+  for (int i = 0; i < 100 && lost_.isEmpty(); ++i) {
     taviinputmanager::OnInputRawTextData(text);
     QCoreApplication::processEvents();
   }
-  EXPECT_EQ(lost, QStringList({"silent", "it takes no more lines"}));
+  EXPECT_EQ(lost_, QStringList({"silent", "it takes no more lines"}));
   EXPECT_TRUE(targets->Names().isEmpty());
   close(silent);
 }
@@ -479,7 +449,7 @@ TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
   EXPECT_EQ(sources, 0);
   setrlimit(RLIMIT_NOFILE, &before);
   for (const int file : gaps) close(file);
-  EXPECT_TRUE(Until([&] { return sources == 1; }));
+  EXPECT_TRUE(RunEventsUntil([&] { return sources == 1; }));
   close(other);
 }
 

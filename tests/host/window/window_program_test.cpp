@@ -1,11 +1,9 @@
 // The window as a program: how it ends when it is told to from outside.
 #include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDataStream>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,11 +15,12 @@
 #include "host/window/mirror_address.h"
 #include "host/window/mirror_message.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/support/run_until.h"
 
 namespace tavi {
 namespace {
 
-constexpr int kLimitMs = 20000;  // never reached when all is well
+using taviinputmanager::RunEventsUntil;
 
 // A finger that goes down at once and stays for an hour.
 constexpr char kHeld[] = R"~({"info": {"total_running_time": 3600000}, "actions": [
@@ -47,17 +46,11 @@ class WindowProgram : public testing::Test {
 
   QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
-  static bool Until(const std::function<bool()>& done) {
-    const QDeadlineTimer limit(kLimitMs);
-    while (!done() && !limit.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-    return done();
-  }
-
   // Starts a window that plays the record with the finger, and waits until the finger is down.
   void StartWithAFingerDown(const QStringList& options) {
     const QStringList usual{"window", "-platform", "offscreen", "--replay", Path("held.json"), "--mirror", "guest"};
     program_.start(TAVI_BINARY_DIR "/host/tavi", usual + options);
-    ASSERT_TRUE(Until([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
+    ASSERT_TRUE(RunEventsUntil([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
   }
 
   // What the window tells the instance that it mirrors to, which this test is.
@@ -70,7 +63,7 @@ class WindowProgram : public testing::Test {
 
   int EndBy(int number) {
     kill(static_cast<pid_t>(program_.processId()), number);
-    EXPECT_TRUE(Until([&] { return program_.state() == QProcess::NotRunning; }));
+    EXPECT_TRUE(RunEventsUntil([&] { return program_.state() == QProcess::NotRunning; }));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
     return program_.exitCode();
   }
@@ -97,7 +90,7 @@ TEST_F(WindowProgram, ASignalEndsItInOrder) {
     StartWithAFingerDown({"--listen", "window", "--record", record});
     EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("window")));
     EXPECT_EQ(EndBy(number), 128 + number);
-    EXPECT_TRUE(Until([&] { return HasSaid("RELEASE"); }));
+    EXPECT_TRUE(RunEventsUntil([&] { return HasSaid("RELEASE"); }));
     EXPECT_FALSE(QFileInfo::exists(MirrorAddressOf("window")));
     RecordInfo info;
     EXPECT_TRUE(taviinputmanager::GetRecordInfo(record, &info));
