@@ -207,13 +207,14 @@ TEST_F(Program, CheckReadsStandardInput) {
 
 TEST_F(Program, WhatStandardOutputDoesNotTakeIsTold) {
   Write("good.yaml", kGood);
+  const QString walk = TAVI_SOURCE_DIR "/examples/records/walk.json";
   const QList<QStringList> commands = {{"--help"},
                                        {"keys"},
                                        {"check", "good.yaml"},
                                        {"draw", "-o", "-", "good.yaml"},
-                                       {"record", "info", TAVI_SOURCE_DIR "/examples/records/walk.json"},
-                                       {"record", "play", TAVI_SOURCE_DIR "/examples/records/walk.json"},
-                                       {"record", "draw", "-o", "-", TAVI_SOURCE_DIR "/examples/records/walk.json"}};
+                                       {"record", "info", walk},
+                                       {"record", "play", walk},
+                                       {"record", "draw", "-o", "-", walk}};
   for (const QStringList& command : commands) {
     SCOPED_TRACE(command.join(' ').toStdString());
     output_ = "/dev/full";
@@ -225,8 +226,11 @@ TEST_F(Program, WhatStandardOutputDoesNotTakeIsTold) {
 
 // By the signal that tells of it, or by itself where that is blocked.
 TEST_F(Program, AReaderThatGoesEndsTheProgramQuietly) {
+  ASSERT_EQ(mkfifo(QFile::encodeName(Folder() + "/gone").constData(), 0600), 0);
   QProcess shell;
-  shell.start("sh", {"-c", "{ \"$0\" keys; echo $? >&2; } | true", TAVI_BINARY_DIR "/host/tavi"});
+  shell.setWorkingDirectory(Folder());
+  const QString program = TAVI_BINARY_DIR "/host/tavi";
+  shell.start("sh", {"-c", "{ read x <gone; \"$0\" keys; echo $? >&2; } | { exec <&-; echo x >gone; }", program});
   ASSERT_TRUE(shell.waitForFinished());
   const QByteArray status = shell.readAllStandardError().trimmed();
   EXPECT_TRUE(status == "1" || status == "141") << status.toStdString();  // 128 + SIGPIPE
