@@ -210,7 +210,8 @@ QString RecordBar::SaveWithoutAsking() {
   Recorder* recorder = Recorder::GetInstance();
   QString problem = recorder->End();
   if (recorder->KeptFile().isEmpty()) return problem;
-  if (!target_.isEmpty()) problem = recorder->Save(target_) + QStringLiteral("; ");
+  const QString target = target_;  // which is forgotten with the save
+  if (!target.isEmpty()) problem = recorder->Save(target) + QStringLiteral("; ");
   if (recorder->KeptFile().isEmpty()) return {};
   return problem + QStringLiteral("the recording is kept as %1").arg(recorder->KeptFile());
 }

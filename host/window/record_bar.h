@@ -58,7 +58,8 @@ class RecordBar : public QToolBar {
   QString AskForTarget();
   // Returns what went wrong, or nothing.
   QString SaveTo(const QString& file);
-  // What becomes of a recording that cannot be saved; an empty name: it stays. Not asked for what was dropped.
+  // Asks what is to become of a recording that could not be saved as `file`. The name to save it under next; empty: it
+  // was dropped, or stays.
   QString AskAfter(const QString& problem, const QString& file);
   QAction* AddButton(const QString& text, const QString& hint);
   QMenu* MakeSpeedMenu();

@@ -355,6 +355,7 @@ TEST_F(RecordsInTheWindow, WithoutAskingItIsSavedOrKept) {
   Records()->SetTarget(Path("tap.json"));
   EXPECT_EQ(Window()->LeaveWithoutAsking(), QStringList());
   EXPECT_TRUE(IsRecord(Path("tap.json")));
+  EXPECT_EQ(Replay()->File(), Path("tap.json"));
   EXPECT_TRUE(questions_.isEmpty());
 }
 
