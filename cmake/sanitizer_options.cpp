@@ -14,9 +14,10 @@ extern "C" __attribute__((visibility("default"))) const char* __tsan_default_opt
 #endif
 
 #if defined(__SANITIZE_ADDRESS__)
-// What Qt leaves behind with the screen of its platform "offscreen".
+// What Qt leaves behind with the screen of its platform "offscreen", and what it asks the session's bus on X11.
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
   return "leak:libqoffscreen.so\n"
+         "leak:libdbus-1.so\n"
          "leak:QWindowSystemInterface::handleScreenAdded\n";
 }
 

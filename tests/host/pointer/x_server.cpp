@@ -6,8 +6,8 @@
 
 #include <QStandardPaths>
 
-#include "host/scan_codes.h"
 #include "host/window/x11_reply.h"
+#include "keymap/scan_codes.h"
 
 namespace tavi {
 
@@ -74,14 +74,14 @@ void Hand::Click(int button) {
 }
 
 void Hand::PressKey(int code) {
-  xcb_test_fake_input(connection_, XCB_KEY_PRESS, static_cast<uint8_t>(code + kX11KeyOffset), XCB_CURRENT_TIME,
-                      XCB_NONE, 0, 0, 0);
+  xcb_test_fake_input(connection_, XCB_KEY_PRESS, static_cast<uint8_t>(code + tavikeymapmanager::kX11KeyOffset),
+                      XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
   Sync();
 }
 
 void Hand::ReleaseKey(int code) {
-  xcb_test_fake_input(connection_, XCB_KEY_RELEASE, static_cast<uint8_t>(code + kX11KeyOffset), XCB_CURRENT_TIME,
-                      XCB_NONE, 0, 0, 0);
+  xcb_test_fake_input(connection_, XCB_KEY_RELEASE, static_cast<uint8_t>(code + tavikeymapmanager::kX11KeyOffset),
+                      XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
   Sync();
 }
 
