@@ -188,6 +188,8 @@ class ReenteringHost : public Story {
       if (random_.OneIn(200)) OnResetInputStatus(random_.OneIn(2), 0);
       if (random_.OneIn(200)) UpdateDisplayId(kDisplay);
       if (random_.OneIn(100)) Host().text_input = random_.OneIn(3);
+      Listen();
+      ASSERT_EQ(guest_.WhatIsDown().toStdString(), mirror_.WhatIsDown().toStdString()) << "the same lines, in order";
     }
   }
 
@@ -240,6 +242,7 @@ TEST_F(ReenteringHost, LeavesNothingDown) {
   for (int i = 0; i * kEventsAKeymap < events; ++i) {
     LoadKeymaps(keymaps[i % keymaps.size()], joystick_keymaps[i % joystick_keymaps.size()]);
     PlayKeymap(kEventsAKeymap);
+    ASSERT_FALSE(HasFailure());
     LetGoOfEverything();
     ASSERT_EQ("", guest_.WhatIsDown().toStdString()) << keymaps[i % keymaps.size()].toStdString();
     ASSERT_EQ("", mirror_.WhatIsDown().toStdString()) << keymaps[i % keymaps.size()].toStdString();

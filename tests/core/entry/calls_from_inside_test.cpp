@@ -1,4 +1,6 @@
 // A host that feeds the next event before the function that the library called returns.
+#include <QTemporaryDir>
+
 #include "keymap/keywords.h"
 #include "keymap/tavikeymapmanager.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -13,7 +15,9 @@ using tavikeymapmanager::ComposableConfigItem;
 using tavikeymapmanager::EyeConfigItem;
 using tavikeymapmanager::FireConfigItem;
 using tavikeymapmanager::JoystickLeftWalkConfigItem;
+using tavikeymapmanager::MacroConfigItem;
 using tavikeymapmanager::MouseRightWalkConfigItem;
+using tavikeymapmanager::SpellCancelConfigItem;
 using tavikeymapmanager::SpellConfigItem;
 using tavikeymapmanager::StaringConfigItem;
 using tavikeymapmanager::SwipeholdConfigItem;
@@ -189,6 +193,53 @@ TEST_F(CallsFromInside, ASkillKeyThatComesUpInsideItsSwipeCastsThere) {
   At("1:SLOTPRESS:6:6:1:1:960:540", "up Q");
   Play("down Q; wait 100");
   EXPECT_WIRE("0ms 1:SLOTPRESS:6:6:1:1:960:540", "0ms 1:SLOTRELEASE:6");
+}
+
+TEST_F(CallsFromInside, ASkillThatIsCastInsideItsCancelLiftsOnce) {
+  auto* spell = Add<SpellConfigItem>("Spell", "Q", {0.75, 0.75});
+  spell->trigger = keywords::kTriggerImmediate;
+  spell->swipe_steps = 2;
+  auto* cancel = Add<SpellCancelConfigItem>("SpellCancel", "E", {0.5, 0.5});
+  cancel->cancel_immediately = true;
+  cancel->cancel_delay_ms = 50;
+  Load();
+  Play("down Q");
+  Forget();
+  At("1:SLOTPRESS:6:6:1:1:800:450", "up Q");  // half of the way from (960, 540) to (640, 360)
+  Play("down E; wait 100");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:6:6:1:1:800:450", "0ms 1:SLOTRELEASE:6");
+}
+
+// ---- Macros ----
+
+TEST_F(CallsFromInside, AVirtualPointerThatIsLetGoAsItsPlaceIsAskedForIsNotPressed) {
+  auto* macro = Add<MacroConfigItem>("Macro", "M");
+  macro->press_commands = QStringList{"vmouse_move:(0.5,0.5)", "vmouse_press:1"};
+  macro->release_commands = QStringList{"vmouse_release:1"};
+  Load();
+  At("GetTouchRect", "up M");
+  Play("down M");
+  EXPECT_WIRE("0ms 1:SLOTRELEASE:18");
+}
+
+// ---- Records ----
+
+TEST_F(CallsFromInside, ARecordThatBeginsInsideTheSavingOfTheOneBeforeIsWhole) {
+  const QTemporaryDir folder;
+  Settings().keyboard_transparent = true;
+  Load();
+  Host().primary_display = 1;
+  StartRecord("com.example.first", "First");
+  Play("down K; up K");
+  test::InterruptAt("GetDisplayRect", [] { StartRecord("com.example.second", "Second"); });
+  StopRecord("com.example.first", folder.filePath("first.json"));
+  Play("down K; up K");
+  StopRecord("com.example.second", folder.filePath("second.json"));
+  QString app;
+  QString package;
+  GetScriptAppAndPackage(folder.filePath("second.json"), app, package);
+  EXPECT_EQ("Second", app);
+  EXPECT_EQ("com.example.second", package);
 }
 
 // ---- Walks ----
