@@ -4,7 +4,7 @@
 #
 #   tools/install-dependencies.sh [GROUP...]      without a word: build
 #
-# Groups: build test docs packaging lint bench plot guest windows coverage valgrind fuzz
+# Groups: build test docs packaging lint bench plot guest windows coverage valgrind fuzz mutants
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
@@ -19,6 +19,7 @@ coverage=(gcovr python3)
 valgrind=(valgrind)
 bench=(libbenchmark-dev valgrind python3)
 plot=(python3 python3-matplotlib)
+mutants=(binutils git python3)
 fuzz=(clang-14 libclang-rt-14-dev llvm-14)
 
 packages=()
@@ -35,6 +36,7 @@ for group in "${@:-build}"; do
     valgrind) packages+=("${valgrind[@]}") ;;
     bench) packages+=("${bench[@]}") ;;
     plot) packages+=("${plot[@]}") ;;
+    mutants) packages+=("${mutants[@]}") ;;
     fuzz) packages+=("${fuzz[@]}") ;;
     *) echo "install-dependencies: no such group: $group" >&2; exit 2 ;;
   esac

@@ -1,0 +1,149 @@
+#!/usr/bin/env python3
+"""Changes the library in one small place at a time, and tells which changes no test notices.
+
+    tools/mutants [N [SEED]]     N changes (30) drawn by SEED (another one at each run)
+    tools/mutants listed         the changes of tests/mutants/equivalent.txt: a test that notices one proves it wrong
+    tools/mutants PATH:LINE      every change of a line
+TAVI_MUTANTS_JOBS=4 tries four at a time.
+
+Each change is built in build/mutants, apart from the checkout, and meets those tests that run its line, the nearest
+first, until one fails. Results are kept: the same N and SEED go on where a run was interrupted, and after new tests
+only what had survived is tried again. Exits with 1 when less than 95 per cent of what can be seen were killed, when
+something listed was noticed, or when an entry of that file fits no line any more.
+"""
+import hashlib
+import os
+import random
+import shutil
+import sys
+import threading
+import time
+from concurrent.futures import ThreadPoolExecutor
+from itertools import islice
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+
+import changes
+from build import LIBRARY, Build, BuildFailed, ChangedFile
+from listed import Listed
+from reach import Reach
+from results import KILLED, NO_PROGRAM, SAME_CODE, SURVIVED, UNSEEN, Count, Results
+from running import Runner, list_tests
+
+LEAST_PERCENT = 95
+CHECKOUT = Path(__file__).resolve().parents[2]
+WORK = CHECKOUT / "build" / "mutants"
+LIST = CHECKOUT / "tests" / "mutants" / "equivalent.txt"
+
+
+def tell(text):
+    print(text, flush=True)
+
+
+class Trial:
+    """Builds changes and runs the tests that can reach them, on threads of a pool."""
+
+    def __init__(self, build, reach):
+        self._build, self._reach = build, reach
+
+    def run(self, change):
+        """The verdict, and the test that gave it."""
+        own = WORK / "changed" / str(threading.get_ident())
+        changed = ChangedFile(change.path, change.apply((self._build.root / change.path).read_text()), own / "built")
+        runner = Runner(own / "scratch")
+        tests = self._reach.tests_of(change)
+        try:
+            verdict, by = self._meet(changed, runner, tests, [LIBRARY])
+            if verdict == SURVIVED and change.path.endswith(".h"):
+                # Programs of tests have their own copy of what stands in a header.
+                programs = sorted({os.path.relpath(test.program, self._build.folder) for test in tests})
+                verdict, by = self._meet(changed, runner, tests, [LIBRARY, *programs])
+            if verdict == SURVIVED and self._build.is_same_when_optimised(changed):
+                return SAME_CODE, ""
+        except BuildFailed:
+            return NO_PROGRAM, ""
+        return verdict, by
+
+    def _meet(self, changed, runner, tests, targets):
+        replaced = self._build.make(changed, targets)
+        if not replaced:
+            return SAME_CODE, ""
+        for test in tests:
+            ending, _ = runner.run(test, self._reach.limit(test), replaced)
+            if ending != "passed":
+                return KILLED, test.name if ending == "failed" else f"{test.name} ({ending})"
+        return SURVIVED, f"{len(tests)} tests"
+
+
+def drawn(offered, words):
+    """The changes to try, in order, and how many of them are wanted."""
+    if words and ":" in words[0]:
+        path, line = words[0].rsplit(":", 1)
+        wanted = [change for change in offered if change.path == path and change.line == int(line)]
+        return wanted, len(wanted)
+    count = int(words[0]) if words else 30
+    seed = int(words[1]) if len(words) > 1 else int(time.time()) % 100000
+    tell(f"{count} of {len(offered)} changes, seed {seed}")
+    return random.Random(seed).sample(offered, len(offered)), count
+
+
+def show(number, change, verdict, by):
+    tell(f"{number:4} {verdict:10} {change.path}:{change.line}:{change.column} {change.label}  {by}")
+    if verdict == SURVIVED:
+        tell(f"- {change.before}\n+ {change.after}")
+
+
+def try_all(trial, results, tried, wanted, unseen):
+    """Tries changes until as many as wanted made a program. `unseen` are not tried, and count as such."""
+
+    def verdict_of(change):
+        return (UNSEEN, "") if change in unseen else results.get(change) or trial.run(change)
+
+    count, jobs, tried = Count(), int(os.environ.get("TAVI_MUTANTS_JOBS", 1)), iter(tried)
+    with ThreadPoolExecutor(jobs) as pool:
+        while count.sampled() < wanted:
+            some = list(islice(tried, wanted - count.sampled()))
+            if not some:
+                break
+            for change, (verdict, by) in zip(some, pool.map(verdict_of, some)):
+                results.add(change, verdict, by)
+                count.add(verdict)
+                if verdict in (KILLED, SURVIVED, UNSEEN):
+                    show(count.sampled(), change, verdict, by)
+    return count
+
+
+def prepare():
+    WORK.mkdir(parents=True, exist_ok=True)
+    build = Build(CHECKOUT, WORK)
+    build.update()
+    tests = list_tests(build.folder)
+    shutil.rmtree(WORK / "changed", ignore_errors=True)
+    reach = Reach(build, tests, WORK)
+    failed = reach.collect(Runner(WORK / "changed" / "scratch"), tell)
+    if failed:
+        sys.exit("mutants: these fail, though nothing was changed: " + " ".join(failed))
+    state = hashlib.sha256(build.library().read_bytes()).hexdigest()
+    return build, Trial(build, reach), Results(WORK / "results.jsonl", state, reach.state())
+
+
+def main(words):
+    build, trial, results = prepare()
+    offered = [change for path in build.sources() for change in changes.find(path, (build.root / path).read_text())]
+    listed = Listed(LIST.read_text())
+    stale = listed.stale(offered)
+    for file, before, after in stale:
+        tell(f"mutants: no longer a change of the tree:\n{file}\n- {before}\n+ {after}")
+    if words == ["listed"]:
+        tried = [change for change in offered if change in listed]
+        count = try_all(trial, results, tried, len(tried), ())
+        wrong = count.number(KILLED) > 0
+    else:
+        count = try_all(trial, results, *drawn(offered, words), listed)
+        wrong = count.percent() < LEAST_PERCENT
+    tell(str(count))
+    return 1 if stale or wrong else 0
+
+
+sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,118 @@
+"""Which tests run which lines of the library, and how long each takes. Kept beside the build for the next time."""
+import hashlib
+import json
+import os
+import re
+import subprocess
+
+_ANNOTATION = re.compile(r"^(\S+\.(?:cpp|h)):(\d+)(?: \(discriminator \d+\))?$")
+_INSTRUCTION = re.compile(r"^\s*([0-9a-f]+):\t(.*)$")
+_TRACE_CALL = "<__sanitizer_cov_trace_pc"
+_FIRST_LIMIT_S = 300
+
+
+def _lines_of_blocks(library, root):
+    """For each return address of a block's trace call, the lines ("path:line") of the block: those up to the next call.
+    A function's first instructions stand in front of its first call."""
+    listing = subprocess.run(["objdump", "-d", "-l", "--no-show-raw-insn", library], check=True, cwd=library.parent,
+                             stdout=subprocess.PIPE).stdout.decode(errors="replace")
+    blocks, block, line = {}, set(), ""
+    in_prologue = is_call_before = False
+    for text in listing.split("\n"):
+        instruction = _INSTRUCTION.match(text)
+        if instruction:
+            if is_call_before:
+                block = blocks.setdefault(int(instruction.group(1), 16), block if in_prologue else {line})
+                in_prologue = False
+            is_call_before = _TRACE_CALL in instruction.group(2)
+        elif text.endswith(">:"):  # a function begins
+            block, in_prologue, line = set(), True, ""
+        else:
+            annotation = _ANNOTATION.match(text)
+            if annotation:
+                path = os.path.relpath(os.path.normpath(library.parent / annotation.group(1)), root)
+                line = f"{path}:{annotation.group(2)}"
+                block.add(line)
+    return {address: {line for line in lines if line and not line.startswith("..")}  # of the tree
+            for address, lines in blocks.items()}
+
+
+class Reach:
+    def __init__(self, build, tests, work):
+        self._tests = tests
+        self._seconds = {}  # by name of test
+        self._by_line = {}  # "path:line" -> names of tests
+        self._lines_run = {}  # by name of test, how many
+        self._cache = work / "reach"
+        self._build = build
+        self._keys = []
+
+    def collect(self, runner, tell):
+        """Runs what is not known yet. The names of tests that fail, though nothing was changed."""
+        self._cache.mkdir(exist_ok=True)
+        library = hashlib.sha256(self._build.library().read_bytes()).hexdigest()
+        blocks, failed = None, []
+        for program in sorted({test.program for test in self._tests}):
+            own = [test for test in self._tests if test.program == program]
+            key = hashlib.sha256(program.read_bytes() + library.encode()).hexdigest()
+            file = self._cache / f"{program.name}.json"
+            known = json.loads(file.read_text()) if file.exists() else {}
+            if known.get("key") != key:
+                tell(f"tracing {len(own)} tests of {program.name}")
+                blocks = blocks or _lines_of_blocks(self._build.library(), self._build.root)
+                known = {"key": key, "tests": {}}
+                for test in own:
+                    ending, seconds, lines = self._trace(test, runner, blocks)
+                    if ending != "passed":
+                        failed.append(test.name)
+                    known["tests"][test.name] = {"seconds": seconds, "lines": sorted(lines)}
+                if not failed:
+                    file.write_text(json.dumps(known))
+            self._keys.append(key)
+            self._take(known["tests"])
+        return failed
+
+    def state(self):
+        """Another one whenever the tests or the library are."""
+        return hashlib.sha256("".join(self._keys).encode()).hexdigest()
+
+    def limit(self, test):
+        """Seconds after which it hangs. Other work may slow a machine down by a lot."""
+        return 10 + 10 * self._seconds[test.name]
+
+    def tests_of(self, change):
+        """Tests that run the changed line, the nearest first. A line without code of its own, such as the constant of a
+        file, is run by whoever runs anything of the file."""
+        names = self._by_line.get(f"{change.path}:{change.line}")
+        for above in range(1, 4):
+            names = names or self._by_line.get(f"{change.path}:{change.line - above}")
+        names = names or self._in_file.get(change.path, set())
+        tests = [test for test in self._tests if test.name in names]
+        return sorted(tests, key=lambda test: self._distance(change, test))
+
+    def _distance(self, change, test):
+        """A test of the same room is near, and one that runs little else."""
+        room = "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
+        return test.program.name != room, self._lines_run[test.name], test.name
+
+    def _trace(self, test, runner, blocks):
+        folder = self._cache / "trace"
+        subprocess.run(["rm", "-rf", folder], check=True)
+        folder.mkdir()
+        ending, seconds = runner.run(test, _FIRST_LIMIT_S, TAVI_TRACE_RUNS=str(folder))
+        lines = set()
+        for file in folder.iterdir():
+            for run in re.finditer(rb"[^\0]", file.read_bytes()):
+                lines |= blocks.get(run.start(), set())
+            file.unlink()
+        return ending, seconds, lines
+
+    def _take(self, known):
+        for name, test in known.items():
+            self._seconds[name] = test["seconds"]
+            self._lines_run[name] = len(test["lines"])
+            for line in test["lines"]:
+                self._by_line.setdefault(line, set()).add(name)
+        self._in_file = {}
+        for line, names in self._by_line.items():
+            self._in_file.setdefault(line.rsplit(":", 1)[0], set()).update(names)
