@@ -50,7 +50,8 @@ class Trial:
     def run(self, change):
         """The verdict, and the test that gave it."""
         own = WORK / "changed" / str(threading.get_ident())
-        changed = ChangedFile(change.path, change.apply((self._build.root / change.path).read_text()), own / "built")
+        changed = ChangedFile(change.path, change.line, change.apply((self._build.root / change.path).read_text()),
+                              own / "built")
         runner = Runner(own / "scratch")
         tests = self._reach.tests_of(change)
         try:
@@ -101,16 +102,16 @@ def try_all(trial, results, tried, wanted, unseen):
         return (UNSEEN, "") if change in unseen else results.get(change) or trial.run(change)
 
     count, jobs, tried = Count(), int(os.environ.get("TAVI_MUTANTS_JOBS", 1)), iter(tried)
-    with ThreadPoolExecutor(jobs) as pool:
-        while count.sampled() < wanted:
-            some = list(islice(tried, wanted - count.sampled()))
-            if not some:
-                break
+    pool = ThreadPoolExecutor(jobs)
+    try:
+        while some := list(islice(tried, wanted - count.sampled())):
             for change, (verdict, by) in zip(some, pool.map(verdict_of, some)):
                 results.add(change, verdict, by)
                 count.add(verdict)
                 if verdict in (KILLED, SURVIVED, UNSEEN):
                     show(count.sampled(), change, verdict, by)
+    finally:
+        pool.shutdown(cancel_futures=True)  # an interrupted run ends with what is under way
     return count
 
 

@@ -3,16 +3,15 @@
 The state of the build is read once and never changes: any number of threads may try changes, each in a folder of its
 own.
 """
-import contextlib
 import json
 import os
 import re
 import shutil
 import subprocess
-import threading
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 from pathlib import Path
 
+import listing
 import tree_copy
 
 LIBRARY = "taviinputmanager"
@@ -36,42 +35,22 @@ def _output_of(command):
     return re.search(r" -o (\S+)", command).group(1)
 
 
-class SharedTree:
-    """Who compiles a source of its own reads the headers; who changes a header is alone."""
-
-    def __init__(self):
-        self._condition = threading.Condition()
-        self._readers = 0
-
-    @contextlib.contextmanager
-    def reading(self):
-        with self._condition:
-            self._readers += 1
-        try:
-            yield
-        finally:
-            with self._condition:
-                self._readers -= 1
-                self._condition.notify_all()
-
-    @contextlib.contextmanager
-    def alone(self):
-        with self._condition:
-            self._condition.wait_for(lambda: self._readers == 0)
-            yield
-
-
 @dataclass
 class ChangedFile:
     """A file of the tree and what it is to hold instead. What is built of it goes to `spare`."""
     path: str  # from the root
+    line: int  # the changed one
     text: str
     spare: Path
 
-    @property
-    def own_file(self):
-        """Where a source is compiled from. The name stays: a compiler writes it into objects."""
-        return self.spare / Path(self.path).name
+    def compiled(self, command, root):
+        """A compiler's command for an object, made to read this file. All includes begin at the root, so that a header
+        is found in the folder that comes first."""
+        own_root = self.spare / "source"
+        file = own_root / self.path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(self.text)
+        return command.replace(f" -c {root / self.path}", f" -c {file}").replace(" -o ", f" -iquote {own_root} -o ", 1)
 
 
 class Build:
@@ -81,7 +60,6 @@ class Build:
         self.checkout = checkout
         self.root = work / "tree"
         self.folder = self.root / "build" / "mutants"
-        self._tree = SharedTree()
 
     def update(self):
         tree_copy.update(self.checkout, self.root)
@@ -102,19 +80,18 @@ class Build:
         object becomes another one. BuildFailed if it is no program."""
         shutil.rmtree(changed.spare, ignore_errors=True)
         objects = {}
-        with self._in_place(changed):
-            for name in self._objects_of(changed.path, targets):
-                made = changed.spare / name
-                self._compile(name, changed, made)
-                if self._code(made) != self._code(self.folder / name, changed.spare):
-                    objects[name] = made
+        for name in {name for target in targets for name in self._objects_of(changed, target)}:
+            made = changed.spare / name
+            self._compile(name, changed, made)
+            if self._code(made) != self._code(self.folder / name, changed.spare):
+                objects[name] = made
         return {self.folder / _output_of(self._link_command(target)): self._link(target, objects, changed.spare)
                 for target in targets if objects.keys() & set(self._link_command(target).split())}
 
     def is_same_when_optimised(self, changed):
         """Whether the optimiser makes the same code of the changed file: then nothing can tell them apart."""
-        original = ChangedFile(changed.path, (self.root / changed.path).read_text(), changed.spare)
-        return self._optimised(original) == self._optimised(changed)
+        text = (self.root / changed.path).read_text()
+        return self._optimised(replace(changed, text=text)) == self._optimised(changed)
 
     # ---- What the build says of itself ----
 
@@ -122,6 +99,8 @@ class Build:
         entries = json.loads((self.folder / "compile_commands.json").read_text())
         self._compile_commands = {_output_of(entry["command"]): entry["command"] for entry in entries}
         self._link_commands = {}
+        self._defined = {}
+        self._functions = listing.functions_of_lines(self.library(), self.root)
         self._dependents = {}  # objects that read a file
         for paragraph in self._ninja("-t", "deps").split("\n\n"):
             head, *files = paragraph.strip().split("\n")
@@ -139,51 +118,41 @@ class Build:
         return subprocess.run(["ninja", *arguments], cwd=self.folder, check=True,
                               stdout=subprocess.PIPE).stdout.decode()
 
-    def _objects_of(self, path, targets):
-        linked = {word for target in targets for word in self._link_command(target).split()}
-        return [name for name in self._dependents.get(path, []) if name in linked]
-
     # ---- A changed file ----
 
-    @contextlib.contextmanager
-    def _in_place(self, changed):
-        """A source is compiled from a file of its own. A header has to be where it was: others include it."""
-        if changed.path.endswith(".cpp"):
-            changed.spare.mkdir(parents=True, exist_ok=True)
-            changed.own_file.write_text(changed.text)
-            with self._tree.reading():
-                yield
-            return
-        file = self.root / changed.path
-        with self._tree.alone():
-            original, times = file.read_bytes(), file.stat()
-            try:
-                file.write_text(changed.text)
-                yield
-            finally:
-                file.write_bytes(original)
-                os.utime(file, ns=(times.st_atime_ns, times.st_mtime_ns))
+    def _objects_of(self, changed, target):
+        """The target's objects that a change concerns. A header's function stands in many, of which the linker takes
+        the first: one of them is enough. A header's constant may be anywhere."""
+        linked = self._link_command(target).split()
+        dependents = [name for name in self._dependents.get(changed.path, ()) if name in linked]
+        functions = self._functions.get(f"{changed.path}:{changed.line}", ())
+        if changed.path.endswith(".cpp") or not functions:
+            return dependents
+        makers = [[name for name in dependents if function in self._defined_in(name) and "/mocs_" not in name]
+                  for function in functions]
+        return {names[0] for names in makers if names}
+
+    def _defined_in(self, name):
+        if name not in self._defined:
+            listed = subprocess.run(["nm", "--defined-only", "--format=just-symbols", name], cwd=self.folder, check=True,
+                                    stdout=subprocess.PIPE)
+            self._defined[name] = set(listed.stdout.decode().split("\n"))
+        return self._defined[name]
 
     def _compile(self, name, changed, made):
         made.parent.mkdir(parents=True, exist_ok=True)
-        _run(self._command_for(name, changed).replace(f" -o {name}", f" -o {made}"), self.folder)
-
-    def _command_for(self, name, changed):
-        command = self._compile_commands[name]
-        if changed.path.endswith(".cpp"):
-            command = command.replace(f" -c {self.root / changed.path}", f" -c {changed.own_file}")
-        return command
+        command = changed.compiled(self._compile_commands[name], self.root)
+        _run(command.replace(f" -o {name}", f" -o {made}"), self.folder)
 
     def _optimised(self, changed):
-        """The code of the library's objects that read the file. The precompiled header is for unoptimised code; the
-        trace of blocks would keep them apart."""
+        """The code of the library's objects that the change concerns. The precompiled header is for unoptimised code;
+        the trace of blocks would keep them apart."""
         codes, made = [], changed.spare / "optimised.o"
-        with self._in_place(changed):
-            for name in self._objects_of(changed.path, [LIBRARY]):
-                command = self._command_for(name, changed)
-                command = re.sub(r" -include \S+cmake_pch\.hxx| -fsanitize-coverage=\S+", "", command)
-                _run(command.replace(f" -o {name}", f" -O2 -g0 -o {made}"), self.folder)
-                codes.append(self._code(made))
+        for name in self._objects_of(changed, LIBRARY):
+            command = changed.compiled(self._compile_commands[name], self.root)
+            command = re.sub(r" -include \S+cmake_pch\.hxx| -fsanitize-coverage=\S+", "", command)
+            _run(command.replace(f" -o {name}", f" -O2 -g0 -o {made}"), self.folder)
+            codes.append(self._code(made))
         return codes
 
     @staticmethod
@@ -194,11 +163,15 @@ class Build:
         return bare.read_bytes()
 
     def _link(self, target, objects, spare):
+        """Objects that are new come first: of functions that several define the linker takes theirs."""
         command = self._link_command(target)
         output = _output_of(command)
         soname = re.search(r"-soname,(\S+)", command)
         made = spare / "linked" / (soname.group(1) if soname else output)
         made.parent.mkdir(parents=True, exist_ok=True)
-        words = [str(objects.get(word, made if word == output else word)) for word in command.split()]
-        _run(" ".join(words), self.folder)
+        words = command.split()
+        new = [str(objects[word]) for word in words if word in objects]
+        at = words.index(output)
+        others = [word for word in words[at + 1:] if word not in objects]
+        _run(" ".join([*words[:at], str(made), *new, *others]), self.folder)
         return made

@@ -1,40 +1,12 @@
 """Which tests run which lines of the library, and how long each takes. Kept beside the build for the next time."""
 import hashlib
 import json
-import os
 import re
 import subprocess
 
-_ANNOTATION = re.compile(r"^(\S+\.(?:cpp|h)):(\d+)(?: \(discriminator \d+\))?$")
-_INSTRUCTION = re.compile(r"^\s*([0-9a-f]+):\t(.*)$")
-_TRACE_CALL = "<__sanitizer_cov_trace_pc"
+import listing
+
 _FIRST_LIMIT_S = 300
-
-
-def _lines_of_blocks(library, root):
-    """For each return address of a block's trace call, the lines ("path:line") of the block: those up to the next call.
-    A function's first instructions stand in front of its first call."""
-    listing = subprocess.run(["objdump", "-d", "-l", "--no-show-raw-insn", library], check=True, cwd=library.parent,
-                             stdout=subprocess.PIPE).stdout.decode(errors="replace")
-    blocks, block, line = {}, set(), ""
-    in_prologue = is_call_before = False
-    for text in listing.split("\n"):
-        instruction = _INSTRUCTION.match(text)
-        if instruction:
-            if is_call_before:
-                block = blocks.setdefault(int(instruction.group(1), 16), block if in_prologue else {line})
-                in_prologue = False
-            is_call_before = _TRACE_CALL in instruction.group(2)
-        elif text.endswith(">:"):  # a function begins
-            block, in_prologue, line = set(), True, ""
-        else:
-            annotation = _ANNOTATION.match(text)
-            if annotation:
-                path = os.path.relpath(os.path.normpath(library.parent / annotation.group(1)), root)
-                line = f"{path}:{annotation.group(2)}"
-                block.add(line)
-    return {address: {line for line in lines if line and not line.startswith("..")}  # of the tree
-            for address, lines in blocks.items()}
 
 
 class Reach:
@@ -59,7 +31,7 @@ class Reach:
             known = json.loads(file.read_text()) if file.exists() else {}
             if known.get("key") != key:
                 tell(f"tracing {len(own)} tests of {program.name}")
-                blocks = blocks or _lines_of_blocks(self._build.library(), self._build.root)
+                blocks = blocks or listing.lines_of_blocks(self._build.library(), self._build.root)
                 known = {"key": key, "tests": {}}
                 for test in own:
                     ending, seconds, lines = self._trace(test, runner, blocks)

@@ -31,7 +31,8 @@ class Test:
 def _read(entry):
     properties = {each["name"]: each["value"] for each in entry.get("properties", [])}
     environment = dict(text.split("=", 1) for text in properties.get("ENVIRONMENT", []))
-    return Test(entry["name"], tuple(entry["command"]), properties.get("WORKING_DIRECTORY", "."), environment,
+    name = entry["name"].split("  # ")[0]  # behind it stands the value of a parameter
+    return Test(name, tuple(entry["command"]), properties.get("WORKING_DIRECTORY", "."), environment,
                 int(properties.get("SKIP_RETURN_CODE", 0)))
 
 
