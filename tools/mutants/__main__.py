@@ -18,7 +18,7 @@ import shutil
 import sys
 import threading
 import time
-from concurrent.futures import ThreadPoolExecutor
+from concurrent.futures import ThreadPoolExecutor, as_completed
 from itertools import islice
 from pathlib import Path
 
@@ -32,6 +32,7 @@ from results import KILLED, NO_PROGRAM, SAME_CODE, SURVIVED, UNSEEN, Count, Resu
 from running import Runner, list_tests
 
 LEAST_PERCENT = 95
+JOBS = int(os.environ.get("TAVI_MUTANTS_JOBS", 1))
 CHECKOUT = Path(__file__).resolve().parents[2]
 WORK = CHECKOUT / "build" / "mutants"
 LIST = CHECKOUT / "tests" / "mutants" / "equivalent.txt"
@@ -101,11 +102,13 @@ def try_all(trial, results, tried, wanted, unseen):
     def verdict_of(change):
         return (UNSEEN, "") if change in unseen else results.get(change) or trial.run(change)
 
-    count, jobs, tried = Count(), int(os.environ.get("TAVI_MUTANTS_JOBS", 1)), iter(tried)
-    pool = ThreadPoolExecutor(jobs)
+    count, tried = Count(), iter(tried)
+    pool = ThreadPoolExecutor(JOBS)
     try:
         while some := list(islice(tried, wanted - count.sampled())):
-            for change, (verdict, by) in zip(some, pool.map(verdict_of, some)):
+            running = {pool.submit(verdict_of, change): change for change in some}
+            for done in as_completed(running):
+                change, (verdict, by) = running[done], done.result()
                 results.add(change, verdict, by)
                 count.add(verdict)
                 if verdict in (KILLED, SURVIVED, UNSEEN):
@@ -122,7 +125,7 @@ def prepare():
     tests = list_tests(build.folder)
     shutil.rmtree(WORK / "changed", ignore_errors=True)
     reach = Reach(build, tests, WORK)
-    failed = reach.collect(Runner(WORK / "changed" / "scratch"), tell)
+    failed = reach.collect(JOBS, tell)
     if failed:
         sys.exit("mutants: these fail, though nothing was changed: " + " ".join(failed))
     state = hashlib.sha256(build.library().read_bytes()).hexdigest()

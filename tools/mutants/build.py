@@ -134,8 +134,8 @@ class Build:
 
     def _defined_in(self, name):
         if name not in self._defined:
-            listed = subprocess.run(["nm", "--defined-only", "--format=just-symbols", name], cwd=self.folder, check=True,
-                                    stdout=subprocess.PIPE)
+            command = ["nm", "--defined-only", "--format=just-symbols", name]
+            listed = subprocess.run(command, cwd=self.folder, check=True, stdout=subprocess.PIPE)
             self._defined[name] = set(listed.stdout.decode().split("\n"))
         return self._defined[name]
 

@@ -1,10 +1,14 @@
 """Which tests run which lines of the library, and how long each takes. Kept beside the build for the next time."""
+import functools
 import hashlib
 import json
 import re
-import subprocess
+import tempfile
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
 
 import listing
+from running import Runner
 
 _FIRST_LIMIT_S = 300
 
@@ -19,11 +23,11 @@ class Reach:
         self._build = build
         self._keys = []
 
-    def collect(self, runner, tell):
-        """Runs what is not known yet. The names of tests that fail, though nothing was changed."""
+    def collect(self, jobs, tell):
+        """Runs the tests that are not known yet, so many at a time. Names of those that fail, though nothing was
+        changed."""
         self._cache.mkdir(exist_ok=True)
-        library = hashlib.sha256(self._build.library().read_bytes()).hexdigest()
-        blocks, failed = None, []
+        library, failed = hashlib.sha256(self._build.library().read_bytes()).hexdigest(), []
         for program in sorted({test.program for test in self._tests}):
             own = [test for test in self._tests if test.program == program]
             key = hashlib.sha256(program.read_bytes() + library.encode()).hexdigest()
@@ -31,13 +35,7 @@ class Reach:
             known = json.loads(file.read_text()) if file.exists() else {}
             if known.get("key") != key:
                 tell(f"tracing {len(own)} tests of {program.name}")
-                blocks = blocks or listing.lines_of_blocks(self._build.library(), self._build.root)
-                known = {"key": key, "tests": {}}
-                for test in own:
-                    ending, seconds, lines = self._trace(test, runner, blocks)
-                    if ending != "passed":
-                        failed.append(test.name)
-                    known["tests"][test.name] = {"seconds": seconds, "lines": sorted(lines)}
+                known = {"key": key, "tests": self._trace_all(own, jobs, failed)}
                 if not failed:
                     file.write_text(json.dumps(known))
             self._keys.append(key)
@@ -67,16 +65,27 @@ class Reach:
         room = "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
         return test.program.name != room, self._lines_run[test.name], test.name
 
-    def _trace(self, test, runner, blocks):
-        folder = self._cache / "trace"
-        subprocess.run(["rm", "-rf", folder], check=True)
-        folder.mkdir()
-        ending, seconds = runner.run(test, _FIRST_LIMIT_S, TAVI_TRACE_RUNS=str(folder))
+    @functools.cached_property
+    def _blocks(self):
+        return listing.lines_of_blocks(self._build.library(), self._build.root)
+
+    def _trace_all(self, tests, jobs, failed):
+        blocks, traced = self._blocks, {}
+        with ThreadPoolExecutor(jobs) as pool:
+            for test, (ending, seconds, lines) in zip(tests, pool.map(lambda test: self._trace(test, blocks), tests)):
+                traced[test.name] = {"seconds": seconds, "lines": sorted(lines)}
+                if ending != "passed":
+                    failed.append(test.name)
+        return traced
+
+    def _trace(self, test, blocks):
+        """How a run of it ends, in how many seconds, and the lines that it runs."""
         lines = set()
-        for file in folder.iterdir():
-            for run in re.finditer(rb"[^\0]", file.read_bytes()):
-                lines |= blocks.get(run.start(), set())
-            file.unlink()
+        with tempfile.TemporaryDirectory(dir=self._cache) as folder:
+            ending, seconds = Runner(Path(folder) / "scratch").run(test, _FIRST_LIMIT_S, TAVI_TRACE_RUNS=folder)
+            for file in filter(Path.is_file, Path(folder).iterdir()):  # one a process
+                for run in re.finditer(rb"[^\0]", file.read_bytes()):
+                    lines |= blocks.get(run.start(), set())
         return ending, seconds, lines
 
     def _take(self, known):

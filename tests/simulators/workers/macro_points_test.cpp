@@ -1,5 +1,8 @@
 #include "simulators/workers/macro_points.h"
 
+#include <optional>
+
+#include "core/display_geometry.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "tests/support/print_points.h"
 #include "tests/support/story.h"
@@ -32,6 +35,18 @@ TEST_F(MacroPoints, ADisplayOfNoSizeHasNoPointer) {
   Host().display = QRect(0, 0, 0, 0);
   Time().SetPointer({350, 300});
   EXPECT_TRUE(ReadMacroPoint("mouse").isNull());
+}
+
+// What would be 2^31 pixels or more away is no place either: 1280 * 4e6 and 720 * 4e6 are.
+TEST_F(MacroPoints, APointOutOfReachHasNoPlaceOnTheTouchSurface) {
+  EXPECT_EQ(QPoint(640, 360), MacroPointToTouch({0.5, 0.5}));
+  EXPECT_EQ(std::nullopt, MacroPointToTouch({4e6, 0.5}));
+  EXPECT_EQ(std::nullopt, MacroPointToTouch({0.5, 4e6}));
+}
+
+TEST_F(MacroPoints, WithoutADisplayNoPointHasAPlace) {
+  DisplayGeometry::GetInstance()->SetCallbacks(nullptr);
+  EXPECT_EQ(std::nullopt, MacroPointToTouch({0.5, 0.5}));
 }
 
 TEST_F(MacroPoints, AListKeepsItsEmptyElements) {

@@ -38,6 +38,14 @@ TEST_F(Scroll, DownSwipesUp) {
   EXPECT_EQ("168ms 1:SLOTRELEASE:10", wire.value(21).toStdString());
 }
 
+// 720 * 0.2 = 144 pixels a notch, and 1 of its 120 parts is 1.2 of them, so 1.
+TEST_F(Scroll, TheLeastTurnHasItsDirection) {
+  Wheel().scroll_step = 0.2;
+  Load();
+  Play("wheel +1 640,360; wait 8");
+  EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360", "8ms 1:SLOTPRESS:10:10:1:1:640:361");
+}
+
 TEST_F(Scroll, ATurnOnTheWaySetsStepAndCountAnew) {
   Load();
   Play("wheel +120 640,360; wait 16");  // two moves: 374
@@ -120,6 +128,10 @@ TEST_F(Pinch, ATurnDownMovesTogether) {
   Play("wheel -120 640,360; wait 30");
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:544:360:10:10:736:360", "16ms 1:SLOTMULTIPRESS:0:0:550:360:10:10:730:360",
               "26ms 1:SLOTMULTIPRESS:0:0:556:360:10:10:724:360");
+  Play("wait 85");  // two moves are all; the tick at 36 starts the rest
+  EXPECT_WIRE_NONE();
+  Play("wait 1");
+  EXPECT_WIRE("116ms 1:SLOTMULTIRELEASE:10:0");
 }
 
 TEST_F(Pinch, ATurnInTheRestGoesOnInTheSamePinch) {

@@ -140,6 +140,7 @@ TEST(SwipePathTest, ATargetAtTheStartEndsIt) {
   path.target = path.start;
   path.Rebuild();
   EXPECT_FALSE(path.HasStep());
+  EXPECT_TRUE(path.x_steps.IsEmpty() && path.y_steps.IsEmpty());
 }
 
 TEST(SwipePathTest, ANewTargetIsReachedInTheStepsThatAreLeft) {
@@ -162,6 +163,7 @@ TEST(SwipePathTest, ClearedHasNoStep) {
   SwipePath path = MakePath({384, 360}, 4);
   path.Clear();
   EXPECT_FALSE(path.HasStep());
+  EXPECT_TRUE(path.x_steps.IsEmpty() && path.y_steps.IsEmpty());
   path.Rebuild();  // a new target does not revive it
   EXPECT_FALSE(path.HasStep());
 }
