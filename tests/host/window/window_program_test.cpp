@@ -15,6 +15,7 @@
 #include "host/window/mirror_address.h"
 #include "host/window/mirror_message.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "test_folders.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
