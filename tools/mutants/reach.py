@@ -60,10 +60,16 @@ class Reach:
         tests = [test for test in self._tests if test.name in names]
         return sorted(tests, key=lambda test: self._distance(change, test))
 
+    def tests_of_room(self, change):
+        return [test for test in self._tests if self._is_of_room(test, change)]
+
+    @staticmethod
+    def _is_of_room(test, change):
+        return test.program.name == "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
+
     def _distance(self, change, test):
         """A test of the same room is near, and one that runs little else."""
-        room = "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
-        return test.program.name != room, self._lines_run[test.name], test.name
+        return not self._is_of_room(test, change), self._lines_run[test.name], test.name
 
     @functools.cached_property
     def _blocks(self):
