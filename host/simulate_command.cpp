@@ -13,6 +13,7 @@
 #include "host/picture/picture_file.h"
 #include "host/picture/timeline_chart.h"
 #include "host/picture/timeline_picture.h"
+#include "host/plain_file.h"
 #include "host/record/script_recording.h"
 #include "host/simulation/script.h"
 #include "host/simulation/script_player.h"
@@ -62,7 +63,8 @@ std::optional<QString> ReadText(const QString& name) {
   QFile file(name);
   const bool is_open = is_standard_input ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
   if (is_open) return QString::fromUtf8(file.readAll());
-  PrintError(QStringLiteral("%1: cannot be read: %2\n").arg(name, file.errorString()));
+  const QString problem = NoFileProblem(name);
+  PrintError(QStringLiteral("%1: cannot be read: %2\n").arg(name, problem.isEmpty() ? file.errorString() : problem));
   return std::nullopt;
 }
 

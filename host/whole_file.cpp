@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "host/file_commit.h"
+#include "host/plain_file.h"
 #include "host/terminal.h"
 
 namespace tavi {
@@ -102,7 +103,7 @@ WholeFile::~WholeFile() {
 void WholeFile::FindPlace() {
   const QFileInfo info(target_);
   if (info.isDir()) {
-    problem_ = qt_error_string(EISDIR);
+    problem_ = NoFileProblem(target_);
   } else if (!info.dir().exists()) {
     problem_ = qt_error_string(ENOENT);
   } else if (info.exists() && !info.isWritable()) {

@@ -10,6 +10,7 @@
 
 #include "host/command_line.h"
 #include "host/picture/picture_file.h"
+#include "host/plain_file.h"
 #include "host/terminal.h"
 #include "host/whole_file.h"
 #include "host/window/guest_display.h"
@@ -167,9 +168,9 @@ QString ReadMirrors(const ParsedArguments& arguments, WindowOptions* options) {
 }
 
 QString FileProblem(const QString& file) {
-  const QFileInfo info(file);
-  if (file.isEmpty() || info.isFile()) return {};
-  return (info.exists() ? QStringLiteral("not a plain file: %1") : QStringLiteral("no such file: %1")).arg(file);
+  if (file.isEmpty() || QFileInfo(file).isFile()) return {};
+  const QString problem = NoFileProblem(file);
+  return QStringLiteral("%1: %2").arg(problem.isEmpty() ? QStringLiteral("no such file") : problem, file);
 }
 
 QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {

@@ -27,9 +27,12 @@ LoadResult SystemResult() {
 }
 
 // A pipe keeps its reader waiting, and could be read once only; a device may have no end.
-bool IsDeviceOrPipe(const QString& path) {
+// Why what is there is no file to read: a pipe keeps its reader waiting, a device may have no end. Empty for a file, and
+// where there is nothing.
+QString NoFileProblem(const QString& path) {
   const QFileInfo info(path);
-  return info.exists() && !info.isFile() && !info.isDir();
+  if (info.isDir()) return QStringLiteral("it is a folder");
+  return info.exists() && !info.isFile() ? QStringLiteral("not a plain file") : QString();
 }
 
 LoadResult FailedResult(const QString& file, const YamlSpan& span, const QString& message) {
@@ -45,11 +48,10 @@ LoadResult FailedResult(const QString& file, const YamlSpan& span, const QString
 LoadResult ReadKeymapFile(const QString& path) {
   if (path.isEmpty()) return DefaultResult();
   if (path == keywords::kSystemKeymap) return SystemResult();
-  if (IsDeviceOrPipe(path)) return FailedResult(path, {}, QStringLiteral("cannot be read: not a plain file"));
+  QString problem = NoFileProblem(path);
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return FailedResult(path, {}, QStringLiteral("cannot be read: %1").arg(file.errorString()));
-  }
+  if (problem.isEmpty() && !file.open(QIODevice::ReadOnly)) problem = file.errorString();
+  if (!problem.isEmpty()) return FailedResult(path, {}, QStringLiteral("cannot be read: %1").arg(problem));
   // One byte more than allowed is enough to see that it is too long.
   return ReadKeymapText(file.read(kMostKeymapBytes + 1), path);
 }

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 
+#include "host/plain_file.h"
 #include "host/progress_line.h"
 #include "host/record/record_action_check.h"
 #include "host/record/record_file.h"
@@ -261,9 +262,9 @@ class RecordReader {
 
 // A pipe keeps its reader waiting and could be read once only, while the library reads the file again.
 QString RecordRefusal(const QString& name) {
-  const QFileInfo info(name);
-  if (info.exists() && !info.isFile()) return QStringLiteral("not a plain file");
-  return info.size() <= kMostRecordBytes ? QString() : QStringLiteral("longer than %1 bytes").arg(kMostRecordBytes);
+  const QString problem = NoFileProblem(name);
+  if (!problem.isEmpty() || QFileInfo(name).size() <= kMostRecordBytes) return problem;
+  return QStringLiteral("longer than %1 bytes").arg(kMostRecordBytes);
 }
 
 RecordFile ReadRecordFile(const QString& name) {

@@ -269,6 +269,19 @@ TEST_F(Program, APipeIsNoKeymapAndNoRecord) {
   EXPECT_TRUE(window.errors.contains("tavi window: not a plain file: pipe\n")) << window.errors.toStdString();
 }
 
+TEST_F(Program, AFolderIsCalledAFolderEverywhere) {
+  Write("good.yaml", kGood);
+  QDir(Folder()).mkdir("a.svg");
+  const QString problem = "cannot be read: it is a folder\n";
+  EXPECT_EQ(Run({"check", "a.svg"}).output, "a.svg:1:1: error: " + problem);
+  EXPECT_EQ(Run({"draw", "-o", "b.svg", "a.svg"}).errors, "a.svg:1:1: error: " + problem);
+  EXPECT_EQ(Run({"simulate", "good.yaml", "a.svg"}).errors, "a.svg: " + problem);
+  EXPECT_EQ(Run({"record", "info", "a.svg"}).errors, "a.svg: error: " + problem);
+  EXPECT_EQ(Run({"draw", "-o", "a.svg", "good.yaml"}).errors,
+            QString("tavi draw: cannot write a.svg: it is a folder\n"));
+  EXPECT_TRUE(Run({"window", "a.svg"}).errors.contains("tavi window: it is a folder: a.svg\n"));
+}
+
 TEST_F(Program, ARecordIsReadUpToALimit) {
   Write("big.json", "");
   QFile::resize(Folder() + "/big.json", (qint64{512} << 20) + 1);  // takes no room

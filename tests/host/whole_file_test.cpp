@@ -122,7 +122,7 @@ TEST_F(WholeFileTest, WhatCannotBeWrittenIsKnownBeforehand) {
       {"a new file", Path("day.json"), ""},
       {"a device", "/dev/null", ""},
       {"no such folder", Path("none/day.json"), "No such file or directory"},
-      {"a folder", folder_.path(), "Is a directory"},
+      {"a folder", folder_.path(), "it is a folder"},
   };
   for (const auto& row : rows) EXPECT_EQ(TryWholeFile(row.target), QString(row.problem)) << row.name;
   EXPECT_EQ(FilesIn(folder_.path()), QStringList());

@@ -90,7 +90,7 @@ TEST(RecordFile, RefusesWhatCannotBePlayed) {
 
 TEST(RecordFile, RefusesWhatIsNoFile) {
   EXPECT_TRUE(FormatFindings("none", ReadRecordFile("/none")).startsWith("none: error: cannot be read: "));
-  EXPECT_EQ(FormatFindings("d", ReadRecordFile("/")), QStringLiteral("d: error: cannot be read: not a plain file\n"));
+  EXPECT_EQ(FormatFindings("d", ReadRecordFile("/")), QStringLiteral("d: error: cannot be read: it is a folder\n"));
 }
 
 TEST(RecordFile, WarnsOfWhatReadsAsSomethingElse) {
