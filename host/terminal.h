@@ -24,7 +24,8 @@ void SetCleanUp(std::function<void()> clean_up);
 
 // From here on an interruption, being told to end and the end of the terminal do not end the program: `take` is called
 // with the signal's number, on a thread of its own, and what is to follow is its business. It takes the place of a
-// clean-up. An empty function gives that back. To be called first while the program has no other threads.
+// clean-up, and a reader of the program's output that is gone ends nothing. An empty function gives that back. To be
+// called first while the program has no other threads.
 void SetInterruptionTaker(std::function<void(int number)> take);
 
 // The exit status of a program that ended because of a signal.

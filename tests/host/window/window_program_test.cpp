@@ -110,6 +110,14 @@ TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
   EXPECT_TRUE(taviinputmanager::GetRecordInfo(kept, &info)) << kept.toStdString();
 }
 
+// Such as a pager that was left; there is nobody to tell anything then.
+TEST_F(WindowProgram, WhoReadsItsWordsMayGo) {
+  StartWithAFingerDown({"--record", "/dev/full"});
+  program_.closeReadChannel(QProcess::StandardError);
+  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
+  EXPECT_EQ(QDir(Path("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);  // it is kept
+}
+
 TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {
   const struct {
     QStringList arguments;
