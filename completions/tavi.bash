@@ -56,7 +56,7 @@ _tavi_value() {
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --guest --rotation --pixel-ratio --background --pause-key --panic-key --paused --events --record --replay --second-view --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --guest --rotation --pixel-ratio --background --pause-key --panic-key --paused --fresh --events --record --replay --second-view --listen --mirror --picture --after" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;

@@ -23,6 +23,7 @@ complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_sub
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l pause-key -x -d 'the key that switches the mapping off, so that everything reaches the guest as what it is, and on again (F12)'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l panic-key -x -d 'the key that lifts every finger and key of the guest, ends replays and macros, and gives the mouse back (Ctrl+Alt+Backspace)'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l paused -d 'begin with the mapping off'
+complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l fresh -d 'begin without the size, docks, keymap and options of last time, and remember nothing'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l events -d 'list each event of the host, what it matched and what went out'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l record -x -a '(__fish_complete_suffix .json;)' -d 'record what the guest gets, and save it when the window is closed; what cannot be saved is kept until you say to drop it'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l replay -x -a '(__fish_complete_suffix .json;)' -d 'play this record at once'

@@ -19,6 +19,7 @@
 #include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/theme.h"
+#include "host/window/window_memory.h"
 #include "host/window_system.h"
 
 namespace tavi {
@@ -31,8 +32,9 @@ constexpr char kHelp[] =
     "Opens a window in the place of a guest's screen. Its keys, mouse, wheel and\n"
     "touches go through the keymap; fingers, keys and text that the guest would get\n"
     "are drawn, and the lines that say so are listed. A keymap that is saved meanwhile\n"
-    "is read again at once. Without KEYMAP the window asks for one. \"Edit\" changes\n"
-    "the keymap on the screen.\n"
+    "is read again at once. Without KEYMAP the window takes that of last time, or asks\n"
+    "for one. \"Edit\" changes the keymap on the screen. The window also remembers its\n"
+    "size, its docks, and the options from --guest to --panic-key.\n"
     "\n"
     "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
     "                   gamepad reaches the guest as one\n"
@@ -48,6 +50,8 @@ constexpr char kHelp[] =
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
     "                   and macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
     "  --paused         begin with the mapping off\n"
+    "  --fresh          begin without the size, docks, keymap and options of last time, and\n"
+    "                   remember nothing\n"
     "  --events         list each event of the host, what it matched and what went out\n"
     "  --record FILE    record what the guest gets, and save it when the window is closed;\n"
     "                   what cannot be saved is kept until you say to drop it\n"
@@ -83,6 +87,7 @@ const QString kBackground = QStringLiteral("--background");
 const QString kPauseKey = QStringLiteral("--pause-key");
 const QString kPanicKey = QStringLiteral("--panic-key");
 const QString kPaused = QStringLiteral("--paused");
+const QString kFresh = QStringLiteral("--fresh");
 const QString kEvents = QStringLiteral("--events");
 const QString kRecord = QStringLiteral("--record");
 const QString kReplay = QStringLiteral("--replay");
@@ -106,6 +111,7 @@ struct WindowOptions {
   KeyCombination pause_key;
   KeyCombination panic_key;
   bool is_paused = false;
+  bool is_fresh = false;
   bool shows_events = false;
   QString record;  // empty: none
   QString replay;  // empty: none
@@ -197,6 +203,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
     return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
   }
   options->is_paused = arguments.options.contains(kPaused);
+  options->is_fresh = arguments.options.contains(kFresh);
   options->shows_events = arguments.options.contains(kEvents);
   return ReadKeys(arguments, options);
 }
@@ -248,8 +255,9 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
   if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
 }
 
-int ShowWindow(const WindowOptions& options) {
+int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
   MainWindow window;
+  memory->Restore(&window);
   if (options.guest_size) window.Display()->SetSize(*options.guest_size);
   window.Display()->SetRotation(options.rotation);
   window.Display()->SetPixelRatio(options.pixel_ratio);
@@ -278,11 +286,11 @@ int ShowWindow(const WindowOptions& options) {
     }
   }
   window.Mirrors()->MirrorTo(options.mirror);
-  if (options.shows_events) window.EventsShown()->trigger();
   StartRecords(options, window.Records());
   window.ReadGamepads();
   window.ClearLog();  // what the guest was sent by way of a beginning is no news
   window.show();
+  if (options.shows_events) window.ShowEvents();
   window.activateWindow();
   const InterruptionWatch interruptions(&window);
   if (!options.picture.isEmpty()) {
@@ -290,7 +298,24 @@ int ShowWindow(const WindowOptions& options) {
   } else if (options.keymap.isEmpty()) {
     QTimer::singleShot(0, &window, &MainWindow::OpenKeymap);
   }
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  if (options.picture.isEmpty()) memory->Save(window);
+  return status;
+}
+
+// What the command line leaves open is as it was last time. What was remembered and makes no sense counts for nothing.
+WindowOptions Remember(ParsedArguments arguments, const WindowMemory& memory, const WindowOptions& given) {
+  const QMap<QString, QString> kept = memory.Options();
+  const bool has_keymap = !arguments.positional.isEmpty();
+  for (auto option = kept.begin(); option != kept.end(); ++option) {
+    const bool is_of_the_keymap = option.key() == kJoystick;
+    if (arguments.options.contains(option.key()) || (is_of_the_keymap && has_keymap)) continue;
+    arguments.options.insert(option.key(), option.value());
+    arguments.in_order.append({option.key(), option.value()});
+  }
+  if (!has_keymap && !memory.Keymap().isEmpty()) arguments.positional += memory.Keymap();
+  WindowOptions options;
+  return ReadOptions(arguments, &options).isEmpty() ? options : given;
 }
 
 int Run(const Invocation& invocation) {
@@ -310,7 +335,8 @@ int Run(const Invocation& invocation) {
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
-  return ShowWindow(options);
+  WindowMemory memory(options.is_fresh ? QString() : WindowMemory::UsualFile());
+  return ShowWindow(Remember(arguments, memory, options), &memory);
 }
 
 }  // namespace

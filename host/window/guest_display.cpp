@@ -82,6 +82,7 @@ QString GuestDisplay::SetBackground(const QString& file) {
     const QString problem = background_.Read(file);
     if (!problem.isEmpty()) return problem;
   }
+  background_file_ = file;
   view_->SetBackground(background_);
   menu_->MarkBackground(!background_.IsEmpty());
   TellShapeOfBackground();

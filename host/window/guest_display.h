@@ -37,6 +37,10 @@ class GuestDisplay : public QObject {
   // A picture in place of the guest's screen; an empty name for none. Returns what is wrong, or nothing.
   QString SetBackground(const QString& file);
 
+  bool FollowsView() const { return follows_view_; }
+  // Empty without one.
+  QString BackgroundFile() const { return background_file_; }
+
   // The window's parts.
   GuestMenu* Menu() const { return menu_; }
   QLabel* Label() const { return label_; }
@@ -61,6 +65,7 @@ class GuestDisplay : public QObject {
   GuestMenu* menu_;
   QLabel* label_;
   BackgroundPicture background_;
+  QString background_file_;
   bool follows_view_ = false;
 };
 

@@ -79,6 +79,7 @@ QAction* KeymapEditor::AddButton(const QString& text, const QString& hint, const
 // Shortcuts answer only while the bar is there: at all other times every key is the guest's.
 void KeymapEditor::MakeBar() {
   bar_ = new QToolBar(QStringLiteral("Editing"), window_);
+  bar_->setObjectName(QStringLiteral("editing"));
   bar_->setMovable(false);
   bar_->setContextMenuPolicy(Qt::PreventContextMenu);
   auto* add = new QToolButton;
@@ -120,6 +121,7 @@ void KeymapEditor::AddBar() {
 
 void KeymapEditor::MakeDock() {
   dock_ = new QDockWidget(QStringLiteral("Items"), window_);
+  dock_->setObjectName(QStringLiteral("items"));
   dock_->setWidget(inspector_);
   dock_->setFeatures(QDockWidget::DockWidgetMovable);
   inspector_->setMinimumWidth(kDockWidth);
@@ -195,11 +197,15 @@ void KeymapEditor::SetOn(bool on) {
   layer_->raise();
   view_->setFocusProxy(on ? layer_ : nullptr);
   view_->setFocus();
-  bar_->setVisible(on);
   bar_->setEnabled(on);
-  dock_->setVisible(on);
+  ShowParts();
   dock_->raise();
   if (!on) Finish();
+}
+
+void KeymapEditor::ShowParts() {
+  bar_->setVisible(IsOn());
+  dock_->setVisible(IsOn());
 }
 
 QString KeymapEditor::FileName() const {

@@ -48,6 +48,8 @@ class KeymapEditor : public QObject {
   KeymapDocument* Document() { return &document_; }
   EditLayer* Layer() const { return layer_; }
   ItemInspector* Inspector() const { return inspector_; }
+  // Shows its bar and its dock while it is on, wherever the window has put them.
+  void ShowParts();
   void SetAsk(const Ask& ask) { ask_ = ask; }
   void SetAskForName(const AskForName& ask) { ask_for_name_ = ask; }
 

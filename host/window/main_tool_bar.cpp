@@ -9,6 +9,7 @@
 namespace tavi {
 
 MainToolBar::MainToolBar(const Parts& parts, QWidget* parent) : QToolBar(QStringLiteral("Tools"), parent) {
+  setObjectName(QStringLiteral("tools"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   AddKeymapButtons(parts);
@@ -30,8 +31,8 @@ void MainToolBar::AddKeymapButtons(const Parts& parts) {
 
 void MainToolBar::AddSwitches(const Parts& parts) {
   mapping_on_ = AddSwitch(QStringLiteral("Mapping"), QString(), true);
-  QAction* overlay = AddSwitch(QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
-  connect(overlay, &QAction::toggled, this, &MainToolBar::OverlayToggled);
+  overlay_ = AddSwitch(QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
+  connect(overlay_, &QAction::toggled, this, &MainToolBar::OverlayToggled);
   QAction* text = AddSwitch(QStringLiteral("Text field"),
                             QStringLiteral("As if the guest had a text field focused: keys are typed"), false);
   connect(text, &QAction::toggled, this, [](bool on) { WindowHost::GetInstance()->SetTextField(on); });

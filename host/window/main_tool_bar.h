@@ -27,6 +27,8 @@ class MainToolBar : public QToolBar {
   // On while the mapping is.
   QAction* MappingOn() const { return mapping_on_; }
   QAction* LetGo() const { return let_go_; }
+  // Shows the keymap over the guest.
+  QAction* Overlay() const { return overlay_; }
 
   // The keys that do the same, by their names.
   void TellPauseKey(const QString& name);
@@ -48,6 +50,7 @@ class MainToolBar : public QToolBar {
 
   QAction* mapping_on_ = nullptr;
   QAction* let_go_ = nullptr;
+  QAction* overlay_ = nullptr;
 };
 
 }  // namespace tavi

@@ -12,6 +12,7 @@
 
 #include "host/keymap_report.h"
 #include "host/window/diagnostics_panel.h"
+#include "host/window/dock_folder.h"
 #include "host/window/event_log.h"
 #include "host/window/event_viewer.h"
 #include "host/window/finding_marks.h"
@@ -41,7 +42,7 @@ namespace tavi {
 
 namespace {
 
-constexpr QSize kFirstSize(1360, 760);
+constexpr QSize kUsualSize(1360, 760);
 constexpr int kLabelGap = 16;  // in the status bar
 constexpr int kReplayViewHeight = 180;
 constexpr int kMessageMs = 8000;
@@ -77,6 +78,7 @@ MainWindow::MainWindow()
       joystick_keymap_{
           {}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
+      docks_(new DockFolder(this)),
       keymap_label_(new QLabel),
       state_label_(new QLabel),
       mirrors_(new MirrorLabel(this)),
@@ -104,7 +106,7 @@ MainWindow::MainWindow()
   for (const DiagnosticsPanel* panel : {keymap_.diagnostics, joystick_keymap_.diagnostics}) {
     connect(panel, &DiagnosticsPanel::FindingChosen, finding_marks_, &FindingMarks::Flash);
   }
-  resize(kFirstSize);
+  resize(kUsualSize);
 
   WindowHost* host = WindowHost::GetInstance();
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
@@ -175,6 +177,7 @@ void MainWindow::MakeFullScreen() {
 
 void MainWindow::MakeStatusBar() {
   connect(mirrors_, &MirrorLabel::Message, this, &MainWindow::Tell);
+  keymap_label_->setMinimumWidth(1);  // a long name must not widen the window
   statusBar()->addWidget(keymap_label_, 1);
   for (QLabel* label : {state_label_, static_cast<QLabel*>(mirrors_), pad_label_}) {
     label->setContentsMargins(0, 0, kLabelGap, 0);
@@ -194,12 +197,22 @@ void MainWindow::SetPauseKey(const KeyCombination& key) {
   reserved_keys_.Reserve(kPause, key, [this] { tools_->MappingOn()->toggle(); });
 }
 
+QString MainWindow::PauseKeyName() const { return reserved_keys_.NameOf(kPause); }
+
+QString MainWindow::PanicKeyName() const { return reserved_keys_.NameOf(kPanic); }
+
+void MainWindow::ShowPartsInUse() {
+  editor_->ShowParts();
+  replay_dock_->setVisible(records_->SecondView()->isChecked());
+}
+
 void MainWindow::ClearLog() { log_->Clear(); }
 
 void MainWindow::PauseMapping() { tools_->MappingOn()->setChecked(false); }
 
-QDockWidget* MainWindow::AddDock(const QString& title, QWidget* content, Qt::DockWidgetArea area) {
+QDockWidget* MainWindow::AddDock(const QString& name, const QString& title, QWidget* content, Qt::DockWidgetArea area) {
   auto* dock = new QDockWidget(title, this);
+  dock->setObjectName(name);
   dock->setWidget(content);
   dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
   addDockWidget(area, dock);
@@ -207,23 +220,29 @@ QDockWidget* MainWindow::AddDock(const QString& title, QWidget* content, Qt::Doc
 }
 
 void MainWindow::MakeLogDock() {
-  const QDockWidget* dock = AddDock(QStringLiteral("Lines for the guest"), log_, Qt::RightDockWidgetArea);
-  log_shown_ = dock->toggleViewAction();
+  log_dock_ = AddDock(QStringLiteral("log"), QStringLiteral("Lines for the guest"), log_, Qt::RightDockWidgetArea);
+  docks_->Add(log_dock_);
+  log_shown_ = log_dock_->toggleViewAction();
   log_shown_->setText(QStringLiteral("Log"));
   log_shown_->setToolTip(QStringLiteral("Show the lines for the guest"));
 }
 
 void MainWindow::MakeEventDock() {
   auto* viewer = new EventViewer(new EventLog(&mapping_));
-  QDockWidget* dock = AddDock(QStringLiteral("Events of the host"), viewer, Qt::BottomDockWidgetArea);
-  events_shown_ = dock->toggleViewAction();
+  event_dock_ =
+      AddDock(QStringLiteral("events"), QStringLiteral("Events of the host"), viewer, Qt::BottomDockWidgetArea);
+  docks_->Add(event_dock_);
+  events_shown_ = event_dock_->toggleViewAction();
   events_shown_->setText(QStringLiteral("Events"));
   events_shown_->setToolTip(QStringLiteral("Show each event, what it matched and what went out because of it"));
-  dock->hide();
+  event_dock_->hide();
 }
 
+// A dock that is asked for is shown in a small window, too.
+void MainWindow::ShowEvents() { event_dock_->show(); }
+
 void MainWindow::MakeEditor() {
-  editor_ = new KeymapEditor(this, view_, static_cast<QDockWidget*>(log_->parentWidget()));
+  editor_ = new KeymapEditor(this, view_, log_dock_);
   connect(editor_, &KeymapEditor::Edited, this, &MainWindow::ShowEdited);
   connect(editor_, &KeymapEditor::Finished, this, &MainWindow::UseEdited);
   connect(editor_, &KeymapEditor::Message, this, &MainWindow::Tell);
@@ -243,7 +262,7 @@ void MainWindow::MakeRecordBar() {
 void MainWindow::MakeReplayDock() {
   replay_frame_ = new GuestFrame(new GuestScreen(WindowHost::kReplayDisplay, GuestScreen::Texts::kLeft));
   replay_frame_->setMinimumHeight(kReplayViewHeight);
-  replay_dock_ = AddDock(QStringLiteral("Replays"), replay_frame_, Qt::RightDockWidgetArea);
+  replay_dock_ = AddDock(QStringLiteral("replays"), QStringLiteral("Replays"), replay_frame_, Qt::RightDockWidgetArea);
   replay_dock_->hide();
 }
 

@@ -23,6 +23,7 @@ class QLabel;
 namespace tavi {
 
 class DiagnosticsPanel;
+class DockFolder;
 class FindingMarks;
 class GamepadPoll;
 class GuestDisplay;
@@ -73,11 +74,22 @@ class MainWindow : public QMainWindow {
   RecordBar* Records() const { return records_; }
   // Lists the events of the host.
   QAction* EventsShown() const { return events_shown_; }
+  void ShowEvents();
   KeymapEditor* Editor() const { return editor_; }
   // The gamepads that the library is told of.
   Gamepads* Pads() { return &pads_; }
   // The keymaps in use.
   Mapping* Keymaps() { return &mapping_; }
+  MainToolBar* Tools() const { return tools_; }
+  // Puts docks away while the window is small.
+  DockFolder* Docks() const { return docks_; }
+  // Those that the player shows and hides; which ones are shown is remembered.
+  QVector<QDockWidget*> RememberedDocks() const { return {log_dock_, event_dock_}; }
+  QString JoystickKeymapPath() const { return joystick_keymap_.path; }
+  QString PauseKeyName() const;
+  QString PanicKeyName() const;
+  // Shows those parts only that are in use, after the layout of another window was taken over.
+  void ShowPartsInUse();
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -99,7 +111,7 @@ class MainWindow : public QMainWindow {
   void MakeDisplay();
   void MakeFullScreen();
   void MakeStatusBar();
-  QDockWidget* AddDock(const QString& title, QWidget* content, Qt::DockWidgetArea area);
+  QDockWidget* AddDock(const QString& name, const QString& title, QWidget* content, Qt::DockWidgetArea area);
   void MakeLogDock();
   void MakeEventDock();
   void MakeEditor();
@@ -129,6 +141,9 @@ class MainWindow : public QMainWindow {
   Keymap keymap_;
   Keymap joystick_keymap_;
   LineLog* log_;
+  DockFolder* docks_;
+  QDockWidget* log_dock_ = nullptr;
+  QDockWidget* event_dock_ = nullptr;
   QAction* log_shown_ = nullptr;
   QAction* events_shown_ = nullptr;
   MainToolBar* tools_ = nullptr;

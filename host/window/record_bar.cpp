@@ -64,6 +64,7 @@ RecordBar::RecordBar(QWidget* parent)
       second_view_(nullptr),
       ask_(AskIn(this)),
       ask_for_name_(AskForNameIn(this)) {
+  setObjectName(QStringLiteral("records"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   addWidget(recorded_);

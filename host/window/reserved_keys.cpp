@@ -23,6 +23,13 @@ void ReservedKeys::Reserve(int id, const KeyCombination& combination, std::funct
   entries_.push_back({id, combination, std::move(action)});
 }
 
+QString ReservedKeys::NameOf(int id) const {
+  for (const Entry& entry : entries_) {
+    if (entry.id == id) return entry.combination.name;
+  }
+  return {};
+}
+
 QStringList ReservedKeys::FindIn(tavikeymapmanager::KeymapConfig* config) const {
   QStringList names;
   for (const Entry& entry : entries_) {

@@ -31,6 +31,9 @@ class ReservedKeys : public QObject {
   // `action` is called at each press, from now on, in place of what was called before for the same `id`.
   void Reserve(int id, const KeyCombination& combination, std::function<void()> action);
 
+  // The key as it was written; empty when none was reserved for `id`.
+  QString NameOf(int id) const;
+
   // Those that an item of the keymap answers to, which will never get them.
   QStringList FindIn(tavikeymapmanager::KeymapConfig* config) const;
 

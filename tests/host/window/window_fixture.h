@@ -81,6 +81,8 @@ class WindowFixture : public testing::Test {
   int argument_count_ = 0;
   char* arguments_[1] = {nullptr};
   QApplication application_;
+
+ protected:
   std::unique_ptr<MainWindow> window_;
 };
 

@@ -33,6 +33,7 @@ class WindowProgram : public testing::Test {
   WindowProgram() : application_(argument_count_, arguments_) {
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_.filePath("config")));
     QFile record(Path("held.json"));
     EXPECT_TRUE(record.open(QIODevice::WriteOnly));
     record.write(kHeld);
@@ -97,6 +98,40 @@ TEST_F(WindowProgram, ASignalEndsItInOrder) {
     EXPECT_TRUE(taviinputmanager::GetRecordInfo(record, &info));
     EXPECT_TRUE(QFile::remove(record));
   }
+}
+
+TEST_F(WindowProgram, ItRemembersUnlessItIsFresh) {
+  const QString file = Path("config/tavi/window.ini");
+  StartWithAFingerDown({"--fresh", "--guest", "800x600"});
+  EndBy(SIGTERM);
+  EXPECT_FALSE(QFileInfo::exists(file));
+  socket_ = nullptr;
+  said_.clear();
+  StartWithAFingerDown({"--guest", "800x600"});
+  EXPECT_TRUE(HasSaid(":400:300"));  // the middle
+  EndBy(SIGTERM);
+  EXPECT_TRUE(QFileInfo::exists(file));
+  socket_ = nullptr;
+  said_.clear();
+  StartWithAFingerDown({});
+  EXPECT_TRUE(HasSaid(":400:300"));
+  EndBy(SIGTERM);
+  socket_ = nullptr;
+  said_.clear();
+  StartWithAFingerDown({"--fresh"});
+  EXPECT_TRUE(HasSaid(":640:360"));
+  EndBy(SIGTERM);
+}
+
+TEST_F(WindowProgram, WhatIsRememberedAndMakesNoSenseCountsForNothing) {
+  ASSERT_TRUE(QDir().mkpath(Path("config/tavi")));
+  QFile settings(Path("config/tavi/window.ini"));
+  ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+  settings.write("[window]\nsize=nonsense\nlayout=nonsense\n[General]\noptions=@Invalid()\n");
+  settings.close();
+  StartWithAFingerDown({});
+  EXPECT_TRUE(HasSaid(":640:360"));
+  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
 }
 
 TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
