@@ -88,6 +88,7 @@ void EventLog::Begin(const HostEvent& event) {
 QString EventLog::MatchText(const HostEvent& event) {
   const bool is_key = !event.key.device.isEmpty() && event.key.device == tavikeymapmanager::keywords::kDeviceKeyboard;
   const QString match = matcher_.Match(event);
+  if (event.kind == Kind::kLetGo) return QStringLiteral("the window");
   if (mapping_->IsPaused()) return QStringLiteral("mapping off");
   if (is_key && WindowHost::GetInstance()->HasTextField()) return QStringLiteral("text field");
   if (event.kind == Kind::kMove && event.key.device.isEmpty()) return {};
@@ -112,8 +113,9 @@ void EventLog::TakeEntry(const TimelineEntry& entry) {
 
 void EventLog::End() {
   is_inside_ = false;
-  is_counting_later_ = !paused_;
-  if (paused_) return;
+  const bool is_event = current_.event.kind != Kind::kLetGo;
+  is_counting_later_ = !paused_ && is_event;
+  if (paused_ || (!is_event && current_.lines.isEmpty())) return;
   if (current_.match.isEmpty()) {
     current_.match = current_.lines.isEmpty() ? QStringLiteral("nothing sent") : QStringLiteral("passes through");
   }

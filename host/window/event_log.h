@@ -53,7 +53,7 @@ class EventLog : public QAbstractTableModel {
     QString match;
     QStringList lines;      // that were sent at once, the first of them
     int further_lines = 0;  // that were sent at once, too
-    int later_lines = 0;    // that came before the next event
+    int later_lines = 0;    // that came before the next event, or before input was lifted
     int count = 1;          // of events that repeat each other
   };
 

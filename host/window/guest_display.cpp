@@ -6,8 +6,8 @@
 #include "host/window/guest_frame.h"
 #include "host/window/guest_menu.h"
 #include "host/window/guest_view.h"
+#include "host/window/input_port.h"
 #include "host/window/window_host.h"
-#include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
 
@@ -51,7 +51,7 @@ void GuestDisplay::SetPixelRatio(double ratio) {
 }
 
 void GuestDisplay::Shape() {
-  taviinputmanager::OnResetInputStatus(true, 0);  // what is down has its place in the display before
+  InputPort::GetInstance()->LetGo();  // what is down has its place in the display before
   const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
   for (GuestFrame* frame : {frame_, replay_frame_}) frame->SetShape(follows_view_ ? QSize() : display);
   TakeViewSize();

@@ -190,7 +190,7 @@ void GuestView::focusOutEvent(QFocusEvent* event) {
 // The releases of what is held will go to someone else, so that even taps and rapid taps are to end here.
 void GuestView::ReleaseInput() {
   key_repeats_.Flush();
-  taviinputmanager::OnResetInputStatus(true, 0);
+  InputPort::GetInstance()->LetGo();
 }
 
 // ---- Drawing

@@ -146,6 +146,13 @@ HostEvent DescribeMovement(int dx, int dy) {
   return result;
 }
 
+HostEvent DescribeLettingGo() {
+  HostEvent event;
+  event.kind = Kind::kLetGo;
+  event.text = QStringLiteral("let go");
+  return event;
+}
+
 QString KeymapFields(const HostEvent& event) {
   QStringList fields;
   const QString key = km::NameOfKey(event.key);

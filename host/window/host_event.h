@@ -14,7 +14,7 @@ class QEvent;
 namespace tavi {
 
 struct HostEvent {
-  enum class Kind { kPress, kRelease, kMove, kTurn, kTouch, kStick, kText, kOther };
+  enum class Kind { kPress, kRelease, kMove, kTurn, kTouch, kStick, kText, kLetGo, kOther };
 
   // Of many that follow each other only the last says something: a pointer on its way, a key that repeats.
   bool IsRepeatOf(const HostEvent& before) const;
@@ -32,6 +32,8 @@ HostEvent DescribeEvent(const QEvent& event);
 HostEvent DescribeJoystickEvent(const QEvent& event);
 // Counts of a mouse that steers the view.
 HostEvent DescribeMovement(int dx, int dy);
+// What is down is lifted because of something else than an event.
+HostEvent DescribeLettingGo();
 
 // What of it a keymap's item would have: "key: W", "point: [0.42, 0.36]", both, or nothing.
 QString KeymapFields(const HostEvent& event);

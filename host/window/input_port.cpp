@@ -27,4 +27,14 @@ void InputPort::SendRelative(int dx, int dy) {
   Q_EMIT Ended();
 }
 
+void InputPort::LetGo() {
+  LetGoBy([] { taviinputmanager::OnResetInputStatus(true, 0); });
+}
+
+void InputPort::LetGoBy(const std::function<void()>& change) {
+  Q_EMIT Began(DescribeLettingGo());
+  change();
+  Q_EMIT Ended();
+}
+
 }  // namespace tavi

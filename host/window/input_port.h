@@ -1,6 +1,8 @@
 #ifndef HOST_WINDOW_INPUT_PORT_H_
 #define HOST_WINDOW_INPUT_PORT_H_
 
+#include <functional>
+
 #include <QObject>
 
 #include "host/window/host_event.h"
@@ -23,8 +25,14 @@ class InputPort : public QObject {
   void SendJoystick(QEvent* event);
   void SendRelative(int dx, int dy);
 
+  // Lifts all input of the display that is played on.
+  void LetGo();
+  // The same by something that has it lifted besides.
+  void LetGoBy(const std::function<void()>& change);
+
  Q_SIGNALS:
-  // An event is about to be handed over. What the library sends until Ended it sends because of it.
+  // An event is about to be handed over, or input to be lifted. What the library sends until Ended it sends because of
+  // it.
   void Began(const tavi::HostEvent& event);
   void Ended();
 

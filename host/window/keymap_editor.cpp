@@ -13,10 +13,11 @@
 #include "host/roomy_folder.h"
 #include "host/whole_file.h"
 #include "host/window/edit_layer.h"
+#include "host/window/input_port.h"
 #include "host/window/item_inspector.h"
 #include "host/window/source_pane.h"
 #include "keymap/joystick_event.h"
-#include "taviinputmanager/taviinputmanager.h"
+#include "taviinputmanager/joystick_event.h"
 
 namespace tavi {
 
@@ -187,7 +188,7 @@ bool KeymapEditor::IsOn() const { return switch_->isChecked(); }
 
 void KeymapEditor::SetOn(bool on) {
   if (on) {
-    taviinputmanager::OnResetInputStatus(true, 0);  // nothing stays down while nobody plays
+    InputPort::GetInstance()->LetGo();  // nothing stays down while nobody plays
     if (document_.Path().isEmpty() && document_.Text().isEmpty()) document_.New();
     Report(document_.Refusal());
   } else {

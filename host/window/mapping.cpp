@@ -1,6 +1,7 @@
 #include "host/window/mapping.h"
 
 #include "host/window/gamepads.h"
+#include "host/window/input_port.h"
 #include "host/window/replayer.h"
 #include "host/window/window_host.h"
 #include "keymap/keywords.h"
@@ -40,14 +41,16 @@ void Mapping::SetPaused(bool paused) {
 
 // The system's keymap takes nothing and passes all on.
 void Mapping::Load() {
-  taviinputmanager::OnLoadKeymapConfigAndInfo(paused_ ? km::keywords::kSystemKeymap : keymap_.PathForUse(), QString(),
-                                              QString(), WindowHost::kDisplay);
+  const QString path = paused_ ? km::keywords::kSystemKeymap : keymap_.PathForUse();
+  InputPort::GetInstance()->LetGoBy(
+      [&path] { taviinputmanager::OnLoadKeymapConfigAndInfo(path, QString(), QString(), WindowHost::kDisplay); });
 }
 
 void Mapping::LoadJoystick() {
   const QString path = joystick_keymap_.PathForUse();
   const bool is_plain = paused_ || path.isEmpty();
-  taviinputmanager::OnLoadJoystickConfigAndInfo(is_plain ? km::keywords::kSystemKeymap : path, 0);
+  InputPort::GetInstance()->LetGoBy(
+      [&] { taviinputmanager::OnLoadJoystickConfigAndInfo(is_plain ? km::keywords::kSystemKeymap : path, 0); });
 }
 
 // A display that is forced to be transparent gets keys where a text field should get letters.
@@ -61,7 +64,7 @@ void Mapping::PassInputOn() {
 void Mapping::LetGoOfEverything() {
   Replayer::GetInstance()->Stop();
   pads_->ReleaseAll();
-  taviinputmanager::UpdateDisplayId(WindowHost::kDisplay);
+  InputPort::GetInstance()->LetGoBy([] { taviinputmanager::UpdateDisplayId(WindowHost::kDisplay); });
 }
 
 }  // namespace tavi

@@ -57,6 +57,24 @@ TEST_F(EventLogTest, AKeyWithItsItemAndItsLine) {
   EXPECT_EQ(Rows(), 3);
 }
 
+// Of two fingers one is lifted by its key, the other by the window that loses the keys.
+TEST_F(EventLogTest, AReleaseIsNotCreditedWithWhatTheWindowLifts) {
+  Load("{type: Click, label: Jump, key: Space, point: [0.25, 0.75]},\n{type: Click, key: W, point: [0.5, 0.5]}");
+  Press(kW);
+  Press(kSpace);
+  clock_->Advance(10);
+  Release(kSpace);
+  const int release = Rows() - 1;
+  QFocusEvent lost(QEvent::FocusOut);
+  Send(&lost);
+  EXPECT_EQ(Cell(release, EventLog::kSent), "1:SLOTRELEASE:12");
+  EXPECT_EQ(Last(EventLog::kEvent), "let go");
+  EXPECT_EQ(Last(EventLog::kMatch), "the window");
+  EXPECT_EQ(Last(EventLog::kSent), "1:SLOTRELEASEALL");
+  Window()->Keymaps()->LetGoOfEverything();
+  EXPECT_FALSE(Cell(release, EventLog::kSent).contains("later")) << Cell(release, EventLog::kSent).toStdString();
+}
+
 TEST_F(EventLogTest, WhatNoItemAnswersTo) {
   Load("", "settings: {keyboard_transparent: true}");
   Press(kW);
