@@ -22,7 +22,6 @@
 #include "host/window/guest_frame.h"
 #include "host/window/guest_menu.h"
 #include "host/window/guest_panel.h"
-#include "host/window/guest_screen.h"
 #include "host/window/guest_view.h"
 #include "host/window/input_port.h"
 #include "host/window/keymap_editor.h"
@@ -32,6 +31,7 @@
 #include "host/window/mirror_label.h"
 #include "host/window/pointer_notice.h"
 #include "host/window/record_bar.h"
+#include "host/window/replay_dock.h"
 #include "host/window/state_corner.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
@@ -44,7 +44,6 @@ namespace {
 
 constexpr QSize kUsualSize(1360, 760);
 constexpr int kLabelGap = 16;  // in the status bar
-constexpr int kReplayViewHeight = 180;
 constexpr int kMessageMs = 8000;
 constexpr char kExampleFolder[] = "examples/keymaps";
 
@@ -125,6 +124,7 @@ MainWindow::MainWindow()
   ShowPads();
   ShowState();
   host->Start(view_);
+  taviinputmanager::UpdateReplayDisplayId(WindowHost::kDisplay);
   LoadJoystickKeymap(QString());
   display_->SetSize(host->GuestSize());
   // What a guest without any contact is sent by way of a beginning is no news.
@@ -134,8 +134,6 @@ MainWindow::MainWindow()
 
 MainWindow::~MainWindow() {
   view_->clearFocus();  // lets go of what is held while all that hears of it is there
-  // The dock tells of its end when this is no main window any more.
-  disconnect(replay_dock_, nullptr, nullptr, nullptr);
 }
 
 QWidget* MainWindow::MakeCentre() {
@@ -162,7 +160,7 @@ void MainWindow::MakeToolBar() {
 }
 
 void MainWindow::MakeDisplay() {
-  display_ = new GuestDisplay(view_, frame_, replay_frame_, this);
+  display_ = new GuestDisplay(view_, frame_, replay_dock_->Frame(), this);
   connect(display_, &GuestDisplay::Message, this, &MainWindow::Tell);
   connect(display_, &GuestDisplay::DialogClosed, view_, QOverload<>::of(&QWidget::setFocus));
 }
@@ -254,21 +252,14 @@ void MainWindow::MakeRecordBar() {
   addToolBar(records_);
   connect(records_, &RecordBar::Message, this, &MainWindow::Tell);
   connect(records_, &RecordBar::DialogClosed, view_, QOverload<>::of(&QWidget::setFocus));
-  connect(records_->SecondView(), &QAction::toggled, this, &MainWindow::ShowSecondView);
-  connect(replay_dock_, &QDockWidget::visibilityChanged, records_->SecondView(), &QAction::setChecked);
-  ShowSecondView(false);
+  connect(records_->SecondView(), &QAction::toggled, replay_dock_, &ReplayDock::SetInUse);
+  connect(replay_dock_, &ReplayDock::Closed, this, [this] { records_->SecondView()->setChecked(false); });
 }
 
 void MainWindow::MakeReplayDock() {
-  replay_frame_ = new GuestFrame(new GuestScreen(WindowHost::kReplayDisplay, GuestScreen::Texts::kLeft));
-  replay_frame_->setMinimumHeight(kReplayViewHeight);
-  replay_dock_ = AddDock(QStringLiteral("replays"), QStringLiteral("Replays"), replay_frame_, Qt::RightDockWidgetArea);
+  replay_dock_ = new ReplayDock(view_, this);
+  addDockWidget(Qt::RightDockWidgetArea, replay_dock_);
   replay_dock_->hide();
-}
-
-void MainWindow::ShowSecondView(bool shown) {
-  replay_dock_->setVisible(shown);
-  taviinputmanager::UpdateReplayDisplayId(shown ? WindowHost::kReplayDisplay : WindowHost::kDisplay);
 }
 
 void MainWindow::Tell(const QString& text, bool is_problem) {

@@ -36,6 +36,7 @@ class LineLog;
 class MainToolBar;
 class MirrorLabel;
 class RecordBar;
+class ReplayDock;
 
 // The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
 class MainWindow : public QMainWindow {
@@ -117,7 +118,6 @@ class MainWindow : public QMainWindow {
   void MakeEditor();
   void MakeRecordBar();
   void MakeReplayDock();
-  void ShowSecondView(bool shown);
   void Tell(const QString& text, bool is_problem);
   QWidget* MakeCentre();
   // Takes in a keymap that was read.
@@ -154,8 +154,7 @@ class MainWindow : public QMainWindow {
   QLabel* pad_label_;
   FindingMarks* finding_marks_ = nullptr;
   RecordBar* records_ = nullptr;
-  QDockWidget* replay_dock_ = nullptr;
-  GuestFrame* replay_frame_ = nullptr;
+  ReplayDock* replay_dock_ = nullptr;
   Gamepads pads_;
   Mapping mapping_;
   ReservedKeys reserved_keys_;

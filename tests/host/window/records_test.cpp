@@ -198,6 +198,51 @@ TEST_F(RecordsInTheWindow, ASecondViewTakesTheReplayAlone) {
   EXPECT_EQ(Slots(), QList<int>{11});
 }
 
+// A finger and a key of a record, held from 100 ms on.
+constexpr char kHeldInput[] = R"~({"info": {"total_running_time": 60000}, "actions": [
+  {"timing": 100, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"},
+  {"timing": 0, "type": "keyboard", "data": "keyboard_press:30"},
+  {"timing": 59900, "type": "touch", "data": "release", "extra1": "2"}]})~";
+
+TEST_F(RecordsInTheWindow, AReplayLeavesNothingDownOnTheDisplayThatItLeaves) {
+  QFile record(Path("held.json"));
+  ASSERT_TRUE(record.open(QIODevice::WriteOnly));
+  record.write(kHeldInput);
+  record.close();
+  ASSERT_TRUE(Records()->OpenRecord(record.fileName()));
+  Records()->TogglePlaying();
+  clock_->Advance(150);
+  ASSERT_EQ(Slots(), QList<int>{18});
+  ASSERT_EQ(Guest().held_keys, QSet<int>{30});
+  Records()->SecondView()->trigger();
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_TRUE(Guest().held_keys.isEmpty());
+  Records()->TogglePlaying();
+  clock_->Advance(10);
+  Records()->TogglePlaying();  // going on presses what is held once more, now there
+  clock_->Advance(10);
+  EXPECT_EQ(SecondView()->Model().state().contacts.keys(), QList<int>{18});
+  EXPECT_EQ(SecondView()->Model().state().held_keys, QSet<int>{30});
+  Press(kSpace);
+  Records()->SecondView()->trigger();
+  EXPECT_TRUE(SecondView()->Model().state().contacts.isEmpty());
+  EXPECT_TRUE(SecondView()->Model().state().held_keys.isEmpty());
+  EXPECT_EQ(Slots(), QList<int>{11});  // the player's, who was on the other display all the time
+}
+
+// Nothing is replayed: the player's finger stays.
+TEST_F(RecordsInTheWindow, ASecondViewWithoutAReplayLiftsNothing) {
+  Press(kSpace);
+  Records()->SecondView()->trigger();
+  EXPECT_EQ(Slots(), QList<int>{11});
+}
+
+TEST_F(RecordsInTheWindow, ASecondViewThatIsClosedIsSwitchedOff) {
+  Records()->SecondView()->trigger();
+  Window()->findChild<QDockWidget*>("replays")->close();
+  EXPECT_FALSE(Records()->SecondView()->isChecked());
+}
+
 TEST_F(RecordsInTheWindow, WhatIsNoRecordIsRefused) {
   EXPECT_FALSE(Records()->OpenRecord(Write("none.json", "")));
   EXPECT_TRUE(problem_.contains(QLatin1String("none.json"))) << problem_.toStdString();

@@ -1,0 +1,71 @@
+#include "host/window/replay_dock.h"
+
+#include <QCloseEvent>
+
+#include "host/window/guest_frame.h"
+#include "host/window/guest_screen.h"
+#include "host/window/input_port.h"
+#include "host/window/replayer.h"
+#include "host/window/window_host.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr int kLeastHeight = 180;
+
+// The library forgets nothing by this: later lines about these keys and fingers are as if it had not been.
+void LiftKeys(const GuestState& state, int display) {
+  const QSet<int> codes = state.held_keys;  // a copy: each line takes one away
+  for (const int code : codes) {
+    taviinputmanager::OnInputRawEventData(QStringLiteral("KBDRL:%1:0\n").arg(code), display);
+  }
+}
+
+bool IsUnderWay() {
+  const Replayer::State state = Replayer::GetInstance()->GetState();
+  return state == Replayer::State::kPlaying || state == Replayer::State::kPaused;
+}
+
+}  // namespace
+
+ReplayDock::ReplayDock(const GuestScreen* player, QWidget* parent)
+    : QDockWidget(QStringLiteral("Replays"), parent),
+      player_(player),
+      own_(new GuestScreen(WindowHost::kReplayDisplay, GuestScreen::Texts::kLeft)),
+      frame_(new GuestFrame(own_)) {
+  setObjectName(QStringLiteral("replays"));
+  setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  frame_->setMinimumHeight(kLeastHeight);
+  setWidget(frame_);
+}
+
+void ReplayDock::SetInUse(bool in_use) {
+  InputPort::GetInstance()->LetGoBy([this, in_use] { in_use ? LiftOnPlayers() : LiftOnOwn(); });
+  taviinputmanager::UpdateReplayDisplayId(in_use ? WindowHost::kReplayDisplay : WindowHost::kDisplay);
+  setVisible(in_use);
+}
+
+// All that is down there is a replay's.
+void ReplayDock::LiftOnOwn() const {
+  const GuestState& state = own_->Model().state();
+  if (!state.contacts.isEmpty()) {
+    taviinputmanager::OnInputRawEventData(QStringLiteral("SLOTRELEASEALL\n"), WindowHost::kReplayDisplay);
+  }
+  LiftKeys(state, WindowHost::kReplayDisplay);
+}
+
+// What the player holds goes as well: one cannot tell whose a finger is.
+void ReplayDock::LiftOnPlayers() const {
+  if (!IsUnderWay()) return;
+  taviinputmanager::OnResetInputStatus(true, WindowHost::kDisplay);
+  LiftKeys(player_->Model().state(), WindowHost::kDisplay);
+}
+
+void ReplayDock::closeEvent(QCloseEvent* event) {
+  QDockWidget::closeEvent(event);
+  Q_EMIT Closed();
+}
+
+}  // namespace tavi
