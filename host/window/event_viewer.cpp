@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "host/window/end_follower.h"
 #include "host/window/event_log.h"
 #include "host/window/theme.h"
 
@@ -81,12 +82,7 @@ EventViewer::EventViewer(EventLog* log, QWidget* parent) : QWidget(parent), log_
   layout->addWidget(table_);
   table_->setMinimumHeight(kLeastHeight);
   SizeColumns();
-  // Goes on showing the end, unless someone has scrolled up to read.
-  connect(log, &EventLog::rowsAboutToBeInserted, this, [this] {
-    const QScrollBar* bar = table_->verticalScrollBar();
-    is_at_end_ = bar->value() == bar->maximum();
-  });
-  connect(log, &EventLog::rowsInserted, this, &EventViewer::FollowEnd, Qt::QueuedConnection);
+  new EndFollower(table_->verticalScrollBar());
 }
 
 void EventViewer::SizeColumns() {
@@ -94,10 +90,6 @@ void EventViewer::SizeColumns() {
   for (int column = 0; column < EventLog::kColumnCount - 1; ++column) {
     table_->setColumnWidth(column, kWidths[column] * character + character);
   }
-}
-
-void EventViewer::FollowEnd() {
-  if (is_at_end_) table_->scrollToBottom();
 }
 
 QString EventViewer::TextForKeymap() const {

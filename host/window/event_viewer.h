@@ -25,11 +25,9 @@ class EventViewer : public QWidget {
 
  private:
   void SizeColumns();
-  void FollowEnd();
 
   EventLog* log_;
   QTableView* table_;
-  bool is_at_end_ = true;
 };
 
 }  // namespace tavi

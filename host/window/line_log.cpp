@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "host/guest_line.h"
+#include "host/window/end_follower.h"
 #include "host/window/theme.h"
 
 namespace tavi {
@@ -92,15 +93,17 @@ QToolButton* MakeButton(const QString& text, const QString& hint, QWidget* paren
 
 }  // namespace
 
-LineLog::LineLog(QWidget* parent) : QWidget(parent), text_(MakeText(this)) {
+LineLog::LineLog(QWidget* parent)
+    : QWidget(parent), text_(MakeText(this)), end_(new EndFollower(text_->verticalScrollBar())) {
   auto* calls = MakeButton(QStringLiteral("Calls"), QStringLiteral("List the calls of the host as well"), this);
   calls->setCheckable(true);
   connect(calls, &QToolButton::toggled, this, [this](bool shown) { calls_shown_ = shown; });
   auto* pause = MakeButton(QStringLiteral("Pause"), QStringLiteral("Leave out what comes from now on"), this);
   pause->setCheckable(true);
   connect(pause, &QToolButton::toggled, this, [this](bool paused) { paused_ = paused; });
-  auto* copy = MakeButton(QStringLiteral("Copy"), QStringLiteral("Copy the whole list"), this);
-  connect(copy, &QToolButton::clicked, this, [this] { QApplication::clipboard()->setText(Text()); });
+  auto* copy = MakeButton(QStringLiteral("Copy"),
+                          QStringLiteral("Copy the whole list, as a timeline that tavi guest-uinput plays"), this);
+  connect(copy, &QToolButton::clicked, this, [this] { QApplication::clipboard()->setText(Timeline()); });
   auto* clear = MakeButton(QStringLiteral("Clear"), QStringLiteral("Empty the list"), this);
   connect(clear, &QToolButton::clicked, this, &LineLog::Clear);
 
@@ -123,6 +126,7 @@ void LineLog::Add(const TimelineEntry& entry) {
 
 void LineLog::Clear() {
   waiting_.clear();
+  shown_.clear();
   text_->clear();
 }
 
@@ -134,20 +138,30 @@ void LineLog::timerEvent(QTimerEvent* event) {
   Flush();
 }
 
-// Goes on showing the end, unless someone has scrolled up to read.
 void LineLog::Flush() {
-  QScrollBar* bar = text_->verticalScrollBar();
-  const bool is_at_end = bar->value() == bar->maximum();
+  const bool follows = end_->IsFollowing();
+  Append(waiting_);
+  shown_.insert(shown_.end(), waiting_.begin(), waiting_.end());
+  while (shown_.size() > static_cast<size_t>(kMostLines)) shown_.pop_front();
+  waiting_.clear();
+  if (follows) end_->GoToEnd();
+}
+
+void LineLog::Append(const QVector<TimelineEntry>& entries) {
   QTextCursor cursor(text_->document());
   cursor.movePosition(QTextCursor::End);
   cursor.beginEditBlock();
-  for (const TimelineEntry& entry : waiting_) {
+  for (const TimelineEntry& entry : entries) {
     if (!cursor.atStart()) cursor.insertBlock();
     AppendEntry(&cursor, entry);
   }
   cursor.endEditBlock();
-  waiting_.clear();
-  if (is_at_end) bar->setValue(bar->maximum());
+}
+
+QString LineLog::Timeline() const {
+  QString timeline;
+  for (const TimelineEntry& entry : shown_) timeline += FormatLine(entry);
+  return timeline;
 }
 
 }  // namespace tavi

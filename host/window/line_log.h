@@ -1,6 +1,8 @@
 #ifndef HOST_WINDOW_LINE_LOG_H_
 #define HOST_WINDOW_LINE_LOG_H_
 
+#include <deque>
+
 #include <QBasicTimer>
 #include <QVector>
 #include <QWidget>
@@ -10,6 +12,8 @@
 class QPlainTextEdit;
 
 namespace tavi {
+
+class EndFollower;
 
 // Lists what went to the guest, and if wanted the calls of the host, with times, the latest at the bottom.
 class LineLog : public QWidget {
@@ -22,6 +26,8 @@ class LineLog : public QWidget {
   void Clear();
   // As shown, without colours.
   QString Text() const;
+  // The same as a timeline, which `tavi guest-uinput --timeline` plays.
+  QString Timeline() const;
 
  protected:
   void timerEvent(QTimerEvent* event) override;
@@ -29,7 +35,11 @@ class LineLog : public QWidget {
  private:
   void Flush();
 
+  void Append(const QVector<TimelineEntry>& entries);
+
   QPlainTextEdit* text_;
+  EndFollower* end_;
+  std::deque<TimelineEntry> shown_;
   QVector<TimelineEntry> waiting_;  // shown together at the next timeout: a finger that moves makes many lines
   QBasicTimer flushing_;
   bool paused_ = false;

@@ -3,9 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QToolButton>
 
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "host/uinput/timeline_line.h"
 
 namespace tavi {
 namespace {
@@ -27,6 +31,8 @@ class LineLogTest : public testing::Test {
     return log_->Text().toStdString();
   }
 
+  VirtualEventDispatcher* clock_;
+
  private:
   static VirtualEventDispatcher* InstallClock() {
     auto* clock = new VirtualEventDispatcher;
@@ -34,7 +40,6 @@ class LineLogTest : public testing::Test {
     return clock;
   }
 
-  VirtualEventDispatcher* clock_;
   int argument_count_ = 0;
   char* arguments_[1] = {nullptr};
   QApplication application_;
@@ -69,6 +74,51 @@ TEST_F(LineLogTest, LeavesOutWhatComesDuringAPause) {
   EXPECT_EQ(Shown(), "     2ms 1:KBDRL:30:0");
   Push(QStringLiteral("Clear"));
   EXPECT_EQ(Shown(), "");
+}
+
+// 200 lines are more than are seen at once, at either height.
+TEST_F(LineLogTest, FollowsTheEndWhenItsSizeChanges) {
+  log_->resize(500, 600);
+  log_->show();
+  for (int i = 0; i < 200; ++i) log_->Add({i, Source::kLine, QStringLiteral("1:KBDPR:158:1")});
+  Shown();
+  const QScrollBar* bar = log_->findChild<QPlainTextEdit*>()->verticalScrollBar();
+  ASSERT_EQ(bar->value(), bar->maximum());
+  for (const int height : {200, 500, 300}) {
+    log_->resize(500, height);
+    clock_->Settle();
+    EXPECT_EQ(bar->value(), bar->maximum()) << height;
+    log_->Add({200, Source::kLine, QStringLiteral("1:KBDRL:158:0")});
+    Shown();
+    EXPECT_EQ(bar->value(), bar->maximum()) << height;
+  }
+}
+
+TEST_F(LineLogTest, StaysWhereSomeoneReads) {
+  log_->resize(500, 300);
+  log_->show();
+  for (int i = 0; i < 200; ++i) log_->Add({i, Source::kLine, QStringLiteral("1:KBDPR:158:1")});
+  Shown();
+  QScrollBar* bar = log_->findChild<QPlainTextEdit*>()->verticalScrollBar();
+  bar->setValue(20);
+  log_->resize(500, 200);
+  log_->Add({200, Source::kLine, QStringLiteral("1:KBDRL:158:0")});
+  Shown();
+  EXPECT_EQ(bar->value(), 20);
+}
+
+TEST_F(LineLogTest, WhatIsCopiedIsATimelineThatCanBePlayed) {
+  log_->Add({8, Source::kLine, QStringLiteral("1:KBDPR:158:1")});
+  log_->Add({1234, Source::kText, QStringLiteral("TEXT:a\nb")});
+  Shown();
+  Push(QStringLiteral("Copy"));
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "8ms 1:KBDPR:158:1\n1234ms text TEXT:a\\nb\n");
+  const auto line = ReadTimelineLine(QStringLiteral("8ms 1:KBDPR:158:1"));
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->ms, 8);
+  Push(QStringLiteral("Clear"));
+  Push(QStringLiteral("Copy"));
+  EXPECT_EQ(QApplication::clipboard()->text(), QString());
 }
 
 }  // namespace
