@@ -58,7 +58,7 @@ void ContactPainter::PaintWay(const ContactTrail& trail, qint64 now_ms) {
   }
 }
 
-// A ring, so that the key below stays legible, and the slot's number at its upper right.
+// A ring, and the slot's number at its upper right. Keys and labels are painted over it.
 void ContactPainter::PaintFinger(int slot, const QPointF& center, double strength) {
   const QColor color = theme::SlotColor(slot);
   painter_->setPen(QPen(Faded(color, strength), 3));

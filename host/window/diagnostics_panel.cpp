@@ -79,6 +79,7 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   scroll_->setWidget(findings_);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
+  title_->setWordWrap(true);  // or it would ask for the width of its sentence
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(12, 8, 12, 8);
   layout->addWidget(title_);
@@ -86,19 +87,34 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   hide();
 }
 
-void DiagnosticsPanel::Show(const KeymapSource& source, const QVector<PlacedFinding>& placed) {
-  const tavikeymapmanager::LoadResult& keymap = source.LastRead();
+void DiagnosticsPanel::Show(const KeymapSource& source, const Findings& findings) {
   QString rows;
-  for (int i = 0; i < keymap.diagnostics.size(); ++i) {
-    rows += FindingHtml(keymap.diagnostics[i], FindPlaced(placed, i));
+  for (int i = 0; i < findings.all.size(); ++i) {
+    rows += FindingHtml(findings.all[i], FindPlaced(findings.placed, i));
   }
   findings_->setText(QStringLiteral("<table cellspacing=0>") + rows + QStringLiteral("</table>"));
   findings_->adjustSize();
-  scroll_->setFixedHeight(qMin(findings_->height(), kMostHeight));
-  const QColor& color = keymap.HasErrors() ? theme::kError : theme::kWarning;
-  title_->setText(QStringLiteral("<b style='color:%1'>%2</b>")
-                      .arg(color.name(), StateText(keymap.HasErrors(), source.KeepsEarlierState()).arg(subject_)));
-  setVisible(!keymap.diagnostics.isEmpty());
+  has_findings_ = !findings.all.isEmpty();
+  const bool has_errors = source.LastRead().HasErrors();
+  const QColor& color = has_errors ? theme::kError : has_findings_ ? theme::kWarning : theme::kFaintText;
+  const QString text =
+      has_findings_ ? StateText(has_errors, source.KeepsEarlierState()) : QStringLiteral("%1 has no mistakes.");
+  title_->setText(QStringLiteral("<b style='color:%1'>%2</b>").arg(color.name(), text.arg(subject_)));
+  Arrange();
+}
+
+void DiagnosticsPanel::KeepHeight(int height) {
+  kept_height_ = height;
+  Arrange();
+}
+
+void DiagnosticsPanel::Arrange() {
+  const bool is_own = kept_height_ == kOwnHeight;
+  scroll_->setMinimumHeight(is_own ? qMin(findings_->height(), kMostHeight) : 0);
+  scroll_->setMaximumHeight(is_own ? scroll_->minimumHeight() : QWIDGETSIZE_MAX);
+  setMinimumHeight(is_own ? 0 : kept_height_);
+  setMaximumHeight(is_own ? QWIDGETSIZE_MAX : kept_height_);
+  setVisible(is_own ? has_findings_ : kept_height_ > 0);
 }
 
 }  // namespace tavi

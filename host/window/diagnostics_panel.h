@@ -11,7 +11,7 @@ class QScrollArea;
 namespace tavi {
 
 class KeymapSource;
-struct PlacedFinding;
+struct Findings;
 
 // Tells in place what is wrong with the keymap in use. Hidden while there is nothing to tell.
 class DiagnosticsPanel : public QFrame {
@@ -22,17 +22,26 @@ class DiagnosticsPanel : public QFrame {
   explicit DiagnosticsPanel(const QString& subject, QWidget* parent = nullptr);
 
   // `placed` are those of its findings that are marked on the guest's screen.
-  void Show(const KeymapSource& source, const QVector<PlacedFinding>& placed);
+  void Show(const KeymapSource& source, const Findings& findings);
+  // From now on the panel is so high, whatever there is to tell: what lies below must not move under the pointer. 0 is
+  // hidden; kOwnHeight: as high as what it tells, as at first.
+  void KeepHeight(int height);
+  static constexpr int kOwnHeight = -1;
+  static constexpr int kEditingHeight = 72;
 
  Q_SIGNALS:
   // A finding that is marked was clicked at.
   void FindingChosen(const QString& label);
 
  private:
+  void Arrange();
+
   const QString subject_;
   QLabel* title_;
   QLabel* findings_;
   QScrollArea* scroll_;
+  bool has_findings_ = false;
+  int kept_height_ = kOwnHeight;
 };
 
 }  // namespace tavi

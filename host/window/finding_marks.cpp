@@ -1,7 +1,7 @@
 #include "host/window/finding_marks.h"
 
+#include <QFontMetricsF>
 #include <QHelpEvent>
-#include <QLineF>
 #include <QPainter>
 #include <QTimerEvent>
 #include <QToolTip>
@@ -23,9 +23,21 @@ constexpr int kTextHeight = 11;
 
 FindingMarks::FindingMarks(QWidget* view) : QWidget(view) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  resize(view->size());
-  view->installEventFilter(this);
+  QFont bold = font();
+  bold.setPixelSize(kTextHeight);
+  bold.setBold(true);
+  setFont(bold);
   hide();
+  Cover(view);
+}
+
+void FindingMarks::Cover(QWidget* view) {
+  parentWidget()->removeEventFilter(this);
+  setParent(view);
+  view->installEventFilter(this);
+  resize(view->size());
+  raise();
+  setVisible(!findings_.isEmpty());
 }
 
 void FindingMarks::Show(const QVector<PlacedFinding>& findings) {
@@ -59,10 +71,17 @@ QPointF FindingMarks::PlaceOf(int number) const {
   return {qBound(kRadius, x, qMax(kRadius, width() - kRadius)), qBound(kRadius, y, qMax(kRadius, height() - kRadius))};
 }
 
+QRectF FindingMarks::PlateOf(int number) const {
+  const double text = QFontMetricsF(font()).horizontalAdvance(findings_[number].label);
+  QRectF plate(0, 0, qMax(kRadius * 2, text + kRadius), kRadius * 2);
+  plate.moveCenter(PlaceOf(number));
+  return plate;
+}
+
 QString FindingMarks::MessagesAt(const QPointF& place) const {
   QStringList messages;
   for (int i = 0; i < findings_.size(); ++i) {
-    if (QLineF(PlaceOf(i), place).length() <= kRadius) messages += findings_[i].message;
+    if (PlateOf(i).contains(place)) messages += findings_[i].message;
   }
   return messages.join(QLatin1Char('\n'));
 }
@@ -87,13 +106,8 @@ void FindingMarks::timerEvent(QTimerEvent* event) {
 void FindingMarks::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  QFont font = painter.font();
-  font.setPixelSize(kTextHeight);
-  font.setBold(true);
-  painter.setFont(font);
   for (int i = 0; i < findings_.size(); ++i) {
     const QColor color = findings_[i].is_error ? theme::kError : theme::kWarning;
-    const QPointF center = PlaceOf(i);
     if (findings_[i].label == flashing_) {
       QColor glow = color;
       glow.setAlpha(0x50);
@@ -104,10 +118,9 @@ void FindingMarks::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setPen(QPen(theme::kBackdrop, 1.5));
     painter.setBrush(color);
-    painter.drawEllipse(center, kRadius, kRadius);
+    painter.drawRoundedRect(PlateOf(i), kRadius, kRadius);
     painter.setPen(theme::kBackdrop);
-    painter.drawText(QRectF(center.x() - kRadius, center.y() - kRadius, kRadius * 2, kRadius * 2), Qt::AlignCenter,
-                     findings_[i].label);
+    painter.drawText(PlateOf(i), Qt::AlignCenter, findings_[i].label);
   }
 }
 

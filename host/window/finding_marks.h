@@ -17,6 +17,8 @@ class FindingMarks : public QWidget {
  public:
   // Becomes the view's child, and covers it.
   explicit FindingMarks(QWidget* view);
+  // The same of another widget in its place, such as an editor that lies on the view.
+  void Cover(QWidget* view);
 
   void Show(const QVector<PlacedFinding>& findings);
   // Lights a mark up for a moment.
@@ -32,6 +34,8 @@ class FindingMarks : public QWidget {
 
  private:
   QPointF PlaceOf(int number) const;
+  // A number of several signs needs a longer plate.
+  QRectF PlateOf(int number) const;
   // What there is to say at a place of the view.
   QString MessagesAt(const QPointF& place) const;
 

@@ -58,8 +58,9 @@ void GuestScreen::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   PaintBackground(&painter);
-  PaintUnderFingers(&painter);
-  PaintGuest(&painter);
+  ContactPainter(&painter, WindowHost::GetInstance()->Geometry(), size()).PaintTrails(trails_, clock_.elapsed());
+  PaintOverFingers(&painter);
+  PaintPointer(&painter);
 }
 
 void GuestScreen::PaintBackground(QPainter* painter) const {
@@ -78,11 +79,10 @@ void GuestScreen::PaintBackground(QPainter* painter) const {
   }
 }
 
-void GuestScreen::PaintGuest(QPainter* painter) const {
+void GuestScreen::PaintPointer(QPainter* painter) const {
   const GuestState& state = model_.state();
   const qint64 now_ms = clock_.elapsed();
   ContactPainter contacts(painter, WindowHost::GetInstance()->Geometry(), size());
-  contacts.PaintTrails(trails_, now_ms);
   const double wheel_strength = 1.0 - static_cast<double>(now_ms - wheel_ms_) / kWheelFadeMs;
   if (wheel_strength > 0) contacts.PaintWheel(state.wheel, wheel_strength);
   if (state.pointer) contacts.PaintPointer(*state.pointer);

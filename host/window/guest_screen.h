@@ -38,13 +38,13 @@ class GuestScreen : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
 
-  // What lies on the glass, under the fingers.
-  virtual void PaintUnderFingers(QPainter* /*painter*/) {}
+  // What is read while fingers are on it.
+  virtual void PaintOverFingers(QPainter* /*painter*/) {}
 
  private:
   void TakeEntry(const TimelineEntry& entry);
   void PaintBackground(QPainter* painter) const;
-  void PaintGuest(QPainter* painter) const;
+  void PaintPointer(QPainter* painter) const;
 
   GuestModel model_;
   const Texts texts_;

@@ -195,7 +195,7 @@ void GuestView::ReleaseInput() {
 
 // ---- Drawing
 
-void GuestView::PaintUnderFingers(QPainter* painter) {
+void GuestView::PaintOverFingers(QPainter* painter) {
   if (overlay_shown_) {
     painter->setOpacity(overlay_dimmed_ ? kDimmed : 1);
     overlay_.Paint(painter, size());

@@ -46,7 +46,7 @@ class GuestView : public GuestScreen {
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void focusOutEvent(QFocusEvent* event) override;
-  void PaintUnderFingers(QPainter* painter) override;
+  void PaintOverFingers(QPainter* painter) override;
 
  private:
   void TakeInputStatus(int status);

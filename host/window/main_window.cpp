@@ -13,6 +13,7 @@
 #include "host/keymap_report.h"
 #include "host/window/diagnostics_panel.h"
 #include "host/window/dock_folder.h"
+#include "host/window/edit_layer.h"
 #include "host/window/event_log.h"
 #include "host/window/event_viewer.h"
 #include "host/window/finding_marks.h"
@@ -55,9 +56,11 @@ KeyCombination KeyOf(const char* name) {
   return key;
 }
 
-QString TitleOf(const QString& name, const QString& path) {
-  if (path.isEmpty()) return QStringLiteral("tavi");
-  return (name.isEmpty() ? QFileInfo(path).fileName() : name) + QStringLiteral(" \u2013 tavi");
+// The parts of a title, of which any may be missing, and the program.
+QString TitleOf(QStringList parts) {
+  parts.removeAll(QString());
+  parts += QStringLiteral("tavi");
+  return parts.join(QStringLiteral(" \u2013 "));
 }
 
 QString PadsText(const Gamepads& pads) {
@@ -101,6 +104,7 @@ MainWindow::MainWindow()
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
   finding_marks_ = new FindingMarks(view_);
+  connect(editor_->Switch(), &QAction::toggled, this, &MainWindow::SetEditing);
   new StateCorner(&state_, view_);
   for (const DiagnosticsPanel* panel : {keymap_.diagnostics, joystick_keymap_.diagnostics}) {
     connect(panel, &DiagnosticsPanel::FindingChosen, finding_marks_, &FindingMarks::Flash);
@@ -175,6 +179,7 @@ void MainWindow::MakeFullScreen() {
 
 void MainWindow::MakeStatusBar() {
   connect(mirrors_, &MirrorLabel::Message, this, &MainWindow::Tell);
+  connect(mirrors_, &MirrorLabel::Changed, this, &MainWindow::ShowTitle);
   keymap_label_->setMinimumWidth(1);  // a long name must not widen the window
   statusBar()->addWidget(keymap_label_, 1);
   for (QLabel* label : {state_label_, static_cast<QLabel*>(mirrors_), pad_label_}) {
@@ -316,8 +321,13 @@ void MainWindow::Take(const KeymapSource& source, Keymap* keymap) {
   keymap->path = path;
   keymap->contents = QStringLiteral("%1 \u00B7 %2").arg(QFileInfo(path).fileName(), ItemCountText(in_use));
   keymap->marks = MarksOf(in_use);
-  keymap->findings = PlaceFindings(source, keymap == &joystick_keymap_ ? QStringLiteral("G") : QString());
-  keymap->diagnostics->Show(source, keymap->findings);
+  Findings findings;
+  findings.all = source.LastRead().diagnostics;
+  if (!source.LastRead().HasErrors()) findings.all += reserved_keys_.FindingsIn(in_use);
+  const QString prefix = keymap == &joystick_keymap_ ? QStringLiteral("G") : QString();
+  findings.placed = PlaceFindings(source, findings.all, prefix);
+  keymap->findings = findings.placed;
+  keymap->diagnostics->Show(source, findings);
 }
 
 // Watched from before it is read, so that no change is missed.
@@ -326,8 +336,8 @@ void MainWindow::LoadKeymap(const QString& path) {
   mapping_.Read(path);
   Take(mapping_.Keymap(), &keymap_);
   const tavikeymapmanager::LoadResult& in_use = mapping_.Keymap().InUse();
-  setWindowModified(false);
-  setWindowTitle(TitleOf(in_use.name, path));
+  name_ = in_use.name.isEmpty() ? QFileInfo(path).fileName() : in_use.name;
+  ShowTitle();
   records_->SetApp(in_use.name);
   ShowKeymaps();
   for (const QString& key : reserved_keys_.FindIn(in_use.config.get())) {
@@ -355,10 +365,24 @@ void MainWindow::ShowEdited() {
   const bool is_empty = editor_->IsOn() && document->ItemCount() == 0 && document->Refusal().isEmpty();
   if (is_empty)
     view_->SetHint(QStringLiteral("No items yet. Click with the right button where the first one is to be."));
-  setWindowModified(false);
-  setWindowTitle(TitleOf(document->Keymap().name, document->Path()) +
-                 (document->IsModified() ? QStringLiteral("[*]") : QString()));
-  setWindowModified(document->IsModified());
+  const QString& name = document->Keymap().name;
+  name_ = name.isEmpty() ? QFileInfo(document->Path()).fileName() : name;
+  ShowTitle();
+}
+
+void MainWindow::ShowTitle() {
+  const bool is_modified = editor_->Document()->IsModified();
+  setWindowModified(false);  // a title without a place for it must not find it on
+  setWindowTitle(TitleOf({name_, mirrors_->TitlePart()}) + (is_modified ? QStringLiteral("[*]") : QString()));
+  setWindowModified(is_modified);
+}
+
+void MainWindow::SetEditing(bool editing) {
+  state_.SetEditing(editing);
+  keymap_.diagnostics->KeepHeight(editing ? DiagnosticsPanel::kEditingHeight : DiagnosticsPanel::kOwnHeight);
+  DiagnosticsPanel* other = joystick_keymap_.diagnostics;
+  other->KeepHeight(!editing ? DiagnosticsPanel::kOwnHeight : other->isHidden() ? 0 : other->height());
+  finding_marks_->Cover(editing ? static_cast<QWidget*>(editor_->Layer()) : view_);
 }
 
 void MainWindow::UseEdited(const QString& file) {

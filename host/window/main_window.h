@@ -123,6 +123,8 @@ class MainWindow : public QMainWindow {
   // Takes in a keymap that was read.
   void Take(const KeymapSource& source, Keymap* keymap);
   void ShowEdited();
+  void ShowTitle();
+  void SetEditing(bool editing);
   void UseEdited(const QString& file);
   void TellVanished(const Keymap& keymap);
   static QString ContentsOf(const Keymap& keymap);
@@ -138,6 +140,7 @@ class MainWindow : public QMainWindow {
   QAction* full_screen_;
   KeymapEditor* editor_ = nullptr;
   KeymapSource edited_;  // the keymap as the editor has it
+  QString name_;         // of the keymap, for people
   Keymap keymap_;
   Keymap joystick_keymap_;
   LineLog* log_;

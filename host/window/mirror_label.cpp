@@ -60,6 +60,15 @@ void MirrorLabel::ShowMirrors() {
   if (!listens_as_.isEmpty()) texts += QStringLiteral("Listens as %1 (%2)").arg(listens_as_).arg(sources_);
   setText(texts.join(QStringLiteral(" \u00B7 ")));
   setVisible(!texts.isEmpty());
+  Q_EMIT Changed();
+}
+
+QString MirrorLabel::TitlePart() const {
+  QStringList parts;
+  if (!listens_as_.isEmpty()) parts += listens_as_;
+  const QStringList targets = MirrorTargets::GetInstance()->Names();
+  if (!targets.isEmpty()) parts += QStringLiteral("to ") + targets.join(QStringLiteral(", "));
+  return parts.join(QStringLiteral(" "));
 }
 
 }  // namespace tavi

@@ -26,7 +26,12 @@ class MirrorLabel : public QLabel {
   // Carries what the guest gets to the instances of these names.
   void MirrorTo(const QStringList& names);
 
+  // What tells this window from others of the same keymap; empty while it is in touch with none.
+  QString TitlePart() const;
+
  Q_SIGNALS:
+  // The title is another one.
+  void Changed();
   // For the person; `is_problem`: something went wrong.
   void Message(const QString& text, bool is_problem);
 

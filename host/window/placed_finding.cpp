@@ -7,7 +7,6 @@
 
 #include "host/window/keymap_source.h"
 #include "host/window/overlay_marks.h"
-#include "keymapmanager/keymap_file.h"
 
 namespace tavi {
 
@@ -76,12 +75,12 @@ int ItemAt(const km::LoadResult& keymap, int line, int column) {
 
 }  // namespace
 
-QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QString& prefix) {
+QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QVector<Diagnostic>& findings,
+                                     const QString& prefix) {
   const km::LoadResult& keymap = source.InUse();
   const Lines last = source.LastText().split('\n');
   const LineMap map(source.TextInUse().split('\n'), last);
   QVector<PlacedFinding> placed;
-  const QVector<Diagnostic>& findings = source.LastRead().diagnostics;
   for (int i = 0; i < findings.size(); ++i) {
     if (!IsAmongItems(last, findings[i].line)) continue;
     const int item = ItemAt(keymap, map.Before(findings[i].line), findings[i].column);

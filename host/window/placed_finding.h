@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+#include "keymapmanager/keymap_file.h"
+
 namespace tavi {
 
 class KeymapSource;
@@ -18,10 +20,17 @@ struct PlacedFinding {
   QPointF point;  // fractions of the display
 };
 
-// Those of the file's findings that have a place. Where an earlier state of the file is in use the items are those of
+// What there is to tell about a keymap, in the order of the file, and those of it that have a place.
+struct Findings {
+  QVector<tavikeymapmanager::Diagnostic> all;
+  QVector<PlacedFinding> placed;
+};
+
+// Those of the findings that have a place. Where an earlier state of the file is in use the items are those of
 // that state: lines before and behind what was changed stand for themselves, and those in between for what stood there.
 // Labels are numbers from 1 with `prefix` in front.
-QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QString& prefix);
+QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QVector<tavikeymapmanager::Diagnostic>& findings,
+                                     const QString& prefix);
 
 }  // namespace tavi
 

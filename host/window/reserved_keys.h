@@ -6,14 +6,17 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QVector>
 
 #include "host/window/key_combination.h"
 
 class QKeyEvent;
 
 namespace tavikeymapmanager {
+struct Diagnostic;
 struct KeymapConfig;
-}
+struct LoadResult;
+}  // namespace tavikeymapmanager
 
 namespace tavi {
 
@@ -36,6 +39,8 @@ class ReservedKeys : public QObject {
 
   // Those that an item of the keymap answers to, which will never get them.
   QStringList FindIn(tavikeymapmanager::KeymapConfig* config) const;
+  // A warning for each item of the keymap that one of them is taken from, in the order of the items.
+  QVector<tavikeymapmanager::Diagnostic> FindingsIn(const tavikeymapmanager::LoadResult& keymap) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

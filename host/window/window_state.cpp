@@ -5,6 +5,7 @@
 #include "host/window/replayer.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
+#include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/types.h"
 
 namespace tavi {
@@ -13,6 +14,8 @@ using taviinputmanager::InputStatus;
 using taviinputmanager::RecordStatus;
 
 namespace {
+
+bool IsUnusable(const KeymapSource& keymap) { return keymap.LastRead().HasErrors() && !keymap.KeepsEarlierState(); }
 
 void AddMouse(QVector<StateWord>* words) {
   switch (static_cast<InputStatus>(WindowHost::GetInstance()->InputStatus())) {
@@ -54,10 +57,19 @@ void WindowState::SetPauseKey(const QString& name) {
   Q_EMIT Changed();
 }
 
+void WindowState::SetEditing(bool editing) {
+  is_editing_ = editing;
+  Q_EMIT Changed();
+}
+
 StateWord WindowState::MappingWord() const {
+  if (is_editing_) return {QStringLiteral("Editing"), theme::kCast, true};
   if (mapping_->IsPaused()) return {QStringLiteral("Mapping off (%1: on)").arg(pause_key_), theme::kWarning, true};
   const bool is_earlier = mapping_->Keymap().KeepsEarlierState() || mapping_->JoystickKeymap().KeepsEarlierState();
   if (is_earlier) return {QStringLiteral("Mapping as before the last change"), theme::kWarning};
+  if (IsUnusable(mapping_->Keymap())) return {QStringLiteral("Keymap cannot be used"), theme::kError, true};
+  if (IsUnusable(mapping_->JoystickKeymap()))
+    return {QStringLiteral("Gamepad keymap cannot be used"), theme::kError, true};
   const bool has_keymap = !mapping_->Keymap().Path().isEmpty() || !mapping_->JoystickKeymap().Path().isEmpty();
   if (!has_keymap) return {QStringLiteral("No keymap"), theme::kFaintText};
   return {QStringLiteral("Mapping on"), theme::kWalk};

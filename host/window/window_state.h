@@ -30,6 +30,9 @@ class WindowState : public QObject {
   // Told with the word about a paused mapping.
   void SetPauseKey(const QString& name);
 
+  // Mouse and keys are an editor's.
+  void SetEditing(bool editing);
+
   // The mapping, then what else is on.
   QVector<StateWord> Words() const;
   StateWord MappingWord() const;
@@ -40,6 +43,7 @@ class WindowState : public QObject {
  private:
   const Mapping* mapping_;
   QString pause_key_;
+  bool is_editing_ = false;
 };
 
 }  // namespace tavi

@@ -1,11 +1,14 @@
 // What is wrong with a keymap, told in a list and marked where its items are.
+#include <QAction>
 #include <QFile>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QToolTip>
 
 #include "host/window/diagnostics_panel.h"
+#include "host/window/edit_layer.h"
 #include "host/window/finding_marks.h"
+#include "host/window/keymap_editor.h"
 #include "host/window/keymap_source.h"
 #include "host/window/placed_finding.h"
 #include "keymapmanager/keymap_file.h"
@@ -35,7 +38,7 @@ class Findings : public WindowFixture {
   static QByteArray Replaced(const char* before, const char* after) {
     return QByteArray(kTwins).replace(before, after);
   }
-  FindingMarks* Marks() const { return View()->findChild<FindingMarks*>(); }
+  FindingMarks* Marks() const { return Window()->findChild<FindingMarks*>(); }
   // What stands above the view, its links as their targets.
   QString Panel() const {
     QString text;
@@ -138,6 +141,43 @@ TEST_F(Findings, TheKeymapOfGamepadsHasLabelsOfItsOwn) {
   LoadJoystick("{type: Click, key: Pad A, point: [0.1, 0.2]}, {type: Click, key: Pad A, point: [0.3, 0.4]}");
   ExpectMarkAt("1", 0.75, 0.25);
   ExpectMarkAt("G1", 0.3, 0.4);
+}
+
+TEST_F(Findings, AKeyOfTheWindowIsOne) {
+  Save(Replaced("key: W", "key: F12"));
+  EXPECT_TRUE(Panel().contains("the window keeps F12 for itself")) << Panel().toStdString();
+  ExpectMarkAt("1", 0.5, 0.5);
+  Save(Replaced("key: W", "key: Backspace"));
+  EXPECT_TRUE(Panel().contains("the window keeps Ctrl+Alt+Backspace for itself"));
+  Save(Replaced("key: W", "key: F12 + R"));  // as a part of a chord, too
+  EXPECT_TRUE(Panel().contains("the window keeps F12 for itself")) << Panel().toStdString();
+}
+
+// While one edits a finding comes and goes with each key that is typed.
+TEST_F(Findings, AFindingDoesNotMoveTheViewWhileOneEdits) {
+  Save(kTwins);
+  Window()->Editor()->Switch()->setChecked(true);
+  clock_->Settle();
+  const QRect before = View()->geometry();
+  EXPECT_TRUE(Panel().contains("no mistakes"));
+  EXPECT_EQ(Window()->Editor()->Document()->SetField(1, "key", "Space"), QString());
+  LoadJoystick("{type: Click, key: Pad Q, point: [0.1, 0.2]}");
+  clock_->Settle();
+  EXPECT_TRUE(Marks()->isVisible());
+  EXPECT_EQ(View()->geometry(), before);
+  Window()->Editor()->Switch()->setChecked(false);
+  clock_->Settle();
+  EXPECT_TRUE(Panel().contains("gamepads"));
+}
+
+TEST_F(Findings, TheEditorDoesNotCoverANumber) {
+  Save(Replaced("key: E", "key: Space"));
+  EXPECT_EQ(Marks()->parentWidget(), View());
+  Window()->Editor()->Switch()->setChecked(true);
+  EXPECT_EQ(Marks()->parentWidget(), Window()->Editor()->Layer());
+  EXPECT_TRUE(Marks()->isVisible());
+  Window()->Editor()->Switch()->setChecked(false);
+  EXPECT_EQ(Marks()->parentWidget(), View());
 }
 
 TEST_F(Findings, TheyGoWhenTheFileIsCorrect) {

@@ -186,6 +186,25 @@ TEST_F(GuestViewTest, ABrokenKeymapIsToldAndTakesNoKeys) {
 }
 
 // Everything that can be drawn at once. The picture is looked at by people; here it only has to come about.
+// The ring has a radius of 15 pixels at least, and the key's plate stands in its middle.
+TEST_F(GuestViewTest, AFingerLeavesTheKeyBelowItReadable) {
+  Load("{type: Click, label: Jump, key: Space, point: [0.5, 0.5]}");
+  const QRect key(View()->width() / 2 - 14, View()->height() / 2 - 6, 28, 12);
+  const QImage before = View()->grab(key).toImage();
+  Press(kSpace);
+  const QImage after = View()->grab(key).toImage();
+  int changed = 0;
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      const QColor one = before.pixelColor(x, y);
+      const QColor other = after.pixelColor(x, y);
+      // The plate lets an eighth of what is below it through.
+      if (qAbs(one.green() - other.green()) > 40) ++changed;
+    }
+  }
+  EXPECT_EQ(changed, 0);
+}
+
 TEST_F(GuestViewTest, DrawsAllThatAGuestCanHave) {
   Load(
       "{type: Swipehold, label: Walk, point: [0.2, 0.7], key_up: W, key_left: A, key_down: S, key_right: D},"

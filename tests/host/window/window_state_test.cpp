@@ -1,9 +1,11 @@
 // What the window says about its state, in the corner of the view and at the bottom.
 #include "host/window/window_state.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QStatusBar>
 
+#include "host/window/keymap_editor.h"
 #include "host/window/mirror_label.h"
 #include "host/window/record_bar.h"
 #include "host/window/replayer.h"
@@ -50,6 +52,32 @@ TEST_F(WindowStateTest, ABrokenChangeIsShown) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}");
   Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
   EXPECT_EQ(Texts(), QStringList("Mapping as before the last change"));
+}
+
+TEST_F(WindowStateTest, AKeymapThatCannotBeUsedIsNotOn) {
+  Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
+  EXPECT_EQ(Texts(), QStringList("Keymap cannot be used"));
+  EXPECT_TRUE(Bottom().contains("Keymap cannot be used"));
+  Load("");
+  LoadJoystick("{type: Clack, key: Pad A, point: [0.5, 0.5]}");
+  EXPECT_EQ(Texts(), QStringList("Gamepad keymap cannot be used"));
+}
+
+TEST_F(WindowStateTest, WhileOneEditsNothingIsMapped) {
+  Load("");
+  Window()->Editor()->Switch()->setChecked(true);
+  EXPECT_EQ(Texts(), QStringList("Editing"));
+  Window()->Editor()->Switch()->setChecked(false);
+  EXPECT_EQ(Texts(), QStringList("Mapping on"));
+}
+
+TEST_F(WindowStateTest, WindowsOfOneKeymapHaveTitlesOfTheirOwn) {
+  Load("", "name: Arena");
+  EXPECT_EQ(Window()->windowTitle(), QStringLiteral("Arena \u2013 tavi"));
+  EXPECT_EQ(Window()->Mirrors()->ListenAs("left"), QString());
+  EXPECT_EQ(Window()->windowTitle(), QStringLiteral("Arena \u2013 left \u2013 tavi"));
+  Load("", "name: Arena");
+  EXPECT_EQ(Window()->windowTitle(), QStringLiteral("Arena \u2013 left \u2013 tavi"));
 }
 
 TEST_F(WindowStateTest, TheMouseThatTurnsTheView) {
