@@ -24,6 +24,7 @@ _tavi_value() {
     "window --rotation") _tavi_words "0 90 180 270" ;;
     "window --pixel-ratio") return 0 ;;
     "window --background") _tavi_files png jpg jpeg webp bmp ;;
+    "window --look") return 0 ;;
     "window --pause-key") return 0 ;;
     "window --panic-key") return 0 ;;
     "window --record") _tavi_files json ;;
@@ -56,7 +57,7 @@ _tavi_value() {
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --guest --rotation --pixel-ratio --background --pause-key --panic-key --paused --fresh --events --record --replay --second-view --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --guest --rotation --pixel-ratio --background --look --pause-key --panic-key --paused --fresh --events --record --replay --second-view --listen --mirror --picture --after" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;

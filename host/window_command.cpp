@@ -45,6 +45,8 @@ constexpr char kHelp[] =
     "                   display (1): with others one sees which places go astray\n"
     "  --background PICTURE\n"
     "                   a picture (PNG, JPEG) in place of the guest's screen\n"
+    "  --look LOOK      the colours of the window: light, dark, or desktop for those of the\n"
+    "                   desktop (desktop)\n"
     "  --pause-key KEY  the key that switches the mapping off, so that everything reaches the\n"
     "                   guest as what it is, and on again (F12)\n"
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
@@ -84,6 +86,7 @@ const QString kGuest = QStringLiteral("--guest");
 const QString kRotation = QStringLiteral("--rotation");
 const QString kPixelRatio = QStringLiteral("--pixel-ratio");
 const QString kBackground = QStringLiteral("--background");
+const QString kLook = QStringLiteral("--look");
 const QString kPauseKey = QStringLiteral("--pause-key");
 const QString kPanicKey = QStringLiteral("--panic-key");
 const QString kPaused = QStringLiteral("--paused");
@@ -108,6 +111,7 @@ struct WindowOptions {
   int rotation = 0;
   double pixel_ratio = 1;
   QString background;  // empty: none
+  theme::Look look = theme::Look::kDesktop;
   KeyCombination pause_key;
   KeyCombination panic_key;
   bool is_paused = false;
@@ -202,6 +206,10 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (arguments.options.contains(kAfter) && options->picture.isEmpty()) {
     return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
   }
+  const QString look = arguments.options.value(kLook, theme::NameOf(theme::Look::kDesktop));
+  if (!theme::ParseLook(look, &options->look)) {
+    return QStringLiteral("%1 needs light, dark or desktop, not \"%2\"").arg(kLook, look);
+  }
   options->is_paused = arguments.options.contains(kPaused);
   options->is_fresh = arguments.options.contains(kFresh);
   options->shows_events = arguments.options.contains(kEvents);
@@ -256,6 +264,7 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
 }
 
 int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
+  theme::Apply(qApp, options.look);
   MainWindow window;
   memory->Restore(&window);
   if (options.guest_size) window.Display()->SetSize(*options.guest_size);
@@ -329,7 +338,6 @@ int Run(const Invocation& invocation) {
   QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   QApplication application(invocation.argc, invocation.argv);
-  theme::Apply(&application);
   // The application has taken out what is Qt's own, such as -platform.
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));
   WindowOptions options;

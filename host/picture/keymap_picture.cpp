@@ -24,8 +24,8 @@ void PaintBackground(QPainter* painter, const QImage& background, const QSizeF& 
     painter->drawPixmap(QRectF(QPointF(), view), QPixmap::fromImage(background), QRectF(background.rect()));
     return;
   }
-  painter->fillRect(QRectF(QPointF(), view), theme::kGuest);
-  painter->setPen(QPen(theme::kGrid, 1));
+  painter->fillRect(QRectF(QPointF(), view), theme::Colors().guest);
+  painter->setPen(QPen(theme::Colors().grid, 1));
   for (int i = 1; i < kGridLines; ++i) {
     const double x = view.width() * i / kGridLines;
     const double y = view.height() * i / kGridLines;

@@ -74,7 +74,7 @@ void ContactPainter::PaintFinger(int slot, const QPointF& center, double strengt
   font.setPixelSize(qRound(badge * 1.25));
   font.setBold(true);
   painter_->setFont(font);
-  painter_->setPen(Faded(theme::kBackdrop, strength));
+  painter_->setPen(Faded(theme::Colors().on_lit, strength));
   const QRectF place(badge_center.x() - badge, badge_center.y() - badge, badge * 2, badge * 2);
   painter_->drawText(place, Qt::AlignCenter, QString::number(slot));
 }
@@ -85,7 +85,7 @@ void ContactPainter::PaintPointer(const QPoint& touch) {
   arrow.closeSubpath();
   painter_->save();
   painter_->translate(Place(touch));
-  painter_->setPen(QPen(theme::kBackdrop, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter_->setPen(QPen(theme::Colors().backdrop, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter_->setBrush(Qt::white);
   painter_->drawPath(arrow);
   painter_->restore();
@@ -96,7 +96,7 @@ void ContactPainter::PaintWheel(const GuestWheelTurn& wheel, double strength) {
   painter_->save();
   painter_->translate(Place(wheel.point));
   painter_->setBrush(Qt::NoBrush);
-  painter_->setPen(QPen(Faded(theme::kText, strength), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter_->setPen(QPen(Faded(theme::Colors().text, strength), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const double start : {14.0, 22.0}) {
     painter_->drawPolyline(QPolygonF({{-9, way * start}, {0, way * (start + 8)}, {9, way * start}}));
   }

@@ -22,7 +22,7 @@ bool IsError(const Diagnostic& diagnostic) { return diagnostic.severity == Diagn
 // The number that a finding has on the screen, as a link; empty for one that is not there.
 QString LabelHtml(const PlacedFinding* placed) {
   if (!placed) return {};
-  const QColor& color = placed->is_error ? theme::kError : theme::kWarning;
+  const QColor& color = placed->is_error ? theme::Colors().error : theme::Colors().warning;
   return QStringLiteral("<a href='%1' style='color:%2; text-decoration:none'><b>\u25CF%1</b></a>&nbsp;")
       .arg(placed->label, color.name());
 }
@@ -31,15 +31,15 @@ QString MessageHtml(const QString& message, const PlacedFinding* placed) {
   const QString text = message.toHtmlEscaped();
   if (!placed) return text;
   return QStringLiteral("<a href='%1' style='color:%2; text-decoration:none'>")
-             .arg(placed->label, theme::kText.name()) +
+             .arg(placed->label, theme::Colors().text.name()) +
          text + QStringLiteral("</a>");
 }
 
 QString FindingHtml(const Diagnostic& diagnostic, const PlacedFinding* placed) {
-  const QColor& color = IsError(diagnostic) ? theme::kError : theme::kWarning;
+  const QColor& color = IsError(diagnostic) ? theme::Colors().error : theme::Colors().warning;
   return QStringLiteral("<tr><td>") + LabelHtml(placed) +
          QStringLiteral("</td><td align=right style='color:%1'>%2:%3&nbsp;</td><td style='color:%4'>%5&nbsp;</td>")
-             .arg(theme::kFaintText.name())
+             .arg(theme::Colors().faint_text.name())
              .arg(diagnostic.line)
              .arg(diagnostic.column)
              .arg(color.name(), IsError(diagnostic) ? QStringLiteral("error") : QStringLiteral("warning")) +
@@ -84,23 +84,31 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   layout->setContentsMargins(12, 8, 12, 8);
   layout->addWidget(title_);
   layout->addWidget(scroll_);
+  theme::Follow(this, [this] { Render(); });
   hide();
 }
 
 void DiagnosticsPanel::Show(const KeymapSource& source, const Findings& findings) {
+  shown_ = findings;
+  has_errors_ = source.LastRead().HasErrors();
+  keeps_earlier_ = source.KeepsEarlierState();
+  Render();
+  Arrange();
+}
+
+void DiagnosticsPanel::Render() {
   QString rows;
-  for (int i = 0; i < findings.all.size(); ++i) {
-    rows += FindingHtml(findings.all[i], FindPlaced(findings.placed, i));
+  for (int i = 0; i < shown_.all.size(); ++i) {
+    rows += FindingHtml(shown_.all[i], FindPlaced(shown_.placed, i));
   }
   findings_->setText(QStringLiteral("<table cellspacing=0>") + rows + QStringLiteral("</table>"));
   findings_->adjustSize();
-  has_findings_ = !findings.all.isEmpty();
-  const bool has_errors = source.LastRead().HasErrors();
-  const QColor& color = has_errors ? theme::kError : has_findings_ ? theme::kWarning : theme::kFaintText;
-  const QString text =
-      has_findings_ ? StateText(has_errors, source.KeepsEarlierState()) : QStringLiteral("%1 has no mistakes.");
+  const bool has_findings = !shown_.all.isEmpty();
+  const QColor& color = has_errors_    ? theme::Colors().error
+                        : has_findings ? theme::Colors().warning
+                                       : theme::Colors().faint_text;
+  const QString text = has_findings ? StateText(has_errors_, keeps_earlier_) : QStringLiteral("%1 has no mistakes.");
   title_->setText(QStringLiteral("<b style='color:%1'>%2</b>").arg(color.name(), text.arg(subject_)));
-  Arrange();
 }
 
 void DiagnosticsPanel::KeepHeight(int height) {
@@ -114,7 +122,7 @@ void DiagnosticsPanel::Arrange() {
   scroll_->setMaximumHeight(is_own ? scroll_->minimumHeight() : QWIDGETSIZE_MAX);
   setMinimumHeight(is_own ? 0 : kept_height_);
   setMaximumHeight(is_own ? QWIDGETSIZE_MAX : kept_height_);
-  setVisible(is_own ? has_findings_ : kept_height_ > 0);
+  setVisible(is_own ? !shown_.all.isEmpty() : kept_height_ > 0);
 }
 
 }  // namespace tavi

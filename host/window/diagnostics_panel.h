@@ -3,7 +3,8 @@
 
 #include <QFrame>
 #include <QString>
-#include <QVector>
+
+#include "host/window/placed_finding.h"
 
 class QLabel;
 class QScrollArea;
@@ -11,7 +12,6 @@ class QScrollArea;
 namespace tavi {
 
 class KeymapSource;
-struct Findings;
 
 // Tells in place what is wrong with the keymap in use. Hidden while there is nothing to tell.
 class DiagnosticsPanel : public QFrame {
@@ -34,13 +34,16 @@ class DiagnosticsPanel : public QFrame {
   void FindingChosen(const QString& label);
 
  private:
+  void Render();
   void Arrange();
 
   const QString subject_;
   QLabel* title_;
   QLabel* findings_;
   QScrollArea* scroll_;
-  bool has_findings_ = false;
+  Findings shown_;
+  bool has_errors_ = false;     // of the file as it is
+  bool keeps_earlier_ = false;  // and an earlier state is in use
   int kept_height_ = kOwnHeight;
 };
 

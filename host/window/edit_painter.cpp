@@ -46,8 +46,8 @@ void EditPainter::PaintSelected(const km::ConfigItem& item) const {
 }
 
 void EditPainter::PaintShape(const ItemHandle& handle) const {
-  painter_->setPen(QPen(Clear(theme::kText, 0xC0), 1.2, Qt::DashLine));
-  painter_->setBrush(Clear(theme::kText, 0x0C));
+  painter_->setPen(QPen(Clear(theme::Colors().text, 0xC0), 1.2, Qt::DashLine));
+  painter_->setBrush(Clear(theme::Colors().text, 0x0C));
   switch (handle.shape) {
     case Shape::kCircle: painter_->drawEllipse(handle.origin, handle.radius, handle.radius); break;
     case Shape::kArea: {
@@ -63,13 +63,13 @@ void EditPainter::PaintShape(const ItemHandle& handle) const {
 // The item's own point is a ring with four ticks, so that the key in it stays legible; all else is a knob.
 void EditPainter::PaintGrip(const ItemHandle& handle) const {
   if (handle.field != QLatin1String("point")) {
-    painter_->setPen(QPen(theme::kBackdrop, 1.5));
-    painter_->setBrush(theme::kText);
+    painter_->setPen(QPen(theme::Colors().backdrop, 1.5));
+    painter_->setBrush(theme::Colors().text);
     painter_->drawEllipse(handle.place, kGrip, kGrip);
     return;
   }
   painter_->setBrush(Qt::NoBrush);
-  painter_->setPen(QPen(theme::kText, 2));
+  painter_->setPen(QPen(theme::Colors().text, 2));
   painter_->drawEllipse(handle.place, kSelectedRing, kSelectedRing);
   for (const QPointF& way : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)}) {
     painter_->drawLine(handle.place + way * kSelectedRing, handle.place + way * (kSelectedRing + kTick));
@@ -81,7 +81,7 @@ void EditPainter::PaintNumbers(const km::ConfigItem& item, const QPointF& place)
   const double half = QFontMetricsF(painter_->font(), painter_->device()).horizontalAdvance(text) / 2;
   const bool is_low = place.y() + kSelectedRing + kTick + kNumbersGap > view_.height();
   const double y = place.y() + (is_low ? -1 : 1) * (kSelectedRing + kNumbersGap);
-  PaintOutlinedText(painter_, text, {qBound(half, place.x(), view_.width() - half), y}, theme::kText);
+  PaintOutlinedText(painter_, text, {qBound(half, place.x(), view_.width() - half), y}, theme::Colors().text);
 }
 
 }  // namespace tavi

@@ -46,9 +46,9 @@ QVariant EventLog::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return static_cast<int>((index.column() == kTime ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-      if (index.column() == kTime || index.column() == kCode) return theme::kFaintText;
-      if (index.column() == kSent) return theme::kTap;
-      return row.event.kind == Kind::kRelease ? theme::kFaintText : theme::kText;
+      if (index.column() == kTime || index.column() == kCode) return theme::Colors().faint_text;
+      if (index.column() == kSent) return theme::Colors().tap;
+      return row.event.kind == Kind::kRelease ? theme::Colors().faint_text : theme::Colors().text;
     default: return {};
   }
 }

@@ -44,7 +44,8 @@ FieldEditor::FieldEditor(const FieldInfo& info, QWidget* parent) : QWidget(paren
   layout->addWidget(IsKeyKind(info.kind) ? MakeKey() : is_choice ? MakeChoice() : MakeLine());
   layout->addWidget(problem_);
   problem_->setWordWrap(true);
-  problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::kError.name()));
+  theme::Follow(problem_,
+                [this] { problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::Colors().error.name())); });
   problem_->hide();
   setToolTip(IsEditable(info.kind) ? info.doc : info.doc + QStringLiteral(" (\"As text\" changes it)"));
 }

@@ -107,7 +107,7 @@ void FindingMarks::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   for (int i = 0; i < findings_.size(); ++i) {
-    const QColor color = findings_[i].is_error ? theme::kError : theme::kWarning;
+    const QColor color = findings_[i].is_error ? theme::Colors().error : theme::Colors().warning;
     if (findings_[i].label == flashing_) {
       QColor glow = color;
       glow.setAlpha(0x50);
@@ -116,10 +116,10 @@ void FindingMarks::paintEvent(QPaintEvent* /*event*/) {
       const QPointF point(findings_[i].point.x() * width(), findings_[i].point.y() * height());
       painter.drawEllipse(point, kFlashRadius, kFlashRadius);
     }
-    painter.setPen(QPen(theme::kBackdrop, 1.5));
+    painter.setPen(QPen(theme::Colors().backdrop, 1.5));
     painter.setBrush(color);
     painter.drawRoundedRect(PlateOf(i), kRadius, kRadius);
-    painter.setPen(theme::kBackdrop);
+    painter.setPen(theme::Colors().on_lit);
     painter.drawText(PlateOf(i), Qt::AlignCenter, findings_[i].label);
   }
 }

@@ -60,11 +60,11 @@ class GamepadPainter {
   void PaintStick(const QPointF& stick) {
     const double radius = place_.height() / 2 - 2;
     const QPointF center(left_ + radius, place_.center().y());
-    painter_->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
-    painter_->setBrush(theme::kBackdrop);
+    painter_->setPen(QPen(theme::Colors().panel_line.lighter(140), 1.5));
+    painter_->setBrush(theme::Colors().backdrop);
     painter_->drawEllipse(center, radius, radius);
     painter_->setPen(Qt::NoPen);
-    painter_->setBrush(stick.isNull() ? theme::kFaintText : theme::kTap);
+    painter_->setBrush(stick.isNull() ? theme::Colors().faint_text : theme::Colors().tap);
     painter_->drawEllipse(center + stick * (radius - 5), 5, 5);
     left_ += radius * 2 + 8;
   }
@@ -77,7 +77,7 @@ class GamepadPainter {
       const bool is_down = !way.isNull() && (way.x() != 0 ? way.x() == hat.x() : way.y() == hat.y());
       QRectF part(0, 0, arm, arm);
       part.moveCenter(middle + QPointF(way) * arm);
-      painter_->setBrush(is_down ? theme::kTap : theme::kPanelLine.lighter(140));
+      painter_->setBrush(is_down ? theme::Colors().tap : theme::Colors().panel_line.lighter(140));
       painter_->drawRect(part.adjusted(0.5, 0.5, -0.5, -0.5));
     }
     left_ += arm * 3 + 8;
@@ -85,8 +85,8 @@ class GamepadPainter {
 
   void PaintTrigger(bool is_down) {
     const QRectF bar(left_, place_.top() + 2, 9, place_.height() - 4);
-    painter_->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
-    painter_->setBrush(is_down ? theme::kTap : theme::kBackdrop);
+    painter_->setPen(QPen(theme::Colors().panel_line.lighter(140), 1.5));
+    painter_->setBrush(is_down ? theme::Colors().tap : theme::Colors().backdrop);
     painter_->drawRoundedRect(bar, 3, 3);
     left_ += bar.width() + 6;
   }
@@ -95,7 +95,7 @@ class GamepadPainter {
     left_ += 2;
     for (const QString& name : names) {
       const double width = KeyCapSize(*painter_, name).width();
-      PaintKeyCap(painter_, {name, theme::kTap, true}, {left_ + width / 2, place_.center().y()});
+      PaintKeyCap(painter_, {name, theme::Colors().tap, true}, {left_ + width / 2, place_.center().y()});
       left_ += width + 5;
     }
   }

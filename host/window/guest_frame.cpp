@@ -24,7 +24,7 @@ void GuestFrame::SetShape(const QSize& shape) {
 
 void GuestFrame::resizeEvent(QResizeEvent* /*event*/) { Place(); }
 
-void GuestFrame::paintEvent(QPaintEvent* /*event*/) { QPainter(this).fillRect(rect(), theme::kBackdrop); }
+void GuestFrame::paintEvent(QPaintEvent* /*event*/) { QPainter(this).fillRect(rect(), theme::Colors().backdrop); }
 
 void GuestFrame::Place() {
   const QSize size = shape_.isEmpty() ? this->size() : shape_.scaled(this->size(), Qt::KeepAspectRatio);

@@ -51,7 +51,7 @@ class SectionPainter {
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
     painter_->save();
     painter_->setFont(font);
-    painter_->setPen(theme::kFaintText);
+    painter_->setPen(theme::Colors().faint_text);
     painter_->drawText(QRectF(start, 4, width, kCaptionHeight - 4), Qt::AlignLeft | Qt::AlignVCenter,
                        painter_->fontMetrics().elidedText(caption, Qt::ElideRight, static_cast<int>(width) - kMargin));
     painter_->restore();
@@ -115,8 +115,8 @@ void GuestPanel::SetPreedit(const QString& preedit) {
 void GuestPanel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  painter.fillRect(rect(), theme::kPanel);
-  painter.fillRect(QRect(0, 0, width(), 1), theme::kPanelLine);
+  painter.fillRect(rect(), theme::Colors().panel);
+  painter.fillRect(QRect(0, 0, width(), 1), theme::Colors().panel_line);
   QFont font = painter.font();
   font.setPixelSize(12);
   painter.setFont(font);
@@ -139,7 +139,7 @@ void GuestPanel::paintEvent(QPaintEvent* /*event*/) {
 void GuestPanel::PaintMouse(QPainter* painter, const QRectF& place) const {
   const auto status = static_cast<InputStatus>(status_);
   const bool is_captured = status == InputStatus::Staring || status == InputStatus::Observing;
-  painter->setPen(is_captured ? theme::kView : theme::kText);
+  painter->setPen(is_captured ? theme::Colors().view : theme::Colors().text);
   painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter, MouseText(status_, staring_key_));
 }
 
@@ -151,11 +151,11 @@ void GuestPanel::PaintHeldKeys(QPainter* painter, const QRectF& place) const {
     const QString name = NameOfGuestKey(code);
     const double width = KeyCapSize(*painter, name).width();
     if (left + width > place.right()) break;
-    PaintKeyCap(painter, {name, theme::kWalk, true}, {left + width / 2, place.center().y()});
+    PaintKeyCap(painter, {name, theme::Colors().walk, true}, {left + width / 2, place.center().y()});
     left += width + 6;
   }
   if (!codes.isEmpty()) return;
-  painter->setPen(theme::kFaintText);
+  painter->setPen(theme::Colors().faint_text);
   painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("none"));
 }
 
@@ -166,10 +166,10 @@ void GuestPanel::PaintText(QPainter* painter, const QRectF& place) const {
   text.replace(QLatin1Char('\n'), QStringLiteral("\u21B5 "));
   const int width = static_cast<int>(place.width()) - 16;
   const QString shown = painter->fontMetrics().elidedText(text + preedit_, Qt::ElideLeft, width);
-  painter->setPen(QPen(is_focused ? theme::kTap : theme::kPanelLine, 1.5));
-  painter->setBrush(theme::kBackdrop);
+  painter->setPen(QPen(is_focused ? theme::Colors().tap : theme::Colors().panel_line, 1.5));
+  painter->setBrush(theme::Colors().backdrop);
   painter->drawRoundedRect(place.adjusted(0, 2, 0, -2), 4, 4);
-  painter->setPen(theme::kText);
+  painter->setPen(theme::Colors().text);
   const QRectF line = place.adjusted(8, 0, -8, 0);
   painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
                     shown + (is_focused ? QStringLiteral("\u258F") : QString()));
@@ -184,12 +184,12 @@ void GuestPanel::PaintText(QPainter* painter, const QRectF& place) const {
 void GuestPanel::PaintTilt(QPainter* painter, const QRectF& place) const {
   const double radius = place.height() / 2 - 1;
   const QPointF center(place.left() + radius, place.center().y());
-  painter->setPen(QPen(theme::kPanelLine.lighter(140), 1.5));
-  painter->setBrush(theme::kBackdrop);
+  painter->setPen(QPen(theme::Colors().panel_line.lighter(140), 1.5));
+  painter->setBrush(theme::Colors().backdrop);
   painter->drawEllipse(center, radius, radius);
   const QPointF tilt = *tilt_ / kMostTilt;
   painter->setPen(Qt::NoPen);
-  painter->setBrush(theme::kView);
+  painter->setBrush(theme::Colors().view);
   painter->drawEllipse(center + tilt * (radius - 5), 5, 5);
 }
 

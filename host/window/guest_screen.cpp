@@ -66,11 +66,11 @@ void GuestScreen::paintEvent(QPaintEvent* /*event*/) {
 void GuestScreen::PaintBackground(QPainter* painter) const {
   const QRectF area = rect();
   QRadialGradient light(area.center(), qMax(area.width(), area.height()) * 0.65);
-  light.setColorAt(0, theme::kGuest);
-  light.setColorAt(1, theme::kGuestEdge);
+  light.setColorAt(0, theme::Colors().guest);
+  light.setColorAt(1, theme::Colors().guest_edge);
   painter->fillRect(area, light);
   if (!background_.IsEmpty()) return background_.Paint(painter, area);
-  painter->setPen(QPen(theme::kGrid, 1));
+  painter->setPen(QPen(theme::Colors().grid, 1));
   for (int i = 1; i < kGridLines; ++i) {
     const double x = area.width() * i / kGridLines;
     const double y = area.height() * i / kGridLines;

@@ -206,7 +206,7 @@ void GuestView::PaintOverFingers(QPainter* painter) {
 
 void GuestView::PaintHint(QPainter* painter) const {
   if (hint_.isEmpty() || !Model().state().contacts.isEmpty()) return;
-  painter->setPen(theme::kFaintText);
+  painter->setPen(theme::Colors().faint_text);
   painter->drawText(rect().adjusted(kHintMargin, 0, -kHintMargin, 0), Qt::AlignCenter | Qt::TextWordWrap, hint_);
 }
 

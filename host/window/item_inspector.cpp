@@ -103,7 +103,10 @@ ItemInspector::ItemInspector(KeymapDocument* document, QWidget* parent)
     ShowPart();
   });
   connect(pane_, &SourcePane::Entered, this, &ItemInspector::EnterSource);
-  ShowPart();
+  theme::Follow(this, [this] {
+    ShowList();
+    ShowPart();
+  });
 }
 
 void ItemInspector::Show(int item) {
@@ -161,7 +164,7 @@ void ItemInspector::ShowList() {
   for (int block = 0; block < blocks; ++block) {
     QListWidgetItem* row = list_->item(document_->ItemCount() + block);
     row->setText(QLatin1String(kBlocks[block].name));
-    row->setForeground(theme::kFaintText);
+    row->setForeground(theme::Colors().faint_text);
   }
   list_->setCurrentRow(Row());
 }
@@ -194,10 +197,10 @@ void ItemInspector::ShowPart() {
 void ItemInspector::ShowTitle() {
   const auto title = [](const QString& name, const QColor& color, const QString& doc) {
     return QStringLiteral("<b style='color:%1'>%2</b><br><span style='color:%3'>%4</span>")
-        .arg(color.name(), name, theme::kFaintText.name(), doc.toHtmlEscaped());
+        .arg(color.name(), name, theme::Colors().faint_text.name(), doc.toHtmlEscaped());
   };
   for (const BlockRow& block : kBlocks) {
-    if (block_ == QLatin1String(block.name)) return title_->setText(title(block_, theme::kText, block.doc));
+    if (block_ == QLatin1String(block.name)) return title_->setText(title(block_, theme::Colors().text, block.doc));
   }
   if (item_ >= 0) {
     const km::ItemTypeInfo& type = document_->TypeOf(item_);

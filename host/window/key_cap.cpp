@@ -25,9 +25,9 @@ QRectF PaintKeyCap(QPainter* painter, const KeyCap& cap, const QPointF& center) 
   plate.moveCenter(center);
   const double corner = plate.height() * 0.28;
   painter->setPen(QPen(cap.color, 1.5));
-  painter->setBrush(cap.is_down ? cap.color : QColor(0x0B, 0x0E, 0x14, 0xE0));
+  painter->setBrush(cap.is_down ? cap.color : theme::Colors().plate);
   painter->drawRoundedRect(plate, corner, corner);
-  painter->setPen(cap.is_down ? theme::kBackdrop : theme::kText);
+  painter->setPen(cap.is_down ? theme::Colors().on_lit : theme::Colors().text);
   painter->drawText(plate, Qt::AlignCenter, cap.text);
   return plate;
 }
@@ -38,8 +38,7 @@ void PaintOutlinedText(QPainter* painter, const QString& text, const QPointF& ce
   path.addText(center.x() - metrics.horizontalAdvance(text) / 2,
                center.y() + (metrics.ascent() - metrics.descent()) / 2, painter->font(), text);
   painter->setBrush(Qt::NoBrush);
-  painter->strokePath(path,
-                      QPen(QColor(0x0B, 0x0E, 0x14, 0xD0), kOutlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->strokePath(path, QPen(theme::Colors().plate, kOutlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->fillPath(path, color);
 }
 

@@ -18,8 +18,7 @@ namespace {
 constexpr double kTextHeight = 0.022;  // of the view's height
 constexpr int kSmallestText = 9;       // pixels
 constexpr int kLargestText = 18;
-constexpr double kLabelSize = 0.85;          // of the size of key names
-const QColor kLabelColor(0xCD, 0xD4, 0xE0);  // fainter than key names, and legible on a bright picture
+constexpr double kLabelSize = 0.85;  // of the size of key names
 constexpr double kListMargin = 10;
 constexpr double kListGap = 4;
 constexpr double kKeyGap = 2;         // between two keys of one item
@@ -153,7 +152,7 @@ class MarkPainter {
 
   void PaintLabel(const QString& label, const QPointF& center) {
     painter_->setFont(label_font_);
-    PaintOutlinedText(painter_, label, center, kLabelColor);
+    PaintOutlinedText(painter_, label, center, theme::Colors().label);
     QRectF place(0, 0, LabelWidth(label), text_height_);
     place.moveCenter(center);
     taken_.append(place);
@@ -219,13 +218,13 @@ class MarkPainter {
 
 QColor ColorOf(Family family) {
   switch (family) {
-    case Family::kTap: return theme::kTap;
-    case Family::kWalk: return theme::kWalk;
-    case Family::kView: return theme::kView;
-    case Family::kCast: return theme::kCast;
-    case Family::kMacro: return theme::kMacro;
+    case Family::kTap: return theme::Colors().tap;
+    case Family::kWalk: return theme::Colors().walk;
+    case Family::kView: return theme::Colors().view;
+    case Family::kCast: return theme::Colors().cast;
+    case Family::kMacro: return theme::Colors().macro;
   }
-  return theme::kText;
+  return theme::Colors().text;
 }
 
 void KeymapOverlay::Paint(QPainter* painter, const QSizeF& view) const {

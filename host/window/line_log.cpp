@@ -28,25 +28,25 @@ constexpr int kLeastColumns = 44;  // a finger's press with its time
 
 QColor ColorOfKind(Kind kind) {
   switch (kind) {
-    case Kind::kUnknown: return theme::kError;
+    case Kind::kUnknown: return theme::Colors().error;
     case Kind::kSlotPress:
-    case Kind::kMultiPress: return theme::kTap;
+    case Kind::kMultiPress: return theme::Colors().tap;
     case Kind::kSlotRelease:
     case Kind::kSlotReleaseAll:
-    case Kind::kMultiRelease: return theme::kTap.darker(140);
-    case Kind::kKeyPress: return theme::kWalk;
-    case Kind::kKeyRelease: return theme::kWalk.darker(140);
+    case Kind::kMultiRelease: return theme::Colors().faint_text;
+    case Kind::kKeyPress: return theme::Colors().walk;
+    case Kind::kKeyRelease: return theme::Colors().faint_text;
     case Kind::kText:
-    case Kind::kTextControl: return theme::kCast;
+    case Kind::kTextControl: return theme::Colors().cast;
     case Kind::kMouseMove:
     case Kind::kWheel:
-    case Kind::kWheelWithDelta: return theme::kView;
-    default: return theme::kMacro;
+    case Kind::kWheelWithDelta: return theme::Colors().view;
+    default: return theme::Colors().macro;
   }
 }
 
 QColor ColorOf(const TimelineEntry& entry) {
-  if (entry.source == Source::kCallback) return theme::kFaintText.darker(125);
+  if (entry.source == Source::kCallback) return theme::Colors().faint_text;
   const QString line = entry.source == Source::kLine ? SplitDisplay(entry.text).line : entry.text;
   return ColorOfKind(ParseGuestLine(line).kind);
 }
@@ -63,7 +63,7 @@ QString EntryText(const TimelineEntry& entry) {
 
 void AppendEntry(QTextCursor* cursor, const TimelineEntry& entry) {
   QTextCharFormat format;
-  format.setForeground(theme::kFaintText.darker(150));
+  format.setForeground(theme::Colors().faint_text);
   cursor->insertText(TimeText(entry), format);
   format.setForeground(ColorOf(entry));
   cursor->insertText(EntryText(entry), format);
@@ -116,6 +116,10 @@ LineLog::LineLog(QWidget* parent)
   layout->setSpacing(0);
   layout->addLayout(buttons);
   layout->addWidget(text_);
+  theme::Follow(this, [this] {
+    text_->clear();
+    Append({shown_.begin(), shown_.end()});
+  });
 }
 
 void LineLog::Add(const TimelineEntry& entry) {

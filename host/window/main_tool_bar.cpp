@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QToolButton>
 
+#include "host/window/look_menu.h"
 #include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -44,6 +45,8 @@ void MainToolBar::AddGuestButtons() {
   QAction* back = AddButton(QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
   connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(WindowHost::kDisplay); });
   let_go_ = AddButton(QStringLiteral("Let go"), QString());
+  addSeparator();
+  AddMenuButton(QStringLiteral("Look"), new LookMenu(this));
 }
 
 void MainToolBar::TellPauseKey(const QString& name) {

@@ -16,7 +16,8 @@ SourcePane::SourcePane(QWidget* parent) : QWidget(parent), text_(new QPlainTextE
   text_->setLineWrapMode(QPlainTextEdit::NoWrap);
   text_->setTabChangesFocus(true);  // no tab may stand in front of a line of YAML
   problem_->setWordWrap(true);
-  problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::kError.name()));
+  theme::Follow(problem_,
+                [this] { problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::Colors().error.name())); });
   problem_->hide();
   auto* apply = new QPushButton(QStringLiteral("Apply"));
   apply->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));

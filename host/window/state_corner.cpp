@@ -17,7 +17,6 @@ constexpr int kMargin = 6;   // to the view's edges
 constexpr int kPadding = 9;  // around a word's text
 constexpr int kDot = 7;      // across
 constexpr int kDotGap = 6;
-const QColor kPlate(0x0B, 0x0E, 0x14, 0xD8);
 
 QFont TextFont(QFont font) {
   font.setPixelSize(kTextHeight);
@@ -31,14 +30,14 @@ int WidthOf(const QFont& font, const StateWord& word) {
 
 // A strong word is a lit plate, any other has a dot of its colour.
 void PaintWord(QPainter* painter, const StateWord& word, const QRect& plate) {
-  painter->setPen(QPen(word.is_strong ? word.color : theme::kPanelLine, 1));
-  painter->setBrush(word.is_strong ? word.color : kPlate);
+  painter->setPen(QPen(word.is_strong ? word.color : theme::Colors().panel_line, 1));
+  painter->setBrush(word.is_strong ? word.color : theme::Colors().plate);
   painter->drawRoundedRect(QRectF(plate).adjusted(0.5, 0.5, -0.5, -0.5), kHeight / 2.0, kHeight / 2.0);
   const QRectF dot(plate.left() + kPadding, plate.center().y() - kDot / 2.0 + 0.5, kDot, kDot);
   painter->setPen(Qt::NoPen);
-  painter->setBrush(word.is_strong ? theme::kBackdrop : word.color);
+  painter->setBrush(word.is_strong ? theme::Colors().on_lit : word.color);
   painter->drawEllipse(dot);
-  painter->setPen(word.is_strong ? theme::kBackdrop : theme::kText);
+  painter->setPen(word.is_strong ? theme::Colors().on_lit : theme::Colors().text);
   painter->drawText(plate.adjusted(kPadding + kDot + kDotGap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, word.text);
 }
 

@@ -1,38 +1,81 @@
-// The colours of the window, in one place.
+// The colours of the window, in one place: a dark set and a light one.
+//
+// Main thread.
 #ifndef HOST_WINDOW_THEME_H_
 #define HOST_WINDOW_THEME_H_
 
+#include <functional>
+
 #include <QColor>
+#include <QString>
+#include <QVector>
 
 class QApplication;
 class QFont;
+class QObject;
 
 namespace tavi::theme {
 
-inline const QColor kBackdrop(0x0D, 0x0F, 0x14);   // around the guest view
-inline const QColor kGuest(0x17, 0x1B, 0x24);      // its middle
-inline const QColor kGuestEdge(0x10, 0x13, 0x1A);  // its corners
-inline const QColor kGrid(0xFF, 0xFF, 0xFF, 0x0C);
-inline const QColor kPanel(0x1B, 0x1F, 0x29);
-inline const QColor kPanelLine(0x2C, 0x32, 0x40);
-inline const QColor kText(0xE6, 0xEA, 0xF2);
-inline const QColor kFaintText(0x96, 0xA0, 0xB4);
+// Every text colour can be read on every ground, and `on_lit` on every lit colour: at least 4.5 to 1.
+struct ColorSet {
+  // Grounds.
+  QColor backdrop;    // around the guest view
+  QColor guest;       // its middle
+  QColor guest_edge;  // its corners
+  QColor panel;
+  QColor panel_line;
+  QColor button;
+  QColor base;   // of lists and fields
+  QColor plate;  // of keys over the guest, which lets little through
 
-inline const QColor kTap(0x5B, 0xC8, 0xD8);
-inline const QColor kWalk(0x8B, 0xD4, 0x7A);
-inline const QColor kView(0xF2, 0xC1, 0x5B);
-inline const QColor kCast(0xB9, 0x9B, 0xFF);
-inline const QColor kMacro(0xF0, 0x8C, 0xB8);
-inline const QColor kError(0xFF, 0x7B, 0x72);
-inline const QColor kWarning(0xF2, 0xC1, 0x5B);
+  // Texts.
+  QColor text;
+  QColor faint_text;
+  QColor label;  // of items over the guest: fainter than key names, and legible on a picture
+  QColor tap;
+  QColor walk;
+  QColor view;
+  QColor cast;
+  QColor macro;
+  QColor error;
+  QColor warning;
+
+  QColor on_lit;     // text where one of the colours above is the ground
+  QColor switch_on;  // ground of a switch that is on, with `text` on it
+  QColor selection;  // ground, with `selected_text` on it
+  QColor selected_text;
+  QColor grid;
+  int finger_saturation;  // of SlotColor
+  int finger_value;
+
+  QVector<QColor> Grounds() const { return {backdrop, guest, guest_edge, panel, panel_line, button, base, plate}; }
+  QVector<QColor> Texts() const { return {text, faint_text, label, tap, walk, view, cast, macro, error, warning}; }
+  QVector<QColor> Lit() const { return {tap, walk, view, cast, macro, error, warning}; }
+};
+
+const ColorSet& Dark();
+const ColorSet& Light();
+// The set in use; dark until Apply says otherwise.
+const ColorSet& Colors();
+
+enum class Look { kDesktop, kLight, kDark };
+
+// "desktop", "light", "dark"
+QString NameOf(Look look);
+// False for a name that is none of these.
+bool ParseLook(const QString& name, Look* look);
+
+// Gives all widgets these colours; those of the desktop are as light as its palette was at the program's start.
+void Apply(QApplication* application, Look look);
+Look CurrentLook();
+
+// Calls `take` now and whenever other colours come, for as long as `owner` lives: for what keeps a colour.
+void Follow(QObject* owner, const std::function<void()>& take);
 
 // The colour of a finger by its slot, so that one finger keeps its colour.
 QColor SlotColor(int slot);
 
 QFont MonospaceFont();
-
-// Dark widgets throughout.
-void Apply(QApplication* application);
 
 }  // namespace tavi::theme
 

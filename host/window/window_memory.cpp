@@ -13,6 +13,7 @@
 #include "host/window/keymap_editor.h"
 #include "host/window/main_tool_bar.h"
 #include "host/window/main_window.h"
+#include "host/window/theme.h"
 #include "host/window/window_host.h"
 
 namespace tavi {
@@ -48,6 +49,7 @@ QMap<QString, QString> OptionsOf(const MainWindow& window) {
       {"guest", follows ? QStringLiteral("view") : QStringLiteral("%1x%2").arg(size.width()).arg(size.height())},
       {"rotation", QString::number(host->Geometry().rotation)},
       {"pixel-ratio", QString::number(host->PixelRatio())},
+      {"look", theme::NameOf(theme::CurrentLook())},
       {"pause-key", window.PauseKeyName()},
       {"panic-key", window.PanicKeyName()},
   };

@@ -122,6 +122,7 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
   EXPECT_EQ(memory.Keymap(), folder_.filePath("keymap.yaml"));
   EXPECT_EQ(memory.Options(), (QMap<QString, QString>{{"--guest", "720x1280"},
                                                       {"--joystick", folder_.filePath("joystick.yaml")},
+                                                      {"--look", "desktop"},
                                                       {"--panic-key", "Ctrl+Alt+Backspace"},
                                                       {"--pause-key", "F12"},
                                                       {"--pixel-ratio", "1.5"},
