@@ -33,7 +33,7 @@ drag() {
 # the function USE once it has the keys, and waits for the picture, which the window takes of itself.
 environment=()
 picture() {
-  (cd "$keymaps" && exec env "${environment[@]}" "$tavi" window "$3" --picture "$pictures/$1.png" --after "$2" "${@:5}") &
+  (cd "$keymaps" && exec env "${environment[@]}" "$tavi" window "$3" --fresh --look dark --picture "$pictures/$1.png" --after "$2" "${@:5}") &
   local program=$!
   window=$(xdotool search --sync --onlyvisible --pid "$program" --name tavi | head -n 1)
   xdotool windowfocus --sync "$window"
@@ -173,12 +173,22 @@ edit_as_text() {
   sleep 0.3
 }
 
+# picture_on SCREEN NAME [VARIABLE...]: the window at its first size on a screen of that size, nobody playing.
+picture_on() {
+  (cd "$keymaps" && xvfb-run -a -s "-screen 0 $1x24" env "${@:3}" "$tavi" window shooter.yaml --fresh --look dark \
+    --picture "$pictures/$2.png" --after 2500)
+  echo "$pictures/$2.png"
+}
+
 mkdir -p "$pictures"
 "$tavi" draw -o "$pictures/shooter_keymap.svg" "$keymaps/shooter.yaml"
 echo "$pictures/shooter_keymap.svg"
 "$tavi" simulate --svg "$pictures/timeline.svg" "$keymaps/shooter.yaml" "$root/examples/scripts/tour.txt" >/dev/null
 echo "$pictures/timeline.svg"
 picture shooter 3500 shooter.yaml play_shooter
+picture light 3500 shooter.yaml play_shooter --look light
+picture_on 1024x640 small
+picture_on 1920x1080 double QT_SCALE_FACTOR=2
 picture hero_battle 3500 hero_battle.yaml play_battle
 picture editor 3000 shooter.yaml edit_walk
 picture editor_text 4500 shooter.yaml edit_as_text

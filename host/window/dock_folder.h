@@ -19,7 +19,7 @@ class DockFolder : public QObject {
 
  public:
   // What the guest's screen needs beside docks, in pixels of the window.
-  static constexpr int kLeastViewWidth = 640;
+  static constexpr int kLeastViewWidth = 680;
   static constexpr int kLeastViewHeight = 360;
 
   explicit DockFolder(QMainWindow* window);
