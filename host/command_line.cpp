@@ -192,9 +192,17 @@ void PrintError(const QString& text) {
   std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
 }
 
+// A pipe gives what is in it so far; only nothing at all is its end.
 QByteArray ReadStandardInput(qint64 most) {
+  QByteArray content;
   QFile input;
-  return input.open(stdin, QIODevice::ReadOnly) ? input.read(most) : QByteArray();
+  if (!input.open(stdin, QIODevice::ReadOnly)) return content;
+  while (content.size() < most) {
+    const QByteArray piece = input.read(most - content.size());
+    if (piece.isEmpty()) break;
+    content += piece;
+  }
+  return content;
 }
 
 int FailUsage(const QString& subcommand, const QString& error) {

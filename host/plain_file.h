@@ -8,8 +8,8 @@
 
 namespace tavi {
 
-// Why what is there under this name is no file: "it is a folder", or "not a plain file" for a pipe or a device. Empty for
-// a file, and where there is nothing.
+// Why what is there under this name is no file: "it is a folder", or "not a plain file" for a pipe or a device. Empty
+// for a file, and where there is nothing.
 QString NoFileProblem(const QString& name);
 
 // The content of a file of at most so many bytes, at once: nothing where there is none, where it cannot be read or is

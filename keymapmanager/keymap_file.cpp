@@ -27,8 +27,8 @@ LoadResult SystemResult() {
 }
 
 // A pipe keeps its reader waiting, and could be read once only; a device may have no end.
-// Why what is there is no file to read: a pipe keeps its reader waiting, a device may have no end. Empty for a file, and
-// where there is nothing.
+// Why what is there is no file to read: a pipe keeps its reader waiting, a device may have no end. Empty for a file,
+// and where there is nothing.
 QString NoFileProblem(const QString& path) {
   const QFileInfo info(path);
   if (info.isDir()) return QStringLiteral("it is a folder");

@@ -115,7 +115,8 @@ void EventLog::End() {
   is_inside_ = false;
   const bool is_event = current_.event.kind != Kind::kLetGo;
   is_counting_later_ = !paused_ && is_event;
-  if (paused_ || (!is_event && current_.lines.isEmpty())) return;
+  const bool is_news = is_event || (!current_.lines.isEmpty() && !rows_.empty());  // nobody was credited before
+  if (paused_ || !is_news) return;
   if (current_.match.isEmpty()) {
     current_.match = current_.lines.isEmpty() ? QStringLiteral("nothing sent") : QStringLiteral("passes through");
   }

@@ -337,7 +337,6 @@ void MainWindow::LoadKeymap(const QString& path) {
   Take(mapping_.Keymap(), &keymap_);
   const tavikeymapmanager::LoadResult& in_use = mapping_.Keymap().InUse();
   name_ = in_use.name.isEmpty() ? QFileInfo(path).fileName() : in_use.name;
-  ShowTitle();
   records_->SetApp(in_use.name);
   ShowKeymaps();
   for (const QString& key : reserved_keys_.FindIn(in_use.config.get())) {
@@ -347,6 +346,7 @@ void MainWindow::LoadKeymap(const QString& path) {
          true);
   }
   editor_->Open(path, mapping_.Keymap().LastText());
+  ShowTitle();  // of what is edited from now on
 }
 
 void MainWindow::TellVanished(const Keymap& keymap) {

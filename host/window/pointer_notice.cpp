@@ -31,7 +31,7 @@ PointerNotice::PointerNotice(WindowSystem system, const PointerCapture* capture,
   connect(capture, &PointerCapture::ProblemChanged, this, &PointerNotice::Update);
   connect(full_screen, &QAction::toggled, this, &PointerNotice::Update);
   connect(WindowHost::GetInstance(), &WindowHost::InputStatusChanged, this, &PointerNotice::Update);
-  Update();
+  theme::Follow(this, [this] { Update(); });
 }
 
 QString PointerNotice::Text() const { return isHidden() ? QString() : text_->text(); }
@@ -39,7 +39,7 @@ QString PointerNotice::Text() const { return isHidden() ? QString() : text_->tex
 void PointerNotice::Update() {
   const bool has_view_control = WindowHost::GetInstance()->InputStatus() != static_cast<int>(InputStatus::Normal);
   const QString text = capture_->Problem().isEmpty() ? SystemText() : capture_->Problem();
-  text_->setText(QStringLiteral("<span style='color:%1'>%2</span>").arg(theme::kWarning.name(), text));
+  text_->setText(QStringLiteral("<span style='color:%1'>%2</span>").arg(theme::Colors().warning.name(), text));
   offer_->setVisible(system_ == WindowSystem::kXWayland && !full_screen_->isChecked());
   setVisible(has_view_control && !text.isEmpty());
 }

@@ -14,6 +14,7 @@ namespace tavi {
 namespace {
 
 constexpr int kLeastHeight = 180;
+constexpr int kFirstReplaySlot = 18;  // from here on fingers are those of replays, macros and pinches by key
 
 // The library forgets nothing by this: later lines about these keys and fingers are as if it had not been.
 void LiftKeys(const GuestState& state, int display) {
@@ -56,11 +57,16 @@ void ReplayDock::LiftOnOwn() const {
   LiftKeys(state, WindowHost::kReplayDisplay);
 }
 
-// What the player holds goes as well: one cannot tell whose a finger is.
+// What the player holds by keys, and macros by fingers, goes as well: one cannot tell whose it is.
 void ReplayDock::LiftOnPlayers() const {
   if (!IsUnderWay()) return;
-  taviinputmanager::OnResetInputStatus(true, WindowHost::kDisplay);
-  LiftKeys(player_->Model().state(), WindowHost::kDisplay);
+  const GuestState& state = player_->Model().state();
+  const QList<int> slots = state.contacts.keys();  // a copy: each line takes one away
+  for (const int slot : slots) {
+    if (slot < kFirstReplaySlot) continue;
+    taviinputmanager::OnInputRawEventData(QStringLiteral("SLOTRELEASE:%1\n").arg(slot), WindowHost::kDisplay);
+  }
+  LiftKeys(state, WindowHost::kDisplay);
 }
 
 void ReplayDock::closeEvent(QCloseEvent* event) {
