@@ -14,6 +14,9 @@ bool IsErrorTerminal();
 // later take it over.
 void EndWithReader();
 
+// From here on it does not: for programs whose output is not what they are for.
+void GoOnWithoutReader();
+
 // What is to be done before the program ends when it is interrupted (Ctrl+C) or told to end. `clean_up` is called on a
 // thread of its own while the others run on, and then the program ends as it would have. One at a time; an empty
 // function takes it back, and waits for one that is at work.
@@ -24,8 +27,7 @@ void SetCleanUp(std::function<void()> clean_up);
 
 // From here on an interruption, being told to end and the end of the terminal do not end the program: `take` is called
 // with the signal's number, on a thread of its own, and what is to follow is its business. It takes the place of a
-// clean-up, and a reader of the program's output that is gone ends nothing. An empty function gives that back. To be
-// called first while the program has no other threads.
+// clean-up. An empty function gives that back. To be called first while the program has no other threads.
 void SetInterruptionTaker(std::function<void(int number)> take);
 
 // The exit status of a program that ended because of a signal.

@@ -82,14 +82,13 @@ void SetReaction(Reaction Reactions::*which, Reaction reaction) {
 
 void EndWithReader() { Unblock(SIGPIPE); }
 
+void GoOnWithoutReader() { std::signal(SIGPIPE, SIG_IGN); }
+
 bool IsErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
 
 void SetCleanUp(std::function<void()> clean_up) { SetReaction(&Reactions::clean_up, std::move(clean_up)); }
 
-void SetInterruptionTaker(std::function<void(int)> take) {
-  std::signal(SIGPIPE, take ? SIG_IGN : SIG_DFL);
-  SetReaction(&Reactions::take, std::move(take));
-}
+void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&Reactions::take, std::move(take)); }
 
 void MakeOutputBinary() {}
 

@@ -50,6 +50,8 @@ void SetReaction(Reaction* which, Reaction reaction) {
 
 void EndWithReader() {}  // there is no such signal: a write fails
 
+void GoOnWithoutReader() {}
+
 bool IsErrorTerminal() { return _isatty(_fileno(stderr)) != 0; }
 
 void SetCleanUp(std::function<void()> clean_up) { SetReaction(&clean_up_reaction, std::move(clean_up)); }

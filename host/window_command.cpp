@@ -334,6 +334,7 @@ int Run(const Invocation& invocation) {
                        "\"tavi simulate\" plays keymaps without one.\n"));
     return kExitUsage;
   }
+  GoOnWithoutReader();
   SetCleanUp({});  // signals have a thread of their own, which begins before the window system's
   QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

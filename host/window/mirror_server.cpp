@@ -81,6 +81,7 @@ MirrorServer::~MirrorServer() = default;
 QString MirrorServer::Listen(const QString& name) { return listener_.Listen(name); }
 
 void MirrorServer::TakeConnection(QLocalSocket* socket) {
+  socket->setParent(this);  // it goes at the latest when this does
   sources_.push_back(std::make_unique<Source>(socket, display_));
   Source* source = sources_.back().get();
   connect(socket, &QLocalSocket::disconnected, this, [this, source] { Forget(source); });

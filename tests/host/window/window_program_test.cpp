@@ -1,6 +1,7 @@
 // The window as a program: how it ends when it is told to from outside.
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -151,6 +152,20 @@ TEST_F(WindowProgram, WhoReadsItsWordsMayGo) {
   program_.closeReadChannel(QProcess::StandardError);
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
   EXPECT_EQ(QDir(Path("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);  // it is kept
+}
+
+TEST_F(WindowProgram, ItsWordsNeedNoReaderFromTheStart) {
+  ASSERT_EQ(mkfifo(QFile::encodeName(Path("gone")).constData(), 0600), 0);
+  program_.setWorkingDirectory(folder_.path());
+  const QString line =
+      "{ read x <gone; \"$0\" window -platform offscreen --record a.json --picture a.png --after 0 2>&1; echo $? "
+      ">status; "
+      "} | { exec <&-; echo x >gone; }";
+  program_.start("sh", {"-c", line, TAVI_BINARY_DIR "/host/tavi"});
+  ASSERT_TRUE(program_.waitForFinished());
+  QFile status(Path("status"));
+  ASSERT_TRUE(status.open(QIODevice::ReadOnly));
+  EXPECT_EQ(status.readAll().trimmed(), QByteArray("1"));  // it said that nothing was recorded
 }
 
 TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {
