@@ -149,5 +149,14 @@ TEST_F(DisplayTranslation, ADisplayWithoutSizeHasNoPoints) {
   EXPECT_EQ("touch|release|2|", Event("SLOTRELEASE:2"));
 }
 
+// One side is enough: of what is 0 wide there are no fractions, however high it is.
+TEST_F(DisplayTranslation, ADisplayOfOneSideHasNoPoints) {
+  for (const QRect& display : {QRect(0, 0, 0, 720), QRect(0, 0, 1280, 0)}) {
+    Host().display = display;
+    EXPECT_EQ("nothing", Event("SLOTPRESS:2:2:1:1:960:540"));
+    EXPECT_EQ("nothing", Event("WHEEL:1:2:3:4"));
+  }
+}
+
 }  // namespace
 }  // namespace taviinputmanager

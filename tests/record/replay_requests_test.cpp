@@ -75,6 +75,17 @@ TEST_F(ReplayRequests, ReplaysSideBySideAreAskedOneByOne) {
   EXPECT_STORY("150ms > stopped 7 a.json", "200ms 2:KBDRL:17:0");
 }
 
+TEST_F(ReplayRequests, APauseResetsTheLiveDisplayOfTheMoment) {
+  Save("a.json", {KeyDown(1000, 30)});
+  Start(7, "a.json");
+  UpdateDisplayId(3);
+  TakeStory();
+  Pause(7, "a.json");
+  const QStringList lines = TakeLines();
+  ASSERT_FALSE(lines.isEmpty());
+  for (const QString& line : lines) EXPECT_TRUE(line.contains("ms 3:SLOTRELEASE:")) << line.toStdString();
+}
+
 TEST_F(ReplayRequests, TwoReplaysOfOneNameReactTogether) {
   Save("a.json", {KeyDown(100, 30), KeyUp(1000, 30)});
   Start(7, "a.json");
