@@ -45,7 +45,7 @@ TEST_F(Transparent, AReleaseWithoutPressPasses) {
 
 TEST_F(Transparent, WhatIsHeldIsReleasedByAResetOnce) {
   LoadTransparent();
-  Play("down W; mouse down right 10,10; down E; up E; reset");
+  Play("down W; mouse down right 10,10; down E; up E; mouse down middle 10,10; mouse up middle 10,10; reset");
   const QStringList wire = TakeWire();
   EXPECT_EQ((QStringList{"0ms 1:KBDRL:17:0", "0ms 1:KBDRL:273:0"}), wire.mid(wire.size() - 2));
 }

@@ -66,6 +66,15 @@ TEST_F(WheelKey, AHeldKeyRepeatsItsRun) {
               "24ms 1:SLOTPRESS:11:11:1:1:5000:5000", "32ms 1:SLOTPRESS:11:11:1:1:5000:5010", "32ms 1:SLOTRELEASE:11");
 }
 
+// The other direction repeats as well: two ticks a run, the second run from 16 ms on.
+TEST_F(WheelKey, AHeldKeyOfTheOtherDirectionRepeatsToo) {
+  AddWheel("S", 2, "vertical", 8);
+  Load();
+  Play("down S; wait 20; up S; wait 100");
+  EXPECT_WIRE("8ms 1:SLOTPRESS:11:11:1:1:5000:5000", "16ms 1:SLOTPRESS:11:11:1:1:5000:4990", "16ms 1:SLOTRELEASE:11",
+              "24ms 1:SLOTPRESS:11:11:1:1:5000:5000", "32ms 1:SLOTPRESS:11:11:1:1:5000:4990", "32ms 1:SLOTRELEASE:11");
+}
+
 TEST_F(WheelKey, EachDirectionIsHeldByItself) {
   AddWheel("W", 1, "vertical", 8);
   AddWheel("S", 2, "vertical", 8);
