@@ -1,5 +1,8 @@
 #include "handlers/qt_wheel_event_simulate_handler.h"
 
+#include <limits>
+
+#include <QRect>
 #include <QWheelEvent>
 
 #include "core/input_status_manager.h"
@@ -186,6 +189,24 @@ TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   EXPECT_WIRE("0ms 1:WHEEL:200:100:200:100", "0ms 1:WHEEL:200:100:-200:100", "0ms 1:WHEEL:200:100:-200:100");
   Play("down Left Ctrl; wheel +120 100,50; up Left Ctrl");
   EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
+}
+
+// The greatest int stands for no place: one on the far edge of a surface that wide has none.
+TEST_F(Wheel, APlainTurnWithoutAPlaceSaysNothing) {
+  const int most = std::numeric_limits<int>::max();
+  const struct {
+    QRect touch;
+    const char* turn;
+  } rows[] = {{QRect(0, 0, most, 720), "wheel +120 1280,50"}, {QRect(0, 0, 1280, most), "wheel +120 50,720"}};
+  LoadNothing("com.example");
+  const tavikeymapmanager::KeymapConfig none;
+  InputStatusManager::GetInstance()->ResetForKeymap(&none, "com.android.settings", "", false, 0, 1);
+  for (const auto& row : rows) {
+    Host().touch = row.touch;
+    Forget();
+    Play(row.turn);
+    EXPECT_WIRE_NONE();
+  }
 }
 
 TEST_F(Wheel, MovesAreSwallowedWhileItsGestureRuns) {

@@ -136,9 +136,14 @@ class ListedChanges(unittest.TestCase):
             change = of("\n\n  int a = 1;\n", path)[0]
             self.assertIn(change, Listed(self.ENTRY))
 
+    def test_an_entry_holds_in_its_function_alone(self):
+        text = "void A::F() {\n  Call();\n}\n\nint G(int x,\n      int y) {\n  Call();\n  return x;\n}\n"
+        listed = Listed("a.cpp G\n- Call();\n+ ;\nIt is empty.\n")
+        self.assertEqual([False, True], [change in listed for change in of(text)])
+
     def test_an_entry_without_its_line_is_stale(self):
         self.assertEqual([], Listed(self.ENTRY).stale(of("int a = 1;\n")))
-        self.assertEqual([("a.cpp", "int a = 1;", "int a = 2;")], Listed(self.ENTRY).stale(of("int a = 3;\n")))
+        self.assertEqual([("a.cpp", "", "int a = 1;", "int a = 2;")], Listed(self.ENTRY).stale(of("int a = 3;\n")))
 
     def test_an_entry_needs_a_reason(self):
         with self.assertRaises(ValueError):

@@ -216,6 +216,17 @@ TEST_F(ReplayTime, APauseKeepsTheRestOfTheDelay) {
   EXPECT_LINES("3000ms 2:KBDPR:30:1");
 }
 
+TEST_F(ReplayTime, APauseLetsGoOfInputOnTheDisplayThatIsShown) {
+  Settings().keyboard_transparent = true;
+  Load(3);
+  Save("a.json", {KeyDown(1000, 30)});
+  Start(7, "a.json");
+  Play("down K");
+  TakeStory();
+  Pause(7, "a.json");
+  EXPECT_TRUE(TakeLines().contains("0ms 3:KBDRL:37:0"));
+}
+
 // 1000 - 300; then 800 since the last start are more than the 700 that are left.
 TEST_F(ReplayTime, ASecondPauseTakesTheSameTimeAgain) {
   Save("a.json", {KeyDown(1000, 30), KeyUp(5000, 30)});

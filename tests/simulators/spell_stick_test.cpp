@@ -48,6 +48,17 @@ TEST_F(SpellStick, TheFingerSlidesInEighthsOfTheRadius) {
   EXPECT_WIRE(At(56, 1072, 540), At(64, 1062, 540));
 }
 
+// 1280 * 0.0047 = 6.016 pixels are 6; steps of 0.752: 0.752, 1.504, 2.256, 3.008, 3.76, 4.512, 5.264, all cut off.
+TEST_F(SpellStick, StepsMayBeShorterThanAPixel) {
+  AddAimed()->swipe_radius = 0.0047;
+  LoadBoth();
+  Play("joy down A");
+  Forget();
+  Play("joy axis 1 1,0");
+  EXPECT_WIRE(At(0, 960, 540), At(8, 961, 540), At(16, 962, 540), At(24, 963, 540), At(32, 963, 540), At(40, 964, 540),
+              At(48, 965, 540), At(56, 966, 540));
+}
+
 TEST_F(SpellStick, AWayOfOneStepIsAJump) {
   AddAimed();
   LoadBoth();

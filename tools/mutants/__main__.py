@@ -138,8 +138,8 @@ def main(words):
     offered = [change for path in build.sources() for change in changes.find(path, (build.root / path).read_text())]
     listed = Listed(LIST.read_text())
     stale = listed.stale(offered)
-    for file, before, after in stale:
-        tell(f"mutants: no longer a change of the tree:\n{file}\n- {before}\n+ {after}")
+    for file, function, before, after in stale:
+        tell(f"mutants: no longer a change of the tree:\n{file} {function}\n- {before}\n+ {after}")
     if words == ["listed"]:
         tried = [change for change in offered if change in listed]
         count = try_all(trial, results, tried, len(tried), ())

@@ -1,4 +1,5 @@
 """All small changes that a source file offers: one operator, one constant, one condition, or one statement less."""
+import re
 from dataclasses import dataclass
 
 import statements
@@ -29,14 +30,15 @@ class Change:
     label: str   # the change in a few words
     before: str  # the lines that change, as one line
     after: str
+    function: str  # whose body it is in; empty in a class
 
     def apply(self, text):
         return text[:self.start] + self.by + text[self.end:]
 
     @property
     def key(self):
-        """What it is whatever the folder and the line: name of the file, lines before and after."""
-        return self.path.rsplit("/", 1)[-1], self.before, self.after
+        """What it is whatever the folder and the line: names of file and function, lines before and after."""
+        return self.path.rsplit("/", 1)[-1], self.function, self.before, self.after
 
 
 def _numbers(text):
@@ -101,6 +103,12 @@ def _spans(source):
             yield start, tokens[first + 1].start, "", "`return` dropped"
 
 
+def _function_at(text, start):
+    """Namespaces indent nothing: the head of a function begins at the margin."""
+    heads = re.findall(r"^[A-Za-z][^\n;=]*?([~\w]+)\(", text[:start], re.MULTILINE)
+    return heads[-1] if heads else ""
+
+
 def find(path, text):
     """Every Change of a file."""
     source = Source(text)
@@ -108,4 +116,5 @@ def find(path, text):
         first, last = source.span_of_lines(start, end)
         line, column = source.position(start)
         yield Change(path, line, column, start, end, by, label, before=" ".join(text[first:last].split()),
-                     after=" ".join((text[first:start] + by + text[end:last]).split()))
+                     after=" ".join((text[first:start] + by + text[end:last]).split()),
+                     function=_function_at(text, start))

@@ -7,6 +7,7 @@
 
 #include "core/input_logger.h"
 #include "tests/simulators/workers/fire_story.h"
+#include "tests/support/interruptions.h"
 
 namespace taviinputmanager {
 namespace {
@@ -26,6 +27,18 @@ TEST_F(Fire, SpellCancelSwipesToItsPointAndLiftsThere) {
   EXPECT_WIRE_NONE();
   Wait(1);
   EXPECT_WIRE("100ms 1:SLOTRELEASE:3");
+  Wait(500);
+  EXPECT_WIRE_NONE();
+}
+
+// Half way from (960, 540) to (160, 180).
+TEST_F(Fire, AKeyThatComesUpInsideTheSwipeToACancelLiftsTheFingerOnce) {
+  AddStaring();
+  AddFire()->cancel_swipe_steps = 2;
+  StartFiring();
+  test::InterruptAt("1:SLOTPRESS:3:3:1:1:560:360", [this] { Feed("mouse up left 100,100"); });
+  PressSpellCancel(100);
+  EXPECT_WIRE(FireAt(560, 360), kFireUp);
   Wait(500);
   EXPECT_WIRE_NONE();
 }

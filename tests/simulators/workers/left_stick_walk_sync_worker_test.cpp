@@ -298,6 +298,27 @@ TEST_F(LeftStickWalk, ARadiusThatShrinksToNothingIsCrossedAtOnce) {
   }
 }
 
+// The second radius is 1280 * 0.0063 = 8.064 pixels, and its step 1.008. From 1018 pixels off the centre to the new
+// target at 8 it is 1010, which is 1000.98 steps behind the first; from 1017 it is 1009, which is 999.99.
+TEST_F(LeftStickWalk, AThousandStepsAreWalkedAndNoMore) {
+  const struct {
+    double radius;
+    int lines;
+  } rows[] = {{0.7957, 1}, {0.7949, 1001}};  // 1018.5 and 1017.5 pixels
+  for (const auto& row : rows) {
+    AddWalk({0.125, 0.5})->walk_radius = row.radius;
+    LoadJoystick();
+    Play("joy axis 0 1,0");
+    AddWalk({0.125, 0.5})->walk_radius = 0.0063;
+    LoadJoystick();
+    Play("joy axis 0 1,0");
+    const QStringList lines = TakeWire();
+    EXPECT_EQ(row.lines, lines.size());
+    EXPECT_TRUE(lines.last().endsWith("SLOTPRESS:8:8:1:1:168:360")) << lines.last().toStdString();
+    Play("joy axis 0 0,0");
+  }
+}
+
 TEST_F(LeftStickWalk, ASenselessJumpComesToItsEnd) {
   for (const double jump : {-1e300, -1e6, 1e6, 1e300}) {
     SCOPED_TRACE(jump);

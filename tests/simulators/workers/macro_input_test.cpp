@@ -115,6 +115,12 @@ TEST_F(MacroInputs, AMovePressesEachOfThreeButtonsAgain) {
               "5ms 1:SLOTPRESS:18:18:1:1:640:360", "5ms 1:SLOTPRESS:11:11:1:1:320:360");
 }
 
+// A release has the number of a button, and any other text is no button's.
+TEST_F(MacroInputs, AReleaseOfAVirtualButtonMovesNothing) {
+  Run({"vmouse_move:(0.25,0.5)", "vmouse_press:1", "vmouse_release:(0.5,0.5)"});
+  EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:320:360");
+}
+
 TEST_F(MacroInputs, AVirtualPointerCountsInDisplayPixels) {
   Host().display = QRect(0, 0, 640, 360);
   Run({"vmouse_move:(0.5,0.5)", "vmouse_press:1"});
