@@ -226,30 +226,6 @@ TEST_F(Pinch, HasSettingsOfItsOwn) {
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:612:388:10:10:668:332", "16ms 1:SLOTMULTIPRESS:0:0:609:391:10:10:671:329");
 }
 
-// What a keymap had said is gone: 8 moves of 4 pixels for a notch, 14 ms apart, and a rest of 80 ms. The angle stays.
-TEST_F(Pinch, HasThemAgainBehindAKeymapThatHadOthers) {
-  Wheel().zoom_swap_fingers = true;
-  LoadPinch();
-  Wheel().zoom_first_interval_ms = 5;
-  Wheel().zoom_release_ms = 30;
-  Wheel().zoom_spread = 3;
-  Wheel().zoom_step = 0.01;
-  Load();
-  Play("down Left Ctrl; wheel +120 640,360; wait 500");
-  test::SetNextKeymap(new tavikeymapmanager::KeymapConfig);
-  OnLoadKeymapConfigAndInfo("bare", "p", "", 1);
-  Host().StartTimeline();
-  Forget();
-  Play("wheel +120 640,360; wait 500");
-  const QStringList wire = TakeWire();
-  EXPECT_EQ("0ms 1:SLOTMULTIPRESS:0:0:600:360:10:10:680:360", wire.value(0).toStdString());
-  EXPECT_EQ("16ms 1:SLOTMULTIPRESS:0:0:596:360:10:10:684:360", wire.value(1).toStdString());
-  EXPECT_EQ("30ms 1:SLOTMULTIPRESS:0:0:592:360:10:10:688:360", wire.value(2).toStdString());
-  EXPECT_EQ("114ms 1:SLOTMULTIPRESS:0:0:568:360:10:10:712:360", wire.value(8).toStdString());  // 16 + 7 * 14
-  EXPECT_EQ("208ms 1:SLOTMULTIRELEASE:10:0", wire.value(9).toStdString());  // the tick at 128, and 80
-  EXPECT_EQ(10, wire.size());
-}
-
 TEST_F(Pinch, NoTurnAtAllIsInwards) {
   LoadPinch();
   Play("wheel 0 640,360");
