@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "simulators/workers/macro_command.h"
+#include "simulators/macro/macro_command.h"
 
 namespace taviinputmanager::fuzz {
 

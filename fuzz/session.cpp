@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 
 #include "fuzz/check.h"
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 #include "host/simulation/simulated_host.h"
 #include "taviinputmanager/taviinputmanager.h"
 

@@ -8,10 +8,10 @@
 #include "keymap/joystick_right_eye_config_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/tip_config_item.h"
+#include "simulators/cast/spell_event_simulator.h"
 #include "simulators/event_simulator.h"
-#include "simulators/left_stick_walk_event_simulator.h"
-#include "simulators/right_stick_eye_event_simulator.h"
-#include "simulators/spell_event_simulator.h"
+#include "simulators/view/right_stick_eye_event_simulator.h"
+#include "simulators/walk/left_stick_walk_event_simulator.h"
 #include "taviinputmanager/callbacks.h"
 #include "taviinputmanager/joystick_event.h"
 

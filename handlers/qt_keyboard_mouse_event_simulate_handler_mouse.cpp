@@ -9,8 +9,8 @@
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "keymap/config_item.h"
 #include "keymap/keymap_functions.h"
-#include "simulators/right_walk_event_simulator.h"
-#include "simulators/staring_and_fire_event_simulator.h"
+#include "simulators/view/staring_and_fire_event_simulator.h"
+#include "simulators/walk/right_walk_event_simulator.h"
 #include "slots/macro_slot_manager.h"
 #include "slots/mouse_slot_manager.h"
 

@@ -15,9 +15,9 @@
 #include "handlers/single_key_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
-#include "simulators/curve_event_simulator.h"
-#include "simulators/workers/qt_wheel_event_async_worker.h"
-#include "simulators/workers/qt_wheel_event_zoom_worker.h"
+#include "simulators/curve/curve_event_simulator.h"
+#include "simulators/wheel/qt_wheel_event_async_worker.h"
+#include "simulators/wheel/qt_wheel_event_zoom_worker.h"
 
 namespace taviinputmanager {
 

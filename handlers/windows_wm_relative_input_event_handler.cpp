@@ -2,8 +2,8 @@
 
 #include "core/input_status_manager.h"
 #include "handlers/qt_mouse_event_transparent_handler.h"
-#include "simulators/spell_event_simulator.h"
-#include "simulators/staring_and_fire_event_simulator.h"
+#include "simulators/cast/spell_event_simulator.h"
+#include "simulators/view/staring_and_fire_event_simulator.h"
 
 namespace taviinputmanager {
 

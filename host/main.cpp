@@ -1,6 +1,6 @@
 // The program tavi.
-#include "host/subcommands.h"
-#include "host/terminal.h"
+#include "host/command/subcommands.h"
+#include "host/system/terminal.h"
 
 int main(int argc, char** argv) {
   tavi::EndWithReader();

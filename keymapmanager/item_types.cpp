@@ -2,7 +2,7 @@
 
 #include <QLocale>
 
-#include "keymapmanager/record_tables.h"
+#include "keymapmanager/fields/record_tables.h"
 
 namespace tavikeymapmanager {
 

@@ -2,11 +2,11 @@
 
 #include <QRegularExpression>
 
-#include "keymapmanager/foreign_key_names.h"
-#include "keymapmanager/key_index.h"
-#include "keymapmanager/key_table.h"
+#include "keymapmanager/keys/foreign_key_names.h"
+#include "keymapmanager/keys/key_index.h"
+#include "keymapmanager/keys/key_table.h"
+#include "keymapmanager/keys/pad_names.h"
 #include "keymapmanager/nearest_word.h"
-#include "keymapmanager/pad_names.h"
 
 namespace tavikeymapmanager {
 

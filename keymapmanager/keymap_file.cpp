@@ -4,9 +4,9 @@
 #include <QFileInfo>
 
 #include "keymap/keywords.h"
-#include "keymapmanager/diagnostic_list.h"
+#include "keymapmanager/fields/diagnostic_list.h"
 #include "keymapmanager/keymap_reader.h"
-#include "keymapmanager/yaml_node.h"
+#include "keymapmanager/yaml/yaml_node.h"
 
 namespace tavikeymapmanager {
 

@@ -5,8 +5,8 @@
 #include <QMouseEvent>
 
 #include "keymap/item_index.h"
-#include "keymapmanager/key_index.h"
 #include "keymapmanager/keymap_file.h"
+#include "keymapmanager/keys/key_index.h"
 
 namespace tavikeymapmanager {
 

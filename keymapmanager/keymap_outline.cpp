@@ -1,7 +1,7 @@
 #include "keymapmanager/keymap_outline.h"
 
-#include "keymapmanager/record_reader.h"
-#include "keymapmanager/yaml_node.h"
+#include "keymapmanager/fields/record_reader.h"
+#include "keymapmanager/yaml/yaml_node.h"
 
 namespace tavikeymapmanager {
 

@@ -3,11 +3,11 @@
 #include <QSet>
 
 #include "keymap/spell_config_item.h"
-#include "keymapmanager/field_hints.h"
-#include "keymapmanager/keymap_checks.h"
+#include "keymapmanager/checks/keymap_checks.h"
+#include "keymapmanager/fields/field_hints.h"
+#include "keymapmanager/fields/record_tables.h"
 #include "keymapmanager/nearest_word.h"
-#include "keymapmanager/record_tables.h"
-#include "keymapmanager/yaml_scalar.h"
+#include "keymapmanager/yaml/yaml_scalar.h"
 
 namespace tavikeymapmanager {
 

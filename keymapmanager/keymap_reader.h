@@ -4,11 +4,11 @@
 
 #include <memory>
 
-#include "keymapmanager/diagnostic_list.h"
+#include "keymapmanager/fields/diagnostic_list.h"
+#include "keymapmanager/fields/record_reader.h"
+#include "keymapmanager/fields/sourced_item.h"
 #include "keymapmanager/keymap_file.h"
-#include "keymapmanager/record_reader.h"
-#include "keymapmanager/sourced_item.h"
-#include "keymapmanager/yaml_node.h"
+#include "keymapmanager/yaml/yaml_node.h"
 
 namespace tavikeymapmanager {
 

@@ -3,11 +3,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "keymapmanager/fields/record_tables.h"
 #include "keymapmanager/key_names.h"
-#include "keymapmanager/key_table.h"
 #include "keymapmanager/keymap_file.h"
-#include "keymapmanager/pad_names.h"
-#include "keymapmanager/record_tables.h"
+#include "keymapmanager/keys/key_table.h"
+#include "keymapmanager/keys/pad_names.h"
 
 namespace tavikeymapmanager {
 

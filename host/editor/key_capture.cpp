@@ -1,6 +1,6 @@
 #include "host/editor/key_capture.h"
 
-#include "host/native_key.h"
+#include "host/session/native_key.h"
 #include "keymapmanager/key_names.h"
 
 namespace tavi {

@@ -5,8 +5,8 @@
 #include <QRegularExpression>
 
 #include "host/editor/new_item.h"
-#include "host/plain_file.h"
-#include "host/whole_file.h"
+#include "host/system/plain_file.h"
+#include "host/system/whole_file.h"
 #include "keymap/tavikeymapmanager.h"
 
 namespace tavi {

@@ -6,10 +6,10 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "host/look/theme.h"
+#include "host/picture/keymap_overlay.h"
 #include "host/picture/svg_paint_device.h"
 #include "host/picture/svg_writer.h"
-#include "host/window/keymap_overlay.h"
-#include "host/window/theme.h"
 
 namespace tavi {
 

@@ -9,7 +9,7 @@
 #include <QString>
 #include <QVector>
 
-#include "host/window/overlay_marks.h"
+#include "host/picture/overlay_marks.h"
 
 namespace tavi {
 

@@ -3,9 +3,9 @@
 #include <QFileInfo>
 #include <QStringList>
 
-#include "host/command_line.h"
-#include "host/terminal.h"
-#include "host/whole_file.h"
+#include "host/system/console.h"
+#include "host/system/terminal.h"
+#include "host/system/whole_file.h"
 
 namespace tavi {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/guest_key_names.h"
-#include "host/guest_line.h"
+#include "host/guest/guest_key_names.h"
+#include "host/guest/guest_line.h"
 #include "host/simulation/script.h"
 #include "host/simulation/simulated_host.h"
 #include "keymapmanager/key_names.h"

@@ -6,9 +6,9 @@
 #include <QStringList>
 #include <QVector>
 
+#include "host/look/theme.h"
 #include "host/picture/svg_writer.h"
 #include "host/picture/timeline_chart.h"
-#include "host/window/theme.h"
 
 namespace tavi {
 

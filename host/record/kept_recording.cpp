@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "host/roomy_folder.h"
-#include "host/whole_file.h"
+#include "host/system/roomy_folder.h"
+#include "host/system/whole_file.h"
 
 namespace tavi {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/command_line.h"
+#include "host/system/console.h"
 
 namespace tavi {
 

@@ -8,10 +8,10 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 
-#include "host/plain_file.h"
-#include "host/progress_line.h"
 #include "host/record/record_action_check.h"
 #include "host/record/record_file.h"
+#include "host/system/plain_file.h"
+#include "host/system/progress_line.h"
 
 namespace tavi {
 

@@ -1,22 +1,11 @@
 #include "host/simulation/simulated_host.h"
 
-#include "host/simulation/host_functions.h"
+#include "host/session/host_functions.h"
 
 namespace tavi {
 
 using taviinputmanager::WindowGeometry;
 using Source = TimelineEntry::Source;
-
-QString FormatEntry(const TimelineEntry& entry) {
-  QString mark;
-  if (entry.source == Source::kText) mark = QStringLiteral("text ");
-  if (entry.source == Source::kCallback) mark = QStringLiteral("! ");
-  return QStringLiteral("%1ms ").arg(entry.ms) + mark + entry.text;
-}
-
-QString FormatLine(const TimelineEntry& entry) {
-  return FormatEntry(entry).replace(QLatin1Char('\n'), QLatin1String("\\n")) + QLatin1Char('\n');
-}
 
 // The plain functions that the library is given.
 struct HostFunctions : TellingFunctions<SimulatedHost> {

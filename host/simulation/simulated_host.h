@@ -8,22 +8,10 @@
 #include <QString>
 #include <QVector>
 
+#include "host/session/timeline_entry.h"
 #include "taviinputmanager/callbacks.h"
 
 namespace tavi {
-
-struct TimelineEntry {
-  enum class Source { kLine, kText, kCallback };
-
-  qint64 ms;  // since the timeline's start
-  Source source;
-  QString text;  // without line end
-};
-
-// "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F".
-QString FormatEntry(const TimelineEntry& entry);
-// As it is printed, with its end. Always one line: a line end inside of a text is written "\n".
-QString FormatLine(const TimelineEntry& entry);
 
 // The library's callbacks are plain functions, so there is one host in a process. Main thread only.
 class SimulatedHost {

@@ -5,7 +5,7 @@
 
 #include <QSize>
 
-#include "host/guest_model.h"
+#include "host/guest/guest_model.h"
 #include "host/uinput/gamepad_axes.h"
 
 namespace tavi {

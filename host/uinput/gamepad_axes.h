@@ -4,7 +4,7 @@
 
 #include <linux/input-event-codes.h>
 
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 #include "host/uinput/device_description.h"
 
 namespace tavi {

@@ -1,6 +1,6 @@
 #include "host/uinput/guest_player.h"
 
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 #include "host/uinput/timeline_line.h"
 
 namespace tavi {

@@ -2,7 +2,7 @@
 
 #include <linux/input.h>
 
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 #include "host/uinput/device_description.h"
 #include "host/uinput/gamepad_axes.h"
 #include "host/uinput/text_typing.h"

@@ -2,8 +2,8 @@
 
 #include <linux/input.h>
 
-#include "host/guest_line.h"
-#include "host/guest_model.h"
+#include "host/guest/guest_line.h"
+#include "host/guest/guest_model.h"
 #include "host/uinput/device_description.h"
 
 namespace tavi {

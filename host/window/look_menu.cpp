@@ -3,7 +3,7 @@
 #include <QActionGroup>
 #include <QApplication>
 
-#include "host/window/theme.h"
+#include "host/look/theme.h"
 
 namespace tavi {
 

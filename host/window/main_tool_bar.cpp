@@ -3,8 +3,8 @@
 #include <QAction>
 #include <QToolButton>
 
+#include "host/session/live_host.h"
 #include "host/window/look_menu.h"
-#include "host/window/window_host.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -36,14 +36,14 @@ void MainToolBar::AddSwitches(const Parts& parts) {
   connect(overlay_, &QAction::toggled, this, &MainToolBar::OverlayToggled);
   QAction* text = AddSwitch(QStringLiteral("Text field"),
                             QStringLiteral("As if the guest had a text field focused: keys are typed"), false);
-  connect(text, &QAction::toggled, this, [](bool on) { WindowHost::GetInstance()->SetTextField(on); });
+  connect(text, &QAction::toggled, this, [](bool on) { LiveHost::GetInstance()->SetTextField(on); });
   addAction(parts.log);
   addAction(parts.events);
 }
 
 void MainToolBar::AddGuestButtons() {
   QAction* back = AddButton(QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
-  connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(WindowHost::kDisplay); });
+  connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(LiveHost::kDisplay); });
   let_go_ = AddButton(QStringLiteral("Let go"), QString());
   addSeparator();
   AddMenuButton(QStringLiteral("Look"), new LookMenu(this));

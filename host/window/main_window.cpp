@@ -6,36 +6,37 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPointer>
 #include <QShowEvent>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "host/keymap_report.h"
-#include "host/window/diagnostics_panel.h"
+#include "host/gamepad/gamepad_poll.h"
+#include "host/look/theme.h"
+#include "host/session/input_port.h"
+#include "host/session/keymap_report.h"
+#include "host/session/keymap_watch.h"
+#include "host/session/live_host.h"
 #include "host/window/dock_folder.h"
-#include "host/window/edit_layer.h"
-#include "host/window/event_log.h"
-#include "host/window/event_viewer.h"
-#include "host/window/finding_marks.h"
-#include "host/window/gamepad_picture.h"
-#include "host/window/gamepad_poll.h"
-#include "host/window/guest_display.h"
-#include "host/window/guest_frame.h"
-#include "host/window/guest_menu.h"
-#include "host/window/guest_panel.h"
-#include "host/window/guest_view.h"
-#include "host/window/input_port.h"
-#include "host/window/keymap_editor.h"
-#include "host/window/keymap_watch.h"
-#include "host/window/line_log.h"
+#include "host/window/editor/edit_layer.h"
+#include "host/window/editor/keymap_editor.h"
+#include "host/window/events/event_log.h"
+#include "host/window/events/event_viewer.h"
+#include "host/window/events/line_log.h"
+#include "host/window/findings/diagnostics_panel.h"
+#include "host/window/findings/finding_marks.h"
 #include "host/window/main_tool_bar.h"
 #include "host/window/mirror_label.h"
-#include "host/window/pointer_notice.h"
-#include "host/window/record_bar.h"
-#include "host/window/replay_dock.h"
-#include "host/window/state_corner.h"
-#include "host/window/theme.h"
-#include "host/window/window_host.h"
+#include "host/window/pointer/pointer_notice.h"
+#include "host/window/records/record_bar.h"
+#include "host/window/records/replay_dock.h"
+#include "host/window/view/gamepad_picture.h"
+#include "host/window/view/guest_display.h"
+#include "host/window/view/guest_frame.h"
+#include "host/window/view/guest_menu.h"
+#include "host/window/view/guest_panel.h"
+#include "host/window/view/guest_view.h"
+#include "host/window/view/state_corner.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -111,7 +112,7 @@ MainWindow::MainWindow()
   }
   resize(kUsualSize);
 
-  WindowHost* host = WindowHost::GetInstance();
+  LiveHost* host = LiveHost::GetInstance();
   connect(view_, &GuestView::ModelChanged, panel_, QOverload<>::of(&QWidget::update));
   connect(view_, &GuestView::Composing, panel_, &GuestPanel::SetPreedit);
   connect(keymap_.watch, &KeymapWatch::Changed, this, [this] {
@@ -127,12 +128,12 @@ MainWindow::MainWindow()
   connect(&state_, &WindowState::Changed, this, &MainWindow::ShowState);
   ShowPads();
   ShowState();
-  host->Start(view_);
-  taviinputmanager::UpdateReplayDisplayId(WindowHost::kDisplay);
+  host->Start([view = QPointer<GuestView>(view_)](const QSize& size) { return view ? view->Corner(size) : QPoint(); });
+  taviinputmanager::UpdateReplayDisplayId(LiveHost::kDisplay);
   LoadJoystickKeymap(QString());
   display_->SetSize(host->GuestSize());
   // What a guest without any contact is sent by way of a beginning is no news.
-  connect(host, &WindowHost::EntryAdded, log_, &LineLog::Add);
+  connect(host, &LiveHost::EntryAdded, log_, &LineLog::Add);
   view_->setFocus();
 }
 

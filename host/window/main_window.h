@@ -7,14 +7,14 @@
 #include <QString>
 #include <QStringList>
 
-#include "host/window/gamepads.h"
-#include "host/window/key_combination.h"
-#include "host/window/keymap_source.h"
-#include "host/window/mapping.h"
-#include "host/window/overlay_marks.h"
-#include "host/window/placed_finding.h"
-#include "host/window/reserved_keys.h"
-#include "host/window/window_state.h"
+#include "host/gamepad/gamepads.h"
+#include "host/picture/overlay_marks.h"
+#include "host/session/key_combination.h"
+#include "host/session/keymap_source.h"
+#include "host/session/mapping.h"
+#include "host/session/reserved_keys.h"
+#include "host/window/findings/placed_finding.h"
+#include "host/window/view/window_state.h"
 
 class QAction;
 class QDockWidget;

@@ -1,8 +1,8 @@
 #include "host/window/mirror_label.h"
 
-#include "host/window/mirror_server.h"
-#include "host/window/mirror_targets.h"
-#include "host/window/window_host.h"
+#include "host/mirror/mirror_server.h"
+#include "host/mirror/mirror_targets.h"
+#include "host/session/live_host.h"
 
 namespace tavi {
 
@@ -36,7 +36,7 @@ MirrorLabel::MirrorLabel(QWidget* parent) : QLabel(parent) {
 MirrorLabel::~MirrorLabel() = default;
 
 QString MirrorLabel::ListenAs(const QString& name) {
-  server_ = std::make_unique<MirrorServer>(WindowHost::kDisplay);
+  server_ = std::make_unique<MirrorServer>(LiveHost::kDisplay);
   connect(server_.get(), &MirrorServer::SourcesChanged, this, [this, name](int count) {
     sources_ = count;
     ShowMirrors();

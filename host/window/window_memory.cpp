@@ -8,13 +8,13 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include "host/look/theme.h"
+#include "host/session/live_host.h"
 #include "host/window/dock_folder.h"
-#include "host/window/guest_display.h"
-#include "host/window/keymap_editor.h"
+#include "host/window/editor/keymap_editor.h"
 #include "host/window/main_tool_bar.h"
 #include "host/window/main_window.h"
-#include "host/window/theme.h"
-#include "host/window/window_host.h"
+#include "host/window/view/guest_display.h"
 
 namespace tavi {
 
@@ -40,7 +40,7 @@ QSize RoomFor(const QWidget& window) { return window.screen()->availableSize() -
 
 // As the help of `tavi window` calls them, without the dashes.
 QMap<QString, QString> OptionsOf(const MainWindow& window) {
-  const WindowHost* host = WindowHost::GetInstance();
+  const LiveHost* host = LiveHost::GetInstance();
   const QSize size = host->GuestSize();
   const bool follows = window.Display()->FollowsView();
   return {

@@ -2,7 +2,7 @@
 #include "core/input_status_manager.h"
 #include "handlers/joystick_event_transparent_handler.h"
 #include "keymap/tavikeymapmanager.h"
-#include "simulators/vjoystick_button_event_simulator.h"
+#include "simulators/gamepad/vjoystick_button_event_simulator.h"
 #include "slots/macro_slot_manager.h"
 #include "slots/multipoint_slot_manager.h"
 #include "taviinputmanager/taviinputmanager.h"

@@ -5,7 +5,7 @@
 #include <QSet>
 
 #include "keymapmanager/key_names.h"
-#include "tests/host/keyboard_105.h"
+#include "tests/support/keyboard_105.h"
 
 namespace tavikeymapmanager {
 namespace {

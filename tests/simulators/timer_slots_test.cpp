@@ -1,12 +1,12 @@
 // What a timer does can be asked for by the slot's name, as any code does that knows no more than the object.
 #include <QMetaObject>
 
-#include "simulators/spell_event_simulator.h"
-#include "simulators/workers/eye_async_worker.h"
-#include "simulators/workers/gravity_sync_worker.h"
-#include "simulators/workers/left_stick_walk_sync_worker.h"
-#include "simulators/workers/right_walk_sync_worker.h"
-#include "tests/simulators/spell_story.h"
+#include "simulators/cast/spell_event_simulator.h"
+#include "simulators/view/eye_async_worker.h"
+#include "simulators/view/gravity_sync_worker.h"
+#include "simulators/walk/left_stick_walk_sync_worker.h"
+#include "simulators/walk/right_walk_sync_worker.h"
+#include "tests/simulators/cast/spell_story.h"
 
 namespace taviinputmanager {
 namespace {

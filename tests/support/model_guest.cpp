@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 
 namespace taviinputmanager {
 namespace {

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "host/guest_model.h"
+#include "host/guest/guest_model.h"
 
 namespace taviinputmanager {
 

@@ -16,7 +16,7 @@ import tree_copy
 
 LIBRARY = "taviinputmanager"
 # Folders of the library's rooms, in which changes are made. A room's own folders belong to it.
-ROOMS = ("core", "slots", "simulators", "handlers", "record")
+ROOMS = ("core", "slots", "simulators", "handlers", "record", "entry")
 
 
 class BuildFailed(Exception):

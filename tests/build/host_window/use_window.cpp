@@ -10,7 +10,7 @@
 
 #include "examples/host_window/guest_view.h"
 #include "keymap/scan_codes.h"
-#include "tests/host/keyboard_105.h"
+#include "tests/support/keyboard_105.h"
 
 namespace {
 

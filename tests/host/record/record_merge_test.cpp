@@ -1,4 +1,4 @@
-#include "host/record/record_merge.h"
+#include "host/command/record_merge.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The program as a guest.
-#include "tests/host/program.h"
+#include "tests/support/program.h"
 
 namespace tavi {
 namespace {

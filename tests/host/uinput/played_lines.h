@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/guest_line.h"
+#include "host/guest/guest_line.h"
 #include "host/uinput/guest_translator.h"
 
 namespace tavi {

@@ -1,8 +1,8 @@
-#include "host/window/contact_trails.h"
+#include "host/window/view/contact_trails.h"
 
 #include <gtest/gtest.h>
 
-#include "host/guest_model.h"
+#include "host/guest/guest_model.h"
 
 namespace tavi {
 namespace {

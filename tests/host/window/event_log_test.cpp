@@ -1,11 +1,11 @@
 // The list of events: what each matched, and what went out because of it.
-#include "host/window/event_log.h"
+#include "host/window/events/event_log.h"
 
 #include <QClipboard>
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include "host/window/event_viewer.h"
+#include "host/window/events/event_viewer.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
@@ -149,11 +149,11 @@ TEST_F(EventLogTest, AGamepadAndItsPairs) {
 
 TEST_F(EventLogTest, AKeyForATextFieldAndOneWhileTheMappingIsOff) {
   Load("{type: Click, label: Jump, key: Space, point: [0.25, 0.75]}");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Key(QEvent::KeyPress, kSpace, " ");
   EXPECT_EQ(Last(EventLog::kMatch), "text field");
   EXPECT_EQ(Last(EventLog::kSent), "TEXT: ");
-  WindowHost::GetInstance()->SetTextField(false);
+  LiveHost::GetInstance()->SetTextField(false);
   Key(QEvent::KeyRelease, kSpace);
   Press(kF12);  // the window's own: no event of the guest's
   Press(kSpace);
@@ -253,7 +253,7 @@ TEST_F(EventLogTest, ALongGestureKeepsAFewLines) {
   Load("");
   Press(kW);
   const int before = Rows();
-  for (int i = 0; i < 40; ++i) taviinputmanager::OnInputRawEventData("KBDPR:30:1\n", WindowHost::kDisplay);
+  for (int i = 0; i < 40; ++i) taviinputmanager::OnInputRawEventData("KBDPR:30:1\n", LiveHost::kDisplay);
   EXPECT_EQ(Rows(), before);
   EXPECT_EQ(Last(EventLog::kSent), "+40 later");
 }

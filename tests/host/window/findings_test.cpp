@@ -5,12 +5,12 @@
 #include <QLabel>
 #include <QToolTip>
 
-#include "host/window/diagnostics_panel.h"
-#include "host/window/edit_layer.h"
-#include "host/window/finding_marks.h"
-#include "host/window/keymap_editor.h"
-#include "host/window/keymap_source.h"
-#include "host/window/placed_finding.h"
+#include "host/session/keymap_source.h"
+#include "host/window/editor/edit_layer.h"
+#include "host/window/editor/keymap_editor.h"
+#include "host/window/findings/diagnostics_panel.h"
+#include "host/window/findings/finding_marks.h"
+#include "host/window/findings/placed_finding.h"
 #include "keymapmanager/keymap_file.h"
 #include "tests/host/window/window_fixture.h"
 

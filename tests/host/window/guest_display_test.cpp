@@ -1,9 +1,9 @@
 // The guest's display: turned, of another pixel ratio, with a picture on it.
 #include <QStatusBar>
 
-#include "host/window/background_picture.h"
-#include "host/window/guest_geometry.h"
-#include "host/window/guest_menu.h"
+#include "host/session/guest_geometry.h"
+#include "host/window/view/background_picture.h"
+#include "host/window/view/guest_menu.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -14,7 +14,7 @@ class GuestDisplay : public WindowFixture {
   GuestDisplay() { Load(""); }  // or a hint stands in the middle
 
   // Where on the display the only finger is seen.
-  QPointF Seen() const { return WindowHost::GetInstance()->Geometry().FractionOf(Finger()); }
+  QPointF Seen() const { return LiveHost::GetInstance()->Geometry().FractionOf(Finger()); }
   void ExpectSeenAt(double x, double y, const QString& where) const {
     constexpr double kPixel = 0.006;  // of a view that may be 317 pixels wide
     EXPECT_NEAR(Seen().x(), x, kPixel) << where.toStdString();
@@ -88,7 +88,7 @@ TEST_F(GuestDisplay, AWalkingFingerIsSeenOnItsStick) {
     Window()->Display()->SetSize(surface);
     for (const int rotation : {0, 90, 180, 270}) {
       Window()->Display()->SetRotation(rotation);
-      const QSize display = WindowHost::GetInstance()->Geometry().DisplaySize();
+      const QSize display = LiveHost::GetInstance()->Geometry().DisplaySize();
       Press(kW);
       clock_->Advance(1000);
       ExpectSeenAt(0.2, 0.6 - 0.1 * display.width() / display.height(),
@@ -138,9 +138,9 @@ TEST_F(GuestDisplay, AFingerIsDrawnWhereItIsSeen) {
 
 TEST_F(GuestDisplay, TheHostTellsTheLibraryOfItsPixels) {
   Window()->Display()->SetPixelRatio(1.5);
-  EXPECT_EQ(WindowHost::GetInstance()->ViewSize(), QSize(1920, 1080));
+  EXPECT_EQ(LiveHost::GetInstance()->ViewSize(), QSize(1920, 1080));
   Window()->Display()->SetRotation(90);
-  EXPECT_EQ(WindowHost::GetInstance()->ViewSize(), QSize(1080, 1920));
+  EXPECT_EQ(LiveHost::GetInstance()->ViewSize(), QSize(1080, 1920));
 }
 
 TEST_F(GuestDisplay, WhatIsDownIsLetGoWhenTheDisplayTurns) {
@@ -167,7 +167,7 @@ TEST_F(GuestDisplay, TheMenuMarksWhatIsSo) {
   for (QAction* action : menu->findChildren<QAction*>()) {
     if (action->text() == "90\u00B0") action->trigger();
   }
-  EXPECT_EQ(WindowHost::GetInstance()->Geometry().rotation, 90);
+  EXPECT_EQ(LiveHost::GetInstance()->Geometry().rotation, 90);
 }
 
 // ---- The picture

@@ -1,4 +1,4 @@
-#include "host/window/guest_view.h"
+#include "host/window/view/guest_view.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 #include <QWheelEvent>
 
 #include "taviinputmanager/taviinputmanager.h"
-#include "tests/host/keyboard_105.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/keyboard_105.h"
 
 namespace tavi {
 namespace {
@@ -83,7 +83,7 @@ TEST_F(GuestViewTest, WhatIsHeldIsLetGoWithTheFocus) {
 
 // Each key goes the whole way: the host's code, the library's conversion, the guest's code.
 TEST_F(GuestViewTest, EveryKeyPassesThroughAsTheGuestsOwn) {
-  taviinputmanager::UpdateDisplayForceTransparent(WindowHost::kDisplay, true);
+  taviinputmanager::UpdateDisplayForceTransparent(LiveHost::kDisplay, true);
   Load("");
   KeyCombination pause;
   ASSERT_EQ(ParseKeyCombination("Meta+F12", &pause), QString());
@@ -108,7 +108,7 @@ TEST_F(GuestViewTest, ChordsAnswer) {
 }
 
 TEST_F(GuestViewTest, AKeyWithoutAPlaceOnTheKeyboardIsNone) {
-  taviinputmanager::UpdateDisplayForceTransparent(WindowHost::kDisplay, true);
+  taviinputmanager::UpdateDisplayForceTransparent(LiveHost::kDisplay, true);
   Load("");
   Key(QEvent::KeyPress, -8, "x");
   EXPECT_TRUE(Guest().held_keys.isEmpty());
@@ -116,7 +116,7 @@ TEST_F(GuestViewTest, AKeyWithoutAPlaceOnTheKeyboardIsNone) {
 
 TEST_F(GuestViewTest, InputMethodsWriteIntoATextFieldOnly) {
   EXPECT_FALSE(View()->testAttribute(Qt::WA_InputMethodEnabled));
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   EXPECT_TRUE(View()->testAttribute(Qt::WA_InputMethodEnabled));
   QInputMethodEvent event;
   event.setCommitString(QStringLiteral("\u4F60\u597D"));
@@ -212,15 +212,15 @@ TEST_F(GuestViewTest, DrawsAllThatAGuestCanHave) {
       "{type: Staring, key: Grave, point: [0.6, 0.4], range_mode: Range_User, range_size: [0.3, 0.3]},"
       "{type: Curve, key: E, point: [0.7, 0.7], curve_straight: true, curve_end: [0, -0.1]},"
       "{type: Macro, label: Run, key: Left Shift, press_commands: ['sleep:1']}");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   for (const char* line :
        {"SLOTPRESS:11:11:1:1:640:360", "SLOTPRESS:11:11:1:1:700:400", "SLOTPRESS:2:2:1:1:250:500", "SLOTRELEASE:2",
         "SLOTMULTIPRESS:18:18:900:100:19:19:1000:200", "KBDPR:30:1", "KBDPR:272:1", "MOUSEMOVE_REL:400:300",
         "WHEEL:400:300:100:0", "LSTICKAXIS:700000:-700000", "RTRIGGERAXIS:1", "GPDBUTTON:304:1", "HATX:1"}) {
-    taviinputmanager::OnInputRawEventData(QLatin1String(line) + "\n", WindowHost::kDisplay);
+    taviinputmanager::OnInputRawEventData(QLatin1String(line) + "\n", LiveHost::kDisplay);
   }
   taviinputmanager::OnInputRawTextData(QStringLiteral("TEXT:hello\n"));
-  Q_EMIT WindowHost::GetInstance()->GravityChanged(-20, 0, 30);
+  Q_EMIT LiveHost::GetInstance()->GravityChanged(-20, 0, 30);
   clock_->Advance(100);
   const QImage picture = View()->window()->grab().toImage();
   EXPECT_EQ(picture.size(), View()->window()->size() * View()->devicePixelRatioF());

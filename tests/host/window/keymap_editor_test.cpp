@@ -1,5 +1,5 @@
 // Editing in the window: a person drags, presses keys, saves, and the file differs only there.
-#include "host/window/keymap_editor.h"
+#include "host/window/editor/keymap_editor.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -10,15 +10,15 @@
 #include <QTimer>
 
 #include "host/editor/item_handles.h"
-#include "host/window/edit_layer.h"
-#include "host/window/field_editor.h"
-#include "host/window/item_inspector.h"
-#include "host/window/key_listener.h"
-#include "host/window/source_pane.h"
+#include "host/window/editor/edit_layer.h"
+#include "host/window/editor/field_editor.h"
+#include "host/window/editor/item_inspector.h"
+#include "host/window/editor/key_listener.h"
+#include "host/window/editor/source_pane.h"
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/joystick_event.h"
-#include "tests/host/full_disk.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/full_disk.h"
 
 namespace tavi {
 namespace {

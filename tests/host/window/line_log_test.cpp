@@ -1,4 +1,4 @@
-#include "host/window/line_log.h"
+#include "host/window/events/line_log.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The keys that the window keeps for itself: the one that pauses the mapping and the one that lets go of everything.
-#include "host/window/mapping.h"
+#include "host/session/mapping.h"
 
 #include <algorithm>
 
@@ -9,10 +9,10 @@
 #include <QStatusBar>
 #include <QWheelEvent>
 
-#include "host/window/key_combination.h"
-#include "host/window/keymap_watch.h"
-#include "host/window/record_bar.h"
-#include "host/window/replayer.h"
+#include "host/session/key_combination.h"
+#include "host/session/keymap_watch.h"
+#include "host/session/replayer.h"
+#include "host/window/records/record_bar.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
 
@@ -182,11 +182,11 @@ TEST_F(MappingTest, WhilePausedTheMouseIsAMouse) {
 TEST_F(MappingTest, WhilePausedATextFieldGetsLetters) {
   Load("{type: Click, key: A, point: [0.25, 0.75]}");
   ClickPauseKey();
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Key(QEvent::KeyPress, kA, "a");
   Key(QEvent::KeyRelease, kA, "a");
   EXPECT_EQ(Guest().text, QString("a"));
-  WindowHost::GetInstance()->SetTextField(false);
+  LiveHost::GetInstance()->SetTextField(false);
   Press(kA);
   EXPECT_EQ(Guest().held_keys, QSet<int>{kA});
 }

@@ -15,13 +15,13 @@
 #include <QSocketNotifier>
 #include <QTemporaryDir>
 
-#include "host/window/mirror_address.h"
-#include "host/window/mirror_message.h"
-#include "host/window/mirror_server.h"
-#include "host/window/mirror_targets.h"
-#include "host/window/window_host.h"
+#include "host/mirror/mirror_address.h"
+#include "host/mirror/mirror_message.h"
+#include "host/mirror/mirror_server.h"
+#include "host/mirror/mirror_targets.h"
+#include "host/session/live_host.h"
 #include "taviinputmanager/taviinputmanager.h"
-#include "tests/host/full_disk.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
@@ -38,8 +38,8 @@ class Mirror : public testing::Test {
       lost_.append({name, problem});
     });
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));  // no other test has these names
-    WindowHost::GetInstance()->Start(nullptr);
-    QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &context_, [this](const TimelineEntry& entry) {
+    LiveHost::GetInstance()->Start(nullptr);
+    QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &context_, [this](const TimelineEntry& entry) {
       if (entry.source != TimelineEntry::Source::kCallback) said_.append(entry.text);
     });
   }
@@ -134,8 +134,8 @@ TEST_F(Mirror, LinesOfALiveDisplayGoToEveryTarget) {
   Listener second("second");
   Reach({"first", "second"});
 
-  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
-  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), WindowHost::kDisplay + 1);  // not a live one
+  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), LiveHost::kDisplay);
+  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), LiveHost::kDisplay + 1);  // not a live one
   taviinputmanager::OnInputRawTextData(QStringLiteral("TEXT:two\nlines\n"));
   const QStringList expected{QStringLiteral("KBDPR:30:1\n"), QStringLiteral("text TEXT:two\nlines\n")};
   EXPECT_TRUE(RunEventsUntil([&] {
@@ -158,7 +158,7 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
   EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it went away")}));
   EXPECT_EQ(targets->Names(), QStringList{"stays"});
-  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), WindowHost::kDisplay);
+  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), LiveHost::kDisplay);
   EXPECT_TRUE(RunEventsUntil([&] {
     stays.Read();
     return stays.lines.size() == 1;
@@ -174,7 +174,7 @@ TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
 }
 
 TEST_F(Mirror, LinesOfAnotherInstanceReachTheGuest) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
@@ -185,7 +185,7 @@ TEST_F(Mirror, LinesOfAnotherInstanceReachTheGuest) {
 }
 
 TEST_F(Mirror, WhatAnotherInstanceHoldsIsLetGoWhenItGoes) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
@@ -205,13 +205,13 @@ TEST_F(Mirror, WhatAnotherInstanceHoldsIsLetGoWhenItGoes) {
 TEST_F(Mirror, WhatCameFromAnotherInstanceIsNotPassedOn) {
   Listener third("third");
   Reach({"third"});
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
   Say(&other, {false, QStringLiteral("KBDPR:30:1\n")});
   ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 1; }));
-  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), WindowHost::kDisplay);
+  taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:31:1\n"), LiveHost::kDisplay);
   ASSERT_TRUE(RunEventsUntil([&] {
     third.Read();
     return !third.lines.isEmpty();
@@ -220,7 +220,7 @@ TEST_F(Mirror, WhatCameFromAnotherInstanceIsNotPassedOn) {
 }
 
 TEST_F(Mirror, BytesThatAreNoMessageEndTheConnection) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   int sources = -1;
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
   ASSERT_EQ(server.Listen("server"), QString());
@@ -244,12 +244,12 @@ TEST_F(Mirror, NamesAreWords) {
       {"a b", false}, {".", false},       {"keymap.y", false}, {"l\u00E4nge", false}, {"left\n", false},
   };
   for (const auto& row : rows) EXPECT_EQ(MirrorNameProblem(row.name).isEmpty(), row.is_name) << row.name;
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   EXPECT_EQ(server.Listen("keymap.yaml"), MirrorNameProblem("keymap.yaml"));
 }
 
 TEST_F(Mirror, SocketsLieInAFolderOfTheUsersOwn) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   struct stat folder {};
   ASSERT_EQ(stat(QFile::encodeName(folder_.filePath("tavi")).constData(), &folder), 0);
@@ -260,7 +260,7 @@ TEST_F(Mirror, SocketsLieInAFolderOfTheUsersOwn) {
 TEST_F(Mirror, AFolderThatOthersMayEnterIsClosed) {
   ASSERT_EQ(mkdir(QFile::encodeName(folder_.filePath("tavi")).constData(), 0777), 0);
   ASSERT_EQ(chmod(QFile::encodeName(folder_.filePath("tavi")).constData(), 0777), 0);
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   struct stat folder {};
   ASSERT_EQ(stat(QFile::encodeName(folder_.filePath("tavi")).constData(), &folder), 0);
@@ -269,7 +269,7 @@ TEST_F(Mirror, AFolderThatOthersMayEnterIsClosed) {
 
 TEST_F(Mirror, TheSocketGoesWithItsServer) {
   {
-    MirrorServer server(WindowHost::kDisplay);
+    MirrorServer server(LiveHost::kDisplay);
     ASSERT_EQ(server.Listen("server"), QString());
   }
   EXPECT_FALSE(QFileInfo::exists(MirrorAddressOf("server")));
@@ -278,7 +278,7 @@ TEST_F(Mirror, TheSocketGoesWithItsServer) {
 TEST_F(Mirror, WhatACrashedInstanceLeftIsReplaced) {
   LeaveSocket("server");
   ASSERT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   EXPECT_EQ(server.Listen("server"), QString());
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
@@ -291,7 +291,7 @@ TEST_F(Mirror, WhatIsNoSocketStays) {
   file.write("dear");
   file.close();
   {
-    MirrorServer server(WindowHost::kDisplay);
+    MirrorServer server(LiveHost::kDisplay);
     EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
   }
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -303,14 +303,14 @@ TEST_F(Mirror, ASocketOfAnotherUserStays) {
   LeaveSocket("server");
   const QByteArray address = QFile::encodeName(MirrorAddressOf("server"));
   ASSERT_EQ(chown(address.constData(), kNobody, kNobody), 0);
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
   EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
 }
 
 TEST_F(Mirror, AnotherUserIsNotHeard) {
   if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   sockaddr_un address{};
   const int other = Unbound("server", &address);
@@ -343,11 +343,11 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
 
 // Whoever asks whether a name is in use is no instance that sends lines.
 TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   QVector<int> counts;
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { counts += count; });
-  MirrorServer second(WindowHost::kDisplay);
+  MirrorServer second(LiveHost::kDisplay);
   EXPECT_EQ(second.Listen("server"), QString("another instance listens as server"));
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
@@ -358,7 +358,7 @@ TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
 // ---- Limits
 
 TEST_F(Mirror, ALineThatIsTooLongEndsTheConnection) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   int sources = 0;
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
@@ -433,7 +433,7 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
 }
 
 TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
-  MirrorServer server(WindowHost::kDisplay);
+  MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
   int sources = 0;
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
@@ -457,9 +457,9 @@ TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
 }
 
 TEST_F(Mirror, ANameInUseIsRefused) {
-  MirrorServer first(WindowHost::kDisplay);
+  MirrorServer first(LiveHost::kDisplay);
   ASSERT_EQ(first.Listen("name"), QString());
-  MirrorServer second(WindowHost::kDisplay);
+  MirrorServer second(LiveHost::kDisplay);
   EXPECT_NE(second.Listen("name"), QString());
 }
 

@@ -1,4 +1,4 @@
-#include "host/window/pointer_capture.h"
+#include "host/window/pointer/pointer_capture.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -12,13 +12,13 @@
 #include <QStatusBar>
 #include <QTimer>
 
-#include "host/window/guest_screen.h"
-#include "host/window/record_bar.h"
-#include "host/window/recorder.h"
-#include "host/window/replayer.h"
+#include "host/session/recorder.h"
+#include "host/session/replayer.h"
+#include "host/window/records/record_bar.h"
+#include "host/window/view/guest_screen.h"
 #include "taviinputmanager/taviinputmanager.h"
-#include "tests/host/full_disk.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/full_disk.h"
 
 namespace tavi {
 namespace {

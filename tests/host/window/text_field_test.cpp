@@ -32,7 +32,7 @@ class TextField : public WindowFixture {
 
 TEST_F(TextField, KeysAreTypedWhateverTheKeymapSays) {
   Load("{type: Click, key: A, point: [0.5, 0.5]}");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Key(QEvent::KeyPress, kA, "a");
   Key(QEvent::KeyPress, kA, "a", true);
   Key(QEvent::KeyRelease, kA, "a");
@@ -43,7 +43,7 @@ TEST_F(TextField, KeysAreTypedWhateverTheKeymapSays) {
 // As input methods and other programs send them.
 TEST_F(TextField, AKeyWithoutAPlaceOnTheKeyboardIsItsText) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Key(QEvent::KeyPress, -8, "x");
   EXPECT_EQ(Guest().text, QStringLiteral("x"));
 }
@@ -51,7 +51,7 @@ TEST_F(TextField, AKeyWithoutAPlaceOnTheKeyboardIsItsText) {
 // The text that comes with Ctrl+V is a control character, which nobody wants typed.
 TEST_F(TextField, CtrlVPastesTheClipboard) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   QGuiApplication::clipboard()->setText(QStringLiteral("na\u00EFve \U0001F600:\n2"));
   Key(QEvent::KeyPress, kLeftCtrl);
   KeyWithCtrl(QEvent::KeyPress, kV, QStringLiteral("\x16"));
@@ -62,7 +62,7 @@ TEST_F(TextField, CtrlVPastesTheClipboard) {
 
 TEST_F(TextField, OtherControlCharactersAreTyped) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   KeyWithCtrl(QEvent::KeyPress, kC, QStringLiteral("\x03"));
   EXPECT_EQ(Guest().text, QStringLiteral("\x03"));
 }
@@ -70,7 +70,7 @@ TEST_F(TextField, OtherControlCharactersAreTyped) {
 // X11 repeats a key as a release and a press of one time.
 TEST_F(TextField, AHeldBackspaceTakesOneCharacterAtEachRepeat) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Compose(QString(), QStringLiteral("abcdef"));
   Key(QEvent::KeyPress, kBackspace);
   EXPECT_EQ(Guest().text, QStringLiteral("abcde"));
@@ -84,10 +84,10 @@ TEST_F(TextField, AHeldBackspaceTakesOneCharacterAtEachRepeat) {
 
 TEST_F(TextField, EnterIsALineAndArrowsAreKeys) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   QStringList lines;
   const QObject until_here;
-  QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &until_here,
+  QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &until_here,
                    [&](const TimelineEntry& entry) { lines += entry.text; });
   Key(QEvent::KeyPress, kEnter, QStringLiteral("\r"));
   Key(QEvent::KeyPress, kLeftArrow);
@@ -99,7 +99,7 @@ TEST_F(TextField, EnterIsALineAndArrowsAreKeys) {
 // The guest gets a word when it is done; until then the window shows it.
 TEST_F(TextField, WhatIsComposedIsShownAndNotYetTyped) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   QStringList shown;
   QObject::connect(View(), &GuestView::Composing, [&](const QString& text) { shown += text; });
   Compose(QStringLiteral("ni"), QString());
@@ -135,7 +135,7 @@ TEST_F(TextField, KeysHeldBeforeAreLetGoWithTheFirstLetter) {
   Load("", "settings: {keyboard_transparent: true}");
   Press(kW);
   EXPECT_EQ(Guest().held_keys, QSet<int>{kW});
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Key(QEvent::KeyPress, kA, QStringLiteral("a"));
   EXPECT_TRUE(Guest().held_keys.isEmpty());
 }

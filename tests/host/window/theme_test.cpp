@@ -1,5 +1,5 @@
 // The colours of the window: what is written can be read.
-#include "host/window/theme.h"
+#include "host/look/theme.h"
 
 #include <cmath>
 
@@ -7,8 +7,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
-#include "host/guest_model.h"
-#include "host/window/switch_style.h"
+#include "host/guest/guest_model.h"
+#include "host/look/switch_style.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {

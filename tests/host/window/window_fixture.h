@@ -12,11 +12,11 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 
+#include "host/session/live_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
-#include "host/window/guest_display.h"
-#include "host/window/guest_view.h"
 #include "host/window/main_window.h"
-#include "host/window/window_host.h"
+#include "host/window/view/guest_display.h"
+#include "host/window/view/guest_view.h"
 
 namespace tavi {
 

@@ -6,11 +6,11 @@
 #include <QSettings>
 
 #include "host/window/dock_folder.h"
-#include "host/window/guest_frame.h"
-#include "host/window/keymap_editor.h"
-#include "host/window/line_log.h"
+#include "host/window/editor/keymap_editor.h"
+#include "host/window/events/line_log.h"
 #include "host/window/main_tool_bar.h"
-#include "host/window/record_bar.h"
+#include "host/window/records/record_bar.h"
+#include "host/window/view/guest_frame.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {

@@ -13,8 +13,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "host/window/mirror_address.h"
-#include "host/window/mirror_message.h"
+#include "host/mirror/mirror_address.h"
+#include "host/mirror/mirror_message.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "test_folders.h"
 #include "tests/support/run_until.h"

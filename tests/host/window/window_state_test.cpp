@@ -1,15 +1,15 @@
 // What the window says about its state, in the corner of the view and at the bottom.
-#include "host/window/window_state.h"
+#include "host/window/view/window_state.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QStatusBar>
 
-#include "host/window/keymap_editor.h"
+#include "host/session/replayer.h"
+#include "host/window/editor/keymap_editor.h"
 #include "host/window/mirror_label.h"
-#include "host/window/record_bar.h"
-#include "host/window/replayer.h"
-#include "host/window/state_corner.h"
+#include "host/window/records/record_bar.h"
+#include "host/window/view/state_corner.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -94,9 +94,9 @@ TEST_F(WindowStateTest, TheMouseThatTurnsTheView) {
 
 TEST_F(WindowStateTest, ATextFieldTakesTheKeys) {
   Load("");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   EXPECT_EQ(Texts(), (QStringList{"Mapping on", "Text field"}));
-  WindowHost::GetInstance()->SetTextField(false);
+  LiveHost::GetInstance()->SetTextField(false);
   EXPECT_EQ(Texts(), QStringList("Mapping on"));
 }
 
@@ -123,7 +123,7 @@ TEST_F(WindowStateTest, RecordsThatAreMadeAndPlayed) {
 
 TEST_F(WindowStateTest, TheCornerStaysInTheView) {
   Load("{type: Staring, key: Grave, point: [0.6, 0.4]}");
-  WindowHost::GetInstance()->SetTextField(true);
+  LiveHost::GetInstance()->SetTextField(true);
   Window()->Records()->ToggleRecording();
   for (const QSize& size : {QSize(1280, 720), QSize(320, 1280)}) {  // the second is too narrow for one row
     Window()->Display()->SetSize(size);

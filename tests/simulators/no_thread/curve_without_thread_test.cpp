@@ -10,7 +10,7 @@
 
 #include "host/simulation/simulated_host.h"
 #include "keymap/tavikeymapmanager.h"
-#include "simulators/curve_event_simulator.h"
+#include "simulators/curve/curve_event_simulator.h"
 #include "tests/support/run_until.h"
 
 namespace {

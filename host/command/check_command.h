@@ -1,0 +1,13 @@
+#ifndef HOST_COMMAND_CHECK_COMMAND_H_
+#define HOST_COMMAND_CHECK_COMMAND_H_
+
+#include "host/command/subcommands.h"
+
+namespace tavi {
+
+// `tavi check`: what is wrong with keymap files.
+Subcommand CheckCommand();
+
+}  // namespace tavi
+
+#endif  // HOST_COMMAND_CHECK_COMMAND_H_

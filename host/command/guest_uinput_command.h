@@ -1,0 +1,14 @@
+#ifndef HOST_COMMAND_GUEST_UINPUT_COMMAND_H_
+#define HOST_COMMAND_GUEST_UINPUT_COMMAND_H_
+
+#include "host/command/subcommands.h"
+
+namespace tavi {
+
+// `tavi guest-uinput`: a guest that plays its lines on input devices of the Linux kernel. Where the program was built
+// without libevdev it is there to say so.
+Subcommand GuestUinputCommand();
+
+}  // namespace tavi
+
+#endif  // HOST_COMMAND_GUEST_UINPUT_COMMAND_H_

@@ -1,0 +1,111 @@
+#include "host/command/record_merge.h"
+
+#include "host/command/command_line.h"
+#include "host/record/record_file.h"
+#include "host/record/written_record.h"
+#include "host/system/console.h"
+#include "host/system/progress_line.h"
+#include "host/system/whole_file.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+namespace {
+
+const QString kCommand = QStringLiteral("record merge");
+
+constexpr char kHelp[] =
+    "Usage: tavi record merge -o TARGET FILE [OPTIONS] [FILE [OPTIONS]]...\n"
+    "\n"
+    "Writes one record that plays the others in turn. Options stand behind the record\n"
+    "that they are about.\n"
+    "\n"
+    "  -o TARGET     where to write it\n"
+    "  --times N     play it N times, from 1 on (1)\n"
+    "  --delay MS    pause between those times, in milliseconds from 0 on (0)\n"
+    "  --speed X     play it that many times as fast, any number above 0 (1)\n"
+    "  --gap MS      pause before the next record, in milliseconds from 0 on, shortened by\n"
+    "                this one's speed (0)\n"
+    "\n"
+    "A name that begins with a dash is written ./-name, or stands behind \"--\".\n"
+    "\n"
+    "Long work is told of on a terminal. Ctrl+C ends it, and leaves the target as it was.\n"
+    "\n"
+    "Exit status: 0 when it was written, 1 when it cannot be, 2 when a record or the\n"
+    "command line cannot be used.\n"
+    "\n"
+    "Example: tavi record merge -o day.json examples/records/taps.json \\\n"
+    "           examples/records/walk.json --times 3 --delay 500\n";
+
+const QString kOutput = QStringLiteral("-o");
+const QString kTimes = QStringLiteral("--times");
+const QString kDelay = QStringLiteral("--delay");
+const QString kGap = QStringLiteral("--gap");
+
+// Returns what is wrong, or nothing.
+QString TakeOption(const GivenArgument& given, MergeOrder* order) {
+  if (given.option == kOutput) {
+    order->target = given.value;
+    return {};
+  }
+  if (order->records.isEmpty()) return QStringLiteral("%1 stands behind the record that it is about").arg(given.option);
+  MergeParam& record = order->records.last();
+  if (given.option == kTimes) return TakeWholeNumber(given, 1, &record.repeat_times);
+  if (given.option == kDelay) return TakeWholeNumber(given, 0, &record.repeat_delay);
+  if (given.option == kGap) return TakeWholeNumber(given, 0, &record.till_next_item_delay);
+  return TakeFactor(given, &record.speed_ratio);
+}
+
+bool AreRecordsUsable(const QVector<MergeParam>& records) {
+  bool all = true;
+  for (const MergeParam& record : records) {
+    all = IsRecordUsable(record.file_name, ReadRecordFile(record.file_name)) && all;
+  }
+  return all;
+}
+
+// Returns what went wrong, or nothing.
+QString Merge(const MergeOrder& order) {
+  WholeFile file(order.target);
+  if (!file.Problem().isEmpty()) return file.Problem();
+  const ProgressLine progress(QStringLiteral("writing ") + order.target);
+  taviinputmanager::MergeRecord(file.WorkingName(), order.records);
+  RecordInfo info;
+  const QString problem = WrittenRecordProblem(file.WorkingName(), &info);
+  if (!problem.isEmpty()) return problem;
+  file.Keep();
+  return file.Problem();
+}
+
+int Run(const Invocation& invocation) {
+  const MergeOrder order = ReadMergeOrder(invocation.arguments);
+  if (!order.problem.isEmpty()) return FailUsage(kCommand, order.problem);
+  if (!AreRecordsUsable(order.records)) return kExitUsage;
+  const QString problem = Merge(order);
+  if (problem.isEmpty()) return kExitDone;
+  PrintError(QStringLiteral("tavi record merge: cannot write %1: %2\n").arg(order.target, problem));
+  return kExitProblem;
+}
+
+}  // namespace
+
+MergeOrder ReadMergeOrder(const QStringList& arguments) {
+  const ParsedArguments parsed = ParseArguments(arguments, OptionsOf(kHelp));
+  MergeOrder order;
+  order.problem = parsed.error;
+  for (const GivenArgument& given : parsed.in_order) {
+    if (!order.problem.isEmpty()) return order;
+    if (given.option.isEmpty()) {
+      order.records.append(MergeParam{given.value});
+    } else {
+      order.problem = TakeOption(given, &order);
+    }
+  }
+  if (order.records.isEmpty()) order.problem = QStringLiteral("a record is missing");
+  if (order.target.isEmpty()) order.problem = QStringLiteral("-o FILE is missing");
+  return order;
+}
+
+Subcommand RecordMergeCommand() { return {"record merge", "writes one record that plays others in turn", kHelp, Run}; }
+
+}  // namespace tavi

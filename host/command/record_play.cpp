@@ -1,0 +1,162 @@
+#include "host/command/record_play.h"
+
+#include <atomic>
+#include <cstdio>
+
+#include <QAbstractEventDispatcher>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include "host/command/command_line.h"
+#include "host/record/record_file.h"
+#include "host/simulation/simulated_host.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "host/system/console.h"
+#include "host/system/window_system.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+namespace {
+
+const QString kCommand = QStringLiteral("record play");
+
+constexpr char kHelp[] =
+    "Usage: tavi record play [OPTIONS] FILE\n"
+    "\n"
+    "Plays a record and prints every line for the guest, and after a \"!\" every call of\n"
+    "the host, each with the time in milliseconds since the start. Time is not waited\n"
+    "for.\n"
+    "\n"
+    "  --speed X     that many times as fast, any number above 0 (1)\n"
+    "  --emulation   fingers miss their points by up to 2 pixels, at random\n"
+    "  --guest WxH   the guest's display in pixels, each side from 1 to 16384 (as it was\n"
+    "                recorded)\n"
+    "  --live        wait, and print each line as it falls due\n"
+    "\n"
+    "Exit status: 0 when it was played, 1 when the replay did not start, 2 when the\n"
+    "record or the command line cannot be used.\n"
+    "\n"
+    "Example: tavi record play --speed 2 examples/records/walk.json\n";
+
+const QString kSpeed = QStringLiteral("--speed");
+const QString kEmulation = QStringLiteral("--emulation");
+const QString kGuest = QStringLiteral("--guest");
+const QString kLive = QStringLiteral("--live");
+
+constexpr QSize kDefaultGuest(1280, 720);
+constexpr int kDisplay = 1;
+constexpr int kTask = 1;
+constexpr int kStartLimitMs = 5000;  // a replay starts at once, or never
+
+struct PlayOptions {
+  QString file;
+  taviinputmanager::ReplayParam param;
+  QSize guest;  // empty: as large as when the record was made
+  bool is_live = false;
+};
+
+// Returns what is wrong, or nothing.
+QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
+  if (!parsed.error.isEmpty()) return parsed.error;
+  if (parsed.positional.size() != 1) return QStringLiteral("one record is needed");
+  options->file = parsed.positional[0];
+  options->is_live = parsed.options.contains(kLive);
+  options->param.emulation_mode = parsed.options.contains(kEmulation);
+  const QString problem = TakeFactor(parsed.Find(kSpeed), &options->param.speed_ratio);
+  return problem.isEmpty() ? TakeSize(parsed.Find(kGuest), &options->guest) : problem;
+}
+
+QSize GuestSize(const PlayOptions& options) {
+  if (!options.guest.isEmpty()) return options.guest;
+  RecordInfo info;
+  taviinputmanager::GetRecordInfo(options.file, &info);
+  return info.resolution.isEmpty() ? kDefaultGuest : info.resolution;
+}
+
+// The plain functions that the library tells of the replay. Of all but the host's own commands it tells on a thread of
+// the replay's own, unless time is virtual.
+struct ReplayFunctions {
+  static void Say(const QString& text) { SimulatedHost::GetInstance()->Say(text); }
+  static void Started(int /*task*/, const QString& /*file*/) {
+    Say(QStringLiteral("replay started"));
+    has_started = true;
+  }
+  static void Finished(int /*task*/, const QString& /*file*/, taviinputmanager::ReplayParam /*param*/) {
+    Say(QStringLiteral("replay finished"));
+    // Behind the lines that are on their way to the main thread still.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
+  }
+  static void Ignore(int /*task*/, const QString& /*file*/) {}
+  static void HostCommand(const QString& data, const QString& extra1, const QString& extra2, int /*task*/,
+                          const QString& /*file*/) {
+    const bool has_extras = !extra1.isEmpty() || !extra2.isEmpty();
+    const QString extras = has_extras ? QStringLiteral(" | %1 | %2").arg(extra1, extra2) : QString();
+    Say(QStringLiteral("vcontrol ") + data + extras);
+  }
+
+  static taviinputmanager::InputReplayerCallbacks Table() {
+    taviinputmanager::InputReplayerCallbacks table;
+    table.started = Started;
+    table.paused = Ignore;
+    table.resumed = Ignore;
+    table.stopped = Ignore;
+    table.finished = Finished;
+    table.vcontrol = HostCommand;
+    return table;
+  }
+
+  static std::atomic<bool> has_started;
+};
+
+std::atomic<bool> ReplayFunctions::has_started{false};
+
+// One call a line: lines of two threads do not mix.
+void PrintEntry(const TimelineEntry& entry) { Print(FormatLine(entry)); }
+
+void StartHost(const QSize& guest) {
+  SimulatedHost* host = SimulatedHost::GetInstance();
+  host->display = host->touch = QRect(QPoint(0, 0), guest);
+  const auto* clock = qobject_cast<taviinputmanager::VirtualTime*>(QCoreApplication::eventDispatcher());
+  host->Start([clock] { return clock ? clock->NowMs() : QDateTime::currentMSecsSinceEpoch(); });
+  taviinputmanager::UpdateDisplayId(kDisplay);  // where the end of a replay lifts its fingers
+  QCoreApplication::sendPostedEvents();
+  host->StartTimeline();
+  host->listener = PrintEntry;
+}
+
+int Replay(const PlayOptions& options) {
+  static taviinputmanager::InputReplayerCallbacks table = ReplayFunctions::Table();
+  taviinputmanager::InitializeReplayCallbacks(&table);
+  taviinputmanager::UpdateReplayDisplayId(kDisplay);
+  taviinputmanager::StartReplay(0, kTask, QString(), options.file, options.param);
+  // The file may have gone since it was looked at.
+  QTimer::singleShot(kStartLimitMs, QCoreApplication::instance(), [] {
+    if (!ReplayFunctions::has_started) QCoreApplication::exit(kExitProblem);
+  });
+  const int status = QCoreApplication::exec();
+  if (status != kExitDone) PrintError(QStringLiteral("%1: the replay did not start\n").arg(options.file));
+  return status;
+}
+
+int Run(const Invocation& invocation) {
+  PlayOptions options;
+  const ParsedArguments parsed = ParseArguments(invocation.arguments, OptionsOf(kHelp));
+  const QString problem = ReadOptions(parsed, &options);
+  if (!problem.isEmpty()) return FailUsage(kCommand, problem);
+  if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;
+  DoWithoutWindowSystem();  // neither clock needs one
+  if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
+  if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // lines are seen as they fall due
+  const QGuiApplication application(invocation.argc, invocation.argv);
+  StartHost(GuestSize(options));
+  return Replay(options);
+}
+
+}  // namespace
+
+Subcommand RecordPlayCommand() { return {"record play", "prints what a record plays", kHelp, Run}; }
+
+}  // namespace tavi

@@ -1,0 +1,201 @@
+#include "host/command/simulate_command.h"
+
+#include <cstdio>
+#include <optional>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include "host/command/command_line.h"
+#include "host/command/script_recording.h"
+#include "host/picture/picture_file.h"
+#include "host/picture/timeline_chart.h"
+#include "host/picture/timeline_picture.h"
+#include "host/session/keymap_report.h"
+#include "host/simulation/script.h"
+#include "host/simulation/script_player.h"
+#include "host/simulation/simulated_host.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+#include "host/system/console.h"
+#include "host/system/plain_file.h"
+#include "host/system/window_system.h"
+#include "keymapmanager/keymap_file.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: tavi simulate [OPTIONS] KEYMAP SCRIPT\n"
+    "\n"
+    "Plays a script of input with a keymap and prints what comes of it: every line for\n"
+    "the guest, and after a \"!\" every call of the host, each with the time in\n"
+    "milliseconds since the start. Time is not waited for. The same script gives the\n"
+    "same output at every run.\n"
+    "\n"
+    "SCRIPT is a file, or \"-\" for standard input. One command a line, such as\n"
+    "  down W; wait 100; up W\n"
+    "  mouse down left 640,360\n"
+    "Positions are pixels of a guest view of 1280 x 720.\n"
+    "\n"
+    "  --svg FILE       also draw the timeline as a picture: bars for what is held, a lane\n"
+    "                   for each key and finger\n"
+    "  --record FILE    also save what the guest got on display 1 as a record, for\n"
+    "                   \"tavi record\" to play\n"
+    "  --package NAME   the app that the keymap is loaded for, and the record tells of\n"
+    "                   (com.example.game)\n"
+    "\n"
+    "Exit status: 0 when the script was played, 1 when there is no record to save, or it\n"
+    "or the picture cannot be written, 2 when the script, the keymap or the command line\n"
+    "cannot be used.\n"
+    "\n"
+    "Example: echo \"down Space; wait 50; up Space\" |\n"
+    "           tavi simulate examples/keymaps/shooter.yaml -\n";
+
+const QString kName = QStringLiteral("simulate");
+const QString kSvg = QStringLiteral("--svg");
+const QString kRecord = QStringLiteral("--record");
+const QString kPackage = QStringLiteral("--package");
+
+std::optional<QString> ReadText(const QString& name) {
+  const bool is_standard_input = name == QLatin1String(kStandardStream);
+  QFile file(name);
+  const bool is_open = is_standard_input ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+  if (is_open) return QString::fromUtf8(file.readAll());
+  const QString problem = NoFileProblem(name);
+  PrintError(QStringLiteral("%1: cannot be read: %2\n").arg(name, problem.isEmpty() ? file.errorString() : problem));
+  return std::nullopt;
+}
+
+bool IsLoad(const ScriptCommand& command) {
+  return command.kind == ScriptCommand::Kind::kKeymap || command.kind == ScriptCommand::Kind::kJoymap;
+}
+
+// The files that a script names are looked for from its own folder.
+void ResolveFiles(const QString& script_name, Script* script) {
+  if (script_name == QLatin1String(kStandardStream)) return;
+  const QDir folder = QFileInfo(script_name).dir();
+  for (ScriptCommand& command : script->commands) {
+    if (IsLoad(command) && !command.text.isEmpty()) command.text = QDir::cleanPath(folder.filePath(command.text));
+  }
+}
+
+std::optional<Script> ReadScript(const QString& name) {
+  const std::optional<QString> text = ReadText(name);
+  if (!text) return std::nullopt;
+  Script script = ParseScript(*text);
+  const QString shown = name == QLatin1String(kStandardStream) ? QStringLiteral("<stdin>") : name;
+  for (const ScriptError& error : script.errors) {
+    PrintError(QStringLiteral("%1:%2:%3: error: ").arg(shown).arg(error.line).arg(error.column) + error.message +
+               QLatin1Char('\n'));
+  }
+  if (!script.errors.isEmpty()) return std::nullopt;
+  ResolveFiles(name, &script);
+  return script;
+}
+
+// The library reports nothing about keymaps, so each is looked at before it is played with.
+bool IsKeymapUsable(const QString& path) {
+  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
+  PrintError(FormatDiagnostics(result));
+  return !result.HasErrors();
+}
+
+bool AreKeymapsUsable(const QString& first, const Script& script) {
+  bool all = IsKeymapUsable(first);
+  for (const ScriptCommand& command : script.commands) {
+    if (IsLoad(command)) all = IsKeymapUsable(command.text) && all;
+  }
+  return all;
+}
+
+void TakeTimeline(SimulatedHost* host, TimelineChart* chart) {
+  for (const TimelineEntry& entry : host->TakeTimeline()) {
+    Print(FormatLine(entry));
+    chart->AddEntry(entry);
+  }
+}
+
+struct SimulateOptions {
+  QString keymap;
+  QString script;
+  std::optional<QString> svg;      // where to draw the timeline
+  std::optional<QString> record;   // where to save one
+  std::optional<QString> package;  // in place of the player's own
+};
+
+int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
+  const bool is_standard_input = options.script == QLatin1String(kStandardStream);
+  const QString script = is_standard_input ? QStringLiteral("Input") : QFileInfo(options.script).fileName();
+  const QString title = QStringLiteral("%1 with %2").arg(script, QFileInfo(options.keymap).fileName());
+  return WritePicture(kName, *options.svg, DrawTimeline(chart, title));
+}
+
+int Play(const Invocation& invocation, const SimulateOptions& options, const Script& script) {
+  DoWithoutWindowSystem();  // the clock serves none
+  auto* clock = new VirtualEventDispatcher;
+  QCoreApplication::setEventDispatcher(clock);
+  const QGuiApplication application(invocation.argc, invocation.argv);
+  SimulatedHost* host = SimulatedHost::GetInstance();
+  host->Start([clock] { return clock->NowMs(); });
+  ScriptPlayer player(clock, host);
+  if (options.package) player.package = *options.package;
+  player.LoadKeymap(options.keymap);
+  clock->Settle();
+  host->StartTimeline();
+  const QString package = player.package;  // a script may change the player's
+  if (options.record) StartScriptRecording(package, player.display);
+  const qint64 start_ms = clock->NowMs();
+  TimelineChart chart;
+  for (const ScriptCommand& command : script.commands) {
+    chart.AddInput(clock->NowMs() - start_ms, command);
+    player.Play(command);
+    TakeTimeline(host, &chart);
+  }
+  chart.Finish(clock->NowMs() - start_ms);
+  const int recorded = options.record ? SaveScriptRecording(package, *options.record) : kExitDone;
+  const int drawn = options.svg ? DrawChart(options, chart) : kExitDone;
+  return recorded == kExitDone ? drawn : recorded;
+}
+
+std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString& name) {
+  if (!arguments.options.contains(name)) return std::nullopt;
+  return arguments.options[name];
+}
+
+// Returns what is wrong with the names of the files to write, or nothing. Standard output is the timeline's.
+QString ProblemOf(const SimulateOptions& options) {
+  if (options.svg && options.svg->isEmpty()) return QStringLiteral("the name of the picture is empty");
+  if (options.record && options.record->isEmpty()) return QStringLiteral("the name of the record is empty");
+  for (const std::optional<QString>& name : {options.svg, options.record}) {
+    if (name.value_or(QString()) == QLatin1String(kStandardStream)) {
+      return QStringLiteral("standard output gets the lines; pictures and records need a file");
+    }
+  }
+  return SvgNameProblem(kSvg, options.svg.value_or(QString()));
+}
+
+int Run(const Invocation& invocation) {
+  const ParsedArguments arguments = ParseArguments(invocation.arguments, OptionsOf(kHelp));
+  if (!arguments.error.isEmpty()) return FailUsage(kName, arguments.error);
+  if (arguments.positional.size() != 2) {
+    return FailUsage(kName, QStringLiteral("a keymap and a script are needed"));
+  }
+  const SimulateOptions options{arguments.positional[0], arguments.positional[1], OptionOf(arguments, kSvg),
+                                OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
+  const QString problem = ProblemOf(options);
+  if (!problem.isEmpty()) return FailUsage(kName, problem);
+  const std::optional<Script> script = ReadScript(options.script);
+  if (!script || !AreKeymapsUsable(options.keymap, *script)) return kExitUsage;
+  return Play(invocation, options, *script);
+}
+
+}  // namespace
+
+Subcommand SimulateCommand() {
+  return {"simulate", "plays a script of input and prints what the guest would get", kHelp, Run};
+}
+
+}  // namespace tavi

@@ -1,0 +1,356 @@
+#include "host/command/window_command.h"
+
+#include <optional>
+
+#include <QAction>
+#include <QApplication>
+#include <QBuffer>
+#include <QFileInfo>
+#include <QTimer>
+
+#include "host/command/command_line.h"
+#include "host/look/theme.h"
+#include "host/mirror/mirror_address.h"
+#include "host/picture/picture_file.h"
+#include "host/system/console.h"
+#include "host/system/plain_file.h"
+#include "host/system/terminal.h"
+#include "host/system/whole_file.h"
+#include "host/system/window_system.h"
+#include "host/window/main_window.h"
+#include "host/window/mirror_label.h"
+#include "host/window/records/record_bar.h"
+#include "host/window/view/guest_display.h"
+#include "host/window/window_memory.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: tavi window [OPTIONS] [KEYMAP]\n"
+    "\n"
+    "Opens a window in the place of a guest's screen. Its keys, mouse, wheel and\n"
+    "touches go through the keymap; fingers, keys and text that the guest would get\n"
+    "are drawn, and the lines that say so are listed. A keymap that is saved meanwhile\n"
+    "is read again at once. Without KEYMAP the window takes that of last time, or asks\n"
+    "for one. \"Edit\" changes the keymap on the screen. The window also remembers its\n"
+    "size, its docks, and the options from --guest to --panic-key.\n"
+    "\n"
+    "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
+    "                   gamepad reaches the guest as one\n"
+    "  --guest WxH      the guest's display in pixels, each side from 1 to 16384; \"view\"\n"
+    "                   for one as large as it is shown (1280x720)\n"
+    "  --rotation DEG   what the display is turned by, as the host tells it: 0, 90, 180, 270\n"
+    "  --pixel-ratio X  how many pixels of the view the host counts for one of the guest's\n"
+    "                   display (1): with others one sees which places go astray\n"
+    "  --background PICTURE\n"
+    "                   a picture (PNG, JPEG) in place of the guest's screen\n"
+    "  --look LOOK      the colours of the window: light, dark, or desktop for those of the\n"
+    "                   desktop (desktop)\n"
+    "  --pause-key KEY  the key that switches the mapping off, so that everything reaches the\n"
+    "                   guest as what it is, and on again (F12)\n"
+    "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
+    "                   and macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
+    "  --paused         begin with the mapping off\n"
+    "  --fresh          begin without the size, docks, keymap and options of last time, and\n"
+    "                   remember nothing\n"
+    "  --events         list each event of the host, what it matched and what went out\n"
+    "  --record FILE    record what the guest gets, and save it when the window is closed;\n"
+    "                   what cannot be saved is kept until you say to drop it\n"
+    "  --replay FILE    play this record at once\n"
+    "  --second-view    play records on a display of their own\n"
+    "  --listen NAME    let other instances of yours send their lines to this one; a name is\n"
+    "                   a word of letters, digits, - and _\n"
+    "  --mirror NAMES   send the lines for the guest to the instances that listen under\n"
+    "                   these names, separated by commas, too\n"
+    "  --picture FILE   save a picture of the window (PNG) and leave; \"-\" is standard output\n"
+    "  --after MS       time until then in milliseconds from 0 on (1000)\n"
+    "\n"
+    "KEY is a key as keymaps call it, if wanted behind Ctrl+, Alt+, Shift+ or Meta+. Such a\n"
+    "key is the window's: no keymap gets it.\n"
+    "\n"
+    "Told to end by a signal (Ctrl+C, SIGTERM, SIGHUP), the window lifts what is down,\n"
+    "saves the recording, and keeps unsaved edits in a file that it tells of.\n"
+    "\n"
+    "Exit status: 0 when the window was closed, 1 when the picture or the recording could\n"
+    "not be saved or the name to listen under is taken, 2 for a wrong command line or\n"
+    "where there is no display to open a window on, 128 and the signal's number after a\n"
+    "signal.\n"
+    "\n"
+    "Example: tavi window examples/keymaps/shooter.yaml\n";
+
+const QString kName = QStringLiteral("window");
+
+const QString kJoystick = QStringLiteral("--joystick");
+const QString kGuest = QStringLiteral("--guest");
+const QString kRotation = QStringLiteral("--rotation");
+const QString kPixelRatio = QStringLiteral("--pixel-ratio");
+const QString kBackground = QStringLiteral("--background");
+const QString kLook = QStringLiteral("--look");
+const QString kPauseKey = QStringLiteral("--pause-key");
+const QString kPanicKey = QStringLiteral("--panic-key");
+const QString kPaused = QStringLiteral("--paused");
+const QString kFresh = QStringLiteral("--fresh");
+const QString kEvents = QStringLiteral("--events");
+const QString kRecord = QStringLiteral("--record");
+const QString kReplay = QStringLiteral("--replay");
+const QString kSecondView = QStringLiteral("--second-view");
+const QString kListen = QStringLiteral("--listen");
+const QString kMirror = QStringLiteral("--mirror");
+const QString kPicture = QStringLiteral("--picture");
+const QString kAfter = QStringLiteral("--after");
+
+constexpr int kDefaultAfterMs = 1000;
+constexpr double kLeastPixelRatio = 0.25;
+constexpr double kMostPixelRatio = 8;
+
+struct WindowOptions {
+  QString keymap;                   // empty: ask
+  QString joystick_keymap;          // empty: none
+  std::optional<QSize> guest_size;  // an empty size: as large as the view
+  int rotation = 0;
+  double pixel_ratio = 1;
+  QString background;  // empty: none
+  theme::Look look = theme::Look::kDesktop;
+  KeyCombination pause_key;
+  KeyCombination panic_key;
+  bool is_paused = false;
+  bool is_fresh = false;
+  bool shows_events = false;
+  QString record;  // empty: none
+  QString replay;  // empty: none
+  bool has_second_view = false;
+  QString listen;  // empty: to nobody
+  QStringList mirror;
+  QString picture;  // empty: none
+  int after_ms = kDefaultAfterMs;
+};
+
+// Each of these returns what is wrong, or nothing.
+QString ReadKey(const QString& option, const ParsedArguments& arguments, const char* usual, KeyCombination* key) {
+  const QString name = arguments.options.value(option, QLatin1String(usual));
+  const QString problem = ParseKeyCombination(name, key);
+  return problem.isEmpty() ? problem : QStringLiteral("%1: %2").arg(option, problem);
+}
+
+QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
+  QString problem = ReadKey(kPauseKey, arguments, MainWindow::kPauseKey, &options->pause_key);
+  if (problem.isEmpty()) problem = ReadKey(kPanicKey, arguments, MainWindow::kPanicKey, &options->panic_key);
+  const bool is_one_key = options->pause_key.scancode == options->panic_key.scancode;
+  if (problem.isEmpty() && is_one_key) return QStringLiteral("%1 and %2 are one key").arg(kPauseKey, kPanicKey);
+  return problem;
+}
+
+QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
+  if (const std::optional<GivenArgument> guest = arguments.Find(kGuest)) {
+    options->guest_size = QSize();
+    const bool is_view = guest->value == QLatin1String("view");
+    const QString problem = is_view ? QString() : TakeSize(guest, &*options->guest_size);
+    if (!problem.isEmpty()) return problem;
+  }
+  const QString rotation = arguments.options.value(kRotation, QStringLiteral("0"));
+  if (!QStringList{"0", "90", "180", "270"}.contains(rotation)) {
+    return QStringLiteral("%1 needs 0, 90, 180 or 270, not \"%2\"").arg(kRotation, rotation);
+  }
+  options->rotation = rotation.toInt();
+  const QString ratio = arguments.options.value(kPixelRatio, QStringLiteral("1"));
+  options->pixel_ratio = ParseFactor(ratio).value_or(0);
+  if (options->pixel_ratio < kLeastPixelRatio || options->pixel_ratio > kMostPixelRatio) {
+    return QStringLiteral("%1 needs a number from %2 to %3, not \"%4\"")
+        .arg(kPixelRatio)
+        .arg(kLeastPixelRatio)
+        .arg(kMostPixelRatio)
+        .arg(ratio);
+  }
+  return {};
+}
+
+QString ReadMirrors(const ParsedArguments& arguments, WindowOptions* options) {
+  options->listen = arguments.options.value(kListen);
+  options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
+  const QString listening = arguments.options.contains(kListen) ? MirrorNameProblem(options->listen) : QString();
+  if (!listening.isEmpty()) return QStringLiteral("%1: %2").arg(kListen, listening);
+  for (const QString& name : qAsConst(options->mirror)) {
+    const QString problem = MirrorNameProblem(name);
+    if (!problem.isEmpty()) return QStringLiteral("%1: %2").arg(kMirror, problem);
+  }
+  return {};
+}
+
+QString FileProblem(const QString& file) {
+  if (file.isEmpty() || QFileInfo(file).isFile()) return {};
+  const QString problem = NoFileProblem(file);
+  return QStringLiteral("%1: %2").arg(problem.isEmpty() ? QStringLiteral("no such file") : problem, file);
+}
+
+QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
+  if (!arguments.error.isEmpty()) return arguments.error;
+  if (arguments.positional.size() > 1) return QStringLiteral("more than one keymap");
+  options->keymap = arguments.positional.value(0);
+  options->joystick_keymap = arguments.options.value(kJoystick);
+  options->record = arguments.options.value(kRecord);
+  options->replay = arguments.options.value(kReplay);
+  options->has_second_view = arguments.options.contains(kSecondView);
+  options->background = arguments.options.value(kBackground);
+  for (const QString& file : {options->keymap, options->joystick_keymap, options->replay, options->background}) {
+    const QString problem = FileProblem(file);
+    if (!problem.isEmpty()) return problem;
+  }
+  QString problem = ReadMirrors(arguments, options);
+  if (problem.isEmpty()) problem = ReadDisplay(arguments, options);
+  if (!problem.isEmpty()) return problem;
+  options->picture = arguments.options.value(kPicture);
+  bool is_number = true;
+  if (arguments.options.contains(kAfter)) options->after_ms = arguments.options[kAfter].toInt(&is_number);
+  if (!is_number || options->after_ms < 0) return QStringLiteral("%1 needs a time in milliseconds").arg(kAfter);
+  if (arguments.options.contains(kAfter) && options->picture.isEmpty()) {
+    return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
+  }
+  const QString look = arguments.options.value(kLook, theme::NameOf(theme::Look::kDesktop));
+  if (!theme::ParseLook(look, &options->look)) {
+    return QStringLiteral("%1 needs light, dark or desktop, not \"%2\"").arg(kLook, look);
+  }
+  options->is_paused = arguments.options.contains(kPaused);
+  options->is_fresh = arguments.options.contains(kFresh);
+  options->shows_events = arguments.options.contains(kEvents);
+  return ReadKeys(arguments, options);
+}
+
+void Tell(const QString& text) { PrintError(QStringLiteral("tavi window: %1\n").arg(text)); }
+
+// Returns whether all that there was has its place.
+bool Leave(MainWindow* window) {
+  const QStringList news = window->LeaveWithoutAsking();
+  for (const QString& text : news) Tell(text);
+  return news.isEmpty();
+}
+
+void SavePictureAndLeave(MainWindow* window, const QString& file) {
+  QBuffer png;
+  png.open(QIODevice::WriteOnly);
+  window->grab().save(&png, "PNG");
+  const int written = WritePicture(kName, file, png.data());
+  const bool is_all_saved = Leave(window);
+  QCoreApplication::exit(is_all_saved ? written : kExitProblem);
+}
+
+// While it lives, a signal that tells the program to end has it end in order.
+class InterruptionWatch {
+ public:
+  explicit InterruptionWatch(MainWindow* window) {
+    SetInterruptionTaker([window](int number) {
+      QMetaObject::invokeMethod(
+          window, [window, number] { End(window, number); }, Qt::QueuedConnection);
+    });
+  }
+  ~InterruptionWatch() { SetInterruptionTaker({}); }
+  InterruptionWatch(const InterruptionWatch&) = delete;
+  InterruptionWatch& operator=(const InterruptionWatch&) = delete;
+
+ private:
+  static void End(MainWindow* window, int number) {
+    Leave(window);
+    QCoreApplication::exit(ExitStatusOfSignal(number));
+  }
+};
+
+void StartRecords(const WindowOptions& options, RecordBar* records) {
+  if (!options.record.isEmpty()) {
+    records->SetTarget(options.record);
+    records->ToggleRecording();
+  }
+  if (options.has_second_view) records->SecondView()->trigger();
+  if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
+}
+
+int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
+  theme::Apply(qApp, options.look);
+  MainWindow window;
+  memory->Restore(&window);
+  if (options.guest_size) window.Display()->SetSize(*options.guest_size);
+  window.Display()->SetRotation(options.rotation);
+  window.Display()->SetPixelRatio(options.pixel_ratio);
+  const QString background_problem = window.Display()->SetBackground(options.background);
+  if (!background_problem.isEmpty()) {
+    Tell(background_problem);
+    return kExitUsage;
+  }
+  if (!options.record.isEmpty()) {
+    const QString problem = TryWholeFile(options.record);
+    if (!problem.isEmpty()) {
+      Tell(QStringLiteral("cannot write %1: %2").arg(options.record, problem));
+      return kExitProblem;
+    }
+  }
+  window.SetPauseKey(options.pause_key);
+  window.SetPanicKey(options.panic_key);
+  if (options.is_paused) window.PauseMapping();
+  window.LoadKeymap(options.keymap);
+  if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);
+  if (!options.listen.isEmpty()) {
+    const QString problem = window.Mirrors()->ListenAs(options.listen);
+    if (!problem.isEmpty()) {
+      Tell(QStringLiteral("cannot listen as %1: %2").arg(options.listen, problem));
+      return kExitProblem;
+    }
+  }
+  window.Mirrors()->MirrorTo(options.mirror);
+  StartRecords(options, window.Records());
+  window.ReadGamepads();
+  window.ClearLog();  // what the guest was sent by way of a beginning is no news
+  window.show();
+  if (options.shows_events) window.ShowEvents();
+  window.activateWindow();
+  const InterruptionWatch interruptions(&window);
+  if (!options.picture.isEmpty()) {
+    QTimer::singleShot(options.after_ms, &window, [&] { SavePictureAndLeave(&window, options.picture); });
+  } else if (options.keymap.isEmpty()) {
+    QTimer::singleShot(0, &window, &MainWindow::OpenKeymap);
+  }
+  const int status = QApplication::exec();
+  if (options.picture.isEmpty()) memory->Save(window);
+  return status;
+}
+
+// What the command line leaves open is as it was last time. What was remembered and makes no sense counts for nothing.
+WindowOptions Remember(ParsedArguments arguments, const WindowMemory& memory, const WindowOptions& given) {
+  const QMap<QString, QString> kept = memory.Options();
+  const bool has_keymap = !arguments.positional.isEmpty();
+  for (auto option = kept.begin(); option != kept.end(); ++option) {
+    const bool is_of_the_keymap = option.key() == kJoystick;
+    if (arguments.options.contains(option.key()) || (is_of_the_keymap && has_keymap)) continue;
+    arguments.options.insert(option.key(), option.value());
+    arguments.in_order.append({option.key(), option.value()});
+  }
+  if (!has_keymap && !memory.Keymap().isEmpty()) arguments.positional += memory.Keymap();
+  WindowOptions options;
+  return ReadOptions(arguments, &options).isEmpty() ? options : given;
+}
+
+int Run(const Invocation& invocation) {
+  if (!HasWindowSystem(invocation.arguments)) {
+    PrintError(
+        QStringLiteral("tavi window: there is no display to open a window on.\n"
+                       "\"tavi simulate\" plays keymaps without one.\n"));
+    return kExitUsage;
+  }
+  GoOnWithoutReader();
+  SetCleanUp({});  // signals have a thread of their own, which begins before the window system's
+  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  QApplication application(invocation.argc, invocation.argv);
+  // The application has taken out what is Qt's own, such as -platform.
+  const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));
+  WindowOptions options;
+  const QString problem = ReadOptions(arguments, &options);
+  if (!problem.isEmpty()) return FailUsage(kName, problem);
+  WindowMemory memory(options.is_fresh ? QString() : WindowMemory::UsualFile());
+  return ShowWindow(Remember(arguments, memory, options), &memory);
+}
+
+}  // namespace
+
+Subcommand WindowCommand() { return {"window", "opens a window to try a keymap out in", kHelp, Run}; }
+
+}  // namespace tavi

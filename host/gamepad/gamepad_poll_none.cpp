@@ -1,0 +1,13 @@
+#include "host/gamepad/gamepad_poll.h"
+
+namespace tavi {
+
+GamepadPoll::GamepadPoll(Gamepads* pads, QObject* parent) : QObject(parent), pads_(pads) {}
+
+GamepadPoll::~GamepadPoll() = default;
+
+bool GamepadPoll::IsSupported() { return false; }
+
+void GamepadPoll::timerEvent(QTimerEvent* event) { QObject::timerEvent(event); }
+
+}  // namespace tavi

@@ -1,0 +1,69 @@
+// The lines that the guest is sent, taken apart. This is the guest's side of them, for windows and checks that show
+// what a guest would make of its input.
+#ifndef HOST_GUEST_GUEST_LINE_H_
+#define HOST_GUEST_GUEST_LINE_H_
+
+#include <QPoint>
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+namespace tavi {
+
+struct GuestLine {
+  // With the numbers that each carries. Positions are touch coordinates; those of a replay have fractions.
+  enum class Kind {
+    kUnknown,         // not understood; no numbers
+    kSlotPress,       // slot, tracking id, 1, 1, x, y
+    kSlotRelease,     // slot
+    kSlotReleaseAll,  // none
+    kMultiPress,      // slot, tracking id, x, y; again for each contact
+    kMultiRelease,    // slot; again for each contact
+    kKeyPress,        // guest key code, 1
+    kKeyRelease,      // guest key code, 0
+    kMouseMove,       // x, y: the place of the pointer, in spite of the line's name
+    kWheel,           // x, y, amount, 0
+    kWheelWithDelta,  // x, y, amount with fraction, 0
+    kText,            // none; text
+    kTextControl,     // none; text: the control's name
+    kLeftStick,       // x, y in millionths
+    kRightStick,      // x, y in millionths
+    kLeftTrigger,     // value
+    kRightTrigger,    // value
+    kGamepadButton,   // code, value
+    kHatX,            // -1 left, 1 right
+    kHatY,            // -1 up, 1 down
+    kTouchpadTouch,   // x, y
+    kTouchpadPress,   // none
+    kTouchpadRelease  // none
+  };
+
+  // Whole, and inside what an int holds.
+  int Integer(int index) const { return static_cast<int>(Bounded(index)); }
+  // The position of two numbers, the first at `index`.
+  QPoint PointAt(int index) const { return QPointF(Bounded(index), Bounded(index + 1)).toPoint(); }
+  double Bounded(int index) const { return qBound(-kHighest, numbers.at(index), kHighest); }
+
+  static constexpr double kHighest = 0x7FFFFFFF;
+
+  Kind kind = Kind::kUnknown;
+  QVector<double> numbers;  // finite
+  QString text;
+};
+
+// Takes a line without display prefix and line end. A line with a field too many, too few, of the wrong kind or with
+// another constant than its own is not understood. Texts are taken whole, colons and line ends included.
+GuestLine ParseGuestLine(const QString& line);
+
+// An event line is "<display>:" and then the line itself.
+struct AddressedLine {
+  int display = 0;
+  QString line;
+};
+
+// An empty line for a text without display prefix.
+AddressedLine SplitDisplay(const QString& event);
+
+}  // namespace tavi
+
+#endif  // HOST_GUEST_GUEST_LINE_H_

@@ -1,0 +1,22 @@
+#ifndef HOST_LOOK_SWITCH_STYLE_H_
+#define HOST_LOOK_SWITCH_STYLE_H_
+
+#include <QProxyStyle>
+
+namespace tavi {
+
+// Widgets as Fusion draws them, but for the buttons of tool bars: one that is switched on is filled, one that the
+// pointer rests on, or that has the keys, has a rim. So a switch that was just turned off looks off.
+class SwitchStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  SwitchStyle();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_LOOK_SWITCH_STYLE_H_

@@ -1,0 +1,54 @@
+#include <QLocalServer>
+#include <QLocalSocket>
+
+#include "host/mirror/mirror_address.h"
+#include "host/mirror/mirror_listener.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr int kProbeMs = 200;
+
+// Two programs may listen to pipes of one name.
+bool IsInUse(const QString& address) {
+  QLocalSocket probe;
+  probe.connectToServer(address);
+  return probe.waitForConnected(kProbeMs);
+}
+
+}  // namespace
+
+// A pipe goes with its program, and lets its owner in alone.
+class MirrorListener::Entrance {
+ public:
+  explicit Entrance(MirrorListener* owner) {
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&server_, &QLocalServer::newConnection, owner, [this, owner] {
+      while (QLocalSocket* socket = server_.nextPendingConnection()) {
+        socket->setParent(nullptr);
+        Q_EMIT owner->Connected(socket);
+      }
+    });
+  }
+
+  QString Open(const QString& address) { return server_.listen(address) ? QString() : server_.errorString(); }
+
+ private:
+  QLocalServer server_;
+};
+
+MirrorListener::MirrorListener(QObject* parent) : QObject(parent) {}
+
+MirrorListener::~MirrorListener() = default;
+
+QString MirrorListener::Listen(const QString& name) {
+  const QString problem = MirrorNameProblem(name);
+  if (!problem.isEmpty()) return problem;
+  const QString address = MirrorAddressOf(name);
+  if (IsInUse(address)) return QStringLiteral("another instance listens as %1").arg(name);
+  entrance_ = std::make_unique<Entrance>(this);
+  return entrance_->Open(address);
+}
+
+}  // namespace tavi

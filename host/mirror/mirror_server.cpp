@@ -1,0 +1,103 @@
+#include "host/mirror/mirror_server.h"
+
+#include <algorithm>
+
+#include <QLocalSocket>
+
+#include "host/guest/guest_model.h"
+#include "host/mirror/mirror_message.h"
+#include "host/mirror/mirror_targets.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+// One other instance. What it holds down is let go when it goes.
+class MirrorServer::Source {
+ public:
+  Source(QLocalSocket* socket, int display) : socket_(socket), display_(display), model_(display) {
+    socket_->setReadBufferSize(kMirrorBufferBytes);
+  }
+  ~Source() {
+    socket_->disconnect();
+    socket_->deleteLater();
+    ReleaseHeld();
+  }
+  Source(const Source&) = delete;
+  Source& operator=(const Source&) = delete;
+
+  // False when what came is no message.
+  bool TakeMessages() {
+    for (;;) {
+      MirrorMessage message;
+      const MirrorReading reading = ReadMirrorMessage(socket_, &message);
+      if (reading != MirrorReading::kMessage) return reading == MirrorReading::kIncomplete;
+      Take(message);
+    }
+  }
+
+ private:
+  void Take(const MirrorMessage& message) {
+    if (!message.line.endsWith(QLatin1Char('\n'))) return;
+    const MirrorTargets::Pause pause;
+    if (message.is_text) {
+      taviinputmanager::OnInputRawTextData(message.line);
+    } else {
+      Put(message.line);
+    }
+  }
+
+  void Put(const QString& line) {
+    model_.ApplyEvent(QStringLiteral("%1:%2").arg(display_).arg(line.chopped(1)));
+    taviinputmanager::OnInputRawEventData(line, display_);
+  }
+
+  void ReleaseHeld() {
+    const MirrorTargets::Pause pause;
+    const GuestState state = model_.state();  // a copy: each release changes it
+    for (const int slot : state.contacts.keys()) Put(QStringLiteral("SLOTRELEASE:%1\n").arg(slot));
+    for (const int code : state.held_keys) Put(QStringLiteral("KBDRL:%1:0\n").arg(code));
+    const GuestGamepad& pad = state.gamepad;
+    for (const int code : pad.buttons) Put(QStringLiteral("GPDBUTTON:%1:0\n").arg(code));
+    if (!pad.left_stick.isNull()) Put(QStringLiteral("LSTICKAXIS:0:0\n"));
+    if (!pad.right_stick.isNull()) Put(QStringLiteral("RSTICKAXIS:0:0\n"));
+    if (pad.left_trigger != 0) Put(QStringLiteral("LTRIGGERAXIS:0\n"));
+    if (pad.right_trigger != 0) Put(QStringLiteral("RTRIGGERAXIS:0\n"));
+    if (pad.hat.x() != 0) Put(QStringLiteral("HATX:0\n"));
+    if (pad.hat.y() != 0) Put(QStringLiteral("HATY:0\n"));
+    if (pad.touchpad_pressed) Put(QStringLiteral("TOUCHPADRELEASE\n"));
+  }
+
+  QLocalSocket* socket_;
+  const int display_;
+  GuestModel model_;
+};
+
+MirrorServer::MirrorServer(int display) : display_(display) {
+  connect(&listener_, &MirrorListener::Connected, this, &MirrorServer::TakeConnection);
+}
+
+MirrorServer::~MirrorServer() = default;
+
+QString MirrorServer::Listen(const QString& name) { return listener_.Listen(name); }
+
+void MirrorServer::TakeConnection(QLocalSocket* socket) {
+  socket->setParent(this);  // it goes at the latest when this does
+  sources_.push_back(std::make_unique<Source>(socket, display_));
+  Source* source = sources_.back().get();
+  connect(socket, &QLocalSocket::disconnected, this, [this, source] { Forget(source); });
+  connect(socket, &QLocalSocket::readyRead, this, [this, source] {
+    if (!source->TakeMessages()) Forget(source);
+  });
+  Q_EMIT SourcesChanged(static_cast<int>(sources_.size()));
+  if (!source->TakeMessages()) Forget(source);
+}
+
+void MirrorServer::Forget(Source* source) {
+  const auto found =
+      std::find_if(sources_.begin(), sources_.end(), [&](const auto& entry) { return entry.get() == source; });
+  if (found == sources_.end()) return;
+  sources_.erase(found);
+  Q_EMIT SourcesChanged(static_cast<int>(sources_.size()));
+}
+
+}  // namespace tavi

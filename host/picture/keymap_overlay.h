@@ -1,0 +1,33 @@
+#ifndef HOST_PICTURE_KEYMAP_OVERLAY_H_
+#define HOST_PICTURE_KEYMAP_OVERLAY_H_
+
+#include <QColor>
+#include <QSizeF>
+#include <QVector>
+
+#include "host/picture/overlay_marks.h"
+
+class QPainter;
+
+namespace tavi {
+
+QColor ColorOf(OverlayMark::Family family);
+
+// Draws a keymap's items over the guest view: each key where it acts, and a list of those that act nowhere.
+//
+// Main thread.
+class KeymapOverlay {
+ public:
+  void SetMarks(const QVector<OverlayMark>& marks) { marks_ = marks; }
+  bool IsEmpty() const { return marks_.isEmpty(); }
+
+  // `view` is the size of the guest view in the painter's units, its top left at 0, 0.
+  void Paint(QPainter* painter, const QSizeF& view) const;
+
+ private:
+  QVector<OverlayMark> marks_;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_PICTURE_KEYMAP_OVERLAY_H_

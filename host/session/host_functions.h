@@ -1,0 +1,75 @@
+// What hosts that write down what the library tells them have in common: the plain functions that the library is given
+// are the same, but for the answers to its questions.
+#ifndef HOST_SESSION_HOST_FUNCTIONS_H_
+#define HOST_SESSION_HOST_FUNCTIONS_H_
+
+#include <QString>
+
+#include "host/session/timeline_entry.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+// The functions that tell. `Host` has GetInstance() and Add(source, text), and is called on whatever thread the library
+// tells on. A host's own functions derive from this, add the answers, and replace what it wants to do more about.
+template <typename Host>
+struct TellingFunctions {
+  using Source = TimelineEntry::Source;
+
+  static void Say(const QString& text) { Host::GetInstance()->Add(Source::kCallback, text); }
+
+  static void SendEvent(const char* data, int length) {
+    Host::GetInstance()->Add(Source::kLine, QString::fromUtf8(data, length - 1));  // without the newline
+  }
+  static void SendText(const char* data, int length) {
+    Host::GetInstance()->Add(Source::kText, QString::fromUtf8(data, length - 1));  // without the NUL
+  }
+
+  static void OnInputStatusChanged(int status, const QString& key) {
+    Say(QStringLiteral("status %1 %2").arg(status).arg(key).trimmed());
+  }
+  static void OnEscapeKeyOccupied(bool occupied) { Say(QStringLiteral("escape_occupied %1").arg(occupied)); }
+  static void OnMappedDeviceUsed(bool keyboard_or_mouse) { Say(QStringLiteral("mapped %1").arg(keyboard_or_mouse)); }
+  static void OnOperationRecorderStarted(const QString& name, int total_sleep_ms) {
+    Say(QStringLiteral("operation %1 %2").arg(name).arg(total_sleep_ms));
+  }
+  static void SetGravity(double x, double y, double z) { Say(QStringLiteral("gravity %1 %2 %3").arg(x).arg(y).arg(z)); }
+  static void OnMouseLockSwitch(const QString& key_text) { Say(QStringLiteral("mouse_lock %1").arg(key_text)); }
+  static void OnVirtualJoystickChanged(bool enabled) { Say(QStringLiteral("virtual_joystick %1").arg(enabled)); }
+  static void OnScreenshotRequest(const QString& instruction) { Say(QStringLiteral("screenshot %1").arg(instruction)); }
+};
+
+// The library's table of all of a host's functions.
+template <typename Functions>
+taviinputmanager::InputManagerCallbacks CallbacksOf() {
+  taviinputmanager::InputManagerCallbacks table;
+  table.GetWindowGeometry = Functions::GetWindowGeometry;
+  table.GetDisplayRotation = Functions::GetDisplayRotation;
+  table.IsTextInputActive = Functions::IsTextInputActive;
+  table.OnInputStatusChanged = Functions::OnInputStatusChanged;
+  table.GetJoystickType = Functions::GetJoystickType;
+  table.IsEscapeBackEnabled = Functions::IsEscapeBackEnabled;
+  table.OnEscapeKeyOccupied = Functions::OnEscapeKeyOccupied;
+  table.GetDisplayRect = Functions::GetDisplayRect;
+  table.GetTouchRect = Functions::GetTouchRect;
+  table.OnMappedDeviceUsed = Functions::OnMappedDeviceUsed;
+  table.OnOperationRecorderStarted = Functions::OnOperationRecorderStarted;
+  table.SetGravity = Functions::SetGravity;
+  table.IsPrimaryDisplay = Functions::IsPrimaryDisplay;
+  table.OnMouseLockSwitch = Functions::OnMouseLockSwitch;
+  table.OnVirtualJoystickChanged = Functions::OnVirtualJoystickChanged;
+  table.OnScreenshotRequest = Functions::OnScreenshotRequest;
+  return table;
+}
+
+// Installs the send functions, and initialises the library with a table that outlives it.
+template <typename Functions>
+void InitializeLibrary(taviinputmanager::InputManagerCallbacks* table) {
+  taviinputmanager::SetInputEventSendFunc(reinterpret_cast<void*>(Functions::SendEvent));
+  taviinputmanager::SetInputTextSendFunc(reinterpret_cast<void*>(Functions::SendText));
+  taviinputmanager::Initialize(table, 0, 0);
+}
+
+}  // namespace tavi
+
+#endif  // HOST_SESSION_HOST_FUNCTIONS_H_

@@ -1,0 +1,45 @@
+#ifndef HOST_SESSION_INPUT_PORT_H_
+#define HOST_SESSION_INPUT_PORT_H_
+
+#include <functional>
+
+#include <QObject>
+
+#include "host/session/host_event.h"
+
+class QEvent;
+
+namespace tavi {
+
+// The one way from the window into the library, so that what goes in can be told together with what comes out.
+//
+// Main thread.
+class InputPort : public QObject {
+  Q_OBJECT
+
+ public:
+  static InputPort* GetInstance();
+
+  // Events of the view, of gamepads, and counts of a mouse that is captured.
+  void Send(QEvent* event);
+  void SendJoystick(QEvent* event);
+  void SendRelative(int dx, int dy);
+
+  // Lifts all input of the display that is played on.
+  void LetGo();
+  // The same by something that has it lifted besides.
+  void LetGoBy(const std::function<void()>& change);
+
+ Q_SIGNALS:
+  // An event is about to be handed over, or input to be lifted. What the library sends until Ended it sends because of
+  // it.
+  void Began(const tavi::HostEvent& event);
+  void Ended();
+
+ private:
+  InputPort() = default;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_SESSION_INPUT_PORT_H_

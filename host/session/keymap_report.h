@@ -1,0 +1,21 @@
+// What there is to tell people about a keymap file that was read.
+#ifndef HOST_SESSION_KEYMAP_REPORT_H_
+#define HOST_SESSION_KEYMAP_REPORT_H_
+
+#include <QString>
+
+namespace tavikeymapmanager {
+struct LoadResult;
+}
+
+namespace tavi {
+
+// All findings, a line each.
+QString FormatDiagnostics(const tavikeymapmanager::LoadResult& result);
+
+// "no items", "1 item", "12 items"
+QString ItemCountText(const tavikeymapmanager::LoadResult& result);
+
+}  // namespace tavi
+
+#endif  // HOST_SESSION_KEYMAP_REPORT_H_

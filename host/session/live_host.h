@@ -1,0 +1,96 @@
+// The library's host while somebody plays: answers its questions about the guest view and passes on what it says.
+#ifndef HOST_SESSION_LIVE_HOST_H_
+#define HOST_SESSION_LIVE_HOST_H_
+
+#include <atomic>
+#include <functional>
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+
+#include "host/session/guest_geometry.h"
+#include "host/session/timeline_entry.h"
+#include "taviinputmanager/callbacks.h"
+
+namespace tavi {
+
+// The library's callbacks are plain functions, so there is one host in a process.
+//
+// Threads: main, but what the library says and asks may come on any: signals are emitted on the main thread always.
+class LiveHost : public QObject {
+  Q_OBJECT
+
+ public:
+  // Input goes to this display of the guest, and it is the one that is shown.
+  static constexpr int kDisplay = 1;
+  // Where records are played when they have a view of their own.
+  static constexpr int kReplayDisplay = 2;
+
+  static LiveHost* GetInstance();
+
+  // The corner of a view of this size, in pixels of ViewSize: such that the pointer less the corner is the pointer's
+  // place in the view.
+  using Corner = std::function<QPoint(const QSize& view_size)>;
+
+  // Installs the send functions and initialises the library, once. Without `corner` the view is at (0, 0).
+  void Start(Corner corner);
+
+  // The guest's touch surface, which is not rotated.
+  void SetGuestSize(const QSize& size);
+  QSize GuestSize() const;
+  // What the display is turned by, in degrees.
+  void SetRotation(int degrees) { rotation_ = degrees; }
+  GuestGeometry Geometry() const { return {GuestSize(), rotation_}; }
+
+  // How many pixels of the view there are for one of the guest's display: hosts count them in many ways.
+  void SetPixelRatio(double ratio) { pixel_ratio_ = ratio; }
+  double PixelRatio() const { return pixel_ratio_; }
+  // The view as the library is told of it; the places of events are pixels of this.
+  QSize ViewSize() const { return (QSizeF(Geometry().DisplaySize()) * pixel_ratio_).toSize(); }
+
+  // Whether the guest has a text field focused, so that keys are typed.
+  void SetTextField(bool focused);
+  bool HasTextField() const { return text_field_; }
+
+  // Milliseconds since Start.
+  qint64 ElapsedMs() const { return clock_.elapsed(); }
+
+  // An InputStatus, as last told.
+  int InputStatus() const { return status_; }
+
+ Q_SIGNALS:
+  // A line for the guest or a call of the host. Times are milliseconds since Start.
+  void EntryAdded(const tavi::TimelineEntry& entry);
+  void InputStatusChanged(int status, const QString& key);
+  void TextFieldChanged(bool focused);
+  // The tilt of the guest's gravity sensor, each at most 40 either way.
+  void GravityChanged(double x, double y, double z);
+
+ private:
+  friend struct LiveHostFunctions;
+  template <typename Host>
+  friend struct TellingFunctions;
+
+  LiveHost();
+
+  void Add(TimelineEntry::Source source, const QString& text);
+  void SetInputStatus(int status, const QString& key);
+  void SetGravity(double x, double y, double z);
+  taviinputmanager::WindowGeometry ViewGeometry() const;
+
+  taviinputmanager::InputManagerCallbacks table_;
+  QElapsedTimer clock_;
+  Corner corner_;
+  bool text_field_ = false;
+  int status_ = 0;
+  std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library
+  std::atomic<int> rotation_{0};     // the same
+  double pixel_ratio_ = 1;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_SESSION_LIVE_HOST_H_

@@ -1,0 +1,30 @@
+#include <QKeyEvent>
+
+#include "host/session/native_key.h"
+#include "keymap/scan_codes.h"
+#include "keymapmanager/key_names.h"
+
+namespace tavi {
+
+namespace {
+
+// The library asks only whether a virtual key is known.
+constexpr quint32 kSomeVirtualKey = 0xFF;
+
+// What X11 calls a virtual key is a character of the layout, so the code is that of the key's place.
+quint32 VirtualKeyOf(int scancode) {
+  const auto key = tavikeymapmanager::KeyFromName(QStringLiteral("Scan %1").arg(scancode));
+  const bool is_known = key && key->virtual_key > 0 && key->virtual_key != tavikeymapmanager::kUnsetCode;
+  return is_known ? static_cast<quint32>(key->virtual_key) : kSomeVirtualKey;
+}
+
+}  // namespace
+
+NativeKey NativeKeyOf(const QKeyEvent& event) {
+  const int linux_code = static_cast<int>(event.nativeScanCode()) - tavikeymapmanager::kX11KeyOffset;
+  const int scancode = tavikeymapmanager::ScanCodeOfLinuxKey(linux_code);
+  if (scancode == 0) return {};
+  return {static_cast<quint32>(scancode), VirtualKeyOf(scancode)};
+}
+
+}  // namespace tavi

@@ -1,0 +1,63 @@
+#include "host/system/console.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+#include <QFile>
+
+namespace tavi {
+
+namespace {
+
+std::atomic<int> output_error{0};  // the first that writing to standard output met; a replay may write on its thread
+
+// Nobody reads what is still to come, so that there is nothing to go on for: as it is where the system itself ends the
+// writer.
+void TakeOutputError(int error) {
+  if (error == EPIPE) std::_Exit(kExitProblem);
+  int none = 0;
+  output_error.compare_exchange_strong(none, error);
+}
+
+}  // namespace
+
+void Print(const QString& text) { PrintBytes(text.toUtf8()); }
+
+void PrintBytes(const QByteArray& bytes) {
+  const auto size = static_cast<size_t>(bytes.size());
+  if (std::fwrite(bytes.constData(), 1, size, stdout) != size) TakeOutputError(errno);
+}
+
+QString FlushOutput() {
+  if (std::fflush(stdout) != 0) TakeOutputError(errno);
+  return output_error == 0 ? QString() : qt_error_string(output_error);
+}
+
+int FinishOutput(int status) {
+  const QString problem = FlushOutput();
+  if (problem.isEmpty()) return status;
+  PrintError(QStringLiteral("tavi: standard output cannot be written: %1\n").arg(problem));
+  return status == kExitDone ? kExitProblem : status;
+}
+
+void PrintError(const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
+}
+
+// A pipe gives what is in it so far; only nothing at all is its end.
+QByteArray ReadStandardInput(qint64 most) {
+  QByteArray content;
+  QFile input;
+  if (!input.open(stdin, QIODevice::ReadOnly)) return content;
+  while (content.size() < most) {
+    const QByteArray piece = input.read(most - content.size());
+    if (piece.isEmpty()) break;
+    content += piece;
+  }
+  return content;
+}
+
+}  // namespace tavi

@@ -1,0 +1,64 @@
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "host/system/file_commit.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr mode_t kAllPermissions = 07777;
+constexpr mode_t kPlainPermissions = 0777;  // without those that lend the owner's rights
+
+QString Problem(int error) { return qt_error_string(error); }
+
+// Pipes, devices and some file systems know no such thing.
+bool IsUnsupported(int error) { return error == EINVAL || error == ENOTSUP || error == EROFS; }
+
+// A folder that cannot be opened is no reason to call a file lost that is in its place.
+void FlushFolder(const QString& folder) {
+  const int file = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (file < 0) return;
+  fsync(file);
+  close(file);
+}
+
+}  // namespace
+
+QString FlushToDisk(QFile* file) {
+  if (fsync(file->handle()) == 0 || IsUnsupported(errno)) return {};
+  return Problem(errno);
+}
+
+// Where the file system cannot reserve, the C library writes a byte into each block that is new.
+QString ReserveRoom(QFile* file, qint64 bytes) {
+  const qint64 before = file->size();
+  if (bytes <= before) return {};
+  const int error = posix_fallocate(file->handle(), before, bytes - before);
+  if (error == 0 || IsUnsupported(error)) return {};
+  file->resize(before);
+  return Problem(error);
+}
+
+QString MoveOver(const QString& from, const QString& to) {
+  if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) return Problem(errno);
+  FlushFolder(QFileInfo(to).absolutePath());
+  return {};
+}
+
+// The owner first: a change of owner takes permissions away. Root alone may make it another's.
+void TakeOwnership(const QString& model, const QString& file) {
+  struct stat of_model {};
+  if (stat(QFile::encodeName(model).constData(), &of_model) != 0) return;
+  const QByteArray name = QFile::encodeName(file);
+  const bool is_same_owner = chown(name.constData(), of_model.st_uid, of_model.st_gid) == 0;
+  chmod(name.constData(), of_model.st_mode & (is_same_owner ? kAllPermissions : kPlainPermissions));
+}
+
+}  // namespace tavi

@@ -1,0 +1,42 @@
+#include <io.h>
+#include <windows.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "host/system/file_commit.h"
+
+namespace tavi {
+
+namespace {
+
+QString LastProblem() { return qt_error_string(static_cast<int>(GetLastError())); }
+
+std::wstring Wide(const QString& name) { return QDir::toNativeSeparators(name).toStdWString(); }
+
+}  // namespace
+
+QString FlushToDisk(QFile* file) {
+  const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(file->handle()));
+  if (handle == INVALID_HANDLE_VALUE || FlushFileBuffers(handle) != 0) return {};
+  return GetLastError() == ERROR_INVALID_HANDLE ? QString() : LastProblem();  // a console or a pipe
+}
+
+QString ReserveRoom(QFile* file, qint64 bytes) {
+  const qint64 before = file->size();
+  if (bytes <= before || file->resize(bytes)) return {};
+  const QString problem = file->errorString();
+  file->resize(before);
+  return problem;
+}
+
+QString MoveOver(const QString& from, const QString& to) {
+  const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  return MoveFileExW(Wide(from).c_str(), Wide(to).c_str(), how) != 0 ? QString() : LastProblem();
+}
+
+void TakeOwnership(const QString& model, const QString& file) {
+  QFile::setPermissions(file, QFile::permissions(model));
+}
+
+}  // namespace tavi

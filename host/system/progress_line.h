@@ -1,0 +1,37 @@
+#ifndef HOST_SYSTEM_PROGRESS_LINE_H_
+#define HOST_SYSTEM_PROGRESS_LINE_H_
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+#include <QString>
+
+namespace tavi {
+
+// A line on the terminal that tells what takes so long, and for how long it has. Work of less than a second is not
+// told, and nothing is written where nobody reads it.
+//
+// Threads: it is used on one; a thread of its own writes.
+class ProgressLine {
+ public:
+  // "reading day.json"
+  explicit ProgressLine(const QString& what);
+  // The line goes.
+  ~ProgressLine();
+  ProgressLine(const ProgressLine&) = delete;
+  ProgressLine& operator=(const ProgressLine&) = delete;
+
+ private:
+  void Run();
+
+  const QString what_;
+  std::mutex mutex_;
+  std::condition_variable ended_;
+  bool has_ended_ = false;  // guarded by mutex_
+  std::thread thread_;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_SYSTEM_PROGRESS_LINE_H_

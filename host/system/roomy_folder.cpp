@@ -1,0 +1,47 @@
+#include "host/system/roomy_folder.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <QStringList>
+
+namespace tavi {
+
+namespace {
+
+constexpr qint64 kPlentyBytes = qint64{256} << 20;
+
+// What lasts longest comes first: the last one is memory on many systems.
+QStringList Candidates() {
+  QStringList folders;
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (!data.isEmpty()) folders += data + QStringLiteral("/tavi");
+  folders += QDir::tempPath();
+  folders += QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  folders.removeAll(QString());
+  return folders;
+}
+
+qint64 RoomIn(const QString& folder) {
+  const bool is_usable = QDir().mkpath(folder) && QFileInfo(folder).isWritable();
+  return is_usable ? QStorageInfo(folder).bytesAvailable() : 0;
+}
+
+}  // namespace
+
+QString RoomyFolder() {
+  QString best;
+  qint64 most = 0;
+  for (const QString& folder : Candidates()) {
+    const qint64 room = RoomIn(folder);
+    if (room >= kPlentyBytes) return folder;
+    if (room > most) {
+      most = room;
+      best = folder;
+    }
+  }
+  return best;
+}
+
+}  // namespace tavi

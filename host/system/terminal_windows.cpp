@@ -1,0 +1,63 @@
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
+#include <mutex>
+#include <utility>
+#include <windows.h>
+
+#include "host/system/terminal.h"
+
+namespace tavi {
+
+namespace {
+
+std::once_flag listens;  // to the console's events
+std::mutex reactions_mutex;
+std::function<void()> clean_up_reaction;
+std::function<void(int)> take_reaction;
+
+// As programs of other systems would be told.
+int SignalOf(DWORD kind) { return kind == CTRL_C_EVENT || kind == CTRL_BREAK_EVENT ? SIGINT : SIGTERM; }
+
+// The program is ended as soon as this returns, unless it was Ctrl+C; who took the event ends it sooner.
+void WaitForTheEnd(DWORD kind) {
+  if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) Sleep(INFINITE);
+}
+
+// On a thread that the system starts. Passing it on ends the program.
+BOOL WINAPI TakeInterrupt(DWORD kind) {
+  {
+    const std::lock_guard<std::mutex> lock(reactions_mutex);
+    if (!take_reaction) {
+      if (clean_up_reaction) clean_up_reaction();
+      return FALSE;
+    }
+    take_reaction(SignalOf(kind));
+  }
+  WaitForTheEnd(kind);
+  return TRUE;
+}
+
+template <typename Reaction>
+void SetReaction(Reaction* which, Reaction reaction) {
+  std::call_once(listens, [] { SetConsoleCtrlHandler(TakeInterrupt, TRUE); });
+  const std::lock_guard<std::mutex> lock(reactions_mutex);
+  *which = std::move(reaction);
+}
+
+}  // namespace
+
+void EndWithReader() {}  // there is no such signal: a write fails
+
+void GoOnWithoutReader() {}
+
+bool IsErrorTerminal() { return _isatty(_fileno(stderr)) != 0; }
+
+void SetCleanUp(std::function<void()> clean_up) { SetReaction(&clean_up_reaction, std::move(clean_up)); }
+
+void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&take_reaction, std::move(take)); }
+
+void MakeOutputBinary() { _setmode(_fileno(stdout), _O_BINARY); }
+
+}  // namespace tavi

@@ -1,0 +1,33 @@
+#include "host/window/dialog/question.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPushButton>
+
+namespace tavi {
+
+Ask AskIn(QWidget* window) {
+  return [window](const QString& question, const QVector<Answer>& answers) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("tavi"), question, QMessageBox::NoButton, window);
+    for (const Answer& answer : answers) {
+      QPushButton* button = box.addButton(answer.button);
+      if (!answer.text.isEmpty()) button->setText(answer.text);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+  };
+}
+
+// The dialog itself adds the suffix, before it asks whether a file of that name is to be replaced.
+AskForName AskForNameIn(QWidget* window) {
+  return [window](const SaveQuestion& question) {
+    QFileDialog dialog(window, question.title, QString(), question.types);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(question.suffix);
+    const QFileInfo proposal(question.proposal);
+    dialog.setDirectory(proposal.isDir() ? proposal.absoluteFilePath() : proposal.absolutePath());
+    if (!proposal.isDir()) dialog.selectFile(proposal.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  };
+}
+
+}  // namespace tavi

@@ -1,0 +1,229 @@
+#include "host/window/editor/edit_layer.h"
+
+#include <QKeyEvent>
+#include <QLineF>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "host/editor/keymap_document.h"
+#include "host/session/live_host.h"
+#include "host/window/editor/edit_painter.h"
+
+namespace tavi {
+
+using Shape = ItemHandle::Shape;
+
+namespace {
+
+constexpr double kItemReach = 18;   // pixels from an item's point
+constexpr double kHandleReach = 9;  // from a handle
+constexpr double kDragStart = 3;    // a click is no drag
+constexpr int kLargeNudge = 10;     // pixels of the guest
+const QString kPoint = QStringLiteral("point");
+
+QPoint ArrowOf(int key) {
+  switch (key) {
+    case Qt::Key_Left: return {-1, 0};
+    case Qt::Key_Right: return {1, 0};
+    case Qt::Key_Up: return {0, -1};
+    case Qt::Key_Down: return {0, 1};
+    default: return {};
+  }
+}
+
+// Where an item touches, as opposed to what belongs to it.
+bool IsPlace(const ItemHandle& handle) { return handle.field == kPoint || handle.field == QLatin1String("alt_point"); }
+
+}  // namespace
+
+EditLayer::EditLayer(KeymapDocument* document, QWidget* view) : QWidget(view->parentWidget()), document_(document) {
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setGeometry(view->geometry());
+  view->installEventFilter(this);
+  connect(document_, &KeymapDocument::Changed, this, &EditLayer::TakeDocument);
+  hide();
+}
+
+bool EditLayer::eventFilter(QObject* watched, QEvent* event) {
+  const bool is_placed = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+  if (is_placed) setGeometry(static_cast<QWidget*>(watched)->geometry());
+  return false;
+}
+
+// Behind an undone deletion the same index may be another item.
+void EditLayer::TakeDocument() {
+  const bool has_other_items = document_->ItemCount() != item_count_;
+  item_count_ = document_->ItemCount();
+  if (has_other_items) Select(-1);
+  update();
+}
+
+void EditLayer::Select(int item) {
+  if (item >= document_->ItemCount()) item = -1;
+  update();
+  if (item == selected_) return;
+  selected_ = item;
+  nudged_index_ = -1;
+  Q_EMIT SelectionChanged(item);
+}
+
+QPointF EditLayer::FractionAt(const QPointF& place) const {
+  return {qBound(0.0, place.x() / width(), 1.0), qBound(0.0, place.y() / height(), 1.0)};
+}
+
+QVector<ItemHandle> EditLayer::HandlesAt(int item) const { return HandlesOf(*document_->Item(item), size()); }
+
+// ---- Mouse
+
+// Of several items at one place the first one, or the selected one, so that it can be dragged away from the others.
+int EditLayer::ItemUnder(const QPointF& place) const {
+  int nearest = -1;
+  double best = kItemReach;
+  for (int item = 0; item < document_->ItemCount(); ++item) {
+    for (const ItemHandle& handle : HandlesAt(item)) {
+      const double distance = QLineF(handle.place, place).length();
+      const bool is_second = distance == best && nearest >= 0 && item != selected_;
+      if (!IsPlace(handle) || distance > best || is_second) continue;
+      best = distance;
+      nearest = item;
+    }
+  }
+  return nearest;
+}
+
+const ItemHandle* EditLayer::HandleUnder(const QPointF& place, const QVector<ItemHandle>& handles) const {
+  const ItemHandle* found = nullptr;
+  for (const ItemHandle& handle : handles) {
+    const double reach = handle.shape == Shape::kPoint ? kItemReach : kHandleReach;
+    const bool is_nearer =
+        found == nullptr || QLineF(handle.place, place).length() < QLineF(found->place, place).length();
+    if (QLineF(handle.place, place).length() <= reach && is_nearer) found = &handle;
+  }
+  return found;
+}
+
+void EditLayer::mousePressEvent(QMouseEvent* event) {
+  setFocus();
+  const QVector<ItemHandle> own = selected_ < 0 ? QVector<ItemHandle>() : HandlesAt(selected_);
+  const ItemHandle* held = HandleUnder(event->localPos(), own);
+  if (held == nullptr || IsPlace(*held)) Select(ItemUnder(event->localPos()));
+  if (event->button() == Qt::RightButton) {
+    Q_EMIT MenuWanted(event->globalPos(), FractionAt(event->localPos()));
+    return;
+  }
+  if (event->button() != Qt::LeftButton || selected_ < 0) return;
+  const QVector<ItemHandle> handles = HandlesAt(selected_);
+  const ItemHandle* handle = HandleUnder(event->localPos(), handles);
+  if (handle == nullptr) return;
+  drag_ = {true, *handle, event->localPos() - handle->place, false, event->localPos(), document_->UndoStack()->index()};
+  ++gesture_;
+}
+
+void EditLayer::mouseMoveEvent(QMouseEvent* event) {
+  if (drag_.is_active) {
+    drag_.has_moved = drag_.has_moved || QLineF(drag_.pressed, event->localPos()).length() >= kDragStart;
+    if (drag_.has_moved) DragTo(event->localPos());
+    return;
+  }
+  const QVector<ItemHandle> handles = selected_ < 0 ? QVector<ItemHandle>() : HandlesAt(selected_);
+  const ItemHandle* handle = HandleUnder(event->localPos(), handles);
+  if (handle != nullptr && handle->shape == Shape::kCircle) {
+    setCursor(Qt::SizeHorCursor);
+  } else if (handle != nullptr && handle->shape == Shape::kArea) {
+    setCursor(Qt::SizeFDiagCursor);
+  } else {
+    const bool is_over = handle != nullptr || ItemUnder(event->localPos()) >= 0;
+    setCursor(is_over ? Qt::SizeAllCursor : Qt::ArrowCursor);
+  }
+}
+
+void EditLayer::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) drag_.is_active = false;
+  update();
+}
+
+void EditLayer::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && selected_ >= 0) Q_EMIT BindWanted();
+}
+
+void EditLayer::DragTo(const QPointF& place) {
+  const HandleValue value = ValueAt(drag_.handle, place - drag_.grip, size());
+  const QString& field = drag_.handle.field;
+  Report(value.pair ? document_->SetPair(selected_, field, *value.pair, gesture_)
+                    : document_->SetNumber(selected_, field, value.number, gesture_));
+}
+
+void EditLayer::CancelDrag() {
+  drag_.is_active = false;
+  if (document_->UndoStack()->index() > drag_.steps_before) document_->UndoStack()->undo();
+}
+
+void EditLayer::Report(const QString& problem) {
+  if (!problem.isEmpty()) Q_EMIT Refused(problem);
+}
+
+// ---- Keys
+
+bool EditLayer::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    const bool is_back = key->key() == Qt::Key_Backtab;
+    if (is_back || key->key() == Qt::Key_Tab) {  // not to the next widget
+      SelectNext(is_back ? -1 : 1);
+      return true;
+    }
+  }
+  return QWidget::event(event);
+}
+
+void EditLayer::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    drag_.is_active ? CancelDrag() : Select(-1);
+  } else if (selected_ < 0) {
+    QWidget::keyPressEvent(event);
+  } else if (event->key() == Qt::Key_Delete) {
+    Q_EMIT DeleteWanted();
+  } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    Q_EMIT BindWanted();
+  } else if (!Nudge(*event)) {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+// Arrow keys in a row are one step back.
+bool EditLayer::Nudge(const QKeyEvent& event) {
+  const QPoint arrow = ArrowOf(event.key());
+  const QVector<ItemHandle> handles = HandlesAt(selected_);
+  if (arrow.isNull() || handles.isEmpty()) return false;
+  QUndoStack* undo = document_->UndoStack();
+  if (undo->index() != nudged_index_) ++gesture_;
+  const auto* item = document_->Item(selected_);
+  const int steps = event.modifiers().testFlag(Qt::ShiftModifier) ? kLargeNudge : 1;
+  Report(document_->SetPair(
+      selected_, kPoint, NudgedPoint({item->rel_x, item->rel_y}, arrow * steps, LiveHost::GetInstance()->GuestSize()),
+      gesture_));
+  nudged_index_ = undo->index();
+  return true;
+}
+
+void EditLayer::SelectNext(int step) {
+  const int count = document_->ItemCount();
+  if (count == 0) return;
+  const int from = selected_ < 0 && step < 0 ? count : selected_;
+  Select((from + step + count) % count);
+}
+
+// ---- Drawing
+
+void EditLayer::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const EditPainter items(&painter, size());
+  for (int item = 0; item < document_->ItemCount(); ++item) {
+    if (item != selected_) items.PaintItem(*document_->Item(item));
+  }
+  if (selected_ >= 0) items.PaintSelected(*document_->Item(selected_));
+}
+
+}  // namespace tavi

@@ -1,0 +1,51 @@
+#ifndef HOST_WINDOW_EVENTS_LINE_LOG_H_
+#define HOST_WINDOW_EVENTS_LINE_LOG_H_
+
+#include <deque>
+
+#include <QBasicTimer>
+#include <QVector>
+#include <QWidget>
+
+#include "host/simulation/simulated_host.h"
+
+class QPlainTextEdit;
+
+namespace tavi {
+
+class EndFollower;
+
+// Lists what went to the guest, and if wanted the calls of the host, with times, the latest at the bottom.
+class LineLog : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit LineLog(QWidget* parent = nullptr);
+
+  void Add(const TimelineEntry& entry);
+  void Clear();
+  // As shown, without colours.
+  QString Text() const;
+  // The same as a timeline, which `tavi guest-uinput --timeline` plays.
+  QString Timeline() const;
+
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  void Flush();
+
+  void Append(const QVector<TimelineEntry>& entries);
+
+  QPlainTextEdit* text_;
+  EndFollower* end_;
+  std::deque<TimelineEntry> shown_;
+  QVector<TimelineEntry> waiting_;  // shown together at the next timeout: a finger that moves makes many lines
+  QBasicTimer flushing_;
+  bool paused_ = false;
+  bool calls_shown_ = false;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_EVENTS_LINE_LOG_H_

@@ -1,0 +1,96 @@
+#include "host/window/findings/placed_finding.h"
+
+#include <utility>
+
+#include <QByteArray>
+#include <QList>
+
+#include "host/picture/overlay_marks.h"
+#include "host/session/keymap_source.h"
+
+namespace tavi {
+
+namespace km = tavikeymapmanager;
+using km::Diagnostic;
+
+namespace {
+
+using Lines = QList<QByteArray>;
+
+int CommonStart(const Lines& a, const Lines& b) {
+  int count = 0;
+  while (count < a.size() && count < b.size() && a[count] == b[count]) ++count;
+  return count;
+}
+
+int CommonEnd(const Lines& a, const Lines& b, int start) {
+  int count = 0;
+  const int most = qMin(a.size(), b.size()) - start;
+  while (count < most && a[a.size() - 1 - count] == b[b.size() - 1 - count]) ++count;
+  return count;
+}
+
+// Lines of a text that was changed, to lines of the text before. All from 1.
+class LineMap {
+ public:
+  LineMap(const Lines& before, const Lines& after)
+      : before_size_(before.size()), after_size_(after.size()), start_(CommonStart(before, after)) {
+    end_ = CommonEnd(before, after, start_);
+  }
+  int Before(int line) const {
+    if (line <= start_) return line;
+    if (line > after_size_ - end_) return line - after_size_ + before_size_;
+    return qMin(line, qMax(start_ + 1, before_size_ - end_));
+  }
+
+ private:
+  int before_size_;
+  int after_size_;
+  int start_;
+  int end_ = 0;
+};
+
+bool BeginsAPart(const QByteArray& line) {
+  return !line.isEmpty() && ((line[0] >= 'a' && line[0] <= 'z') || (line[0] >= 'A' && line[0] <= 'Z'));
+}
+
+// Whether a line is in the list of items and not in a part of the file beside it. In a file that writes no part at the
+// start of a line every line may be.
+bool IsAmongItems(const Lines& lines, int line) {
+  for (int i = qMin(line, lines.size()) - 1; i >= 0; --i) {
+    if (BeginsAPart(lines[i])) return lines[i].startsWith("items");
+  }
+  return true;
+}
+
+// The item that a place of the file is in, which is the last that begins before it; -1 where there is none.
+int ItemAt(const km::LoadResult& keymap, int line, int column) {
+  int found = -1;
+  for (int i = 0; i < keymap.item_sources.size(); ++i) {
+    const km::ItemSource& item = keymap.item_sources[i];
+    if (std::make_pair(item.line, item.column) <= std::make_pair(line, column)) found = i;
+  }
+  return found;
+}
+
+}  // namespace
+
+QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QVector<Diagnostic>& findings,
+                                     const QString& prefix) {
+  const km::LoadResult& keymap = source.InUse();
+  const Lines last = source.LastText().split('\n');
+  const LineMap map(source.TextInUse().split('\n'), last);
+  QVector<PlacedFinding> placed;
+  for (int i = 0; i < findings.size(); ++i) {
+    if (!IsAmongItems(last, findings[i].line)) continue;
+    const int item = ItemAt(keymap, map.Before(findings[i].line), findings[i].column);
+    if (item < 0 || item >= keymap.config->items.size()) continue;
+    const QPointF point = PlaceOf(*keymap.config->items[item]);
+    if (point.isNull()) continue;
+    const bool is_error = findings[i].severity == Diagnostic::Severity::kError;
+    placed.append({i, prefix + QString::number(placed.size() + 1), is_error, findings[i].message, point});
+  }
+  return placed;
+}
+
+}  // namespace tavi

@@ -1,0 +1,47 @@
+// What the mice of an X server tell by the events of XInput 2.
+#ifndef HOST_WINDOW_POINTER_X11_RAW_MOTION_H_
+#define HOST_WINDOW_POINTER_X11_RAW_MOTION_H_
+
+#include <xcb/xcb.h>
+#include <xcb/xinput.h>
+
+#include <QHash>
+#include <QPointF>
+#include <QString>
+
+namespace tavi {
+
+// A mouse tells ways, a touch screen or a tablet tells places.
+bool TellsWays(const xcb_input_xi_device_info_t& device);
+
+// The way of an event as the device counted it, before the server's acceleration.
+QPointF WayOf(const xcb_input_raw_motion_event_t& event);
+
+// The raw motion of an X server's mice: on or off for a connection.
+//
+// Main thread.
+class X11RawMotion {
+ public:
+  // The application's connection, and the root window of its screen.
+  X11RawMotion(xcb_connection_t* connection, xcb_window_t root) : connection_(connection), root_(root) {}
+
+  // Gives why the server has none, or nothing.
+  QString Start();
+  void Stop();
+
+  // Of an event that arrived; nothing but (0, 0) of one that is no way of a mouse.
+  QPointF TakeEvent(const xcb_generic_event_t& event);
+
+ private:
+  void Select(uint32_t events);
+  bool IsMouse(xcb_input_device_id_t device);
+
+  xcb_connection_t* connection_;
+  xcb_window_t root_;
+  uint8_t opcode_ = 0;                             // of XInput's events
+  QHash<xcb_input_device_id_t, bool> known_mice_;  // since Start: a number may be another device's later
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_POINTER_X11_RAW_MOTION_H_

@@ -1,0 +1,81 @@
+#ifndef HOST_WINDOW_VIEW_GUEST_VIEW_H_
+#define HOST_WINDOW_VIEW_GUEST_VIEW_H_
+
+#include <QEvent>
+
+#include "host/picture/keymap_overlay.h"
+#include "host/session/key_repeat_filter.h"
+#include "host/window/pointer/pointer_capture.h"
+#include "host/window/view/guest_screen.h"
+
+namespace tavi {
+
+// The guest's display with a keymap over it, which gives its input to the library. Places are handed on in pixels of
+// the guest, however large it is shown, so that to the library the view is as large as the guest's display, or a
+// multiple of it (LiveHost::ViewSize).
+//
+// All keys are the guest's while the view has the focus, those that move the focus or open menus among them. What is
+// pressed is let go when the view loses the focus, unless a macro asked to hold it.
+class GuestView : public GuestScreen {
+  Q_OBJECT
+
+ public:
+  explicit GuestView(QWidget* parent = nullptr);
+  ~GuestView() override;
+
+  void SetMarks(const QVector<OverlayMark>& marks);
+  void SetOverlayShown(bool shown);
+  // The keymap's keys are out of use for the moment.
+  void SetOverlayDimmed(bool dimmed);
+  // Shown in the middle while the guest has nothing to show.
+  void SetHint(const QString& hint);
+  // The corner of the view where it is `size` to the library: LiveHost::Corner.
+  QPoint Corner(const QSize& size) const;
+  // Holds the pointer while the library takes nothing but its movement.
+  const PointerCapture& Capture() const { return capture_; }
+
+ Q_SIGNALS:
+  // An input method composes, and what it has is the whole of `text`.
+  void Composing(const QString& text);
+
+ protected:
+  bool event(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void PaintOverFingers(QPainter* painter) override;
+
+ private:
+  void TakeInputStatus(int status);
+  void TakeTextField(bool focused);
+
+  bool HandleKey(QKeyEvent* event);
+  bool HandleTouch(QEvent* event);
+  // Hands an event to the library, behind all that came before it.
+  void Send(QEvent* event);
+  void SendMouse(QEvent::Type type, const QMouseEvent& event);
+  // Counts of a mouse whose pointer is held.
+  void SendWay(int dx, int dy);
+  void ReleaseInput();
+  // From pixels of the view.
+  QPointF ToGuest(const QPointF& place) const;
+
+  void PaintHint(QPainter* painter) const;
+
+  KeymapOverlay overlay_;
+  bool overlay_shown_ = true;
+  bool overlay_dimmed_ = false;
+  QString hint_;
+  PointerCapture capture_;
+  KeyRepeatFilter key_repeats_;
+  const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_VIEW_GUEST_VIEW_H_

@@ -1,0 +1,51 @@
+#ifndef HOST_WINDOW_VIEW_WINDOW_STATE_H_
+#define HOST_WINDOW_VIEW_WINDOW_STATE_H_
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+namespace tavi {
+
+class Mapping;
+
+// A state of the window in a word or two.
+struct StateWord {
+  QString text;
+  QColor color;
+  bool is_strong = false;  // keys and mouse do something else than a player would think
+};
+
+// What keys and mouse do at the moment, gathered from everyone who knows a part of it.
+//
+// Main thread.
+class WindowState : public QObject {
+  Q_OBJECT
+
+ public:
+  // `mapping` is not owned.
+  explicit WindowState(const Mapping* mapping, QObject* parent = nullptr);
+
+  // Told with the word about a paused mapping.
+  void SetPauseKey(const QString& name);
+
+  // Mouse and keys are an editor's.
+  void SetEditing(bool editing);
+
+  // The mapping, then what else is on.
+  QVector<StateWord> Words() const;
+  StateWord MappingWord() const;
+
+ Q_SIGNALS:
+  void Changed();
+
+ private:
+  const Mapping* mapping_;
+  QString pause_key_;
+  bool is_editing_ = false;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_VIEW_WINDOW_STATE_H_

@@ -1,7 +1,0 @@
-#include "host/window_system.h"
-
-namespace tavi {
-
-bool HasWindowSystem(const QStringList& /*arguments*/) { return true; }
-
-}  // namespace tavi

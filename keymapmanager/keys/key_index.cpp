@@ -1,0 +1,94 @@
+#include "keymapmanager/keys/key_index.h"
+
+#include <cstring>
+#include <new>
+
+#include "keymapmanager/keys/pad_names.h"
+
+namespace tavikeymapmanager {
+
+namespace {
+
+// A copy of `text` that is never freed, as literals are: its own copies count no references, and each key that is
+// pressed carries one.
+QString Lasting(const QString& text) {
+  const auto length = static_cast<std::size_t>(text.size());
+  void* const block = ::operator new(sizeof(QStringData) + (length + 1) * sizeof(QChar));
+  auto* const data = new (block) QStringData{Q_STATIC_STRING_DATA_HEADER_INITIALIZER(text.size())};
+  std::memcpy(data->data(), text.constData(), (length + 1) * sizeof(QChar));
+  return QString(QStringDataPtr{data});
+}
+
+}  // namespace
+
+// Never destroyed, as its texts are never freed.
+const KeyIndex& KeyIndex::Get() {
+  static const auto* const index = new KeyIndex;
+  return *index;
+}
+
+KeyIndex::KeyIndex() {
+  for (const KeyboardKeyRow& row : KeyboardKeys()) AddKeyboardKey(row);
+  for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
+    QString& name = keyboard_names_[scancode];
+    if (name.isEmpty()) name = Lasting(QStringLiteral("Scan %1").arg(scancode));
+  }
+  for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, Lasting(QString::fromLatin1(row.name)));
+  for (int number = 1; number <= kExtraMouseButtonCount; ++number) {
+    AddMouseKey(ExtraMouseButton(number), QStringLiteral("Mouse Side %1").arg(number));
+  }
+  for (const PadKeyRow& row : PadKeys()) names_ += kPadPrefix + row.name;
+}
+
+void KeyIndex::AddKeyboardKey(const KeyboardKeyRow& row) {
+  const QString name = Lasting(QString::fromLatin1(row.name));
+  keyboard_names_[row.scancode] = name;
+  virtual_keys_[row.scancode] = row.virtual_key;
+  // Two keys share a virtual key (Enter): the first is meant.
+  if (!names_by_virtual_key_.contains(row.virtual_key)) names_by_virtual_key_.insert(row.virtual_key, name);
+  names_ += name;
+  keys_.insert(name, KeyboardKey(row.scancode));
+  if (row.alias != nullptr) keys_.insert(QString::fromLatin1(row.alias), KeyboardKey(row.scancode));
+}
+
+void KeyIndex::AddMouseKey(int code, const QString& name) {
+  ConfigKey key;
+  key.device = keywords::kDeviceMouse;
+  key.text = name;
+  key.virtual_key = code;
+  key.scancode = code;
+  mouse_names_.insert(code, name);
+  names_ += name;
+  keys_.insert(name, key);
+}
+
+std::optional<ConfigKey> KeyIndex::Find(const QString& name) const {
+  const auto found = keys_.constFind(name);
+  if (found == keys_.constEnd()) return {};
+  return *found;
+}
+
+ConfigKey KeyIndex::KeyboardKey(int scancode) const {
+  ConfigKey key;
+  key.device = keywords::kDeviceKeyboard;
+  key.text = keyboard_names_[scancode];
+  key.virtual_key = virtual_keys_[scancode];
+  key.scancode = scancode;
+  return key;
+}
+
+const QString& KeyIndex::TextOf(const QString& device, int virtual_key, int scancode) const {
+  if (IsSameText(device, keywords::kDeviceKeyboard)) return KeyboardText(virtual_key, scancode);
+  if (device != keywords::kDeviceMouse && device != keywords::kDeviceWheel) return no_name_;
+  const auto found = mouse_names_.constFind(scancode);
+  return found == mouse_names_.constEnd() ? no_name_ : *found;
+}
+
+const QString& KeyIndex::KeyboardText(int virtual_key, int scancode) const {
+  if (scancode >= 0 && scancode < kScancodeCount) return keyboard_names_[scancode];
+  if (scancode != kUnsetCode) return no_name_;
+  const auto found = names_by_virtual_key_.constFind(virtual_key);
+  return found == names_by_virtual_key_.constEnd() ? no_name_ : *found;
+}
+
+}  // namespace tavikeymapmanager

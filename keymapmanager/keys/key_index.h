@@ -1,0 +1,49 @@
+// The table of keys, indexed by code and by name. Made on first use, constant from then on: any thread.
+#ifndef KEYMAPMANAGER_KEYS_KEY_INDEX_H_
+#define KEYMAPMANAGER_KEYS_KEY_INDEX_H_
+
+#include <array>
+#include <optional>
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include "keymap/config_key.h"
+#include "keymapmanager/keys/key_table.h"
+
+namespace tavikeymapmanager {
+
+class KeyIndex {
+ public:
+  static const KeyIndex& Get();
+
+  // The key of a name or alias, gamepads and `Scan 200` apart.
+  std::optional<ConfigKey> Find(const QString& name) const;
+  // The keyboard's key of a scan code from 0 to 511.
+  ConfigKey KeyboardKey(int scancode) const;
+  // The shared name of a key by its codes: the scan code, or, where that is unset, the virtual key. Empty for a
+  // gamepad's key and for codes that no key has.
+  const QString& TextOf(const QString& device, int virtual_key, int scancode) const;
+  // As AllKeyNames.
+  const QStringList& Names() const { return names_; }
+
+ private:
+  KeyIndex();
+
+  void AddKeyboardKey(const KeyboardKeyRow& row);
+  void AddMouseKey(int code, const QString& name);
+  const QString& KeyboardText(int virtual_key, int scancode) const;
+
+  std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` where the table has none
+  std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 where the table has none
+  QHash<int, QString> names_by_virtual_key_;
+  QHash<int, QString> mouse_names_;
+  QHash<QString, ConfigKey> keys_;
+  QStringList names_;
+  const QString no_name_;
+};
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAPMANAGER_KEYS_KEY_INDEX_H_

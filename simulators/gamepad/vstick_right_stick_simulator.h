@@ -1,0 +1,28 @@
+// Four keys that are the virtual gamepad's right stick.
+#ifndef SIMULATORS_GAMEPAD_VSTICK_RIGHT_STICK_SIMULATOR_H_
+#define SIMULATORS_GAMEPAD_VSTICK_RIGHT_STICK_SIMULATOR_H_
+
+#include "simulators/gamepad/vstick_simulator.h"
+
+namespace taviinputmanager {
+
+class VStickRightStickSimulator : public VStickSimulator {
+  Q_OBJECT
+
+ public:
+  static VStickRightStickSimulator* GetInstance();
+
+ Q_SIGNALS:
+  // In radii from the centre; (0, 0) when the stick is let go. Silent until the first press.
+  void sigSwipeholdTargetPointChanged(QPointF& point);
+
+ protected:
+  void Report(QPointF& point) override { Q_EMIT sigSwipeholdTargetPointChanged(point); }
+
+ private:
+  VStickRightStickSimulator();
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_GAMEPAD_VSTICK_RIGHT_STICK_SIMULATOR_H_

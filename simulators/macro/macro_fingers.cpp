@@ -1,0 +1,99 @@
+#include "simulators/macro/macro_fingers.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QVarLengthArray>
+
+#include "core/guest_command.h"
+#include "slots/macro_slot_manager.h"
+
+namespace taviinputmanager {
+
+using guest_command::Contacts;
+using guest_command::Slots;
+
+namespace {
+
+// Where a finger goes.
+struct Place {
+  QPointF point;
+  QPoint touch;
+  bool is_mouse;
+};
+
+// All before the first finger is taken: asking the host may lead to another macro's taking one.
+QVarLengthArray<Place, MacroSlotManager::kSlotCount> PlacesOf(const MacroPoints& list) {
+  QVarLengthArray<Place, MacroSlotManager::kSlotCount> places;
+  for (const MacroPoint& element : list.elements) {
+    const QPointF point = element.Now();
+    if (point.isNull()) continue;  // no point
+    const auto touch = MacroPointToTouch(point);
+    if (touch) places.append({point, *touch, element.is_mouse});  // else there is no display
+  }
+  return places;
+}
+
+}  // namespace
+
+LineBuffer MacroFingers::Press(const MacroPoints& list) {
+  MacroSlotManager* pool = MacroSlotManager::GetInstance();
+  // At the end each press lifts one finger that its point has. A loop may press for hours, and more fingers than the
+  // pool has cannot hold one point.
+  if (pressed_points_.count(list.text) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
+  Contacts contacts;
+  for (const Place& place : PlacesOf(list)) {
+    const int slot = pool->Allocate(place.point);
+    if (slot == SlotManager::kNoSlot) continue;  // all fingers of macros are down
+    contacts.append({slot, place.touch.x(), place.touch.y()});
+    if (place.is_mouse) mouse_point_ = place.point;
+  }
+  return contacts.isEmpty() ? LineBuffer() : guest_command::SlotMultiPress(contacts);
+}
+
+LineBuffer MacroFingers::Release(const MacroPoints& list) { return ReleaseElements(list.elements); }
+
+LineBuffer MacroFingers::ReleasePressed() {
+  QVector<MacroPoint> pressed;
+  for (const QString& list : std::exchange(pressed_points_, {})) pressed.append(ParseMacroPoint(list));
+  return ReleaseElements(pressed);
+}
+
+LineBuffer MacroFingers::ReleaseElements(const QVector<MacroPoint>& elements) {
+  Slots released;
+  for (const MacroPoint& element : elements) {
+    const QPointF point = TakeReleasePoint(element);
+    if (point.isNull()) continue;  // no point, or nothing was pressed at the pointer
+    const int slot = MacroSlotManager::GetInstance()->FreeAt(point);
+    if (slot != SlotManager::kNoSlot) released.append(slot);
+  }
+  return released.isEmpty() ? LineBuffer() : guest_command::SlotMultiRelease(released);
+}
+
+QPointF MacroFingers::TakeReleasePoint(const MacroPoint& element) {
+  return element.is_mouse ? std::exchange(mouse_point_, QPointF()) : element.place;
+}
+
+LineBuffer MacroFingers::ReleaseAll() {
+  MacroSlotManager* pool = MacroSlotManager::GetInstance();
+  Slots released;
+  for (const int slot : pool->ActiveSlots()) released.append(slot);
+  if (released.isEmpty()) return {};
+  std::sort(released.begin(), released.end());
+  for (const int slot : released) pool->Free(slot);
+  return guest_command::SlotMultiRelease(released);
+}
+
+MacroFingers::Halves MacroFingers::Split(const MacroPoints& list) const {
+  Halves halves;
+  for (const MacroPoint& element : list.elements) {
+    const bool is_held_mouse = element.is_mouse && !mouse_point_.isNull();
+    const QPointF point = is_held_mouse ? mouse_point_ : element.Now();
+    if (point.isNull()) continue;  // no point
+    const bool is_down = MacroSlotManager::GetInstance()->Contains(point);
+    (is_down ? halves.release : halves.press) += element.element + QLatin1Char(kMacroPointSeparator);
+  }
+  return halves;
+}
+
+}  // namespace taviinputmanager

@@ -1,0 +1,38 @@
+// The input that a macro makes as if it came from the host.
+#ifndef SIMULATORS_MACRO_MACRO_INPUT_H_
+#define SIMULATORS_MACRO_MACRO_INPUT_H_
+
+#include <QPointF>
+#include <QString>
+#include <QtGlobal>
+
+namespace taviinputmanager {
+
+struct MacroCommand;
+
+// Keys, buttons, wheels, text and the switches of the input layer. What is held is noted in MacroHeldInput, which all
+// macros share, so that a switch works from one macro to the next. Each has a virtual pointer of its own.
+//
+// Main thread only. An injected event runs through the handlers before the call returns, and may press or release other
+// items, this macro's key included.
+class MacroInput {
+ public:
+  MacroInput();
+
+  // Nothing for a command that is not about such input.
+  void Obey(const MacroCommand& command);
+
+  // The name of the virtual pointer.
+  qint64 GetVmouseId() const { return vmouse_id_; }
+
+ private:
+  void SetVmouseButton(int button, bool press) const;
+  void MoveVmouse(const QString& element);
+
+  qint64 vmouse_id_;      // random; no two macros have the same
+  QPointF vmouse_point_;  // where it is, display pixels
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_MACRO_MACRO_INPUT_H_

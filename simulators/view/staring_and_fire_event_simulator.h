@@ -1,0 +1,58 @@
+// View control, fire and observe.
+#ifndef SIMULATORS_VIEW_STARING_AND_FIRE_EVENT_SIMULATOR_H_
+#define SIMULATORS_VIEW_STARING_AND_FIRE_EVENT_SIMULATOR_H_
+
+#include <mutex>
+#include <optional>
+
+#include "keymap/staring_config_item.h"
+#include "simulators/event_simulator.h"
+
+namespace tavikeymapmanager {
+struct SpellCancelConfigItem;
+}
+
+namespace taviinputmanager {
+
+// Moves the status of the input layer between view control, observing and neither, by keys, and gives the relative
+// counts to the one of three workers whose turn it is: staring, unless a fire key in relative mode or an observe key is
+// held. The key that came last has the counts, and the first of them to come up gives them back to staring.
+//
+// Works on copies: counts may follow the end of the keymap that an item was in. Main thread.
+class StaringAndFireEventSimulator : public EventSimulator {
+  Q_OBJECT
+
+ public:
+  static StaringAndFireEventSimulator* GetInstance();
+
+  void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  // Relative counts of one host event, while view control or observing is on.
+  void OnRelativeInput(int dx, int dy);
+  // Stops the timer that lifts the view finger.
+  void StopAutoReset();
+
+ public Q_SLOTS:
+  // The spell-cancel key went down while a fire key in relative mode is held.
+  void OnSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
+
+ private:
+  // Whom the relative counts belong to.
+  enum class RelativeRoute { kFire = 1, kStaring = 2, kObserve = 3 };
+
+  StaringAndFireEventSimulator() = default;
+
+  void ConnectWorkers();
+  void ToggleStaring(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
+  void PressObserve(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
+  void LiftViewFinger();
+
+  std::once_flag connected_;                                          // the workers' signals, at the first press
+  std::optional<tavikeymapmanager::StaringConfigItem> staring_item_;  // from the key that turned view control on
+  bool has_observe_item_ = false;  // observing was entered from outside view control, since that was last left
+  RelativeRoute relative_route_ = RelativeRoute::kStaring;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_VIEW_STARING_AND_FIRE_EVENT_SIMULATOR_H_

@@ -1,0 +1,32 @@
+// Walking towards a right click.
+#ifndef SIMULATORS_WALK_RIGHT_WALK_EVENT_SIMULATOR_H_
+#define SIMULATORS_WALK_RIGHT_WALK_EVENT_SIMULATOR_H_
+
+#include "simulators/event_simulator.h"
+
+class QMouseEvent;
+
+namespace taviinputmanager {
+
+// Works by the mouse operations, which need the pointer; a press or release as of a key does nothing.
+class RightWalkEventSimulator : public EventSimulator {
+ public:
+  static RightWalkEventSimulator* GetInstance();
+
+  void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
+  // `event` is valid during the call; its position is read as pixels of the display.
+  void OnMousePress(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
+  void OnMouseRelease(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
+  // Nothing while no walk is on.
+  void OnMouseMove(QMouseEvent* event);
+  // Lifts the finger. Also what a reset of all input does.
+  void StopWalk();
+
+ private:
+  RightWalkEventSimulator() = default;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_WALK_RIGHT_WALK_EVENT_SIMULATOR_H_

@@ -1,0 +1,61 @@
+// The plan of a walk's first slide, from the stick's centre to its target.
+#ifndef SIMULATORS_WALK_SWIPE_PATH_H_
+#define SIMULATORS_WALK_SWIPE_PATH_H_
+
+#include <QPoint>
+#include <QString>
+
+namespace taviinputmanager {
+
+// What each step of a slide adds to one axis, in pixels. Steps are taken from the front.
+//
+// Kept as runs of equal steps, since a keymap may ask for any number of them:
+//
+//   head, head ... head | middle | tail, tail ... tail
+//
+// or, for an axis without travel that is to tremble, +1, -1, +1, ...
+class AxisSteps {
+ public:
+  // Plans `count` steps over `delta` pixels; fewer than one is an empty plan. `mode` is a variable_mode of a walk.
+  void Plan(int delta, int count, const QString& mode);
+  void Clear();
+
+  bool IsEmpty() const { return taken_ >= count_; }
+  // The plan must not be empty.
+  int TakeFirst();
+
+ private:
+  void PlanTravel(int delta, const QString& mode);
+
+  int count_ = 0;
+  int taken_ = 0;
+  bool tremble_ = false;
+  int head_ = 0;  // the number of its steps; one middle step follows, then the tail
+  int head_step_ = 0;
+  int middle_step_ = 0;
+  int tail_step_ = 0;
+};
+
+// Positions are pixels. Rounding errors of the steps are not carried along: whoever plays the plan jumps from the last
+// step to the exact target.
+struct SwipePath {
+  QPoint start;
+  QPoint current;
+  QPoint target;
+  QString mode;  // a variable_mode
+  AxisSteps x_steps;
+  AxisSteps y_steps;
+  int remaining = 0;  // steps, the jump at the end included
+
+  // Plans the remaining steps from `current` to `target`; none when the target is where the slide began.
+  void Rebuild();
+  void Clear();
+
+  bool HasStep() const { return remaining > 1 && !x_steps.IsEmpty() && !y_steps.IsEmpty(); }
+  // Moves `current` by one step. There must be one.
+  void TakeStep();
+};
+
+}  // namespace taviinputmanager
+
+#endif  // SIMULATORS_WALK_SWIPE_PATH_H_

@@ -1,0 +1,55 @@
+// Stories of the workers of rapid taps without a run around them: what they signal.
+#ifndef TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
+#define TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
+
+#include "tests/support/story.h"
+
+namespace taviinputmanager {
+
+class BunchWorkerStory : public Story {
+ protected:
+  template <typename Worker>
+  void ListenToContinue(Worker* worker) {
+    QObject::connect(worker, &Worker::BunchTapPressed, [this](auto... what) { Add("press", what...); });
+    QObject::connect(worker, &Worker::BunchTapReleased, [this](auto... what) { Add("release", what...); });
+    QObject::connect(worker, &Worker::BunchTapFinished, [this](auto... what) { Add("finish", what...); });
+  }
+  template <typename Worker>
+  void ListenToOneOff(Worker* worker) {
+    QObject::connect(worker, &Worker::OneOffBunchTapPressed, [this](auto... what) { Add("press", what...); });
+    QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](auto... what) { Add("release", what...); });
+    QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](auto... what) { Add("finish", what...); });
+  }
+  // A held run and a single tap, of an item that changes once they are made.
+  template <typename ContinueWorker, typename OneOffWorker, typename Item>
+  void PlayBothWhileTheItemChanges(Item item) {
+    ContinueWorker held(&item);
+    OneOffWorker once(&item);
+    item = Item();
+    ListenToContinue(&held);
+    ListenToOneOff(&once);
+    held.Process();
+    held.Stop(QStringLiteral("keyboard"), {}, 17);  // W
+    once.OneOffProcess();
+    Wait(25);
+  }
+  // What was signalled since the last look: "press, release". Each is of the point (0.25, 0.5) or of the button "LB".
+  std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
+
+ private:
+  void Add(const char* what, double x, double y) {
+    EXPECT_EQ(0.25, x);
+    EXPECT_EQ(0.5, y);
+    said_.append(QString::fromLatin1(what));
+  }
+  void Add(const char* what, const QString& text) {
+    EXPECT_EQ("LB", text);
+    said_.append(QString::fromLatin1(what));
+  }
+
+  QStringList said_;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
