@@ -155,6 +155,23 @@ TEST_F(KeymapLoad, AnArmedKeyIsForgottenAfterTheFreshKeymapWasAskedAboutIt) {
                "0ms gravity 0 0 0");
 }
 
+// Tells when it is gone.
+struct WatchedItem : ConfigItem {
+  ~WatchedItem() override { *is_alive = false; }
+  bool* is_alive = nullptr;
+};
+
+TEST_F(KeymapLoad, AKeymapIsGoneBeforeTheNextIsRead) {
+  bool is_alive = true;
+  bool was_alive = true;  // as the next was asked for
+  Add<WatchedItem>("Click", "W", {0.5, 0.5})->is_alive = &is_alive;
+  Load();
+  ASSERT_TRUE(is_alive);
+  test::SetLoadListener([&] { was_alive = is_alive; });
+  LoadFor("next.yaml", "com.example");
+  EXPECT_FALSE(was_alive);
+}
+
 TEST_F(KeymapLoad, NullItemsAreSkipped) {
   auto* config = new KeymapConfig;
   config->items = {nullptr, nullptr};

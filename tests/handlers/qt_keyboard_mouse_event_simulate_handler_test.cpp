@@ -1,5 +1,7 @@
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 
+#include <QMouseEvent>
+
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
 #include "core/virtual_keyboard_event.h"
@@ -48,6 +50,23 @@ class SimulateHandler : public Story {
     InputManager::GetInstance()->DispatchVirtualEvent(device, id, code, press, point);
   }
 };
+
+TEST_F(SimulateHandler, AButtonIsMappedForItsPressAndItsRelease) {
+  Add<ConfigItem>("Click", "Mouse Left", {0.5, 0.5});
+  Load();
+  const struct {
+    QEvent::Type type;
+    bool is_mapped;
+  } rows[] = {{QEvent::MouseButtonPress, true},
+              {QEvent::MouseButtonRelease, true},
+              {QEvent::MouseButtonDblClick, false},
+              {QEvent::MouseMove, false}};
+  for (const auto& row : rows) {
+    QMouseEvent event(row.type, QPointF(10, 10), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    EXPECT_EQ(row.is_mapped, QtKeyboardMouseEventSimulateHandler::GetInstance()->IsMouseButtonMapped(&event))
+        << row.type;
+  }
+}
 
 TEST_F(SimulateHandler, EveryTypeHasItsSimulator) {
   const struct {

@@ -185,8 +185,9 @@ TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   InputStatusManager::GetInstance()->ResetForKeymap(&none, "com.android.settings", "", false, 0, 1);
   Host().window = {0, 0, 640, 360};  // half the touch surface: 100,50 is 200,100
   Forget();
-  Play("wheel +120 100,50; wheel -120 100,50; wheel 0 100,50");
-  EXPECT_WIRE("0ms 1:WHEEL:200:100:200:100", "0ms 1:WHEEL:200:100:-200:100", "0ms 1:WHEEL:200:100:-200:100");
+  Play("wheel +120 100,50; wheel -120 100,50; wheel 0 100,50; wheel +1 100,50");
+  EXPECT_WIRE("0ms 1:WHEEL:200:100:200:100", "0ms 1:WHEEL:200:100:-200:100", "0ms 1:WHEEL:200:100:-200:100",
+              "0ms 1:WHEEL:200:100:200:100");
   Play("down Left Ctrl; wheel +120 100,50; up Left Ctrl");
   EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
 }

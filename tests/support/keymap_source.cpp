@@ -15,6 +15,7 @@ struct Source {
   bool fail = false;
   int loads = 0;
   QString last_path;
+  std::function<void()> listener = [] {};
 };
 
 Source& GetSource() {
@@ -32,6 +33,7 @@ KeymapConfig* Give(KeymapConfig** next) {
 void SetNextKeymap(KeymapConfig* config) { GetSource().keymap = config; }
 void SetNextJoystickKeymap(KeymapConfig* config) { GetSource().joystick = config; }
 void FailLoads(bool fail) { GetSource().fail = fail; }
+void SetLoadListener(std::function<void()> listener) { GetSource().listener = std::move(listener); }
 int KeymapLoads() { return GetSource().loads; }
 QString LastKeymapPath() { return GetSource().last_path; }
 
@@ -43,11 +45,13 @@ KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) {
   auto& source = taviinputmanager::test::GetSource();
   ++source.loads;
   source.last_path = path;
+  source.listener();
   return source.fail ? nullptr : taviinputmanager::test::Give(&source.keymap);
 }
 
 KeymapConfig* LoadJoystickConfigAndInfo(const QString& /*path*/) {
   auto& source = taviinputmanager::test::GetSource();
+  source.listener();
   return source.fail ? nullptr : taviinputmanager::test::Give(&source.joystick);
 }
 

@@ -2,6 +2,8 @@
 #ifndef TESTS_SUPPORT_KEYMAP_SOURCE_H_
 #define TESTS_SUPPORT_KEYMAP_SOURCE_H_
 
+#include <functional>
+
 #include <QString>
 
 #include "keymap/keymap_config.h"
@@ -13,6 +15,8 @@ void SetNextKeymap(tavikeymapmanager::KeymapConfig* config);
 void SetNextJoystickKeymap(tavikeymapmanager::KeymapConfig* config);
 // Loads give null from now on, as a library does that failed.
 void FailLoads(bool fail);
+// Is called when a keymap is asked for, before it is given.
+void SetLoadListener(std::function<void()> listener);
 // How often a keymap was asked for, and the path of the last time. Not all paths: a run of hours loads for ever.
 int KeymapLoads();
 QString LastKeymapPath();

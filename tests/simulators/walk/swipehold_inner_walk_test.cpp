@@ -259,6 +259,16 @@ TEST_F(SwipeholdInnerWalk, TheKeysOfAGamepadAreTakenOverAsRight) {
   EXPECT_WIRE(In(0, 1024, 360), In(32, 1035, 360));
 }
 
+TEST_F(SwipeholdInnerWalk, WithoutAnItemThereAreNoKeysToTakeOver) {
+  Load();
+  const SwipeholdConfigItem item = MakeInner();
+  inner_->SetItem(&item);
+  inner_->SetItem(nullptr);
+  inner_->ReplayDirections({0, 16});
+  Play("wait 200");
+  EXPECT_WIRE_NONE();
+}
+
 // 64 pixels in 6 steps: 10.7, and backwards -10.7.
 TEST_F(SwipeholdInnerWalk, TakesOverEachDirectionByItsKey) {
   const struct {

@@ -122,6 +122,20 @@ TEST_F(Pinch, ATurnUpMovesApartRestsAndLifts) {
   EXPECT_FALSE(QtWheelEventZoomWorker::GetInstance()->IsRunning());
 }
 
+// Without wheel settings the first move comes after 16 ms and the next ones every 14. The unit is 1280 * 0.00325
+// = 4.16, 4 pixels, and the fingers begin 10 of them from the pointer. The line lies as it did for the keymap before.
+TEST_F(Pinch, AKeymapWithoutWheelSettingsGetsTheUsualTimes) {
+  LoadPinch();
+  Play("wheel +120 640,360; wait 500");
+  OnLoadKeymapConfigAndInfo("", "com.example", "", 1);
+  Wait(0);
+  Host().StartTimeline();
+  Forget();
+  Play("down Left Ctrl; wheel +120 640,360; wait 44; up Left Ctrl");
+  EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:600:360:10:10:680:360", "16ms 1:SLOTMULTIPRESS:0:0:596:360:10:10:684:360",
+              "30ms 1:SLOTMULTIPRESS:0:0:592:360:10:10:688:360", "44ms 1:SLOTMULTIPRESS:0:0:588:360:10:10:692:360");
+}
+
 // Inwards it starts at 10 + 3 * 2 units: 96 pixels from the pointer.
 TEST_F(Pinch, ATurnDownMovesTogether) {
   LoadPinch();
