@@ -1,12 +1,12 @@
 #include "host/window/guest_display.h"
 
-#include <QFileDialog>
 #include <QLabel>
 
 #include "host/window/guest_frame.h"
 #include "host/window/guest_menu.h"
 #include "host/window/guest_view.h"
 #include "host/window/input_port.h"
+#include "host/window/question.h"
 #include "host/window/window_host.h"
 
 namespace tavi {
@@ -95,9 +95,8 @@ void GuestDisplay::TellShapeOfBackground() {
 }
 
 void GuestDisplay::OpenBackground() {
-  const QString file =
-      QFileDialog::getOpenFileName(window_, QStringLiteral("Open a picture of the guest's screen"), QString(),
-                                   QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
+  const QString file = AskForFile(window_, QStringLiteral("Open a picture of the guest's screen"), QString(),
+                                  QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
   Q_EMIT DialogClosed();
   if (file.isEmpty()) return;
   const QString problem = SetBackground(file);

@@ -35,7 +35,8 @@ GuestView::GuestView(QWidget* parent)
       capture_(this),
       key_repeats_([](QKeyEvent* event) { InputPort::GetInstance()->Send(event); }),
       may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::ClickFocus);  // Tab would not lead on from here
+  setAccessibleName(QStringLiteral("Screen of the guest"));
   setMouseTracking(true);
   setAttribute(Qt::WA_AcceptTouchEvents);
   setContextMenuPolicy(Qt::PreventContextMenu);

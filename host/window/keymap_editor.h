@@ -44,6 +44,7 @@ class KeymapEditor : public QObject {
   // Puts the bar behind the tool bars that the window has so far.
   void AddBar();
   QAction* Switch() const { return switch_; }
+  QToolBar* Bar() const { return bar_; }
   bool IsOn() const;
   KeymapDocument* Document() { return &document_; }
   EditLayer* Layer() const { return layer_; }

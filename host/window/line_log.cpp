@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "host/guest_line.h"
+#include "host/window/control_focus.h"
 #include "host/window/end_follower.h"
 #include "host/window/theme.h"
 
@@ -77,7 +78,8 @@ QPlainTextEdit* MakeText(QWidget* parent) {
   text->setFont(theme::MonospaceFont());
   text->setFrameShape(QFrame::NoFrame);
   // Text can be marked by the mouse without taking the keys from the guest.
-  text->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(text);
+  text->setAccessibleName(QStringLiteral("Lines for the guest"));
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setMinimumWidth(text->fontMetrics().averageCharWidth() * kLeastColumns);
   return text;
@@ -87,7 +89,7 @@ QToolButton* MakeButton(const QString& text, const QString& hint, QWidget* paren
   auto* button = new QToolButton(parent);
   button->setText(text);
   button->setToolTip(hint);
-  button->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(button);
   return button;
 }
 

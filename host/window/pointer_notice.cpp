@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include "host/window/control_focus.h"
 #include "host/window/pointer_capture.h"
 #include "host/window/theme.h"
 #include "host/window/window_host.h"
@@ -23,7 +24,7 @@ PointerNotice::PointerNotice(WindowSystem system, const PointerCapture* capture,
       offer_(new QToolButton(this)) {
   text_->setWordWrap(true);
   offer_->setDefaultAction(full_screen);
-  offer_->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(offer_);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(12, 8, 12, 8);
   layout->addWidget(text_, 1);

@@ -35,6 +35,9 @@ struct SaveQuestion {
 using AskForName = std::function<QString(const SaveQuestion& question)>;
 AskForName AskForNameIn(QWidget* window);
 
+// Asks for a file that there is, first in `folder`; empty when the person backs out. `types` as file dialogs take them.
+QString AskForFile(QWidget* window, const QString& title, const QString& folder, const QString& types);
+
 }  // namespace tavi
 
 #endif  // HOST_WINDOW_QUESTION_H_

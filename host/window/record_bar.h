@@ -18,7 +18,8 @@ struct RecordInfo;
 
 namespace tavi {
 
-// Records what the guest gets, and plays records back. Its buttons take no focus, so that the keys stay the guest's.
+// Records what the guest gets, and plays records back. A click at its buttons takes no focus, so that the keys stay the
+// guest's.
 class RecordBar : public QToolBar {
   Q_OBJECT
 

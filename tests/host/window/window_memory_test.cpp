@@ -124,6 +124,7 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
                                                       {"--joystick", folder_.filePath("joystick.yaml")},
                                                       {"--look", "desktop"},
                                                       {"--panic-key", "Ctrl+Alt+Backspace"},
+                                                      {"--controls-key", "Ctrl+Alt+Enter"},
                                                       {"--pause-key", "F12"},
                                                       {"--pixel-ratio", "1.5"},
                                                       {"--rotation", "90"}}));
