@@ -123,13 +123,20 @@ void GuestView::Send(QEvent* event) {
 
 bool GuestView::HandleTouch(QEvent* event) {
   event->accept();
-  if (event->type() == QEvent::TouchCancel) {
-    ReleaseInput();
+  if (event->type() == QEvent::TouchCancel) {  // the window system takes it for itself; the library knows ends only
+    QTouchEvent end(QEvent::TouchEnd);
+    Send(&end);
     return true;
   }
-  QTouchEvent touch(*static_cast<QTouchEvent*>(event));
-  QList<QTouchEvent::TouchPoint> points = touch.touchPoints();
-  for (QTouchEvent::TouchPoint& point : points) point.setPos(ToGuest(point.pos()));
+  const auto& given = *static_cast<QTouchEvent*>(event);
+  QList<QTouchEvent::TouchPoint> points;
+  for (QTouchEvent::TouchPoint point : given.touchPoints()) {
+    // Qt lists a finger that goes up once more, and the library takes every finger of an update to be down.
+    if (point.state() == Qt::TouchPointReleased && event->type() == QEvent::TouchUpdate) continue;
+    point.setPos(ToGuest(point.pos()));
+    points.append(point);
+  }
+  QTouchEvent touch(given);
   touch.setTouchPoints(points);
   Send(&touch);
   return true;
