@@ -107,6 +107,7 @@ MainWindow::MainWindow()
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
   SetControlsKey(KeyOf(kControlsKey));
+  docks_->SetStrip(panel_);
   finding_marks_ = new FindingMarks(view_);
   connect(editor_->Switch(), &QAction::toggled, this, &MainWindow::SetEditing);
   new StateCorner(&state_, view_);

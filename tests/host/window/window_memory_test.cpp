@@ -7,6 +7,7 @@
 
 #include "host/window/dock_folder.h"
 #include "host/window/guest_frame.h"
+#include "host/window/guest_panel.h"
 #include "host/window/keymap_editor.h"
 #include "host/window/line_log.h"
 #include "host/window/main_tool_bar.h"
@@ -53,6 +54,21 @@ TEST_F(WindowMemoryTest, TheWindowCanBeAsSmallAsTheScreen) {
     EXPECT_EQ(Window()->size(), size);
     EXPECT_GE(View()->width(), 400) << size.width();
   }
+}
+
+// The guest's screen keeps the 680 pixels that its keys need: at 200 % on 1920 x 1080 the window is 952 x 500, its bars
+// take 108, and the strip's 62 would leave 330, for a width of 587.
+TEST_F(WindowMemoryTest, TheStripBelowGivesWayBeforeTheScreenGetsTooNarrow) {
+  const auto* strip = Window()->findChild<GuestPanel*>();
+  ASSERT_NE(strip, nullptr);
+  Resize(952, 500);
+  EXPECT_FALSE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
+  Resize(952, 384 + 170 - 1);
+  EXPECT_FALSE(strip->isVisible());
+  Resize(952, 384 + 170);
+  EXPECT_TRUE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
 }
 
 TEST_F(WindowMemoryTest, ASmallWindowPutsDocksAwayUntilThereIsRoom) {
