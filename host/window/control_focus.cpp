@@ -1,7 +1,9 @@
 #include "host/window/control_focus.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDockWidget>
+#include <QFocusFrame>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QTabBar>
@@ -29,9 +31,17 @@ QVector<QWidget*> ButtonsOf(const QToolBar* bar) {
 
 }  // namespace
 
-ControlFocus::ControlFocus(QMainWindow* window, QWidget* view) : QObject(window), window_(window), view_(view) {
+ControlFocus::ControlFocus(QMainWindow* window, QWidget* view)
+    : QObject(window), window_(window), view_(view), frame_(new QFocusFrame(window)) {
   window->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { Mark(now); });
   NameParts();
+}
+
+// Buttons and fields show themselves that they have the keys; lists do not.
+void ControlFocus::Mark(QWidget* focused) {
+  const bool is_list = qobject_cast<QAbstractScrollArea*>(focused) != nullptr && focused->window() == window_;
+  frame_->setWidget(is_list ? focused : nullptr);
 }
 
 void ControlFocus::SetBars(const QVector<QToolBar*>& bars) {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QVector>
 
+class QFocusFrame;
 class QMainWindow;
 class QToolBar;
 class QWidget;
@@ -33,10 +34,12 @@ class ControlFocus : public QObject {
 
  private:
   void NameParts();
+  void Mark(QWidget* focused);
 
   QMainWindow* window_;
   QWidget* view_;
   QVector<QToolBar*> bars_;
+  QFocusFrame* frame_;       // around a list that has the keys
   bool is_leaving_ = false;  // Escape is down, and is nobody else's
 };
 

@@ -104,6 +104,7 @@ bool GuestView::HandleKey(QKeyEvent* event) {
   const NativeKey native = NativeKeyOf(*event);
   // Such a key has a text at most.
   if (native.scancode == 0 && !WindowHost::GetInstance()->HasTextField()) return true;
+  if (!IsWhole(*event, native.scancode)) return true;
   QKeyEvent converted(event->type(), event->key(), event->modifiers(), native.scancode, native.virtual_key,
                       event->nativeModifiers(), event->text(), event->isAutoRepeat(),
                       static_cast<ushort>(event->count()));
@@ -113,6 +114,13 @@ bool GuestView::HandleKey(QKeyEvent* event) {
   } else {
     Send(&converted);
   }
+  return true;
+}
+
+// The key that closed a dialog is let go here; a guest would take that for its back key.
+bool GuestView::IsWhole(const QEvent& event, quint32 scancode) {
+  if (event.type() == QEvent::KeyRelease) return pressed_.remove(scancode);
+  pressed_.insert(scancode);
   return true;
 }
 

@@ -2,6 +2,7 @@
 #define HOST_WINDOW_GUEST_VIEW_H_
 
 #include <QEvent>
+#include <QSet>
 
 #include "host/window/guest_screen.h"
 #include "host/window/key_repeat_filter.h"
@@ -53,6 +54,8 @@ class GuestView : public GuestScreen {
   void TakeTextField(bool focused);
 
   bool HandleKey(QKeyEvent* event);
+  // Whether the other half of a release was here as well.
+  bool IsWhole(const QEvent& event, quint32 scancode);
   bool HandleTouch(QEvent* event);
   // Hands an event to the library, behind all that came before it.
   void Send(QEvent* event);
@@ -71,6 +74,7 @@ class GuestView : public GuestScreen {
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;
+  QSet<quint32> pressed_;             // scan codes whose press came here
   const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
 };
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
@@ -40,7 +41,7 @@ AskForName AskForNameIn(QWidget* window) {
     QFileDialog dialog(window, question.title, QString(), question.types);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(question.suffix);
-    const QFileInfo proposal(question.proposal);
+    const QFileInfo proposal(question.proposal.isEmpty() ? QDir::currentPath() : question.proposal);
     dialog.setDirectory(proposal.isDir() ? proposal.absoluteFilePath() : proposal.absolutePath());
     if (!proposal.isDir()) dialog.selectFile(proposal.fileName());
     return FileOf(&dialog);

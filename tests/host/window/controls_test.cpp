@@ -3,12 +3,15 @@
 #include <functional>
 
 #include <QAction>
+#include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QThread>
 #include <QTimer>
@@ -20,10 +23,12 @@
 #include "host/window/field_editor.h"
 #include "host/window/item_inspector.h"
 #include "host/window/keymap_editor.h"
+#include "host/window/line_log.h"
 #include "host/window/long_work.h"
 #include "host/window/main_tool_bar.h"
 #include "host/window/question.h"
 #include "host/window/record_bar.h"
+#include "host/window/theme.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
 
@@ -230,6 +235,15 @@ TEST_F(Dialogs, TheNameOfAFile) {
       [](const QWidget* /*dialog*/) {});
 }
 
+// Whoever has saved nothing yet begins where the program was started.
+TEST_F(Dialogs, ANameThatNothingIsProposedFor) {
+  Use(
+      [this] {
+        AskForNameIn(Window())({QStringLiteral("Save the record"), {}, "Records (*.json)", "json"});
+      },
+      [](const QWidget* dialog) { EXPECT_EQ(static_cast<const QFileDialog*>(dialog)->directory(), QDir::current()); });
+}
+
 TEST_F(Dialogs, AFileToOpen) {
   Use([this] { AskForFile(Window(), QStringLiteral("Open a keymap"), folder_.path(), "Keymaps (*.yaml)"); },
       [](const QWidget* /*dialog*/) {});
@@ -264,6 +278,32 @@ TEST_F(Controls, WhatIsDownIsLiftedAndTheKeyIsNobodysElse) {
   TypeControlsKey();
   EXPECT_TRUE(Slots().isEmpty());
   EXPECT_TRUE(Guest().held_keys.isEmpty());
+}
+
+// A rim in the colour of what is lit, in buttons and around lists.
+TEST_F(Controls, OneSeesWhichHasTheKeys) {
+  theme::Apply(qApp, theme::Look::kDark);
+  Load("");
+  TypeControlsKey();
+  const auto is_rimmed = [this](QWidget* widget) {
+    clock_->Settle();
+    const QImage picture = Window()->grab(QRect(widget->mapTo(Window(), QPoint(0, 0)), widget->size())).toImage();
+    int lit = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      for (int y = 0; y < 4; ++y) lit += picture.pixelColor(x, y) == theme::Colors().tap ? 1 : 0;
+    }
+    return lit > picture.width() / 2;
+  };
+  QWidget* button = QApplication::focusWidget();
+  EXPECT_TRUE(is_rimmed(button));
+  TypeTab();
+  EXPECT_FALSE(is_rimmed(button));
+  QWidget* list = Window()->findChild<LineLog*>()->findChild<QPlainTextEdit*>();
+  EXPECT_FALSE(is_rimmed(list));
+  list->setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(is_rimmed(list));
+  TypeEscape();
+  EXPECT_FALSE(is_rimmed(list));
 }
 
 TEST_F(Controls, AnotherKeyLeadsThere) {

@@ -61,6 +61,20 @@ TEST_F(GuestViewTest, KeysThatMoveTheFocusAreTheGuestsToo) {
   EXPECT_EQ(Slots().size(), 1);
 }
 
+// Such as that of the Escape that closed a dialog.
+TEST_F(GuestViewTest, AReleaseWithoutItsPressIsNotTheGuests) {
+  Load("", "settings: {keyboard_transparent: true}");
+  int lines = 0;
+  QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, View(), [&] { ++lines; });
+  Release(1);
+  EXPECT_EQ(lines, 0);
+  Press(1);
+  Release(1);
+  EXPECT_EQ(lines, 2);
+  Release(1);
+  EXPECT_EQ(lines, 2);
+}
+
 TEST_F(GuestViewTest, NoKeyIsAShortcutOfTheWindow) {
   QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_F, Qt::AltModifier);
   event.ignore();
