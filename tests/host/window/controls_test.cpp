@@ -1,6 +1,7 @@
 // The window without a mouse: every control has a name, and the keys find the way to each and back to the guest.
 #include <atomic>
 #include <functional>
+#include <memory>
 
 #include <QAction>
 #include <QDir>
@@ -201,7 +202,7 @@ class Dialogs : public Controls {
       use(dialog);
       TypeControlsKey();
       EXPECT_EQ(QApplication::focusWidget()->window(), dialog);  // it keeps the keys
-      static_cast<QDialog*>(dialog)->reject();
+      dialog->close();
     });
     show();
     EXPECT_TRUE(is_seen);
@@ -250,13 +251,13 @@ TEST_F(Dialogs, AFileToOpen) {
 }
 
 TEST_F(Dialogs, SomethingThatTakesItsTime) {
-  std::atomic<bool> may_end{false};
+  const auto may_end = std::make_shared<std::atomic<bool>>(false);  // the work outlives what waits for it
   Use(
       [&] {
-        DoLongWork(Window(), QStringLiteral("Reading"), [&] {
-          while (!may_end) QThread::msleep(1);
+        DoLongWork(Window(), QStringLiteral("Reading"), [may_end] {
+          while (!*may_end) QThread::msleep(1);
         });
-        may_end = true;
+        *may_end = true;
       },
       [this](const QWidget* dialog) { ExpectAllAreWalkedIn(dialog); });
 }
@@ -385,7 +386,8 @@ TEST_F(Controls, TheGuestGetsNothingOfThatEscape) {
   Load("", "settings: {keyboard_transparent: true}");
   TypeControlsKey();
   int lines = 0;
-  QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, Window(), [&] { ++lines; });
+  QObject counter;  // ends before the window lets go of everything
+  QObject::connect(WindowHost::GetInstance(), &WindowHost::EntryAdded, &counter, [&] { ++lines; });
   TypeEscape();
   EXPECT_TRUE(View()->hasFocus());
   EXPECT_EQ(lines, 0);
