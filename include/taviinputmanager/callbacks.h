@@ -1,12 +1,11 @@
-// The tables through which the library asks and tells the host.
+// The callback tables through which the library queries and notifies the host.
 //
-// The host owns each table and keeps it alive for as long as it feeds events. Members are called on the host's main
-// thread but where a member says otherwise.
+// The host owns each table and keeps it alive for as long as it feeds events. Callbacks run on the host's main thread
+// unless their comment says otherwise.
 //
-// A member may call the library: on the main thread everything but the loads, the reset and the change of the display,
-// on another thread only what is for any thread (taviinputmanager.h, "Calls from inside"). That goes for the members
-// that answer a question too, though there is seldom a reason: input that comes while the library asks is handled
-// before what it asks for.
+// A callback may call the library: on the main thread anything except the loads, the reset and the display change; on
+// another thread only the functions marked "any thread" (taviinputmanager.h, "Re-entrancy"). This includes callbacks
+// that return a value: input fed from inside one is handled before the event for which it was called.
 #ifndef TAVIINPUTMANAGER_CALLBACKS_H_
 #define TAVIINPUTMANAGER_CALLBACKS_H_
 
@@ -19,89 +18,89 @@ namespace taviinputmanager {
 
 // The host view that shows the guest, in window pixels.
 struct WindowGeometry {
-  int x = 0;       // left edge; the macro commands mouse_... act at QCursor::pos less this
+  int x = 0;       // left edge; the macro commands mouse_... act at QCursor::pos minus this corner
   int y = 0;       // top edge
-  int width = 0;   // 0: places of the view give no line
+  int width = 0;   // 0: positions in the view produce no line
   int height = 0;  // the same
 };
 
-// GetWindowGeometry, GetDisplayRotation, GetDisplayRect and GetTouchRect are asked for no display in particular: they
-// speak of the one that input goes to (OnLoadKeymapConfigAndInfo, UpdateDisplayId). Lines of a replay are reckoned by
-// the same answers. A host may change them between any two of its calls.
+// GetWindowGeometry, GetDisplayRotation, GetDisplayRect and GetTouchRect take no display: they describe the one that
+// input goes to (OnLoadKeymapConfigAndInfo, UpdateDisplayId). Replays use the same values. The host may change them
+// between any two calls.
 //
-// Members marked "may be null" are tested before each call. The others are called without a test, so a host that gives
-// a table fills them. The order of members is part of the contract.
+// Members marked "may be null" are checked before each call; all others are not, so the host must set them. The order
+// of members is part of the contract.
 struct InputManagerCallbacks {
-  // The guest view's place. Positions of events are relative to its top left corner.
+  // Where the guest view is. Event positions are relative to its top left corner.
   WindowGeometry (*GetWindowGeometry)() = nullptr;
-  // Rotation of the guest display in degrees; only 90 and 270 differ from the rest. Also asked on the thread of a zoom
-  // run.
+  // Rotation of the guest display in degrees. All values except 90 and 270 mean no rotation. Also called on the thread
+  // of a zoom run.
   int (*GetDisplayRotation)() = nullptr;
-  // Whether the guest has a text field focused and typed keys are to become text. While it says so no key of
-  // OnQtInputEvent meets the keymap; mouse, wheel and gamepads still do.
+  // Whether a text field of the guest has the focus, so that keys are typed as text. While true, keys bypass the
+  // keymap; mouse, wheel and gamepads do not.
   bool (*IsTextInputActive)() = nullptr;
-  // `status` is an InputStatus, `message` the name of a key: at a keymap load that of its first Staring item, else that
-  // of the Staring or Observe item whose key changed the status last. A reset, a change of the display, and a load of a
-  // keymap without Staring item give the name that was given before. Called at each set, also without a change; at the
-  // natural end of a replay on that replay's thread.
+  // `status` is an InputStatus. `message` is the name of a key: after a keymap load that of the first Staring item, and
+  // otherwise that of the Staring or Observe item whose key last changed the status. A reset, a display change and the
+  // load of a keymap without a Staring item repeat the previous name. Called each time the status is set, even to the
+  // same value. Called on a replay's thread when that replay reaches the end of its record.
   void (*OnInputStatusChanged)(int status, const QString& message) = nullptr;
-  // The kind of gamepad `device` is: 2 and 3 have the second layout of button digits, 4 the third, all others the
-  // first. Asked for each button that passes through; 100801 is the gamepad that keys play. May be null.
+  // The type of gamepad `device`: 2 and 3 use the second layout of button codes, 4 the third, all others the first.
+  // Called for each button that passes through. Device 100801 is the virtual gamepad driven by keys. May be null.
   int (*GetJoystickType)(int device) = nullptr;
-  // Whether an Escape that nothing takes acts as the guest's back key.
+  // Whether an unmapped Escape acts as the guest's back key.
   bool (*IsEscapeBackEnabled)() = nullptr;
-  // Whether the keymap takes Escape at present, so that the host must not use it itself. May be null.
+  // Tells whether the keymap currently uses Escape, so that the host must not. May be null.
   void (*OnEscapeKeyOccupied)(bool occupied) = nullptr;
-  // The guest display in display pixels, in the orientation that the window shows. Its top left is where aimed skills
-  // and the macro point `mouse` take the pointer from: QCursor::pos less this.
+  // The guest display in display pixels, in the orientation shown in the window. Aimed skills and the macro point
+  // `mouse` use QCursor::pos minus its top left corner.
   QRect (*GetDisplayRect)() = nullptr;
-  // The guest's unrotated touch surface. Also asked on the thread of a zoom run.
+  // The guest's unrotated touch surface. Also called on the thread of a zoom run.
   QRect (*GetTouchRect)() = nullptr;
-  // A keymap item matched: true for keyboard and mouse, false for a joystick. Told before the item does anything. May
-  // be null.
+  // A keymap item matched: true for keyboard and mouse, false for a gamepad. Called before the item acts. May be null.
   void (*OnMappedDeviceUsed)(bool keyboard_or_mouse) = nullptr;
-  // A recorded operation starts to play; `total_sleep_ms` is the sum of its pauses. May be null.
+  // A recorded operation starts; `total_sleep_ms` is the sum of its pauses. May be null.
   void (*OnOperationRecorderStarted)(const QString& name, int total_sleep_ms) = nullptr;
   // The tilt of the guest's gravity sensor. May be null.
   void (*SetGravity)(double x, double y, double z) = nullptr;
-  // Whether commands to this display are mirrored and recorded. Also asked on the thread of a replay that ends. May be
-  // null, which means no.
+  // Whether lines to this display are mirrored and recorded. Also called on a replay's thread at the end of its record.
+  // May be null, which means false.
   bool (*IsPrimaryDisplay)(int display) = nullptr;
-  // A macro asks for the mouse to be locked or freed, in a keymap without Staring item. May be null.
+  // A macro asks to lock or free the mouse in a keymap without a Staring item. May be null.
   void (*OnMouseLockSwitch)(const QString& key_text) = nullptr;
-  // The keymap that was loaded has virtual sticks, or has none. May be null; the library's own virtual gamepad is then
-  // not switched either.
+  // Tells whether the loaded keymap has virtual sticks. May be null, in which case the library does not switch its own
+  // virtual gamepad either.
   void (*OnVirtualJoystickChanged)(bool enabled) = nullptr;
   // A macro asks for a screenshot; `instruction` is its command. May be null.
   void (*OnScreenshotRequest)(const QString& instruction) = nullptr;
 };
 
-// Told by the recorder. A table without a member filled is the host's fault: members are not tested.
+// Callbacks of the recorder. Members are not checked for null.
 struct InputRecorderCallbacks {
-  void (*started)() = nullptr;  // from within StartRecord
-  void (*paused)() = nullptr;   // from within PauseRecord
-  void (*resumed)() = nullptr;  // from within ResumeRecord
-  // From within StopRecord. `result` is 0 when the file was saved, 1 when there was nothing worth saving, 2 when it
-  // could not be opened.
+  void (*started)() = nullptr;  // during StartRecord
+  void (*paused)() = nullptr;   // during PauseRecord
+  void (*resumed)() = nullptr;  // during ResumeRecord
+  // During StopRecord. `result` is 0 if the file was saved, 1 if there was nothing to save, 2 if the file could not be
+  // opened.
   void (*stopped)(const QString& filename, int result) = nullptr;
 };
 
-// Told by replays. Members are not tested. All but `vcontrol` are called on the thread of the replay they speak of.
-// There a host may start, pause, resume, restart and stop replays and change their display, but call nothing else that
-// belongs to the main thread (taviinputmanager.h, section Replay).
+// Callbacks of replays. Members are not checked for null. All except `vcontrol` run on the thread of their replay.
+// There a host may start, pause, resume, restart and stop replays and change their display, but may call nothing else
+// that belongs to the main thread (taviinputmanager.h, section Replay).
 struct InputReplayerCallbacks {
-  // The first action has its time; again after a restart. The two arguments are those of StartReplay, here and below.
+  // The first action is scheduled; called again after a restart. The arguments are those of StartReplay, here and
+  // below.
   void (*started)(int task_id, const QString& filename) = nullptr;
-  // Answers PauseReplay.
+  // PauseReplay took effect.
   void (*paused)(int task_id, const QString& filename) = nullptr;
-  // Answers ResumeReplay.
+  // ResumeReplay took effect.
   void (*resumed)(int task_id, const QString& filename) = nullptr;
-  // Answers StopReplay and StopAllReplay. The replay is gone.
+  // StopReplay or StopAllReplay took effect. The replay is gone.
   void (*stopped)(int task_id, const QString& filename) = nullptr;
-  // The record ran out; `param` holds the speed and mode that it was played with. A RestartReplay from here makes a
-  // loop.
+  // The replay reached the end of its record. `param` holds the speed and mode it was played with. Call RestartReplay
+  // from here to loop.
   void (*finished)(int task_id, const QString& filename, ReplayParam param) = nullptr;
-  // A host command of the record fell due. Called on the host's main thread.
+  // A host command in the record is due. Called on the host's main thread.
   void (*vcontrol)(const QString& data, const QString& extra1, const QString& extra2, int task_id,
                    const QString& filename) = nullptr;
 };

@@ -1,50 +1,50 @@
 // The input layer of a desktop front end that shows an Android guest in a window.
 //
-// The host hands over the Qt events of its guest view; the library decides by a keymap what each becomes and hands back
-// lines of text for the guest through the host's send functions.
+// The host feeds the library the Qt events of its guest view. A keymap decides what each event becomes, and the library
+// sends the guest lines of text through the host's send functions.
 //
-// Call order: SetInputEventSendFunc and SetInputTextSendFunc (SetInputEventSyncFunc and SetInputTextSyncFunc where
-// input is mirrored), Initialize, InitializeRecordCallbacks and InitializeReplayCallbacks, OnLoadKeymapConfigAndInfo at
-// each change of the app in front; then events. The send functions are not tested: a line before they are set is a
-// fault.
+// Call order: SetInputEventSendFunc and SetInputTextSendFunc (and SetInputEventSyncFunc and SetInputTextSyncFunc to
+// mirror input), Initialize, InitializeRecordCallbacks and InitializeReplayCallbacks, then OnLoadKeymapConfigAndInfo
+// each time another app comes to the front, then events. The send functions are not checked for null: setting them
+// before the first line is the host's duty.
 //
-// Threads: functions that do not say "any thread" are called on the host's main thread, the one of QCoreApplication.
-// Lines leave on it too, with one exception told under hazards. A debug build asserts it, in all but the functions of
-// replays.
+// Threads: call a function on the host's main thread, the one of QCoreApplication, unless its comment says "any
+// thread". Lines are sent on the main thread too, with one exception listed under hazards. Debug builds assert the
+// thread in every function except those for replays.
 //
-// Calls from inside: a host may call the library from inside its own send and mirror functions and from inside the
-// members of its tables.
-// - On the main thread: everything but Initialize, OnLoadKeymapConfigAndInfo, OnLoadJoystickConfigAndInfo,
-//   OnResetInputStatus and UpdateDisplayId. Those take away what the caller inside the library still works with: post
-//   them (QMetaObject::invokeMethod with Qt::QueuedConnection). Do not run an event loop there either.
-// - On any other thread that a table names: the functions marked "any thread", and what the replay's table says.
-// What the inner call sends comes after the line that is being sent, for the guest as well as in mirrors and records.
-// An event of the same gesture overtakes the one under way: what is left of that one is dropped. No call limits how
-// deep this goes.
+// Re-entrancy: a host may call the library from its own send and mirror functions and from the callbacks in its tables.
+// - On the main thread it may call anything except Initialize, OnLoadKeymapConfigAndInfo, OnLoadJoystickConfigAndInfo,
+//   OnResetInputStatus and UpdateDisplayId. These free what the library is still using further up the stack. Post them
+//   instead (QMetaObject::invokeMethod with Qt::QueuedConnection). Do not run an event loop there either.
+// - On any other thread it may call the functions marked "any thread" and those that the replay table allows.
+// Lines sent by the inner call follow the line that is being sent, both to the guest and in mirrors and records. An
+// inner event for the same gesture overrides the outer one, and the rest of the outer one is dropped. There is no limit
+// on the depth.
 //
-// Ownership: tables, events and strings stay the caller's. Tables live as long as the library is used.
+// Ownership: tables, events and strings remain the caller's. Keep tables alive for as long as you use the library.
 //
-// Errors: nothing throws and nothing is reported, unless a function says so. What cannot be done is left out.
+// Errors: no function throws or reports an error unless its comment says so. What cannot be done is skipped.
 //
 // Hazards:
-// - Several gestures block the calling thread on purpose for a few milliseconds (a swipe of a cast, a wheel notch).
+// - Several gestures block the calling thread for a few milliseconds on purpose (the swipe of a cast, a wheel notch).
 // - GetScriptAppAndPackage does not return for a file whose first action has no `data`.
 // - A macro loop without a pause may never return.
-// - At the natural end of a replay the reset of its contacts runs on the replay's thread: those lines, also as they are
-//   mirrored, the status callback, IsPrimaryDisplay and `finished` arrive there, and may come before the lines of the
-//   last action. The main thread may do whatever it likes meanwhile, recording included.
-// - On the thread of a replay only some functions may be called; the section Replay names them.
-// - GetTouchRect and GetDisplayRotation of the table are also asked on the thread of a zoom run.
-// - UpdateRecordTimestamp lets the exception of its JSON parser through.
-// - A host that loads a keymap, resets or changes the display from inside a function of its own can crash; see above.
+// - When a replay reaches the end of its record, the reset of its contacts runs on the replay's thread. Its lines,
+//   including mirrored ones, the status callback, IsPrimaryDisplay and `finished` arrive on that thread, possibly
+//   before the lines of the last action. The main thread may do anything meanwhile, including recording.
+// - On a replay's thread a host may call only the functions listed in the section Replay.
+// - GetTouchRect and GetDisplayRotation are also called on the thread of a zoom run.
+// - UpdateRecordTimestamp lets exceptions of its JSON parser through.
+// - A host that loads a keymap, resets input or changes the display from inside one of its own functions may crash; see
+//   Re-entrancy.
 //
-// Leaving main with gestures, macros or replays under way is safe.
+// Leaving main while gestures, macros or replays are running is safe.
 //
-// Loading: once they are loaded the shared libraries stay in the process with their state, also after dlclose. The code
-// behind a host's tables and send functions has to stay too. Except on Windows, the load of Poco, on which this library
-// stands, blocks SIGPIPE on the loading thread, and threads started from there inherit that. It is not undone here: the
-// host, or another user of Poco in the process, may want it so. A host that counts on the signal unblocks it
-// (pthread_sigmask) at the start of main, or after dlopen.
+// Loading: once loaded, the shared libraries and their state stay in the process, even after dlclose. The code behind a
+// host's tables and send functions must stay loaded as well. Except on Windows, loading Poco, which this library uses,
+// blocks SIGPIPE on the loading thread and on threads started from it. The library does not undo this, because the host
+// or another user of Poco in the process may rely on it. A host that needs the signal unblocks it (pthread_sigmask) at
+// the start of main or after dlopen.
 #ifndef TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
 #define TAVIINPUTMANAGER_TAVIINPUTMANAGER_H_
 
@@ -64,171 +64,177 @@ namespace taviinputmanager {
 
 // ---- Input events --------------------------------------------------------------------------------------------------
 
-// A Qt event of the guest view: keys, mouse buttons and moves, wheel, touch, input method. Positions are relative to
-// the view. Native scan codes are those of Windows with the extended bit as 0x100; converting is the host's duty. Other
-// types are dropped, and all before Initialize. Not kept after the call.
+// Feeds a Qt event of the guest view: keys, mouse buttons and moves, wheel, touch, input method. Positions are relative
+// to the view. Native scan codes are Windows scan codes with the extended bit as 0x100; the host converts them. Events
+// of other types, and all events before Initialize, are dropped. The event is not kept after the call.
 TAVI_EXPORT void OnQtInputEvent(QEvent* event);
 
-// A gamepad event (joystick_event.h). Other types are dropped, and all before Initialize. Not kept after the call.
+// Feeds a gamepad event (joystick_event.h). Events of other types, and all events before Initialize, are dropped. The
+// event is not kept after the call.
 TAVI_EXPORT void OnJoystickEvent(QEvent* event);
 
-// Relative mouse counts, taken from the window system while the pointer is captured. Nothing before Initialize.
+// Feeds relative mouse counts, which the host reads from the window system while the pointer is captured. Ignored
+// before Initialize.
 TAVI_EXPORT void OnWindowsWmRelativeInputEvent(int dx, int dy);
 
-// A ready guest line, newline included, for `display`; sent, mirrored and recorded unchanged.
+// Sends a complete event line, newline included, to `display`. It is mirrored and recorded unchanged.
 TAVI_EXPORT void OnInputRawEventData(const QString& command, int display);
 
-// A ready text line, newline included.
+// Sends a complete text line, newline included.
 TAVI_EXPORT void OnInputRawTextData(const QString& command);
 
-// Clicks the guest's back key on `display`: the press goes out at once, the release 8 ms later.
+// Clicks the guest's back key on `display`: sends the press now and the release 8 ms later.
 TAVI_EXPORT void doBackAction(int display);
 
 // ---- Configuration and state ---------------------------------------------------------------------------------------
 
-// Stores the host's table (null: the library works with a display of 1280 x 720 and calls nobody) and loads an empty
-// keymap and an empty joystick keymap. Both ints are ignored. Not from inside a callback.
+// Stores the host's table and loads an empty keymap and an empty joystick keymap. With a null table the library assumes
+// a display of 1280 x 720 pixels and calls no callbacks. Both ints are ignored. Do not call it from inside a callback.
 TAVI_EXPORT void Initialize(InputManagerCallbacks* callbacks, int, int);
 
-// Takes the keymap at `path` in place of the one before, resets all input on the display held so far, and makes
-// `display` the one that input goes to. With an empty path and a `package` of the system's own, the system keymap is
-// loaded. `extra` is kept and not read. Not from inside a callback.
+// Replaces the keymap with the one at `path`, resets all input on the previous display, and directs input to `display`.
+// An empty path and the `package` of one of the system's own apps load the system keymap. `extra` is stored and not
+// read. Do not call it from inside a callback.
 TAVI_EXPORT void OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra,
                                            int display);
 
-// Takes the joystick keymap at `path` in place of the one before. Resets nothing. The int is ignored. Not from inside a
+// Replaces the joystick keymap with the one at `path`. Resets nothing. The int is ignored. Do not call it from inside a
 // callback.
 TAVI_EXPORT void OnLoadJoystickConfigAndInfo(const QString& path, int);
 
-// Lets go of the keys and gestures on `display` (0: the current one): keys, and slots 0 to 10. `full` also lifts the
-// fingers of taps, slots 11 to 17, and ends macros with a loop until release, and rapid taps that go on while their key
-// is held. Other macros and rapid taps of a set number run on, and slots 18 to 25 are not swept; a keymap load and
-// UpdateDisplayId end and lift those too. Buttons and sticks of gamepads stay as they are, here and wherever else input
-// is reset: they are let go by events of their own. Nothing before Initialize. Not from
-// inside a callback.
+// Releases the keys and gestures on `display` (0: the current one), that is keys and contacts in slots 0 to 10. `full`
+// also lifts the contacts of taps, slots 11 to 17, and ends macros that loop until release and rapid taps that last
+// while their key is held. Other macros and rapid taps with a fixed count continue, and slots 18 to 25 are not lifted;
+// a keymap load and UpdateDisplayId end and lift these as well. No reset, here or elsewhere, releases the buttons and
+// sticks of a gamepad: only their own events do. Ignored before Initialize. Do not call it from inside a callback.
 TAVI_EXPORT void OnResetInputStatus(bool full, int display);
 
-// What the mouse does at present, as OnInputStatusChanged told last. Normal before the first keymap load. Any thread.
+// What the mouse currently does, as last reported by OnInputStatusChanged. Normal before the first keymap load. Any
+// thread.
 TAVI_EXPORT InputStatus GetInputStatus();
 
-// Ends and lifts everything on the current display; from then on input goes to `display`. The keymap stays. Not from
-// inside a callback.
+// Ends and lifts everything on the current display and directs input to `display`. The keymap stays loaded. Do not call
+// it from inside a callback.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
-// While on, keys and wheel of `display` pass through whatever the keymap says, and so do moves and mouse buttons that
-// the keymap does not map, but for the left one. A host resets input when it changes this.
+// While on, keys and the wheel on `display` pass through regardless of the keymap, as do moves and all mouse buttons
+// that the keymap does not map, except the left one. Reset input when you change this.
 TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 
-// Puts the guest's pointer at a position of the guest view in window pixels, in keymaps whose mouse is transparent:
-// where relative counts move it on from. Nothing before Initialize.
+// Moves the guest's pointer to a position in the guest view, in window pixels. Relative counts move it on from there.
+// Affects keymaps with a transparent mouse only. Ignored before Initialize.
 TAVI_EXPORT void UpdateMousePosition(int x, int y);
 
-// Scales a position of the guest view to the guest's touch surface, both in place. It is not turned as the places in
-// lines are, and one factor serves both: the width of the view to that of the surface as the window shows it.
+// Scales a position in the guest view to the guest's touch surface, in place. Unlike positions in lines it is not
+// rotated. Both coordinates are scaled by the same factor: the view's width to that of the surface as the window shows
+// it.
 TAVI_EXPORT void ConvertWindowPositionToAndroid(int& x, int& y);
 
-// Factors on the view sensitivity of each axis: 1 leaves it, 0 takes it to 1 per cent, 2 to 200 per cent. Kept across
-// keymap loads.
+// Scales the sensitivity of view control for each axis: 1 leaves it unchanged, 0 reduces it to 1 %, 2 raises it to
+// 200 %. Keymap loads keep the factors.
 TAVI_EXPORT void SetHandyStaringSensitivity(double x, double y);
 
-// Whether a macro asked for input to stay pressed when the window loses the focus.
+// Whether a macro has asked to keep input pressed when the window loses the focus.
 TAVI_EXPORT bool isInputHoldWhenWindowDeactivate();
 
 // ---- Command functions and mirroring -------------------------------------------------------------------------------
 
-// Each takes a pointer to a function of the type of the same name (types.h), which is not checked, and calls it from
-// the next line on.
+// Each function takes a pointer to a function of the type with the matching name (types.h) and uses it from the next
+// line on. The type is not checked.
 
-// The function that gets the event lines, an InputEventSendFunc. Null logs an error and leaves it as it was.
+// Sets the function that sends event lines, an InputEventSendFunc. Null logs an error and changes nothing.
 TAVI_EXPORT void SetInputEventSendFunc(void* func);
-// The function that gets the text lines, an InputTextSendFunc. Null logs an error and leaves it as it was.
+// Sets the function that sends text lines, an InputTextSendFunc. Null logs an error and changes nothing.
 TAVI_EXPORT void SetInputTextSendFunc(void* func);
-// The function that gets event lines to mirror, an InputEventSyncFunc. Null leaves it as it was.
+// Sets the function that mirrors event lines, an InputEventSyncFunc. Null changes nothing.
 TAVI_EXPORT void SetInputEventSyncFunc(void* func);
-// The function that gets text lines to mirror, an InputTextSyncFunc. Null leaves it as it was.
+// Sets the function that mirrors text lines, an InputTextSyncFunc. Null changes nothing.
 TAVI_EXPORT void SetInputTextSyncFunc(void* func);
 
-// Adds `target` to the names that the mirror functions get, once. The other two are ignored.
+// Adds `target` to the names passed to the mirror functions, unless it is there already. The other two arguments are
+// ignored.
 TAVI_EXPORT void StartSync(const QString& target, const QString&, const QString&);
 
-// Removes `target` from those names. Nothing for a name that is not there.
+// Removes `target` from those names. Unknown names are ignored.
 TAVI_EXPORT void StopSync(const QString& target);
-// The same operation as StopSync: StartSync adds the target again.
+// The same as StopSync. StartSync adds the target again.
 TAVI_EXPORT void PauseSync(const QString& target);
 
 // ---- Recording -----------------------------------------------------------------------------------------------------
 //
-// What is recorded are the lines to primary displays and the text lines, as actions that know no display; not the
-// input. Nothing is refused in any state: a pause while stopped is reported all the same.
+// The recorder stores lines sent to primary displays, and text lines, as actions without a display. It does not store
+// the host's events. No call is refused in any state: pausing a stopped recorder is reported like any other pause.
 
-// The table is the host's; null is allowed.
+// Sets the recorder's callbacks. The table remains the host's; null is allowed.
 TAVI_EXPORT void InitializeRecordCallbacks(InputRecorderCallbacks* callbacks);
-// Whether a recording runs, rests or neither. Any thread.
+// Whether the recorder is recording, paused or stopped. Any thread.
 TAVI_EXPORT RecordStatus GetRecordStatus();
-// Starts a recording; both names are put in front of it, for GetScriptAppAndPackage.
+// Starts a recording. Its first action holds both names, for GetScriptAppAndPackage.
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
-// Ends the recording and saves it to `filename`, UTF-8 JSON. The result comes through the callback `stopped`: a
-// recording of nothing but released fingers is worth no file. A file that is there is replaced as a whole or not at
-// all: while it is written over, a complete copy of what it will be lies beside it, `filename` with ".tavi-copy-" and
-// six letters behind it. The copy goes when the file is on the disk. Where the program or the machine dies before, it
-// stays, and so does what it holds, until the next save of that file is through. Where no copy can be made, as in a
-// folder that is write-protected, there is none. UpdateRecordTimestamp and MergeRecord write in the same way.
+// Stops recording and saves the record to `filename` as UTF-8 JSON. The callback `stopped` reports the result. A record
+// of nothing but lifted contacts is not saved. An existing file is replaced entirely or not at all: a complete copy of
+// the new content, named `filename` plus ".tavi-copy-" and six letters, lies beside it until the new content is on the
+// disk. If the program or the machine dies before that, the copy remains until the next complete save of that file.
+// Where no copy can be made, as in a write-protected folder, the file is overwritten without one. UpdateRecordTimestamp
+// and MergeRecord write in the same way.
 TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
-// What happens from here to ResumeRecord is not recorded, and its time is cut out.
+// Pauses the recording. What happens until ResumeRecord is not recorded, and its time is cut out.
 TAVI_EXPORT void PauseRecord();
-// Goes on with the recording.
+// Resumes the recording.
 TAVI_EXPORT void ResumeRecord();
-// Adds a command of the host's own to the recording; a replay hands it to the callback `vcontrol`. Nothing for empty
-// `data`. `extra1` "1" makes a recording worth its file.
+// Adds a host command to the recording. A replay passes it to the callback `vcontrol`. Ignored if `data` is empty. With
+// "1" as `extra1` the record is saved even if it holds nothing else.
 TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
-// Sets the time of creation in a record file to now; all else in it stays, also keys that are not the library's. Any
-// thread. Throws what the JSON parser (Poco) throws.
+// Sets the creation time in a record file to now. Everything else in it stays, including unknown keys. Any thread.
+// Throws what the JSON parser (Poco) throws.
 TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
-// Captures host events as lines of the macro language under a name. Meanwhile no event line is recorded.
+// Starts to capture host events as lines of the macro language under `name`. Event lines are not recorded meanwhile.
 TAVI_EXPORT void StartRecordMacroInstruction(QString name);
-// Ends that capture; what it gave can be asked for.
+// Ends the capture and makes its lines available.
 TAVI_EXPORT void StopRecordMacroInstruction(QString name);
-// The macro that was captured last, "sleep:<ms>" and instruction by turns; empty under any other name and during a
-// capture.
+// The lines of the last capture, "sleep:<ms>" and instructions in turn. Empty for any other name and while a capture is
+// running.
 TAVI_EXPORT QList<QString> getRecordMacroInstruction(QString name);
-// Reads the header of a record file. False when it cannot be read; `info` is untouched then. Any thread.
+// Reads the header of a record file into `info`. If the file cannot be read, returns false and leaves `info` unchanged.
+// Any thread.
 TAVI_EXPORT bool GetRecordInfo(const QString& file, RecordInfo* info);
-// Reads the names that StartRecord was given. What is not there leaves its output as it is. Any thread.
+// Reads the names that were passed to StartRecord. A missing name leaves its argument unchanged. Any thread.
 TAVI_EXPORT void GetScriptAppAndPackage(const QString& file, QString& app, QString& package);
-// Writes the record files named in `params`, in order, as one merged record to `file`, a playlist. False, and `file`
-// untouched, when one of them cannot be read or `file` not be written. `file` may be one of the sources. Any thread.
+// Writes the records named in `params`, in order, to `file` as one merged record, a playlist. Returns false and leaves
+// `file` unchanged if a record cannot be read or `file` cannot be written. `file` may be one of the sources. Any
+// thread.
 TAVI_EXPORT bool MergeRecord(const QString& file, const QVector<MergeParam>& params);
 
 // ---- Replay --------------------------------------------------------------------------------------------------------
 //
-// A replay is known by its task id and file. Requests reach it through its thread, so they take effect later, in their
-// order; those that name no replay do nothing. Fingers of a replay are those of macros, slots 18 to 25.
+// A replay is identified by its task id and file. Requests pass through its thread, so they take effect later, in
+// order; requests that match no replay are ignored. Replays share the contacts of macros, slots 18 to 25.
 //
-// On the thread of a replay, which is where its callbacks but `vcontrol` come, and what its natural end tells, a host
-// may call StartReplay, PauseReplay, ResumeReplay, RestartReplay, StopReplay, StopAllReplay and UpdateReplayDisplayId,
-// and the functions that say "any thread"; no other. These seven are then done on the main thread as soon as its event
-// loop comes to them: behind the actions that fell due before, and in the order of the calls. Called on the main thread
-// they act at once.
+// A replay's callbacks except `vcontrol`, and the reset at the end of its record, run on the replay's thread. There a
+// host may call StartReplay, PauseReplay, ResumeReplay, RestartReplay, StopReplay, StopAllReplay, UpdateReplayDisplayId
+// and the functions marked "any thread", and no others. From that thread these seven are posted to the main thread:
+// they run in the order of the calls, after the actions that were due before. On the main thread they act immediately.
 
-// The table is the host's; null is allowed. A replay keeps the table of its start, but for `vcontrol`.
+// Sets the replay callbacks. The table remains the host's; null is allowed. A replay uses the table that was set when
+// it started, except for `vcontrol`.
 TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
-// Plays `filename` on a thread of its own, known by `task_id` and `filename` from then on. The first int and the first
-// string are ignored. A file that cannot be read starts nothing, and `started` is not called. The file is held against
-// writers, as far as the platform goes, until the replay is stopped. Its first callbacks may come before this returns.
+// Replays `filename` on a thread of its own, identified by `task_id` and `filename`. The first int and the first string
+// are ignored. A file that cannot be read starts nothing, and `started` is not called. Where the platform supports it,
+// the file is locked against writers until the replay is stopped. The first callbacks may come before this returns.
 TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& filename, ReplayParam param);
-// Keeps the rest of the running delay, and resets all input of the live display in full.
+// Pauses a replay, keeps the rest of the current delay, and fully resets all input on the live display.
 TAVI_EXPORT void PauseReplay(int task_id, const QString& file);
-// Presses again what replays held down, and goes on.
+// Presses what replays held down again, and resumes the replay.
 TAVI_EXPORT void ResumeReplay(int task_id, const QString& file);
-// Plays from the start again, at the speed that the replay was started with; `param` is ignored. From `finished` it
-// makes a loop.
+// Restarts the replay from its first action, at the speed it was started with; `param` is ignored. Call it from
+// `finished` to loop.
 TAVI_EXPORT void RestartReplay(int task_id, const QString& file, ReplayParam param);
-// Ends a replay, also one that has finished, which otherwise stays for a restart. `stop_by_user`: what replays hold
-// down is released.
+// Ends a replay. One that has finished stays available for a restart until it is stopped. With `stop_by_user`
+// everything that replays hold down is released.
 TAVI_EXPORT void StopReplay(int task_id, const QString& file, bool stop_by_user);
-// Ends all replays, and releases nothing.
+// Ends all replays and releases nothing.
 TAVI_EXPORT void StopAllReplay();
-// The display that all replays send to; 0 at start.
+// Sets the display that all replays send to; 0 initially.
 TAVI_EXPORT void UpdateReplayDisplayId(int display);
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// The plain types that host and library exchange.
+// Plain types shared by the host and the library.
 #ifndef TAVIINPUTMANAGER_TYPES_H_
 #define TAVIINPUTMANAGER_TYPES_H_
 
@@ -8,54 +8,55 @@
 
 // The header of a record file, as GetRecordInfo reads it.
 struct RecordInfo {
-  QString package_name;            // the package that was handed to StopRecord
-  QSize resolution{0, 0};          // guest display in pixels at the time of saving; 0 x 0 when the file names none
+  QString package_name;            // the package passed to StopRecord
+  QSize resolution{0, 0};          // guest display in pixels when the record was saved; 0 x 0 if the file has none
   qint64 create_time = 0;          // milliseconds since the Unix epoch
   quint64 total_running_time = 0;  // milliseconds at normal speed
 };
 
-// How one part of a merged record is played.
+// One part of a merged record, and how it is played.
 struct MergeParam {
-  QString file_name;             // the record file that this part is read from
-  int repeat_times = 1;          // how often the part is played; 0, 1 and negative values all play it once
-  int repeat_delay = 0;          // pause between two repeats in milliseconds at normal speed; below 1 there is none
+  QString file_name;             // the record file of this part
+  int repeat_times = 1;          // how many times the part is played; values below 1 mean once
+  int repeat_delay = 0;          // pause between repeats in milliseconds at normal speed; values below 1 mean none
   double speed_ratio = 1.0;      // above 1 is faster
   int till_next_item_delay = 0;  // pause before the next part in milliseconds, at this part's speed
 };
 
 namespace taviinputmanager {
 
-// What the mouse does at present. See OnInputStatusChanged.
+// What the mouse currently does. See OnInputStatusChanged.
 enum class InputStatus : int {
   Normal = 0,      // the keymap has no Staring item
   Staring = 1,     // relative mouse counts steer the view
-  StaringOff = 2,  // the keymap has a Staring item and it is off: the cursor is free
-  Observing = 3,   // an Observe key is held while staring was off
+  StaringOff = 2,  // the keymap has a Staring item, which is off: the cursor is free
+  Observing = 3,   // an Observe key is held while Staring is off
 };
 
-// What the recorder does at present.
+// What the recorder currently does.
 enum class RecordStatus : int {
   Stopped = 0,    // nothing is recorded
-  Recording = 1,  // lines to primary displays and texts are recorded
-  Paused = 2,     // a recording rests
+  Recording = 1,  // lines to primary displays and text lines are recorded
+  Paused = 2,     // a recording is paused
 };
 
 // How a replay is played.
 struct ReplayParam {
   double speed_ratio = 1.0;     // 1 is normal speed, above 1 is faster
-  bool emulation_mode = false;  // positions are disturbed a little, as a hand would
+  bool emulation_mode = false;  // positions vary a little, as a hand's would
 };
 
-// The host's function for event lines. `data` holds `length` bytes of UTF-8, the newline at the end among them, and a
-// NUL behind them; it is the library's and valid during the call only. Main thread, but at the natural end of a replay.
+// Sends event lines. `data` holds `length` bytes of UTF-8 including the final newline, followed by a NUL that `length`
+// does not count. It is the library's and valid during the call only. Called on the main thread, except when a replay
+// reaches the end of its record.
 using InputEventSendFunc = void (*)(const char* data, int length);
-// The host's function for text lines. The same, with a NUL in place of the newline, which `length` counts.
+// Sends text lines. The same, except that a NUL, which `length` counts, replaces the newline.
 using InputTextSendFunc = void (*)(const char* data, int length);
 
-// The host's function for event lines to mirror. `command` is the bare line with its newline and without display
-// prefix, `targets` are the names given to StartSync, in that order. Threads as above.
+// Mirrors event lines. `command` is the line with its newline and without the display prefix; `targets` are the names
+// passed to StartSync, in that order. Threads as above.
 using InputEventSyncFunc = void (*)(const QString& command, const QVector<QString>& targets);
-// The host's function for text lines to mirror; the same.
+// Mirrors text lines; the same.
 using InputTextSyncFunc = void (*)(const QString& command, const QVector<QString>& targets);
 
 }  // namespace taviinputmanager
