@@ -23,10 +23,13 @@ FLOORS = [
 # Beside the house: what these may include of the tree, apart from themselves. A path ending in .h is that file alone.
 OUTSIDE = {
     "keymapmanager": ["keymap"],
-    "host": ["include", "keymap", "keymapmanager/item_types.h", "keymapmanager/key_names.h",
+    "guest": [],
+    "host": ["guest", "include", "keymap", "keymapmanager/item_types.h", "keymapmanager/key_names.h",
              "keymapmanager/keymap_file.h", "keymapmanager/keymap_outline.h",
              "keymapmanager/nearest_word.h"],
 }
+# What stands on the standard library, the C library and the kernel's headers alone.
+BARE = ["guest"]
 # Rooms whose headers are installed stand on nothing but Qt, the standard library and themselves.
 GROUND = ["include", "keymap"]
 # Other libraries, by the first word of their headers, and who may use them. Tests may use all.
@@ -92,6 +95,11 @@ def may_include(source, target):
     return any(target == entry or room_of(target) == entry for entry in allowed_rooms(room))
 
 
+def is_bare(name):
+    """A header of the standard library, the C library or the kernel."""
+    return bool(re.fullmatch(r"[a-z_]+(\.h)?|(linux|sys|netinet|arpa)/[a-z-]+\.h", name)) and not name.startswith("q")
+
+
 def circles(graph):
     """Each circle of include lines, found once, as a list of files."""
     done, found = set(), []
@@ -154,6 +162,11 @@ class IncludeLines(unittest.TestCase):
                  and not re.fullmatch(r"Q\w+|q\w+\.h|[a-z_]+", name)]
         self.assertEqual(wrong, [])
 
+    def test_bare_rooms_know_no_qt(self):
+        wrong = [f"{source} includes <{name}>" for source, delimiter, name, target in LINES
+                 if room_of(source) in BARE and not target and not is_bare(name)]
+        self.assertEqual(wrong, [])
+
     def test_other_libraries_stay_in_their_rooms(self):
         wrong = [f"{source} includes <{name}>" for source, _, name, _ in LINES
                  for word, rooms in LIBRARIES.items()
@@ -176,9 +189,19 @@ class TheTestItself(unittest.TestCase):
             ("host/window/x.cpp", "keymapmanager/key_names.h", True, "a public header of the keymap library"),
             ("host/window/x.cpp", "keymapmanager/yaml_node.h", False, "an inner header of the keymap library"),
             ("host/main.cpp", "core/clock.h", False, "a host is a user like any other"),
+            ("host/x.cpp", "guest/uinput_guest.h", True, "a program may hold a guest"),
+            ("guest/x.cpp", "keymap/scan_codes.h", False, "the guest knows nothing of the library"),
+            ("guest/x.cpp", "host/guest_line.h", False, "nor of the program"),
+            ("record/x.cpp", "guest/guest_line.h", False, "nor does the library know the guest"),
         ]
         for source, target, expected, why in rows:
             self.assertEqual(may_include(source, target), expected, f"{source} -> {target}: {why}")
+
+    def test_bare_names(self):
+        for name in ("string", "unistd.h", "linux/input-event-codes.h", "sys/socket.h"):
+            self.assertTrue(is_bare(name), name)
+        for name in ("QString", "QtGlobal", "qglobal.h", "libevdev/libevdev.h", "SDL.h", "yaml-cpp/yaml.h"):
+            self.assertFalse(is_bare(name), name)
 
     def test_circles(self):
         self.assertEqual(circles({"a": ["b"], "b": ["c"], "c": ["a"]}), [["a", "b", "c", "a"]])
