@@ -17,7 +17,7 @@ FLOORS = [
     ["core"],
     ["slots"],
     ["simulators", "simulators/workers"],
-    ["handlers", "record"],
+    ["handlers", "record", "record/json"],
     ["core/entry"],
 ]
 # Beside the house: what these may include of the tree, apart from themselves. A path ending in .h is that file alone.
@@ -31,7 +31,7 @@ OUTSIDE = {
 GROUND = ["include", "keymap"]
 # Other libraries, by the first word of their headers, and who may use them. Tests may use all.
 LIBRARIES = {
-    "Poco/": ["core", "record"],
+    "Poco/": ["core", "record", "record/json"],
     "yaml.h": ["keymapmanager"],
     "SDL.h": ["host"],
     "libevdev/": ["host"],
