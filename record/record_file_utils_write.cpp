@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <numeric>
 #include <sstream>
 
 #include <QFile>
@@ -14,6 +16,7 @@
 #include "core/display_geometry.h"
 #include "core/numbers.h"
 #include "record/file_replacement.h"
+#include "record/json/record_writer.h"
 #include "record/record_action.h"
 #include "record/record_file_utils.h"
 #include "record/record_format.h"
@@ -31,9 +34,9 @@ constexpr std::size_t kDepth = 1024;  // levels that QJsonDocument reads; anythi
 enum SaveResult : int { kSaved = 0, kNothingWorthSaving = 1, kOpenFailed = 2 };
 
 // A recording that holds nothing but its start and fingers that go up is not worth a file.
-bool IsWorthSaving(const RecordAction& action) {
-  if (action.type == kTypeVControl) return action.extra1 == QLatin1String("1");
-  if (action.type == kTypeTouch) return !action.data.contains(kRelease) && !action.data.contains(kReset);
+bool IsWorthSaving(const RecordAction* action) {
+  if (action->type == kTypeVControl) return action->extra1 == QLatin1String("1");
+  if (action->type == kTypeTouch) return !action->data.contains(kRelease) && !action->data.contains(kReset);
   return true;
 }
 
@@ -75,25 +78,17 @@ QJsonObject RecordFileUtils::WriteAction(const RecordAction& action) {
 }
 
 int RecordFileUtils::SaveRecord(const QString& package_name, const QString& file, const QList<RecordAction*>& actions) {
-  if (actions.isEmpty()) return kNothingWorthSaving;
-  qint64 total = 0;
-  bool is_worth_saving = false;
-  QJsonArray array;
-  for (const RecordAction* action : actions) {
-    total += action->timing;
-    array.append(WriteAction(*action));
-    is_worth_saving = is_worth_saving || IsWorthSaving(*action);
-  }
-  if (!is_worth_saving) return kNothingWorthSaving;
-
+  if (!std::any_of(actions.begin(), actions.end(), IsWorthSaving)) return kNothingWorthSaving;
+  const qint64 total = std::accumulate(actions.begin(), actions.end(), qint64{0},
+                                       [](qint64 sum, const RecordAction* action) { return sum + action->timing; });
   RecordInfo info;
   info.package_name = package_name;
   info.resolution = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   info.create_time = Clock::NowMs();
   QJsonObject header = WriteRecordInfo(info);
   header.insert(kTotalRunningTime, total);  // signed: below 0 when the clock was set back meanwhile
-  const QJsonDocument document(QJsonObject{{kInfo, header}, {kActions, array}});
-  return ReplaceFile(file, document.toJson()) ? kSaved : kOpenFailed;
+  const auto content = [&](QIODevice* target) { return WriteRecord(header, actions, target); };
+  return ReplaceFile(file, content) ? kSaved : kOpenFailed;
 }
 
 void RecordFileUtils::UpdateRecordTimestamp(const QString& path) {

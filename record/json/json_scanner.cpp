@@ -1,29 +1,20 @@
 #include "record/json/json_scanner.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QtAlgorithms>
+#include <QtEndian>
 
 #include "record/json/library_json.h"
+#include "record/json/plain_bytes.h"
 
 namespace taviinputmanager {
 namespace {
 
 constexpr std::size_t kMostPlainDigits = 15;  // of which a double keeps each
 
-using ByteTable = std::array<bool, 256>;
-
-constexpr ByteTable MakePlainBytes() {
-  ByteTable table{};
-  for (int byte = ' '; byte < 0x7f; ++byte) table[static_cast<std::size_t>(byte)] = byte != '"' && byte != '\\';
-  return table;
-}
-
-constexpr ByteTable kPlainBytes = MakePlainBytes();
-
-bool IsPlain(char byte) { return kPlainBytes[static_cast<unsigned char>(byte)]; }
 bool IsBlank(char byte) { return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t'; }
 bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 bool IsOfNumber(char byte) {
@@ -50,6 +41,18 @@ bool MovePast(JsonWindow* window, Of is_of) {
   return false;
 }
 
+// The columns of the levels are most of a file: they are passed eight at a time.
+const char* PastSpaces(const char* place, const char* end) {
+  constexpr quint64 kSpaces = 0x2020202020202020;
+  constexpr uint kWord = sizeof kSpaces;
+  uint spaces = kWord;
+  while (spaces == kWord && end - place >= static_cast<std::ptrdiff_t>(kWord)) {
+    spaces = qCountTrailingZeroBits(qFromLittleEndian<quint64>(place) ^ kSpaces) / 8;  // of no difference, all bits
+    place += spaces;
+  }
+  return place;
+}
+
 // A byte that is not plain, and what it escapes. Of any escape the byte behind the mark is enough to find the end.
 bool MovePastOdd(JsonWindow* window) {
   const std::size_t size = *window->Begin() == '\\' ? 2 : 1;
@@ -68,17 +71,16 @@ bool JsonScanner::Take(std::string_view exactly) {
 }
 
 bool JsonScanner::TakeText(JsonToken* text) {
-  if (!Take("\"")) return false;
-  {
-    const JsonWindow::Hold hold(&window_);
-    text->is_plain = true;
-    for (; MovePast(&window_, IsPlain) && Next() != '"'; text->is_plain = false) {
-      if (!MovePastOdd(&window_)) return false;
-    }
+  if (!TakeByte('"')) return false;
+  const JsonWindow::Hold hold(&window_);
+  text->is_plain = true;
+  while (MovePast(&window_, IsPlainByte)) {
     text->bytes = hold.Passed();
+    if (TakeByte('"')) return true;
+    text->is_plain = false;
+    if (!MovePastOdd(&window_)) return false;
   }
-  // Where the text has ended, its mark is in the window already, and the bytes stay as they are.
-  return Take("\"");
+  return false;
 }
 
 bool JsonScanner::TakeNumber(JsonToken* number) {
@@ -99,22 +101,24 @@ bool JsonScanner::TakeLiteral() {
   }
 }
 
-char JsonScanner::NextMark() {
-  MovePast(&window_, IsBlank);
-  return Next();
+char JsonScanner::NextMarkPastBlanks() {
+  do {
+    const char* place = window_.Begin();
+    const char* const end = window_.End();
+    while (place != end && IsBlank(*place)) place = PastSpaces(place + 1, end);
+    window_.MoveTo(place);
+    if (place != end) return *place;
+  } while (window_.Fill());
+  return '\0';
 }
 
-bool JsonScanner::TakeMark(char mark) {
-  if (NextMark() != mark) return false;
-  window_.MoveTo(window_.Begin() + 1);
-  return true;
-}
+bool JsonScanner::TakeKey(JsonToken* key) { return NextMark() == '"' && TakeText(key) && key->is_plain; }
 
 bool JsonScanner::Skip() {
   JsonToken token;
   switch (NextMark()) {
-    case '{': return TakeObject([this](std::string_view /*key*/) { return Skip(); });
-    case '[': return TakeList([this] { return Skip(); });
+    case '{': return TakeItems('{', '}', [&] { return TakeKey(&token) && TakeMark(':') && Skip(); });
+    case '[': return TakeItems('[', ']', [this] { return Skip(); });
     case '"': return TakeText(&token) && (token.is_plain || library_json::ReadText(token.bytes).isString());
     case 't':
     case 'f':

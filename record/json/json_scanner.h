@@ -39,8 +39,8 @@ class JsonScanner {
   bool TakeLiteral();
 
   // ---- Past blanks ----
-  char NextMark();
-  bool TakeMark(char mark);
+  char NextMark() { return window_.Begin() != window_.End() && *window_.Begin() > ' ' ? Next() : NextMarkPastBlanks(); }
+  bool TakeMark(char mark) { return NextMark() == mark && TakeByte(mark); }
   // Calls `member` with each key, which it has to look at before it takes the value.
   template <typename Member>
   bool TakeObject(Member member);
@@ -55,6 +55,9 @@ class JsonScanner {
   bool IsAtEnd() { return NextMark() == '\0' && !window_.HasByte(); }
 
  private:
+  char NextMarkPastBlanks();
+  bool TakeByte(char byte);
+  bool TakeKey(JsonToken* key);
   template <typename Item>
   bool TakeItems(char open, char close, Item item);
 
@@ -63,11 +66,17 @@ class JsonScanner {
   std::string key_;  // the window may move on before it is looked at
 };
 
+inline bool JsonScanner::TakeByte(char byte) {
+  if (Next() != byte) return false;
+  window_.MoveTo(window_.Begin() + 1);
+  return true;
+}
+
 template <typename Member>
 bool JsonScanner::TakeObject(Member member) {
   return TakeItems('{', '}', [&] {
     JsonToken key;
-    if (NextMark() != '"' || !TakeText(&key) || !key.is_plain) return false;
+    if (!TakeKey(&key)) return false;
     key_.assign(key.bytes);
     return TakeMark(':') && member(std::string_view(key_));
   });

@@ -39,17 +39,4 @@ bool JsonWindow::HasBytes(std::size_t count) {
   return true;
 }
 
-JsonWindow::Hold::Hold(JsonWindow* window) : window_(window), start_(window->Offset()), is_outermost_(!window->held_) {
-  if (is_outermost_) window->held_ = window->next_;
-}
-
-JsonWindow::Hold::~Hold() {
-  if (is_outermost_) window_->held_ = nullptr;
-}
-
-std::string_view JsonWindow::Hold::Passed() const {
-  return {window_->bytes_.data() + (start_ - window_->front_offset_),
-          static_cast<std::size_t>(window_->Offset() - start_)};
-}
-
 }  // namespace taviinputmanager

@@ -15,7 +15,7 @@ namespace taviinputmanager {
 // becomes of the file behind it, what is in it stays. A device that fails is at its end.
 class JsonWindow {
  public:
-  static constexpr int kUsualBytes = 256 * 1024;
+  static constexpr int kUsualBytes = 128 * 1024;
 
   // `source` is open and outlives this. At least one byte.
   JsonWindow(QIODevice* source, int bytes);
@@ -39,12 +39,19 @@ class JsonWindow {
   // While one lives, what lies ahead stays in the window when it has been passed; the window grows for it, if need be.
   class Hold {
    public:
-    explicit Hold(JsonWindow* window);
+    explicit Hold(JsonWindow* window) : window_(window), start_(window->Offset()), is_outermost_(!window->held_) {
+      if (is_outermost_) window_->held_ = window_->next_;
+    }
     Hold(const Hold&) = delete;
     Hold& operator=(const Hold&) = delete;
-    ~Hold();
+    ~Hold() {
+      if (is_outermost_) window_->held_ = nullptr;
+    }
     // From the start of the hold to where the window stands. Until the next Fill() after the hold.
-    std::string_view Passed() const;
+    std::string_view Passed() const {
+      return {window_->bytes_.data() + (start_ - window_->front_offset_),
+              static_cast<std::size_t>(window_->Offset() - start_)};
+    }
 
    private:
     JsonWindow* const window_;

@@ -75,4 +75,10 @@ std::string DifferenceInReading(const QByteArray& bytes, int window_bytes, int* 
   return {};
 }
 
+QByteArray WrittenByLibrary(const QJsonObject& info, const QList<RecordAction*>& actions) {
+  QJsonArray list;
+  for (const RecordAction* action : actions) list.append(Utils()->WriteAction(*action));
+  return QJsonDocument(QJsonObject{{"info", info}, {"actions", list}}).toJson();
+}
+
 }  // namespace taviinputmanager
