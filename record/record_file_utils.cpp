@@ -11,6 +11,7 @@
 #include <QString>
 
 #include "core/numbers.h"
+#include "record/json/plain_file.h"
 #include "record/json/record_reader.h"
 #include "record/merge_record_actions.h"
 #include "record/record_action.h"
@@ -44,7 +45,7 @@ void TakeWide(const QJsonValue& value, Wide* field) {
 // The way of files as they are written; what is left is the library's.
 bool ReadOrdinary(const QString& path, RecordReader::Keep keep, RecordContents* contents) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.isSequential()) return false;
+  if (!OpenPlainFile(&file)) return false;
   return RecordReader(&file, keep).Read(contents);
 }
 

@@ -63,13 +63,6 @@ bool MovePastOdd(JsonWindow* window) {
 
 }  // namespace
 
-bool JsonScanner::Take(std::string_view exactly) {
-  if (!window_.HasBytes(exactly.size())) return false;
-  if (!std::equal(exactly.begin(), exactly.end(), window_.Begin())) return false;
-  window_.MoveTo(window_.Begin() + exactly.size());
-  return true;
-}
-
 bool JsonScanner::TakeText(JsonToken* text) {
   if (!TakeByte('"')) return false;
   const JsonWindow::Hold hold(&window_);

@@ -32,6 +32,7 @@ class JsonScanner {
   // ---- Byte by byte ----
   // Not taken; 0 at the end.
   char Next() { return window_.HasByte() ? *window_.Begin() : '\0'; }
+  bool TakeByte(char byte);
   bool Take(std::string_view exactly);
   bool TakeText(JsonToken* text);
   bool TakeNumber(JsonToken* number);
@@ -56,7 +57,6 @@ class JsonScanner {
 
  private:
   char NextMarkPastBlanks();
-  bool TakeByte(char byte);
   bool TakeKey(JsonToken* key);
   template <typename Item>
   bool TakeItems(char open, char close, Item item);
@@ -69,6 +69,13 @@ class JsonScanner {
 inline bool JsonScanner::TakeByte(char byte) {
   if (Next() != byte) return false;
   window_.MoveTo(window_.Begin() + 1);
+  return true;
+}
+
+inline bool JsonScanner::Take(std::string_view exactly) {
+  if (!window_.HasBytes(exactly.size())) return false;
+  if (std::string_view(window_.Begin(), exactly.size()) != exactly) return false;
+  window_.MoveTo(window_.Begin() + exactly.size());
   return true;
 }
 

@@ -32,11 +32,4 @@ bool JsonWindow::Fill() {
   return read > 0;
 }
 
-bool JsonWindow::HasBytes(std::size_t count) {
-  while (static_cast<std::size_t>(end_ - next_) < count) {
-    if (!Fill()) return false;
-  }
-  return true;
-}
-
 }  // namespace taviinputmanager

@@ -32,7 +32,12 @@ class JsonWindow {
   // Whether there is another byte at Begin().
   bool HasByte() { return next_ != end_ || Fill(); }
   // Whether as many bytes are in the window.
-  bool HasBytes(std::size_t count);
+  bool HasBytes(std::size_t count) {
+    while (static_cast<std::size_t>(end_ - next_) < count) {
+      if (!Fill()) return false;
+    }
+    return true;
+  }
   // Of Begin(), from where the window began.
   qint64 Offset() const { return front_offset_ + (next_ - bytes_.data()); }
 

@@ -25,4 +25,9 @@ QByteArray Write(const QJsonValue& value) {
   return list.mid(1, list.size() - 2);
 }
 
+bool IsWrittenSo(std::string_view value) {
+  const QJsonValue read = Read(value);
+  return !read.isUndefined() && Write(read) == BytesOf(value);
+}
+
 }  // namespace taviinputmanager::library_json

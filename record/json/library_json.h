@@ -15,6 +15,8 @@ QJsonValue Read(std::string_view value);
 QJsonValue ReadText(std::string_view text);
 // In one line.
 QByteArray Write(const QJsonValue& value);
+// Whether that is what is written of it when it has been read.
+bool IsWrittenSo(std::string_view value);
 
 }  // namespace taviinputmanager::library_json
 

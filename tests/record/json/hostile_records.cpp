@@ -82,6 +82,14 @@ QByteArray HostileRecords::Next() {
   return record;
 }
 
+QByteArray HostileRecords::NextWritten() {
+  const QByteArray record = Next();
+  QByteArray written = QJsonDocument::fromJson(record).toJson();
+  if (written.isEmpty()) return record;
+  if (Below(2) == 0) Spoil(&written);
+  return written;
+}
+
 QByteArray HostileRecords::PieceOf(const QByteArray& record) {
   const int start = Below(record.size());
   return record.mid(start, Below(40));

@@ -19,6 +19,8 @@ class HostileRecords {
   explicit HostileRecords(int seed) : random_(static_cast<unsigned>(seed)), good_(RecordsToSpoil()) {}
 
   QByteArray Next();
+  // The same, but what can still be read is in the layout of the library, once more spoilt or not.
+  QByteArray NextWritten();
   int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
 
  private:
