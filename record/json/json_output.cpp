@@ -25,15 +25,17 @@ void JsonOutput::AddText(const QString& text) {
 // Nothing is added of a text that is not plain to its end.
 bool JsonOutput::AddPlainText(const QString& text) {
   const std::size_t start = chunk_.size();
-  chunk_.push_back('"');
+  chunk_.resize(start + static_cast<std::size_t>(text.size()) + 2);
+  char* place = chunk_.data() + start;
+  *place++ = '"';
   for (const QChar letter : text) {
     if (!IsPlainLetter(letter.unicode())) {
       chunk_.resize(start);
       return false;
     }
-    chunk_.push_back(letter.toLatin1());
+    *place++ = letter.toLatin1();
   }
-  chunk_.push_back('"');
+  *place = '"';
   return true;
 }
 

@@ -65,6 +65,15 @@ bool MovePastOdd(JsonWindow* window) {
 
 bool JsonScanner::TakeText(JsonToken* text) {
   if (!TakeByte('"')) return false;
+  const char* const start = window_.Begin();
+  const char* const end = std::find_if_not(start, window_.End(), IsPlainByte);
+  if (end == window_.End() || *end != '"') return TakeRestOfText(text);
+  *text = {{start, static_cast<std::size_t>(end - start)}, true};
+  window_.MoveTo(end + 1);
+  return true;
+}
+
+bool JsonScanner::TakeRestOfText(JsonToken* text) {
   const JsonWindow::Hold hold(&window_);
   text->is_plain = true;
   while (MovePast(&window_, IsPlainByte)) {

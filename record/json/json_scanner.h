@@ -58,6 +58,8 @@ class JsonScanner {
  private:
   char NextMarkPastBlanks();
   bool TakeKey(JsonToken* key);
+  // Behind the first mark, of a text that is not plain or not in the window to its end.
+  bool TakeRestOfText(JsonToken* text);
   template <typename Item>
   bool TakeItems(char open, char close, Item item);
 

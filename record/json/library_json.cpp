@@ -25,9 +25,6 @@ QByteArray Write(const QJsonValue& value) {
   return list.mid(1, list.size() - 2);
 }
 
-bool IsWrittenSo(std::string_view value) {
-  const QJsonValue read = Read(value);
-  return !read.isUndefined() && Write(read) == BytesOf(value);
-}
+bool IsWrittenSo(std::string_view value) { return Write(Read(value)) == BytesOf(value); }
 
 }  // namespace taviinputmanager::library_json

@@ -115,6 +115,15 @@ TEST(FileLayout, IsThatOfAWholeDocument) {
   EXPECT_FALSE(IsLaidOut(InLayout("{'a':" + NestedLists(64) + "}"), FileLayout::Writer::kQt)) << "too deep";
 }
 
+// Found by level, not by name alone: another one is further down, and one is beside the header.
+TEST(FileLayout, TheTimeIsThatOfTheHeader) {
+  for (const char* json :
+       {"{'info':{'create_time':5,'other':{'create_time':6}}}", "{'info':{'a':{'create_time':6},'create_time':5}}",
+        "{'create_time':6,'info':{'create_time':5},'other':{'create_time':6}}"}) {
+    EXPECT_TRUE(IsLaidOut(InLayout(json), FileLayout::Writer::kPoco)) << json;
+  }
+}
+
 TEST(SpoiltRecords, AreCopiedOnlyWhereTheLibraryWritesTheSame) {
   HostileRecords records(FromEnvironment("TAVI_RECORD_SEED", 1));
   const int documents = FromEnvironment("TAVI_RECORD_DOCUMENTS", kUsualDocuments);

@@ -70,7 +70,7 @@ TEST(RecordReader, LeavesWhatIsOddToTheLibrary) {
       {"a timing twice", WithAction("{'timing':1,'timing':2}")},
       {"a field twice, first of another type", WithAction("{'data':1,'data':'y'}")},
       {"actions twice", Text("{'actions':[{'data':'x'}],'actions':[{'data':'y'}]}")},
-      {"merged actions twice", Text("{'merged_actions':[{'actions':[]}],'merged_actions':[{'actions':[1]}]}")},
+      {"merged actions twice", Text("{'merged_actions':[{'actions':[]}],'merged_actions':[{'actions':[{}]}]}")},
       {"a header twice", Text("{'info':{'a':1},'info':{'b':1},'actions':[]}")},
       {"a control twice", Text("{'control':{'repeat_times':1},'control':{'repeat_times':2},'actions':[]}")},
       {"a header that is no object", Text("{'info':[1],'actions':[]}")},
