@@ -20,7 +20,7 @@ namespace {
 
 struct TextField {
   QLatin1String key;
-  QString RecordAction::*text;
+  QString RecordAction::*text = nullptr;
 };
 
 constexpr TextField kTextFields[] = {
