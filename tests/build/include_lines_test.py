@@ -44,7 +44,7 @@ ASKS = {
 # The program's floors. It is a host like any other, and sees of the tree what SEEN_BY_HOST names.
 HOST = [
     ["host/guest", "host/look", "host/system"],
-    ["host/gamepad", "host/mirror", "host/record", "host/uinput"],
+    ["host/gamepad", "host/mirror", "host/record", "host/target", "host/uinput"],
     ["host/session"],
     ["host/editor", "host/simulation"],
     ["host/picture"],
@@ -77,7 +77,8 @@ LIBRARIES = {
     "libevdev/": ["host/uinput"],
 }
 # Rooms that do without widgets, so that a host without a window has them: headers of Qt that they do not include.
-WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation"]
+WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation",
+                   "host/target"]
 WIDGETS = re.compile(r"Q(Application|Widget|MainWindow|Dialog|Label|Menu|Action|\w*Button|\w*View|\w*Layout)$")
 WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
