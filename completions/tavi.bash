@@ -27,6 +27,7 @@ _tavi_value() {
     "window --look") return 0 ;;
     "window --pause-key") return 0 ;;
     "window --panic-key") return 0 ;;
+    "window --controls-key") return 0 ;;
     "window --record") _tavi_files json ;;
     "window --replay") _tavi_files json ;;
     "window --guest") return 0 ;;
@@ -59,7 +60,7 @@ _tavi_value() {
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --controls-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;

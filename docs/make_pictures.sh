@@ -154,10 +154,10 @@ edit_walk() {
   move_to 0.1765 0.022
   xdotool click 1
   sleep 0.5
-  move_to 0.1325 0.65
+  move_to 0.147 0.69
   xdotool click 1
   sleep 0.3
-  move_to 0.199 0.65
+  move_to 0.211 0.69
 }
 
 # Shows the walk as the file writes it, and spells one of its keys wrong.

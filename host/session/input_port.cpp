@@ -1,8 +1,18 @@
 #include "host/session/input_port.h"
 
+#include <QTouchEvent>
+
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
+
+namespace {
+
+bool IsTouch(const QEvent& event) {
+  return event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate || event.type() == QEvent::TouchEnd;
+}
+
+}  // namespace
 
 InputPort* InputPort::GetInstance() {
   static InputPort instance;
@@ -10,6 +20,9 @@ InputPort* InputPort::GetInstance() {
 }
 
 void InputPort::Send(QEvent* event) {
+  if (event->type() == QEvent::TouchBegin) is_touched_ = true;
+  if (IsTouch(*event) && !is_touched_) return;
+  if (event->type() == QEvent::TouchEnd) is_touched_ = false;
   Q_EMIT Began(DescribeEvent(*event));
   taviinputmanager::OnQtInputEvent(event);
   Q_EMIT Ended();
@@ -33,8 +46,16 @@ void InputPort::LetGo() {
 
 void InputPort::LetGoBy(const std::function<void()>& change) {
   Q_EMIT Began(DescribeLettingGo());
+  LiftTouches();
   change();
   Q_EMIT Ended();
+}
+
+void InputPort::LiftTouches() {
+  if (!is_touched_) return;
+  is_touched_ = false;
+  QTouchEvent end(QEvent::TouchEnd);
+  taviinputmanager::OnQtInputEvent(&end);
 }
 
 }  // namespace tavi

@@ -11,6 +11,7 @@
 #include "host/window/main_tool_bar.h"
 #include "host/window/records/record_bar.h"
 #include "host/window/view/guest_frame.h"
+#include "host/window/view/guest_panel.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -53,6 +54,21 @@ TEST_F(WindowMemoryTest, TheWindowCanBeAsSmallAsTheScreen) {
     EXPECT_EQ(Window()->size(), size);
     EXPECT_GE(View()->width(), 400) << size.width();
   }
+}
+
+// The guest's screen keeps the 680 pixels that its keys need: at 200 % on 1920 x 1080 the window is 952 x 500, its bars
+// take 108, and the strip's 62 would leave 330, for a width of 587.
+TEST_F(WindowMemoryTest, TheStripBelowGivesWayBeforeTheScreenGetsTooNarrow) {
+  const auto* strip = Window()->findChild<GuestPanel*>();
+  ASSERT_NE(strip, nullptr);
+  Resize(952, 500);
+  EXPECT_FALSE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
+  Resize(952, 384 + 170 - 1);
+  EXPECT_FALSE(strip->isVisible());
+  Resize(952, 384 + 170);
+  EXPECT_TRUE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
 }
 
 TEST_F(WindowMemoryTest, ASmallWindowPutsDocksAwayUntilThereIsRoom) {
@@ -124,6 +140,7 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
                                                       {"--joystick", folder_.filePath("joystick.yaml")},
                                                       {"--look", "desktop"},
                                                       {"--panic-key", "Ctrl+Alt+Backspace"},
+                                                      {"--controls-key", "Ctrl+Alt+Enter"},
                                                       {"--pause-key", "F12"},
                                                       {"--pixel-ratio", "1.5"},
                                                       {"--rotation", "90"}}));

@@ -164,13 +164,6 @@ TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
 }
 
 // Such as a pager that was left; there is nobody to tell anything then.
-TEST_F(WindowProgram, WhoReadsItsWordsMayGo) {
-  StartWithAFingerDown({"--record", "/dev/full"});
-  program_.closeReadChannel(QProcess::StandardError);
-  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
-  EXPECT_EQ(QDir(Path("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);  // it is kept
-}
-
 TEST_F(WindowProgram, ItsWordsNeedNoReaderFromTheStart) {
   ASSERT_EQ(mkfifo(QFile::encodeName(Path("gone")).constData(), 0600), 0);
   program_.setWorkingDirectory(folder_.path());
