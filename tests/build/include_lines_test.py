@@ -47,7 +47,7 @@ FACE_OF_RECORDS = ["record/record_action.h", "record/record_format.h"]
 # The program's floors. It is a host like any other, and sees of the tree what SEEN_BY_HOST names.
 HOST = [
     ["host/guest", "host/look", "host/system"],
-    ["host/gamepad", "host/mirror", "host/record"],
+    ["host/gamepad", "host/mirror", "host/record", "host/target"],
     ["host/session"],
     ["host/editor", "host/simulation"],
     ["host/picture"],
@@ -89,7 +89,8 @@ LIBRARIES = {
     "SDL.h": ["host/gamepad"],
 }
 # Rooms that do without widgets, so that a host without a window has them: headers of Qt that they do not include.
-WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation"]
+WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation",
+                   "host/target"]
 WIDGETS = re.compile(r"Q(Application|Widget|MainWindow|Dialog|Label|Menu|Action|\w*Button|\w*View|\w*Layout)$")
 WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
