@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "host/target/guest_targets.h"
+#include "host/window/controls/control_focus.h"
 
 namespace tavi {
 
@@ -23,10 +24,11 @@ QString ShortName(const TargetStatus& status, const QFontMetrics& metrics) {
 }  // namespace
 
 TargetButton::TargetButton(GuestTargets* targets, QWidget* parent)
-    : QToolButton(parent), targets_(targets), menu_(new QMenu(this)) {
+    : QToolButton(parent), targets_(targets), menu_(new QMenu(QStringLiteral("Guests"), this)) {
   setMenu(menu_);
   setPopupMode(QToolButton::InstantPopup);
-  setFocusPolicy(Qt::NoFocus);
+  ReachByTab(this);
+  setAccessibleName(menu_->title());
   setAutoRaise(true);
   setToolTip(QStringLiteral("The guests that get the lines"));
   connect(menu_, &QMenu::aboutToShow, this, &TargetButton::FillMenu);

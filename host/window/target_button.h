@@ -13,7 +13,7 @@ namespace tavi {
 class GuestTargets;
 
 // Tells how the targets of this window's lines are, and has a menu to switch each off and on and to try it again;
-// hidden while there are none. It takes no focus, so that the keys stay the guest's.
+// hidden while there are none. A click leaves the keys the guest's; Tab comes by.
 //
 // Main thread.
 class TargetButton : public QToolButton {

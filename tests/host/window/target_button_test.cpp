@@ -50,6 +50,7 @@ TEST_F(TargetButtonTest, AGuestGetsWhatTheWindowPlays) {
   AddGuest("lines");
   EXPECT_EQ(Window()->Targets()->text(), QString("Guest: connected, 0 lines/s"));
   EXPECT_FALSE(Window()->Targets()->isHidden());
+  EXPECT_EQ(Window()->Targets()->focusPolicy(), Qt::TabFocus);
   Press(kSpace);
   Release(kSpace);
   EXPECT_EQ(LinesOf("lines"), QByteArray(kTapDown) + "1:SLOTRELEASE:11\n");
