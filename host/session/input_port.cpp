@@ -1,5 +1,7 @@
 #include "host/session/input_port.h"
 
+#include <QMetaMethod>
+
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -9,20 +11,26 @@ InputPort* InputPort::GetInstance() {
   return &instance;
 }
 
+// Where nobody listens, words for an event would be the dearest part of its way.
+bool InputPort::IsHeard() const {
+  static const QMetaMethod began = QMetaMethod::fromSignal(&InputPort::Began);
+  return isSignalConnected(began);
+}
+
 void InputPort::Send(QEvent* event) {
-  Q_EMIT Began(DescribeEvent(*event));
+  if (IsHeard()) Q_EMIT Began(DescribeEvent(*event));
   taviinputmanager::OnQtInputEvent(event);
   Q_EMIT Ended();
 }
 
 void InputPort::SendJoystick(QEvent* event) {
-  Q_EMIT Began(DescribeJoystickEvent(*event));
+  if (IsHeard()) Q_EMIT Began(DescribeJoystickEvent(*event));
   taviinputmanager::OnJoystickEvent(event);
   Q_EMIT Ended();
 }
 
 void InputPort::SendRelative(int dx, int dy) {
-  Q_EMIT Began(DescribeMovement(dx, dy));
+  if (IsHeard()) Q_EMIT Began(DescribeMovement(dx, dy));
   taviinputmanager::OnWindowsWmRelativeInputEvent(dx, dy);
   Q_EMIT Ended();
 }

@@ -38,6 +38,8 @@ class InputPort : public QObject {
 
  private:
   InputPort() = default;
+
+  bool IsHeard() const;
 };
 
 }  // namespace tavi

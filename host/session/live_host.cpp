@@ -1,5 +1,7 @@
 #include "host/session/live_host.h"
 
+#include <QMetaMethod>
+
 #include "host/gamepad/pad_input.h"
 #include "host/session/host_functions.h"
 
@@ -34,6 +36,15 @@ struct LiveHostFunctions : TellingFunctions<LiveHost> {
   }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static bool IsPrimaryDisplay(int display) { return display == LiveHost::kDisplay; }
+
+  static void SendEvent(const char* data, int length) {
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendEvent(data, length);
+  }
+  static void SendText(const char* data, int length) {
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendText(data, length);
+  }
 
   static void OnInputStatusChanged(int status, const QString& key) {
     TellingFunctions::OnInputStatusChanged(status, key);
@@ -76,6 +87,15 @@ WindowGeometry LiveHost::ViewGeometry() const {
   const QSize size = ViewSize();
   const QPoint corner = corner_ ? corner_(size) : QPoint();
   return {corner.x(), corner.y(), size.width(), size.height()};
+}
+
+void LiveHost::SendLine(const char* data, int length) {
+  if (line_sink_) line_sink_(data, length);
+}
+
+bool LiveHost::IsHeard() const {
+  static const QMetaMethod entry_added = QMetaMethod::fromSignal(&LiveHost::EntryAdded);
+  return isSignalConnected(entry_added);
 }
 
 void LiveHost::Add(Source source, const QString& text) {

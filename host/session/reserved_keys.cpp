@@ -31,16 +31,9 @@ bool AnswersTo(const km::ConfigItem& item, const km::ConfigKey& key) {
   return item.IsKeyMatch(key) || (composable != nullptr && km::IsSameKey(composable->first_key, key));
 }
 
-QString MessageAbout(const KeyCombination& combination) {
-  const QString what = combination.modifiers == Qt::NoModifier
-                           ? QStringLiteral("the window keeps %1 for itself, so this item never gets it")
-                           : QStringLiteral("the window keeps %1 for itself, so this item does not get its key then");
-  return what.arg(combination.name) + QStringLiteral("; --pause-key and --panic-key take other keys");
-}
-
 }  // namespace
 
-ReservedKeys::ReservedKeys(QObject* parent) : QObject(parent) {
+ReservedKeys::ReservedKeys(const QString& keeper, QObject* parent) : QObject(parent), keeper_(keeper) {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -86,7 +79,16 @@ QVector<km::Diagnostic> ReservedKeys::FindingsIn(const km::LoadResult& keymap) c
   return findings;
 }
 
-bool ReservedKeys::eventFilter(QObject* /*watched*/, QEvent* event) {
+QString ReservedKeys::MessageAbout(const KeyCombination& combination) const {
+  const QString what = combination.modifiers == Qt::NoModifier
+                           ? QStringLiteral("%1 keeps %2 for itself, so this item never gets it")
+                           : QStringLiteral("%1 keeps %2 for itself, so this item does not get its key then");
+  return what.arg(keeper_, combination.name) + QStringLiteral("; --pause-key and --panic-key take other keys");
+}
+
+bool ReservedKeys::eventFilter(QObject* /*watched*/, QEvent* event) { return Take(event); }
+
+bool ReservedKeys::Take(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: return TakePress(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return TakeRelease(*static_cast<QKeyEvent*>(event));
