@@ -14,17 +14,10 @@
 #include <string_view>
 #include <vector>
 
+#include "guest/device_place.h"
 #include "guest/guest_options.h"
 
 namespace taviguest {
-
-// Where a device of the guest is: the word of its kind ("screen"), its node ("/dev/input/event5"; the directory in /sys
-// while there is no node), and the name that the kernel knows it by ("tavi screen").
-struct DevicePlace {
-  std::string word;
-  std::string node;
-  std::string name;
-};
 
 // Threads: none of its own, and not bound to one; calls may not overlap. Standard output and error are left alone.
 //

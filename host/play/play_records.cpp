@@ -38,6 +38,8 @@ QString PlayRecords::Stop() {
   return is_playing ? QString() : QStringLiteral("nothing is recorded or played");
 }
 
+QString PlayRecords::SaveAtEnd() { return Recorder::GetInstance()->HasRecording() ? Save() : QString(); }
+
 QString PlayRecords::Save() {
   Recorder* recorder = Recorder::GetInstance();
   QString problem = recorder->End();

@@ -15,6 +15,8 @@ class PlayRecords {
   QString Replay(const QString& file);
   // Ends the replay and saves the recording, as far as there are any.
   QString Stop();
+  // Saves a recording that runs still. What went wrong, or nothing.
+  QString SaveAtEnd();
 
  private:
   QString Save();

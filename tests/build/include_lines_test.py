@@ -44,9 +44,9 @@ ASKS = {
 # The program's floors. It is a host like any other, and sees of the tree what SEEN_BY_HOST names.
 HOST = [
     ["host/guest", "host/look", "host/system"],
-    ["host/gamepad", "host/mirror", "host/record", "host/target", "host/uinput"],
+    ["host/gamepad", "host/mirror", "host/record", "host/target"],
     ["host/session"],
-    ["host/editor", "host/simulation"],
+    ["host/editor", "host/play", "host/simulation"],
     ["host/picture"],
     ["host/window/dialog", "host/window/pointer"],
     ["host/window/view"],
@@ -55,7 +55,7 @@ HOST = [
     ["host/command"],
     ["host"],
 ]
-SEEN_BY_HOST = ["include", "keymap"]  # and the face of the keymap library
+SEEN_BY_HOST = ["guest", "include", "keymap"]  # and the face of the keymap library
 # The keymap library's floors. It stands beside the house and knows nothing but the contract.
 KEYMAPS = [
     ["keymap"],
@@ -67,6 +67,8 @@ KEYMAPS = [
 # Its face, whose types all of its rooms speak in: declared here and defined on its top floor.
 FACE_OF_KEYMAPS = ["keymapmanager/item_types.h", "keymapmanager/key_names.h", "keymapmanager/keymap_file.h",
                    "keymapmanager/keymap_outline.h", "keymapmanager/nearest_word.h"]
+# What stands on the standard library, the C library and the kernel's headers alone.
+BARE = ["guest"]
 # Rooms whose headers are installed stand on nothing but Qt, the standard library and themselves.
 GROUND = ["include", "keymap"]
 # Other libraries, by the first word of their headers, and who may use them. Tests may use all.
@@ -74,7 +76,7 @@ LIBRARIES = {
     "Poco/": ["core", "record"],
     "yaml.h": ["keymapmanager/yaml"],
     "SDL.h": ["host/gamepad"],
-    "libevdev/": ["host/uinput"],
+    "libevdev/": ["host/play"],
 }
 # Rooms that do without widgets, so that a host without a window has them: headers of Qt that they do not include.
 WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation",
@@ -89,7 +91,7 @@ def rooms_of(floors):
     return [room for floor in floors for room in floor]
 
 
-ALL_ROOMS = rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(HOST) + FREE
+ALL_ROOMS = BARE + rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(HOST) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -135,6 +137,8 @@ def below(room, floors):
 
 def allowed(room):
     """Rooms and single files that `room` may include, apart from itself."""
+    if room in BARE:
+        return []
     if room in rooms_of(KEYMAPS[1:]):
         return below(room, KEYMAPS) + FACE_OF_KEYMAPS
     if room in rooms_of(HOST):
@@ -147,6 +151,11 @@ def may_include(source, target):
     if room in FREE:
         return True
     return room_of(target) == room or any(target == entry or room_of(target) == entry for entry in allowed(room))
+
+
+def is_bare(name):
+    """A header of the standard library, the C library or the kernel."""
+    return bool(re.fullmatch(r"[a-z_]+(\.h)?|(linux|sys|netinet|arpa)/[a-z-]+\.h", name)) and not name.startswith("q")
 
 
 def circles(graph):
@@ -226,6 +235,11 @@ class IncludeLines(unittest.TestCase):
                  and not re.fullmatch(r"Q\w+|q\w+\.h|[a-z_]+", name)]
         self.assertEqual(wrong, [])
 
+    def test_bare_rooms_know_no_qt(self):
+        wrong = [f"{source} includes <{name}>" for source, delimiter, name, target in LINES
+                 if room_of(source) in BARE and not target and not is_bare(name)]
+        self.assertEqual(wrong, [])
+
     def test_other_libraries_stay_in_their_rooms(self):
         wrong = [f"{source} includes <{name}>" for source, _, name, _ in LINES
                  for word, rooms in LIBRARIES.items()
@@ -258,9 +272,19 @@ class TheTestItself(unittest.TestCase):
             ("host/main.cpp", "core/clock.h", False, "a host is a user like any other"),
             ("host/session/x.cpp", "host/window/view/y.h", False, "a host without a window shares the session"),
             ("host/window/view/x.cpp", "host/session/y.h", True, "downwards"),
+            ("host/play/x.cpp", "guest/uinput_guest.h", True, "a program may hold a guest"),
+            ("guest/x.cpp", "keymap/scan_codes.h", False, "the guest knows nothing of the library"),
+            ("guest/x.cpp", "host/guest/guest_line.h", False, "nor of the program"),
+            ("record/x.cpp", "guest/guest_line.h", False, "nor does the library know the guest"),
         ]
         for source, target, expected, why in rows:
             self.assertEqual(may_include(source, target), expected, f"{source} -> {target}: {why}")
+
+    def test_bare_names(self):
+        for name in ("string", "unistd.h", "linux/input-event-codes.h", "sys/socket.h"):
+            self.assertTrue(is_bare(name), name)
+        for name in ("QString", "QtGlobal", "qglobal.h", "libevdev/libevdev.h", "SDL.h", "yaml-cpp/yaml.h"):
+            self.assertFalse(is_bare(name), name)
 
     def test_circles(self):
         self.assertEqual(circles({"a": ["b"], "b": ["c"], "c": ["a"]}), [["a", "b", "c", "a"]])
