@@ -290,6 +290,7 @@ bool IsAnythingMissing(const PlayOptions& options) {
 
 int PlayOn(PlayOptions options) {
   if (IsAnythingMissing(options)) return kExitProblem;
+  const InterruptionWatch interruptions;
   ChooseSize(&options);
   DeviceFolder folder;
   const std::unique_ptr<GuestOutlet> outlet = MakeOutlet(options);
@@ -332,7 +333,6 @@ int Run(const Invocation& invocation) {
   if (!problem.isEmpty()) return FailUsage(kName, problem);
   GoOnWithoutReader();
   SetCleanUp({});  // signals have a thread of their own, which begins before all others
-  const InterruptionWatch interruptions;
   DoWithoutWindowSystem();
   const QGuiApplication application(invocation.argc, invocation.argv);
   if (!options.control.isEmpty()) return AskForControl(options);
