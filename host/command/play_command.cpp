@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 
 #include "host/command/command_line.h"
+#include "host/command/guest_option.h"
 #include "host/play/app_keymaps.h"
 #include "host/play/control_socket.h"
 #include "host/play/control_words.h"
@@ -80,8 +81,6 @@ constexpr char kHelp[] =
 const QString kName = QStringLiteral("play");
 const QString kJoystick = QStringLiteral("--joystick");
 const QString kDevice = QStringLiteral("--device");
-const QString kGuest = QStringLiteral("--guest");
-const QString kAllowRemote = QStringLiteral("--allow-remote");
 const QString kSize = QStringLiteral("--size");
 const QString kRotation = QStringLiteral("--rotation");
 const QString kSpeed = QStringLiteral("--speed");
@@ -99,7 +98,7 @@ struct PlayOptions {
   QString keymap;           // empty: that of the last app
   QString joystick_keymap;  // empty: none
   QString keymaps;          // a folder; empty: none
-  std::vector<TargetAddress> targets;
+  QVector<TargetAddress> targets;
   bool has_size = false;
   QString socket = QLatin1String(ControlSocket::kUsualName);
   QString control;  // empty: play
@@ -141,15 +140,11 @@ QString ReadGuest(const ParsedArguments& arguments, PlayOptions* options) {
   return {};
 }
 
-QString ReadRepeated(const ParsedArguments& arguments, PlayOptions* options) {
+QString ReadTargets(const ParsedArguments& arguments, PlayOptions* options) {
   for (const GivenArgument& given : arguments.in_order) {
     if (given.option == kDevice) options->settings.devices += given.value;
-    if (given.option != kGuest) continue;
-    const ParsedTarget target = ParseTarget(given.value, arguments.options.contains(kAllowRemote));
-    if (!target.problem.isEmpty()) return QStringLiteral("%1: %2").arg(kGuest, target.problem);
-    options->targets.push_back(target.address);
   }
-  return {};
+  return TakeTargets(arguments, &options->targets);
 }
 
 QString FileProblem(const QString& file) {
@@ -185,7 +180,7 @@ QString ReadOptions(const ParsedArguments& arguments, PlayOptions* options) {
   options->settings.is_paused = arguments.options.contains(kPaused);
   options->socket = arguments.options.value(kSocket, options->socket);
   QString problem = ReadFiles(arguments, options);
-  if (problem.isEmpty()) problem = ReadRepeated(arguments, options);
+  if (problem.isEmpty()) problem = ReadTargets(arguments, options);
   if (problem.isEmpty()) problem = ReadGuest(arguments, options);
   return problem.isEmpty() ? ReadKeys(arguments, &options->settings) : problem;
 }
@@ -213,7 +208,7 @@ int ListDevices(const PlayOptions& options) {
   const std::vector<PlayDevices::Listed> list = PlayDevices::List(&folder, options.settings.devices);
   for (const PlayDevices::Listed& entry : list) Print(RowOf(entry));
   if (list.empty()) Tell(QStringLiteral("there are no devices in %1").arg(QLatin1String(DeviceFolder::kUsualFolder)));
-  const QString advice = RightsAdvice(UnreadableIn(list), options.targets.empty());
+  const QString advice = RightsAdvice(UnreadableIn(list), options.targets.isEmpty());
   Tell(advice);
   return list.empty() || !advice.isEmpty() ? kExitProblem : kExitDone;
 }
@@ -243,7 +238,7 @@ void ChooseSize(PlayOptions* options) {
 }
 
 std::unique_ptr<GuestOutlet> MakeOutlet(const PlayOptions& options) {
-  if (options.targets.empty()) return std::make_unique<UinputOutlet>(Tell);
+  if (options.targets.isEmpty()) return std::make_unique<UinputOutlet>(Tell);
   return std::make_unique<TargetsOutlet>(options.targets, Tell);
 }
 
@@ -283,7 +278,7 @@ bool IsAnythingMissing(const PlayOptions& options) {
   const std::vector<PlayDevices::Listed> list = PlayDevices::List(&folder, options.settings.devices);
   const QStringList unreadable = UnreadableIn(list);
   const bool is_none_readable = !list.empty() && unreadable.size() == static_cast<int>(list.size());
-  const QString advice = RightsAdvice(is_none_readable ? unreadable : QStringList(), options.targets.empty());
+  const QString advice = RightsAdvice(is_none_readable ? unreadable : QStringList(), options.targets.isEmpty());
   Tell(advice);
   return !advice.isEmpty();
 }

@@ -4,43 +4,55 @@
 
 #include <QStringList>
 
+#include "host/session/live_host.h"
 #include "host/target/guest_targets.h"
 
 namespace tavi {
 
-TargetsOutlet::TargetsOutlet(std::vector<TargetAddress> addresses, std::function<void(const QString&)> tell)
-    : addresses_(std::move(addresses)), tell_(std::move(tell)) {}
+namespace {
 
-TargetsOutlet::~TargetsOutlet() = default;
-
-QString TargetsOutlet::Open(const QSize& surface) {
-  targets_ = std::make_unique<GuestTargets>();
-  QObject::connect(targets_.get(), &GuestTargets::Message, targets_.get(),
-                   [this](const QString& text, bool /*is_problem*/) { tell_(text); });
-  targets_->SetSurface(surface);
-  for (const TargetAddress& address : addresses_) targets_->Add(address);
+QString WordOf(TargetStatus::State state) {
+  switch (state) {
+    case TargetStatus::State::kOff: return QStringLiteral("off");
+    case TargetStatus::State::kConnecting: return QStringLiteral("connecting");
+    case TargetStatus::State::kConnected: return QStringLiteral("connected");
+    case TargetStatus::State::kLagging: return QStringLiteral("takes too little");
+    case TargetStatus::State::kFailed: return QStringLiteral("not reached");
+    case TargetStatus::State::kEnded: return QStringLiteral("ended");
+  }
   return {};
 }
 
-void TargetsOutlet::Send(const char* data, int length) {
-  if (targets_) targets_->Send(data, length);
+GuestTargets* Targets() { return LiveHost::GetInstance()->Targets(); }
+
+}  // namespace
+
+TargetsOutlet::TargetsOutlet(QVector<TargetAddress> addresses, std::function<void(const QString&)> tell)
+    : addresses_(std::move(addresses)), tell_(std::move(tell)) {
+  messages_ = QObject::connect(Targets(), &GuestTargets::Message,
+                               [this](const QString& text, bool /*is_problem*/) { tell_(text); });
 }
 
-void TargetsOutlet::LiftAll() {
-  if (targets_) targets_->LiftAll();
+TargetsOutlet::~TargetsOutlet() { QObject::disconnect(messages_); }
+
+QString TargetsOutlet::Open(const QSize& surface) {
+  Targets()->Close();
+  Targets()->SetSurface(surface);
+  for (const TargetAddress& address : addresses_) Targets()->Add(address);
+  return {};
 }
 
-void TargetsOutlet::Close() {
-  if (targets_) targets_->Close();
-}
+void TargetsOutlet::LiftAll() { Targets()->LiftAll(); }
+
+void TargetsOutlet::Close() { Targets()->Close(); }
 
 QString TargetsOutlet::State() const {
   QStringList states;
-  for (int i = 0; targets_ && i < targets_->Count(); ++i) {
-    TargetStatus status = targets_->StatusOf(i);
-    states += QStringLiteral("%1 %2").arg(status.name, DescribeStatus(status));
+  for (int i = 0; i < Targets()->Count(); ++i) {
+    const TargetStatus status = Targets()->StatusOf(i);
+    states += QStringLiteral("%1 %2").arg(status.name, WordOf(status.state));
   }
-  return states.join(QStringLiteral("; "));
+  return states.join(QStringLiteral(", "));
 }
 
 }  // namespace tavi

@@ -24,6 +24,16 @@ quint64 Pack(const QSize& size) {
 struct LiveHostFunctions : TellingFunctions<LiveHost> {
   static LiveHost* Host() { return LiveHost::GetInstance(); }
 
+  // Targets first: what is shown may take its time.
+  static void SendEvent(const char* data, int length) {
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendEvent(data, length);
+  }
+  static void SendText(const char* data, int length) {
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendText(data, length);
+  }
+
   static WindowGeometry GetWindowGeometry() { return Host()->ViewGeometry(); }
   static int GetDisplayRotation() { return Host()->Geometry().rotation; }
   static bool IsTextInputActive() { return Host()->HasTextField(); }
@@ -36,15 +46,6 @@ struct LiveHostFunctions : TellingFunctions<LiveHost> {
   }
   static QRect GetTouchRect() { return {QPoint(0, 0), Host()->GuestSize()}; }
   static bool IsPrimaryDisplay(int display) { return display == LiveHost::kDisplay; }
-
-  static void SendEvent(const char* data, int length) {
-    Host()->SendLine(data, length);
-    if (Host()->IsHeard()) TellingFunctions::SendEvent(data, length);
-  }
-  static void SendText(const char* data, int length) {
-    Host()->SendLine(data, length);
-    if (Host()->IsHeard()) TellingFunctions::SendText(data, length);
-  }
 
   static void OnInputStatusChanged(int status, const QString& key) {
     TellingFunctions::OnInputStatusChanged(status, key);
@@ -70,7 +71,10 @@ void LiveHost::Start(Corner corner) {
   InitializeLibrary<LiveHostFunctions>(&table_);
 }
 
-void LiveHost::SetGuestSize(const QSize& size) { guest_size_ = Pack(size); }
+void LiveHost::SetGuestSize(const QSize& size) {
+  guest_size_ = Pack(size);
+  targets_.SetSurface(size);
+}
 
 QSize LiveHost::GuestSize() const {
   const quint64 packed = guest_size_;
@@ -91,6 +95,7 @@ WindowGeometry LiveHost::ViewGeometry() const {
 
 void LiveHost::SendLine(const char* data, int length) {
   if (line_sink_) line_sink_(data, length);
+  targets_.Send(data, length);
 }
 
 bool LiveHost::IsHeard() const {

@@ -13,6 +13,7 @@
 
 #include "host/session/guest_geometry.h"
 #include "host/session/timeline_entry.h"
+#include "host/target/guest_targets.h"
 #include "taviinputmanager/callbacks.h"
 
 namespace tavi {
@@ -35,8 +36,9 @@ class LiveHost : public QObject {
   // place in the view.
   using Corner = std::function<QPoint(const QSize& view_size)>;
 
-  // Gets each line as the library's send functions do, inside of their call and on their thread, before it is told by
-  // EntryAdded. For where lines leave; an empty function takes it back. To be set while no line can come.
+  // Gets each line as the library's send functions do, inside of their call and on their thread, before all others: for
+  // a guest in this process, where a line has arrived when the call returns. An empty function takes it back. To be set
+  // while no line can come.
   using LineSink = std::function<void(const char* data, int length)>;
   void SetLineSink(LineSink sink) { line_sink_ = std::move(sink); }
 
@@ -60,6 +62,9 @@ class LiveHost : public QObject {
   // Whether the guest has a text field focused, so that keys are typed.
   void SetTextField(bool focused);
   bool HasTextField() const { return text_field_; }
+
+  // Where the lines go besides. To be closed before the application object goes.
+  GuestTargets* Targets() { return &targets_; }
 
   // Milliseconds since Start.
   qint64 ElapsedMs() const { return clock_.elapsed(); }
@@ -94,6 +99,7 @@ class LiveHost : public QObject {
   QElapsedTimer clock_;
   Corner corner_;
   LineSink line_sink_;
+  GuestTargets targets_;
   bool text_field_ = false;
   int status_ = 0;
   std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library

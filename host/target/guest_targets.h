@@ -27,7 +27,7 @@
 namespace tavi {
 
 class GuestTarget;
-class SentGestures;
+class HeldInput;
 
 // Carries lines to any number of targets, each on its own: one that lags, refuses or ends takes nothing from the
 // others, and none is ever waited for.
@@ -35,10 +35,9 @@ class SentGestures;
 // What a target gets is a stream of whole lines in the order of the calls of Send, with one exception, so that it never
 // plays the rest of a gesture whose beginning it missed. While a target is not connected, or lags, lines pass it by.
 // When it is back, what it was left with is lifted first; and a finger, key or button that is down by then stays
-// unpressed there until it is pressed anew.
+// up there until it is pressed anew.
 //
-// Threads: main, but for Send. Signals come on the main thread, never from inside of a call of this class but Send, Add,
-// Switch, TryAgain and Close.
+// Threads: main, but for Send. Signals come on the main thread, also from inside of a call of this class.
 class GuestTargets : public QObject {
   Q_OBJECT
 
@@ -68,7 +67,7 @@ class GuestTargets : public QObject {
   void Send(const char* data, int length);
 
   // Lifts what each target has down, gamepads included, which a reset of the library leaves alone. What is still held
-  // stays unpressed there until it is pressed anew.
+  // stays up there until it is pressed anew.
   void LiftAll();
 
   // Lifts what each target has down, waits until it was taken, at most kFlushMs for all of them, has commands end, at
@@ -97,11 +96,13 @@ class GuestTargets : public QObject {
 
  private:
   void TakeInbox();
-  void Distribute(const QByteArray& line);
+  std::vector<QByteArray> TakeLines();
+  void Distribute(const QByteArray& bytes);
 
   QSize surface_{1280, 720};
   std::vector<std::unique_ptr<GuestTarget>> targets_;
-  std::unique_ptr<SentGestures> sent_;
+  std::unique_ptr<HeldInput> sent_;  // what the host has down, whatever targets were told
+  bool is_distributing_ = false;
   std::atomic<bool> has_targets_{false};
   std::mutex inbox_lock_;
   std::vector<QByteArray> inbox_;  // guarded by inbox_lock_; lines that no target was offered yet
