@@ -43,6 +43,8 @@ class PlayDevices : public QObject {
   // Opens what is there, and follows what comes and goes from here on.
   void Start();
   void SetGrabWanted(bool wanted);
+  // Takes what a device has to say. Devices with a file are read as it comes.
+  void Read(const QString& path);
 
   int Count() const { return static_cast<int>(devices_.size()); }
   int CountOf(DeviceKind kind) const;
@@ -72,7 +74,6 @@ class PlayDevices : public QObject {
   void Look();
   void TryToTake(const QString& path);
   void Take(std::unique_ptr<PhysicalDevice> device);
-  void Read(const QString& path);
   void Remove(const QString& path);
   void UpdateGrab(Device* device);
   void TellRefusal(Device* device);

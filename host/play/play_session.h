@@ -64,6 +64,7 @@ class PlaySession : public QObject {
   // The last of all: lifts everything, gives the devices back, and ends the guest.
   void End();
 
+  PlayDevices* Devices() { return &devices_; }
   // "mapping on, shooter.yaml (24 items), 1280x720, 1 keyboard, 1 mouse, no gamepad".
   QString State() const;
 

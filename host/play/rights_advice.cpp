@@ -1,6 +1,5 @@
 #include "host/play/rights_advice.h"
 
-#include <cerrno>
 #include <grp.h>
 #include <unistd.h>
 #include <vector>
@@ -30,11 +29,10 @@ bool IsMember(gid_t group) {
   return getegid() == group;
 }
 
+bool IsUinputThere() { return access(kUinput, F_OK) == 0; }
+
 QString UinputProblem() {
   if (access(kUinput, W_OK) == 0) return {};
-  if (errno == ENOENT) {
-    return QStringLiteral("%1 is not there. As root: modprobe uinput").arg(QLatin1String(kUinput));
-  }
   return QStringLiteral("%1 may not be written to, which the touch screen is made through").arg(QLatin1String(kUinput));
 }
 
@@ -62,6 +60,9 @@ QString WayOut() {
 }  // namespace
 
 QString RightsAdvice(const QStringList& unreadable, bool needs_uinput) {
+  if (needs_uinput && !IsUinputThere()) {
+    return QStringLiteral("%1 is not there. As root: modprobe uinput").arg(QLatin1String(kUinput));
+  }
   QStringList problems{DevicesProblem(unreadable), needs_uinput ? UinputProblem() : QString()};
   problems.removeAll(QString());
   if (problems.isEmpty()) return {};
