@@ -1,10 +1,20 @@
 // When devices are kept from other programs, and when they are given back.
+#include <algorithm>
+
 #include "tests/host/play/play_fixture.h"
 
 namespace tavi {
 namespace {
 
 class Grab : public PlayFixture {};
+
+// A reset, and nothing behind it that puts a finger down.
+bool LiftsAllFingers(const Lines& lines) {
+  const bool has_reset = std::find(lines.begin(), lines.end(), "0ms 1:SLOTRELEASEALL") != lines.end();
+  return has_reset && std::none_of(lines.begin(), lines.end(), [](const std::string& line) {
+           return line.find("PRESS") != std::string::npos || line.find("KBDPR") != std::string::npos;
+         });
+}
 
 constexpr char kTap[] = "{type: Click, key: Space, point: [0.25, 0.75]}";
 constexpr char kWalk[] = "{type: Swipehold, point: [0.2, 0.7], key_up: W, key_left: A, key_down: S, key_right: D}";
@@ -78,8 +88,7 @@ TEST_F(Grab, ThePauseKeyGivesTheDevicesBackAndTakesThemAgain) {
   Sent();
   Press(KEY_F12);
   EXPECT_FALSE(keyboard_->is_grabbed);
-  const Lines lifted = Sent();
-  EXPECT_NE(std::find(lifted.begin(), lifted.end(), "0ms 1:SLOTRELEASE:11"), lifted.end());
+  EXPECT_TRUE(LiftsAllFingers(Sent()));
   EXPECT_EQ(guest_.lifts, 1);
   Release(KEY_F12);
   Release(KEY_SPACE);
@@ -106,7 +115,7 @@ TEST_F(Grab, ThePanicKeyLiftsEverythingAndGivesTheDevicesBack) {
   EXPECT_FALSE(keyboard_->is_grabbed);
   EXPECT_FALSE(mouse_->is_grabbed);
   EXPECT_EQ(State().substr(0, 12), "mapping off,");
-  for (const std::string& line : Sent()) EXPECT_EQ(line.find("PRESS"), std::string::npos) << line;
+  EXPECT_TRUE(LiftsAllFingers(Sent()));
 }
 
 TEST_F(Grab, ThePanicKeyIsTheKeymapsWithoutItsModifiers) {
@@ -185,8 +194,7 @@ TEST_F(Grab, WhenItEndsEverythingIsLiftedAndGivenBack) {
   Sent();
   session_->End();
   EXPECT_FALSE(keyboard_->is_grabbed);
-  const Lines lifted = Sent();
-  EXPECT_NE(std::find(lifted.begin(), lifted.end(), "0ms 1:SLOTRELEASE:2"), lifted.end());
+  EXPECT_TRUE(LiftsAllFingers(Sent()));
   EXPECT_TRUE(guest_.is_closed);
 }
 

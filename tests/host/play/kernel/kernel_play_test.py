@@ -1,0 +1,287 @@
+#!/usr/bin/env python3
+"""`tavi play` on a real kernel: a keyboard and a mouse in, and what libinput and a reader of evdev see of it.
+
+    kernel_play_test.py TAVI HANDS EYES KERNEL_DIR WORK_DIR SOURCE_DIR
+
+Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script say what is to be
+seen, finger by finger. What is missing for that makes it skip, with exit status 77.
+"""
+import lzma
+import os
+import re
+import shutil
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument) for argument in sys.argv[1:7])
+HERE = Path(__file__).parent
+QEMU = "qemu-system-x86_64"
+BOOT_SECONDS = 200
+LIBINPUT = KERNEL / "libinput"
+
+# The shooter with two gestures more: a chord, and a pinch by a key.
+MORE_ITEMS = """
+  - {type: Click, label: Chord, key: H + J, point: [0.5, 0.25]}
+  - {type: Zoom, label: Pinch, key: Numpad Plus, point: [0.5, 0.5], speed: 50, duration_ms: 120, start_distance: 0.05}
+"""
+OTHER_KEYMAP = "format: 1\nitems:\n  - {type: Click, key: Space, point: [0.1, 0.2]}\n"
+
+SCRIPT = """
+down Space; wait 60; up Space; wait 100
+down H; wait 30; down J; wait 60; up J; wait 30; up H; wait 100
+down W; wait 200; down D; wait 200; up D; wait 100; up W; wait 200
+down Grave; wait 60; up Grave; wait 60
+rel 3,-2; wait 40; rel 5,-3; wait 40; rel 8,4; wait 40
+down Grave; wait 60; up Grave; wait 100
+down Numpad Plus; wait 60; up Numpad Plus; wait 300
+"""
+KEYS = {"Space": 57, "H": 35, "J": 36, "W": 17, "D": 32, "Grave": 41, "Numpad Plus": 78}
+
+
+def missing():
+    for program in (QEMU, "busybox", "cpio", "ldd"):
+        if not shutil.which(program):
+            return f"{program} is not installed (tools/install-dependencies.sh guest)"
+    for name in ("vmlinuz", "evdev.ko", "uinput.ko"):
+        if not (KERNEL / name).exists():
+            return f"no {name} in {KERNEL} (tests/host/uinput/kernel/fetch_kernel.sh {KERNEL})"
+    if not LIBINPUT.exists():
+        return f"no libinput in {KERNEL} (tests/host/play/kernel/fetch_libinput.sh {KERNEL})"
+    return None
+
+
+def hand_commands():
+    """The script as the hands take it."""
+    commands = []
+    for command in filter(None, (part.strip() for part in SCRIPT.replace("\n", ";").split(";"))):
+        verb, _, rest = command.partition(" ")
+        commands.append({"down": lambda r: f"key {KEYS[r]} 1", "up": lambda r: f"key {KEYS[r]} 0",
+                         "wait": lambda r: f"wait {r}", "rel": lambda r: "rel " + r.replace(",", " ")}[verb](rest))
+    return "\n".join(commands) + "\n"
+
+
+def run(*command, **options):
+    return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
+
+
+def expected_frames():
+    """What a screen is told of the script, as `tavi guest-uinput` says it."""
+    keymap = WORK / "root" / "keymap.yaml"
+    timeline = run(TAVI, "simulate", keymap, "-", input=SCRIPT)
+    events = run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline)
+    return [line.split()[1:] for line in events.splitlines() if line.startswith("screen ")]
+
+
+CODES = {(3, 0x2f): "ABS_MT_SLOT", (3, 0x39): "ABS_MT_TRACKING_ID", (3, 0x35): "ABS_MT_POSITION_X",
+         (3, 0x36): "ABS_MT_POSITION_Y"}
+
+
+def seen_frames(lines):
+    """The same of what the eyes saw."""
+    for line in lines:
+        kind, code, value, _ = (int(word) for word in line.split())
+        yield ["", CODES.get((kind, code), "SYN_REPORT" if kind == 0 else "?"), str(value)]
+
+
+def fingers(events):
+    """Each finger from going down to going up: its places, and whether it went up. In the order of going down."""
+    slot, down, all_of_them, place = 0, {}, [], {}
+    changed = set()
+    for _, code, value in events:
+        if code == "ABS_MT_SLOT":
+            slot = int(value)
+        elif code == "ABS_MT_TRACKING_ID":
+            if value == "-1":
+                if slot in down:
+                    down.pop(slot)["up"] = True
+            else:
+                down[slot] = {"places": [], "up": False}
+                all_of_them.append(down[slot])
+                changed.add(slot)
+        elif code in ("ABS_MT_POSITION_X", "ABS_MT_POSITION_Y"):
+            place.setdefault(slot, {})[code[-1]] = int(value)
+            changed.add(slot)
+        elif code == "SYN_REPORT":
+            for number in sorted(changed & set(down)):
+                spot = (place[number]["X"], place[number]["Y"])
+                if down[number]["places"][-1:] != [spot]:
+                    down[number]["places"].append(spot)
+            changed.clear()
+    return all_of_them
+
+
+def libraries(*programs):
+    environment = {**os.environ, "LD_LIBRARY_PATH": str(LIBINPUT / "usr/lib/x86_64-linux-gnu")}
+    text = "".join(run("ldd", program, env=environment) for program in programs)
+    return sorted(set(re.findall(r"(?:=> |^\s*)(/\S+)", text, re.MULTILINE)))
+
+
+def copy(source, target):
+    target.parent.mkdir(parents=True, exist_ok=True)
+    shutil.copy(source, target)
+
+
+def make_file_system():
+    root = WORK / "root"
+    shutil.rmtree(root, ignore_errors=True)
+    plugin = next(Path("/usr/lib").glob("*/qt5/plugins/platforms/libqoffscreen.so"))
+    debug_events = LIBINPUT / "usr/libexec/libinput/libinput-debug-events"
+    udev = [LIBINPUT / "bin/udevadm"]
+    helpers = sorted((LIBINPUT / "lib/udev").glob("libinput-*"))
+    for library in libraries(TAVI, HANDS, EYES, plugin, debug_events, *udev, *helpers):
+        name = library.split("/libinput/", 1)[1] if str(LIBINPUT) in library else library[1:]
+        copy(library, root / name)
+    copy(plugin, root / str(plugin)[1:])
+    copy(shutil.which("busybox"), root / "bin/busybox")
+    copy(HERE / "init.sh", root / "init")
+    (root / "init").chmod(0o755)
+    copy(LIBINPUT / "bin/udevadm", root / "bin/udevadm")
+    (root / "lib/systemd").mkdir(parents=True)
+    (root / "lib/systemd/systemd-udevd").symlink_to("/bin/udevadm")
+    for helper in helpers:
+        copy(helper, root / "lib/udev" / helper.name)
+    for rules in ("50-udev-default", "60-input-id", "60-evdev", "70-touchpad", "70-mouse", "70-joystick",
+                  "80-libinput-device-groups", "90-libinput-fuzz-override"):
+        copy(LIBINPUT / f"lib/udev/rules.d/{rules}.rules", root / f"lib/udev/rules.d/{rules}.rules")
+    shutil.copytree(LIBINPUT / "usr/share/libinput", root / "usr/share/libinput")
+    copy(debug_events, root / "usr/libexec/libinput/libinput-debug-events")
+    (root / "bin/sh").symlink_to("busybox")
+    (root / "etc").mkdir(exist_ok=True)
+    (root / "etc/passwd").write_text("root:x:0:0:root:/:/bin/sh\n", encoding="utf-8")
+    (root / "etc/group").write_text("root:x:0:\ninput:x:104:\ntty:x:5:\n", encoding="utf-8")
+    for program, name in ((TAVI, "tavi"), (HANDS, "hands"), (EYES, "eyes")):
+        subprocess.run(["strip", "-o", root / name, program], check=True)
+    for module in ("evdev.ko", "uinput.ko"):
+        copy(KERNEL / module, root / module)
+    shooter = (ROOT / "examples/keymaps/shooter.yaml").read_text(encoding="utf-8")
+    (root / "keymap.yaml").write_text(shooter + MORE_ITEMS, encoding="utf-8")
+    (root / "other.yaml").write_text(OTHER_KEYMAP, encoding="utf-8")
+    (root / "script").write_text(hand_commands(), encoding="utf-8")
+    with open(WORK / "root.cpio", "wb") as archive:
+        subprocess.run("find . | cpio --quiet -o -H newc", shell=True, cwd=root, stdout=archive, check=True)
+
+
+def kernel():
+    """The kernel without its own unpacking, which takes as long as all the rest: qemu starts an ELF file as it is."""
+    packed = (KERNEL / "vmlinuz").read_bytes()
+    start = packed.find(b"\xfd7zXZ\0")
+    if start < 0:
+        return KERNEL / "vmlinuz"
+    unpacked = WORK / "vmlinux"
+    unpacked.write_bytes(lzma.LZMADecompressor().decompress(packed[start:]))
+    return unpacked
+
+
+def boot():
+    """What the machine printed between its marks: the lines of each file, by its name."""
+    console = subprocess.run(
+        [QEMU, "-machine", "q35", "-cpu", "max", "-m", "1024", "-nographic", "-no-reboot", "-nic", "none",
+         "-kernel", kernel(), "-initrd", WORK / "root.cpio", "-append",
+         "console=ttyS0 quiet panic=-1 mitigations=off nokaslr cryptomgr.notests tsc=reliable"],
+        stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace", timeout=BOOT_SECONDS).stdout
+    text = console.replace("\r", "")
+    (WORK / "console.txt").write_text(text, encoding="utf-8")
+    if "=== begin\n" not in text or "=== end" not in text:
+        raise AssertionError("the machine did not come to its end:\n" + text)
+    files = text.split("=== begin\n")[1].split("=== end")[0].split("=== file ")[1:]
+    return {file.split("\n", 1)[0]: file.split("\n", 1)[1].splitlines() for file in files}
+
+
+def steps(lines):
+    """The lines of each step."""
+    found, name = {}, ""
+    for line in lines:
+        if line.startswith("step "):
+            name = line[5:]
+        found.setdefault(name, []).append(line)
+    return found
+
+
+class KernelPlay(unittest.TestCase):
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        make_file_system()
+        cls.files = boot()
+        cls.eyes = steps(cls.files["eyes"])
+        cls.libinput = steps(cls.files["libinput"])
+
+    def screen(self, step):
+        """The fingers that another reader saw."""
+        lines = [line[len("tavi screen|"):] for line in self.eyes[step] if re.match(r"tavi screen\|\d", line)]
+        return fingers(seen_frames(lines))
+
+    def board(self, step):
+        """The keys that another reader of the player's keyboard saw, with 1 for down and 0 for up."""
+        lines = [line.split("|")[1].split() for line in self.eyes[step] if re.match(r"Test Board\|1 ", line)]
+        return [(int(code), int(value)) for _, code, value, _ in lines if value != "2"]
+
+    def touches(self, step):
+        return [line for line in self.libinput.get(step, []) if "TOUCH_" in line]
+
+    def test_nothing_went_wrong(self):
+        self.assertEqual(self.files["problems"], [])
+
+    def test_the_list_tells_what_is_taken(self):
+        rows = [re.sub(r"^/dev/input/event\d+  ", "", line) for line in self.files["list"]]
+        self.assertIn('keyboard  "Test Board"  taken', rows)
+        self.assertIn('mouse  "Test Rat"  taken', rows)
+        self.assertIn('keyboard  "tavi keyboard"  not taken: a guest\'s own device', rows)
+
+    def test_the_script_is_seen_as_it_was_simulated(self):
+        self.assertEqual(self.screen("script"), fingers(expected_frames()))
+
+    def test_libinput_sees_the_same_fingers(self):
+        seen = self.touches("script")
+        count = len(fingers(expected_frames()))
+        self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), count)
+        self.assertEqual(sum("TOUCH_UP" in line for line in seen), count)
+        self.assertFalse([line for line in self.libinput["script"] if "KEYBOARD_KEY" in line])
+
+    def test_grabbed_keys_reach_no_other_reader(self):
+        self.assertEqual(self.board("script"), [])
+
+    def test_the_pause_key_gives_the_keyboard_back(self):
+        self.assertIn((57, 1), self.board("pause"))
+        self.assertIn((57, 0), self.board("pause"))
+        self.assertEqual(self.screen("pause"), [])
+
+    def test_the_pause_key_takes_it_again(self):
+        self.assertEqual(self.board("resume"), [(88, 1), (88, 0)])
+        self.assertEqual(self.screen("resume"), [{"places": [(1203, 533)], "up": True}])
+
+    def test_the_panic_key_lifts_everything_and_gives_the_keyboard_back(self):
+        walk = self.screen("panic")
+        self.assertEqual([finger["up"] for finger in walk], [True])
+        self.assertIn((57, 1), self.board("panic"))
+
+    def test_a_script_switches_keymaps(self):
+        answers = self.files["answers"]
+        self.assertRegex(answers[0], r"^state: mapping off, keymap.yaml \(\d+ items\), 1280x720, 1 keyboard, 1 mouse")
+        self.assertEqual(answers[1:3], ["resume: ok", "keymap /other.yaml: ok"])
+        self.assertEqual(answers[3], 'kemap /other.yaml: tavi play: unknown word "kemap"; did you mean "keymap"?')
+        self.assertEqual(self.screen("control"), [{"places": [(128, 144)], "up": True}])
+
+    def test_unplugging_with_a_key_down_lifts_the_walk(self):
+        self.assertEqual([finger["up"] for finger in self.screen("unplug")], [True])
+
+    def test_a_signal_lifts_what_is_down(self):
+        for step in ("term", "kill"):
+            with self.subTest(step):
+                self.assertEqual([finger["up"] for finger in self.screen(step)], [True])
+                seen = self.touches(step)
+                self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), 1)
+                self.assertEqual(sum("TOUCH_UP" in line for line in seen), 1, seen)
+        self.assertEqual(self.files["status"], ["after SIGTERM 143", "after SIGKILL 137"])
+
+
+if __name__ == "__main__":
+    reason = missing()
+    if reason:
+        print("Skipped:", reason)
+        sys.exit(77)
+    WORK.mkdir(parents=True, exist_ok=True)
+    unittest.main(argv=sys.argv[:1], verbosity=2)
