@@ -117,10 +117,12 @@ std::optional<double> ReadNumber(std::string_view text) {
 }
 
 // Away from zero below zero, then back: so halves go up on both sides.
+// NOLINTBEGIN(bugprone-incorrect-roundings): that is how hosts round
 int RoundToInt(double number) {
   if (number >= 0) return static_cast<int>(number + 0.5);
   const int below = static_cast<int>(number - 1);
   return static_cast<int>(number - below + 0.5) + below;
 }
+// NOLINTEND(bugprone-incorrect-roundings)
 
 }  // namespace taviguest

@@ -58,6 +58,7 @@ int Describe(int file, const DeviceDescription& description, const std::string& 
   for (const int key : description.keys) setup.Call(UI_SET_KEYBIT, key);
   if (!description.relative_axes.empty()) setup.Call(UI_SET_EVBIT, EV_REL);
   for (const int axis : description.relative_axes) setup.Call(UI_SET_RELBIT, axis);
+  if (!description.absolute_axes.empty()) setup.Call(UI_SET_EVBIT, EV_ABS);
   for (const AbsoluteAxis& axis : description.absolute_axes) {
     const uinput_abs_setup one = SetupOf(axis);
     setup.Call(UI_ABS_SETUP, &one);

@@ -46,11 +46,12 @@ take_hands() {
   hands=$!
   exec 4>/hands_in
 }
+# The machine has a keyboard of its own, too.
 start_play() {
   : >/log/play
   /tavi play --size 1280x720 "$@" /keymap.yaml >>/log/play 2>>/log/news 4>&- &
   play=$!
-  wait_for "^mapping on, keymap.yaml.*1 keyboard, 1 mouse" /log/play
+  wait_for "^mapping on, keymap.yaml.*2 keyboards, 1 mouse" /log/play
 }
 ask() { echo "$1: $(/tavi play --control "$1" 2>&1)" >>/log/answers; }
 
@@ -98,7 +99,7 @@ exec 4>&-
 wait $hands
 : >/log/play
 take_hands
-wait_for "1 keyboard, 1 mouse" /log/play
+wait_for "2 keyboards, 1 mouse" /log/play
 
 step term
 do_by_hand "key 17 1" "wait 300"

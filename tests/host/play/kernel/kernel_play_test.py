@@ -15,7 +15,7 @@ import sys
 import unittest
 from pathlib import Path
 
-TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument) for argument in sys.argv[1:7])
+TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument).resolve() for argument in sys.argv[1:7])
 HERE = Path(__file__).parent
 QEMU = "qemu-system-x86_64"
 BOOT_SECONDS = 200
@@ -260,7 +260,7 @@ class KernelPlay(unittest.TestCase):
 
     def test_a_script_switches_keymaps(self):
         answers = self.files["answers"]
-        self.assertRegex(answers[0], r"^state: mapping off, keymap.yaml \(\d+ items\), 1280x720, 1 keyboard, 1 mouse")
+        self.assertRegex(answers[0], r"^state: mapping off, keymap.yaml \(\d+ items\), 1280x720, 2 keyboards, 1 mouse")
         self.assertEqual(answers[1:3], ["resume: ok", "keymap /other.yaml: ok"])
         self.assertEqual(answers[3], 'kemap /other.yaml: tavi play: unknown word "kemap"; did you mean "keymap"?')
         self.assertEqual(self.screen("control"), [{"places": [(128, 144)], "up": True}])
