@@ -13,7 +13,10 @@ void GuestTarget::DeleteLater::operator()(TargetLink* link) const {
 
 GuestTarget::GuestTarget(QString name, LinkMaker make_link) : name_(std::move(name)), make_link_(std::move(make_link)) {
   clock_.start();
-  for (QTimer* timer : {&retry_, &leave_}) timer->setSingleShot(true);
+  for (QTimer* timer : {&retry_, &leave_}) {
+    timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer);
+  }
   connect(&retry_, &QTimer::timeout, this, &GuestTarget::Connect);
   connect(&leave_, &QTimer::timeout, this, &GuestTarget::Leave);
   retry_.start(0);

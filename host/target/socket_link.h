@@ -23,8 +23,8 @@ class SocketLink : public TargetLink {
     connect(&socket_, &Socket::errorOccurred, this, [this] { End(Problem()); });
     cut_.setSingleShot(true);
     connect(&cut_, &QTimer::timeout, this, [this] {
-      socket_.abort();
       End(QStringLiteral("it took no more lines"));
+      socket_.abort();
     });
   }
   ~SocketLink() override { socket_.disconnect(this); }

@@ -24,8 +24,8 @@ void TcpLink::Open() {
 
 void TcpLink::TakeConnection() {
   if (!may_be_remote_ && !socket_.peerAddress().isLoopback()) {
-    socket_.abort();
-    return End(QStringLiteral("it is another machine, which needs --allow-remote"));
+    End(QStringLiteral("it is another machine, which needs --allow-remote"));
+    return socket_.abort();
   }
   socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
   socket_.setSocketOption(QAbstractSocket::SendBufferSizeSocketOption, kSystemBytes);
