@@ -329,9 +329,11 @@ int Run(const Invocation& invocation) {
   GoOnWithoutReader();
   SetCleanUp({});  // signals have a thread of their own, which begins before all others
   DoWithoutWindowSystem();
-  const QGuiApplication application(invocation.argc, invocation.argv);
-  if (!options.control.isEmpty()) return AskForControl(options);
-  if (options.is_list) return ListDevices(options);
+  if (!options.control.isEmpty() || options.is_list) {
+    const QCoreApplication application(invocation.argc, invocation.argv);
+    return options.is_list ? ListDevices(options) : AskForControl(options);
+  }
+  const QGuiApplication application(invocation.argc, invocation.argv);  // the library asks it for the pointer
   return PlayOn(options);
 }
 

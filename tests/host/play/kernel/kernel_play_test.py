@@ -147,6 +147,8 @@ def make_file_system():
         copy(LIBINPUT / f"lib/udev/rules.d/{rules}.rules", root / f"lib/udev/rules.d/{rules}.rules")
     shutil.copytree(LIBINPUT / "usr/share/libinput", root / "usr/share/libinput")
     copy(debug_events, root / "usr/libexec/libinput/libinput-debug-events")
+    (root / "etc/fonts").mkdir(parents=True)
+    (root / "etc/fonts/fonts.conf").write_text("<fontconfig/>\n", encoding="utf-8")
     (root / "bin/sh").symlink_to("busybox")
     (root / "etc").mkdir(exist_ok=True)
     (root / "etc/passwd").write_text("root:x:0:0:root:/:/bin/sh\n", encoding="utf-8")
