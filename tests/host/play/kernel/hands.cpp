@@ -4,7 +4,7 @@
 //   key CODE VALUE    a key of the keyboard, or a button of the mouse from 272 on
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
-//   wait MS
+//   wait MS           at least: a machine that is slow makes no gesture shorter
 //   unplug            takes the keyboard away
 //   done WORD         prints WORD
 //
@@ -79,8 +79,7 @@ class Hands {
     if (verb == "key") Key(a, b);
     if (verb == "rel") Move(a, b);
     if (verb == "wheel") Turn(a);
-    if (verb == "wait") std::this_thread::sleep_until(now_ += std::chrono::milliseconds(a));
-    if (verb == "start") now_ = std::chrono::steady_clock::now();
+    if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
     if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
   }
 
@@ -103,7 +102,6 @@ class Hands {
 
   const int keyboard_ = MakeKeyboard();
   const int mouse_ = MakeMouse();
-  std::chrono::steady_clock::time_point now_ = std::chrono::steady_clock::now();
 };
 
 }  // namespace

@@ -36,7 +36,7 @@ step() {
 done_count=0
 do_by_hand() {
   done_count=$((done_count + 1))
-  { echo start; for command in "$@"; do echo "$command"; done; echo "done d$done_count."; } >&4
+  { for command in "$@"; do echo "$command"; done; echo "done d$done_count."; } >&4
   wait_for "d$done_count\\." /log/hands
 }
 take_hands() {
@@ -71,7 +71,7 @@ start_play
 step script
 do_by_hand_script() {
   done_count=$((done_count + 1))
-  { echo start; $bb cat /script; echo "done d$done_count."; } >&4
+  { $bb cat /script; echo "done d$done_count."; } >&4
   wait_for "d$done_count\\." /log/hands
 }
 do_by_hand_script

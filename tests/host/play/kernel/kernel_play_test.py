@@ -66,50 +66,68 @@ def run(*command, **options):
     return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
 
 
-def expected_frames():
+AXES = {0x35: "x", 0x36: "y", 0x2f: "slot", 0x39: "id"}
+NAMES = {"ABS_MT_POSITION_X": "x", "ABS_MT_POSITION_Y": "y", "ABS_MT_SLOT": "slot", "ABS_MT_TRACKING_ID": "id"}
+
+
+class Screen:
+    """Fingers of a touch screen, from its events. The kernel leaves out what did not change, also long before."""
+
+    def __init__(self):
+        self.slot, self.down, self.places, self.moved = 0, {}, {}, set()
+        self.fingers = []  # (step, finger): each from going down to going up, in the order of going down
+
+    def take(self, what, value, step=""):
+        if what == "slot":
+            self.slot = value
+        elif what == "id" and value == -1:
+            if self.slot in self.down:
+                self.down.pop(self.slot)["up"] = True
+        elif what == "id":
+            self.down[self.slot] = {"places": [], "up": False}
+            self.fingers.append((step, self.down[self.slot]))
+            self.moved.add(self.slot)
+        elif what in ("x", "y"):
+            self.places.setdefault(self.slot, {})[what] = value
+            self.moved.add(self.slot)
+        elif what == "report":
+            self.end_frame()
+
+    def end_frame(self):
+        for slot in sorted(self.moved & set(self.down)):
+            place = (self.places[slot]["x"], self.places[slot]["y"])
+            if self.down[slot]["places"][-1:] != [place]:
+                self.down[slot]["places"].append(place)
+        self.moved.clear()
+
+
+def expected_fingers():
     """What a screen is told of the script, as `tavi guest-uinput` says it."""
-    keymap = WORK / "root" / "keymap.yaml"
-    timeline = run(TAVI, "simulate", keymap, "-", input=SCRIPT)
+    timeline = run(TAVI, "simulate", WORK / "root" / "keymap.yaml", "-", input=SCRIPT)
     events = run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline)
-    return [line.split()[1:] for line in events.splitlines() if line.startswith("screen ")]
+    screen = Screen()
+    for line in events.splitlines():
+        device, kind, code, value = line.split()
+        if device == "screen":
+            screen.take("report" if kind == "EV_SYN" else NAMES.get(code, ""), int(value))
+    return [finger for _, finger in screen.fingers]
 
 
-CODES = {(3, 0x2f): "ABS_MT_SLOT", (3, 0x39): "ABS_MT_TRACKING_ID", (3, 0x35): "ABS_MT_POSITION_X",
-         (3, 0x36): "ABS_MT_POSITION_Y"}
-
-
-def seen_frames(lines):
-    """The same of what the eyes saw."""
+def seen_fingers(lines):
+    """The same of what the eyes saw, by step."""
+    screen, step, fingers = Screen(), "", {}
     for line in lines:
-        kind, code, value, _ = (int(word) for word in line.split())
-        yield ["", CODES.get((kind, code), "SYN_REPORT" if kind == 0 else "?"), str(value)]
-
-
-def fingers(events):
-    """Each finger from going down to going up: its places, and whether it went up. In the order of going down."""
-    slot, down, all_of_them, place = 0, {}, [], {}
-    changed = set()
-    for _, code, value in events:
-        if code == "ABS_MT_SLOT":
-            slot = int(value)
-        elif code == "ABS_MT_TRACKING_ID":
-            if value == "-1":
-                if slot in down:
-                    down.pop(slot)["up"] = True
-            else:
-                down[slot] = {"places": [], "up": False}
-                all_of_them.append(down[slot])
-                changed.add(slot)
-        elif code in ("ABS_MT_POSITION_X", "ABS_MT_POSITION_Y"):
-            place.setdefault(slot, {})[code[-1]] = int(value)
-            changed.add(slot)
-        elif code == "SYN_REPORT":
-            for number in sorted(changed & set(down)):
-                spot = (place[number]["X"], place[number]["Y"])
-                if down[number]["places"][-1:] != [spot]:
-                    down[number]["places"].append(spot)
-            changed.clear()
-    return all_of_them
+        if line.startswith("step "):
+            step = line[5:]
+        elif line == "tavi screen|gone":
+            screen = Screen()
+        elif match := re.match(r"tavi screen\|(\d+) (\d+) (-?\d+) ", line):
+            kind, code, value = (int(word) for word in match.groups())
+            before = len(screen.fingers)
+            screen.take("report" if kind == 0 else AXES.get(code, "") if kind == 3 else "", value, step)
+            for name, finger in screen.fingers[before:]:
+                fingers.setdefault(name, []).append(finger)
+    return fingers
 
 
 def libraries(*programs):
@@ -209,12 +227,12 @@ class KernelPlay(unittest.TestCase):
         make_file_system()
         cls.files = boot()
         cls.eyes = steps(cls.files["eyes"])
+        cls.fingers = seen_fingers(cls.files["eyes"])
         cls.libinput = steps(cls.files["libinput"])
 
     def screen(self, step):
-        """The fingers that another reader saw."""
-        lines = [line[len("tavi screen|"):] for line in self.eyes[step] if re.match(r"tavi screen\|\d", line)]
-        return fingers(seen_frames(lines))
+        """The fingers that another reader saw going down."""
+        return self.fingers.get(step, [])
 
     def board(self, step):
         """The keys that another reader of the player's keyboard saw, with 1 for down and 0 for up."""
@@ -234,11 +252,11 @@ class KernelPlay(unittest.TestCase):
         self.assertIn('keyboard  "tavi keyboard"  not taken: a guest\'s own device', rows)
 
     def test_the_script_is_seen_as_it_was_simulated(self):
-        self.assertEqual(self.screen("script"), fingers(expected_frames()))
+        self.assertEqual(self.screen("script"), expected_fingers())
 
     def test_libinput_sees_the_same_fingers(self):
         seen = self.touches("script")
-        count = len(fingers(expected_frames()))
+        count = len(expected_fingers())
         self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), count)
         self.assertEqual(sum("TOUCH_UP" in line for line in seen), count)
         self.assertFalse([line for line in self.libinput["script"] if "KEYBOARD_KEY" in line])
