@@ -24,9 +24,7 @@ const QString kItemsField = QStringLiteral("items");
 const QString kTypeField = QStringLiteral("type");
 const QString kLabelField = QStringLiteral("label");
 
-QStringList TopFields() {
-  return {kFormatField, kNameField, kPackageField, kSettingsField, kWheelField, kItemsField};
-}
+QStringList TopFields() { return {kFormatField, kNameField, kPackageField, kSettingsField, kWheelField, kItemsField}; }
 
 // A click without a chord is a plain item.
 void Simplify(std::unique_ptr<ConfigItem>* item) {

@@ -190,8 +190,8 @@ QString ReadOptions(const ParsedArguments& arguments, PlayOptions* options) {
 QString RowOf(const PlayDevices::Listed& entry) {
   if (!entry.problem.isEmpty()) return QStringLiteral("%1  not readable: %2\n").arg(entry.traits.path, entry.problem);
   const QString kind = WordOf(KindOf(entry.traits));
-  const QString fate = entry.refusal.isEmpty() ? QStringLiteral("taken")
-                                               : QStringLiteral("not taken: %1").arg(entry.refusal);
+  const QString fate =
+      entry.refusal.isEmpty() ? QStringLiteral("taken") : QStringLiteral("not taken: %1").arg(entry.refusal);
   return QStringLiteral("%1  %2  \"%3\"  %4\n").arg(entry.traits.path, kind, entry.traits.name, fate);
 }
 
@@ -296,8 +296,10 @@ int PlayOn(PlayOptions options) {
     FlushOutput();
   });
   const AppKeymaps apps(options.keymaps, AppKeymaps::UsualMemory());
-  PlayControl control(&session, options.keymaps.isEmpty() ? nullptr : &apps,
-                      [] { QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection); });
+  PlayControl control(&session, options.keymaps.isEmpty() ? nullptr : &apps, [] {
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
+  });
   ControlSocket socket([&control](const QString& line) { return control.Do(line); });
   QString problem = socket.Listen(options.socket);
   if (!problem.isEmpty()) {

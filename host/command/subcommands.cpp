@@ -24,10 +24,10 @@ namespace {
 const QString kHelpWord = QStringLiteral("help");
 
 const QVector<Subcommand>& Subcommands() {
-  static const QVector<Subcommand> all = {
-      WindowCommand(),     PlayCommand(),        SimulateCommand(),   CheckCommand(),
-      DrawCommand(),       KeysCommand(),        RecordInfoCommand(), RecordPlayCommand(),
-      RecordMergeCommand(), RecordDrawCommand(), GuestUinputCommand()};
+  static const QVector<Subcommand> all = {WindowCommand(),     PlayCommand(),       SimulateCommand(),
+                                          CheckCommand(),      DrawCommand(),       KeysCommand(),
+                                          RecordInfoCommand(), RecordPlayCommand(), RecordMergeCommand(),
+                                          RecordDrawCommand(), GuestUinputCommand()};
   return all;
 }
 

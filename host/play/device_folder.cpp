@@ -19,8 +19,7 @@ int NumberOf(const QString& name) { return name.midRef(kPrefix.size()).toInt(); 
 QStringList DeviceFolder::Paths() const {
   const QDir folder(folder_);
   QStringList names = folder.entryList({kPrefix + QLatin1Char('*')}, QDir::System | QDir::Files);
-  std::sort(names.begin(), names.end(),
-            [](const QString& a, const QString& b) { return NumberOf(a) < NumberOf(b); });
+  std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) { return NumberOf(a) < NumberOf(b); });
   QStringList paths;
   for (const QString& name : qAsConst(names)) paths += folder.filePath(name);
   return paths;

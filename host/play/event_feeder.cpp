@@ -28,9 +28,9 @@ struct ButtonRow {
 
 // As Qt numbers them under X11 and Wayland, so that a keymap is one for the window and for this.
 constexpr ButtonRow kButtons[] = {
-    {BTN_LEFT, Qt::LeftButton},       {BTN_RIGHT, Qt::RightButton},       {BTN_MIDDLE, Qt::MiddleButton},
-    {BTN_SIDE, Qt::BackButton},       {BTN_EXTRA, Qt::ForwardButton},     {BTN_FORWARD, Qt::ExtraButton3},
-    {BTN_BACK, Qt::ExtraButton4},     {BTN_TASK, Qt::ExtraButton5},
+    {BTN_LEFT, Qt::LeftButton},   {BTN_RIGHT, Qt::RightButton},   {BTN_MIDDLE, Qt::MiddleButton},
+    {BTN_SIDE, Qt::BackButton},   {BTN_EXTRA, Qt::ForwardButton}, {BTN_FORWARD, Qt::ExtraButton3},
+    {BTN_BACK, Qt::ExtraButton4}, {BTN_TASK, Qt::ExtraButton5},
 };
 
 struct ModifierRow {

@@ -70,10 +70,10 @@ class EventFeeder : public QObject {
 
   ReservedKeys* const reserved_;
   double speed_ = 1;
-  std::map<int, Key> keys_;       // that are down, by the kernel's code
-  QPointF place_{0.5, 0.5};       // of the pointer, in fractions of the display, which may change its size
-  int turned_ = 0;                // of the wheel, less than a notch
-  QHash<int, NativeKey> natives_; // by the kernel's code
+  std::map<int, Key> keys_;        // that are down, by the kernel's code
+  QPointF place_{0.5, 0.5};        // of the pointer, in fractions of the display, which may change its size
+  int turned_ = 0;                 // of the wheel, less than a notch
+  QHash<int, NativeKey> natives_;  // by the kernel's code
 };
 
 }  // namespace tavi

@@ -144,7 +144,8 @@ void PlayDevices::TellRefusal(Device* device) {
   const bool is_refused = device->grab->GetState() == DeviceGrab::State::kRefused;
   if (is_refused) retrying_.start();
   if (!is_refused || std::exchange(device->is_refusal_told, true)) return;
-  Q_EMIT Told(QStringLiteral("%1 is not played with: %2").arg(Quoted(device->device->Traits()), device->grab->Problem()));
+  Q_EMIT Told(
+      QStringLiteral("%1 is not played with: %2").arg(Quoted(device->device->Traits()), device->grab->Problem()));
 }
 
 void PlayDevices::Retry() {

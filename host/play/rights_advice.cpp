@@ -46,7 +46,8 @@ QString WayOut() {
   gid_t group = 0;
   if (!FindGroup(kDeviceGroup, &group)) {
     return QStringLiteral(
-        "The Debian package of tavi brings a rule of udev and the group \"tavi\" for it; docs/play.md tells the same by "
+        "The Debian package of tavi brings a rule of udev and the group \"tavi\" for it; docs/play.md tells the same "
+        "by "
         "hand. As root it works at once.");
   }
   if (IsMember(group)) {

@@ -20,8 +20,8 @@ struct LoadResult;
 
 namespace tavi {
 
-// Keys that the program keeps for itself. In a window they are taken from all events of the application before any widget sees them,
-// so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
+// Keys that the program keeps for itself. In a window they are taken from all events of the application before any
+// widget sees them, so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
 //
 // A press acts once, however long the key is held. Main thread.
 class ReservedKeys : public QObject {

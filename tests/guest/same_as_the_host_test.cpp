@@ -11,8 +11,8 @@
 #include "guest/guest_line.h"
 #include "guest/scan_codes.h"
 #include "guest/utf8.h"
-#include "host/guest_line.h"
-#include "host/guest_model.h"
+#include "host/guest/guest_line.h"
+#include "host/guest/guest_model.h"
 #include "keymap/scan_codes.h"
 
 namespace taviguest {

@@ -1,11 +1,11 @@
 // What a script may ask of a player at work.
-#include "host/play/control_words.h"
+#include <thread>
 
 #include <QDir>
 #include <QEventLoop>
-#include <thread>
 
 #include "host/play/control_socket.h"
+#include "host/play/control_words.h"
 #include "host/play/play_control.h"
 #include "host/play/screen_size.h"
 #include "tests/host/play/play_fixture.h"
@@ -98,8 +98,7 @@ TEST_F(Control, PauseAndResume) {
   Start(kTap);
   EXPECT_EQ(Ask("pause"), "ok");
   EXPECT_FALSE(keyboard_->is_grabbed);
-  EXPECT_EQ(Ask("state"),
-            "ok mapping off, keymap.yaml (1 item), 1280x720, 1 keyboard, 1 mouse, no gamepad");
+  EXPECT_EQ(Ask("state"), "ok mapping off, keymap.yaml (1 item), 1280x720, 1 keyboard, 1 mouse, no gamepad");
   EXPECT_EQ(Ask("resume"), "ok");
   EXPECT_TRUE(keyboard_->is_grabbed);
   EXPECT_EQ(Ask("state"), "ok mapping on, keymap.yaml (1 item), 1280x720, 1 keyboard, 1 mouse, no gamepad");
@@ -185,7 +184,8 @@ ControlAnswer AskFromElsewhere(const QString& name, const QString& line) {
   QEventLoop loop;
   std::thread other([&] {
     answer = AskPlayer(name, line);
-    QMetaObject::invokeMethod(&loop, [&loop] { loop.quit(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &loop, [&loop] { loop.quit(); }, Qt::QueuedConnection);
   });
   loop.exec();
   other.join();

@@ -114,7 +114,10 @@ TEST_F(Feeding, EachButtonHasItsName) {
     int code;
     const char* name;
   } rows[] = {
-      {BTN_RIGHT, "Mouse Right"}, {BTN_MIDDLE, "Mouse Middle"}, {BTN_SIDE, "Mouse Side 1"}, {BTN_EXTRA, "Mouse Side 2"},
+      {BTN_RIGHT, "Mouse Right"},
+      {BTN_MIDDLE, "Mouse Middle"},
+      {BTN_SIDE, "Mouse Side 1"},
+      {BTN_EXTRA, "Mouse Side 2"},
   };
   Start("");
   for (const auto& row : rows) {
@@ -163,8 +166,9 @@ TEST_F(Feeding, AWheelThatGoesSidewaysIsNothing) {
 
 // ---- View control
 
-constexpr char kView[] = "{type: Staring, key: Grave, point: [0.5, 0.5], press_interval_ms: 20, move_interval_ms: 8,"
-                         " auto_reset_period_ms: 0}";
+constexpr char kView[] =
+    "{type: Staring, key: Grave, point: [0.5, 0.5], press_interval_ms: 20, move_interval_ms: 8,"
+    " auto_reset_period_ms: 0}";
 
 // The first counts put the finger down; from then on, with sensitivities of 100, a count is a pixel of its way.
 TEST_F(Feeding, InViewControlTheCountsTurnTheViewAndThePointerStays) {

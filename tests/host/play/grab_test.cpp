@@ -140,7 +140,8 @@ TEST_F(Grab, AKeymapThatUsesAReservedKeyIsTold) {
   Start(kTap);
   ASSERT_EQ(session_->LoadKeymap(Write("f12.yaml", "{type: Click, key: F12, point: [0.5, 0.5]}")), QString());
   ASSERT_EQ(told_.size(), 1);
-  EXPECT_TRUE(told_[0].contains("tavi play keeps F12 for itself, so this item never gets it")) << told_[0].toStdString();
+  EXPECT_TRUE(told_[0].contains("tavi play keeps F12 for itself, so this item never gets it"))
+      << told_[0].toStdString();
 }
 
 // ---- Plugging
