@@ -20,7 +20,7 @@ _tavi_files() {
 _tavi_value() {
   case "$1 $2" in
     "window --joystick") _tavi_files yaml yml ;;
-    "window --guest") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "window --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
     "window --rotation") _tavi_words "0 90 180 270" ;;
     "window --pixel-ratio") return 0 ;;
     "window --background") _tavi_files png jpg jpeg webp bmp ;;
@@ -29,10 +29,21 @@ _tavi_value() {
     "window --panic-key") return 0 ;;
     "window --record") _tavi_files json ;;
     "window --replay") _tavi_files json ;;
+    "window --guest") return 0 ;;
     "window --listen") return 0 ;;
     "window --mirror") return 0 ;;
     "window --picture") _tavi_files png ;;
     "window --after") return 0 ;;
+    "play --joystick") _tavi_files yaml yml ;;
+    "play --device") return 0 ;;
+    "play --guest") return 0 ;;
+    "play --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "play --rotation") _tavi_words "0 90 180 270" ;;
+    "play --speed") return 0 ;;
+    "play --pause-key") return 0 ;;
+    "play --panic-key") return 0 ;;
+    "play --name") return 0 ;;
+    "play --control") return 0 ;;
     "simulate --svg") _tavi_files svg ;;
     "simulate --record") _tavi_files json ;;
     "simulate --package") return 0 ;;
@@ -41,7 +52,8 @@ _tavi_value() {
     "draw --background") _tavi_files png jpg jpeg webp bmp ;;
     "draw --joystick") _tavi_files yaml yml ;;
     "record play --speed") return 0 ;;
-    "record play --guest") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "record play --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "record play --guest") return 0 ;;
     "record merge -o") _tavi_files json ;;
     "record merge --times") return 0 ;;
     "record merge --delay") return 0 ;;
@@ -60,13 +72,14 @@ _tavi_value() {
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --guest --rotation --pixel-ratio --background --look --pause-key --panic-key --paused --fresh --events --record --replay --second-view --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
+    "play") echo "--joystick --device --guest --allow-remote --size --rotation --speed --pause-key --panic-key --paused --name --control --list" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;
     "keys") echo "--joystick --json" ;;
     "record info") echo "" ;;
-    "record play") echo "--speed --emulation --guest --live" ;;
+    "record play") echo "--speed --emulation --size --live --guest --allow-remote" ;;
     "record merge") echo "-o --times --delay --speed --gap" ;;
     "record draw") echo "-o" ;;
     "guest-uinput") echo "--input --listen --size --display --for --keyboard --name --timeline --dry-run" ;;
@@ -76,6 +89,7 @@ _tavi_options() {
 _tavi_operand() {
   case $1 in
     "window") _tavi_files yaml yml ;;
+    "play") _tavi_files yaml yml ;;
     "simulate") _tavi_files yaml yml txt ;;
     "check") _tavi_files yaml yml ;;
     "draw") _tavi_files yaml yml ;;
@@ -93,12 +107,12 @@ _tavi() {
   [ "$cur" = = ] && cur=
   [ "$previous" = = ] && previous=${COMP_WORDS[COMP_CWORD - 2]}
   if [ "$COMP_CWORD" -eq 1 ]; then
-    _tavi_words "window simulate check draw keys record guest-uinput help --help --version"
+    _tavi_words "window play simulate check draw keys record guest-uinput help --help --version"
     return
   fi
   if [ "$command" = help ]; then
     command=${COMP_WORDS[2]}
-    [ "$COMP_CWORD" -eq 2 ] && _tavi_words "window simulate check draw keys record guest-uinput"
+    [ "$COMP_CWORD" -eq 2 ] && _tavi_words "window play simulate check draw keys record guest-uinput"
     [ "$COMP_CWORD" -eq 3 ] && _tavi_group "$command"
     return
   fi

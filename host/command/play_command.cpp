@@ -207,6 +207,7 @@ int ListDevices(const PlayOptions& options) {
   DeviceFolder folder;
   const std::vector<PlayDevices::Listed> list = PlayDevices::List(&folder, options.settings.devices);
   for (const PlayDevices::Listed& entry : list) Print(RowOf(entry));
+  FlushOutput();  // the words about it come behind it
   if (list.empty()) Tell(QStringLiteral("there are no devices in %1").arg(QLatin1String(DeviceFolder::kUsualFolder)));
   const QString advice = RightsAdvice(UnreadableIn(list), options.targets.isEmpty());
   Tell(advice);
@@ -283,6 +284,36 @@ bool IsAnythingMissing(const PlayOptions& options) {
   return !advice.isEmpty();
 }
 
+// False where another one plays under this name. One that cannot be spoken to plays all the same.
+bool Listen(const QString& name, ControlSocket* socket) {
+  const QString problem = socket->Listen(name);
+  if (problem.isEmpty()) return true;
+  const bool is_taken = ControlSocket::HasPlace();
+  Tell(is_taken ? QStringLiteral("%1; --name takes another name").arg(problem)
+                : QStringLiteral("--control will not work: %1").arg(problem));
+  return !is_taken;
+}
+
+void TellState(const QString& state) {
+  Print(state + QLatin1Char('\n'));
+  FlushOutput();
+}
+
+// The exit status of a player that came to its end.
+int PlayToTheEnd(PlaySession* session, PlayControl* control) {
+  session->ReadGamepads();
+  const int status = QCoreApplication::exec();
+  session->End();
+  const QString problem = control->Records()->SaveAtEnd();
+  Tell(problem);
+  return status == kExitDone && !problem.isEmpty() ? kExitProblem : status;
+}
+
+void Quit() {
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
+}
+
 int PlayOn(PlayOptions options) {
   if (IsAnythingMissing(options)) return kExitProblem;
   const InterruptionWatch interruptions;
@@ -291,22 +322,12 @@ int PlayOn(PlayOptions options) {
   const std::unique_ptr<GuestOutlet> outlet = MakeOutlet(options);
   PlaySession session(&folder, outlet.get(), options.settings);
   QObject::connect(&session, &PlaySession::Told, Tell);
-  QObject::connect(&session, &PlaySession::StateChanged, [](const QString& state) {
-    Print(state + QLatin1Char('\n'));
-    FlushOutput();
-  });
+  QObject::connect(&session, &PlaySession::StateChanged, TellState);
   const AppKeymaps apps(options.keymaps, AppKeymaps::UsualMemory());
-  PlayControl control(&session, options.keymaps.isEmpty() ? nullptr : &apps, [] {
-    QMetaObject::invokeMethod(
-        qApp, [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
-  });
+  PlayControl control(&session, options.keymaps.isEmpty() ? nullptr : &apps, Quit);
   ControlSocket socket([&control](const QString& line) { return control.Do(line); });
-  QString problem = socket.Listen(options.socket);
-  if (!problem.isEmpty()) {
-    Tell(QStringLiteral("%1; --name takes another name").arg(problem));
-    return kExitProblem;
-  }
-  problem = session.Start();
+  if (!Listen(options.socket, &socket)) return kExitProblem;
+  QString problem = session.Start();
   if (!problem.isEmpty()) {
     Tell(problem);
     return kExitProblem;
@@ -316,12 +337,7 @@ int PlayOn(PlayOptions options) {
     Tell(problem);
     return kExitUsage;
   }
-  session.ReadGamepads();
-  const int status = QCoreApplication::exec();
-  session.End();
-  const QString kept = control.Records()->SaveAtEnd();
-  Tell(kept);
-  return status == kExitDone && !kept.isEmpty() ? kExitProblem : status;
+  return PlayToTheEnd(&session, &control);
 }
 
 int Run(const Invocation& invocation) {

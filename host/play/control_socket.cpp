@@ -29,6 +29,8 @@ QByteArray LineOf(const ControlAnswer& answer) {
 
 }  // namespace
 
+bool ControlSocket::HasPlace() { return !MirrorAddressOf(SocketNameOf(QLatin1String(kUsualName))).isEmpty(); }
+
 ControlSocket::ControlSocket(Handler handler, QObject* parent) : QObject(parent), handler_(std::move(handler)) {
   connect(&listener_, &MirrorListener::Connected, this, &ControlSocket::TakeConnection);
 }

@@ -26,6 +26,9 @@ class ControlSocket : public QObject {
  public:
   static constexpr char kUsualName[] = "play";
 
+  // Whether there is a folder of the user's own for it.
+  static bool HasPlace();
+
   using Handler = std::function<ControlAnswer(const QString& line)>;
   // `handler` is called for each line; the lines of its answer go out as one.
   explicit ControlSocket(Handler handler, QObject* parent = nullptr);

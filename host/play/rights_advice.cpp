@@ -1,6 +1,7 @@
 #include "host/play/rights_advice.h"
 
 #include <grp.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -31,6 +32,14 @@ bool IsMember(gid_t group) {
 
 bool IsUinputThere() { return access(kUinput, F_OK) == 0; }
 
+// The rule is at work.
+bool IsUinputOfGroup() {
+  gid_t group = 0;
+  struct stat status {};
+  const bool is_known = FindGroup(kDeviceGroup, &group) && stat(kUinput, &status) == 0;
+  return is_known && status.st_gid == group && (status.st_mode & S_IWGRP) != 0;
+}
+
 QString UinputProblem() {
   if (access(kUinput, W_OK) == 0) return {};
   return QStringLiteral("%1 may not be written to, which the touch screen is made through").arg(QLatin1String(kUinput));
@@ -41,21 +50,22 @@ QString DevicesProblem(const QStringList& unreadable) {
   return QStringLiteral("%1 may not be read").arg(unreadable.join(QStringLiteral(", ")));
 }
 
-// By the package's group, or where there is none by hand.
-QString WayOut() {
+// `lacks_uinput`: in the group, that is the rule's.
+QString WayOut(bool lacks_uinput) {
   gid_t group = 0;
   if (!FindGroup(kDeviceGroup, &group)) {
-    return QStringLiteral(
-        "The Debian package of tavi brings a rule of udev and the group \"tavi\" for it; docs/play.md tells the same "
-        "by "
-        "hand. As root it works at once.");
+    return QStringLiteral("There is no group \"input\" here that could be given the rights. As root it works at once.");
   }
-  if (IsMember(group)) {
-    return QStringLiteral(
-        "You are in the group \"tavi\", so the rule of udev is not at work yet. As root: udevadm control --reload; "
-        "udevadm trigger --subsystem-match=input --subsystem-match=misc");
+  QStringList steps;
+  if (!IsMember(group)) {
+    steps += QStringLiteral("As root: adduser YOUR-NAME input. Then log out and in again.");
   }
-  return QStringLiteral("The group \"tavi\" may. As root: adduser YOUR-NAME tavi. Then log out and in again.");
+  if (lacks_uinput) {
+    steps += QStringLiteral(
+        "The Debian package of tavi has a rule of udev that lets the group \"input\" make devices "
+        "(/lib/udev/rules.d/60-tavi.rules). At once, as root: chgrp input /dev/uinput; chmod 660 /dev/uinput");
+  }
+  return steps.join(QLatin1Char('\n'));
 }
 
 }  // namespace
@@ -64,10 +74,12 @@ QString RightsAdvice(const QStringList& unreadable, bool needs_uinput) {
   if (needs_uinput && !IsUinputThere()) {
     return QStringLiteral("%1 is not there. As root: modprobe uinput").arg(QLatin1String(kUinput));
   }
-  QStringList problems{DevicesProblem(unreadable), needs_uinput ? UinputProblem() : QString()};
+  const QString uinput = needs_uinput ? UinputProblem() : QString();
+  QStringList problems{DevicesProblem(unreadable), uinput};
   problems.removeAll(QString());
   if (problems.isEmpty()) return {};
-  return problems.join(QLatin1Char('\n')) + QLatin1Char('\n') + WayOut();
+  problems += WayOut(!uinput.isEmpty() && !IsUinputOfGroup());
+  return problems.join(QLatin1Char('\n'));
 }
 
 }  // namespace tavi

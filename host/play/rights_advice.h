@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-// The group that the Debian package gives the devices to.
-constexpr char kDeviceGroup[] = "tavi";
+// The group that may read input devices, and that the rule of udev in the Debian package lets make some.
+constexpr char kDeviceGroup[] = "input";
 
 // What a user lacks who wants to play, with the commands that give it, for people; empty where nothing is missing.
 // `unreadable` are devices that cannot be opened because of their rights, `needs_uinput` whether devices are made here.

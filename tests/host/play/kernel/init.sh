@@ -14,8 +14,9 @@ $bb mkdir -m 700 /run/player
 $bb ip link set lo up
 $bb insmod /evdev.ko
 $bb insmod /uinput.ko
-/lib/systemd/systemd-udevd --daemon --resolve-names=never
+/lib/systemd/systemd-udevd --daemon --resolve-names=early
 /bin/udevadm trigger --action=add --subsystem-match=input
+/bin/udevadm trigger --action=add --subsystem-match=misc --sysname-match=uinput
 /bin/udevadm settle
 
 # wait_for WORDS FILE: until the file has a line with the words, or 20 s are over
@@ -56,7 +57,7 @@ start_play() {
 ask() { echo "$1: $(/tavi play --control "$1" 2>&1)" >>/log/answers; }
 
 $bb mkdir /log
-for name in eyes libinput hands play news answers problems list status; do : >/log/$name; done
+for name in eyes libinput hands play news answers problems list rights status; do : >/log/$name; done
 take_hands
 wait_for ready /log/hands
 /bin/udevadm settle
@@ -65,6 +66,15 @@ eyes=$!
 /usr/libexec/libinput/libinput-debug-events >>/log/libinput 2>>/log/problems 4>&- &
 libinput=$!
 /tavi play --list >>/log/list 2>&1
+
+# Somebody without rights, and somebody in the group that the rule of udev is for.
+for name in nobody player; do
+  echo "$name" >>/log/rights
+  $bb mkdir -p "/run/of_$name" && $bb chown "$name" "/run/of_$name" && $bb chmod 700 "/run/of_$name"
+  $bb su -s /bin/sh "$name" -c "export XDG_RUNTIME_DIR=/run/of_$name; /tavi play --list; echo list \$?; /tavi play --control state; echo control \$?" \
+    >>/log/rights 2>&1
+done
+$bb su -s /bin/sh nobody -c "export XDG_RUNTIME_DIR=/run/of_nobody; /tavi play /keymap.yaml; echo play \$?" >>/log/rights 2>&1
 
 start_play
 /tavi play --list >>/log/list 2>&1
@@ -123,7 +133,7 @@ wait $libinput
 $bb kill $eyes
 
 echo "=== begin"
-for name in problems list news answers status eyes libinput; do
+for name in problems list rights news answers status eyes libinput; do
   echo "=== file $name"
   $bb cat /log/$name
 done

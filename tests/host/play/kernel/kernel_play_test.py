@@ -163,14 +163,15 @@ def make_file_system():
     for rules in ("50-udev-default", "60-input-id", "60-evdev", "70-touchpad", "70-mouse", "70-joystick",
                   "80-libinput-device-groups", "90-libinput-fuzz-override"):
         copy(LIBINPUT / f"lib/udev/rules.d/{rules}.rules", root / f"lib/udev/rules.d/{rules}.rules")
+    copy(ROOT / "packaging/60-tavi.rules", root / "lib/udev/rules.d/60-tavi.rules")
     shutil.copytree(LIBINPUT / "usr/share/libinput", root / "usr/share/libinput")
     copy(debug_events, root / "usr/libexec/libinput/libinput-debug-events")
     (root / "etc/fonts").mkdir(parents=True)
     (root / "etc/fonts/fonts.conf").write_text("<fontconfig/>\n", encoding="utf-8")
     (root / "bin/sh").symlink_to("busybox")
     (root / "etc").mkdir(exist_ok=True)
-    (root / "etc/passwd").write_text("root:x:0:0:root:/:/bin/sh\n", encoding="utf-8")
-    (root / "etc/group").write_text("root:x:0:\ninput:x:104:\ntty:x:5:\n", encoding="utf-8")
+    (root / "etc/passwd").write_text("root:x:0:0:root:/:/bin/sh\nnobody:x:65534:65534::/tmp:/bin/sh\nplayer:x:1000:1000::/tmp:/bin/sh\n", encoding="utf-8")
+    (root / "etc/group").write_text("root:x:0:\ninput:x:104:player\ntty:x:5:\nnogroup:x:65534:\n", encoding="utf-8")
     for program, name in ((TAVI, "tavi"), (HANDS, "hands"), (EYES, "eyes")):
         subprocess.run(["strip", "-o", root / name, program], check=True)
     for module in ("evdev.ko", "uinput.ko"):
@@ -250,6 +251,18 @@ class KernelPlay(unittest.TestCase):
         self.assertIn('keyboard  "Test Board"  taken', rows)
         self.assertIn('mouse  "Test Rat"  taken', rows)
         self.assertIn('keyboard  "tavi keyboard"  not taken: a guest\'s own device', rows)
+
+    def test_who_lacks_rights_is_told_what_gives_them(self):
+        text = "\n".join(self.files["rights"])
+        without, member = text.split("player\n")[0], text.split("player\n")[1].split("tavi play: /dev/uinput")[0]
+        self.assertIn("/dev/input/event1  not readable: Permission denied", without)
+        self.assertIn("/dev/uinput may not be written to, which the touch screen is made through", without)
+        self.assertIn("As root: adduser YOUR-NAME input. Then log out and in again.", without)
+        self.assertIn("list 1\n", without)
+        self.assertIn('keyboard  "Test Board"  taken', member)
+        self.assertIn("list 0\n", member)
+        self.assertIn('no "tavi play" of yours runs under the name "play"\ncontrol 1', member)
+        self.assertTrue(text.endswith("\nplay 1"), text)
 
     def test_the_script_is_seen_as_it_was_simulated(self):
         self.assertEqual(self.screen("script"), expected_fingers())
