@@ -42,6 +42,7 @@ _tavi_value() {
     "play --speed") return 0 ;;
     "play --pause-key") return 0 ;;
     "play --panic-key") return 0 ;;
+    "play --keymaps") return 0 ;;
     "play --name") return 0 ;;
     "play --control") return 0 ;;
     "simulate --svg") _tavi_files svg ;;
@@ -73,7 +74,7 @@ _tavi_value() {
 _tavi_options() {
   case $1 in
     "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
-    "play") echo "--joystick --device --guest --allow-remote --size --rotation --speed --pause-key --panic-key --paused --name --control --list" ;;
+    "play") echo "--joystick --device --guest --allow-remote --size --rotation --speed --pause-key --panic-key --paused --keymaps --name --control --list" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;

@@ -44,8 +44,8 @@ constexpr char kHelp[] =
     "                   gamepad reaches the guest as one\n"
     "  --device DEVICE  only this device, by its name or its file; again for each further one\n"
     "                   (all keyboards and mice)\n"
-    "  --guest TARGET   send the guest's lines there, and make no devices here; again for each\n"
-    "                   further one: exec:COMMAND, unix:PATH, tcp:HOST:PORT, uinput\n"
+    "  --guest TARGET   send the guest's lines there, and make no devices here; again for\n"
+    "                   each further one: exec:COMMAND, unix:PATH, tcp:HOST:PORT, uinput\n"
     "  --allow-remote   let tcp: be another machine; what is typed can be read on the way\n"
     "  --size WxH       the guest's touch screen in pixels, each side from 1 to 16384 (this\n"
     "                   computer's screen, where it is known, else 1280x720)\n"
@@ -56,7 +56,8 @@ constexpr char kHelp[] =
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
     "                   and macros, and gives the devices back (Ctrl+Alt+Backspace)\n"
     "  --paused         begin with the mapping off\n"
-    "  --keymaps FOLDER keymaps of apps, told apart by their field \"package\"; without\n"
+    "  --keymaps FOLDER\n"
+    "                   keymaps of apps, told apart by their field \"package\"; without\n"
     "                   KEYMAP, that of the app that was played last\n"
     "  --name NAME      the name that --control finds it by, a word of letters, digits, -\n"
     "                   and _ (play)\n"
@@ -76,7 +77,7 @@ constexpr char kHelp[] =
     "it could not play or the answer was an error, 2 for a wrong command line or a keymap\n"
     "that cannot be used, 128 and the signal's number after a signal.\n"
     "\n"
-    "Example: tavi play --list\n";
+    "Example: tavi play examples/keymaps/shooter.yaml\n";
 
 const QString kName = QStringLiteral("play");
 const QString kJoystick = QStringLiteral("--joystick");

@@ -5,12 +5,13 @@
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
 //   wait MS           at least: a machine that is slow makes no gesture shorter
-//   unplug            takes the keyboard away
-//   done WORD         prints WORD
+//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, the time in
+//   microseconds unplug            takes the keyboard away done WORD         prints WORD
 //
 // Prints "ready" when the devices are there; they go with the program.
 #include <chrono>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <iostream>
 #include <linux/uinput.h>
@@ -19,6 +20,7 @@
 #include <sys/ioctl.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -80,6 +82,7 @@ class Hands {
     if (verb == "rel") Move(a, b);
     if (verb == "wheel") Turn(a);
     if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
+    if (verb == "race") Race(a, b);
     if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
   }
 
@@ -88,6 +91,20 @@ class Hands {
     const int file = code >= BTN_MOUSE ? mouse_ : keyboard_;
     Emit(file, EV_KEY, code, value);
     Report(file);
+  }
+  // Printed at the end: what is measured is not to wait for it.
+  void Race(int code, int times) {
+    std::vector<long long> presses;
+    for (int i = 0; i < times; ++i) {
+      timespec now{};
+      clock_gettime(CLOCK_MONOTONIC, &now);
+      presses.push_back(now.tv_sec * 1000000LL + now.tv_nsec / 1000);
+      Key(code, 1);
+      std::this_thread::sleep_for(std::chrono::milliseconds(8));
+      Key(code, 0);
+      std::this_thread::sleep_for(std::chrono::milliseconds(8));
+    }
+    for (const long long press : presses) std::cout << "press " << press << '\n';
   }
   void Move(int dx, int dy) {
     Emit(mouse_, EV_REL, REL_X, dx);

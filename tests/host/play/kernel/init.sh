@@ -61,7 +61,7 @@ for name in eyes libinput hands play news answers problems list rights status; d
 take_hands
 wait_for ready /log/hands
 /bin/udevadm settle
-/eyes "Test Board" "tavi screen" >>/log/eyes 2>>/log/problems 4>&- &
+/eyes "Test Board" "tavi screen" "bare screen" >>/log/eyes 2>>/log/problems 4>&- &
 eyes=$!
 /usr/libexec/libinput/libinput-debug-events >>/log/libinput 2>>/log/problems 4>&- &
 libinput=$!
@@ -126,6 +126,26 @@ wait $play
 echo "after SIGKILL $?" >>/log/status
 $bb sleep 0.5
 do_by_hand "key 17 0" "wait 100"
+# Rounds of a race between the player and the least that there can be; only for programs that are built to be fast.
+race() {
+  step "race $1"
+  echo "race $1" >>/log/hands
+  do_by_hand "race 57 150" "wait 200"
+}
+if [ -e /race ]; then
+  for round in 1 2 3 4; do
+    /bare 2>>/log/problems 4>&- &
+    bare=$!
+    $bb sleep 1
+    race bare
+    $bb kill $bare
+    start_play
+    $bb sleep 1
+    race play
+    $bb kill $play
+    wait $play
+  done
+fi
 step end
 $bb sleep 0.3
 $bb kill -INT $libinput
@@ -133,7 +153,7 @@ wait $libinput
 $bb kill $eyes
 
 echo "=== begin"
-for name in problems list rights news answers status eyes libinput; do
+for name in problems list rights news answers status hands eyes libinput; do
   echo "=== file $name"
   $bb cat /log/$name
 done

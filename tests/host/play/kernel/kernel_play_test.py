@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
 """`tavi play` on a real kernel: a keyboard and a mouse in, and what libinput and a reader of evdev see of it.
 
-    kernel_play_test.py TAVI HANDS EYES KERNEL_DIR WORK_DIR SOURCE_DIR
+    kernel_play_test.py TAVI HANDS EYES KERNEL_DIR WORK_DIR SOURCE_DIR [BARE]
+
+With BARE, which is the least that there can be between a keyboard and a touch screen, the time from a key to its touch
+is measured too, beside that of BARE. TAVI is to be a release build then.
 
 Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script say what is to be
 seen, finger by finger. What is missing for that makes it skip, with exit status 77.
@@ -10,15 +13,17 @@ import lzma
 import os
 import re
 import shutil
+import statistics
 import subprocess
 import sys
 import unittest
 from pathlib import Path
 
 TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument).resolve() for argument in sys.argv[1:7])
+BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
 HERE = Path(__file__).parent
 QEMU = "qemu-system-x86_64"
-BOOT_SECONDS = 200
+BOOT_SECONDS = 220
 LIBINPUT = KERNEL / "libinput"
 
 # The shooter with two gestures more: a chord, and a pinch by a key.
@@ -31,9 +36,9 @@ OTHER_KEYMAP = "format: 1\nitems:\n  - {type: Click, key: Space, point: [0.1, 0.
 SCRIPT = """
 down Space; wait 60; up Space; wait 100
 down H; wait 30; down J; wait 60; up J; wait 30; up H; wait 100
-down W; wait 200; down D; wait 200; up D; wait 100; up W; wait 200
+down W; wait 500; down D; wait 500; up D; wait 500; up W; wait 200
 down Grave; wait 60; up Grave; wait 60
-rel 3,-2; wait 40; rel 5,-3; wait 40; rel 8,4; wait 40
+rel 3,-2; wait 80; rel 5,-3; wait 80; rel 8,4; wait 80
 down Grave; wait 60; up Grave; wait 100
 down Numpad Plus; wait 60; up Numpad Plus; wait 300
 """
@@ -174,6 +179,9 @@ def make_file_system():
     (root / "etc/group").write_text("root:x:0:\ninput:x:104:player\ntty:x:5:\nnogroup:x:65534:\n", encoding="utf-8")
     for program, name in ((TAVI, "tavi"), (HANDS, "hands"), (EYES, "eyes")):
         subprocess.run(["strip", "-o", root / name, program], check=True)
+    if BARE:
+        subprocess.run(["strip", "-o", root / "bare", BARE], check=True)
+        (root / "race").touch()
     for module in ("evdev.ko", "uinput.ko"):
         copy(KERNEL / module, root / module)
     shooter = (ROOT / "examples/keymaps/shooter.yaml").read_text(encoding="utf-8")
@@ -208,6 +216,26 @@ def boot():
         raise AssertionError("the machine did not come to its end:\n" + text)
     files = text.split("=== begin\n")[1].split("=== end")[0].split("=== file ")[1:]
     return {file.split("\n", 1)[0]: file.split("\n", 1)[1].splitlines() for file in files}
+
+
+def latencies(files):
+    """The time from each key to its touch in microseconds: of the bare loop and of the player, a list a round."""
+    pressed, touched, runner = {"bare": [], "play": []}, {"bare": [], "play": []}, ""
+    for line in files["hands"]:
+        if line.startswith("race "):
+            runner = line[5:]
+            pressed[runner].append([])
+        elif line.startswith("press "):
+            pressed[runner][-1].append(int(line[6:]))
+    for line in files["eyes"]:
+        if line.startswith("step "):
+            runner = line[10:] if line.startswith("step race ") else ""
+            if runner:
+                touched[runner].append([])
+        elif runner and (match := re.match(r"(bare|tavi) screen\|1 330 1 (\d+)", line)):
+            touched[runner][-1].append(int(match[2]))
+    return {runner: [[touch - press for press, touch in zip(*round_)] for round_ in zip(pressed[runner], touched[runner])]
+            for runner in pressed}
 
 
 def steps(lines):
@@ -309,6 +337,17 @@ class KernelPlay(unittest.TestCase):
                 self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), 1)
                 self.assertEqual(sum("TOUCH_UP" in line for line in seen), 1, seen)
         self.assertEqual(self.files["status"], ["after SIGTERM 143", "after SIGKILL 137"])
+
+
+    @unittest.skipUnless(BARE, "without the bare loop there is nothing to compare with")
+    def test_a_key_takes_at_most_twice_the_time_of_a_bare_loop(self):
+        rounds = latencies(self.files)
+        medians = {runner: [statistics.median(times) for times in found] for runner, found in rounds.items()}
+        ratio = statistics.median(play / bare for play, bare in zip(medians["play"], medians["bare"]))
+        print(f"\nmedians in us: bare {medians['bare']}, play {medians['play']}; ratio {ratio:.2f}")
+        for runner in rounds:
+            self.assertEqual([len(times) for times in rounds[runner]], [150] * 4)
+        self.assertLessEqual(ratio, 2)
 
 
 if __name__ == "__main__":
