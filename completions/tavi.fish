@@ -24,6 +24,7 @@ complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_sub
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l look -x -d 'the colours of the window: light, dark, or desktop for those of the desktop (desktop)'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l pause-key -x -d 'the key that switches the mapping off, so that everything reaches the guest as what it is, and on again (F12)'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l panic-key -x -d 'the key that lifts every finger and key of the guest, ends replays and macros, and gives the mouse back (Ctrl+Alt+Backspace)'
+complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l controls-key -x -d 'the key that leads from the guest to the controls of the window, where Tab goes on and Escape back (Ctrl+Alt+Enter)'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l paused -d 'begin with the mapping off'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l fresh -d 'begin without the size, docks, keymap and options of last time, and remember nothing'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l events -d 'list each event of the host, what it matched and what went out'

@@ -154,10 +154,10 @@ edit_walk() {
   move_to 0.1765 0.022
   xdotool click 1
   sleep 0.5
-  move_to 0.1325 0.65
+  move_to 0.147 0.69
   xdotool click 1
   sleep 0.3
-  move_to 0.199 0.65
+  move_to 0.211 0.69
 }
 
 # Shows the walk as the file writes it, and spells one of its keys wrong.
@@ -221,7 +221,7 @@ picture events 4000 shooter.yaml watch_events --events
 
 # The surface of a phone, turned by a quarter.
 make_landscape "$folder/landscape.ppm"
-picture background 3200 shooter.yaml play_on_picture --background "$folder/landscape.ppm" --guest 720x1280 \
+picture background 3200 shooter.yaml play_on_picture --background "$folder/landscape.ppm" --size 720x1280 \
   --rotation 90
 
 cp "$keymaps/shooter.yaml" "$folder"

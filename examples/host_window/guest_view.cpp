@@ -181,8 +181,9 @@ void GuestView::wheelEvent(QWheelEvent* event) {
   tavi::OnQtInputEvent(&converted);
 }
 
-// While the mouse steers the view only its counts matter. A real host takes them from the window system (raw input);
-// here the pointer is put back to the middle after each move.
+// While the mouse steers the view only its counts matter. A front end takes them from the window system, which is a
+// page of code for each; this is the least that plays, and its price is told: the counts are accelerated, a move that
+// two events are merged into is lost in part, a fast pointer may leave the view, and Wayland does not move it at all.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
   if (!captured_) return SendMouse(event->type(), *event);
   const QPoint counts = event->pos() - rect().center();

@@ -1,6 +1,7 @@
 #include "host/command/simulate_command.h"
 
 #include <cstdio>
+#include <map>
 #include <optional>
 
 #include <QDir>
@@ -14,6 +15,7 @@
 #include "host/picture/timeline_chart.h"
 #include "host/picture/timeline_picture.h"
 #include "host/session/keymap_report.h"
+#include "host/session/keymap_source.h"
 #include "host/simulation/script.h"
 #include "host/simulation/script_player.h"
 #include "host/simulation/simulated_host.h"
@@ -96,20 +98,32 @@ std::optional<Script> ReadScript(const QString& name) {
   return script;
 }
 
-// The library reports nothing about keymaps, so each is looked at before it is played with.
-bool IsKeymapUsable(const QString& path) {
-  const tavikeymapmanager::LoadResult result = tavikeymapmanager::ReadKeymapFile(path);
-  PrintError(FormatDiagnostics(result));
-  return !result.HasErrors();
-}
-
-bool AreKeymapsUsable(const QString& first, const Script& script) {
-  bool all = IsKeymapUsable(first);
-  for (const ScriptCommand& command : script.commands) {
-    if (IsLoad(command)) all = IsKeymapUsable(command.text) && all;
+// The keymaps that are played with. Each is read once and told of before, since the library reports nothing about them;
+// what is played is what was told of, whatever becomes of the file meanwhile.
+class ReadKeymaps {
+ public:
+  // Returns whether it can be used.
+  bool Read(const QString& path) {
+    KeymapSource& source = sources_[path];
+    source.Read(path);
+    PrintError(FormatDiagnostics(source.LastRead()));
+    return !source.LastRead().HasErrors();
   }
-  return all;
-}
+  // The same of all that a script loads, which from now on loads what was read.
+  bool Read(Script* script) {
+    bool all = true;
+    for (ScriptCommand& command : script->commands) {
+      if (!IsLoad(command)) continue;
+      if (sources_.count(command.text) == 0) all = Read(command.text) && all;
+      command.text = PathForUse(command.text);
+    }
+    return all;
+  }
+  QString PathForUse(const QString& path) { return sources_[path].PathForUse(); }
+
+ private:
+  std::map<QString, KeymapSource> sources_;
+};
 
 void TakeTimeline(SimulatedHost* host, TimelineChart* chart) {
   for (const TimelineEntry& entry : host->TakeTimeline()) {
@@ -133,7 +147,7 @@ int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
   return WritePicture(kName, *options.svg, DrawTimeline(chart, title));
 }
 
-int Play(const Invocation& invocation, const SimulateOptions& options, const Script& script) {
+int Play(const Invocation& invocation, const SimulateOptions& options, const QString& keymap, const Script& script) {
   DoWithoutWindowSystem();  // the clock serves none
   auto* clock = new VirtualEventDispatcher;
   QCoreApplication::setEventDispatcher(clock);
@@ -142,7 +156,7 @@ int Play(const Invocation& invocation, const SimulateOptions& options, const Scr
   host->Start([clock] { return clock->NowMs(); });
   ScriptPlayer player(clock, host);
   if (options.package) player.package = *options.package;
-  player.LoadKeymap(options.keymap);
+  player.LoadKeymap(keymap);
   clock->Settle();
   host->StartTimeline();
   const QString package = player.package;  // a script may change the player's
@@ -187,9 +201,12 @@ int Run(const Invocation& invocation) {
                                 OptionOf(arguments, kRecord), OptionOf(arguments, kPackage)};
   const QString problem = ProblemOf(options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
-  const std::optional<Script> script = ReadScript(options.script);
-  if (!script || !AreKeymapsUsable(options.keymap, *script)) return kExitUsage;
-  return Play(invocation, options, *script);
+  std::optional<Script> script = ReadScript(options.script);
+  if (!script) return kExitUsage;
+  ReadKeymaps keymaps;
+  const bool is_first_usable = keymaps.Read(options.keymap);
+  if (!keymaps.Read(&*script) || !is_first_usable) return kExitUsage;
+  return Play(invocation, options, keymaps.PathForUse(options.keymap), *script);
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ constexpr char kHelp[] =
     "are drawn, and the lines that say so are listed. A keymap that is saved meanwhile\n"
     "is read again at once. Without KEYMAP the window takes that of last time, or asks\n"
     "for one. \"Edit\" changes the keymap on the screen. The window also remembers its\n"
-    "size, its docks, and the options from --size to --panic-key.\n"
+    "size, its docks, and the options from --size to --controls-key.\n"
     "\n"
     "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
     "                   gamepad reaches the guest as one\n"
@@ -55,6 +55,9 @@ constexpr char kHelp[] =
     "                   guest as what it is, and on again (F12)\n"
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
     "                   and macros, and gives the mouse back (Ctrl+Alt+Backspace)\n"
+    "  --controls-key KEY\n"
+    "                   the key that leads from the guest to the controls of the window,\n"
+    "                   where Tab goes on and Escape back (Ctrl+Alt+Enter)\n"
     "  --paused         begin with the mapping off\n"
     "  --fresh          begin without the size, docks, keymap and options of last time, and\n"
     "                   remember nothing\n"
@@ -98,6 +101,7 @@ const QString kBackground = QStringLiteral("--background");
 const QString kLook = QStringLiteral("--look");
 const QString kPauseKey = QStringLiteral("--pause-key");
 const QString kPanicKey = QStringLiteral("--panic-key");
+const QString kControlsKey = QStringLiteral("--controls-key");
 const QString kPaused = QStringLiteral("--paused");
 const QString kFresh = QStringLiteral("--fresh");
 const QString kEvents = QStringLiteral("--events");
@@ -123,6 +127,7 @@ struct WindowOptions {
   theme::Look look = theme::Look::kDesktop;
   KeyCombination pause_key;
   KeyCombination panic_key;
+  KeyCombination controls_key;
   bool is_paused = false;
   bool is_fresh = false;
   bool shows_events = false;
@@ -146,9 +151,18 @@ QString ReadKey(const QString& option, const ParsedArguments& arguments, const c
 QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
   QString problem = ReadKey(kPauseKey, arguments, MainWindow::kPauseKey, &options->pause_key);
   if (problem.isEmpty()) problem = ReadKey(kPanicKey, arguments, MainWindow::kPanicKey, &options->panic_key);
-  const bool is_one_key = options->pause_key.scancode == options->panic_key.scancode;
-  if (problem.isEmpty() && is_one_key) return QStringLiteral("%1 and %2 are one key").arg(kPauseKey, kPanicKey);
-  return problem;
+  if (problem.isEmpty()) problem = ReadKey(kControlsKey, arguments, MainWindow::kControlsKey, &options->controls_key);
+  if (!problem.isEmpty()) return problem;
+  const QVector<QPair<QString, int>> keys{{kPauseKey, options->pause_key.scancode},
+                                          {kPanicKey, options->panic_key.scancode},
+                                          {kControlsKey, options->controls_key.scancode}};
+  for (int i = 0; i < keys.size(); ++i) {
+    for (int j = 0; j < i; ++j) {
+      if (keys[i].second == keys[j].second)
+        return QStringLiteral("%1 and %2 are one key").arg(keys[j].first, keys[i].first);
+    }
+  }
+  return {};
 }
 
 QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
@@ -305,6 +319,7 @@ int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
   }
   window.SetPauseKey(options.pause_key);
   window.SetPanicKey(options.panic_key);
+  window.SetControlsKey(options.controls_key);
   if (options.is_paused) window.PauseMapping();
   window.LoadKeymap(options.keymap);
   if (!options.joystick_keymap.isEmpty()) window.LoadJoystickKeymap(options.joystick_keymap);

@@ -115,6 +115,7 @@ HandleValue ValueAt(const ItemHandle& handle, const QPointF& place, const QSizeF
 
 QPointF NudgedPoint(const QPointF& point, const QPoint& steps, const QSize& guest) {
   const auto nudged = [](double at, int step, int size) {
+    if (step == 0) return at;  // as its author wrote it
     return qBound(0, qRound(at * size) + step, size) / static_cast<double>(size);
   };
   return {nudged(point.x(), steps.x(), guest.width()), nudged(point.y(), steps.y(), guest.height())};

@@ -81,8 +81,8 @@ PlaySession::PlaySession(DeviceSource* source, GuestOutlet* outlet, const PlaySe
 PlaySession::~PlaySession() { End(); }
 
 void PlaySession::ReserveKeys() {
-  reserved_.Reserve(kPanic, settings_.panic_key, [this] { Panic(); });
-  reserved_.Reserve(kPause, settings_.pause_key, [this] { SetPaused(!mapping_.IsPaused()); });
+  reserved_.Reserve(kPanic, settings_.panic_key, "--panic-key", [this] { Panic(); });
+  reserved_.Reserve(kPause, settings_.pause_key, "--pause-key", [this] { SetPaused(!mapping_.IsPaused()); });
 }
 
 QString PlaySession::Start() {

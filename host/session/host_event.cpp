@@ -83,7 +83,8 @@ HostEvent DescribeTouch(const QTouchEvent& event) {
     places += QStringLiteral("%1: %2").arg(point.id()).arg(PlaceText(FractionOf(point.pos())));
   }
   if (!event.touchPoints().isEmpty()) result.place = FractionOf(event.touchPoints().first().pos());
-  result.text = QStringLiteral("touch ") + places.join(QStringLiteral("; "));
+  const bool is_end = event.type() == QEvent::TouchEnd;
+  result.text = is_end ? QStringLiteral("touch ends") : QStringLiteral("touch ") + places.join(QStringLiteral("; "));
   return result;
 }
 

@@ -1,10 +1,19 @@
 #include "host/session/input_port.h"
 
 #include <QMetaMethod>
+#include <QTouchEvent>
 
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
+
+namespace {
+
+bool IsTouch(const QEvent& event) {
+  return event.type() == QEvent::TouchBegin || event.type() == QEvent::TouchUpdate || event.type() == QEvent::TouchEnd;
+}
+
+}  // namespace
 
 InputPort* InputPort::GetInstance() {
   static InputPort instance;
@@ -18,6 +27,9 @@ bool InputPort::IsHeard() const {
 }
 
 void InputPort::Send(QEvent* event) {
+  if (event->type() == QEvent::TouchBegin) is_touched_ = true;
+  if (IsTouch(*event) && !is_touched_) return;
+  if (event->type() == QEvent::TouchEnd) is_touched_ = false;
   if (IsHeard()) Q_EMIT Began(DescribeEvent(*event));
   taviinputmanager::OnQtInputEvent(event);
   Q_EMIT Ended();
@@ -41,8 +53,16 @@ void InputPort::LetGo() {
 
 void InputPort::LetGoBy(const std::function<void()>& change) {
   Q_EMIT Began(DescribeLettingGo());
+  LiftTouches();
   change();
   Q_EMIT Ended();
+}
+
+void InputPort::LiftTouches() {
+  if (!is_touched_) return;
+  is_touched_ = false;
+  QTouchEvent end(QEvent::TouchEnd);
+  taviinputmanager::OnQtInputEvent(&end);
 }
 
 }  // namespace tavi

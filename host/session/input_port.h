@@ -20,12 +20,13 @@ class InputPort : public QObject {
  public:
   static InputPort* GetInstance();
 
-  // Events of the view, of gamepads, and counts of a mouse that is captured.
+  // Events of the view, of gamepads, and counts of a mouse that is captured. A touch whose fingers were lifted
+  // meanwhile goes no further: it counts again from the next one on.
   void Send(QEvent* event);
   void SendJoystick(QEvent* event);
   void SendRelative(int dx, int dy);
 
-  // Lifts all input of the display that is played on.
+  // Lifts all input of the display that is played on, touches among it, which the library's own reset leaves down.
   void LetGo();
   // The same by something that has it lifted besides.
   void LetGoBy(const std::function<void()>& change);
@@ -40,6 +41,9 @@ class InputPort : public QObject {
   InputPort() = default;
 
   bool IsHeard() const;
+  void LiftTouches();
+
+  bool is_touched_ = false;  // the library has fingers of a touch
 };
 
 }  // namespace tavi

@@ -18,13 +18,14 @@ namespace {
 struct ModifierRow {
   const char* name;
   Qt::KeyboardModifier modifier;
+  const char* keys[2];  // left and right
 };
 
 constexpr ModifierRow kModifiers[] = {
-    {"Ctrl", Qt::ControlModifier},
-    {"Alt", Qt::AltModifier},
-    {"Shift", Qt::ShiftModifier},
-    {"Meta", Qt::MetaModifier},
+    {"Ctrl", Qt::ControlModifier, {"Left Ctrl", "Right Ctrl"}},
+    {"Alt", Qt::AltModifier, {"Left Alt", "Right Alt"}},
+    {"Shift", Qt::ShiftModifier, {"Left Shift", "Right Shift"}},
+    {"Meta", Qt::MetaModifier, {"Left Win", "Right Win"}},
 };
 
 Qt::KeyboardModifiers ModifierOf(const QString& name) {
@@ -48,6 +49,17 @@ bool KeyCombination::IsKeyOf(const QKeyEvent& event) const {
 
 bool KeyCombination::Matches(const QKeyEvent& event) const {
   return (event.modifiers() & modifiers) == modifiers && IsKeyOf(event);
+}
+
+QVector<ModifierKeys> ModifiersOf(const KeyCombination& combination) {
+  QVector<ModifierKeys> result;
+  for (const ModifierRow& row : kModifiers) {
+    if (!combination.modifiers.testFlag(row.modifier)) continue;
+    ModifierKeys keys{QLatin1String(row.name), {}};
+    for (const char* name : row.keys) keys.scancodes += km::KeyFromName(QLatin1String(name))->scancode;
+    result += keys;
+  }
+  return result;
 }
 
 QString ParseKeyCombination(const QString& text, KeyCombination* combination) {

@@ -2,6 +2,7 @@
 #define HOST_SESSION_KEY_COMBINATION_H_
 
 #include <QString>
+#include <QVector>
 #include <Qt>
 
 class QKeyEvent;
@@ -19,6 +20,15 @@ struct KeyCombination {
   int scancode = 0;  // Windows scan code, the extended bit as 0x100
   Qt::KeyboardModifiers modifiers = Qt::NoModifier;
 };
+
+// What a modifier is called, and the keys that are it, by their scan codes.
+struct ModifierKeys {
+  QString name;
+  QVector<int> scancodes;
+};
+
+// Those that go with the key, in the order of their names in a combination.
+QVector<ModifierKeys> ModifiersOf(const KeyCombination& combination);
 
 // Reads modifiers (Ctrl, Alt, Shift, Meta) and a key as keymaps call it, joined by "+". Returns what is wrong, or
 // nothing.

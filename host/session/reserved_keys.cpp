@@ -17,10 +17,10 @@ namespace km = tavikeymapmanager;
 
 namespace {
 
-km::ConfigKey KeyOf(const KeyCombination& combination) {
+km::ConfigKey KeyOf(int scancode) {
   km::ConfigKey key;
   key.device = km::keywords::kDeviceKeyboard;
-  key.scancode = combination.scancode;
+  key.scancode = scancode;
   return key;
 }
 
@@ -31,6 +31,29 @@ bool AnswersTo(const km::ConfigItem& item, const km::ConfigKey& key) {
   return item.IsKeyMatch(key) || (composable != nullptr && km::IsSameKey(composable->first_key, key));
 }
 
+bool HasItemFor(const km::KeymapConfig& config, const QVector<int>& scancodes) {
+  return std::any_of(config.items.begin(), config.items.end(), [&](const km::ConfigItem* item) {
+    return std::any_of(scancodes.begin(), scancodes.end(), [&](int code) { return AnswersTo(*item, KeyOf(code)); });
+  });
+}
+
+// Whoever plays with these items may hold all the modifiers at one time; without any they need nothing.
+bool MayBeHeld(const QVector<ModifierKeys>& modifiers, const km::KeymapConfig& config) {
+  return std::all_of(modifiers.begin(), modifiers.end(),
+                     [&](const ModifierKeys& keys) { return HasItemFor(config, keys.scancodes); });
+}
+
+QString MessageAbout(const QString& keeper, const KeyCombination& combination, const char* option) {
+  QStringList held;
+  for (const ModifierKeys& modifier : ModifiersOf(combination)) held += modifier.name;
+  const QString when = held.isEmpty() ? QStringLiteral("never gets it")
+                                      : QStringLiteral("does not get its key while %1 of this keymap %2 down")
+                                            .arg(held.join(QStringLiteral(" and ")),
+                                                 held.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"));
+  return QStringLiteral("%1 keeps %2 for itself, so this item %3; %4 takes another key")
+      .arg(keeper, combination.name, when, QLatin1String(option));
+}
+
 }  // namespace
 
 ReservedKeys::ReservedKeys(const QString& keeper, QObject* parent) : QObject(parent), keeper_(keeper) {
@@ -39,10 +62,11 @@ ReservedKeys::ReservedKeys(const QString& keeper, QObject* parent) : QObject(par
 
 ReservedKeys::~ReservedKeys() = default;
 
-void ReservedKeys::Reserve(int id, const KeyCombination& combination, std::function<void()> action) {
+void ReservedKeys::Reserve(int id, const KeyCombination& combination, const char* option,
+                           std::function<void()> action) {
   entries_.erase(std::remove_if(entries_.begin(), entries_.end(), [id](const Entry& entry) { return entry.id == id; }),
                  entries_.end());
-  entries_.push_back({id, combination, std::move(action)});
+  entries_.push_back({id, combination, option, std::move(action)});
 }
 
 QString ReservedKeys::NameOf(int id) const {
@@ -52,38 +76,34 @@ QString ReservedKeys::NameOf(int id) const {
   return {};
 }
 
-QStringList ReservedKeys::FindIn(km::KeymapConfig* config) const {
-  QStringList names;
+QStringList ReservedKeys::NewsOf(km::KeymapConfig* config) const {
+  QStringList news;
   for (const Entry& entry : entries_) {
     if (entry.combination.modifiers != Qt::NoModifier) continue;  // without them it is the keymap's
-    km::ConfigKey key = KeyOf(entry.combination);
+    km::ConfigKey key = KeyOf(entry.combination.scancode);
     km::ConfigKey none;
-    if (km::isConfigKeyMatch(config, &key, &none)) names += entry.combination.name;
+    if (!km::isConfigKeyMatch(config, &key, &none)) continue;
+    news += QStringLiteral("%1 is a key of this keymap that %2 keeps for itself; %3 takes another key")
+                .arg(entry.combination.name, keeper_, QLatin1String(entry.option));
   }
-  return names;
+  return news;
 }
 
 QVector<km::Diagnostic> ReservedKeys::FindingsIn(const km::LoadResult& keymap) const {
   QVector<km::Diagnostic> findings;
   for (int i = 0; i < keymap.item_sources.size(); ++i) {
     for (const Entry& entry : entries_) {
-      if (!AnswersTo(*keymap.config->items[i], KeyOf(entry.combination))) continue;
+      if (!AnswersTo(*keymap.config->items[i], KeyOf(entry.combination.scancode))) continue;
+      if (!MayBeHeld(ModifiersOf(entry.combination), *keymap.config)) continue;
       km::Diagnostic finding;
       finding.severity = km::Diagnostic::Severity::kWarning;
       finding.line = finding.end_line = keymap.item_sources[i].line;
       finding.column = finding.end_column = keymap.item_sources[i].column;
-      finding.message = MessageAbout(entry.combination);
+      finding.message = MessageAbout(keeper_, entry.combination, entry.option);
       findings.append(finding);
     }
   }
   return findings;
-}
-
-QString ReservedKeys::MessageAbout(const KeyCombination& combination) const {
-  const QString what = combination.modifiers == Qt::NoModifier
-                           ? QStringLiteral("%1 keeps %2 for itself, so this item never gets it")
-                           : QStringLiteral("%1 keeps %2 for itself, so this item does not get its key then");
-  return what.arg(keeper_, combination.name) + QStringLiteral("; --pause-key and --panic-key take other keys");
 }
 
 bool ReservedKeys::eventFilter(QObject* /*watched*/, QEvent* event) { return Take(event); }

@@ -33,14 +33,17 @@ class ReservedKeys : public QObject {
   ~ReservedKeys() override;
 
   // `action` is called at each press, from now on, in place of what was called before for the same `id`.
-  void Reserve(int id, const KeyCombination& combination, std::function<void()> action);
+  // `option` of the command line takes another key.
+  void Reserve(int id, const KeyCombination& combination, const char* option, std::function<void()> action);
 
   // The key as it was written; empty when none was reserved for `id`.
   QString NameOf(int id) const;
 
-  // Those that an item of the keymap answers to, which will never get them.
-  QStringList FindIn(tavikeymapmanager::KeymapConfig* config) const;
-  // A warning for each item of the keymap that one of them is taken from, in the order of the items.
+  // What a person is told of those that an item of the keymap answers to, which will never get them.
+  QStringList NewsOf(tavikeymapmanager::KeymapConfig* config) const;
+  // A warning for each item of the keymap that one of them is taken from, in the order of the items. A key that is the
+  // window's with modifiers alone is taken from an item where a player may come to hold them: where they are keys of
+  // this keymap as well.
   QVector<tavikeymapmanager::Diagnostic> FindingsIn(const tavikeymapmanager::LoadResult& keymap) const;
 
   // Whether an event is such a key's, in which case it has acted: for a host whose keys come by no window.
@@ -53,6 +56,7 @@ class ReservedKeys : public QObject {
   struct Entry {
     int id;
     KeyCombination combination;
+    const char* option;
     std::function<void()> action;
     bool is_down = false;
     unsigned long released_at = 0;  // the window system's time; a key that repeats is let go and pressed at one time
@@ -60,8 +64,6 @@ class ReservedKeys : public QObject {
 
   bool TakePress(const QKeyEvent& event);
   bool TakeRelease(const QKeyEvent& event);
-
-  QString MessageAbout(const KeyCombination& combination) const;
 
   const QString keeper_;
   std::vector<Entry> entries_;

@@ -19,7 +19,6 @@ GuestTarget::GuestTarget(QString name, LinkMaker make_link) : name_(std::move(na
   }
   connect(&retry_, &QTimer::timeout, this, &GuestTarget::Connect);
   connect(&leave_, &QTimer::timeout, this, &GuestTarget::Leave);
-  retry_.start(0);
 }
 
 GuestTarget::~GuestTarget() = default;
@@ -70,7 +69,7 @@ void GuestTarget::SetState(State state) {
   Q_EMIT Changed();
 }
 
-void GuestTarget::Offer(const SentLine& line, const HeldInput& before) {
+void GuestTarget::Offer(const OutgoingLine& line, const HeldInput& before) {
   if (state_ == State::kLagging) ++passed_by_;
   if (state_ != State::kConnected) return;
   const QByteArray told = gestures_.Tell(line, before);
@@ -147,12 +146,14 @@ void GuestTarget::TryAgain() {
   Connect();
 }
 
-void GuestTarget::WaitUntilTaken(int limit_ms) {
+bool GuestTarget::WaitUntilTaken(int limit_ms) {
   const QDeadlineTimer limit(limit_ms);
   while (link_ && IsReached() && !(waiting_.empty() && link_->HasRoom())) {
-    if (!link_->WaitForRoom(static_cast<int>(limit.remainingTime()))) return;
+    if (limit.hasExpired()) return false;
+    if (!link_->WaitForRoom(static_cast<int>(limit.remainingTime()))) return false;
     Pump();
   }
+  return true;
 }
 
 void GuestTarget::Leave() {
@@ -160,7 +161,9 @@ void GuestTarget::Leave() {
   DropWaiting();
   if (!link_) return;
   left_ = std::move(link_);
-  left_->disconnect(this);
+  disconnect(left_.get(), &TargetLink::Connected, this, nullptr);
+  disconnect(left_.get(), &TargetLink::RoomMade, this, nullptr);
+  disconnect(left_.get(), &TargetLink::Ended, this, nullptr);
   connect(left_.get(), &TargetLink::Ended, this, [this, link = left_.get()] {
     if (link == left_.get()) left_.reset();
   });

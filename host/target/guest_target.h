@@ -32,21 +32,24 @@ class GuestTarget : public QObject {
  public:
   using LinkMaker = std::function<std::unique_ptr<TargetLink>()>;
 
-  // `name` is for people. Begins to connect when the event loop comes to it.
+  // `name` is for people.
   GuestTarget(QString name, LinkMaker make_link);
   ~GuestTarget() override;
 
+  // Begins to connect. Commands and sockets of this machine are there when it returns, as a rule.
+  void Connect();
+
   // A line to be told; `before` is what the host has down without it.
-  void Offer(const SentLine& line, const HeldInput& before);
+  void Offer(const OutgoingLine& line, const HeldInput& before);
   // Lifts what it has down.
   void Lift();
 
   void Switch(bool on);
   void TryAgain();
 
-  // For the end of all. The first waits until the lines that wait were taken, at most so long; the second ends the
-  // connection, and the third waits for its end.
-  void WaitUntilTaken(int limit_ms);
+  // For the end of all. The first waits until the lines that wait were taken, at most so long, and tells whether any do
+  // still; the second ends the connection, and the third waits for its end.
+  bool WaitUntilTaken(int limit_ms);
   void Leave();
   void WaitForEnd(int limit_ms);
 
@@ -64,7 +67,6 @@ class GuestTarget : public QObject {
   };
   using State = TargetStatus::State;
 
-  void Connect();
   void TakeConnection();
   void TakeEnd(const QString& reason);
   void SetState(State state);

@@ -9,7 +9,7 @@
 #include "host/target/command_link.h"
 #include "host/target/guest_target.h"
 #include "host/target/local_link.h"
-#include "host/target/sent_line.h"
+#include "host/target/outgoing_line.h"
 #include "host/target/tcp_link.h"
 #include "host/target/uinput_link.h"
 
@@ -18,6 +18,8 @@ namespace tavi {
 using Kind = TargetAddress::Kind;
 
 namespace {
+
+constexpr int kTurnMs = 10;
 
 std::unique_ptr<TargetLink> MakeLink(const TargetAddress& address, const QSize& surface) {
   switch (address.kind) {
@@ -45,7 +47,7 @@ void GuestTargets::Add(const TargetAddress& address) {
   connect(target.get(), &GuestTarget::Message, this, &GuestTargets::Message);
   targets_.push_back(std::move(target));
   has_targets_ = true;
-  Q_EMIT Changed(number);
+  targets_.back()->Connect();
 }
 
 // The inbox is what keeps the order of lines of several threads.
@@ -82,7 +84,7 @@ void GuestTargets::Distribute(const QByteArray& bytes) {
     Q_EMIT Message(QStringLiteral("A line of %1 bytes is too long for a guest").arg(bytes.size()), true);
     return;
   }
-  const SentLine line(bytes);
+  const OutgoingLine line(bytes);
   for (const auto& target : targets_) target->Offer(line, *sent_);
   if (!line.is_text) sent_->Take(line.display, line.line);
 }
@@ -92,12 +94,19 @@ void GuestTargets::LiftAll() {
   for (const auto& target : targets_) target->Lift();
 }
 
-// Those that take their lines at once are not kept from it by one that does not.
+// In turns, so that those that take their lines are not kept from it by one that does not.
+void GuestTargets::WaitUntilTaken() {
+  const QDeadlineTimer limit(kFlushMs);
+  for (bool is_taken = false; !is_taken && !limit.hasExpired();) {
+    is_taken = true;
+    for (const auto& target : targets_) is_taken = target->WaitUntilTaken(kTurnMs) && is_taken;
+  }
+}
+
 void GuestTargets::Close() {
   LiftAll();
   has_targets_ = false;
-  const QDeadlineTimer flush(kFlushMs);
-  for (const auto& target : targets_) target->WaitUntilTaken(Remaining(flush));
+  WaitUntilTaken();
   for (const auto& target : targets_) target->Leave();
   const QDeadlineTimer end(kEndMs);
   for (const auto& target : targets_) target->WaitForEnd(Remaining(end));

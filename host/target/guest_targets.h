@@ -49,7 +49,7 @@ class GuestTargets : public QObject {
   static constexpr int kMostLineBytes = 64 * 1024;
   // What Close and Switch give targets to take their last lines, in milliseconds; and commands to end after that.
   static constexpr int kFlushMs = 500;
-  static constexpr int kEndMs = 500;
+  static constexpr int kEndMs = 1000;
 
   explicit GuestTargets(QObject* parent = nullptr);
   // As Close.
@@ -58,7 +58,8 @@ class GuestTargets : public QObject {
   // The touch surface of the guest, of which devices of the kernel have to know. To be set before the first Add.
   void SetSurface(const QSize& surface) { surface_ = surface; }
 
-  // Begins to connect. The same target again is another one.
+  // Begins to connect: commands and sockets of this machine are there when it returns, as a rule. The same target again
+  // is another one.
   void Add(const TargetAddress& address);
 
   // A line as the library's send functions get it: `length` counts the newline of an event line, the NUL of a text
@@ -98,6 +99,7 @@ class GuestTargets : public QObject {
   void TakeInbox();
   std::vector<QByteArray> TakeLines();
   void Distribute(const QByteArray& bytes);
+  void WaitUntilTaken();
 
   QSize surface_{1280, 720};
   std::vector<std::unique_ptr<GuestTarget>> targets_;

@@ -21,7 +21,7 @@ bool IsMissedTouchpad(const GuestState& before, const GuestState& down) {
 }
 
 // "1:SLOTMULTIPRESS:10:10:600:300:0:0:680:380\n" has a head of two fields, and four for each finger.
-QByteArray WithoutMissedFingers(const SentLine& sent, const GuestState& before, const GuestState& down) {
+QByteArray WithoutMissedFingers(const OutgoingLine& sent, const GuestState& before, const GuestState& down) {
   const QList<QByteArray> fields = sent.bytes.chopped(1).split(':');
   QByteArray told = fields[0] + ':' + fields[1];
   const int head_size = told.size();
@@ -32,7 +32,7 @@ QByteArray WithoutMissedFingers(const SentLine& sent, const GuestState& before, 
   return told.size() == head_size ? QByteArray() : told + '\n';
 }
 
-QByteArray WithoutMissed(const SentLine& sent, const GuestState& before, const GuestState& down) {
+QByteArray WithoutMissed(const OutgoingLine& sent, const GuestState& before, const GuestState& down) {
   const auto unless = [&](bool is_missed) { return is_missed ? QByteArray() : sent.bytes; };
   const GuestLine& line = sent.line;
   switch (line.kind) {
@@ -78,11 +78,11 @@ QVector<QByteArray> LiftLinesOf(const HeldInput& held) {
 
 }  // namespace
 
-QByteArray TargetGestures::Tell(const SentLine& sent, const HeldInput& before) {
+QByteArray TargetGestures::Tell(const OutgoingLine& sent, const HeldInput& before) {
   if (sent.is_text) return sent.bytes;
   const QByteArray told = WithoutMissed(sent, before.StateOf(sent.display), down_.StateOf(sent.display));
   if (told.isEmpty()) return told;
-  const GuestLine line = told.size() == sent.bytes.size() ? sent.line : SentLine(told).line;
+  const GuestLine line = told.size() == sent.bytes.size() ? sent.line : OutgoingLine(told).line;
   down_.Take(sent.display, line);
   if (CanHold(line)) ever_.Take(sent.display, line);
   return told;

@@ -5,7 +5,7 @@
 #include <QVector>
 
 #include "host/guest/held_input.h"
-#include "host/target/sent_line.h"
+#include "host/target/outgoing_line.h"
 
 namespace tavi {
 
@@ -16,7 +16,7 @@ class TargetGestures {
  public:
   // What is to be told of a line, end included: without the fingers that are down already (`before` the line, in the
   // host) and whose press the target never got; empty when nothing is left of it. A release is always told.
-  QByteArray Tell(const SentLine& sent, const HeldInput& before);
+  QByteArray Tell(const OutgoingLine& sent, const HeldInput& before);
 
   // The lines, end included, that lift what the target has down. From then on it has nothing down.
   QVector<QByteArray> Lift();

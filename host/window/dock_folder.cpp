@@ -10,7 +10,7 @@ namespace tavi {
 
 namespace {
 
-constexpr int kBarsHeight = 170;  // tool bars, the panel below the view, the status bar
+constexpr int kBarsHeight = 170;  // tool bars, the strip below the view, the status bar
 
 }  // namespace
 
@@ -35,7 +35,17 @@ void DockFolder::SetWanted(QDockWidget* dock, bool wanted) {
 bool DockFolder::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() != QEvent::Resize) return false;
   for (Entry& entry : entries_) Fold(&entry);
+  FoldStrip();
   return false;
+}
+
+void DockFolder::SetStrip(QWidget* strip) {
+  strip_ = strip;
+  FoldStrip();
+}
+
+void DockFolder::FoldStrip() {
+  if (strip_ != nullptr) strip_->setVisible(window_->height() >= kLeastViewHeight + kBarsHeight);
 }
 
 void DockFolder::Fold(Entry* entry) {

@@ -7,11 +7,13 @@
 
 class QDockWidget;
 class QMainWindow;
+class QWidget;
 
 namespace tavi {
 
 // Puts docks away while a window is too small to show them beside the guest's screen, whose keys would not be told
 // apart otherwise, and brings them back when there is room again. A dock that a person opens in a small window stays.
+// The strip below the screen goes the same way.
 //
 // Main thread.
 class DockFolder : public QObject {
@@ -20,12 +22,14 @@ class DockFolder : public QObject {
  public:
   // What the guest's screen needs beside docks, in pixels of the window.
   static constexpr int kLeastViewWidth = 680;
-  static constexpr int kLeastViewHeight = 360;
+  static constexpr int kLeastViewHeight = 384;  // of a screen of 16:9 that is as wide as above
 
   explicit DockFolder(QMainWindow* window);
 
   // The dock is the window's.
   void Add(QDockWidget* dock);
+  // Shows the strip below the guest's screen while there is room for both; not owned.
+  void SetStrip(QWidget* strip);
   // Whether the dock is shown, or would be if there were room.
   bool IsWanted(const QDockWidget* dock) const;
   // Shows a dock, as soon as there is room, or puts it away.
@@ -43,8 +47,10 @@ class DockFolder : public QObject {
 
   bool IsCrowded(const QDockWidget* dock) const;
   void Fold(Entry* entry);
+  void FoldStrip();
 
   QMainWindow* window_;
+  QWidget* strip_ = nullptr;
   std::vector<Entry> entries_;
 };
 

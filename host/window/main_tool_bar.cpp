@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "host/session/live_host.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/look_menu.h"
 #include "taviinputmanager/taviinputmanager.h"
 
@@ -18,6 +19,8 @@ MainToolBar::MainToolBar(const Parts& parts, QWidget* parent) : QToolBar(QString
   AddSwitches(parts);
   addSeparator();
   AddGuestButtons();
+  ReachByTab(this);
+  toggleViewAction()->setVisible(false);  // it stays
 }
 
 void MainToolBar::AddKeymapButtons(const Parts& parts) {
@@ -70,13 +73,13 @@ QAction* MainToolBar::AddSwitch(const QString& text, const QString& hint, bool o
   return action;
 }
 
-// A tool button of its own takes focus unless it is told not to.
 void MainToolBar::AddMenuButton(const QString& text, QMenu* menu) {
   auto* button = new QToolButton(this);
   button->setText(text);
+  menu->setTitle(text);
   button->setMenu(menu);
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setFocusPolicy(Qt::NoFocus);
+  button->setAccessibleName(text);
   addWidget(button);
 }
 

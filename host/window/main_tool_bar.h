@@ -8,8 +8,8 @@ class QMenu;
 
 namespace tavi {
 
-// The upper row of buttons: keymaps, what is mapped and shown, what the guest is told. They take no focus, so that the
-// keys stay the guest's.
+// The upper row of buttons: keymaps, what is mapped and shown, what the guest is told. A click at them takes no
+// focus, so that the keys stay the guest's.
 class MainToolBar : public QToolBar {
   Q_OBJECT
 

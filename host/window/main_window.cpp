@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPointer>
@@ -17,6 +16,8 @@
 #include "host/session/keymap_report.h"
 #include "host/session/keymap_watch.h"
 #include "host/session/live_host.h"
+#include "host/window/controls/control_focus.h"
+#include "host/window/controls/question.h"
 #include "host/window/dock_folder.h"
 #include "host/window/editor/edit_layer.h"
 #include "host/window/editor/keymap_editor.h"
@@ -50,7 +51,7 @@ constexpr int kLabelGap = 16;  // in the status bar
 constexpr int kMessageMs = 8000;
 constexpr char kExampleFolder[] = "examples/keymaps";
 
-enum ReservedKey { kPanic, kPause };
+enum ReservedKey { kPanic, kPause, kControls };
 
 KeyCombination KeyOf(const char* name) {
   KeyCombination key;
@@ -83,6 +84,7 @@ MainWindow::MainWindow()
           {}, {}, {}, {}, new DiagnosticsPanel(QStringLiteral("The keymap of gamepads")), new KeymapWatch(this)},
       log_(new LineLog),
       docks_(new DockFolder(this)),
+      controls_(new ControlFocus(this, view_)),
       keymap_label_(new QLabel),
       state_label_(new QLabel),
       mirrors_(new MirrorLabel(this)),
@@ -103,9 +105,12 @@ MainWindow::MainWindow()
   MakeToolBar();
   editor_->AddBar();
   MakeRecordBar();
+  controls_->SetBars({tools_, editor_->Bar(), records_});
   MakeStatusBar();
   SetPanicKey(KeyOf(kPanicKey));
   SetPauseKey(KeyOf(kPauseKey));
+  SetControlsKey(KeyOf(kControlsKey));
+  docks_->SetStrip(panel_);
   finding_marks_ = new FindingMarks(view_);
   connect(editor_->Switch(), &QAction::toggled, this, &MainWindow::SetEditing);
   new StateCorner(&state_, view_);
@@ -196,18 +201,24 @@ void MainWindow::MakeStatusBar() {
 
 void MainWindow::SetPanicKey(const KeyCombination& key) {
   tools_->TellPanicKey(key.name);
-  reserved_keys_.Reserve(kPanic, key, [this] { tools_->LetGo()->trigger(); });
+  reserved_keys_.Reserve(kPanic, key, "--panic-key", [this] { tools_->LetGo()->trigger(); });
 }
 
 void MainWindow::SetPauseKey(const KeyCombination& key) {
   tools_->TellPauseKey(key.name);
   state_.SetPauseKey(key.name);
-  reserved_keys_.Reserve(kPause, key, [this] { tools_->MappingOn()->toggle(); });
+  reserved_keys_.Reserve(kPause, key, "--pause-key", [this] { tools_->MappingOn()->toggle(); });
+}
+
+void MainWindow::SetControlsKey(const KeyCombination& key) {
+  reserved_keys_.Reserve(kControls, key, "--controls-key", [this] { controls_->Take(); });
 }
 
 QString MainWindow::PauseKeyName() const { return reserved_keys_.NameOf(kPause); }
 
 QString MainWindow::PanicKeyName() const { return reserved_keys_.NameOf(kPanic); }
+
+QString MainWindow::ControlsKeyName() const { return reserved_keys_.NameOf(kControls); }
 
 void MainWindow::ShowPartsInUse() {
   editor_->ShowParts();
@@ -314,8 +325,7 @@ void MainWindow::OpenJoystickKeymap() {
 QString MainWindow::AskForKeymap(const QString& title, const Keymap& before) {
   QString folder = QFileInfo(before.path).absolutePath();
   if (before.path.isEmpty() && QFileInfo(QLatin1String(kExampleFolder)).isDir()) folder = QLatin1String(kExampleFolder);
-  const QString path =
-      QFileDialog::getOpenFileName(this, title, folder, QStringLiteral("Keymaps (*.yaml *.yml *.json);;All files (*)"));
+  const QString path = AskForFile(this, title, folder, QStringLiteral("Keymaps (*.yaml *.yml *.json);;All files (*)"));
   view_->setFocus();
   return path;
 }
@@ -344,12 +354,7 @@ void MainWindow::LoadKeymap(const QString& path) {
   name_ = in_use.name.isEmpty() ? QFileInfo(path).fileName() : in_use.name;
   records_->SetApp(in_use.name);
   ShowKeymaps();
-  for (const QString& key : reserved_keys_.FindIn(in_use.config.get())) {
-    Tell(QStringLiteral("%1 is a key of this keymap that the window keeps for itself; --pause-key and --panic-key take "
-                        "other keys")
-             .arg(key),
-         true);
-  }
+  for (const QString& news : reserved_keys_.NewsOf(in_use.config.get())) Tell(news, true);
   editor_->Open(path, mapping_.Keymap().LastText());
   ShowTitle();  // of what is edited from now on
 }

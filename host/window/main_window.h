@@ -22,6 +22,7 @@ class QLabel;
 
 namespace tavi {
 
+class ControlFocus;
 class DiagnosticsPanel;
 class DockFolder;
 class FindingMarks;
@@ -56,12 +57,14 @@ class MainWindow : public QMainWindow {
   void OpenJoystickKeymap();
   // From now on the gamepads of this computer are the guest's while the window is in use.
   void ReadGamepads();
-  // The keys that let go of everything, and that pause the mapping and let it go on. Few keyboards lack the ones that
-  // are taken by themselves, and hardly a game uses them.
+  // The keys that let go of everything, that pause the mapping and let it go on, and that lead to the controls. Few
+  // keyboards lack the ones that are taken by themselves, and hardly a game uses them.
   static constexpr char kPanicKey[] = "Ctrl+Alt+Backspace";
   static constexpr char kPauseKey[] = "F12";
+  static constexpr char kControlsKey[] = "Ctrl+Alt+Enter";
   void SetPanicKey(const KeyCombination& key);
   void SetPauseKey(const KeyCombination& key);
+  void SetControlsKey(const KeyCombination& key);
 
   void PauseMapping();
   // Lifts what is down, and saves a recording or puts it aside, as it does with edits. Returns what a person is to know
@@ -92,6 +95,7 @@ class MainWindow : public QMainWindow {
   QString JoystickKeymapPath() const { return joystick_keymap_.path; }
   QString PauseKeyName() const;
   QString PanicKeyName() const;
+  QString ControlsKeyName() const;
   // Shows those parts only that are in use, after the layout of another window was taken over.
   void ShowPartsInUse();
 
@@ -148,6 +152,7 @@ class MainWindow : public QMainWindow {
   Keymap joystick_keymap_;
   LineLog* log_;
   DockFolder* docks_;
+  ControlFocus* controls_;
   QDockWidget* log_dock_ = nullptr;
   QDockWidget* event_dock_ = nullptr;
   QAction* log_shown_ = nullptr;

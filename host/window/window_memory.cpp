@@ -52,6 +52,7 @@ QMap<QString, QString> OptionsOf(const MainWindow& window) {
       {"look", theme::NameOf(theme::CurrentLook())},
       {"pause-key", window.PauseKeyName()},
       {"panic-key", window.PanicKeyName()},
+      {"controls-key", window.ControlsKeyName()},
   };
 }
 

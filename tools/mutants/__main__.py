@@ -58,8 +58,9 @@ class Trial:
         try:
             verdict, by = self._meet(changed, runner, tests, [LIBRARY])
             if verdict == SURVIVED and change.path.endswith(".h"):
-                # Programs of tests have their own copy of what stands in a header, and may run that alone.
-                tests = list(dict.fromkeys([*self._reach.tests_of_room(change), *tests]))
+                # Programs of tests have their own copy of what stands in a header, and may run that alone: no trace of
+                # the library tells of it.
+                tests = list(dict.fromkeys([*self._reach.tests_that_include(change), *tests]))
                 programs = sorted({os.path.relpath(test.program, self._build.folder) for test in tests})
                 verdict, by = self._meet(changed, runner, tests, [LIBRARY, *programs])
             if verdict == SURVIVED and self._build.is_same_when_optimised(changed):

@@ -88,6 +88,11 @@ class Build:
         return {self.folder / _output_of(self._link_command(target)): self._link(target, objects, changed.spare)
                 for target in targets if objects.keys() & set(self._link_command(target).split())}
 
+    def includes(self, program, path):
+        """Whether an object of the program's own, not only the library, is compiled from the file."""
+        folder = f"/CMakeFiles/{program.name}.dir/"
+        return any(folder in f"/{name}" for name in self._dependents.get(path, ()))
+
     def is_same_when_optimised(self, changed):
         """Whether the optimiser makes the same code of the changed file: then nothing can tell them apart."""
         text = (self.root / changed.path).read_text()

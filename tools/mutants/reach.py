@@ -60,8 +60,10 @@ class Reach:
         tests = [test for test in self._tests if test.name in names]
         return sorted(tests, key=lambda test: self._distance(change, test))
 
-    def tests_of_room(self, change):
-        return [test for test in self._tests if self._is_of_room(test, change)]
+    def tests_that_include(self, change):
+        """Tests of the programs that have the changed file in objects of their own, the nearest first."""
+        tests = [test for test in self._tests if self._build.includes(test.program, change.path)]
+        return sorted(tests, key=lambda test: self._distance(change, test))
 
     @staticmethod
     def _is_of_room(test, change):

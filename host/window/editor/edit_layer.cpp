@@ -37,7 +37,8 @@ bool IsPlace(const ItemHandle& handle) { return handle.field == kPoint || handle
 }  // namespace
 
 EditLayer::EditLayer(KeymapDocument* document, QWidget* view) : QWidget(view->parentWidget()), document_(document) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::ClickFocus);  // Tab goes from item to item here
+  setAccessibleName(QStringLiteral("Items on the screen"));
   setMouseTracking(true);
   setGeometry(view->geometry());
   view->installEventFilter(this);

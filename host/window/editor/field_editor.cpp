@@ -53,6 +53,7 @@ FieldEditor::FieldEditor(const FieldInfo& info, QWidget* parent) : QWidget(paren
 QWidget* FieldEditor::MakeLine() {
   line_ = new QLineEdit;
   line_->setEnabled(IsEditable(info_.kind));
+  line_->setAccessibleName(info_.name);
   connect(line_, &QLineEdit::editingFinished, this, &FieldEditor::TakeLine);
   return line_;
 }
@@ -60,6 +61,7 @@ QWidget* FieldEditor::MakeLine() {
 QWidget* FieldEditor::MakeChoice() {
   choice_ = new QComboBox;
   choice_->setFocusPolicy(Qt::StrongFocus);
+  choice_->setAccessibleName(info_.name);
   choice_->addItem(QString(), QString());
   for (const QString& word : WordsOf(info_)) choice_->addItem(word, word);
   choice_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -73,10 +75,20 @@ QWidget* FieldEditor::MakeKey() {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   listener_ = new KeyListener(info_.kind == FieldKind::kChord);
+  listener_->setAccessibleName(QStringLiteral("Press the key of %1").arg(info_.name));
   layout->addWidget(MakeLine(), 1);
   layout->addWidget(listener_, 1);
   connect(listener_, &KeyListener::Bound, this, &FieldEditor::Entered);
   return row;
+}
+
+QVector<QWidget*> FieldEditor::Controls() const {
+  QVector<QWidget*> controls;
+  for (QWidget* control :
+       {static_cast<QWidget*>(line_), static_cast<QWidget*>(choice_), static_cast<QWidget*>(listener_)}) {
+    if (control != nullptr) controls += control;
+  }
+  return controls;
 }
 
 void FieldEditor::Show(const QString& written, const QString& in_use) {

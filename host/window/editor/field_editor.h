@@ -2,6 +2,7 @@
 #define HOST_WINDOW_EDITOR_FIELD_EDITOR_H_
 
 #include <QString>
+#include <QVector>
 #include <QWidget>
 
 #include "keymapmanager/item_types.h"
@@ -30,6 +31,8 @@ class FieldEditor : public QWidget {
   // Of a key; null for other fields.
   KeyListener* Listener() const { return listener_; }
   QLineEdit* Line() const { return line_; }
+  // Those that Tab goes to, in their order.
+  QVector<QWidget*> Controls() const;
 
  Q_SIGNALS:
   // A person wants the field to have this text; empty: not written.

@@ -78,6 +78,8 @@ ItemInspector::ItemInspector(KeymapDocument* document, QWidget* parent)
       all_(new QCheckBox(QStringLiteral("All fields"))),
       as_text_(new QCheckBox(QStringLiteral("As text"))) {
   list_->setFixedHeight(kListHeight);
+  list_->setAccessibleName(QStringLiteral("Items of the keymap"));
+  scroll_->setAccessibleName(QStringLiteral("Fields of the item"));
   title_->setWordWrap(true);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
@@ -270,6 +272,13 @@ void ItemInspector::BuildFields(const QVector<FieldInfo>& fields) {
     editors_.insert(field.name, editor);
   }
   scroll_->setWidget(page);
+  QWidget* before = scroll_;
+  for (const FieldInfo& field : fields) {
+    for (QWidget* control : editors_.value(field.name)->Controls()) {
+      QWidget::setTabOrder(before, control);
+      before = control;
+    }
+  }
 }
 
 void ItemInspector::ShowValues() {

@@ -13,6 +13,7 @@
 #include "host/session/input_port.h"
 #include "host/system/roomy_folder.h"
 #include "host/system/whole_file.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/editor/edit_layer.h"
 #include "host/window/editor/item_inspector.h"
 #include "host/window/editor/source_pane.h"
@@ -86,7 +87,7 @@ void KeymapEditor::MakeBar() {
   auto* add = new QToolButton;
   add->setText(QStringLiteral("Add"));
   add->setPopupMode(QToolButton::InstantPopup);
-  add->setFocusPolicy(Qt::NoFocus);
+  add->setAccessibleName(add->text());
   add->setMenu(MakeAddMenu([this] { return FreePlace(); }, bar_));
   add->setToolTip(QStringLiteral("Put a new item on the screen"));
   add_ = bar_->addWidget(add);
@@ -111,6 +112,7 @@ void KeymapEditor::MakeBar() {
   connect(delete_, &QAction::triggered, this, &KeymapEditor::Delete);
   connect(save_, &QAction::triggered, this, &KeymapEditor::Save);
   connect(save_as, &QAction::triggered, this, [this] { SaveAs(QString()); });
+  ReachByTab(bar_);
   bar_->toggleViewAction()->setVisible(false);
   bar_->setEnabled(false);
 }
@@ -131,7 +133,7 @@ void KeymapEditor::MakeDock() {
 }
 
 QMenu* KeymapEditor::MakeAddMenu(const std::function<QPointF()>& place, QWidget* parent) {
-  auto* menu = new QMenu(parent);
+  auto* menu = new QMenu(QStringLiteral("Add"), parent);
   menu->setToolTipsVisible(true);
   const QVector<km::ItemTypeInfo> types = km::DescribeItemTypes();
   for (const ItemTypeGroup& group : ItemTypeGroups()) {
@@ -148,7 +150,7 @@ QMenu* KeymapEditor::MakeAddMenu(const std::function<QPointF()>& place, QWidget*
 }
 
 void KeymapEditor::ShowMenu(const QPoint& global, const QPointF& place) {
-  auto* menu = new QMenu(layer_);
+  auto* menu = new QMenu(QStringLiteral("Item"), layer_);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   if (layer_->Selected() >= 0) {
     connect(menu->addAction(QStringLiteral("Press a key\u2026")), &QAction::triggered, inspector_,

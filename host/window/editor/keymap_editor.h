@@ -10,7 +10,7 @@
 #include <QString>
 
 #include "host/editor/keymap_document.h"
-#include "host/window/dialog/question.h"
+#include "host/window/controls/question.h"
 
 class QAction;
 class QDockWidget;
@@ -44,6 +44,7 @@ class KeymapEditor : public QObject {
   // Puts the bar behind the tool bars that the window has so far.
   void AddBar();
   QAction* Switch() const { return switch_; }
+  QToolBar* Bar() const { return bar_; }
   bool IsOn() const;
   KeymapDocument* Document() { return &document_; }
   EditLayer* Layer() const { return layer_; }

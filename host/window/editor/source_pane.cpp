@@ -14,6 +14,7 @@ namespace tavi {
 SourcePane::SourcePane(QWidget* parent) : QWidget(parent), text_(new QPlainTextEdit), problem_(new QLabel) {
   text_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   text_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text_->setAccessibleName(QStringLiteral("Lines of the file"));
   text_->setTabChangesFocus(true);  // no tab may stand in front of a line of YAML
   problem_->setWordWrap(true);
   theme::Follow(problem_,

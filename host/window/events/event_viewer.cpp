@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "host/look/theme.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/events/end_follower.h"
 #include "host/window/events/event_log.h"
 
@@ -28,7 +29,7 @@ QToolButton* AddButton(QHBoxLayout* row, const QString& text, const QString& hin
   auto* button = new QToolButton;
   button->setText(text);
   button->setToolTip(hint);
-  button->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(button);
   row->addWidget(button);
   return button;
 }
@@ -36,7 +37,11 @@ QToolButton* AddButton(QHBoxLayout* row, const QString& text, const QString& hin
 QTableView* MakeTable(EventLog* log) {
   auto* table = new QTableView;
   table->setModel(log);
-  table->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(table);
+  table->setTabKeyNavigation(false);
+  table->setAccessibleName(QStringLiteral("Events of the host"));
+  table->horizontalHeader()->setAccessibleName(QStringLiteral("Columns of the events"));
+  table->verticalHeader()->setAccessibleName(QStringLiteral("Rows of the events"));
   table->setFrameShape(QFrame::NoFrame);
   table->setShowGrid(false);
   table->setFont(theme::MonospaceFont());

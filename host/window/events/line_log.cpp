@@ -12,6 +12,7 @@
 
 #include "host/guest/guest_line.h"
 #include "host/look/theme.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/events/end_follower.h"
 
 namespace tavi {
@@ -77,7 +78,8 @@ QPlainTextEdit* MakeText(QWidget* parent) {
   text->setFont(theme::MonospaceFont());
   text->setFrameShape(QFrame::NoFrame);
   // Text can be marked by the mouse without taking the keys from the guest.
-  text->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(text);
+  text->setAccessibleName(QStringLiteral("Lines for the guest"));
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setMinimumWidth(text->fontMetrics().averageCharWidth() * kLeastColumns);
   return text;
@@ -87,7 +89,7 @@ QToolButton* MakeButton(const QString& text, const QString& hint, QWidget* paren
   auto* button = new QToolButton(parent);
   button->setText(text);
   button->setToolTip(hint);
-  button->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(button);
   return button;
 }
 

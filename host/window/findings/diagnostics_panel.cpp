@@ -6,6 +6,7 @@
 
 #include "host/look/theme.h"
 #include "host/session/keymap_source.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/findings/placed_finding.h"
 #include "keymapmanager/keymap_file.h"
 
@@ -71,14 +72,17 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
       title_(new QLabel(this)),
       findings_(new QLabel),
       scroll_(new QScrollArea(this)) {
-  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse);
+  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
+                                     Qt::LinksAccessibleByKeyboard);
   connect(findings_, &QLabel::linkActivated, this, &DiagnosticsPanel::FindingChosen);
-  findings_->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(findings_);
+  findings_->setAccessibleName(QStringLiteral("Findings of %1").arg(subject.toLower()));
   findings_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   findings_->setFont(theme::MonospaceFont());
   scroll_->setWidget(findings_);
   scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(scroll_);
+  scroll_->setAccessibleName(QStringLiteral("List of findings"));
   title_->setWordWrap(true);  // or it would ask for the width of its sentence
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(12, 8, 12, 8);

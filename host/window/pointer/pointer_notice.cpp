@@ -7,6 +7,7 @@
 
 #include "host/look/theme.h"
 #include "host/session/live_host.h"
+#include "host/window/controls/control_focus.h"
 #include "host/window/pointer/pointer_capture.h"
 #include "taviinputmanager/types.h"
 
@@ -23,7 +24,7 @@ PointerNotice::PointerNotice(WindowSystem system, const PointerCapture* capture,
       offer_(new QToolButton(this)) {
   text_->setWordWrap(true);
   offer_->setDefaultAction(full_screen);
-  offer_->setFocusPolicy(Qt::NoFocus);
+  ReachByTab(offer_);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(12, 8, 12, 8);
   layout->addWidget(text_, 1);

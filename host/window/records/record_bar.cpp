@@ -4,7 +4,6 @@
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
@@ -15,7 +14,8 @@
 #include "host/session/recorder.h"
 #include "host/session/replayer.h"
 #include "host/system/whole_file.h"
-#include "host/window/dialog/long_work.h"
+#include "host/window/controls/control_focus.h"
+#include "host/window/controls/long_work.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -67,6 +67,7 @@ RecordBar::RecordBar(QWidget* parent)
   setObjectName(QStringLiteral("records"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
+  recorded_->setAccessibleName(QStringLiteral("Time recorded"));
   addWidget(recorded_);
   addSeparator();
   open_ = AddButton(QStringLiteral("Open record\u2026"), QStringLiteral("Take a record to play"));
@@ -76,10 +77,13 @@ RecordBar::RecordBar(QWidget* parent)
   AddSpeedButton();
   progress_->setFixedWidth(kProgressWidth);
   progress_->setFormat(QString());
+  progress_->setAccessibleName(QStringLiteral("Time played"));
   addWidget(progress_);
   second_view_ = AddButton(QStringLiteral("Second view"),
                            QStringLiteral("Play on a display of its own, beside the one that you play on"));
   second_view_->setCheckable(true);
+  ReachByTab(this);
+  toggleViewAction()->setVisible(false);  // it stays
 
   connect(record_, &QAction::triggered, this, &RecordBar::ToggleRecording);
   connect(pause_record_, &QAction::triggered, this, &RecordBar::TogglePause);
@@ -100,7 +104,6 @@ RecordBar::RecordBar(QWidget* parent)
 QAction* RecordBar::AddButton(const QString& text, const QString& hint) {
   QAction* action = addAction(text);
   action->setToolTip(hint);
-  widgetForAction(action)->setFocusPolicy(Qt::NoFocus);
   return action;
 }
 
@@ -108,16 +111,18 @@ void RecordBar::AddSpeedButton() {
   auto* button = new QToolButton(this);
   button->setMenu(MakeSpeedMenu());
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setFocusPolicy(Qt::NoFocus);
   button->setToolTip(QStringLiteral("How fast the next replay is"));
-  const auto show = [this, button] { button->setText(SpeedText(Speed())); };
+  const auto show = [this, button] {
+    button->setText(SpeedText(Speed()));
+    button->setAccessibleName(QStringLiteral("Speed %1").arg(button->text()));
+  };
   connect(speeds_, &QActionGroup::triggered, this, show);
   show();
   addWidget(button);
 }
 
 QMenu* RecordBar::MakeSpeedMenu() {
-  auto* menu = new QMenu(this);
+  auto* menu = new QMenu(QStringLiteral("Speed"), this);
   speeds_ = new QActionGroup(menu);
   for (const double speed : kSpeeds) {
     QAction* action = speeds_->addAction(menu->addAction(SpeedText(speed)));
@@ -233,8 +238,7 @@ void RecordBar::Announce(const QString& text) {
 
 bool RecordBar::OpenRecord(QString file) {
   if (file.isEmpty()) {
-    file =
-        QFileDialog::getOpenFileName(this, QStringLiteral("Open a record"), folder_, QString::fromLatin1(kFileTypes));
+    file = AskForFile(this, QStringLiteral("Open a record"), folder_, QString::fromLatin1(kFileTypes));
     Q_EMIT DialogClosed();
   }
   if (file.isEmpty()) return false;

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "host/window/dialog/question.h"
+#include "host/window/controls/question.h"
 
 class QAction;
 class QActionGroup;
@@ -18,7 +18,8 @@ struct RecordInfo;
 
 namespace tavi {
 
-// Records what the guest gets, and plays records back. Its buttons take no focus, so that the keys stay the guest's.
+// Records what the guest gets, and plays records back. A click at its buttons takes no focus, so that the keys stay the
+// guest's.
 class RecordBar : public QToolBar {
   Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "host/window/records/replay_dock.h"
 
+#include <QAction>
 #include <QCloseEvent>
 
 #include "host/session/input_port.h"
@@ -40,6 +41,7 @@ ReplayDock::ReplayDock(const GuestScreen* player, QWidget* parent)
   setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
   frame_->setMinimumHeight(kLeastHeight);
   setWidget(frame_);
+  toggleViewAction()->setVisible(false);  // it comes and goes with the switch
 }
 
 void ReplayDock::SetInUse(bool in_use) {

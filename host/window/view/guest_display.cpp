@@ -1,10 +1,10 @@
 #include "host/window/view/guest_display.h"
 
-#include <QFileDialog>
 #include <QLabel>
 
 #include "host/session/input_port.h"
 #include "host/session/live_host.h"
+#include "host/window/controls/question.h"
 #include "host/window/view/guest_frame.h"
 #include "host/window/view/guest_menu.h"
 #include "host/window/view/guest_view.h"
@@ -95,9 +95,8 @@ void GuestDisplay::TellShapeOfBackground() {
 }
 
 void GuestDisplay::OpenBackground() {
-  const QString file =
-      QFileDialog::getOpenFileName(window_, QStringLiteral("Open a picture of the guest's screen"), QString(),
-                                   QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
+  const QString file = AskForFile(window_, QStringLiteral("Open a picture of the guest's screen"), QString(),
+                                  QStringLiteral("Pictures (*.png *.jpg *.jpeg);;All files (*)"));
   Q_EMIT DialogClosed();
   if (file.isEmpty()) return;
   const QString problem = SetBackground(file);

@@ -36,7 +36,8 @@ GuestView::GuestView(QWidget* parent)
       capture_(this),
       key_repeats_([](QKeyEvent* event) { InputPort::GetInstance()->Send(event); }),
       may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::ClickFocus);  // Tab would not lead on from here
+  setAccessibleName(QStringLiteral("Screen of the guest"));
   setMouseTracking(true);
   setAttribute(Qt::WA_AcceptTouchEvents);
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -112,6 +113,7 @@ bool GuestView::HandleKey(QKeyEvent* event) {
   const NativeKey native = NativeKeyOf(*event);
   // Such a key has a text at most.
   if (native.scancode == 0 && !LiveHost::GetInstance()->HasTextField()) return true;
+  if (!IsWhole(*event, native.scancode)) return true;
   QKeyEvent converted(event->type(), event->key(), event->modifiers(), native.scancode, native.virtual_key,
                       event->nativeModifiers(), event->text(), event->isAutoRepeat(),
                       static_cast<ushort>(event->count()));
@@ -124,6 +126,13 @@ bool GuestView::HandleKey(QKeyEvent* event) {
   return true;
 }
 
+// The key that closed a dialog is let go here; a guest would take that for its back key.
+bool GuestView::IsWhole(const QEvent& event, quint32 scancode) {
+  if (event.type() == QEvent::KeyRelease) return pressed_.remove(scancode);
+  pressed_.insert(scancode);
+  return true;
+}
+
 void GuestView::Send(QEvent* event) {
   key_repeats_.Flush();
   InputPort::GetInstance()->Send(event);
@@ -131,13 +140,20 @@ void GuestView::Send(QEvent* event) {
 
 bool GuestView::HandleTouch(QEvent* event) {
   event->accept();
-  if (event->type() == QEvent::TouchCancel) {
-    ReleaseInput();
+  if (event->type() == QEvent::TouchCancel) {  // the window system takes it for itself; the library knows ends only
+    QTouchEvent end(QEvent::TouchEnd);
+    Send(&end);
     return true;
   }
-  QTouchEvent touch(*static_cast<QTouchEvent*>(event));
-  QList<QTouchEvent::TouchPoint> points = touch.touchPoints();
-  for (QTouchEvent::TouchPoint& point : points) point.setPos(ToGuest(point.pos()));
+  const auto& given = *static_cast<QTouchEvent*>(event);
+  QList<QTouchEvent::TouchPoint> points;
+  for (QTouchEvent::TouchPoint point : given.touchPoints()) {
+    // Qt lists a finger that goes up once more, and the library takes every finger of an update to be down.
+    if (point.state() == Qt::TouchPointReleased && event->type() == QEvent::TouchUpdate) continue;
+    point.setPos(ToGuest(point.pos()));
+    points.append(point);
+  }
+  QTouchEvent touch(given);
   touch.setTouchPoints(points);
   Send(&touch);
   return true;

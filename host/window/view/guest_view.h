@@ -2,6 +2,7 @@
 #define HOST_WINDOW_VIEW_GUEST_VIEW_H_
 
 #include <QEvent>
+#include <QSet>
 
 #include "host/picture/keymap_overlay.h"
 #include "host/session/key_repeat_filter.h"
@@ -55,6 +56,8 @@ class GuestView : public GuestScreen {
   void TakeTextField(bool focused);
 
   bool HandleKey(QKeyEvent* event);
+  // Whether the other half of a release was here as well.
+  bool IsWhole(const QEvent& event, quint32 scancode);
   bool HandleTouch(QEvent* event);
   // Hands an event to the library, behind all that came before it.
   void Send(QEvent* event);
@@ -73,6 +76,7 @@ class GuestView : public GuestScreen {
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;
+  QSet<quint32> pressed_;             // scan codes whose press came here
   const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
 };
 

@@ -10,14 +10,14 @@ class Gestures : public testing::Test {
  protected:
   // The host sends a line that the target is there for; gives what it is told, without the end.
   QByteArray Hear(const char* line) {
-    const SentLine sent = Sent(line);
+    const OutgoingLine sent = Sent(line);
     const QByteArray told = target_.Tell(sent, host_);
     host_.Take(sent.display, sent.line);
     return told.trimmed();
   }
   // The host sends a line while the target is away.
   void Miss(const char* line) {
-    const SentLine sent = Sent(line);
+    const OutgoingLine sent = Sent(line);
     host_.Take(sent.display, sent.line);
   }
 
@@ -31,7 +31,7 @@ class Gestures : public testing::Test {
   TargetGestures target_;
 
  private:
-  static SentLine Sent(const char* line) { return SentLine(QByteArray(line) + '\n'); }
+  static OutgoingLine Sent(const char* line) { return OutgoingLine(QByteArray(line) + '\n'); }
 };
 
 TEST_F(Gestures, ThatBeganBeforeItCameAreNotContinued) {
@@ -72,7 +72,7 @@ TEST_F(Gestures, WhatIsNoGestureIsAlwaysTold) {
                            "1:KBDRL:30:0", "1:SOMETHING:NEW"}) {
     EXPECT_EQ(Hear(line), line);
   }
-  EXPECT_EQ(target_.Tell(SentLine(QByteArray("TEXT:1:SLOTPRESS:2\n", 20)), host_),
+  EXPECT_EQ(target_.Tell(OutgoingLine(QByteArray("TEXT:1:SLOTPRESS:2\n", 20)), host_),
             QByteArray("TEXT:1:SLOTPRESS:2\n", 20));
 }
 

@@ -145,12 +145,48 @@ TEST_F(Findings, TheKeymapOfGamepadsHasLabelsOfItsOwn) {
 
 TEST_F(Findings, AKeyOfTheWindowIsOne) {
   Save(Replaced("key: W", "key: F12"));
-  EXPECT_TRUE(Panel().contains("the window keeps F12 for itself")) << Panel().toStdString();
+  EXPECT_TRUE(
+      Panel().contains("the window keeps F12 for itself, so this item never gets it; --pause-key takes another"))
+      << Panel().toStdString();
   ExpectMarkAt("1", 0.5, 0.5);
-  Save(Replaced("key: W", "key: Backspace"));
-  EXPECT_TRUE(Panel().contains("the window keeps Ctrl+Alt+Backspace for itself"));
   Save(Replaced("key: W", "key: F12 + R"));  // as a part of a chord, too
   EXPECT_TRUE(Panel().contains("the window keeps F12 for itself")) << Panel().toStdString();
+}
+
+// Backspace is the window's while Ctrl and Alt are down, so only where a player may come to hold both.
+TEST_F(Findings, AKeyOfTheWindowWithModifiersIsOneWhereTheyAreKeysOfTheKeymap) {
+  const struct {
+    const char* name;
+    const char* first;
+    const char* second;
+    const char* third;
+    bool is_told;
+  } rows[] = {
+      {"alone", "Space", "Backspace", "E", false},
+      {"with one of the modifiers", "Left Ctrl", "Backspace", "E", false},
+      {"with both", "Left Ctrl", "Backspace", "Left Alt", true},
+      {"with both of the right side", "Right Ctrl", "Backspace", "Right Alt", true},
+      {"with two of one kind", "Left Ctrl", "Backspace", "Right Ctrl", false},
+      {"in chords", "Left Ctrl + R", "Left Alt + Backspace", "E", true},
+      {"the key that leads to the controls", "Left Ctrl", "Enter", "Left Alt", true},
+      {"Enter of the number pad is another key", "Left Ctrl", "Numpad Enter", "Left Alt", false},
+  };
+  for (const auto& row : rows) {
+    Save(Replaced("key: Space", (QByteArray("key: ") + row.first).constData())
+             .replace("key: E", QByteArray("key: ") + row.third)
+             .replace("key: W", QByteArray("key: ") + row.second));
+    EXPECT_EQ(Panel().contains("the window keeps Ctrl+Alt+"), row.is_told) << row.name << Panel().toStdString();
+  }
+}
+
+TEST_F(Findings, AKeyOfTheWindowWithModifiersTellsWhenItIsTaken) {
+  Save(Replaced("key: Space", "key: Left Ctrl").replace("key: W", "key: Backspace").replace("key: E", "key: Left Alt"));
+  EXPECT_TRUE(
+      Panel().contains("the window keeps Ctrl+Alt+Backspace for itself, so this item does not get its key while "
+                       "Ctrl and Alt of this keymap are down; --panic-key takes another key"))
+      << Panel().toStdString();
+  ExpectMarkAt("1", 0.5, 0.5);
+  EXPECT_FALSE(Panel().contains("href='2'"));
 }
 
 // While one edits a finding comes and goes with each key that is typed.

@@ -1,5 +1,6 @@
 #include "host/window/view/guest_view.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 #include <QCursor>
@@ -58,6 +59,21 @@ TEST_F(GuestViewTest, KeysThatMoveTheFocusAreTheGuestsToo) {
   Load("{type: Click, key: Tab, point: [0.5, 0.5]}");
   Press(15);
   EXPECT_EQ(Slots().size(), 1);
+}
+
+// Such as that of the Escape that closed a dialog.
+TEST_F(GuestViewTest, AReleaseWithoutItsPressIsNotTheGuests) {
+  Load("", "settings: {keyboard_transparent: true}");
+  int lines = 0;
+  QObject counter;  // ends before the window lets go of everything
+  QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &counter, [&] { ++lines; });
+  Release(1);
+  EXPECT_EQ(lines, 0);
+  Press(1);
+  Release(1);
+  EXPECT_EQ(lines, 2);
+  Release(1);
+  EXPECT_EQ(lines, 2);
 }
 
 TEST_F(GuestViewTest, NoKeyIsAShortcutOfTheWindow) {
@@ -176,6 +192,74 @@ TEST_F(GuestViewTest, TouchesAreFingers) {
   QTouchEvent end(QEvent::TouchEnd, nullptr, Qt::NoModifier, Qt::TouchPointReleased, {finger});
   Send(&end);
   EXPECT_TRUE(Slots().isEmpty());
+}
+
+class GuestViewTouch : public GuestViewTest {
+ protected:
+  using Point = QTouchEvent::TouchPoint;
+
+  Point Finger(int id, double x, double y, Qt::TouchPointState state) const {
+    Point finger(id);
+    finger.setPos(At(x, y));
+    finger.setState(state);
+    return finger;
+  }
+  void Touch(QEvent::Type type, const QList<Point>& fingers) {
+    QTouchEvent event(type, nullptr, Qt::NoModifier, Qt::TouchPointMoved, fingers);
+    Send(&event);
+  }
+  void PutTwoDown() {
+    Load("");
+    Touch(QEvent::TouchBegin,
+          {Finger(1, 0.25, 0.5, Qt::TouchPointPressed), Finger(2, 0.75, 0.5, Qt::TouchPointPressed)});
+    ASSERT_EQ(Slots(), (QList<int>{18, 19}));
+  }
+};
+
+// Qt tells of it once, as a finger that is released, and not again as long as the other one rests.
+TEST_F(GuestViewTouch, AFingerThatGoesUpIsUpAtOnce) {
+  PutTwoDown();
+  Touch(QEvent::TouchUpdate,
+        {Finger(1, 0.25, 0.5, Qt::TouchPointStationary), Finger(2, 0.75, 0.5, Qt::TouchPointReleased)});
+  EXPECT_EQ(Slots(), QList<int>{18});
+  Touch(QEvent::TouchUpdate, {Finger(1, 0.5, 0.5, Qt::TouchPointMoved), Finger(3, 0.75, 0.5, Qt::TouchPointPressed)});
+  EXPECT_EQ(Slots(), (QList<int>{18, 19}));
+  ExpectNear(Guest().contacts[18].point, 640, 360);
+}
+
+TEST_F(GuestViewTouch, ATouchThatTheSystemTakesIsLiftedAlone) {
+  Load("{type: Click, key: Space, point: [0.5, 0.5]}");
+  Press(kSpace);
+  Touch(QEvent::TouchBegin, {Finger(1, 0.25, 0.5, Qt::TouchPointPressed)});
+  ASSERT_EQ(Slots(), (QList<int>{11, 18}));
+  Touch(QEvent::TouchCancel, {});
+  EXPECT_EQ(Slots(), QList<int>{11});
+}
+
+TEST_F(GuestViewTouch, FingersAreLiftedWithAllElse) {
+  const struct {
+    const char* name;
+    std::function<void()> let_go;
+  } rows[] = {
+      {"the focus goes",
+       [this] {
+         QFocusEvent out(QEvent::FocusOut);
+         Send(&out);
+       }},
+      {"the way out", [this] { Window()->Keymaps()->LetGoOfEverything(); }},
+      {"another keymap", [this] { Load("{type: Click, key: Space, point: [0.5, 0.5]}"); }},
+      {"the mapping is switched", [this] { Window()->PauseMapping(); }},
+  };
+  for (const auto& row : rows) {
+    PutTwoDown();
+    row.let_go();
+    EXPECT_TRUE(Slots().isEmpty()) << row.name;
+    // On the glass they are still, and count for nothing until the next touch.
+    Touch(QEvent::TouchUpdate,
+          {Finger(1, 0.3, 0.5, Qt::TouchPointMoved), Finger(2, 0.75, 0.5, Qt::TouchPointStationary)});
+    EXPECT_TRUE(Slots().isEmpty()) << row.name;
+    Touch(QEvent::TouchEnd, {Finger(1, 0.3, 0.5, Qt::TouchPointReleased)});
+  }
 }
 
 TEST_F(GuestViewTest, ABrokenKeymapIsToldAndTakesNoKeys) {

@@ -1,5 +1,5 @@
 // Work that takes long, while a window stays alive.
-#include "host/window/dialog/long_work.h"
+#include "host/window/controls/long_work.h"
 
 #include <gtest/gtest.h>
 

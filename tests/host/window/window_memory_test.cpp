@@ -11,6 +11,7 @@
 #include "host/window/main_tool_bar.h"
 #include "host/window/records/record_bar.h"
 #include "host/window/view/guest_frame.h"
+#include "host/window/view/guest_panel.h"
 #include "tests/host/window/window_fixture.h"
 
 namespace tavi {
@@ -53,6 +54,21 @@ TEST_F(WindowMemoryTest, TheWindowCanBeAsSmallAsTheScreen) {
     EXPECT_EQ(Window()->size(), size);
     EXPECT_GE(View()->width(), 400) << size.width();
   }
+}
+
+// The guest's screen keeps the 680 pixels that its keys need: at 200 % on 1920 x 1080 the window is 952 x 500, its bars
+// take 108, and the strip's 62 would leave 330, for a width of 587.
+TEST_F(WindowMemoryTest, TheStripBelowGivesWayBeforeTheScreenGetsTooNarrow) {
+  const auto* strip = Window()->findChild<GuestPanel*>();
+  ASSERT_NE(strip, nullptr);
+  Resize(952, 500);
+  EXPECT_FALSE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
+  Resize(952, 384 + 170 - 1);
+  EXPECT_FALSE(strip->isVisible());
+  Resize(952, 384 + 170);
+  EXPECT_TRUE(strip->isVisible());
+  EXPECT_GE(View()->width(), DockFolder::kLeastViewWidth);
 }
 
 TEST_F(WindowMemoryTest, ASmallWindowPutsDocksAwayUntilThereIsRoom) {
@@ -120,16 +136,17 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
   WindowMemory memory(File());
   memory.Save(*Window());
   EXPECT_EQ(memory.Keymap(), folder_.filePath("keymap.yaml"));
-  EXPECT_EQ(memory.Options(), (QMap<QString, QString>{{"--guest", "720x1280"},
+  EXPECT_EQ(memory.Options(), (QMap<QString, QString>{{"--size", "720x1280"},
                                                       {"--joystick", folder_.filePath("joystick.yaml")},
                                                       {"--look", "desktop"},
                                                       {"--panic-key", "Ctrl+Alt+Backspace"},
+                                                      {"--controls-key", "Ctrl+Alt+Enter"},
                                                       {"--pause-key", "F12"},
                                                       {"--pixel-ratio", "1.5"},
                                                       {"--rotation", "90"}}));
   Window()->Display()->SetSize(QSize());
   memory.Save(*Window());
-  EXPECT_EQ(memory.Options()["--guest"], "view");
+  EXPECT_EQ(memory.Options()["--size"], "view");
 }
 
 TEST_F(WindowMemoryTest, FilesThatAreGoneAreForgotten) {

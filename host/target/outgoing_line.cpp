@@ -1,8 +1,8 @@
-#include "host/target/sent_line.h"
+#include "host/target/outgoing_line.h"
 
 namespace tavi {
 
-SentLine::SentLine(const QByteArray& bytes) : bytes(bytes), is_text(bytes.endsWith('\0')) {
+OutgoingLine::OutgoingLine(const QByteArray& bytes) : bytes(bytes), is_text(bytes.endsWith('\0')) {
   if (is_text) return;
   const AddressedLine addressed = SplitDisplay(QString::fromUtf8(bytes.chopped(1)));
   display = addressed.display;

@@ -1,4 +1,4 @@
-#include "host/window/dialog/long_work.h"
+#include "host/window/controls/long_work.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

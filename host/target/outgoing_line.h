@@ -1,5 +1,5 @@
-#ifndef HOST_TARGET_SENT_LINE_H_
-#define HOST_TARGET_SENT_LINE_H_
+#ifndef HOST_TARGET_OUTGOING_LINE_H_
+#define HOST_TARGET_OUTGOING_LINE_H_
 
 #include <QByteArray>
 
@@ -8,9 +8,9 @@
 namespace tavi {
 
 // A line on its way to targets.
-struct SentLine {
+struct OutgoingLine {
   // Of what the library's send functions get, end included.
-  explicit SentLine(const QByteArray& bytes);
+  explicit OutgoingLine(const QByteArray& bytes);
 
   QByteArray bytes;
   bool is_text = false;  // of no display, and with no more than its bytes
@@ -20,4 +20,4 @@ struct SentLine {
 
 }  // namespace tavi
 
-#endif  // HOST_TARGET_SENT_LINE_H_
+#endif  // HOST_TARGET_OUTGOING_LINE_H_

@@ -1,10 +1,28 @@
-#include "host/window/dialog/question.h"
+#include "host/window/controls/question.h"
 
+#include <utility>
+
+#include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
 
 namespace tavi {
+
+namespace {
+
+// A dialog of Qt's own has lists that nothing names; one of the desktop has none of them.
+QString FileOf(QFileDialog* dialog) {
+  const std::pair<const char*, QString> rows[] = {{"lookInCombo", QStringLiteral("Folder")},
+                                                  {"fileTypeCombo", QStringLiteral("Files of type")}};
+  for (const auto& [object, name] : rows) {
+    if (auto* combo = dialog->findChild<QComboBox*>(QLatin1String(object))) combo->setAccessibleName(name);
+  }
+  return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
+}
+
+}  // namespace
 
 Ask AskIn(QWidget* window) {
   return [window](const QString& question, const QVector<Answer>& answers) {
@@ -23,11 +41,17 @@ AskForName AskForNameIn(QWidget* window) {
     QFileDialog dialog(window, question.title, QString(), question.types);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(question.suffix);
-    const QFileInfo proposal(question.proposal);
+    const QFileInfo proposal(question.proposal.isEmpty() ? QDir::currentPath() : question.proposal);
     dialog.setDirectory(proposal.isDir() ? proposal.absoluteFilePath() : proposal.absolutePath());
     if (!proposal.isDir()) dialog.selectFile(proposal.fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return FileOf(&dialog);
   };
+}
+
+QString AskForFile(QWidget* window, const QString& title, const QString& folder, const QString& types) {
+  QFileDialog dialog(window, title, folder, types);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return FileOf(&dialog);
 }
 
 }  // namespace tavi

@@ -1,5 +1,5 @@
-#ifndef HOST_WINDOW_DIALOG_LONG_WORK_H_
-#define HOST_WINDOW_DIALOG_LONG_WORK_H_
+#ifndef HOST_WINDOW_CONTROLS_LONG_WORK_H_
+#define HOST_WINDOW_CONTROLS_LONG_WORK_H_
 
 #include <functional>
 
@@ -18,4 +18,4 @@ bool DoLongWork(QWidget* parent, const QString& title, const std::function<void(
 
 }  // namespace tavi
 
-#endif  // HOST_WINDOW_DIALOG_LONG_WORK_H_
+#endif  // HOST_WINDOW_CONTROLS_LONG_WORK_H_

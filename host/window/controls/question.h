@@ -1,6 +1,6 @@
 // What a person is asked for in a window.
-#ifndef HOST_WINDOW_DIALOG_QUESTION_H_
-#define HOST_WINDOW_DIALOG_QUESTION_H_
+#ifndef HOST_WINDOW_CONTROLS_QUESTION_H_
+#define HOST_WINDOW_CONTROLS_QUESTION_H_
 
 #include <functional>
 
@@ -35,6 +35,9 @@ struct SaveQuestion {
 using AskForName = std::function<QString(const SaveQuestion& question)>;
 AskForName AskForNameIn(QWidget* window);
 
+// Asks for a file that there is, first in `folder`; empty when the person backs out. `types` as file dialogs take them.
+QString AskForFile(QWidget* window, const QString& title, const QString& folder, const QString& types);
+
 }  // namespace tavi
 
-#endif  // HOST_WINDOW_DIALOG_QUESTION_H_
+#endif  // HOST_WINDOW_CONTROLS_QUESTION_H_

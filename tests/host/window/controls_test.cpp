@@ -1,0 +1,414 @@
+// The window without a mouse: every control has a name, and the keys find the way to each and back to the guest.
+#include <atomic>
+#include <functional>
+#include <memory>
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QThread>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "host/look/theme.h"
+#include "host/window/controls/long_work.h"
+#include "host/window/controls/question.h"
+#include "host/window/editor/edit_layer.h"
+#include "host/window/editor/field_editor.h"
+#include "host/window/editor/item_inspector.h"
+#include "host/window/editor/keymap_editor.h"
+#include "host/window/events/line_log.h"
+#include "host/window/findings/diagnostics_panel.h"
+#include "host/window/main_tool_bar.h"
+#include "host/window/records/record_bar.h"
+#include "taviinputmanager/taviinputmanager.h"
+#include "tests/host/window/window_fixture.h"
+
+namespace tavi {
+namespace {
+
+constexpr int kEnter = 28;
+constexpr int kEscape = 1;
+
+constexpr char kItems[] =
+    "{type: Click, label: Jump, key: Space, point: [0.25, 0.75]}, {type: Click, key: Space, point: [0.5, 0.5]}";
+
+bool IsInteractive(const QWidget* widget) {
+  const auto* label = qobject_cast<const QLabel*>(widget);
+  if (label != nullptr && !label->text().contains("<a ")) return false;  // a text, perhaps one to select
+  return widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget) != nullptr;
+}
+
+QString NameOf(const QWidget* widget) {
+  if (!widget->accessibleName().isEmpty()) return widget->accessibleName();
+  for (const QLabel* label : widget->window()->findChildren<QLabel*>()) {
+    if (label->buddy() == widget) return label->text();
+  }
+  const auto* button = qobject_cast<const QAbstractButton*>(widget);
+  return button == nullptr ? QString() : button->text();
+}
+
+std::string Told(const QObject* object) {
+  const QObject* parent = object->parent();
+  return QStringLiteral("%1 \"%2\" in %3 \"%4\"")
+      .arg(QLatin1String(object->metaObject()->className()), object->objectName(),
+           QLatin1String(parent == nullptr ? "nothing" : parent->metaObject()->className()),
+           parent == nullptr ? QString() : parent->objectName())
+      .toStdString();
+}
+
+// Those that a person can use at the moment.
+QVector<QWidget*> InteractiveWidgetsOf(const QWidget* window) {
+  QVector<QWidget*> found;
+  for (QWidget* widget : window->findChildren<QWidget*>()) {
+    if (widget->window() == window && widget->isVisible() && widget->isEnabled() && IsInteractive(widget))
+      found += widget;
+  }
+  return found;
+}
+
+void ExpectNames(const QWidget* window) {
+  for (const QWidget* widget : InteractiveWidgetsOf(window)) EXPECT_FALSE(NameOf(widget).isEmpty()) << Told(widget);
+}
+
+void ExpectNamesInMenu(const QMenu* menu) {
+  for (const QAction* action : menu->actions()) {
+    if (action->isSeparator()) continue;
+    EXPECT_FALSE(action->text().isEmpty()) << Told(action);
+    if (action->menu() != nullptr) ExpectNamesInMenu(action->menu());
+  }
+}
+
+class Controls : public WindowFixture {
+ protected:
+  Controls() {
+    Window()->resize(1800, 1100);  // all bars and docks have room
+    Window()->activateWindow();
+    clock_->Settle();
+  }
+
+  // To whatever has the keys, and all the way up from there.
+  void Type(int key, int linux_code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, modifiers, static_cast<quint32>(linux_code + 8), 0, 0);
+      QWidget* receiver = QApplication::focusWidget();
+      ASSERT_NE(receiver, nullptr);
+      QCoreApplication::sendEvent(receiver, &event);
+      clock_->Settle();
+    }
+  }
+  void TypeControlsKey() { Type(Qt::Key_Return, kEnter, Qt::ControlModifier | Qt::AltModifier); }
+  void TypeEscape() { Type(Qt::Key_Escape, kEscape); }
+  void TypeTab(bool back = false) { back ? Type(Qt::Key_Backtab, 15, Qt::ShiftModifier) : Type(Qt::Key_Tab, 15); }
+  // All that Tab comes by until it is where it began.
+  QVector<QWidget*> WalkFrom(QWidget* first, bool back = false) {
+    QVector<QWidget*> walked;
+    first->setFocus(Qt::TabFocusReason);
+    for (int step = 0; step < 300; ++step) {
+      walked += QApplication::focusWidget();
+      TypeTab(back);
+      if (QApplication::focusWidget() == first) return walked;
+    }
+    ADD_FAILURE() << "Tab does not come back";
+    return walked;
+  }
+  void ExpectAllAreWalked(bool back) {
+    TypeControlsKey();
+    const QVector<QWidget*> walked = WalkFrom(QApplication::focusWidget(), back);
+    EXPECT_FALSE(walked.contains(View()));
+    EXPECT_FALSE(walked.contains(Window()->Editor()->Layer()));
+    for (QWidget* widget : InteractiveWidgetsOf(Window())) {
+      if (widget == View() || widget == Window()->Editor()->Layer()) continue;  // which have all keys
+      EXPECT_TRUE(walked.contains(widget)) << Told(widget) << ' ' << NameOf(widget).toStdString();
+    }
+  }
+  void ShowAllParts() {
+    Load(kItems);
+    Window()->ShowEvents();
+    Window()->Records()->SecondView()->trigger();
+    clock_->Settle();
+  }
+  void Edit() {
+    Window()->Editor()->Switch()->setChecked(true);
+    Window()->Editor()->Layer()->Select(0);
+    clock_->Settle();
+  }
+  QWidget* ButtonOf(QToolBar* bar, const char* text) const {
+    for (QAction* action : bar->actions()) {
+      if (action->text() == QString::fromUtf8(text)) return bar->widgetForAction(action);
+    }
+    ADD_FAILURE() << text;
+    return nullptr;
+  }
+};
+
+// ---- Names
+
+TEST_F(Controls, EachHasAName) {
+  ShowAllParts();
+  ExpectNames(Window());
+  Edit();
+  ExpectNames(Window());
+  Window()->Editor()->Inspector()->SetAsText(true);
+  clock_->Settle();
+  ExpectNames(Window());
+}
+
+TEST_F(Controls, AlsoWhatASmallWindowFoldsAway) {
+  ShowAllParts();
+  Window()->resize(500, 500);
+  clock_->Settle();
+  ExpectNames(Window());
+}
+
+TEST_F(Controls, EachActionHasANameAndAPlace) {
+  ShowAllParts();
+  Edit();
+  for (const QAction* action : Window()->findChildren<QAction*>()) {
+    if (action->isSeparator() || !action->isVisible()) continue;
+    EXPECT_FALSE(action->text().isEmpty()) << Told(action);
+    const bool is_menu = action->menu() != nullptr;
+    const bool is_of_qt = action->objectName().startsWith("_q_") || action->objectName().startsWith("qt_");
+    if (is_menu || is_of_qt) continue;
+    EXPECT_FALSE(action->associatedWidgets().isEmpty()) << Told(action) << action->text().toStdString();
+  }
+  for (const QMenu* menu : Window()->findChildren<QMenu*>()) ExpectNamesInMenu(menu);
+}
+
+TEST_F(Controls, WhatIsNoControlButToldHasANameToo) {
+  for (const QWidget* widget : Window()->findChildren<QProgressBar*>()) EXPECT_FALSE(NameOf(widget).isEmpty());
+  for (const QWidget* widget : Window()->findChildren<QHeaderView*>()) EXPECT_FALSE(NameOf(widget).isEmpty());
+}
+
+class Dialogs : public Controls {
+ protected:
+  // A person uses the dialog that `show` opens, and closes it.
+  void Use(const std::function<void()>& show, const std::function<void(QWidget* dialog)>& use) {
+    bool is_seen = false;
+    QTimer::singleShot(0, Window(), [&] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      is_seen = true;
+      ExpectNames(dialog);
+      use(dialog);
+      TypeControlsKey();
+      EXPECT_EQ(QApplication::focusWidget()->window(), dialog);  // it keeps the keys
+      dialog->close();
+    });
+    show();
+    EXPECT_TRUE(is_seen);
+  }
+  void ExpectAllAreWalkedIn(const QWidget* dialog) {
+    QWidget* first = QApplication::focusWidget();
+    ASSERT_NE(first, nullptr);
+    const QVector<QWidget*> walked = WalkFrom(first);
+    for (QWidget* widget : InteractiveWidgetsOf(dialog)) {
+      EXPECT_TRUE(walked.contains(widget)) << Told(widget) << ' ' << NameOf(widget).toStdString();
+    }
+  }
+};
+
+TEST_F(Dialogs, AQuestion) {
+  Use(
+      [this] {
+        AskIn(Window())(QStringLiteral("Save the edits of the keymap?"),
+                        {{QMessageBox::Save, {}}, {QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
+      },
+      [this](const QWidget* dialog) { ExpectAllAreWalkedIn(dialog); });
+}
+
+// How Tab goes through it is Qt's, or the desktop's.
+TEST_F(Dialogs, TheNameOfAFile) {
+  Use(
+      [this] {
+        AskForNameIn(Window())({QStringLiteral("Save the keymap"), folder_.filePath("keymap.yaml"), "Keymaps (*.yaml)",
+                                QStringLiteral("yaml")});
+      },
+      [](const QWidget* /*dialog*/) {});
+}
+
+// Whoever has saved nothing yet begins where the program was started.
+TEST_F(Dialogs, ANameThatNothingIsProposedFor) {
+  Use(
+      [this] {
+        AskForNameIn(Window())({QStringLiteral("Save the record"), {}, "Records (*.json)", "json"});
+      },
+      [](const QWidget* dialog) { EXPECT_EQ(static_cast<const QFileDialog*>(dialog)->directory(), QDir::current()); });
+}
+
+TEST_F(Dialogs, AFileToOpen) {
+  Use([this] { AskForFile(Window(), QStringLiteral("Open a keymap"), folder_.path(), "Keymaps (*.yaml)"); },
+      [](const QWidget* /*dialog*/) {});
+}
+
+TEST_F(Dialogs, SomethingThatTakesItsTime) {
+  const auto may_end = std::make_shared<std::atomic<bool>>(false);  // the work outlives what waits for it
+  Use(
+      [&] {
+        DoLongWork(Window(), QStringLiteral("Reading"), [may_end] {
+          while (!*may_end) QThread::msleep(1);
+        });
+        *may_end = true;
+      },
+      [this](const QWidget* dialog) { ExpectAllAreWalkedIn(dialog); });
+}
+
+// ---- The way there
+
+TEST_F(Controls, TheKeyLeadsToTheFirstOne) {
+  Load(kItems);
+  EXPECT_TRUE(View()->hasFocus());
+  TypeControlsKey();
+  EXPECT_EQ(QApplication::focusWidget(), ButtonOf(Window()->Tools(), "Open\u2026"));
+}
+
+TEST_F(Controls, WhatIsDownIsLiftedAndTheKeyIsNobodysElse) {
+  Load(kItems, "settings: {keyboard_transparent: true}");
+  Press(kSpace);
+  Press(kW);
+  ASSERT_EQ(Slots().size(), 1);
+  TypeControlsKey();
+  EXPECT_TRUE(Slots().isEmpty());
+  EXPECT_TRUE(Guest().held_keys.isEmpty());
+}
+
+// A rim in the colour of what is lit, in buttons and around lists.
+TEST_F(Controls, OneSeesWhichHasTheKeys) {
+  theme::Apply(qApp, theme::Look::kDark);
+  Load("");
+  TypeControlsKey();
+  const auto is_rimmed = [this](QWidget* widget) {
+    clock_->Settle();
+    const QImage picture = Window()->grab(QRect(widget->mapTo(Window(), QPoint(0, 0)), widget->size())).toImage();
+    int lit = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      for (int y = 0; y < 4; ++y) lit += picture.pixelColor(x, y) == theme::Colors().tap ? 1 : 0;
+    }
+    return lit > picture.width() / 2;
+  };
+  QWidget* button = QApplication::focusWidget();
+  EXPECT_TRUE(is_rimmed(button));
+  TypeTab();
+  EXPECT_FALSE(is_rimmed(button));
+  QWidget* list = Window()->findChild<LineLog*>()->findChild<QPlainTextEdit*>();
+  EXPECT_FALSE(is_rimmed(list));
+  list->setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(is_rimmed(list));
+  TypeEscape();
+  EXPECT_FALSE(is_rimmed(list));
+}
+
+TEST_F(Controls, AnotherKeyLeadsThere) {
+  KeyCombination key;
+  ASSERT_EQ(ParseKeyCombination("F11", &key), QString());
+  Window()->SetControlsKey(key);
+  TypeControlsKey();
+  EXPECT_TRUE(View()->hasFocus());
+  Type(Qt::Key_F11, 87);
+  EXPECT_FALSE(View()->hasFocus());
+}
+
+TEST_F(Controls, TabWalksThemAll) {
+  ShowAllParts();
+  ExpectAllAreWalked(false);
+  ExpectAllAreWalked(true);
+}
+
+TEST_F(Controls, TabWalksTheEditorToo) {
+  ShowAllParts();
+  Edit();
+  ExpectAllAreWalked(false);
+  Window()->Editor()->Inspector()->SetAsText(true);
+  clock_->Settle();
+  ExpectAllAreWalked(false);
+}
+
+// Bars as they lie above each other; of a list its fields come next.
+TEST_F(Controls, TabGoesAsOneReads) {
+  Load(kItems);
+  Edit();
+  TypeControlsKey();
+  const QVector<QWidget*> walked = WalkFrom(QApplication::focusWidget());
+  const auto place = [&](QWidget* widget) { return walked.indexOf(widget); };
+  KeymapEditor* editor = Window()->Editor();
+  EXPECT_EQ(place(ButtonOf(Window()->Tools(), "Look")) + 1, place(ButtonOf(editor->Bar(), "Add")));
+  EXPECT_LT(place(ButtonOf(editor->Bar(), "Save as\u2026")), place(ButtonOf(Window()->Records(), "\u25CF Record")));
+  EXPECT_LT(place(editor->Inspector()->Editor("label")->Line()), place(editor->Inspector()->Editor("key")->Line()));
+  EXPECT_LT(place(editor->Inspector()->findChild<QListWidget*>()), place(editor->Inspector()->Editor("label")->Line()));
+}
+
+TEST_F(Controls, AClickAtOneLeavesTheKeysWithTheGuest) {
+  ShowAllParts();
+  for (QWidget* widget : InteractiveWidgetsOf(Window())) {
+    if (widget == View()) continue;
+    EXPECT_FALSE(widget->focusPolicy() & Qt::ClickFocus) << Told(widget) << ' ' << NameOf(widget).toStdString();
+  }
+}
+
+TEST_F(Controls, AFindingIsFollowedByKeys) {
+  Load(kItems);  // two taps of one key: a warning
+  auto* panel = Window()->findChild<DiagnosticsPanel*>();
+  ASSERT_TRUE(panel->isVisible());
+  QString chosen;
+  QObject::connect(panel, &DiagnosticsPanel::FindingChosen, Window(), [&](const QString& label) { chosen = label; });
+  for (QLabel* label : panel->findChildren<QLabel*>()) {
+    if (label->text().contains("href='1'")) label->setFocus(Qt::TabFocusReason);
+  }
+  TypeTab();  // to the first of its links
+  Type(Qt::Key_Return, kEnter);
+  EXPECT_EQ(chosen, QString("1"));
+}
+
+// ---- The way back
+
+TEST_F(Controls, EscapeLeadsBackFromEach) {
+  ShowAllParts();
+  TypeControlsKey();
+  for (QWidget* widget : WalkFrom(QApplication::focusWidget())) {
+    widget->setFocus(Qt::TabFocusReason);
+    ASSERT_FALSE(View()->hasFocus());
+    TypeEscape();
+    EXPECT_TRUE(View()->hasFocus()) << Told(widget) << ' ' << NameOf(widget).toStdString();
+  }
+}
+
+// Not the release either, which a guest would take for its back key.
+TEST_F(Controls, TheGuestGetsNothingOfThatEscape) {
+  Load("", "settings: {keyboard_transparent: true}");
+  TypeControlsKey();
+  int lines = 0;
+  QObject counter;  // ends before the window lets go of everything
+  QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &counter, [&] { ++lines; });
+  TypeEscape();
+  EXPECT_TRUE(View()->hasFocus());
+  EXPECT_EQ(lines, 0);
+}
+
+TEST_F(Controls, WhileOneEditsEscapeLeadsToTheItems) {
+  Load(kItems);
+  Edit();
+  TypeControlsKey();
+  TypeEscape();
+  EXPECT_EQ(QApplication::focusWidget(), Window()->Editor()->Layer());
+}
+
+TEST_F(Controls, AnEscapeThatEndsAMenuLeadsNowhere) {
+  Load(kItems);
+  QWidget* look = ButtonOf(Window()->Tools(), "Look");
+  look->setFocus(Qt::TabFocusReason);
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier, kEscape + 8, 0, 0);
+  QCoreApplication::sendEvent(look, &release);  // the menu has had the press
+  EXPECT_TRUE(look->hasFocus());
+}
+
+}  // namespace
+}  // namespace tavi
