@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """The static guests on real kernels: their touches are read back, and lifted when they are killed.
 
-    kernel_programs_test.py KERNELS_DIR WORK_DIR SOURCE_DIR
+    kernel_programs_test.py BUILD_DIR WORK_DIR SOURCE_DIR
 
-Boots a small machine of each kind in qemu, without acceleration. KERNELS_DIR/guest_kernel and .../guest_kernel_arm64 hold
-what fetch_kernel.sh unpacks. What is missing for all of them makes it skip, with exit status 77; what is missing for one
+Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/guest_kernel and .../guest_kernel_arm64 hold
+what fetch_kernel.sh unpacks, BUILD_DIR/guest_programs what tools/build_guest makes. What is missing for all of them makes it skip, with exit status 77; what is missing for one
 is told.
 """
 import lzma
@@ -18,6 +18,7 @@ from pathlib import Path
 
 KERNELS, WORK, ROOT = (Path(argument) for argument in sys.argv[1:4])
 HERE = Path(__file__).parent
+PROGRAMS = KERNELS.resolve() / "guest_programs"
 BOOT_SECONDS = 170
 
 # Compiler of the first process, folder of the kernel, the machine, its console, and the programs that it can run.
@@ -70,7 +71,7 @@ def make_file_system(machine):
     subprocess.run([compiler, "-std=c++17", "-Wall", "-Wextra", "-Werror", "-Wno-psabi", "-Os", "-static", "-s",
                     "-fuse-ld=bfd", HERE / "first_process.cpp", "-o", root / "init"], check=True)
     for architecture in architectures:
-        program = WORK / "programs" / architecture / "tavi-guest"
+        program = PROGRAMS / architecture / "tavi-guest"
         if program.exists():
             shutil.copy(program, root / "guests" / architecture)
         else:
@@ -124,7 +125,7 @@ class KernelPrograms(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        subprocess.run([ROOT / "tools" / "build_guest", WORK / "programs"], check=True)
+        subprocess.run([ROOT / "tools" / "build_guest", PROGRAMS], check=True)
 
     def try_machine(self, machine):
         reason = missing(machine)
@@ -132,7 +133,7 @@ class KernelPrograms(unittest.TestCase):
             self.skipTest(reason)
         results = boot(machine)
         self.assertEqual(sorted(results), [name for name in MACHINES[machine][4]
-                                           if (WORK / "programs" / name / "tavi-guest").exists()])
+                                           if (PROGRAMS / name / "tavi-guest").exists()])
         for architecture, lines in results.items():
             with self.subTest(architecture):
                 self.assertEqual(lines[0], "places: screen keyboard pointer")
