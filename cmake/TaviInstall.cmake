@@ -35,6 +35,10 @@ if(TAVI_BUILD_HOST)
     COMPONENT tools)
   install(FILES completions/_tavi DESTINATION ${zsh_dir} COMPONENT tools)
   install(FILES completions/tavi.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
+  # Without libevdev there is no `tavi play`, which needs it.
+  if(libevdev_FOUND)
+    install(FILES packaging/60-tavi.rules DESTINATION lib/udev/rules.d COMPONENT tools)
+  endif()
 endif()
 
 # The guest for phones and other machines, for tavi to take there.
@@ -87,7 +91,8 @@ tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapma
 # nothing that is not installed. What players and authors of keymaps read comes with the program.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/taviinputmanager)
 set(examples_for_tools keymaps records scripts tutorial)
-set(documents_for_tools window guest-protocol editor tutorial keymap macros scripts record-format keymap.schema record.schema)
+set(documents_for_tools play window guest-protocol editor tutorial keymap macros scripts record-format keymap.schema
+  record.schema)
 list(JOIN documents_for_tools "|" documents_for_tools)
 foreach(folder IN LISTS examples_for_tools)
   install(DIRECTORY examples/${folder} DESTINATION ${doc_dir}/examples COMPONENT tools)

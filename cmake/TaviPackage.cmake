@@ -63,11 +63,16 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tavi)
 tavi_package_section(TOOLS utils foreign)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "libtaviinputmanager-dev")
+# Puts the rule of udev to use.
+configure_file(packaging/tavi.postinst packaging/tools/postinst COPYONLY)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/packaging/tools/postinst)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "keymaps for Android guests: try, check, simulate, record
 What the keys, the mouse and the gamepads of this computer do on the screen of
 an Android guest is told by a keymap. tavi opens a window to try one in, checks
-it, plays scripts of input with it, and plays, merges and draws records. It can
-also be the guest, on input devices of the Linux kernel.
+it, plays scripts of input with it, and plays, merges and draws records. It plays
+a guest without a window, from this computer's devices or to a phone, and it can
+be the guest, on input devices of the Linux kernel. A rule of udev lets the group
+input do so.
 .
 This package holds the program, example keymaps and the documents for authors
 of keymaps.")

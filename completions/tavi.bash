@@ -52,11 +52,8 @@ _tavi_value() {
     "record merge --gap") return 0 ;;
     "record draw -o") _tavi_files svg ;;
     "guest-uinput --input") _tavi_files ;;
-    "guest-uinput --listen") return 0 ;;
     "guest-uinput --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
     "guest-uinput --display") return 0 ;;
-    "guest-uinput --for") _tavi_words "linux android" ;;
-    "guest-uinput --name") return 0 ;;
     *) return 1 ;;
   esac
 }
@@ -72,7 +69,7 @@ _tavi_options() {
     "record play") echo "--speed --emulation --size --live --guest --allow-remote" ;;
     "record merge") echo "-o --times --delay --speed --gap" ;;
     "record draw") echo "-o" ;;
-    "guest-uinput") echo "--input --listen --size --display --for --keyboard --name --timeline --dry-run" ;;
+    "guest-uinput") echo "--input --size --display --timeline --dry-run" ;;
   esac
 }
 

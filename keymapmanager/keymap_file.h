@@ -51,6 +51,7 @@ struct TAVI_KEYMAP_RECORD LoadResult {
 
   std::unique_ptr<KeymapConfig> config;  // never null, both settings records set
   QString name;                          // the keymap's own name, for people
+  QString package;                       // the guest's app that it is for, as Android names it; empty: any
   QVector<ItemSource> item_sources;      // one for each of config->items, in their order
   QVector<Diagnostic> diagnostics;       // in the order of the file
   QByteArray text;                       // all of the above is of this; empty for what cannot be read or is too long

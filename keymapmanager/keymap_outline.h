@@ -50,7 +50,7 @@ struct TAVI_KEYMAP_RECORD ItemOutline : RecordOutline {
 };
 
 struct TAVI_KEYMAP_RECORD KeymapOutline {
-  RecordOutline file;  // `format`, `name`, `items`, ...
+  RecordOutline file;  // `format`, `name`, `package`, `items`, ...
   bool items_in_brackets = false;
   QVector<ItemOutline> items;  // in the order of the file, which is that of KeymapConfig::items
 };

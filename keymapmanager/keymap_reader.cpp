@@ -17,13 +17,14 @@ constexpr int kFormat = 1;
 
 const QString kFormatField = QStringLiteral("format");
 const QString kNameField = QStringLiteral("name");
+const QString kPackageField = QStringLiteral("package");
 const QString kSettingsField = QStringLiteral("settings");
 const QString kWheelField = QStringLiteral("wheel");
 const QString kItemsField = QStringLiteral("items");
 const QString kTypeField = QStringLiteral("type");
 const QString kLabelField = QStringLiteral("label");
 
-QStringList TopFields() { return {kFormatField, kNameField, kSettingsField, kWheelField, kItemsField}; }
+QStringList TopFields() { return {kFormatField, kNameField, kPackageField, kSettingsField, kWheelField, kItemsField}; }
 
 // A click without a chord is a plain item.
 void Simplify(std::unique_ptr<ConfigItem>* item) {
@@ -116,7 +117,9 @@ void KeymapReader::ReadFields(const YamlNode& root, LoadResult* result) {
     const YamlNode& value = root.children[i];
     if (name.text == kFormatField) continue;
     if (name.text == kNameField) {
-      ReadName(value, &result->name);
+      ReadText(name.text, value, &result->name);
+    } else if (name.text == kPackageField) {
+      ReadText(name.text, value, &result->package);
     } else if (name.text == kSettingsField) {
       ReadSettings(SettingsTable(), value, result->config->settings);
     } else if (name.text == kWheelField) {
@@ -153,15 +156,15 @@ void KeymapReader::ReadFormat(const YamlNode& root) {
   }
 }
 
-void KeymapReader::ReadName(const YamlNode& node, QString* name) {
+void KeymapReader::ReadText(const QString& field, const YamlNode& node, QString* value) {
   if (const auto text = TextOf(node)) {
-    *name = *text;
+    *value = *text;
     return;
   }
   const bool needs_quotes = NumberOf(node) || BoolOf(node);
   diagnostics_->Error(node.span,
-                      QStringLiteral("'name': expected a text, got %1%2")
-                          .arg(Describe(node), needs_quotes ? QStringLiteral("; put it in quotes") : QString()));
+                      QStringLiteral("'%1': expected a text, got %2%3")
+                          .arg(field, Describe(node), needs_quotes ? QStringLiteral("; put it in quotes") : QString()));
 }
 
 void KeymapReader::ReadSettings(const RecordTable& table, const YamlNode& node, const RecordRef& record) {

@@ -27,7 +27,7 @@ class KeymapReader {
   void ReportDuplicates(const YamlNode& node);
   void ReadFields(const YamlNode& root, LoadResult* result);
   void ReadFormat(const YamlNode& root);
-  void ReadName(const YamlNode& node, QString* name);
+  void ReadText(const QString& field, const YamlNode& node, QString* value);
   void ReadSettings(const RecordTable& table, const YamlNode& node, const RecordRef& record);
   void ReadItems(const YamlNode& node);
   void ReadItem(const YamlNode& node);

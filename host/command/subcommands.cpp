@@ -8,6 +8,7 @@
 #include "host/command/draw_command.h"
 #include "host/command/guest_uinput_command.h"
 #include "host/command/keys_command.h"
+#include "host/command/play_command.h"
 #include "host/command/record_draw.h"
 #include "host/command/record_info.h"
 #include "host/command/record_merge.h"
@@ -23,9 +24,10 @@ namespace {
 const QString kHelpWord = QStringLiteral("help");
 
 const QVector<Subcommand>& Subcommands() {
-  static const QVector<Subcommand> all = {
-      WindowCommand(),     SimulateCommand(),   CheckCommand(),       DrawCommand(),       KeysCommand(),
-      RecordInfoCommand(), RecordPlayCommand(), RecordMergeCommand(), RecordDrawCommand(), GuestUinputCommand()};
+  static const QVector<Subcommand> all = {WindowCommand(),     PlayCommand(),       SimulateCommand(),
+                                          CheckCommand(),      DrawCommand(),       KeysCommand(),
+                                          RecordInfoCommand(), RecordPlayCommand(), RecordMergeCommand(),
+                                          RecordDrawCommand(), GuestUinputCommand()};
   return all;
 }
 

@@ -1,6 +1,8 @@
 #ifndef HOST_GAMEPAD_GAMEPAD_POLL_H_
 #define HOST_GAMEPAD_GAMEPAD_POLL_H_
 
+#include <functional>
+
 #include <QBasicTimer>
 #include <QObject>
 
@@ -18,8 +20,11 @@ class GamepadPoll : public QObject {
   Q_OBJECT
 
  public:
-  // `pads` outlives the poll.
-  explicit GamepadPoll(Gamepads* pads, QObject* parent = nullptr);
+  // Whether a gamepad is to be read; by its device's file.
+  using Choice = std::function<bool(const QString& path)>;
+
+  // `pads` outlives the poll. Without `choice` all are read.
+  explicit GamepadPoll(Gamepads* pads, Choice choice = {}, QObject* parent = nullptr);
   // Takes the gamepads out again.
   ~GamepadPoll() override;
 
@@ -36,6 +41,7 @@ class GamepadPoll : public QObject {
   void SetPace();
 
   Gamepads* const pads_;
+  const Choice choice_;
   bool is_open_ = false;
   QBasicTimer reading_;
   QBasicTimer sticks_;

@@ -2,7 +2,8 @@
 
 namespace tavi {
 
-GamepadPoll::GamepadPoll(Gamepads* pads, QObject* parent) : QObject(parent), pads_(pads) {}
+GamepadPoll::GamepadPoll(Gamepads* pads, Choice choice, QObject* parent)
+    : QObject(parent), pads_(pads), choice_(std::move(choice)) {}
 
 GamepadPoll::~GamepadPoll() = default;
 

@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 #include <algorithm>
+#include <utility>
 
 #include <QTimerEvent>
 
@@ -40,7 +41,8 @@ QString AxisOf(const SDL_ControllerAxisEvent& event) {
 
 }  // namespace
 
-GamepadPoll::GamepadPoll(Gamepads* pads, QObject* parent) : QObject(parent), pads_(pads) {
+GamepadPoll::GamepadPoll(Gamepads* pads, Choice choice, QObject* parent)
+    : QObject(parent), pads_(pads), choice_(std::move(choice)) {
   SDL_SetMainReady();
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   // SDL has no window here and would not know which is in front; Gamepads is told.
@@ -95,6 +97,7 @@ void GamepadPoll::SetPace() {
 }
 
 void GamepadPoll::Open(int device_index) {
+  if (choice_ && !choice_(QString::fromUtf8(SDL_JoystickPathForIndex(device_index)))) return;
   SDL_GameController* controller = SDL_GameControllerOpen(device_index);
   if (!controller) return;  // gone again, or another program's alone
   const int id = SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(controller));

@@ -39,6 +39,8 @@ class InputPort : public QObject {
 
  private:
   InputPort() = default;
+
+  bool IsHeard() const;
   void LiftTouches();
 
   bool is_touched_ = false;  // the library has fingers of a touch

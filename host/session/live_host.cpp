@@ -1,5 +1,7 @@
 #include "host/session/live_host.h"
 
+#include <QMetaMethod>
+
 #include "host/gamepad/pad_input.h"
 #include "host/session/host_functions.h"
 
@@ -24,12 +26,12 @@ struct LiveHostFunctions : TellingFunctions<LiveHost> {
 
   // Targets first: what is shown may take its time.
   static void SendEvent(const char* data, int length) {
-    Host()->targets_.Send(data, length);
-    TellingFunctions::SendEvent(data, length);
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendEvent(data, length);
   }
   static void SendText(const char* data, int length) {
-    Host()->targets_.Send(data, length);
-    TellingFunctions::SendText(data, length);
+    Host()->SendLine(data, length);
+    if (Host()->IsHeard()) TellingFunctions::SendText(data, length);
   }
 
   static WindowGeometry GetWindowGeometry() { return Host()->ViewGeometry(); }
@@ -89,6 +91,16 @@ WindowGeometry LiveHost::ViewGeometry() const {
   const QSize size = ViewSize();
   const QPoint corner = corner_ ? corner_(size) : QPoint();
   return {corner.x(), corner.y(), size.width(), size.height()};
+}
+
+void LiveHost::SendLine(const char* data, int length) {
+  if (line_sink_) line_sink_(data, length);
+  targets_.Send(data, length);
+}
+
+bool LiveHost::IsHeard() const {
+  static const QMetaMethod entry_added = QMetaMethod::fromSignal(&LiveHost::EntryAdded);
+  return isSignalConnected(entry_added);
 }
 
 void LiveHost::Add(Source source, const QString& text) {

@@ -36,8 +36,15 @@ class LiveHost : public QObject {
   // place in the view.
   using Corner = std::function<QPoint(const QSize& view_size)>;
 
+  // Gets each line as the library's send functions do, inside of their call and on their thread, before all others: for
+  // a guest in this process, where a line has arrived when the call returns. An empty function takes it back. To be set
+  // while no line can come.
+  using LineSink = std::function<void(const char* data, int length)>;
+  void SetLineSink(LineSink sink) { line_sink_ = std::move(sink); }
+
   // Installs the send functions and initialises the library, once. Without `corner` the view is at (0, 0).
   void Start(Corner corner);
+  bool HasStarted() const { return clock_.isValid(); }
 
   // The guest's touch surface, which is not rotated.
   void SetGuestSize(const QSize& size);
@@ -80,6 +87,9 @@ class LiveHost : public QObject {
 
   LiveHost();
 
+  void SendLine(const char* data, int length);
+  // Whether anybody listens to EntryAdded.
+  bool IsHeard() const;
   void Add(TimelineEntry::Source source, const QString& text);
   void SetInputStatus(int status, const QString& key);
   void SetGravity(double x, double y, double z);
@@ -88,6 +98,7 @@ class LiveHost : public QObject {
   taviinputmanager::InputManagerCallbacks table_;
   QElapsedTimer clock_;
   Corner corner_;
+  LineSink line_sink_;
   GuestTargets targets_;
   bool text_field_ = false;
   int status_ = 0;

@@ -43,20 +43,20 @@ bool MayBeHeld(const QVector<ModifierKeys>& modifiers, const km::KeymapConfig& c
                      [&](const ModifierKeys& keys) { return HasItemFor(config, keys.scancodes); });
 }
 
-QString MessageAbout(const KeyCombination& combination, const char* option) {
+QString MessageAbout(const QString& keeper, const KeyCombination& combination, const char* option) {
   QStringList held;
   for (const ModifierKeys& modifier : ModifiersOf(combination)) held += modifier.name;
   const QString when = held.isEmpty() ? QStringLiteral("never gets it")
                                       : QStringLiteral("does not get its key while %1 of this keymap %2 down")
                                             .arg(held.join(QStringLiteral(" and ")),
                                                  held.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"));
-  return QStringLiteral("the window keeps %1 for itself, so this item %2; %3 takes another key")
-      .arg(combination.name, when, QLatin1String(option));
+  return QStringLiteral("%1 keeps %2 for itself, so this item %3; %4 takes another key")
+      .arg(keeper, combination.name, when, QLatin1String(option));
 }
 
 }  // namespace
 
-ReservedKeys::ReservedKeys(QObject* parent) : QObject(parent) {
+ReservedKeys::ReservedKeys(const QString& keeper, QObject* parent) : QObject(parent), keeper_(keeper) {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -83,8 +83,8 @@ QStringList ReservedKeys::NewsOf(km::KeymapConfig* config) const {
     km::ConfigKey key = KeyOf(entry.combination.scancode);
     km::ConfigKey none;
     if (!km::isConfigKeyMatch(config, &key, &none)) continue;
-    news += QStringLiteral("%1 is a key of this keymap that the window keeps for itself; %2 takes another key")
-                .arg(entry.combination.name, QLatin1String(entry.option));
+    news += QStringLiteral("%1 is a key of this keymap that %2 keeps for itself; %3 takes another key")
+                .arg(entry.combination.name, keeper_, QLatin1String(entry.option));
   }
   return news;
 }
@@ -99,14 +99,16 @@ QVector<km::Diagnostic> ReservedKeys::FindingsIn(const km::LoadResult& keymap) c
       finding.severity = km::Diagnostic::Severity::kWarning;
       finding.line = finding.end_line = keymap.item_sources[i].line;
       finding.column = finding.end_column = keymap.item_sources[i].column;
-      finding.message = MessageAbout(entry.combination, entry.option);
+      finding.message = MessageAbout(keeper_, entry.combination, entry.option);
       findings.append(finding);
     }
   }
   return findings;
 }
 
-bool ReservedKeys::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool ReservedKeys::eventFilter(QObject* /*watched*/, QEvent* event) { return Take(event); }
+
+bool ReservedKeys::Take(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: return TakePress(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return TakeRelease(*static_cast<QKeyEvent*>(event));

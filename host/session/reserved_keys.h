@@ -20,15 +20,16 @@ struct LoadResult;
 
 namespace tavi {
 
-// Keys that the window keeps for itself. They are taken from all events of the application before any widget sees them,
-// so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
+// Keys that the program keeps for itself. In a window they are taken from all events of the application before any
+// widget sees them, so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
 //
 // A press acts once, however long the key is held. Main thread.
 class ReservedKeys : public QObject {
   Q_OBJECT
 
  public:
-  explicit ReservedKeys(QObject* parent = nullptr);
+  // `keeper` is who keeps them, as findings name it.
+  explicit ReservedKeys(const QString& keeper = QStringLiteral("the window"), QObject* parent = nullptr);
   ~ReservedKeys() override;
 
   // `action` is called at each press, from now on, in place of what was called before for the same `id`.
@@ -44,6 +45,9 @@ class ReservedKeys : public QObject {
   // window's with modifiers alone is taken from an item where a player may come to hold them: where they are keys of
   // this keymap as well.
   QVector<tavikeymapmanager::Diagnostic> FindingsIn(const tavikeymapmanager::LoadResult& keymap) const;
+
+  // Whether an event is such a key's, in which case it has acted: for a host whose keys come by no window.
+  bool Take(QEvent* event);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -61,6 +65,7 @@ class ReservedKeys : public QObject {
   bool TakePress(const QKeyEvent& event);
   bool TakeRelease(const QKeyEvent& event);
 
+  const QString keeper_;
   std::vector<Entry> entries_;
 };
 

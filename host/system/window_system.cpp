@@ -9,7 +9,7 @@ namespace {
 QtMessageHandler next_handler = nullptr;
 
 void DropSessionWarning(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-  if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))) return;
+  if (message.startsWith(QLatin1String("QStandardPaths: "))) return;
   next_handler(type, context, message);
 }
 

@@ -49,7 +49,7 @@ HOST = [
     ["host/guest", "host/look", "host/system"],
     ["host/gamepad", "host/mirror", "host/record", "host/target"],
     ["host/session"],
-    ["host/editor", "host/simulation"],
+    ["host/editor", "host/play", "host/simulation"],
     ["host/picture"],
     ["host/window/controls"],
     ["host/window/pointer"],
@@ -87,6 +87,7 @@ LIBRARIES = {
     "Poco/": ["core", "record/json"],
     "yaml.h": ["keymapmanager/yaml"],
     "SDL.h": ["host/gamepad"],
+    "libevdev/": ["host/play"],
 }
 # Rooms that do without widgets, so that a host without a window has them: headers of Qt that they do not include.
 WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation",

@@ -1,0 +1,14 @@
+#ifndef HOST_COMMAND_PLAY_COMMAND_H_
+#define HOST_COMMAND_PLAY_COMMAND_H_
+
+#include "host/command/subcommands.h"
+
+namespace tavi {
+
+// `tavi play`: plays from this machine's devices, without a window. A build without it has the word all the same, to
+// say so.
+Subcommand PlayCommand();
+
+}  // namespace tavi
+
+#endif  // HOST_COMMAND_PLAY_COMMAND_H_

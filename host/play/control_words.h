@@ -1,0 +1,40 @@
+// What a script may ask of a player at work: a line of words.
+#ifndef HOST_PLAY_CONTROL_WORDS_H_
+#define HOST_PLAY_CONTROL_WORDS_H_
+
+#include <QSize>
+#include <QString>
+
+namespace tavi {
+
+struct ControlWords {
+  enum class Verb {
+    kKeymap,    // keymap FILE
+    kApp,       // app NAME
+    kReset,     // reset
+    kRotation,  // rotation N
+    kSize,      // size WxH
+    kPause,     // pause
+    kResume,    // resume
+    kRecord,    // record FILE
+    kReplay,    // replay FILE
+    kStop,      // stop
+    kState,     // state
+    kQuit       // quit
+  };
+
+  Verb verb = Verb::kState;
+  QString text;      // the file's or app's name
+  int rotation = 0;  // degrees
+  QSize size;
+  QString problem;  // what is wrong with the line, for people; empty when nothing is
+};
+
+ControlWords ParseControlWords(const QString& line);
+
+// The same line with its file's name made absolute: who reads it may be in another folder.
+QString WithAbsoluteFile(const QString& line);
+
+}  // namespace tavi
+
+#endif  // HOST_PLAY_CONTROL_WORDS_H_

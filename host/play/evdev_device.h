@@ -1,0 +1,40 @@
+#ifndef HOST_PLAY_EVDEV_DEVICE_H_
+#define HOST_PLAY_EVDEV_DEVICE_H_
+
+#include <memory>
+
+#include "host/play/physical_device.h"
+
+struct libevdev;
+
+namespace tavi {
+
+// An input device of this machine's kernel.
+class EvdevDevice : public PhysicalDevice {
+ public:
+  // Null, and `problem` says why, when it cannot be opened.
+  static std::unique_ptr<EvdevDevice> Open(const QString& path, QString* problem);
+  ~EvdevDevice() override;
+  EvdevDevice(const EvdevDevice&) = delete;
+  EvdevDevice& operator=(const EvdevDevice&) = delete;
+
+  const DeviceTraits& Traits() const override { return traits_; }
+  int File() const override { return file_; }
+  // Where the kernel had no room for all, what is down now is told in place of what was lost.
+  bool Read(std::vector<InputFrame>* frames) override;
+  bool IsAnyKeyDown() const override;
+  QString Grab() override;
+  void Ungrab() override;
+
+ private:
+  EvdevDevice(int file, libevdev* device, const QString& path);
+
+  const int file_;
+  libevdev* const device_;
+  const DeviceTraits traits_;
+  InputFrame frame_;  // of which more is to come
+};
+
+}  // namespace tavi
+
+#endif  // HOST_PLAY_EVDEV_DEVICE_H_

@@ -1,0 +1,218 @@
+#include "host/play/event_feeder.h"
+
+#include <linux/input.h>
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include "host/session/input_port.h"
+#include "host/session/live_host.h"
+#include "host/session/reserved_keys.h"
+#include "keymap/scan_codes.h"
+#include "taviinputmanager/taviinputmanager.h"
+
+namespace tavi {
+
+using taviinputmanager::InputStatus;
+
+namespace {
+
+constexpr int kNotch = 120;  // of Qt, and of a wheel with high resolution
+constexpr int kRepeat = 2;   // the value of a key that the kernel repeats
+
+struct ButtonRow {
+  int code;
+  Qt::MouseButton button;
+};
+
+// As Qt numbers them under X11 and Wayland, so that a keymap is one for the window and for this.
+constexpr ButtonRow kButtons[] = {
+    {BTN_LEFT, Qt::LeftButton},   {BTN_RIGHT, Qt::RightButton},   {BTN_MIDDLE, Qt::MiddleButton},
+    {BTN_SIDE, Qt::BackButton},   {BTN_EXTRA, Qt::ForwardButton}, {BTN_FORWARD, Qt::ExtraButton3},
+    {BTN_BACK, Qt::ExtraButton4}, {BTN_TASK, Qt::ExtraButton5},
+};
+
+struct ModifierRow {
+  int code;
+  Qt::KeyboardModifier modifier;
+};
+
+constexpr ModifierRow kModifiers[] = {
+    {KEY_LEFTCTRL, Qt::ControlModifier}, {KEY_RIGHTCTRL, Qt::ControlModifier}, {KEY_LEFTSHIFT, Qt::ShiftModifier},
+    {KEY_RIGHTSHIFT, Qt::ShiftModifier}, {KEY_LEFTALT, Qt::AltModifier},       {KEY_RIGHTALT, Qt::AltModifier},
+    {KEY_LEFTMETA, Qt::MetaModifier},    {KEY_RIGHTMETA, Qt::MetaModifier},
+};
+
+Qt::MouseButton ButtonOf(int code) {
+  for (const ButtonRow& row : kButtons) {
+    if (row.code == code) return row.button;
+  }
+  return Qt::NoButton;
+}
+
+bool IsViewSteered() {
+  const int status = LiveHost::GetInstance()->InputStatus();
+  return status == static_cast<int>(InputStatus::Staring) || status == static_cast<int>(InputStatus::Observing);
+}
+
+// As a window system tells it, which is what keys are compared by that are kept for the program.
+QKeyEvent WindowSystemEvent(int code, bool is_down, Qt::KeyboardModifiers modifiers) {
+  return {is_down ? QEvent::KeyPress : QEvent::KeyRelease,
+          0,
+          modifiers,
+          static_cast<quint32>(code + tavikeymapmanager::kX11KeyOffset),
+          0,
+          0};
+}
+
+}  // namespace
+
+EventFeeder::EventFeeder(ReservedKeys* reserved, QObject* parent) : QObject(parent), reserved_(reserved) {}
+
+void EventFeeder::Take(int device, const InputFrame& frame, bool is_fed) {
+  Motion motion;
+  int coarse_notches = 0;
+  bool has_fine_wheel = false;
+  for (const DeviceEvent& event : frame) {
+    if (event.type != EV_REL) continue;
+    switch (event.code) {
+      case REL_X: motion.dx += event.value; break;
+      case REL_Y: motion.dy += event.value; break;
+      case REL_WHEEL: coarse_notches += event.value; break;
+      case REL_WHEEL_HI_RES:
+        motion.wheel += event.value;
+        has_fine_wheel = true;
+        break;
+      default: break;
+    }
+  }
+  if (!has_fine_wheel) motion.wheel = coarse_notches * kNotch;
+  if (is_fed) Move(motion);
+  for (const DeviceEvent& event : frame) {
+    if (event.type == EV_KEY && event.value != kRepeat) is_fed = TakeKey(device, event, is_fed) && is_fed;
+  }
+  if (is_fed) Turn(motion.wheel);
+}
+
+// A key that is down on two keyboards is one key, down until it is up on both.
+bool EventFeeder::TakeKey(int device, const DeviceEvent& event, bool is_fed) {
+  if (event.value != 0) {
+    Key* key = &keys_[event.code];
+    const bool is_news = key->devices.insert(device).second && key->devices.size() == 1;
+    return !is_news || Press(event.code, key, is_fed);
+  }
+  const auto key = keys_.find(event.code);
+  if (key == keys_.end() || key->second.devices.erase(device) == 0 || !key->second.devices.empty()) return true;
+  const bool was_told = key->second.is_told;
+  keys_.erase(key);
+  Release(event.code, was_told);
+  return true;
+}
+
+bool EventFeeder::Press(int code, Key* key, bool is_fed) {
+  QKeyEvent event = WindowSystemEvent(code, true, Modifiers());
+  if (ButtonOf(code) == Qt::NoButton && reserved_->Take(&event)) return false;
+  key->is_told = is_fed;
+  if (is_fed) Tell(code, true);
+  return true;
+}
+
+void EventFeeder::Release(int code, bool was_told) {
+  QKeyEvent event = WindowSystemEvent(code, false, Modifiers());
+  if (ButtonOf(code) == Qt::NoButton) reserved_->Take(&event);
+  if (was_told) Tell(code, false);
+}
+
+void EventFeeder::Tell(int code, bool is_down) {
+  const Qt::MouseButton button = ButtonOf(code);
+  if (button != Qt::NoButton) return SendButton(button, is_down);
+  SendKey(code, is_down);
+}
+
+void EventFeeder::SendKey(int code, bool is_down) {
+  const NativeKey& native = NativeOf(code);
+  if (native.scancode == 0) return;  // no keymap can name it
+  QKeyEvent event(is_down ? QEvent::KeyPress : QEvent::KeyRelease, 0, Modifiers(), native.scancode, native.virtual_key,
+                  0);
+  InputPort::GetInstance()->Send(&event);
+}
+
+void EventFeeder::SendButton(Qt::MouseButton button, bool is_down) {
+  const QPointF place = Pointer();
+  QMouseEvent event(is_down ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, place, place, place, button,
+                    Buttons(), Modifiers());
+  InputPort::GetInstance()->Send(&event);
+}
+
+void EventFeeder::Move(const Motion& motion) {
+  if (motion.dx == 0 && motion.dy == 0) return;
+  if (IsViewSteered()) return InputPort::GetInstance()->SendRelative(motion.dx, motion.dy);
+  const QSizeF size = LiveHost::GetInstance()->ViewSize();
+  place_.setX(qBound(0.0, place_.x() + motion.dx * speed_ / size.width(), 1.0));
+  place_.setY(qBound(0.0, place_.y() + motion.dy * speed_ / size.height(), 1.0));
+  const QPointF place = Pointer();
+  QMouseEvent event(QEvent::MouseMove, place, place, place, Qt::NoButton, Buttons(), Modifiers());
+  InputPort::GetInstance()->Send(&event);
+}
+
+// To an item on the wheel each event is a notch, so that parts of one are added up. What is left of a turn counts for
+// nothing when the wheel goes the other way.
+void EventFeeder::Turn(int parts) {
+  if (parts == 0) return;
+  if ((parts > 0) != (turned_ > 0)) turned_ = 0;
+  turned_ += parts;
+  const int notches = turned_ / kNotch * kNotch;
+  if (notches == 0) return;
+  turned_ -= notches;
+  const QPointF place = Pointer();
+  QWheelEvent event(place, place, {}, {0, notches}, Buttons(), Modifiers(), Qt::NoScrollPhase, false);
+  InputPort::GetInstance()->Send(&event);
+}
+
+void EventFeeder::Forget(int device) {
+  InputFrame releases;
+  for (const auto& [code, key] : keys_) {
+    if (key.devices.count(device) != 0) releases.push_back({EV_KEY, code, 0});
+  }
+  Take(device, releases, true);
+}
+
+void EventFeeder::LetGo() {
+  for (auto& [code, key] : keys_) key.is_told = false;
+  turned_ = 0;
+}
+
+// The last pixel is one less than the size.
+QPointF EventFeeder::Pointer() const {
+  const QSize size = LiveHost::GetInstance()->ViewSize();
+  return {qMin(place_.x() * size.width(), size.width() - 1.0), qMin(place_.y() * size.height(), size.height() - 1.0)};
+}
+
+Qt::KeyboardModifiers EventFeeder::Modifiers() const {
+  Qt::KeyboardModifiers modifiers;
+  for (const ModifierRow& row : kModifiers) {
+    if (keys_.count(row.code) != 0) modifiers |= row.modifier;
+  }
+  return modifiers;
+}
+
+Qt::MouseButtons EventFeeder::Buttons() const {
+  Qt::MouseButtons buttons;
+  for (const ButtonRow& row : kButtons) {
+    const auto key = keys_.find(row.code);
+    if (key != keys_.end() && key->second.is_told) buttons |= row.button;
+  }
+  return buttons;
+}
+
+// Names of keys are looked up for it, once for each key.
+const NativeKey& EventFeeder::NativeOf(int code) {
+  auto native = natives_.find(code);
+  if (native == natives_.end()) {
+    native = natives_.insert(code, NativeKeyOf(WindowSystemEvent(code, true, Qt::NoModifier)));
+  }
+  return *native;
+}
+
+}  // namespace tavi

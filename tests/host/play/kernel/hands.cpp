@@ -1,0 +1,130 @@
+// The hands of a player: makes a keyboard and a mouse that pass for plugged-in ones, and plays on them what standard
+// input says, a command a line:
+//
+//   key CODE VALUE    a key of the keyboard, or a button of the mouse from 272 on
+//   rel DX DY         the mouse goes
+//   wheel PARTS       its wheel turns, 120 the notch
+//   wait MS           at least: a machine that is slow makes no gesture shorter
+//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, the time in
+//   microseconds unplug            takes the keyboard away done WORD         prints WORD
+//
+// Prints "ready" when the devices are there; they go with the program.
+#include <chrono>
+#include <cstring>
+#include <ctime>
+#include <fcntl.h>
+#include <iostream>
+#include <linux/uinput.h>
+#include <sstream>
+#include <string>
+#include <sys/ioctl.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr int kLastKey = KEY_MICMUTE;
+
+// Whatever fails here fails for the reader of the events, too.
+void Emit(int file, int type, int code, int value) {
+  input_event event{};
+  event.type = static_cast<unsigned short>(type);
+  event.code = static_cast<unsigned short>(code);
+  event.value = value;
+  if (::write(file, &event, sizeof(event)) != sizeof(event)) std::cerr << "hands: an event was not taken\n";
+}
+
+void Report(int file) { Emit(file, EV_SYN, SYN_REPORT, 0); }
+
+int Create(int file, const char* name) {
+  uinput_setup setup{};
+  setup.id.bustype = BUS_USB;
+  setup.id.vendor = 0x1234;
+  setup.id.product = 0x5678;
+  std::strncpy(setup.name, name, sizeof(setup.name) - 1);
+  ::ioctl(file, UI_DEV_SETUP, &setup);
+  ::ioctl(file, UI_DEV_CREATE);
+  return file;
+}
+
+int MakeKeyboard() {
+  const int file = ::open("/dev/uinput", O_WRONLY | O_CLOEXEC);
+  ::ioctl(file, UI_SET_EVBIT, EV_KEY);
+  ::ioctl(file, UI_SET_EVBIT, EV_REP);
+  for (int code = KEY_ESC; code <= kLastKey; ++code) ::ioctl(file, UI_SET_KEYBIT, code);
+  return Create(file, "Test Board");
+}
+
+int MakeMouse() {
+  const int file = ::open("/dev/uinput", O_WRONLY | O_CLOEXEC);
+  ::ioctl(file, UI_SET_EVBIT, EV_KEY);
+  for (const int code : {BTN_LEFT, BTN_RIGHT, BTN_MIDDLE, BTN_SIDE, BTN_EXTRA}) ::ioctl(file, UI_SET_KEYBIT, code);
+  ::ioctl(file, UI_SET_EVBIT, EV_REL);
+  for (const int code : {REL_X, REL_Y, REL_WHEEL, REL_WHEEL_HI_RES}) ::ioctl(file, UI_SET_RELBIT, code);
+  return Create(file, "Test Rat");
+}
+
+class Hands {
+ public:
+  void Play(const std::string& line) {
+    std::istringstream words(line);
+    std::string verb;
+    words >> verb;
+    if (verb == "done") {
+      words >> verb;
+      std::cout << verb << std::endl;
+    }
+    int a = 0;
+    int b = 0;
+    words >> a >> b;
+    if (verb == "key") Key(a, b);
+    if (verb == "rel") Move(a, b);
+    if (verb == "wheel") Turn(a);
+    if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
+    if (verb == "race") Race(a, b);
+    if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
+  }
+
+ private:
+  void Key(int code, int value) {
+    const int file = code >= BTN_MOUSE ? mouse_ : keyboard_;
+    Emit(file, EV_KEY, code, value);
+    Report(file);
+  }
+  // Printed at the end: what is measured is not to wait for it.
+  void Race(int code, int times) {
+    std::vector<long long> presses;
+    for (int i = 0; i < times; ++i) {
+      timespec now{};
+      clock_gettime(CLOCK_MONOTONIC, &now);
+      presses.push_back(now.tv_sec * 1000000LL + now.tv_nsec / 1000);
+      Key(code, 1);
+      std::this_thread::sleep_for(std::chrono::milliseconds(8));
+      Key(code, 0);
+      std::this_thread::sleep_for(std::chrono::milliseconds(8));
+    }
+    for (const long long press : presses) std::cout << "press " << press << '\n';
+  }
+  void Move(int dx, int dy) {
+    Emit(mouse_, EV_REL, REL_X, dx);
+    Emit(mouse_, EV_REL, REL_Y, dy);
+    Report(mouse_);
+  }
+  void Turn(int parts) {
+    if (parts % 120 == 0) Emit(mouse_, EV_REL, REL_WHEEL, parts / 120);
+    Emit(mouse_, EV_REL, REL_WHEEL_HI_RES, parts);
+    Report(mouse_);
+  }
+
+  const int keyboard_ = MakeKeyboard();
+  const int mouse_ = MakeMouse();
+};
+
+}  // namespace
+
+int main() {
+  Hands hands;
+  std::cout << "ready" << std::endl;
+  for (std::string line; std::getline(std::cin, line);) hands.Play(line);
+}

@@ -1,0 +1,359 @@
+#!/usr/bin/env python3
+"""`tavi play` on a real kernel: a keyboard and a mouse in, and what libinput and a reader of evdev see of it.
+
+    kernel_play_test.py TAVI HANDS EYES KERNEL_DIR WORK_DIR SOURCE_DIR [BARE]
+
+With BARE, which is the least that there can be between a keyboard and a touch screen, the time from a key to its touch
+is measured too, beside that of BARE. TAVI is to be a release build then.
+
+Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script say what is to be
+seen, finger by finger. What is missing for that makes it skip, with exit status 77.
+"""
+import lzma
+import os
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument).resolve() for argument in sys.argv[1:7])
+BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
+HERE = Path(__file__).parent
+QEMU = "qemu-system-x86_64"
+BOOT_SECONDS = 220
+LIBINPUT = KERNEL / "libinput"
+
+# The shooter with two gestures more: a chord, and a pinch by a key.
+MORE_ITEMS = """
+  - {type: Click, label: Chord, key: H + J, point: [0.5, 0.25]}
+  - {type: Zoom, label: Pinch, key: Numpad Plus, point: [0.5, 0.5], speed: 50, duration_ms: 120, start_distance: 0.05}
+"""
+OTHER_KEYMAP = "format: 1\nitems:\n  - {type: Click, key: Space, point: [0.1, 0.2]}\n"
+
+SCRIPT = """
+down Space; wait 60; up Space; wait 100
+down H; wait 30; down J; wait 60; up J; wait 30; up H; wait 100
+down W; wait 500; down D; wait 500; up D; wait 500; up W; wait 200
+down Grave; wait 60; up Grave; wait 60
+rel 3,-2; wait 80; rel 5,-3; wait 80; rel 8,4; wait 80
+down Grave; wait 60; up Grave; wait 100
+down Numpad Plus; wait 60; up Numpad Plus; wait 300
+"""
+KEYS = {"Space": 57, "H": 35, "J": 36, "W": 17, "D": 32, "Grave": 41, "Numpad Plus": 78}
+
+
+def missing():
+    for program in (QEMU, "busybox", "cpio", "ldd"):
+        if not shutil.which(program):
+            return f"{program} is not installed (tools/install-dependencies.sh guest)"
+    for name in ("vmlinuz", "evdev.ko", "uinput.ko"):
+        if not (KERNEL / name).exists():
+            return f"no {name} in {KERNEL} (tests/guest/kernel/fetch_kernel.sh {KERNEL})"
+    if not LIBINPUT.exists():
+        return f"no libinput in {KERNEL} (tests/host/play/kernel/fetch_libinput.sh {KERNEL})"
+    return None
+
+
+def hand_commands():
+    """The script as the hands take it."""
+    commands = []
+    for command in filter(None, (part.strip() for part in SCRIPT.replace("\n", ";").split(";"))):
+        verb, _, rest = command.partition(" ")
+        commands.append({"down": lambda r: f"key {KEYS[r]} 1", "up": lambda r: f"key {KEYS[r]} 0",
+                         "wait": lambda r: f"wait {r}", "rel": lambda r: "rel " + r.replace(",", " ")}[verb](rest))
+    return "\n".join(commands) + "\n"
+
+
+def run(*command, **options):
+    return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
+
+
+AXES = {0x35: "x", 0x36: "y", 0x2f: "slot", 0x39: "id"}
+NAMES = {"ABS_MT_POSITION_X": "x", "ABS_MT_POSITION_Y": "y", "ABS_MT_SLOT": "slot", "ABS_MT_TRACKING_ID": "id"}
+
+
+class Screen:
+    """Fingers of a touch screen, from its events. The kernel leaves out what did not change, also long before."""
+
+    def __init__(self):
+        self.slot, self.down, self.places, self.moved = 0, {}, {}, set()
+        self.fingers = []  # (step, finger): each from going down to going up, in the order of going down
+
+    def take(self, what, value, step=""):
+        if what == "slot":
+            self.slot = value
+        elif what == "id" and value == -1:
+            if self.slot in self.down:
+                self.down.pop(self.slot)["up"] = True
+        elif what == "id":
+            self.down[self.slot] = {"places": [], "up": False}
+            self.fingers.append((step, self.down[self.slot]))
+            self.moved.add(self.slot)
+        elif what in ("x", "y"):
+            self.places.setdefault(self.slot, {})[what] = value
+            self.moved.add(self.slot)
+        elif what == "report":
+            self.end_frame()
+
+    def end_frame(self):
+        for slot in sorted(self.moved & set(self.down)):
+            place = (self.places[slot]["x"], self.places[slot]["y"])
+            if self.down[slot]["places"][-1:] != [place]:
+                self.down[slot]["places"].append(place)
+        self.moved.clear()
+
+
+def expected_fingers():
+    """What a screen is told of the script, as `tavi guest-uinput` says it."""
+    timeline = run(TAVI, "simulate", WORK / "root" / "keymap.yaml", "-", input=SCRIPT)
+    events = run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline)
+    screen = Screen()
+    for line in events.splitlines():
+        device, kind, code, value = line.split()
+        if device == "screen":
+            screen.take("report" if kind == "EV_SYN" else NAMES.get(code, ""), int(value))
+    return [finger for _, finger in screen.fingers]
+
+
+def seen_fingers(lines):
+    """The same of what the eyes saw, by step."""
+    screen, step, fingers = Screen(), "", {}
+    for line in lines:
+        if line.startswith("step "):
+            step = line[5:]
+        elif line == "tavi screen|gone":
+            screen = Screen()
+        elif match := re.match(r"tavi screen\|(\d+) (\d+) (-?\d+) ", line):
+            kind, code, value = (int(word) for word in match.groups())
+            before = len(screen.fingers)
+            screen.take("report" if kind == 0 else AXES.get(code, "") if kind == 3 else "", value, step)
+            for name, finger in screen.fingers[before:]:
+                fingers.setdefault(name, []).append(finger)
+    return fingers
+
+
+def libraries(*programs):
+    environment = {**os.environ, "LD_LIBRARY_PATH": str(LIBINPUT / "usr/lib/x86_64-linux-gnu")}
+    text = "".join(run("ldd", program, env=environment) for program in programs)
+    return sorted(set(re.findall(r"(?:=> |^\s*)(/\S+)", text, re.MULTILINE)))
+
+
+def copy(source, target):
+    target.parent.mkdir(parents=True, exist_ok=True)
+    shutil.copy(source, target)
+
+
+def make_file_system():
+    root = WORK / "root"
+    shutil.rmtree(root, ignore_errors=True)
+    plugin = next(Path("/usr/lib").glob("*/qt5/plugins/platforms/libqoffscreen.so"))
+    debug_events = LIBINPUT / "usr/libexec/libinput/libinput-debug-events"
+    udev = [LIBINPUT / "bin/udevadm"]
+    helpers = sorted((LIBINPUT / "lib/udev").glob("libinput-*"))
+    for library in libraries(TAVI, HANDS, EYES, plugin, debug_events, *udev, *helpers):
+        name = library.split("/libinput/", 1)[1] if str(LIBINPUT) in library else library[1:]
+        copy(library, root / name)
+    copy(plugin, root / str(plugin)[1:])
+    copy(shutil.which("busybox"), root / "bin/busybox")
+    copy(HERE / "init.sh", root / "init")
+    (root / "init").chmod(0o755)
+    copy(LIBINPUT / "bin/udevadm", root / "bin/udevadm")
+    (root / "lib/systemd").mkdir(parents=True)
+    (root / "lib/systemd/systemd-udevd").symlink_to("/bin/udevadm")
+    for helper in helpers:
+        copy(helper, root / "lib/udev" / helper.name)
+    for rules in ("50-udev-default", "60-input-id", "60-evdev", "70-touchpad", "70-mouse", "70-joystick",
+                  "80-libinput-device-groups", "90-libinput-fuzz-override"):
+        copy(LIBINPUT / f"lib/udev/rules.d/{rules}.rules", root / f"lib/udev/rules.d/{rules}.rules")
+    copy(ROOT / "packaging/60-tavi.rules", root / "lib/udev/rules.d/60-tavi.rules")
+    shutil.copytree(LIBINPUT / "usr/share/libinput", root / "usr/share/libinput")
+    copy(debug_events, root / "usr/libexec/libinput/libinput-debug-events")
+    (root / "etc/fonts").mkdir(parents=True)
+    (root / "etc/fonts/fonts.conf").write_text("<fontconfig/>\n", encoding="utf-8")
+    (root / "bin/sh").symlink_to("busybox")
+    (root / "etc").mkdir(exist_ok=True)
+    (root / "etc/passwd").write_text("root:x:0:0:root:/:/bin/sh\nnobody:x:65534:65534::/tmp:/bin/sh\nplayer:x:1000:1000::/tmp:/bin/sh\n", encoding="utf-8")
+    (root / "etc/group").write_text("root:x:0:\ninput:x:104:player\ntty:x:5:\nnogroup:x:65534:\n", encoding="utf-8")
+    for program, name in ((TAVI, "tavi"), (HANDS, "hands"), (EYES, "eyes")):
+        subprocess.run(["strip", "-o", root / name, program], check=True)
+    if BARE:
+        subprocess.run(["strip", "-o", root / "bare", BARE], check=True)
+        (root / "race").touch()
+    for module in ("evdev.ko", "uinput.ko"):
+        copy(KERNEL / module, root / module)
+    shooter = (ROOT / "examples/keymaps/shooter.yaml").read_text(encoding="utf-8")
+    (root / "keymap.yaml").write_text(shooter + MORE_ITEMS, encoding="utf-8")
+    (root / "other.yaml").write_text(OTHER_KEYMAP, encoding="utf-8")
+    (root / "script").write_text(hand_commands(), encoding="utf-8")
+    with open(WORK / "root.cpio", "wb") as archive:
+        subprocess.run("find . | cpio --quiet -o -H newc", shell=True, cwd=root, stdout=archive, check=True)
+
+
+def kernel():
+    """The kernel without its own unpacking, which takes as long as all the rest: qemu starts an ELF file as it is."""
+    packed = (KERNEL / "vmlinuz").read_bytes()
+    start = packed.find(b"\xfd7zXZ\0")
+    if start < 0:
+        return KERNEL / "vmlinuz"
+    unpacked = WORK / "vmlinux"
+    unpacked.write_bytes(lzma.LZMADecompressor().decompress(packed[start:]))
+    return unpacked
+
+
+def boot():
+    """What the machine printed between its marks: the lines of each file, by its name."""
+    console = subprocess.run(
+        [QEMU, "-machine", "q35", "-cpu", "max", "-m", "1024", "-nographic", "-no-reboot", "-nic", "none",
+         "-kernel", kernel(), "-initrd", WORK / "root.cpio", "-append",
+         "console=ttyS0 quiet panic=-1 mitigations=off nokaslr cryptomgr.notests tsc=reliable"],
+        stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace", timeout=BOOT_SECONDS).stdout
+    text = console.replace("\r", "")
+    (WORK / "console.txt").write_text(text, encoding="utf-8")
+    if "=== begin\n" not in text or "=== end" not in text:
+        raise AssertionError("the machine did not come to its end:\n" + text)
+    files = text.split("=== begin\n")[1].split("=== end")[0].split("=== file ")[1:]
+    return {file.split("\n", 1)[0]: file.split("\n", 1)[1].splitlines() for file in files}
+
+
+def latencies(files):
+    """The time from each key to its touch in microseconds: of the bare loop and of the player, a list a round."""
+    pressed, touched, runner = {"bare": [], "play": []}, {"bare": [], "play": []}, ""
+    for line in files["hands"]:
+        if line.startswith("race "):
+            runner = line[5:]
+            pressed[runner].append([])
+        elif line.startswith("press "):
+            pressed[runner][-1].append(int(line[6:]))
+    for line in files["eyes"]:
+        if line.startswith("step "):
+            runner = line[10:] if line.startswith("step race ") else ""
+            if runner:
+                touched[runner].append([])
+        elif runner and (match := re.match(r"(bare|tavi) screen\|1 330 1 (\d+)", line)):
+            touched[runner][-1].append(int(match[2]))
+    return {runner: [[touch - press for press, touch in zip(*round_)] for round_ in zip(pressed[runner], touched[runner])]
+            for runner in pressed}
+
+
+def steps(lines):
+    """The lines of each step."""
+    found, name = {}, ""
+    for line in lines:
+        if line.startswith("step "):
+            name = line[5:]
+        found.setdefault(name, []).append(line)
+    return found
+
+
+class KernelPlay(unittest.TestCase):
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        make_file_system()
+        cls.files = boot()
+        cls.eyes = steps(cls.files["eyes"])
+        cls.fingers = seen_fingers(cls.files["eyes"])
+        cls.libinput = steps(cls.files["libinput"])
+
+    def screen(self, step):
+        """The fingers that another reader saw going down."""
+        return self.fingers.get(step, [])
+
+    def board(self, step):
+        """The keys that another reader of the player's keyboard saw, with 1 for down and 0 for up."""
+        lines = [line.split("|")[1].split() for line in self.eyes[step] if re.match(r"Test Board\|1 ", line)]
+        return [(int(code), int(value)) for _, code, value, _ in lines if value != "2"]
+
+    def touches(self, step):
+        return [line for line in self.libinput.get(step, []) if "TOUCH_" in line]
+
+    def test_nothing_went_wrong(self):
+        self.assertEqual(self.files["problems"], [])
+
+    def test_the_list_tells_what_is_taken(self):
+        rows = [re.sub(r"^/dev/input/event\d+  ", "", line) for line in self.files["list"]]
+        self.assertIn('keyboard  "Test Board"  taken', rows)
+        self.assertIn('mouse  "Test Rat"  taken', rows)
+        self.assertIn('keyboard  "tavi keyboard"  not taken: a guest\'s own device', rows)
+
+    def test_who_lacks_rights_is_told_what_gives_them(self):
+        text = "\n".join(self.files["rights"])
+        without, member = text.split("player\n")[0], text.split("player\n")[1].split("tavi play: /dev/uinput")[0]
+        self.assertIn("/dev/input/event1  not readable: Permission denied", without)
+        self.assertIn("/dev/uinput may not be written to, which the touch screen is made through", without)
+        self.assertIn("As root: adduser YOUR-NAME input. Then log out and in again.", without)
+        self.assertIn("list 1\n", without)
+        self.assertIn('keyboard  "Test Board"  taken', member)
+        self.assertIn("list 0\n", member)
+        self.assertIn('no "tavi play" of yours runs under the name "play"\ncontrol 1', member)
+        self.assertTrue(text.endswith("\nplay 1"), text)
+
+    def test_the_script_is_seen_as_it_was_simulated(self):
+        self.assertEqual(self.screen("script"), expected_fingers())
+
+    def test_libinput_sees_the_same_fingers(self):
+        seen = self.touches("script")
+        count = len(expected_fingers())
+        self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), count)
+        self.assertEqual(sum("TOUCH_UP" in line for line in seen), count)
+        self.assertFalse([line for line in self.libinput["script"] if "KEYBOARD_KEY" in line])
+
+    def test_grabbed_keys_reach_no_other_reader(self):
+        self.assertEqual(self.board("script"), [])
+
+    def test_the_pause_key_gives_the_keyboard_back(self):
+        self.assertIn((57, 1), self.board("pause"))
+        self.assertIn((57, 0), self.board("pause"))
+        self.assertEqual(self.screen("pause"), [])
+
+    def test_the_pause_key_takes_it_again(self):
+        self.assertEqual(self.board("resume"), [(88, 1), (88, 0)])
+        self.assertEqual(self.screen("resume"), [{"places": [(1203, 533)], "up": True}])
+
+    def test_the_panic_key_lifts_everything_and_gives_the_keyboard_back(self):
+        walk = self.screen("panic")
+        self.assertEqual([finger["up"] for finger in walk], [True])
+        self.assertIn((57, 1), self.board("panic"))
+
+    def test_a_script_switches_keymaps(self):
+        answers = self.files["answers"]
+        self.assertRegex(answers[0], r"^state: mapping off, keymap.yaml \(\d+ items\), 1280x720, 2 keyboards, 1 mouse")
+        self.assertEqual(answers[1:3], ["resume: ok", "keymap /other.yaml: ok"])
+        self.assertEqual(answers[3], 'kemap /other.yaml: tavi play: unknown word "kemap"; did you mean "keymap"?')
+        self.assertEqual(self.screen("control"), [{"places": [(128, 144)], "up": True}])
+
+    def test_unplugging_with_a_key_down_lifts_the_walk(self):
+        self.assertEqual([finger["up"] for finger in self.screen("unplug")], [True])
+
+    def test_a_signal_lifts_what_is_down(self):
+        for step in ("term", "kill"):
+            with self.subTest(step):
+                self.assertEqual([finger["up"] for finger in self.screen(step)], [True])
+                seen = self.touches(step)
+                self.assertEqual(sum("TOUCH_DOWN" in line for line in seen), 1)
+                self.assertEqual(sum("TOUCH_UP" in line for line in seen), 1, seen)
+        self.assertEqual(self.files["status"], ["after SIGTERM 143", "after SIGKILL 137"])
+
+
+    @unittest.skipUnless(BARE, "without the bare loop there is nothing to compare with")
+    def test_a_key_takes_at_most_twice_the_time_of_a_bare_loop(self):
+        rounds = latencies(self.files)
+        medians = {runner: [statistics.median(times) for times in found] for runner, found in rounds.items()}
+        ratio = statistics.median(play / bare for play, bare in zip(medians["play"], medians["bare"]))
+        print(f"\nmedians in us: bare {medians['bare']}, play {medians['play']}; ratio {ratio:.2f}")
+        for runner in rounds:
+            self.assertEqual([len(times) for times in rounds[runner]], [150] * 4)
+        self.assertLessEqual(ratio, 2)
+
+
+if __name__ == "__main__":
+    reason = missing()
+    if reason:
+        print("Skipped:", reason)
+        sys.exit(77)
+    WORK.mkdir(parents=True, exist_ok=True)
+    unittest.main(argv=sys.argv[:1], verbosity=2)
