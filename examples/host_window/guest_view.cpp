@@ -138,8 +138,8 @@ void GuestView::SetTextField(bool focused) {
   setAttribute(Qt::WA_InputMethodEnabled, focused);  // otherwise it would take a game's keys for itself
 }
 
-// Converts Qt's logical pixels to guest pixels, whatever the view's size. Keymaps and records then depend neither on the
-// window's size nor on the screen's scale factor.
+// Converts Qt's logical pixels to guest pixels, whatever the view's size. Keymaps and records then depend neither on
+// the window's size nor on the screen's scale factor.
 QPointF GuestView::ToGuest(const QPointF& position) const {
   return {position.x() * kGuest.width() / width(), position.y() * kGuest.height() / height()};
 }
