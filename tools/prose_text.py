@@ -87,12 +87,15 @@ def passages(path):
     return list(kinds[path.suffix](text))
 
 
-# A full stop ends a sentence before a capital, a code span or a link; not behind an initial or within a number.
-SENTENCE_END = re.compile(r"(?<=[a-z0-9`)\"*\]][.!?]) +(?=[A-Z`\"*\[(])")
+# Before a small letter a full stop is one of an abbreviation.
+SENTENCE_END = re.compile(r"(?<=[\w`)\"*\]][.!?]) +(?=[A-Z0-9`\"*\[(])")
+WORD = re.compile(r"\w+")
+LINK = re.compile(r"\[[^]]*\]\([^)]*\)")
 
 
 def sentences(path):
     """Where each sentence of the running text starts, and the sentence."""
     for passage in passages(path):
         if passage.is_running:
-            yield from ((passage.line, part) for part in SENTENCE_END.split(passage.text) if part.count(" ") >= 2)
+            yield from ((passage.line, part) for part in SENTENCE_END.split(passage.text)
+                        if len(WORD.findall(LINK.sub("", part))) > 2)
