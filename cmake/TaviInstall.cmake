@@ -37,6 +37,23 @@ if(TAVI_BUILD_HOST)
   install(FILES completions/tavi.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
 endif()
 
+# The guest for phones and other machines, for tavi to take there.
+option(TAVI_INSTALL_GUESTS "Install the static guests that tools/build_guest has built" ${TAVI_FOR_DEBIAN})
+set(TAVI_GUESTS ${PROJECT_SOURCE_DIR}/build/guest CACHE PATH "Where tools/build_guest has put the static guests")
+function(tavi_install_guests)
+  foreach(architecture IN ITEMS aarch64 armv7 x86_64)
+    set(program ${TAVI_GUESTS}/${architecture}/tavi-guest)
+    if(EXISTS ${program})
+      install(PROGRAMS ${program} DESTINATION lib/tavi/guest/${architecture} COMPONENT tools)
+    else()
+      message(STATUS "Without the guest for ${architecture}: no ${program} (tools/build_guest)")
+    endif()
+  endforeach()
+endfunction()
+if(TAVI_BUILD_HOST AND TAVI_INSTALL_GUESTS)
+  tavi_install_guests()
+endif()
+
 install(DIRECTORY include/ keymap DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
   FILES_MATCHING PATTERN "*.h")
 install(FILES keymapmanager/item_types.h keymapmanager/key_names.h keymapmanager/keymap_file.h
@@ -70,7 +87,8 @@ tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapma
 # nothing that is not installed. What players and authors of keymaps read comes with the program.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/taviinputmanager)
 set(examples_for_tools keymaps records scripts tutorial)
-set(documents_for_tools glossary window editor tutorial keymap macros scripts record-format keymap.schema record.schema)
+set(documents_for_tools
+  glossary window guest-protocol editor tutorial keymap macros scripts record-format keymap.schema record.schema)
 list(JOIN documents_for_tools "|" documents_for_tools)
 foreach(folder IN LISTS examples_for_tools)
   install(DIRECTORY examples/${folder} DESTINATION ${doc_dir}/examples COMPONENT tools)

@@ -20,7 +20,7 @@ _tavi_files() {
 _tavi_value() {
   case "$1 $2" in
     "window --joystick") _tavi_files yaml yml ;;
-    "window --guest") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "window --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
     "window --rotation") _tavi_words "0 90 180 270" ;;
     "window --pixel-ratio") return 0 ;;
     "window --background") _tavi_files png jpg jpeg webp bmp ;;
@@ -30,6 +30,7 @@ _tavi_value() {
     "window --controls-key") return 0 ;;
     "window --record") _tavi_files json ;;
     "window --replay") _tavi_files json ;;
+    "window --guest") return 0 ;;
     "window --listen") return 0 ;;
     "window --mirror") return 0 ;;
     "window --picture") _tavi_files png ;;
@@ -42,7 +43,8 @@ _tavi_value() {
     "draw --background") _tavi_files png jpg jpeg webp bmp ;;
     "draw --joystick") _tavi_files yaml yml ;;
     "record play --speed") return 0 ;;
-    "record play --guest") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "record play --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "record play --guest") return 0 ;;
     "record merge -o") _tavi_files json ;;
     "record merge --times") return 0 ;;
     "record merge --delay") return 0 ;;
@@ -50,24 +52,27 @@ _tavi_value() {
     "record merge --gap") return 0 ;;
     "record draw -o") _tavi_files svg ;;
     "guest-uinput --input") _tavi_files ;;
+    "guest-uinput --listen") return 0 ;;
     "guest-uinput --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
     "guest-uinput --display") return 0 ;;
+    "guest-uinput --for") _tavi_words "linux android" ;;
+    "guest-uinput --name") return 0 ;;
     *) return 1 ;;
   esac
 }
 
 _tavi_options() {
   case $1 in
-    "window") echo "--joystick --guest --rotation --pixel-ratio --background --look --pause-key --panic-key --controls-key --paused --fresh --events --record --replay --second-view --listen --mirror --picture --after" ;;
+    "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --controls-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;
     "keys") echo "--joystick --json" ;;
     "record info") echo "" ;;
-    "record play") echo "--speed --emulation --guest --live" ;;
+    "record play") echo "--speed --emulation --size --live --guest --allow-remote" ;;
     "record merge") echo "-o --times --delay --speed --gap" ;;
     "record draw") echo "-o" ;;
-    "guest-uinput") echo "--input --size --display --timeline --dry-run" ;;
+    "guest-uinput") echo "--input --listen --size --display --for --keyboard --name --timeline --dry-run" ;;
   esac
 }
 

@@ -221,7 +221,7 @@ picture events 4000 shooter.yaml watch_events --events
 
 # The surface of a phone, turned by a quarter.
 make_landscape "$folder/landscape.ppm"
-picture background 3200 shooter.yaml play_on_picture --background "$folder/landscape.ppm" --guest 720x1280 \
+picture background 3200 shooter.yaml play_on_picture --background "$folder/landscape.ppm" --size 720x1280 \
   --rotation 90
 
 cp "$keymaps/shooter.yaml" "$folder"

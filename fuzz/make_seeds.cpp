@@ -80,6 +80,11 @@ void AddRecords(Seeds* seeds) {
   for (const char* how : {"0", "h", "\x8a"}) {
     seeds->Add("record", QByteArray(how) + kRecord);
     seeds->Add("record", QByteArray(how) + kMerged);
+    seeds->Add("record_json", QByteArray(how) + kRecord);
+    seeds->Add("record_json", QByteArray(how) + kMerged);
+  }
+  for (const QFileInfo& info : Files("examples/records", "*.json")) {
+    seeds->Add("record_json", '0' + Read(info.filePath()));
   }
 }
 

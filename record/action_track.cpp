@@ -21,6 +21,7 @@ void ActionTrack::Add(RecordAction action) {
   auto* added = new RecordAction(std::move(action));
   added->timing = LowDistance(last_time_, now);
   last_time_ = now;
+  for (QString* text : {&added->type, &added->data, &added->extra1, &added->extra2}) *text = texts_.Of(*text);
   actions_.append(added);
 }
 

@@ -6,6 +6,7 @@
 
 #include <QList>
 
+#include "record/json/shared_texts.h"
 #include "record/record_action.h"
 
 namespace taviinputmanager {
@@ -33,6 +34,7 @@ class ActionTrack {
  private:
   qint64 last_time_;              // of the last action or of the start, milliseconds since the epoch
   QList<RecordAction*> actions_;  // owned
+  SharedTexts texts_;             // a long recording has few words
 };
 
 }  // namespace taviinputmanager

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -15,21 +16,38 @@
 namespace taviinputmanager {
 namespace {
 
+constexpr qint64 kChunkBytes = 256 * 1024;
 constexpr int kCopyLetters = 6;  // at random, of the name of a copy
 
 QString CopyNameStart(const QString& file) { return file + QLatin1String(".tavi-copy-"); }
 
 enum class Written { kRefused, kPart, kWhole };
 
-bool WriteAll(QFileDevice* file, const QByteArray& bytes) {
-  return file->write(bytes) == bytes.size() && file->flush() && SyncFile(*file);
+bool WriteAll(QFileDevice* file, const FileContent& content) {
+  return content(file) && file->flush() && SyncFile(*file);
 }
 
 // Somebody else may write the file at the same time: what is longer then is not what was to be written.
-Written WriteInPlace(const QString& path, const QByteArray& bytes) {
+Written WriteInPlace(const QString& path, const FileContent& content) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return Written::kRefused;
-  return WriteAll(&file, bytes) && file.size() == bytes.size() ? Written::kWhole : Written::kPart;
+  return WriteAll(&file, content) && file.size() == file.pos() ? Written::kWhole : Written::kPart;
+}
+
+FileContent ContentOf(const QByteArray& bytes) {
+  return [bytes](QIODevice* target) { return target->write(bytes) == bytes.size(); };
+}
+
+// Of what can be read again.
+FileContent ContentOf(QIODevice* source) {
+  return [source](QIODevice* target) {
+    QByteArray chunk;
+    for (source->seek(0); !source->atEnd();) {
+      chunk = source->read(kChunkBytes);
+      if (chunk.isEmpty() || target->write(chunk) != chunk.size()) return false;
+    }
+    return true;
+  };
 }
 
 // A file that is write-protected or held by someone refuses here, as it would refuse to be written in place. Opening it
@@ -39,10 +57,10 @@ bool CanBeOpenedForWriting(const QString& path) {
 }
 
 // A file has no name before it is whole, where the system knows such files; asking for the name gives it one.
-Written WriteCopy(QTemporaryFile* copy, const QByteArray& bytes) {
+Written WriteCopy(QTemporaryFile* copy, const FileContent& content) {
   if (!copy->open()) return Written::kRefused;
   ClaimFile(*copy);
-  if (!WriteAll(copy, bytes)) return Written::kPart;
+  if (!WriteAll(copy, content)) return Written::kPart;
   const QString name = copy->fileName();
   if (!QFile::exists(name)) return Written::kRefused;
   SyncName(name);
@@ -70,24 +88,28 @@ void MoveToItsPlace(std::unique_ptr<QTemporaryFile> copy, const QString& path) {
   if (MoveOver(name, path)) SyncName(path);
 }
 
-bool WriteOver(const QString& path, const QByteArray& bytes) {
+bool WriteOver(const QString& path, const FileContent& content) {
   if (!CanBeOpenedForWriting(path)) return false;
   auto copy = std::make_unique<QTemporaryFile>(CopyNameStart(path) + QString(kCopyLetters, QLatin1Char('X')));
-  const Written copied = WriteCopy(copy.get(), bytes);
+  const Written copied = WriteCopy(copy.get(), content);
   if (copied == Written::kPart) return true;
-  const Written written = WriteInPlace(path, bytes);
+  QBuffer memory;
+  memory.open(QIODevice::ReadWrite);
+  if (copied == Written::kRefused && !content(&memory)) return true;
+  QIODevice* const source = copied == Written::kWhole ? static_cast<QIODevice*>(copy.get()) : &memory;
+  const Written written = WriteInPlace(path, ContentOf(source));
   if (written == Written::kWhole) RemoveLeftCopies(path);
   if (written == Written::kPart && copied == Written::kWhole) MoveToItsPlace(std::move(copy), path);
   return written != Written::kRefused;
 }
 
-bool MakeFile(const QString& path, const QByteArray& bytes) {
+bool MakeFile(const QString& path, const FileContent& content) {
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return WriteInPlace(path, bytes) != Written::kRefused;
+  if (!file.open(QIODevice::WriteOnly)) return WriteInPlace(path, content) != Written::kRefused;
   // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
-  if (file.write(bytes) != bytes.size() || !file.flush()) return true;
+  if (!content(&file) || !file.flush()) return true;
   // Only the move tells that there can be no such name.
-  if (!file.commit()) return WriteInPlace(path, bytes) != Written::kRefused;
+  if (!file.commit()) return WriteInPlace(path, content) != Written::kRefused;
   const QString made = QFileInfo(path).canonicalFilePath();
   SyncName(made);
   RemoveLeftCopies(made);
@@ -96,11 +118,13 @@ bool MakeFile(const QString& path, const QByteArray& bytes) {
 
 }  // namespace
 
-bool ReplaceFile(const QString& path, const QByteArray& bytes) {
+bool ReplaceFile(const QString& path, const FileContent& content) {
   const QFileInfo present(path);
-  if (!present.exists()) return MakeFile(path, bytes);
-  if (!present.isFile()) return WriteInPlace(path, bytes) != Written::kRefused;
-  return WriteOver(present.canonicalFilePath(), bytes);
+  if (!present.exists()) return MakeFile(path, content);
+  if (!present.isFile()) return WriteInPlace(path, content) != Written::kRefused;
+  return WriteOver(present.canonicalFilePath(), content);
 }
+
+bool ReplaceFile(const QString& path, const QByteArray& bytes) { return ReplaceFile(path, ContentOf(bytes)); }
 
 }  // namespace taviinputmanager

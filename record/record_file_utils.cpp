@@ -11,9 +11,11 @@
 #include <QString>
 
 #include "core/numbers.h"
+#include "record/json/plain_file.h"
 #include "record/merge_record_actions.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
+#include "record/record_reader.h"
 #include "record/replay_context.h"
 #include "record/single_record_actions.h"
 
@@ -38,6 +40,20 @@ void Take(const QJsonValue& value, double* field) {
 template <typename Wide>
 void TakeWide(const QJsonValue& value, Wide* field) {
   if (value.isDouble()) *field = TruncateTo<Wide>(value.toDouble());
+}
+
+// The way of files as they are written; what is left is the library's.
+bool ReadOrdinary(const QString& path, RecordReader::Keep keep, RecordContents* contents) {
+  QFile file(path);
+  if (!OpenPlainFile(&file)) return false;
+  return RecordReader(&file, keep).Read(contents);
+}
+
+// The data of the first action, however deep; empty where there is none.
+QString FirstActionData(const RecordActions* actions) {
+  while (const auto* merged = dynamic_cast<const MergeRecordActions*>(actions)) actions = merged->items.first().get();
+  const auto* single = static_cast<const SingleRecordActions*>(actions);
+  return single && !single->IsEmpty() ? single->actions.first()->data : QString();
 }
 
 // The text that the start marker is in: the data of the first action, however deep. Looks on for ever where the first
@@ -77,14 +93,20 @@ QJsonObject RecordFileUtils::LoadJsonObject(const QString& path) {
 
 bool RecordFileUtils::GetRecordInfo(const QString& file, RecordInfo* info) {
   if (!info) return false;
-  const QJsonObject header = LoadJsonObject(file).value(kInfo).toObject();
-  if (header.isEmpty()) return false;
-  ReadRecordInfo(header, info);
+  RecordContents record;
+  if (!ReadOrdinary(file, RecordReader::Keep::kNothing, &record)) {
+    record.info = LoadJsonObject(file).value(kInfo).toObject();
+  }
+  if (record.info.isEmpty()) return false;
+  ReadRecordInfo(record.info, info);
   return true;
 }
 
 void RecordFileUtils::GetScriptAppAndPackage(const QString& file, QString& app, QString& package) {
-  QString marker = FirstActionData(LoadJsonObject(file));
+  RecordContents record;
+  QString marker;
+  if (ReadOrdinary(file, RecordReader::Keep::kFirst, &record)) marker = FirstActionData(record.actions.get());
+  if (marker.isEmpty()) marker = FirstActionData(LoadJsonObject(file));
   marker.remove(QLatin1Char('\\'));
   const QJsonObject params = QJsonDocument::fromJson(marker.toUtf8()).object().value(kParams).toObject();
   if (params.contains(kApp)) app = params.value(kApp).toString();
@@ -93,16 +115,20 @@ void RecordFileUtils::GetScriptAppAndPackage(const QString& file, QString& app, 
 
 bool RecordFileUtils::LoadRecord(const QString& file, ReplayContext* context) {
   if (!context) return false;
-  const QJsonObject json = LoadJsonObject(file);
-  if (!json.contains(kActions) && !json.contains(kMergedActions)) return false;
-  const QJsonObject header = json.value(kInfo).toObject();
-  if (header.isEmpty()) return false;
+  RecordContents record;
+  if (ReadOrdinary(file, RecordReader::Keep::kAll, &record)) {
+    if (!record.actions) return false;
+  } else {
+    const QJsonObject json = LoadJsonObject(file);
+    if (!json.contains(kActions) && !json.contains(kMergedActions)) return false;
+    record = {json.value(kInfo).toObject(), ReadRecordActions(json)};
+  }
+  if (record.info.isEmpty()) return false;
   RecordInfo info;
-  ReadRecordInfo(header, &info);
+  ReadRecordInfo(record.info, &info);
   context->info = info;
-  std::shared_ptr<RecordActions> actions = ReadRecordActions(json);
-  if (!actions) return false;
-  context->actions = std::move(actions);
+  if (!record.actions) return false;
+  context->actions = std::move(record.actions);
   return true;
 }
 

@@ -1,19 +1,22 @@
-#include <sstream>
+#include <algorithm>
+#include <numeric>
+#include <optional>
+#include <string>
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <Poco/JSON/Object.h>
-#include <Poco/JSON/ParseHandler.h>
-#include <Poco/JSON/Parser.h>
-#include <Poco/JSON/Stringifier.h>
-
 #include "core/clock.h"
 #include "core/display_geometry.h"
 #include "core/numbers.h"
 #include "record/file_replacement.h"
+#include "record/json/json_output.h"
+#include "record/json/merged_writer.h"
+#include "record/json/poco_json.h"
+#include "record/json/record_source.h"
+#include "record/json/record_writer.h"
 #include "record/record_action.h"
 #include "record/record_file_utils.h"
 #include "record/record_format.h"
@@ -24,16 +27,12 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-constexpr unsigned kIndent = 4;       // columns a level, where the file is written by the other JSON library
-constexpr int kStepAsIndent = -1;     // of a nested level: the same
-constexpr std::size_t kDepth = 1024;  // levels that QJsonDocument reads; anything deeper is broken for all readers
-
 enum SaveResult : int { kSaved = 0, kNothingWorthSaving = 1, kOpenFailed = 2 };
 
 // A recording that holds nothing but its start and fingers that go up is not worth a file.
-bool IsWorthSaving(const RecordAction& action) {
-  if (action.type == kTypeVControl) return action.extra1 == QLatin1String("1");
-  if (action.type == kTypeTouch) return !action.data.contains(kRelease) && !action.data.contains(kReset);
+bool IsWorthSaving(const RecordAction* action) {
+  if (action->type == kTypeVControl) return action->extra1 == QLatin1String("1");
+  if (action->type == kTypeTouch) return !action->data.contains(kRelease) && !action->data.contains(kReset);
   return true;
 }
 
@@ -46,6 +45,86 @@ int RunningTime(const RecordInfo& info, const MergeParam& param, bool is_last) {
   }
   if (!is_last) time = AddWrapped(time, param.till_next_item_delay);
   return Truncate(1.0 / (param.speed_ratio > 0 ? param.speed_ratio : 1.0) * time);
+}
+
+// What a merged record says of the whole: the names of its first item, and the time of all.
+class MergedHeader {
+ public:
+  explicit MergedHeader(int item_count) : item_count_(item_count) {}
+
+  void Add(const QJsonObject& header, const MergeParam& param) {
+    RecordInfo info;
+    RecordFileUtils::GetInstance()->ReadRecordInfo(header, &info);
+    if (count_ == 0) result_ = info;
+    ++count_;
+    total_ = AddWrapped(total_, RunningTime(info, param, count_ == item_count_));
+  }
+  QJsonObject Json() {
+    result_.total_running_time = static_cast<quint64>(total_);
+    result_.create_time = Clock::NowMs();
+    return RecordFileUtils::GetInstance()->WriteRecordInfo(result_);
+  }
+
+ private:
+  const int item_count_;
+  int count_ = 0;
+  int total_ = 0;
+  RecordInfo result_;
+};
+
+// The way of files as this library writes them. Nothing where one of them is not, or changes meanwhile.
+std::optional<bool> MergeByCopying(const QString& file, const QVector<MergeParam>& params) {
+  MergedHeader header(params.size());
+  MergedWriter writer;
+  for (const MergeParam& param : params) {
+    if (!writer.Add(param.file_name, RecordFileUtils::GetInstance()->WriteControlParam(param))) return std::nullopt;
+    header.Add(writer.LastInfo(), param);
+  }
+  const QJsonObject info = header.Json();
+  const bool is_written = ReplaceFile(file, [&](QIODevice* target) { return writer.Write(info, target); });
+  if (writer.HasChangedSource()) return std::nullopt;
+  return is_written;
+}
+
+bool MergeByLibrary(const QString& file, const QVector<MergeParam>& params) {
+  RecordFileUtils* const utils = RecordFileUtils::GetInstance();
+  MergedHeader header(params.size());
+  QJsonArray items;
+  for (const MergeParam& param : params) {
+    const QJsonObject source = utils->LoadJsonObject(param.file_name);
+    const QJsonObject info = source.value(kInfo).toObject();
+    if ((!source.contains(kActions) && !source.contains(kMergedActions)) || info.isEmpty()) return false;
+    header.Add(info, param);
+    const QLatin1String list = source.contains(kActions) ? kActions : kMergedActions;
+    items.append(QJsonObject{{kControl, utils->WriteControlParam(param)}, {list, source.value(list)}});
+  }
+  const QJsonDocument document(QJsonObject{{kInfo, header.Json()}, {kMergedActions, items}});
+  return ReplaceFile(file, document.toJson());
+}
+
+// The same two ways.
+bool StampByCopying(const QString& path, const QByteArray& create_time) {
+  RecordSource source(path);
+  if (!source.Find(FileLayout::Writer::kPoco) || !source.Places().create_time) return false;
+  const ByteRange before{0, source.Places().create_time->begin};
+  const ByteRange behind{source.Places().create_time->end, source.Places().end};
+  ReplaceFile(path, [&](QIODevice* target) {
+    JsonOutput output(target);
+    if (!source.Copy(before, 0, &output)) return false;
+    output.Add({create_time.constData(), static_cast<std::size_t>(create_time.size())});
+    return source.Copy(behind, 0, &output) && output.Finish();
+  });
+  return !source.HasChanged();
+}
+
+void StampByLibrary(const QString& path, qint64 create_time) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return;
+  const QByteArray bytes = file.readAll();
+  file.close();
+  if (bytes.isEmpty()) return;
+  const std::optional<std::string> stamped = poco_json::Stamped(bytes.toStdString(), create_time);
+  if (stamped) ReplaceFile(path, QByteArray::fromStdString(*stamped));
 }
 
 }  // namespace
@@ -75,69 +154,27 @@ QJsonObject RecordFileUtils::WriteAction(const RecordAction& action) {
 }
 
 int RecordFileUtils::SaveRecord(const QString& package_name, const QString& file, const QList<RecordAction*>& actions) {
-  if (actions.isEmpty()) return kNothingWorthSaving;
-  qint64 total = 0;
-  bool is_worth_saving = false;
-  QJsonArray array;
-  for (const RecordAction* action : actions) {
-    total += action->timing;
-    array.append(WriteAction(*action));
-    is_worth_saving = is_worth_saving || IsWorthSaving(*action);
-  }
-  if (!is_worth_saving) return kNothingWorthSaving;
-
+  if (!std::any_of(actions.begin(), actions.end(), IsWorthSaving)) return kNothingWorthSaving;
+  const qint64 total = std::accumulate(actions.begin(), actions.end(), qint64{0},
+                                       [](qint64 sum, const RecordAction* action) { return sum + action->timing; });
   RecordInfo info;
   info.package_name = package_name;
   info.resolution = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   info.create_time = Clock::NowMs();
   QJsonObject header = WriteRecordInfo(info);
   header.insert(kTotalRunningTime, total);  // signed: below 0 when the clock was set back meanwhile
-  const QJsonDocument document(QJsonObject{{kInfo, header}, {kActions, array}});
-  return ReplaceFile(file, document.toJson()) ? kSaved : kOpenFailed;
+  const auto content = [&](QIODevice* target) { return WriteRecord(header, actions, target); };
+  return ReplaceFile(file, content) ? kSaved : kOpenFailed;
 }
 
 void RecordFileUtils::UpdateRecordTimestamp(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return;
-  const QByteArray bytes = file.readAll();
-  file.close();
-  if (bytes.isEmpty()) return;
-
-  Poco::JSON::Parser parser(new Poco::JSON::ParseHandler(false));
-  parser.setDepth(kDepth);
-  const auto root = parser.parse(bytes.toStdString()).extract<Poco::JSON::Object::Ptr>();
-  const std::string info(kInfo.data(), static_cast<std::size_t>(kInfo.size()));
-  if (!root->has(info)) return;
-  root->getObject(info)->set(std::string(kCreateTime.data(), static_cast<std::size_t>(kCreateTime.size())),
-                             static_cast<Poco::Int64>(Clock::NowMs()));
-  std::ostringstream text;
-  Poco::JSON::Stringifier::stringify(root, text, kIndent, kStepAsIndent, Poco::JSON_WRAP_STRINGS);
-  ReplaceFile(path, QByteArray::fromStdString(text.str()));
+  const qint64 now = Clock::NowMs();
+  if (!StampByCopying(path, QByteArray::number(now))) StampByLibrary(path, now);
 }
 
 bool RecordFileUtils::MergeRecord(const QString& file, const QVector<MergeParam>& params) {
-  QJsonArray items;
-  RecordInfo result;
-  int total = 0;
-  for (const MergeParam& param : params) {
-    const QJsonObject source = LoadJsonObject(param.file_name);
-    if (!source.contains(kActions) && !source.contains(kMergedActions)) break;
-    const QJsonObject header = source.value(kInfo).toObject();
-    if (header.isEmpty()) return false;
-    RecordInfo info;
-    ReadRecordInfo(header, &info);
-    const bool is_last = items.size() >= params.size() - 1;
-    total = AddWrapped(total, RunningTime(info, param, is_last));
-    if (items.isEmpty()) result = info;
-    const QLatin1String list = source.contains(kActions) ? kActions : kMergedActions;
-    items.append(QJsonObject{{kControl, WriteControlParam(param)}, {list, source.value(list)}});
-  }
-  if (items.size() != params.size()) return false;
-
-  result.total_running_time = static_cast<quint64>(total);
-  result.create_time = Clock::NowMs();
-  const QJsonDocument document(QJsonObject{{kInfo, WriteRecordInfo(result)}, {kMergedActions, items}});
-  return ReplaceFile(file, document.toJson());
+  const std::optional<bool> merged = MergeByCopying(file, params);
+  return merged ? *merged : MergeByLibrary(file, params);
 }
 
 }  // namespace taviinputmanager

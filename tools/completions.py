@@ -24,6 +24,7 @@ FILES = {
 # What to offer for other values, by the word that stands for them.
 WORDS = {
     "WxH": "1280x720 1920x1080 2560x1440",
+    "SYSTEM": "linux android",
     "DEG": "0 90 180 270",
 }
 MADE = "# Made by tools/make_command_files.py of what tavi --help says."

@@ -4,7 +4,7 @@
 #
 #   tools/install-dependencies.sh [GROUP...]      without a word: build
 #
-# Groups: build test docs packaging lint bench plot guest windows coverage valgrind fuzz mutants
+# Groups: build test docs packaging lint bench plot guest guest-programs windows coverage valgrind fuzz mutants
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
@@ -13,7 +13,8 @@ test=(groff-base libgtest-dev libxcb-xfixes0-dev libxcb-xtest0-dev python3 pytho
 docs=(doxygen)
 packaging=(debootstrap lintian dpkg-dev file)
 lint=(clang-format-14 clang-tidy-14)
-guest=(qemu-system-x86 busybox-static cpio)
+guest=(qemu-system-x86 qemu-system-arm busybox-static cpio)
+guest_programs=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf qemu-user-static)
 windows=(g++-mingw-w64-x86-64-posix wine64)
 coverage=(gcovr python3)
 valgrind=(valgrind)
@@ -31,6 +32,7 @@ for group in "${@:-build}"; do
     packaging) packages+=("${packaging[@]}") ;;
     lint) packages+=("${lint[@]}") ;;
     guest) packages+=("${guest[@]}") ;;
+    guest-programs) packages+=("${guest_programs[@]}") ;;
     windows) packages+=("${windows[@]}") ;;
     coverage) packages+=("${coverage[@]}") ;;
     valgrind) packages+=("${valgrind[@]}") ;;

@@ -1,7 +1,9 @@
 // What a long record costs, beside a bare parse of the same bytes in the same run.
 //
-//   tavi_bench_records [ACTIONS]    saves, loads, walks, replays and merges a record of so many actions (1000000), and
-//                                   prints the figures as JSON
+//   tavi_bench_records [ACTIONS]    records so many actions (1000000), saves, loads, walks, replays, merges and stamps
+//                                   them, and prints the figures as JSON
+//
+// Memory is what the system has given to the program: the most of it during a call, beyond what stays.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -9,7 +11,7 @@
 #include <functional>
 #include <malloc.h>
 #include <memory>
-#include <sys/resource.h>
+#include <string>
 
 #include <QFile>
 #include <QGuiApplication>
@@ -22,7 +24,9 @@
 #include "record/record_action.h"
 #include "record/record_actions.h"
 #include "record/record_file_utils.h"
+#include "record/record_manager.h"
 #include "record/replay_context.h"
+#include "record/single_record_actions.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace taviinputmanager::bench {
@@ -51,24 +55,39 @@ double HeapInUse() {
   return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-double PeakMebibytes() {
-  struct rusage usage = {};
-  getrusage(RUSAGE_SELF, &usage);
-  return static_cast<double>(usage.ru_maxrss) * 1024 / kMebibyte;
+// Of this program, as "VmRSS" and "VmHWM" tell: what it has of the memory, and the most that it has had.
+double MebibytesOf(const char* name) {
+  QFile status(QStringLiteral("/proc/self/status"));
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  const QByteArray lines = status.readAll();
+  const int start = lines.indexOf(name) + static_cast<int>(qstrlen(name)) + 1;
+  return lines.mid(start, lines.indexOf("kB", start) - start).trimmed().toDouble() / 1024;
 }
 
-// Taps as a recording makes them: a press at a place of its own, and its release a little later.
-QList<RecordAction*> MakeTaps(int count) {
-  QList<RecordAction*> actions;
-  actions.reserve(count);
-  for (int i = 0; i < count; ++i) {
+// What `work` needs for a while, beyond what is in use after it.
+double PassingMebibytesOf(const std::function<void()>& work) {
+  malloc_trim(0);
+  QFile most(QStringLiteral("/proc/self/clear_refs"));
+  if (most.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) most.write("5");  // the most begins anew
+  const double before = MebibytesOf("VmRSS");
+  work();
+  const double most_used = MebibytesOf("VmHWM");
+  malloc_trim(0);  // what is free is given back
+  return most_used - std::max(before, MebibytesOf("VmRSS"));
+}
+
+// Taps: a press at a place of its own, and its release a little later.
+void RecordTaps(int count) {
+  auto* clock = static_cast<tavi::VirtualEventDispatcher*>(QCoreApplication::eventDispatcher());
+  StartRecord(QString(), QString());
+  for (int i = 1; i < count; ++i) {  // the start marker is the first
+    clock->Advance(i % 50);
     const bool is_press = i % 2 == 0;
     const QString place = QStringLiteral("(0.%1,0.%2)").arg(100000 + i % 900000).arg(999999 - i % 800000);
-    actions.append(new RecordAction{i % 50, QStringLiteral("touch"),
-                                    is_press ? QStringLiteral("press_rel:") + place : QStringLiteral("release"),
-                                    QStringLiteral("11"), QString()});
+    RecordManager::GetInstance()->AddAction(QStringLiteral("touch"),
+                                            is_press ? QStringLiteral("press_rel:") + place : QStringLiteral("release"),
+                                            QStringLiteral("11"), QString());
   }
-  return actions;
 }
 
 int CountByWalking(RecordActions* actions) {
@@ -88,15 +107,22 @@ class Run {
   int Print() {
     std::printf("{\"actions\": %d", actions_);
     Save();
+    Parse();
     Load();
     Replay();
+    ReadHeader();
     Merge();
-    std::printf(", \"peak_MiB\": %.0f}\n", PeakMebibytes());
+    Stamp();
+    std::printf("}\n");
     return is_right_ ? EXIT_SUCCESS : EXIT_FAILURE;
   }
 
  private:
   void Tell(const char* name, double value) { std::printf(", \"%s\": %.6f", name, value); }
+  void TellBesideParse(const char* name, double seconds) {
+    Tell((std::string(name) + "_s").c_str(), seconds);
+    Tell((std::string(name) + "_to_parse").c_str(), seconds / parse_s_);
+  }
   void Expect(bool is_right, const char* what) {
     if (is_right) return;
     std::fprintf(stderr, "tavi_bench_records: %s\n", what);
@@ -104,32 +130,42 @@ class Run {
   }
 
   void Save() {
-    const QList<RecordAction*> actions = MakeTaps(actions_);
-    Tell("save_s", SecondsOf([&] { Expect(Files()->SaveRecord({}, file_, actions) == 0, "cannot save"); }));
-    qDeleteAll(actions);
+    for (int i = 0; i < kRepetitions; ++i) {
+      QFile::remove(file_);
+      RecordTaps(actions_);
+      const double seconds = SecondsOf([this] { StopRecord(QString(), file_); });
+      save_s_ = i == 0 ? seconds : std::min(save_s_, seconds);
+    }
+    ReplayContext context;
+    Expect(Files()->LoadRecord(file_, &context), "cannot load what was saved");
+    const auto& actions = static_cast<SingleRecordActions*>(context.actions.get())->actions;
+    const QString other = folder_.filePath(QStringLiteral("other.json"));
+    Tell("save_MiB", PassingMebibytesOf([&] { Files()->SaveRecord({}, other, actions); }));
+    QFile::remove(other);
   }
 
-  void Load() {
+  void Parse() {
     QFile file(file_);
     Expect(file.open(QIODevice::ReadOnly), "cannot read back");
     const QByteArray bytes = file.readAll();
-    const double parse = LeastSecondsOf([&] {
+    parse_s_ = LeastSecondsOf([&] {
       QJsonParseError error{};
       Expect(!QJsonDocument::fromJson(bytes, &error).object().isEmpty(), "cannot parse");
     });
-    const double load = LeastSecondsOf([&] {
-      ReplayContext context;
-      Expect(Files()->LoadRecord(file_, &context), "cannot load");
-    });
     Tell("file_MiB", bytes.size() / kMebibyte);
-    Tell("parse_s", parse);
-    Tell("load_s", load);
-    Tell("load_to_parse", load / parse);
+    Tell("parse_s", parse_s_);
+    TellBesideParse("save", save_s_);
+  }
 
+  void Load() {
+    TellBesideParse("load", LeastSecondsOf([&] {
+                      ReplayContext context;
+                      Expect(Files()->LoadRecord(file_, &context), "cannot load");
+                    }));
     malloc_trim(0);
     const double before = HeapInUse();
     ReplayContext context;
-    Files()->LoadRecord(file_, &context);
+    Tell("load_MiB", PassingMebibytesOf([&] { Files()->LoadRecord(file_, &context); }));
     Tell("heap_bytes_per_action", (HeapInUse() - before) / actions_);
     int walked = 0;
     Tell("walk_s", SecondsOf([&] { walked = CountByWalking(context.actions.get()); }));
@@ -139,32 +175,61 @@ class Run {
   void Replay() {
     SetInputEventSendFunc(reinterpret_cast<void*>(+[](const char* /*data*/, int /*length*/) { ++lines_sent; }));
     UpdateReplayDisplayId(1);
-    double least = ReplayOnce();
-    for (int i = 1; i < kRepetitions; ++i) least = std::min(least, ReplayOnce());
+    double start = 0;
+    double least = ReplayOnce(&start);
+    for (int i = 1; i < kRepetitions; ++i) least = std::min(least, ReplayOnce(&start));
+    TellBesideParse("start", start);
     Tell("replay_s", least);
   }
-  double ReplayOnce() {
+  // `start` becomes the least of itself, unless it is 0, and what the call alone took.
+  double ReplayOnce(double* start) {
     auto* clock = static_cast<tavi::VirtualEventDispatcher*>(QCoreApplication::eventDispatcher());
     lines_sent = 0;
-    StartReplay(0, 1, QString(), file_, ReplayParam());
+    const double call = SecondsOf([this] { StartReplay(0, 1, QString(), file_, ReplayParam()); });
+    *start = *start > 0 ? std::min(*start, call) : call;
     const double seconds = SecondsOf([clock] {
       for (int last = -1; lines_sent != last;) {
         last = lines_sent;
         clock->Advance(kStepMs);
       }
     });
-    Expect(lines_sent >= actions_, "the replay loses actions");
+    Expect(lines_sent >= actions_ - 1, "the replay loses actions");  // the start marker is no line
     StopAllReplay();
     clock->Settle();
     return seconds;
   }
 
+  void ReadHeader() {
+    const auto read_info = [&] {
+      RecordInfo info;
+      Expect(GetRecordInfo(file_, &info), "cannot read the header");
+    };
+    TellBesideParse("info", LeastSecondsOf(read_info));
+    Tell("info_MiB", PassingMebibytesOf(read_info));
+    TellBesideParse("names", LeastSecondsOf([&] {
+                      QString app;
+                      QString package;
+                      GetScriptAppAndPackage(file_, app, package);
+                    }));
+  }
+
   void Merge() {
     MergeParam param;
     param.file_name = file_;
-    Tell("merge_two_s", SecondsOf([&] {
-           Expect(MergeRecord(folder_.filePath(QStringLiteral("merged.json")), {param, param}), "cannot merge");
-         }));
+    const QString target = folder_.filePath(QStringLiteral("merged.json"));
+    const auto merge = [&] {
+      QFile::remove(target);
+      Expect(MergeRecord(target, {param, param}), "cannot merge");
+    };
+    TellBesideParse("merge_two", LeastSecondsOf(merge));
+    Tell("merge_MiB", PassingMebibytesOf(merge));
+    QFile::remove(target);
+  }
+
+  void Stamp() {
+    const auto stamp = [&] { UpdateRecordTimestamp(file_); };
+    TellBesideParse("stamp", LeastSecondsOf(stamp));
+    Tell("stamp_MiB", PassingMebibytesOf(stamp));
   }
 
   static constexpr int kStepMs = 60000;
@@ -174,6 +239,8 @@ class Run {
   const int actions_;
   QTemporaryDir folder_;
   const QString file_;
+  double save_s_ = 0;
+  double parse_s_ = 0;
   bool is_right_ = true;
 };
 

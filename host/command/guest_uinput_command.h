@@ -5,8 +5,8 @@
 
 namespace tavi {
 
-// `tavi guest-uinput`: a guest that plays its lines on input devices of the Linux kernel. Where the program was built
-// without libevdev it is there to say so.
+// `tavi guest-uinput`: a guest that plays its lines on input devices of the Linux kernel. Where the kernel is
+// another one it is there to say so.
 Subcommand GuestUinputCommand();
 
 }  // namespace tavi

@@ -9,11 +9,14 @@
 #include <QTimer>
 
 #include "host/command/command_line.h"
+#include "host/command/guest_option.h"
 #include "host/record/record_file.h"
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "host/system/console.h"
+#include "host/system/terminal.h"
 #include "host/system/window_system.h"
+#include "host/target/guest_targets.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -31,30 +34,43 @@ constexpr char kHelp[] =
     "\n"
     "  --speed X     that many times as fast, any number above 0 (1)\n"
     "  --emulation   fingers miss their points by up to 2 pixels, at random\n"
-    "  --guest WxH   the guest's display in pixels, each side from 1 to 16384 (as it was\n"
+    "  --size WxH    the guest's display in pixels, each side from 1 to 16384 (as it was\n"
     "                recorded)\n"
     "  --live        wait, and print each line as it falls due\n"
+    "  --guest TARGET\n"
+    "                with --live, send the lines to a guest, too: to the standard input of a\n"
+    "                command (exec:COMMAND), a socket file (unix:PATH), a port of this\n"
+    "                machine (tcp:HOST:PORT) or input devices of its kernel (uinput); again\n"
+    "                and again for several\n"
+    "  --allow-remote\n"
+    "                let tcp: lead to other machines, though anybody on the way can read\n"
+    "                what is typed\n"
     "\n"
-    "Exit status: 0 when it was played, 1 when the replay did not start, 2 when the\n"
-    "record or the command line cannot be used.\n"
+    "The replay begins when each guest is connected or has failed to. Whatever ends it,\n"
+    "what is down at the guests is lifted first.\n"
+    "\n"
+    "Exit status: 0 when it was played, 1 when the replay did not start or a guest was\n"
+    "not connected at the end, 2 when the record or the command line cannot be used, 128\n"
+    "and the signal's number when a signal ended what guests were sent.\n"
     "\n"
     "Example: tavi record play --speed 2 examples/records/walk.json\n";
 
 const QString kSpeed = QStringLiteral("--speed");
 const QString kEmulation = QStringLiteral("--emulation");
-const QString kGuest = QStringLiteral("--guest");
 const QString kLive = QStringLiteral("--live");
 
 constexpr QSize kDefaultGuest(1280, 720);
 constexpr int kDisplay = 1;
 constexpr int kTask = 1;
-constexpr int kStartLimitMs = 5000;  // a replay starts at once, or never
+constexpr int kStartLimitMs = 5000;   // a replay starts at once, or never
+constexpr int kAnswerLimitMs = 5000;  // for guests
 
 struct PlayOptions {
   QString file;
   taviinputmanager::ReplayParam param;
   QSize guest;  // empty: as large as when the record was made
   bool is_live = false;
+  QVector<TargetAddress> targets;
 };
 
 // Returns what is wrong, or nothing.
@@ -64,8 +80,11 @@ QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
   options->file = parsed.positional[0];
   options->is_live = parsed.options.contains(kLive);
   options->param.emulation_mode = parsed.options.contains(kEmulation);
-  const QString problem = TakeFactor(parsed.Find(kSpeed), &options->param.speed_ratio);
-  return problem.isEmpty() ? TakeSize(parsed.Find(kGuest), &options->guest) : problem;
+  QString problem = TakeFactor(parsed.Find(kSpeed), &options->param.speed_ratio);
+  if (problem.isEmpty()) problem = TakeSize(FindSize(parsed), &options->guest);
+  if (problem.isEmpty()) problem = TakeTargets(parsed, &options->targets);
+  const bool is_too_fast = !options->targets.isEmpty() && !options->is_live;
+  return problem.isEmpty() && is_too_fast ? QStringLiteral("a guest goes with %1").arg(kLive) : problem;
 }
 
 QSize GuestSize(const PlayOptions& options) {
@@ -113,8 +132,69 @@ struct ReplayFunctions {
 
 std::atomic<bool> ReplayFunctions::has_started{false};
 
+// The guests of the replay. A thread of the replay's may send to them as long as the program lives.
+GuestTargets* Targets() {
+  static GuestTargets targets;
+  return &targets;
+}
+
+// As the library sent it.
+QByteArray BytesOf(const TimelineEntry& entry) {
+  return entry.text.toUtf8() + (entry.source == TimelineEntry::Source::kText ? '\0' : '\n');
+}
+
 // One call a line: lines of two threads do not mix.
-void PrintEntry(const TimelineEntry& entry) { Print(FormatLine(entry)); }
+void TellEntry(const TimelineEntry& entry) {
+  if (entry.source != TimelineEntry::Source::kCallback) {
+    const QByteArray bytes = BytesOf(entry);
+    Targets()->Send(bytes.constData(), bytes.size());
+  }
+  Print(FormatLine(entry));
+}
+
+// While it lives, the guests get what is played; they have nothing down after it, also when a signal ends the program.
+class GuestsInUse {
+ public:
+  GuestsInUse(const QVector<TargetAddress>& addresses, const QSize& surface) : has_guests_(!addresses.isEmpty()) {
+    if (!has_guests_) return;
+    QObject::connect(Targets(), &GuestTargets::Message, Targets(),
+                     [](const QString& text) { PrintError(QStringLiteral("tavi record play: %1\n").arg(text)); });
+    Targets()->SetSurface(surface);
+    for (const TargetAddress& address : addresses) Targets()->Add(address);
+    SetInterruptionTaker([](int number) {
+      QMetaObject::invokeMethod(
+          QCoreApplication::instance(), [number] { QCoreApplication::exit(ExitStatusOfSignal(number)); },
+          Qt::QueuedConnection);
+    });
+  }
+  ~GuestsInUse() {
+    Targets()->Close();
+    if (has_guests_) SetInterruptionTaker({});
+  }
+  GuestsInUse(const GuestsInUse&) = delete;
+  GuestsInUse& operator=(const GuestsInUse&) = delete;
+
+  // Until each guest is connected or has failed to. A status other than kExitDone: the program is to end.
+  int WaitForAnswers() {
+    if (Targets()->HaveAllAnswered()) return kExitDone;
+    QObject context;
+    QObject::connect(Targets(), &GuestTargets::Changed, &context, [] {
+      if (Targets()->HaveAllAnswered()) QCoreApplication::exit(kExitDone);
+    });
+    QTimer::singleShot(kAnswerLimitMs, &context, [] { QCoreApplication::exit(kExitDone); });
+    return QCoreApplication::exec();
+  }
+
+  bool AreAllConnected() const {
+    for (int target = 0; target < Targets()->Count(); ++target) {
+      if (Targets()->StatusOf(target).state != TargetStatus::State::kConnected) return false;
+    }
+    return true;
+  }
+
+ private:
+  const bool has_guests_;
+};
 
 void StartHost(const QSize& guest) {
   SimulatedHost* host = SimulatedHost::GetInstance();
@@ -124,7 +204,7 @@ void StartHost(const QSize& guest) {
   taviinputmanager::UpdateDisplayId(kDisplay);  // where the end of a replay lifts its fingers
   QCoreApplication::sendPostedEvents();
   host->StartTimeline();
-  host->listener = PrintEntry;
+  host->listener = TellEntry;
 }
 
 int Replay(const PlayOptions& options) {
@@ -137,7 +217,7 @@ int Replay(const PlayOptions& options) {
     if (!ReplayFunctions::has_started) QCoreApplication::exit(kExitProblem);
   });
   const int status = QCoreApplication::exec();
-  if (status != kExitDone) PrintError(QStringLiteral("%1: the replay did not start\n").arg(options.file));
+  if (status == kExitProblem) PrintError(QStringLiteral("%1: the replay did not start\n").arg(options.file));
   return status;
 }
 
@@ -148,11 +228,20 @@ int Run(const Invocation& invocation) {
   if (!problem.isEmpty()) return FailUsage(kCommand, problem);
   if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;
   DoWithoutWindowSystem();  // neither clock needs one
+  if (!options.targets.isEmpty()) {
+    GoOnWithoutReader();
+    SetCleanUp({});  // signals have a thread of their own, which begins before others
+  }
   if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
   if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // lines are seen as they fall due
   const QGuiApplication application(invocation.argc, invocation.argv);
-  StartHost(GuestSize(options));
-  return Replay(options);
+  const QSize surface = GuestSize(options);
+  GuestsInUse guests(options.targets, surface);
+  const int answered = guests.WaitForAnswers();
+  if (answered != kExitDone) return answered;
+  StartHost(surface);
+  const int status = Replay(options);
+  return status == kExitDone && !guests.AreAllConnected() ? kExitProblem : status;
 }
 
 }  // namespace

@@ -9,9 +9,11 @@
 #include <QTimer>
 
 #include "host/command/command_line.h"
+#include "host/command/guest_option.h"
 #include "host/look/theme.h"
 #include "host/mirror/mirror_address.h"
 #include "host/picture/picture_file.h"
+#include "host/session/live_host.h"
 #include "host/system/console.h"
 #include "host/system/plain_file.h"
 #include "host/system/terminal.h"
@@ -20,6 +22,7 @@
 #include "host/window/main_window.h"
 #include "host/window/mirror_label.h"
 #include "host/window/records/record_bar.h"
+#include "host/window/target_button.h"
 #include "host/window/view/guest_display.h"
 #include "host/window/window_memory.h"
 
@@ -35,11 +38,11 @@ constexpr char kHelp[] =
     "are drawn, and the lines that say so are listed. A keymap that is saved meanwhile\n"
     "is read again at once. Without KEYMAP the window takes that of last time, or asks\n"
     "for one. \"Edit\" changes the keymap on the screen. The window also remembers its\n"
-    "size, its docks, and the options from --guest to --controls-key.\n"
+    "size, its docks, and the options from --size to --controls-key.\n"
     "\n"
     "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
     "                   gamepad reaches the guest as one\n"
-    "  --guest WxH      the guest's display in pixels, each side from 1 to 16384; \"view\"\n"
+    "  --size WxH       the guest's display in pixels, each side from 1 to 16384; \"view\"\n"
     "                   for one as large as it is shown (1280x720)\n"
     "  --rotation DEG   what the display is turned by, as the host tells it: 0, 90, 180, 270\n"
     "  --pixel-ratio X  how many pixels of the view the host counts for one of the guest's\n"
@@ -63,6 +66,12 @@ constexpr char kHelp[] =
     "                   what cannot be saved is kept until you say to drop it\n"
     "  --replay FILE    play this record at once\n"
     "  --second-view    play records on a display of their own\n"
+    "  --guest TARGET   send the lines to a guest, too: to the standard input of a command\n"
+    "                   (exec:COMMAND), a socket file (unix:PATH), a port of this machine\n"
+    "                   (tcp:HOST:PORT) or input devices of its kernel (uinput); again and\n"
+    "                   again for several\n"
+    "  --allow-remote   let tcp: lead to other machines, though anybody on the way can read\n"
+    "                   what is typed\n"
     "  --listen NAME    let other instances of yours send their lines to this one; a name is\n"
     "                   a word of letters, digits, - and _\n"
     "  --mirror NAMES   send the lines for the guest to the instances that listen under\n"
@@ -86,7 +95,6 @@ constexpr char kHelp[] =
 const QString kName = QStringLiteral("window");
 
 const QString kJoystick = QStringLiteral("--joystick");
-const QString kGuest = QStringLiteral("--guest");
 const QString kRotation = QStringLiteral("--rotation");
 const QString kPixelRatio = QStringLiteral("--pixel-ratio");
 const QString kBackground = QStringLiteral("--background");
@@ -128,6 +136,7 @@ struct WindowOptions {
   bool has_second_view = false;
   QString listen;  // empty: to nobody
   QStringList mirror;
+  QVector<TargetAddress> targets;
   QString picture;  // empty: none
   int after_ms = kDefaultAfterMs;
 };
@@ -157,10 +166,10 @@ QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
 }
 
 QString ReadDisplay(const ParsedArguments& arguments, WindowOptions* options) {
-  if (const std::optional<GivenArgument> guest = arguments.Find(kGuest)) {
+  if (const std::optional<GivenArgument> size = FindSize(arguments)) {
     options->guest_size = QSize();
-    const bool is_view = guest->value == QLatin1String("view");
-    const QString problem = is_view ? QString() : TakeSize(guest, &*options->guest_size);
+    const bool is_view = size->value == QLatin1String("view");
+    const QString problem = is_view ? QString() : TakeSize(size, &*options->guest_size);
     if (!problem.isEmpty()) return problem;
   }
   const QString rotation = arguments.options.value(kRotation, QStringLiteral("0"));
@@ -212,6 +221,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
     if (!problem.isEmpty()) return problem;
   }
   QString problem = ReadMirrors(arguments, options);
+  if (problem.isEmpty()) problem = TakeTargets(arguments, &options->targets);
   if (problem.isEmpty()) problem = ReadDisplay(arguments, options);
   if (!problem.isEmpty()) return problem;
   options->picture = arguments.options.value(kPicture);
@@ -269,6 +279,15 @@ class InterruptionWatch {
   }
 };
 
+// Whatever way the window goes, the guests that it sent lines to have nothing down after it.
+class TargetsInUse {
+ public:
+  TargetsInUse() = default;
+  ~TargetsInUse() { LiveHost::GetInstance()->Targets()->Close(); }
+  TargetsInUse(const TargetsInUse&) = delete;
+  TargetsInUse& operator=(const TargetsInUse&) = delete;
+};
+
 void StartRecords(const WindowOptions& options, RecordBar* records) {
   if (!options.record.isEmpty()) {
     records->SetTarget(options.record);
@@ -280,6 +299,7 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
 
 int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
   theme::Apply(qApp, options.look);
+  const TargetsInUse targets;  // longer than the window, which lifts what is down at its end
   MainWindow window;
   memory->Restore(&window);
   if (options.guest_size) window.Display()->SetSize(*options.guest_size);
@@ -311,6 +331,7 @@ int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
     }
   }
   window.Mirrors()->MirrorTo(options.mirror);
+  for (const TargetAddress& target : options.targets) window.Targets()->Add(target);
   StartRecords(options, window.Records());
   window.ReadGamepads();
   window.ClearLog();  // what the guest was sent by way of a beginning is no news

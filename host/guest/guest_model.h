@@ -58,11 +58,12 @@ class GuestModel {
   // changes nothing; texts go to whatever display has the focus, which is this one.
   bool ApplyEvent(const QString& event);
   bool ApplyText(const QString& line);
+  // A line of either kind that was taken apart, and is for this display.
+  bool Apply(const GuestLine& line);
 
   const GuestState& state() const { return state_; }
 
  private:
-  bool Apply(const GuestLine& line);
   bool ApplyTouch(const GuestLine& line);
   bool ApplyGamepad(const GuestLine& line);
   bool PutContact(int slot, int tracking_id, const QPoint& point);

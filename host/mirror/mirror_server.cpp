@@ -5,6 +5,7 @@
 #include <QLocalSocket>
 
 #include "host/guest/guest_model.h"
+#include "host/guest/held_input.h"
 #include "host/mirror/mirror_message.h"
 #include "host/mirror/mirror_targets.h"
 #include "taviinputmanager/taviinputmanager.h"
@@ -53,18 +54,7 @@ class MirrorServer::Source {
 
   void ReleaseHeld() {
     const MirrorTargets::Pause pause;
-    const GuestState state = model_.state();  // a copy: each release changes it
-    for (const int slot : state.contacts.keys()) Put(QStringLiteral("SLOTRELEASE:%1\n").arg(slot));
-    for (const int code : state.held_keys) Put(QStringLiteral("KBDRL:%1:0\n").arg(code));
-    const GuestGamepad& pad = state.gamepad;
-    for (const int code : pad.buttons) Put(QStringLiteral("GPDBUTTON:%1:0\n").arg(code));
-    if (!pad.left_stick.isNull()) Put(QStringLiteral("LSTICKAXIS:0:0\n"));
-    if (!pad.right_stick.isNull()) Put(QStringLiteral("RSTICKAXIS:0:0\n"));
-    if (pad.left_trigger != 0) Put(QStringLiteral("LTRIGGERAXIS:0\n"));
-    if (pad.right_trigger != 0) Put(QStringLiteral("RTRIGGERAXIS:0\n"));
-    if (pad.hat.x() != 0) Put(QStringLiteral("HATX:0\n"));
-    if (pad.hat.y() != 0) Put(QStringLiteral("HATY:0\n"));
-    if (pad.touchpad_pressed) Put(QStringLiteral("TOUCHPADRELEASE\n"));
+    for (const QString& line : LiftLines(model_.state())) Put(line + QLatin1Char('\n'));
   }
 
   QLocalSocket* socket_;

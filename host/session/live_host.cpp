@@ -22,6 +22,16 @@ quint64 Pack(const QSize& size) {
 struct LiveHostFunctions : TellingFunctions<LiveHost> {
   static LiveHost* Host() { return LiveHost::GetInstance(); }
 
+  // Targets first: what is shown may take its time.
+  static void SendEvent(const char* data, int length) {
+    Host()->targets_.Send(data, length);
+    TellingFunctions::SendEvent(data, length);
+  }
+  static void SendText(const char* data, int length) {
+    Host()->targets_.Send(data, length);
+    TellingFunctions::SendText(data, length);
+  }
+
   static WindowGeometry GetWindowGeometry() { return Host()->ViewGeometry(); }
   static int GetDisplayRotation() { return Host()->Geometry().rotation; }
   static bool IsTextInputActive() { return Host()->HasTextField(); }
@@ -59,7 +69,10 @@ void LiveHost::Start(Corner corner) {
   InitializeLibrary<LiveHostFunctions>(&table_);
 }
 
-void LiveHost::SetGuestSize(const QSize& size) { guest_size_ = Pack(size); }
+void LiveHost::SetGuestSize(const QSize& size) {
+  guest_size_ = Pack(size);
+  targets_.SetSurface(size);
+}
 
 QSize LiveHost::GuestSize() const {
   const quint64 packed = guest_size_;

@@ -13,6 +13,7 @@
 
 #include "host/session/guest_geometry.h"
 #include "host/session/timeline_entry.h"
+#include "host/target/guest_targets.h"
 #include "taviinputmanager/callbacks.h"
 
 namespace tavi {
@@ -55,6 +56,9 @@ class LiveHost : public QObject {
   void SetTextField(bool focused);
   bool HasTextField() const { return text_field_; }
 
+  // Where the lines go besides. To be closed before the application object goes.
+  GuestTargets* Targets() { return &targets_; }
+
   // Milliseconds since Start.
   qint64 ElapsedMs() const { return clock_.elapsed(); }
 
@@ -84,6 +88,7 @@ class LiveHost : public QObject {
   taviinputmanager::InputManagerCallbacks table_;
   QElapsedTimer clock_;
   Corner corner_;
+  GuestTargets targets_;
   bool text_field_ = false;
   int status_ = 0;
   std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library

@@ -65,6 +65,7 @@ void Mapping::LetGoOfEverything() {
   Replayer::GetInstance()->Stop();
   pads_->ReleaseAll();
   InputPort::GetInstance()->LetGoBy([] { taviinputmanager::UpdateDisplayId(LiveHost::kDisplay); });
+  LiveHost::GetInstance()->Targets()->LiftAll();  // what a reset leaves alone, such as a gamepad's keys
 }
 
 }  // namespace tavi

@@ -31,6 +31,7 @@
 #include "host/window/pointer/pointer_notice.h"
 #include "host/window/records/record_bar.h"
 #include "host/window/records/replay_dock.h"
+#include "host/window/target_button.h"
 #include "host/window/view/gamepad_picture.h"
 #include "host/window/view/guest_display.h"
 #include "host/window/view/guest_frame.h"
@@ -87,6 +88,7 @@ MainWindow::MainWindow()
       keymap_label_(new QLabel),
       state_label_(new QLabel),
       mirrors_(new MirrorLabel(this)),
+      targets_(new TargetButton(LiveHost::GetInstance()->Targets(), this)),
       pad_label_(new QLabel),
       pads_([this](QEvent* event) {
         if (!editor_->TakePad(event)) InputPort::GetInstance()->SendJoystick(event);
@@ -186,12 +188,14 @@ void MainWindow::MakeFullScreen() {
 void MainWindow::MakeStatusBar() {
   connect(mirrors_, &MirrorLabel::Message, this, &MainWindow::Tell);
   connect(mirrors_, &MirrorLabel::Changed, this, &MainWindow::ShowTitle);
+  connect(targets_, &TargetButton::Message, this, &MainWindow::Tell);
   keymap_label_->setMinimumWidth(1);  // a long name must not widen the window
   statusBar()->addWidget(keymap_label_, 1);
   for (QLabel* label : {state_label_, static_cast<QLabel*>(mirrors_), pad_label_}) {
     label->setContentsMargins(0, 0, kLabelGap, 0);
     statusBar()->addPermanentWidget(label);
   }
+  statusBar()->addPermanentWidget(targets_);
   statusBar()->addPermanentWidget(display_->Label());
 }
 

@@ -38,6 +38,7 @@ class MainToolBar;
 class MirrorLabel;
 class RecordBar;
 class ReplayDock;
+class TargetButton;
 
 // The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
 class MainWindow : public QMainWindow {
@@ -75,6 +76,8 @@ class MainWindow : public QMainWindow {
   GuestView* View() const { return view_; }
   GuestDisplay* Display() const { return display_; }
   MirrorLabel* Mirrors() const { return mirrors_; }
+  // The guests that get the lines.
+  TargetButton* Targets() const { return targets_; }
   RecordBar* Records() const { return records_; }
   // Lists the events of the host.
   QAction* EventsShown() const { return events_shown_; }
@@ -159,6 +162,7 @@ class MainWindow : public QMainWindow {
   QLabel* keymap_label_;
   QLabel* state_label_;
   MirrorLabel* mirrors_;
+  TargetButton* targets_;
   QLabel* pad_label_;
   FindingMarks* finding_marks_ = nullptr;
   RecordBar* records_ = nullptr;

@@ -46,7 +46,7 @@ QMap<QString, QString> OptionsOf(const MainWindow& window) {
   return {
       {"joystick", AbsolutePath(window.JoystickKeymapPath())},
       {"background", AbsolutePath(window.Display()->BackgroundFile())},
-      {"guest", follows ? QStringLiteral("view") : QStringLiteral("%1x%2").arg(size.width()).arg(size.height())},
+      {"size", follows ? QStringLiteral("view") : QStringLiteral("%1x%2").arg(size.width()).arg(size.height())},
       {"rotation", QString::number(host->Geometry().rotation)},
       {"pixel-ratio", QString::number(host->PixelRatio())},
       {"look", theme::NameOf(theme::CurrentLook())},

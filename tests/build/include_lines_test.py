@@ -21,7 +21,8 @@ LIBRARY = [
     ["simulators"],
     ["simulators/cast", "simulators/curve", "simulators/gamepad", "simulators/macro", "simulators/tap",
      "simulators/view", "simulators/walk", "simulators/wheel"],
-    ["handlers", "record"],
+    ["handlers", "record/json"],
+    ["record"],
     ["entry"],
 ]
 # Where one gesture asks another: the headers of another family that a family may include.
@@ -41,10 +42,12 @@ ASKS = {
         "simulators/cast/spell_event_simulator.h",  # view control waits for a cast to end
     ],
 }
+# What records are made of, which their text below is written and read by.
+FACE_OF_RECORDS = ["record/record_action.h", "record/record_format.h"]
 # The program's floors. It is a host like any other, and sees of the tree what SEEN_BY_HOST names.
 HOST = [
     ["host/guest", "host/look", "host/system"],
-    ["host/gamepad", "host/mirror", "host/record", "host/uinput"],
+    ["host/gamepad", "host/mirror", "host/record", "host/target"],
     ["host/session"],
     ["host/editor", "host/simulation"],
     ["host/picture"],
@@ -56,7 +59,16 @@ HOST = [
     ["host/command"],
     ["host"],
 ]
-SEEN_BY_HOST = ["include", "keymap"]  # and the face of the keymap library
+SEEN_BY_HOST = ["include", "keymap"]  # and the guest and the face of the keymap library
+# The other side, floor by floor. It knows nothing of the others, and stands on the standard library, the C library and
+# the kernel's headers alone.
+GUEST = [
+    ["guest/line"],
+    ["guest/translation"],
+    ["guest/device"],
+    ["guest"],
+    ["guest/program"],
+]
 # The keymap library's floors. It stands beside the house and knows nothing but the contract.
 KEYMAPS = [
     ["keymap"],
@@ -72,13 +84,13 @@ FACE_OF_KEYMAPS = ["keymapmanager/item_types.h", "keymapmanager/key_names.h", "k
 GROUND = ["include", "keymap"]
 # Other libraries, by the first word of their headers, and who may use them. Tests may use all.
 LIBRARIES = {
-    "Poco/": ["core", "record"],
+    "Poco/": ["core", "record/json"],
     "yaml.h": ["keymapmanager/yaml"],
     "SDL.h": ["host/gamepad"],
-    "libevdev/": ["host/uinput"],
 }
 # Rooms that do without widgets, so that a host without a window has them: headers of Qt that they do not include.
-WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation"]
+WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "host/session", "host/simulation",
+                   "host/target"]
 WIDGETS = re.compile(r"Q(Application|Widget|MainWindow|Dialog|Label|Menu|Action|\w*Button|\w*View|\w*Layout)$")
 WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
@@ -89,7 +101,7 @@ def rooms_of(floors):
     return [room for floor in floors for room in floor]
 
 
-ALL_ROOMS = rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(HOST) + FREE
+ALL_ROOMS = rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(GUEST) + rooms_of(HOST) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -135,11 +147,13 @@ def below(room, floors):
 
 def allowed(room):
     """Rooms and single files that `room` may include, apart from itself."""
+    if room in rooms_of(GUEST):
+        return below(room, GUEST)
     if room in rooms_of(KEYMAPS[1:]):
         return below(room, KEYMAPS) + FACE_OF_KEYMAPS
     if room in rooms_of(HOST):
-        return below(room, HOST) + SEEN_BY_HOST + FACE_OF_KEYMAPS
-    return below(room, LIBRARY) + ASKS.get(room, [])
+        return below(room, HOST) + SEEN_BY_HOST + rooms_of(GUEST) + FACE_OF_KEYMAPS
+    return below(room, LIBRARY) + ASKS.get(room, []) + (FACE_OF_RECORDS if room == "record/json" else [])
 
 
 def may_include(source, target):
@@ -147,6 +161,11 @@ def may_include(source, target):
     if room in FREE:
         return True
     return room_of(target) == room or any(target == entry or room_of(target) == entry for entry in allowed(room))
+
+
+def is_bare(name):
+    """A header of the standard library, the C library or the kernel."""
+    return bool(re.fullmatch(r"[a-z_]+(\.h)?|(linux|sys|netinet|arpa)/[a-z-]+\.h", name)) and not name.startswith("q")
 
 
 def circles(graph):
@@ -173,7 +192,7 @@ class IncludeLines(unittest.TestCase):
 
     def test_every_room_has_files(self):
         files = collections.Counter(os.path.dirname(source) for source in sources())
-        for room in set(rooms_of(LIBRARY) + rooms_of(KEYMAPS) + rooms_of(HOST)) - {"include", "host"}:
+        for room in set(rooms_of(LIBRARY) + rooms_of(KEYMAPS) + rooms_of(GUEST) + rooms_of(HOST)) - {"include", "host"}:
             self.assertGreater(files[room], 1, f"{room} is empty, or too small for a room")
 
     def test_no_folder_is_crowded(self):
@@ -226,6 +245,11 @@ class IncludeLines(unittest.TestCase):
                  and not re.fullmatch(r"Q\w+|q\w+\.h|[a-z_]+", name)]
         self.assertEqual(wrong, [])
 
+    def test_bare_rooms_know_no_qt(self):
+        wrong = [f"{source} includes <{name}>" for source, delimiter, name, target in LINES
+                 if room_of(source) in rooms_of(GUEST) and not target and not is_bare(name)]
+        self.assertEqual(wrong, [])
+
     def test_other_libraries_stay_in_their_rooms(self):
         wrong = [f"{source} includes <{name}>" for source, _, name, _ in LINES
                  for word, rooms in LIBRARIES.items()
@@ -256,11 +280,22 @@ class TheTestItself(unittest.TestCase):
             ("host/window/x.cpp", "keymapmanager/key_names.h", True, "a public header of the keymap library"),
             ("host/window/x.cpp", "keymapmanager/yaml/yaml_node.h", False, "an inner header of the keymap library"),
             ("host/main.cpp", "core/clock.h", False, "a host is a user like any other"),
+            ("host/x.cpp", "guest/uinput_guest.h", True, "a program may hold a guest"),
+            ("guest/x.cpp", "keymap/scan_codes.h", False, "the guest knows nothing of the library"),
+            ("guest/line/x.cpp", "host/guest/guest_line.h", False, "nor of the program"),
+            ("guest/line/x.cpp", "guest/device/y.h", False, "upwards"),
+            ("record/x.cpp", "guest/line/guest_line.h", False, "nor does the library know the guest"),
             ("host/session/x.cpp", "host/window/view/y.h", False, "a host without a window shares the session"),
             ("host/window/view/x.cpp", "host/session/y.h", True, "downwards"),
         ]
         for source, target, expected, why in rows:
             self.assertEqual(may_include(source, target), expected, f"{source} -> {target}: {why}")
+
+    def test_bare_names(self):
+        for name in ("string", "unistd.h", "linux/input-event-codes.h", "sys/socket.h"):
+            self.assertTrue(is_bare(name), name)
+        for name in ("QString", "QtGlobal", "qglobal.h", "libevdev/libevdev.h", "SDL.h", "yaml-cpp/yaml.h"):
+            self.assertFalse(is_bare(name), name)
 
     def test_circles(self):
         self.assertEqual(circles({"a": ["b"], "b": ["c"], "c": ["a"]}), [["a", "b", "c", "a"]])

@@ -100,6 +100,31 @@ TEST_F(FileReplacement, AFullDiskLeavesTheOldFile) {
   EXPECT_EQ("record", Names().join(' ').toStdString()) << "half a file beside it is removed";
 }
 
+// As a full disk does.
+TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
+  const FileContent half = [](QIODevice* target) {
+    target->write("half");
+    return false;
+  };
+  const QString file = Put("record", "before");
+  EXPECT_TRUE(ReplaceFile(file, half));
+  EXPECT_TRUE(ReplaceFile(Path("new"), half));
+  EXPECT_EQ("before", Bytes(file));
+  EXPECT_EQ("record", Names().join(' ').toStdString());
+}
+
+// It is read before the file is cut, also where no copy can be beside it: one would have a longer name, and no file
+// has.
+TEST_F(FileReplacement, AContentMayBeMadeOfTheFileItself) {
+  for (const QString& file : {Put("record", "before"), Put(QString(255, 'n'), "before")}) {
+    EXPECT_TRUE(ReplaceFile(file, [&](QIODevice* target) {
+      const QByteArray twice = Bytes(file).repeated(2);
+      return target->write(twice) == twice.size();
+    }));
+    EXPECT_EQ("beforebefore", Bytes(file));
+  }
+}
+
 TEST_F(FileReplacement, AFullDiskMakesNoHalfAFile) {
   {
     const FullDisk full(64);

@@ -141,7 +141,7 @@ class BashCompletion(Completion):
         self.assertEqual(self.offered("window", "--replay", "=", "w"), ["walk.json"])
 
     def test_sizes(self):
-        self.assertIn("1920x1080", self.offered("window", "--guest", ""))
+        self.assertIn("1920x1080", self.offered("window", "--size", ""))
 
     def test_nothing_for_a_number(self):
         self.assertEqual(self.offered("record", "merge", "walk.json", "--times", ""), [])

@@ -58,8 +58,16 @@ TEST_F(Program, RefusesWhatItDoesNotKnow) {
        {"window", "--joystick", "none.yaml"},
        "tavi window: no such file: none.yaml\nTry \"tavi window --help\".\n"},
       {"window of no size",
+       {"window", "--size", "wide"},
+       "tavi window: --size needs a size such as 1280x720, not \"wide\"\nTry \"tavi window --help\".\n"},
+      {"window with no guest",
        {"window", "--guest", "wide"},
-       "tavi window: --guest needs a size such as 1280x720, not \"wide\"\nTry \"tavi window --help\".\n"},
+       "tavi window: --guest: a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"wide\"\nTry \"tavi "
+       "window --help\".\n"},
+      {"window with a guest elsewhere",
+       {"window", "--guest", "exec:cat", "--guest", "tcp:10.0.0.1:7000"},
+       "tavi window: --guest: 10.0.0.1 is another machine, and anybody on the way there can read what is typed; "
+       "--allow-remote allows it\nTry \"tavi window --help\".\n"},
       {"a time of no picture",
        {"window", "--after", "5"},
        "tavi window: --after goes with --picture\nTry \"tavi window --help\".\n"},

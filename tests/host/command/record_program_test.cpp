@@ -56,8 +56,15 @@ TEST_F(RecordProgram, RefusesWhatItDoesNotKnow) {
        {"record", "play", "a", "--speed", "0"},
        "tavi record play: --speed needs a number above 0, not \"0\"\nTry \"tavi record play --help\".\n"},
       {"play for no display",
-       {"record", "play", "a", "--guest", "big"},
-       "tavi record play: --guest needs a size such as 1280x720, not \"big\"\nTry \"tavi record play --help\".\n"},
+       {"record", "play", "a", "--size", "big"},
+       "tavi record play: --size needs a size such as 1280x720, not \"big\"\nTry \"tavi record play --help\".\n"},
+      {"play for no guest",
+       {"record", "play", "a", "--live", "--guest", "big"},
+       "tavi record play: --guest: a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"big\"\nTry "
+       "\"tavi record play --help\".\n"},
+      {"play for a guest without time",
+       {"record", "play", "a", "--guest", "exec:cat"},
+       "tavi record play: a guest goes with --live\nTry \"tavi record play --help\".\n"},
       {"merge without target",
        {"record", "merge", "a"},
        "tavi record merge: -o FILE is missing\nTry \"tavi record merge --help\".\n"},
@@ -178,7 +185,7 @@ TEST_F(RecordProgram, PlayFitsSpeedAndDisplay) {
   EXPECT_EQ(Lines(Run({"record", "play", "tap.json"}).output, "PRESS"),
             QStringList{"40ms 1:SLOTPRESS:18:18:1:1:1000:500"});
   // 40 / 4 = 10
-  EXPECT_EQ(Lines(Run({"record", "play", "--speed", "4", "--guest", "100x60", "tap.json"}).output, "PRESS"),
+  EXPECT_EQ(Lines(Run({"record", "play", "--speed", "4", "--size", "100x60", "tap.json"}).output, "PRESS"),
             QStringList{"10ms 1:SLOTPRESS:18:18:1:1:50:30"});
 }
 
@@ -225,6 +232,46 @@ TEST_F(RecordProgram, PlayRunsOnTheRealClockToo) {
   const Outcome outcome = Run({"record", "play", "--live", "--speed", "10", "tap.json"});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(Lines(outcome.output, "SLOTPRESS:18:18:1:1:640:360").size(), 1);
+  EXPECT_EQ(Lines(outcome.output, "replay finished").size(), 1);
+}
+
+// The lines of a timeline as the library sent them.
+QByteArray SentBytes(const QString& timeline) {
+  QByteArray bytes;
+  for (QString line : timeline.split('\n', Qt::SkipEmptyParts)) {
+    line.remove(0, line.indexOf(' ') + 1);  // the time
+    const QString text = QStringLiteral("text ");
+    if (line.startsWith("! ")) continue;
+    const bool is_text = line.startsWith(text);
+    if (is_text) line = line.mid(text.size()).replace("\\n", "\n");
+    bytes += line.toUtf8() + (is_text ? '\0' : '\n');
+  }
+  return bytes;
+}
+
+TEST_F(RecordProgram, PlaySendsToGuestsWhatItPlays) {
+  Write("typed.json", WithActions(R"~({"timing": 40, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "11"},
+      {"timing": 80, "type": "touch", "data": "release", "extra1": "11"},
+      {"timing": 10, "type": "input_method", "data": "text_inject:a\nb:c"},
+      {"timing": 10, "type": "keyboard", "data": "press:42"},
+      {"timing": 10, "type": "keyboard", "data": "release:42"},
+      {"timing": 100, "type": "pause"})~")
+                          .constData());
+  const QByteArray expected = SentBytes(Run({"record", "play", "typed.json"}).output);
+  ASSERT_TRUE(expected.contains(QByteArray("TEXT:a\nb:c\0", 11))) << expected.toStdString();
+  const Outcome outcome = Run({"record", "play", "--live", "typed.json", "--guest", "exec:cat > first.lines", "--guest",
+                               "exec:cat > second.lines"});
+  EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+  EXPECT_EQ(Content("first.lines"), SentBytes(outcome.output));
+  EXPECT_EQ(Content("second.lines"), SentBytes(outcome.output));
+  EXPECT_EQ(Content("first.lines"), expected);
+}
+
+TEST_F(RecordProgram, PlayTellsOfAGuestThatIsNotThere) {
+  WriteTap("tap.json");
+  const Outcome outcome = Run({"record", "play", "--live", "tap.json", "--guest", "unix:none"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.errors, QString("tavi record play: No lines go to unix:none: there is no such socket\n"));
   EXPECT_EQ(Lines(outcome.output, "replay finished").size(), 1);
 }
 

@@ -8,8 +8,8 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include "guest/line/timeline_line.h"
 #include "host/simulation/virtual_event_dispatcher.h"
-#include "host/uinput/timeline_line.h"
 
 namespace tavi {
 namespace {
@@ -113,7 +113,7 @@ TEST_F(LineLogTest, WhatIsCopiedIsATimelineThatCanBePlayed) {
   Shown();
   Push(QStringLiteral("Copy"));
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "8ms 1:KBDPR:158:1\n1234ms text TEXT:a\\nb\n");
-  const auto line = ReadTimelineLine(QStringLiteral("8ms 1:KBDPR:158:1"));
+  const auto line = taviguest::ReadTimelineLine("8ms 1:KBDPR:158:1");
   ASSERT_TRUE(line);
   EXPECT_EQ(line->ms, 8);
   Push(QStringLiteral("Clear"));

@@ -136,7 +136,7 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
   WindowMemory memory(File());
   memory.Save(*Window());
   EXPECT_EQ(memory.Keymap(), folder_.filePath("keymap.yaml"));
-  EXPECT_EQ(memory.Options(), (QMap<QString, QString>{{"--guest", "720x1280"},
+  EXPECT_EQ(memory.Options(), (QMap<QString, QString>{{"--size", "720x1280"},
                                                       {"--joystick", folder_.filePath("joystick.yaml")},
                                                       {"--look", "desktop"},
                                                       {"--panic-key", "Ctrl+Alt+Backspace"},
@@ -146,7 +146,7 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
                                                       {"--rotation", "90"}}));
   Window()->Display()->SetSize(QSize());
   memory.Save(*Window());
-  EXPECT_EQ(memory.Options()["--guest"], "view");
+  EXPECT_EQ(memory.Options()["--size"], "view");
 }
 
 TEST_F(WindowMemoryTest, FilesThatAreGoneAreForgotten) {

@@ -101,15 +101,32 @@ TEST_F(WindowProgram, ASignalEndsItInOrder) {
   }
 }
 
+TEST_F(WindowProgram, ASignalLiftsWhatItsGuestsHaveDown) {
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+    SCOPED_TRACE(number);
+    said_.clear();
+    socket_ = nullptr;
+    StartWithAFingerDown({"--guest", "exec:cat > '" + Path("lines") + "'"});
+    EXPECT_EQ(EndBy(number), 128 + number);
+    QFile lines(Path("lines"));
+    ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
+    const QByteArray got = lines.readAll();
+    const int down = got.indexOf("1:SLOTPRESS:18:18:1:1:640:360\n");
+    EXPECT_GE(down, 0);
+    EXPECT_GT(got.indexOf("1:SLOTRELEASE", down), down) << got.toStdString();
+    EXPECT_TRUE(got.endsWith('\n'));
+  }
+}
+
 TEST_F(WindowProgram, ItRemembersUnlessItIsFresh) {
   const QString file = Path("config/tavi/window.ini");
-  StartWithAFingerDown({"--fresh", "--guest", "800x600"});
+  StartWithAFingerDown({"--fresh", "--size", "800x600"});
   EndBy(SIGTERM);
   EXPECT_FALSE(QFileInfo::exists(file));
   socket_ = nullptr;
   said_.clear();
-  StartWithAFingerDown({"--guest", "800x600"});
-  EXPECT_TRUE(HasSaid(":400:300"));  // the middle
+  StartWithAFingerDown({"--guest", "800x600"});  // as --size was called once
+  EXPECT_TRUE(HasSaid(":400:300"));              // the middle
   EndBy(SIGTERM);
   EXPECT_TRUE(QFileInfo::exists(file));
   socket_ = nullptr;

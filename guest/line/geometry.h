@@ -1,0 +1,26 @@
+// Places on the guest's touch surface, in touch coordinates.
+#ifndef GUEST_LINE_GEOMETRY_H_
+#define GUEST_LINE_GEOMETRY_H_
+
+#include <algorithm>
+
+namespace taviguest {
+
+struct Point {
+  int x = 0;
+  int y = 0;
+};
+
+struct Size {
+  int width = 0;
+  int height = 0;
+};
+
+// The nearest place of the surface: positions up to and beyond its edge may come.
+inline Point PlaceOnSurface(const Point& place, const Size& surface) {
+  return {std::clamp(place.x, 0, surface.width - 1), std::clamp(place.y, 0, surface.height - 1)};
+}
+
+}  // namespace taviguest
+
+#endif  // GUEST_LINE_GEOMETRY_H_

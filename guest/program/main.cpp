@@ -1,0 +1,33 @@
+// The program tavi-guest: the guest's side alone, for phones, containers and other machines.
+#include "guest/program/exit_status.h"
+#include "guest/program/guest_program.h"
+#include "guest/program/output.h"
+
+namespace {
+
+constexpr taviguest::ProgramPage kPage = {
+    "tavi-guest",
+    "a touch screen, a keyboard and a pointer, and a gamepad and a touchpad\n"
+    "when a line needs one. It tells where they are and keeps them until the lines end.\n"
+    "What reads the devices takes what they do for its user's doing.\n",
+    "  --gamepad      the gamepad from the start\n"
+    "  --touchpad     the touchpad from the start\n",
+    "printf '1:KBDPR:30:1\\n1:KBDRL:30:0\\n' | tavi-guest --dry-run\n"};
+
+int FailUsage(const taviguest::Output& output, const std::string& error) {
+  output.Tell(error + "\nTry \"tavi-guest --help\".");
+  return taviguest::kExitUsage;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  taviguest::Output output(kPage.name);
+  const taviguest::ProgramOptions options = taviguest::ReadProgramOptions({argv + 1, argv + argc});
+  if (options.is_help) {
+    output.Print("tavi-guest - plays guest lines on kernel input devices\n\n" + taviguest::HelpPage(kPage));
+    return output.Finish(taviguest::kExitDone);
+  }
+  if (!options.error.empty()) return FailUsage(output, options.error);
+  return taviguest::RunGuestProgram(kPage.name, options);
+}

@@ -1,0 +1,33 @@
+// For the static programs alone, which are built without exceptions and have to be small: what the standard library
+// does where it would throw is to end the program. Its own ways bring the machinery of exceptions along, a hundred
+// kilobytes that nothing here can use; that goes for its copies of the string's functions, too, so there are some of
+// our own.
+#include <cstdlib>
+#include <new>
+#include <string>
+
+template class std::basic_string<char>;
+
+void* operator new(size_t size) {
+  void* memory = std::malloc(size);
+  if (!memory) std::abort();
+  return memory;
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+
+void operator delete(void* memory, size_t /*size*/) noexcept { std::free(memory); }
+
+// NOLINTBEGIN(readability-identifier-naming): the names are the library's
+namespace std {
+
+void __throw_bad_alloc() { std::abort(); }
+void __throw_bad_array_new_length() { std::abort(); }
+void __throw_bad_function_call() { std::abort(); }
+void __throw_length_error(const char* /*what*/) { std::abort(); }
+void __throw_logic_error(const char* /*what*/) { std::abort(); }
+void __throw_out_of_range(const char* /*what*/) { std::abort(); }
+void __throw_out_of_range_fmt(const char* /*what*/, ...) { std::abort(); }
+
+}  // namespace std
+// NOLINTEND(readability-identifier-naming)

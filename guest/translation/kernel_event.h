@@ -1,0 +1,34 @@
+// One input event as the kernel knows it, and the device that it is of.
+#ifndef GUEST_TRANSLATION_KERNEL_EVENT_H_
+#define GUEST_TRANSLATION_KERNEL_EVENT_H_
+
+#include <string>
+#include <vector>
+
+namespace taviguest {
+
+// The devices that guest lines are played on.
+enum class KernelDevice { kScreen, kKeyboard, kPointer, kGamepad, kTouchpad };
+
+constexpr KernelDevice kKernelDevices[] = {KernelDevice::kScreen, KernelDevice::kKeyboard, KernelDevice::kPointer,
+                                           KernelDevice::kGamepad, KernelDevice::kTouchpad};
+
+// Type, code and value are those of `struct input_event`.
+struct KernelEvent {
+  KernelDevice device = KernelDevice::kScreen;
+  int type = 0;
+  int code = 0;
+  int value = 0;
+};
+
+// In order of writing. The events of one moment end in a SYN_REPORT of their device.
+using KernelEvents = std::vector<KernelEvent>;
+
+void Append(const KernelEvents& more, KernelEvents* events);
+
+// "screen EV_ABS ABS_MT_SLOT 11". A code that the kernel has no name for stands as its number.
+std::string KernelEventText(const KernelEvent& event);
+
+}  // namespace taviguest
+
+#endif  // GUEST_TRANSLATION_KERNEL_EVENT_H_

@@ -1,0 +1,33 @@
+// One copy of a text for all who have it.
+#ifndef RECORD_JSON_SHARED_TEXTS_H_
+#define RECORD_JSON_SHARED_TEXTS_H_
+
+#include <array>
+#include <string_view>
+
+#include <QString>
+
+namespace taviinputmanager {
+
+// The texts that came last, by a few of their letters: most actions have the type, the slot and the word of one a
+// little before. A record of any length and kind takes no more time or memory here than another.
+class SharedTexts {
+ public:
+  // ASCII as a text.
+  QString Of(std::string_view ascii);
+  // The same text, shared with an equal one.
+  QString Of(const QString& text);
+
+ private:
+  static constexpr std::size_t kMostShared = 16;  // letters; longer ones are hardly ever equal
+  static constexpr std::size_t kPlaces = 512;
+
+  template <typename Text>
+  QString& PlaceOf(const Text& text);
+
+  std::array<QString, kPlaces> places_;
+};
+
+}  // namespace taviinputmanager
+
+#endif  // RECORD_JSON_SHARED_TEXTS_H_
