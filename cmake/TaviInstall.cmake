@@ -91,8 +91,8 @@ tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapma
 # nothing that is not installed. What players and authors of keymaps read comes with the program.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/taviinputmanager)
 set(examples_for_tools keymaps records scripts tutorial)
-set(documents_for_tools play window guest-protocol editor tutorial keymap macros scripts record-format keymap.schema
-  record.schema)
+set(documents_for_tools
+  glossary play window guest-protocol editor tutorial keymap macros scripts record-format keymap.schema record.schema)
 list(JOIN documents_for_tools "|" documents_for_tools)
 foreach(folder IN LISTS examples_for_tools)
   install(DIRECTORY examples/${folder} DESTINATION ${doc_dir}/examples COMPONENT tools)

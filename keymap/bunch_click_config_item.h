@@ -1,4 +1,4 @@
-// Rapid taps on one point: type "BunchClick".
+// Type "BunchClick": rapid taps on one point.
 #ifndef KEYMAP_BUNCH_CLICK_CONFIG_ITEM_H_
 #define KEYMAP_BUNCH_CLICK_CONFIG_ITEM_H_
 
@@ -7,9 +7,9 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD BunchClickConfigItem : ComposableConfigItem {
-  QString bunch_mode;        // "Continue" while the key is held; "One_Off", a run of taps when it comes up
-  int bunch_frequency = 10;  // taps per second
-  int bunch_count = 1;       // taps of a one-off run
+  QString bunch_mode;        // "Continue": while the key is held; "One_Off": a fixed number when it is released
+  int bunch_frequency = 10;  // taps per second, for "Continue"
+  int bunch_count = 1;       // number of taps, for "One_Off"
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// An item whose key may need another key held before it.
+// An item whose key may require that another key is held.
 #ifndef KEYMAP_COMPOSABLE_CONFIG_ITEM_H_
 #define KEYMAP_COMPOSABLE_CONFIG_ITEM_H_
 
@@ -6,9 +6,9 @@
 
 namespace tavikeymapmanager {
 
-// Base of every item with one key. While `first_key` is set, the item answers only as a chord.
+// The base of all items with one key. If `first_key` is set, only the chord triggers the item.
 struct TAVI_KEYMAP_RECORD ComposableConfigItem : ConfigItem {
-  // Whether `armed`, held and taken by nothing, and then `pressed` make this item's chord.
+  // Whether this is the item's chord: `pressed` went down while `armed`, which no item had taken, is held.
   virtual bool IsChordMatch(const ConfigKey& armed, const ConfigKey& pressed) const {
     return IsSameKey(first_key, armed) && IsSameKey(key, pressed);
   }

@@ -1,4 +1,4 @@
-// One entry of a keymap: a key and what it does to the guest.
+// One entry of a keymap: a key and what it does in the guest.
 #ifndef KEYMAP_CONFIG_ITEM_H_
 #define KEYMAP_CONFIG_ITEM_H_
 
@@ -10,8 +10,8 @@ namespace tavikeymapmanager {
 
 // The base of all items, and the item of type "Click".
 //
-// Points are fractions of the display, x of its width and y of its height; times are in milliseconds. Records are
-// plain: a loader fills the fields, the input layer reads them. Items are owned by their KeymapConfig.
+// Points are fractions of the display: x of its width, y of its height. Times are in milliseconds. Records are plain
+// structs: a loader fills in the fields, the input layer reads them. An item belongs to its KeymapConfig.
 struct TAVI_KEYMAP_RECORD ConfigItem {
   ConfigItem() = default;
   ConfigItem(const ConfigItem&) = default;
@@ -21,10 +21,10 @@ struct TAVI_KEYMAP_RECORD ConfigItem {
   // Whether `pressed` is this item's key.
   virtual bool IsKeyMatch(const ConfigKey& pressed) const { return IsSameKey(key, pressed); }
 
-  QString type;      // keywords::kType...; an item of any other type does nothing
-  double rel_x = 0;  // the item's point
-  double rel_y = 0;  // the same
-  ConfigKey key;     // unset in items that have four keys
+  QString type;      // one of keywords::kType...; an item of any other type does nothing
+  double rel_x = 0;  // the item's point, fraction of the display's width
+  double rel_y = 0;  // fraction of its height
+  ConfigKey key;     // unset in items with four keys
 };
 
 }  // namespace tavikeymapmanager

@@ -12,7 +12,7 @@
 
 namespace tavikeymapmanager {
 
-// A code that is not known.
+// The value of an unknown code.
 constexpr int kUnsetCode = 0x7FFFFFFF;
 
 struct TAVI_KEYMAP_RECORD ConfigKey {
@@ -20,35 +20,35 @@ struct TAVI_KEYMAP_RECORD ConfigKey {
   QString text;                  // the key's name; identifies the key on a joystick
   int virtual_key = kUnsetCode;  // platform virtual key code
   int scancode = kUnsetCode;     // native scan code, button value or wheel direction; identifies the key elsewhere
-  qint64 user_data = 0;          // for a loader's own use: copied along, never read by the input layer
+  qint64 user_data = 0;          // for the loader's own use: copied with the key, never read by the input layer
   int user_flags = 0;            // the same
 };
 
-// As operator==, which is a call into Qt; most texts here differ in length or share their data.
+// Like operator==, without its call into Qt. Most texts here differ in length or share their data.
 inline bool IsSameText(const QString& a, const QString& b) {
   if (a.size() != b.size()) return false;
   const QChar* const of_a = a.constData();
   const QChar* const of_b = b.constData();
   if (of_a == of_b) return true;
-  constexpr int kUsual = 8;  // "keyboard" and "joystick": a length that is known is compared in place
+  constexpr int kUsual = 8;  // of "keyboard" and "joystick": memcmp of a constant length is inlined
   if (a.size() == kUsual) return std::memcmp(of_a, of_b, kUsual * sizeof(QChar)) == 0;
   return std::memcmp(of_a, of_b, static_cast<std::size_t>(a.size()) * sizeof(QChar)) == 0;
 }
 
-// Its keys go by their names.
+// Whether the key is one of a gamepad, whose keys are identified by name.
 inline bool IsJoystickKey(const ConfigKey& key) {
-  constexpr QChar kInitial = QLatin1Char('j');  // no other device has it
+  constexpr QChar kInitial = QLatin1Char('j');  // no other device starts with it
   return !key.device.isEmpty() && *key.device.constData() == kInitial &&
          IsSameText(key.device, keywords::kDeviceJoystick);
 }
 
-// Key identity: a joystick's keys are told apart by name, those of any other device by scan code.
+// Key identity: keys of a joystick are compared by name, those of other devices by scan code.
 inline bool IsSameKey(const ConfigKey& a, const ConfigKey& b) {
   const bool is_same = IsJoystickKey(a) ? IsSameText(a.text, b.text) : a.scancode == b.scancode;
   return is_same && IsSameText(a.device, b.device);
 }
 
-// Whether the record names a key at all.
+// Whether the record identifies a key.
 inline bool IsKeySet(const ConfigKey& key) {
   if (key.device.isEmpty()) return false;
   if (IsJoystickKey(key)) return !key.text.isEmpty();

@@ -1,4 +1,4 @@
-// A finger that follows a stored list of points: type "Curve".
+// Type "Curve": a contact follows a stored list of points.
 #ifndef KEYMAP_CURVE_CONFIG_ITEM_H_
 #define KEYMAP_CURVE_CONFIG_ITEM_H_
 
@@ -9,11 +9,11 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD CurveConfigItem : ComposableConfigItem {
-  QPointF curve_start;           // start of a generated straight curve, an offset from the item's point
-  QPointF curve_end;             // its end, the same
+  QPointF curve_start;           // start of a generated straight line, an offset from the item's point
+  QPointF curve_end;             // its end, likewise
   QString curve_points;          // "x,y;x,y;...", offsets from the item's point
-  bool curve_straight = false;   // generate the list from the two ends
-  int curve_first_delay_ms = 0;  // below 1: 8 ms
+  bool curve_straight = false;   // generate the points from the two ends
+  int curve_first_delay_ms = 0;  // from the press to the first point; below 1: 8 ms
 };
 
 }  // namespace tavikeymapmanager

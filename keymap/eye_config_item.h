@@ -1,4 +1,4 @@
-// The view turned by four keys: type "Eye". The base's point is the finger's home.
+// Type "Eye": four keys turn the view. The item's point is where the contact starts.
 #ifndef KEYMAP_EYE_CONFIG_ITEM_H_
 #define KEYMAP_EYE_CONFIG_ITEM_H_
 
@@ -10,11 +10,11 @@ namespace tavikeymapmanager {
 struct TAVI_KEYMAP_RECORD EyeConfigItem : ConfigItem {
   bool IsKeyMatch(const ConfigKey& pressed) const override { return IsDirectionKeyMatch(*this, pressed); }
 
-  ConfigKey key_up;     // of the direction up; unset, here and below: that direction has no key
-  ConfigKey key_right;  // of the direction right
-  ConfigKey key_down;   // of the direction down
-  ConfigKey key_left;   // of the direction left
-  int speed = 100;      // per cent; 100 is 8 display pixels each 8 ms
+  ConfigKey key_up;     // up; unset, here and below: this direction has no key
+  ConfigKey key_right;  // right
+  ConfigKey key_down;   // down
+  ConfigKey key_left;   // left
+  int speed = 100;      // per cent; 100 is 8 display pixels every 8 ms
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// The matching of items that have four direction keys in place of one key.
+// The matching of items with four direction keys instead of one key.
 #ifndef KEYMAP_FOUR_KEY_MATCH_H_
 #define KEYMAP_FOUR_KEY_MATCH_H_
 

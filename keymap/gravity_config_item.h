@@ -1,4 +1,4 @@
-// The guest's gravity sensor tilted by four keys: type "Gravity".
+// Type "Gravity": four keys tilt the guest's gravity sensor.
 #ifndef KEYMAP_GRAVITY_CONFIG_ITEM_H_
 #define KEYMAP_GRAVITY_CONFIG_ITEM_H_
 
@@ -10,11 +10,11 @@ namespace tavikeymapmanager {
 struct TAVI_KEYMAP_RECORD GravityConfigItem : ConfigItem {
   bool IsKeyMatch(const ConfigKey& pressed) const override { return IsDirectionKeyMatch(*this, pressed); }
 
-  ConfigKey key_up;     // of the direction up; unset, here and below: that direction has no key
-  ConfigKey key_right;  // of the direction right
-  ConfigKey key_down;   // of the direction down
-  ConfigKey key_left;   // of the direction left
-  int speed = 100;      // per cent of how fast the tilt grows
+  ConfigKey key_up;     // up; unset, here and below: this direction has no key
+  ConfigKey key_right;  // right
+  ConfigKey key_down;   // down
+  ConfigKey key_left;   // left
+  int speed = 100;      // how fast the tilt grows, in per cent
 };
 
 }  // namespace tavikeymapmanager

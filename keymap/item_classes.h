@@ -1,4 +1,4 @@
-// The classes of the contract, and what each is matched by.
+// The item classes of the contract, and the keys that each is matched by.
 #ifndef KEYMAP_ITEM_CLASSES_H_
 #define KEYMAP_ITEM_CLASSES_H_
 
@@ -38,7 +38,7 @@ bool IsExactlyOneOf(const ConfigItem& item) {
   return ((type == typeid(Classes)) || ...);
 }
 
-// Whether `item` is of a class of the contract, not of one that derives from it: its matching is then known.
+// Whether `item` is exactly of a class of the contract and not of a derived one, so that its matching is known.
 inline bool IsContractClass(const ConfigItem& item) {
   return IsExactlyOneOf<ConfigItem, ComposableConfigItem, BunchClickConfigItem, CurveConfigItem, EyeConfigItem,
                         FireConfigItem, GravityConfigItem, JoystickLeftWalkConfigItem, JoystickRightEyeConfigItem,
@@ -56,7 +56,7 @@ ItemKeys FourKeysOf(const ConfigItem& item) {
   return {&four.key_up, &four.key_right, &four.key_down, &four.key_left};
 }
 
-// The keys that an item of the contract's classes answers to, a Tip apart. Valid for as long as the item.
+// The keys that trigger an item of a contract class other than TipConfigItem. Valid for as long as the item.
 inline ItemKeys KeysOf(const ConfigItem& item) {
   if (IsExactlyOneOf<SwipeholdConfigItem>(item)) return FourKeysOf<SwipeholdConfigItem>(item);
   if (IsExactlyOneOf<EyeConfigItem>(item)) return FourKeysOf<EyeConfigItem>(item);

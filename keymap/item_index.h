@@ -1,4 +1,4 @@
-// Finds the items of a keymap by their keys without walking the list.
+// Finds the items of a keymap by their keys without a linear search.
 #ifndef KEYMAP_ITEM_INDEX_H_
 #define KEYMAP_ITEM_INDEX_H_
 
@@ -14,26 +14,26 @@
 
 namespace tavikeymapmanager {
 
-// Answers as a walk over the list would, in its order. Items that are exactly of a class of the contract are found by
-// their keys as these were when the index was made. An item of any other class has a matching of its own: it keeps its
-// place in the list, and is asked at each search that comes that far. A Tip answers to no key, whatever its class.
+// Gives the same results as a linear search of the list, in its order. Items that are exactly of a contract class are
+// found by the keys that they had when the index was made. An item of any other class has its own matching: it keeps
+// its position in the list, and each search that gets that far calls it. A Tip never matches, whatever its class.
 //
-// Items and list are not owned; the items must live for as long as they are searched. Main thread.
+// Owns neither the items nor the list. The items must live for as long as they are searched. Main thread.
 class ItemIndex {
  public:
-  // Makes the index of `items`, unless it is that of the same, unchanged list already.
+  // Builds the index of `items`, unless it already is that of the same, unchanged list.
   void Follow(const QList<ConfigItem*>& items) {
     if (!items_.isSharedWith(items)) Make(items);
   }
   void Clear() { *this = ItemIndex(); }
 
-  // The first item that answers to `key` alone, or null.
+  // The first item that `key` alone triggers, or null.
   ConfigItem* FindAlone(const ConfigKey& key) const {
     const Entry* entry = FirstAloneEntry(key);
     return strangers_.empty() ? ItemOf(entry) : FindAloneAmongStrangers(key, entry);
   }
 
-  // The first item that answers to the chord of `armed` and then `pressed`, or null.
+  // The first item that the chord of `armed` and then `pressed` triggers, or null.
   ConfigItem* FindChord(const ConfigKey& armed, const ConfigKey& pressed) const {
     const Entry* entry = FirstChordEntry(armed, pressed);
     for (const Stranger& stranger : strangers_) {
@@ -43,8 +43,8 @@ class ItemIndex {
     return ItemOf(entry);
   }
 
-  // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`. Unlike the
-  // searches it goes by the keys as they are now.
+  // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item. Unlike the searches,
+  // this uses the keys as they are now.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }
@@ -54,16 +54,16 @@ class ItemIndex {
   struct Entry {
     ConfigItem* item;
     const ConfigKey* key;
-    const ConfigKey* first_key;  // of a ComposableConfigItem, set or not; else null
+    const ConfigKey* first_key;  // of a ComposableConfigItem, set or not; otherwise null
     int position;                // in the list
     bool is_chord;               // `first_key` is set
-    int next;                    // of the same bucket, further back in the list; -1 at the end
+    int next;                    // next entry in the bucket, further back in the list; -1 at the end
   };
 
-  // An item with a matching of its own.
+  // An item with its own matching.
   struct Stranger {
     ConfigItem* item;
-    const ComposableConfigItem* composable;  // the same, or null
+    const ComposableConfigItem* composable;  // the same item, or null
     int position;
 
     bool IsChord() const { return composable && IsKeySet(composable->first_key); }
@@ -71,10 +71,10 @@ class ItemIndex {
 
   static ConfigItem* ItemOf(const Entry* entry) { return entry ? entry->item : nullptr; }
 
-  // What seldom happens stays out of the way of each event: a key of no item is told by its empty bucket.
+  // Rare work stays out of the hot path: a key without an item is recognised by its empty bucket.
   Q_NEVER_INLINE void Make(const QList<ConfigItem*>& items) {
     Clear();
-    items_ = items;  // shared: from now on nobody changes the list without a copy
+    items_ = items;  // shared: any later change of the list makes a copy
     for (int i = 0; i < items_.size(); ++i) Add(items_.at(i), i);
     Link();
   }
@@ -95,9 +95,9 @@ class ItemIndex {
     });
   }
 
-  // False where no entry's key can be either of the two.
+  // False if no entry's key can be either of the two.
   bool MayMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (IsJoystickKey(configured) || IsJoystickKey(pressed)) return true;  // goes by its name
+    if (IsJoystickKey(configured) || IsJoystickKey(pressed)) return true;  // compared by name
     const int first = configured.scancode;
     const int second = pressed.scancode;
     return std::any_of(keys_.begin(), keys_.end(), [first, second](const ConfigKey* key) {
@@ -107,13 +107,13 @@ class ItemIndex {
 
   static unsigned HashOf(const ConfigKey& key) {
     if (IsJoystickKey(key)) return qHash(key.text);
-    constexpr unsigned kSpread = 0x9E3779B1U;  // 2^32 over the golden ratio: codes side by side end up far apart
+    constexpr unsigned kSpread = 0x9E3779B1U;  // 2^32 divided by the golden ratio: spreads adjacent codes
     const unsigned spread = static_cast<unsigned>(key.scancode) * kSpread;
     return spread ^ (spread >> 15U);
   }
 
   void Add(ConfigItem* item, int position) {
-    if (!item || dynamic_cast<const TipConfigItem*>(item)) return;  // a label answers to no key
+    if (!item || dynamic_cast<const TipConfigItem*>(item)) return;  // a label matches no key
     const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
     if (!IsContractClass(*item)) return strangers_.push_back({item, composable, position});
     const ConfigKey* first_key = composable ? &composable->first_key : nullptr;
@@ -125,7 +125,7 @@ class ItemIndex {
     }
   }
 
-  // From the back, so that each bucket is in the order of the list.
+  // From the end, so that each bucket is in list order.
   void Link() {
     std::size_t size = 1;
     while (size < 2 * entries_.size()) size *= 2;
@@ -137,11 +137,11 @@ class ItemIndex {
     }
   }
 
-  // Of the bucket of `key`; kNone when no item has a key there.
+  // The first entry in the bucket of `key`; kNone if it is empty.
   int HeadOf(const ConfigKey& key) const {
     return buckets_.empty() ? kNone : buckets_[HashOf(key) & (buckets_.size() - 1)];
   }
-  // From entry `i` on.
+  // Starts at entry `i`.
   template <typename Condition>
   Q_NEVER_INLINE const Entry* FirstOf(int i, const ConfigKey& key, Condition condition) const {
     while (i != kNone) {
@@ -157,7 +157,7 @@ class ItemIndex {
     return head == kNone ? nullptr : FirstOf(head, key, [](const Entry& e) { return !e.is_chord; });
   }
   const Entry* FirstChordEntry(const ConfigKey& armed, const ConfigKey& pressed) const {
-    if (!has_chords_ && !armed.device.isEmpty()) return nullptr;  // no first key is of any device
+    if (!has_chords_ && !armed.device.isEmpty()) return nullptr;  // without chords, no first key can match
     const int head = HeadOf(pressed);
     if (head == kNone) return nullptr;
     return FirstOf(head, pressed, [&armed](const Entry& e) { return e.first_key && IsSameKey(*e.first_key, armed); });
@@ -167,8 +167,8 @@ class ItemIndex {
 
   QList<ConfigItem*> items_;
   std::vector<Entry> entries_;
-  std::vector<const ConfigKey*> keys_;  // of the entries, side by side: all are looked at for each key that passes
-  std::vector<int> buckets_;            // index of the first entry, or kNone; as many as a power of two
+  std::vector<const ConfigKey*> keys_;  // of the entries, contiguous: MayMatch scans all of them
+  std::vector<int> buckets_;            // index of the first entry, or kNone; a power of two in number
   std::vector<Stranger> strangers_;
   bool has_chords_ = false;
 };

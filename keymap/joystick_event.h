@@ -11,7 +11,7 @@ namespace tavikeymapmanager {
 class TAVI_KEYMAP_EXPORT JoystickEvent {
  public:
   static const QEvent::Type ButtonPress;    // of a JoystickButtonEvent
-  static const QEvent::Type ButtonRelease;  // the same
+  static const QEvent::Type ButtonRelease;  // likewise
   static const QEvent::Type AxisTriggle;    // of a JoystickAxisEvent
 };
 

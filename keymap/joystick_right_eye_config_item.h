@@ -1,4 +1,4 @@
-// The view turned by a gamepad's right stick: type "RightStickEye".
+// Type "RightStickEye": a gamepad's right stick turns the view.
 #ifndef KEYMAP_JOYSTICK_RIGHT_EYE_CONFIG_ITEM_H_
 #define KEYMAP_JOYSTICK_RIGHT_EYE_CONFIG_ITEM_H_
 

@@ -1,4 +1,4 @@
-// What a keymap file becomes.
+// The content of a keymap.
 #ifndef KEYMAP_KEYMAP_CONFIG_H_
 #define KEYMAP_KEYMAP_CONFIG_H_
 
@@ -10,8 +10,8 @@
 
 namespace tavikeymapmanager {
 
-// Owns all that it points to; the input manager owns the config and destroys it before the next load. Items keep their
-// keys once a keymap is in use: they are found by the keys that they had at the first search after the load.
+// Owns everything that it points to. The input manager owns the config and destroys it before the next load. Do not
+// change the keys of items in use: they are found by the keys that they had at the first search after the load.
 struct TAVI_KEYMAP_RECORD KeymapConfig {
   KeymapConfig() = default;
   KeymapConfig(const KeymapConfig&) = delete;
@@ -23,7 +23,7 @@ struct TAVI_KEYMAP_RECORD KeymapConfig {
   }
 
   QList<ConfigItem*> items;                 // in the order of matching
-  KeymapSettings* settings = nullptr;       // null reads as defaults
+  KeymapSettings* settings = nullptr;       // null: the defaults
   WheelSettings* wheel_settings = nullptr;  // the same
 };
 

@@ -1,5 +1,5 @@
-// Visibility of the keymap contract: its functions are exported by the keymap library, its records keep one run-time
-// type in every library that uses them.
+// Visibility of the keymap contract. The keymap library exports its functions. Its records have one run-time type
+// across all libraries that use them.
 #ifndef KEYMAP_KEYMAP_EXPORT_H_
 #define KEYMAP_KEYMAP_EXPORT_H_
 
@@ -13,7 +13,7 @@
 #define TAVI_KEYMAP_EXPORT Q_DECL_IMPORT
 #endif
 
-// For header-only classes: the default visibility on every side.
+// For header-only classes: default visibility in every library.
 #if defined(__GNUC__)
 #define TAVI_KEYMAP_RECORD __attribute__((visibility("default")))
 #else

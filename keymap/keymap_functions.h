@@ -1,4 +1,4 @@
-// What the input layer asks of a keymap library. All on the main thread.
+// The functions that the input layer calls in a keymap library, all on the main thread.
 #ifndef KEYMAP_KEYMAP_FUNCTIONS_H_
 #define KEYMAP_KEYMAP_FUNCTIONS_H_
 
@@ -12,23 +12,23 @@ class QEvent;
 
 namespace tavikeymapmanager {
 
-// The keymap at `path`, or the system keymap for its reserved name. Never null: what cannot be read gives default
-// settings and no items. The caller owns the result.
+// Loads the keymap at `path`, or the system keymap for its reserved name. Never returns null: a file that cannot be
+// read gives default settings and no items. The caller owns the result.
 TAVI_KEYMAP_EXPORT KeymapConfig* LoadKeymapConfigAndInfo(const QString& path);
 // The same for a joystick keymap.
 TAVI_KEYMAP_EXPORT KeymapConfig* LoadJoystickConfigAndInfo(const QString& path);
 
-// A key made from an event; kUnsetCode stands for what is not known. `text` is the key's name, a shared constant.
+// Makes a key from an event. Pass kUnsetCode for an unknown code. `text` becomes the key's name, a shared constant.
 TAVI_KEYMAP_EXPORT ConfigKey CreateConfigKey(QString device, int virtual_key, int scancode);
-// Fills `text` from the key's codes; a joystick key, which has none, keeps it. Nothing for null.
+// Sets `text` from the key's codes. A joystick key has none and keeps its text. Null is ignored.
 TAVI_KEYMAP_EXPORT void SetTextForConfigKey(ConfigKey* key);
 
-// Whether an item of `config` answers to `configured` alone, or to the chord (`configured`, `pressed`), by its keys as
-// they are now. False for null. Main thread.
+// Whether `configured` alone, or the chord (`configured`, `pressed`), triggers an item of `config`, with its keys as
+// they are now. False for null.
 TAVI_KEYMAP_EXPORT bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed);
-// The macro language's code of an event: the native scan code of a key, the Qt::MouseButton of a button, else -1.
+// The code of an event in the macro language: a key's native scan code, a button's Qt::MouseButton value, otherwise -1.
 TAVI_KEYMAP_EXPORT int getMacroConfigKeyCode(QEvent* event);
-// Whether an item of `config` has this type. False for null.
+// Whether `config` has an item of this type. False for null.
 TAVI_KEYMAP_EXPORT bool isConfigHasSpeicalTypeKey(KeymapConfig* config, const QString& type);
 
 }  // namespace tavikeymapmanager

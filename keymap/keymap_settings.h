@@ -1,4 +1,4 @@
-// The keymap-wide settings of the handlers.
+// The keymap-wide settings of keys, mouse and gamepad.
 #ifndef KEYMAP_KEYMAP_SETTINGS_H_
 #define KEYMAP_KEYMAP_SETTINGS_H_
 
@@ -13,10 +13,10 @@ struct TAVI_KEYMAP_RECORD KeymapSettings {
   QString mouse_mode = QStringLiteral("Mouse_No_Transparent");
   bool escape_to_guest = false;       // Escape is the guest's key 1; false: it may act as back
   bool wheel_transparent = false;     // the wheel passes through
-  int relative_interval_ms = 0;       // least time between relative moves of the guest's pointer
-  double relative_factor = 1.0;       // on relative counts
-  bool keyboard_transparent = false;  // keys that the keymap does not take pass through
-  bool joystick_transparent = false;  // the same for gamepads, in a joystick keymap
+  int relative_interval_ms = 0;       // minimum time between relative moves of the guest's pointer
+  double relative_factor = 1.0;       // factor on relative counts
+  bool keyboard_transparent = false;  // unmapped keys pass through
+  bool joystick_transparent = false;  // unmapped gamepad input passes through; read from joystick keymaps
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// The words of a keymap, spelt as keymaps spell them, misspellings included. Compared exactly and case-sensitively.
+// The words of a keymap as keymaps spell them, including misspellings. Comparison is exact and case-sensitive.
 #ifndef KEYMAP_KEYWORDS_H_
 #define KEYMAP_KEYWORDS_H_
 
@@ -110,12 +110,12 @@ inline const QString kMouseAllTransparent = QStringLiteral("Mouse_AllButton_Tran
 inline const QString kLeftStick = QStringLiteral("Left_Stick");
 inline const QString kRightStick = QStringLiteral("Right_Stick");
 
-// The reserved name of the keymap of the system's own apps.
+// The reserved name of the system keymap, for the guest's own apps.
 inline const QString kSystemKeymap = QStringLiteral("system-9252A9CA-0C32-4FFD-8BF6-82653751D068");
 
 }  // namespace keywords
 
-// The wheel directions are keys of the device "mouse".
+// The wheel directions, which are keys of the device "mouse".
 constexpr int kWheelUpCode = 548;    // away from the user
 constexpr int kWheelDownCode = 549;  // towards the user
 

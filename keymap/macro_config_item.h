@@ -1,4 +1,4 @@
-// A key that runs a macro: type "Macro".
+// Type "Macro": a key that runs a macro.
 #ifndef KEYMAP_MACRO_CONFIG_ITEM_H_
 #define KEYMAP_MACRO_CONFIG_ITEM_H_
 
@@ -9,8 +9,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD MacroConfigItem : ComposableConfigItem {
-  QStringList press_commands;    // of the key's press, one command an element
-  QStringList release_commands;  // of its release
+  QStringList press_commands;    // run at the key's press, one command per element
+  QStringList release_commands;  // run at its release
 };
 
 }  // namespace tavikeymapmanager

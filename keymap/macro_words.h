@@ -1,7 +1,7 @@
 // The words of the macro language, as data.
 //
-// A command is a word, or a word with ":" and one argument behind it, which holds no further ":". Commands are matched
-// against the rows from the top; most words match as a prefix, so that `sleepy:20` is read as `sleep:20`.
+// A command is a word, or a word, ":" and one argument, which contains no ":". Commands are matched against the rows
+// from the top. Most words match as a prefix, so `sleepy:20` is read as `sleep:20`.
 #ifndef KEYMAP_MACRO_WORDS_H_
 #define KEYMAP_MACRO_WORDS_H_
 
@@ -9,7 +9,7 @@
 
 namespace tavikeymapmanager {
 
-// What a command does, one for each row of the table.
+// What a command does. One for each row of the table.
 enum class MacroVerb {
   kDefaultSleepTime,
   kSleepDefault,
@@ -50,33 +50,33 @@ enum class MacroVerb {
   kScreenshotRel,
 };
 
-// How a command is compared with a word.
+// How a command is matched with a word.
 enum class MacroMatch {
   kPrefix,           // the command begins with the word
-  kPrefixWithColon,  // the word and the ":" behind it, so that `curve_rel` is not also read in `curve_release`
+  kPrefixWithColon,  // the command begins with the word and ":", so that `curve_release` does not match `curve_rel`
   kEqual,            // the command is the word
 };
 
-// What stands behind the colon.
+// What follows the colon.
 enum class MacroArgument {
-  kNone,  // what may stand behind the word is not looked at
+  kNone,  // anything after the word is ignored
   kInteger,
   kIntegerOrWord,  // or the row's `argument_word`
   kNumber,
   kPoint,   // "(x,y)", fractions of the display, or "mouse"
   kPoints,  // one or more points joined by ";"
   kText,
-  kAny,  // passed on with the command
+  kAny,  // passed on unparsed, with the command
 };
 
 // A row of the table.
 struct MacroWord {
   MacroVerb verb;             // what the command does
   const char* word;           // as macros spell it
-  MacroMatch match;           // how it is recognised
-  MacroArgument argument;     // what it takes
-  bool pauses;                // execution goes on at a later tick
-  const char* argument_word;  // of kIntegerOrWord, else null
+  MacroMatch match;           // how a command is matched with it
+  MacroArgument argument;     // what follows the colon
+  bool pauses;                // execution continues at a later tick
+  const char* argument_word;  // of kIntegerOrWord, otherwise null
 };
 
 // In the order of matching.

@@ -1,4 +1,4 @@
-// Looking around on a second point while the key is held: type "Observe".
+// Type "Observe": looks around on a second point while the key is held.
 #ifndef KEYMAP_OBSERVE_CONFIG_ITEM_H_
 #define KEYMAP_OBSERVE_CONFIG_ITEM_H_
 
@@ -7,10 +7,10 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD ObserveConfigItem : ComposableConfigItem {
-  int sensitivity_x = 100;   // per cent; 100 is one display pixel a count
-  int sensitivity_y = 100;   // the same, upright
+  int sensitivity_x = 100;   // horizontal, in per cent; 100 is one display pixel per count
+  int sensitivity_y = 100;   // vertical, likewise
   double sensitivity = 1.0;  // factor on both
-  int move_interval_ms = 0;  // least time between sends
+  int move_interval_ms = 0;  // minimum time between sends
 };
 
 }  // namespace tavikeymapmanager

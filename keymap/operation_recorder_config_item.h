@@ -1,4 +1,4 @@
-// A macro that tells the host its length: type "OperationRecorder".
+// Type "OperationRecorder": a macro that reports its length to the host.
 #ifndef KEYMAP_OPERATION_RECORDER_CONFIG_ITEM_H_
 #define KEYMAP_OPERATION_RECORDER_CONFIG_ITEM_H_
 

@@ -1,27 +1,27 @@
-// The scan codes of keys that a host gets from Linux.
+// Conversion between Linux key codes and Windows scan codes.
 //
-// Keymaps, and so the input manager, know keys by the scan codes of Windows (set 1, the extended bit as 0x100). X11,
-// Wayland, evdev and SDL on Linux deliver Linux key codes, those of the kernel's input events. The two agree for the
-// keys of the oldest keyboards and nowhere else.
+// Keymaps and the input manager identify keys by Windows scan codes (set 1, with the extended bit as 0x100). X11,
+// Wayland, evdev and SDL on Linux deliver Linux key codes, those of the kernel's input events. The two agree only for
+// the keys of the oldest keyboards.
 //
-// Plain numbers and constant expressions: a host needs no library for it. Threads: any.
+// Plain numbers and constant expressions: a host needs no library for them. Any thread.
 #ifndef KEYMAP_SCAN_CODES_H_
 #define KEYMAP_SCAN_CODES_H_
 
 namespace tavikeymapmanager {
 
-// X11 counts its key codes from 8, and so do all who took its keyboard descriptions over: Wayland's keymaps, and Qt in
-// QKeyEvent::nativeScanCode under both. The kernel and a wl_keyboard's own events count from 0.
+// X11 key codes start at 8, and so do those of everything that adopted its keyboard descriptions: Wayland's keymaps,
+// and QKeyEvent::nativeScanCode under both. The kernel's codes and those in wl_keyboard events start at 0.
 constexpr int kX11KeyOffset = 8;
 
-// A key that has different numbers in the two.
+// A key whose two codes differ.
 struct KeyCodePair {
   int linux_code;  // KEY_... of the kernel
   int scancode;    // of Windows
 };
 
-// Escape (1) to F10 (68) are the same in both, and so are the keypad's keys and Scroll Lock (70 to 83), `<` beside Left
-// Shift (86), F11 and F12 (87, 88). All others that have a scan code stand here.
+// All keys with a scan code whose codes differ. They are equal for Escape (1) to F10 (68), Scroll Lock and the keypad's
+// keys (70 to 83), `<` beside Left Shift (86), F11 and F12 (87, 88).
 constexpr KeyCodePair kDifferentKeyCodes[] = {
     {69, 325},   // Num Lock
     {89, 115},   // Ro
@@ -84,12 +84,12 @@ constexpr KeyCodePair kDifferentKeyCodes[] = {
     {226, 365},  // Media player
 };
 
-// Whether a key has this number in both.
+// Whether the key with this code has the same code in both.
 constexpr bool IsSameKeyCode(int code) {
   return (code >= 1 && code <= 68) || (code >= 70 && code <= 83) || (code >= 86 && code <= 88);
 }
 
-// The scan code of a key of Linux; 0 for a key that has none, and for any other number.
+// The scan code of a Linux key. 0 for a key without one, and for any other number.
 constexpr int ScanCodeOfLinuxKey(int linux_code) {
   if (IsSameKeyCode(linux_code)) return linux_code;
   for (const KeyCodePair& pair : kDifferentKeyCodes) {
@@ -98,7 +98,7 @@ constexpr int ScanCodeOfLinuxKey(int linux_code) {
   return 0;
 }
 
-// The other way; 0 for a scan code that no key of Linux has.
+// The reverse. 0 for a scan code that no Linux key has.
 constexpr int LinuxKeyOfScanCode(int scancode) {
   if (IsSameKeyCode(scancode)) return scancode;
   for (const KeyCodePair& pair : kDifferentKeyCodes) {

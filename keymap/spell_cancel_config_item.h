@@ -1,4 +1,4 @@
-// The point that gives up a cast: type "SpellCancel".
+// Type "SpellCancel": a key that cancels a cast, and its point.
 #ifndef KEYMAP_SPELL_CANCEL_CONFIG_ITEM_H_
 #define KEYMAP_SPELL_CANCEL_CONFIG_ITEM_H_
 
@@ -7,8 +7,8 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD SpellCancelConfigItem : ComposableConfigItem {
-  bool cancel_immediately = false;  // the key cancels; false: it is not taken at all
-  int cancel_delay_ms = 0;          // time on the point before the release; 0: at once; negative: stays down
+  bool cancel_immediately = false;  // enables the key; false: the item ignores it
+  int cancel_delay_ms = 0;          // time on the point before the lift; 0: none; negative: stays down
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// The keymap contract: the records that a keymap library makes and the functions that it offers.
+// The keymap contract: the records and functions that a keymap library provides.
 #ifndef KEYMAP_TAVIKEYMAPMANAGER_H_
 #define KEYMAP_TAVIKEYMAPMANAGER_H_
 

@@ -1,4 +1,4 @@
-// A label on the guest view: type "Tip". It answers to no key.
+// Type "Tip": a label on the guest view. It matches no key.
 #ifndef KEYMAP_TIP_CONFIG_ITEM_H_
 #define KEYMAP_TIP_CONFIG_ITEM_H_
 

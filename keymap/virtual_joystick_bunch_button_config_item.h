@@ -1,4 +1,4 @@
-// Rapid presses of a virtual gamepad button: type "VirtualJoystickBunchButton".
+// Type "VirtualJoystickBunchButton": rapid presses of a virtual gamepad button.
 #ifndef KEYMAP_VIRTUAL_JOYSTICK_BUNCH_BUTTON_CONFIG_ITEM_H_
 #define KEYMAP_VIRTUAL_JOYSTICK_BUNCH_BUTTON_CONFIG_ITEM_H_
 
@@ -10,8 +10,8 @@ struct TAVI_KEYMAP_RECORD VirtualJoystickBunchButtonConfigItem : ComposableConfi
   QString map_text;            // the virtual button's name
   bool bunch_enabled = false;  // false: a plain button
   QString bunch_mode;          // as in BunchClickConfigItem
-  int bunch_frequency = 10;    // presses a second
-  int bunch_count = 1;         // presses of a one-off run
+  int bunch_frequency = 10;    // presses per second, for "Continue"
+  int bunch_count = 1;         // number of presses, for "One_Off"
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// A key that is a virtual gamepad button: type "VirtualJoystickButton".
+// Type "VirtualJoystickButton": a key that acts as a virtual gamepad button.
 #ifndef KEYMAP_VIRTUAL_JOYSTICK_BUTTON_CONFIG_ITEM_H_
 #define KEYMAP_VIRTUAL_JOYSTICK_BUTTON_CONFIG_ITEM_H_
 

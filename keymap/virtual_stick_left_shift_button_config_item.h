@@ -1,4 +1,4 @@
-// A key that scales the virtual left stick while it is held: type "VirtualLeftStickShiftButton".
+// Type "VirtualLeftStickShiftButton": a key that scales the virtual left stick while it is held.
 #ifndef KEYMAP_VIRTUAL_STICK_LEFT_SHIFT_BUTTON_CONFIG_ITEM_H_
 #define KEYMAP_VIRTUAL_STICK_LEFT_SHIFT_BUTTON_CONFIG_ITEM_H_
 
@@ -7,7 +7,7 @@
 namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD VirtualStickLeftShiftButtonConfigItem : ComposableConfigItem {
-  double factor = 1.0;  // on the stick's way; 0.5 walks at half speed
+  double factor = 1.0;  // factor on the stick's deflection; 0.5 walks at half speed
 };
 
 }  // namespace tavikeymapmanager

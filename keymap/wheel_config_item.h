@@ -1,4 +1,4 @@
-// A key that slides one finger as a wheel would: type "Wheel".
+// Type "Wheel": a key that slides one contact as a wheel would.
 #ifndef KEYMAP_WHEEL_CONFIG_ITEM_H_
 #define KEYMAP_WHEEL_CONFIG_ITEM_H_
 
@@ -8,7 +8,7 @@ namespace tavikeymapmanager {
 
 struct TAVI_KEYMAP_RECORD WheelConfigItem : ComposableConfigItem {
   int direction = 1;    // 1 or 2
-  int speed = 1;        // a tick moves speed * 0.01 / 100 of the display
+  int speed = 1;        // each tick moves speed * 0.01 / 100 of the display
   int duration_ms = 0;  // of one slide
   QString axis;         // "horizontal" or "vertical"
 };

@@ -1,4 +1,4 @@
-// A key that pinches with two fingers: type "Zoom".
+// Type "Zoom": a key that pinches with two contacts.
 #ifndef KEYMAP_ZOOM_CONFIG_ITEM_H_
 #define KEYMAP_ZOOM_CONFIG_ITEM_H_
 
@@ -11,8 +11,8 @@ struct TAVI_KEYMAP_RECORD ZoomConfigItem : ComposableConfigItem {
   int speed = 1;              // as in WheelConfigItem
   QString axis;               // "horizontal" or "vertical"
   int duration_ms = 0;        // of one pinch
-  double start_distance = 0;  // half the distance of the fingers, fraction of the display
-  bool swap_fingers = false;  // the two fingers change places
+  double start_distance = 0;  // minimum distance of a contact from the centre, fraction of the display
+  bool swap_fingers = false;  // swap the two contacts
 };
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// What a keymap file may write of its items, from the tables that the reader itself works by: for editors.
+// The item types of keymap files and their fields, from the tables that the reader uses. For editors.
 #ifndef KEYMAPMANAGER_ITEM_TYPES_H_
 #define KEYMAPMANAGER_ITEM_TYPES_H_
 
@@ -14,15 +14,15 @@ namespace tavikeymapmanager {
 // How a field is written.
 enum class FieldKind {
   kFlag,       // true or false
-  kInteger,    // a whole number in the range
+  kInteger,    // an integer in the range
   kNumber,     // a number in the range
   kPadButton,  // the name of a gamepad's button, without `Pad `
   kWord,       // one of `words`
   kPair,       // [x, y], both numbers in the range
   kKey,        // a key
   kChord,      // a key, or two keys of the keyboard: "Q + E"
-  kStick,      // the one key in `words`, a gamepad's stick
-  kCommands,   // a list of texts: the commands of a macro
+  kStick,      // a gamepad's stick: the only key in `words`
+  kCommands,   // a list of strings: the commands of a macro
   kPoints,     // a list of at least two pairs, stored as "x,y;x,y"
   kMatrix,     // a list of 16 numbers, stored joined by commas
   kWalk,       // the fields of a Swipehold item
@@ -36,15 +36,15 @@ struct TAVI_KEYMAP_RECORD Range {
 struct TAVI_KEYMAP_RECORD FieldInfo {
   QString name;
   FieldKind kind = FieldKind::kFlag;
-  QString doc;  // for authors: meaning and unit
+  QString doc;  // meaning and unit, for authors of keymaps
   Range range;
   QStringList words;
   bool is_required = false;
 };
 
-// `type` and `label`, which every item may have, are left out.
+// One item type. `type` and `label`, which every item may have, are not in `fields`.
 struct TAVI_KEYMAP_RECORD ItemTypeInfo {
-  // Null when the type has no such field.
+  // Null if the type has no such field. Valid for as long as this record.
   const FieldInfo* Find(const QString& field) const {
     for (const FieldInfo& info : fields) {
       if (info.name == field) return &info;
@@ -54,19 +54,19 @@ struct TAVI_KEYMAP_RECORD ItemTypeInfo {
 
   QString name;
   QString doc;
-  QVector<FieldInfo> fields;          // in the order of the reference
-  QVector<QStringList> at_least_one;  // groups of which an item must write at least one
+  QVector<FieldInfo> fields;          // in the order of docs/keymap.md
+  QVector<QStringList> at_least_one;  // groups of fields; an item must have at least one of each group
 };
 
-// All item types, in the order of the reference. Any thread.
+// All item types, in the order of docs/keymap.md. Any thread.
 TAVI_KEYMAP_EXPORT QVector<ItemTypeInfo> DescribeItemTypes();
 
-// What a field of kind kInteger, kNumber (one number) or kPair (two) has in an item, be it written in the file or not.
-// Nothing for other kinds and for fields that the item's type does not have.
+// The value of a field of kind kInteger, kNumber (one number) or kPair (two), whether the file contains the field or
+// not. Empty for other kinds and for fields that the item's type does not have.
 TAVI_KEYMAP_EXPORT QVector<double> NumbersOfField(const ConfigItem& item, const QString& field);
 
-// The value of a field of kind kFlag, kInteger, kNumber, kPadButton, kWord or kPair as a file writes it: "true", "0.5",
-// "[0.5, 1]". Nothing for other kinds.
+// The value of a field of kind kFlag, kInteger, kNumber, kPadButton, kWord or kPair in the notation of keymap files:
+// "true", "0.5", "[0.5, 1]". Empty for other kinds.
 TAVI_KEYMAP_EXPORT QString TextOfField(const ConfigItem& item, const QString& field);
 
 }  // namespace tavikeymapmanager

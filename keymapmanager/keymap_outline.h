@@ -1,5 +1,5 @@
-// Where the items of a keymap file and their fields stand in its text: for editors that change one of them and leave
-// the rest of the file as its author wrote it.
+// The positions of a keymap file's items and fields in its text. For editors that change one of them and leave the rest
+// of the file as its author wrote it.
 #ifndef KEYMAPMANAGER_KEYMAP_OUTLINE_H_
 #define KEYMAPMANAGER_KEYMAP_OUTLINE_H_
 
@@ -13,7 +13,7 @@
 
 namespace tavikeymapmanager {
 
-// Bytes of the text, from 0; `end` is behind the last one. White space and line breaks at the end are left out.
+// A range of bytes of the text, from 0. `end` is one past the last byte. Excludes trailing white space and line breaks.
 struct TAVI_KEYMAP_RECORD TextRange {
   int Length() const { return end - begin; }
 
@@ -24,15 +24,15 @@ struct TAVI_KEYMAP_RECORD TextRange {
 struct TAVI_KEYMAP_RECORD FieldOutline {
   QString name;
   TextRange name_range;
-  TextRange value;         // an anchor in front is not part of it; empty, behind the colon, where nothing is written
-  bool is_scalar = false;  // neither a list nor fields
-  QString text;            // of a scalar, as it is read
+  TextRange value;             // without an anchor before it; empty, after the colon, if there is no value
+  bool is_scalar = false;      // neither a list nor fields
+  QString text;                // of a scalar, as it is read
   QVector<TextRange> entries;  // of a list
 };
 
 // The fields of one record, and how they are written.
 struct TAVI_KEYMAP_RECORD RecordOutline {
-  // Null when there is no such field. Valid as long as the outline.
+  // Null if there is no such field. Valid for as long as the outline.
   const FieldOutline* Find(const QString& name) const {
     for (const FieldOutline& field : fields) {
       if (field.name == name) return &field;
@@ -40,13 +40,13 @@ struct TAVI_KEYMAP_RECORD RecordOutline {
     return nullptr;
   }
 
-  TextRange range;  // from the first to the last character of its fields, braces included
+  TextRange range;  // from the first to the last character of its fields, including braces
   bool in_braces = false;
   QVector<FieldOutline> fields;  // in the order of the file
 };
 
 struct TAVI_KEYMAP_RECORD ItemOutline : RecordOutline {
-  int dash = -1;  // where the "-" stands of an entry of a block list; -1 in brackets
+  int dash = -1;  // position of the "-" if the item is in a block list; -1 in brackets
 };
 
 struct TAVI_KEYMAP_RECORD KeymapOutline {
@@ -55,8 +55,8 @@ struct TAVI_KEYMAP_RECORD KeymapOutline {
   QVector<ItemOutline> items;  // in the order of the file, which is that of KeymapConfig::items
 };
 
-// The outline of a text that ReadKeymapText reads without errors. Nothing for one that is no YAML, whose parts are not
-// fields, or that is not written in UTF-8. Any thread.
+// The outline of a text that ReadKeymapText reads without errors. Empty if the text is not YAML, is not in UTF-8, or
+// has parts that are not fields. Any thread.
 TAVI_KEYMAP_EXPORT std::optional<KeymapOutline> OutlineKeymap(const QByteArray& text);
 
 }  // namespace tavikeymapmanager

@@ -150,7 +150,8 @@ QJsonObject ItemSchema(const RecordTable& table) {
   QJsonObject schema = RecordSchema(table, item.get());
   QJsonObject properties = schema.value(Q("properties")).toObject();
   properties.insert(Q("type"), QJsonObject{{Q("const"), table.name}});
-  properties.insert(Q("label"), QJsonObject{{Q("type"), Q("string")}, {Q("description"), Q("what an overlay writes")}});
+  properties.insert(Q("label"),
+                    QJsonObject{{Q("type"), Q("string")}, {Q("description"), Q("the text that an overlay shows")}});
   schema.insert(Q("properties"), properties);
   return schema;
 }

@@ -1,6 +1,6 @@
-// The known word that a misspelt one was most likely meant to be.
+// Suggests the known word that a misspelt one most likely meant.
 //
-// Threads: any.
+// Any thread.
 #ifndef KEYMAPMANAGER_NEAREST_WORD_H_
 #define KEYMAPMANAGER_NEAREST_WORD_H_
 
@@ -11,11 +11,11 @@
 
 namespace tavikeymapmanager {
 
-// The word of `known` that takes the fewest changed, added, missing or swapped letters, the case of letters aside; the
-// first of equals. Empty when even that one is too far to have been meant: more than a third of its letters.
+// The word of `known` with the fewest changed, added, missing or swapped letters compared with `word`, ignoring case;
+// the first of equals. Empty if even that one differs in more than a third of its letters.
 TAVI_KEYMAP_EXPORT QString NearestWord(const QString& word, const QStringList& known);
 
-// "; did you mean 'x'?" for the nearest word, or nothing.
+// "; did you mean 'x'?" with the nearest word, or an empty string.
 TAVI_KEYMAP_EXPORT QString DidYouMean(const QString& word, const QStringList& known);
 
 }  // namespace tavikeymapmanager

@@ -15,16 +15,16 @@ namespace tavi = taviinputmanager;
 
 namespace {
 
-constexpr int kDisplay = 1;            // the guest's own number of its display
-constexpr QSize kGuest(1920, 1080);    // pixels of its display, and of its touch surface
-constexpr int kPassKey = Qt::Key_F12;  // keys of the window's own
-constexpr int kTextKey = Qt::Key_F11;  // stands for a guest that tells of its text fields
-constexpr int kNotch = 120;            // of a wheel, in eighths of a degree
+constexpr int kDisplay = 1;            // the guest's number for its display
+constexpr QSize kGuest(1920, 1080);    // its display, and its touch surface, in pixels
+constexpr int kPassKey = Qt::Key_F12;  // keys that the window handles itself
+constexpr int kTextKey = Qt::Key_F11;  // simulates a guest that reports its text fields
+constexpr int kNotch = 120;            // of the wheel, in eighths of a degree
 
 GuestView* view = nullptr;
 
-// Qt gives a key's native code: on Windows the one that the library wants, and under X11 and Wayland that of X11. 0 for
-// a key that has no scan code.
+// Qt returns a key's native code: on Windows the one that the library expects, under X11 and Wayland that of X11. 0 if
+// the key has no scan code.
 quint32 WindowsScanCode(const QKeyEvent& event) {
 #ifdef Q_OS_WIN
   return event.nativeScanCode();
@@ -36,17 +36,17 @@ quint32 WindowsScanCode(const QKeyEvent& event) {
 
 }  // namespace
 
-// The library's callbacks are plain functions. Most are called from within the functions of the library that the view
-// calls, on the main thread. Those that may come on another thread say so.
+// The library's callbacks are plain functions. Most are called on the main thread, from within the functions that the
+// view calls. Those that may be called on another thread say so.
 struct Callbacks {
-  // To the guest. A real host writes to a socket; this must not block.
+  // Sends a line to the guest. A real host writes to a socket. It must not block.
   static void Send(const char* line, int length) {
     std::fwrite(line, 1, static_cast<std::size_t>(length), stdout);
     std::fflush(stdout);
   }
 
-  // The view as large as the guest, since places are handed over in the guest's pixels. The library asks how far the
-  // pointer is from the corner, so the corner is put where that comes out in the guest's pixels too.
+  // The view has the guest's size, because positions are passed in guest pixels. The library subtracts the corner from
+  // the pointer's position, so the corner is chosen to make the difference guest pixels too.
   static QRect GetDisplayRect() {
     if (!view) return {QPoint(0, 0), kGuest};
     const QPoint pointer = QCursor::pos();
@@ -57,7 +57,7 @@ struct Callbacks {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
   }
 
-  // Also on threads of the library: constants here, atomics in a host whose guest turns.
+  // Also called on threads of the library: return constants, or atomics if the guest can rotate.
   static QRect GetTouchRect() { return {QPoint(0, 0), kGuest}; }
   static int GetDisplayRotation() { return 0; }
 
@@ -65,7 +65,7 @@ struct Callbacks {
   static bool IsEscapeBackEnabled() { return true; }
   static bool IsPrimaryDisplay(int display) { return display == kDisplay; }
 
-  // Also on the thread of a replay, so it is posted.
+  // Also called on the thread of a replay, so the work is posted.
   static void OnInputStatusChanged(int status, const QString&) {
     if (!view) return;
     const bool captured = status == static_cast<int>(tavi::InputStatus::Staring) ||
@@ -82,7 +82,7 @@ GuestView::GuestView() {
   view = this;
 }
 
-// Gestures may be under way, so the library may still ask.
+// Gestures may be running, so the library may still call back.
 GuestView::~GuestView() { view = nullptr; }
 
 void GuestView::Start(const QString& keymap) {
@@ -103,7 +103,7 @@ void GuestView::Start(const QString& keymap) {
 
 bool GuestView::event(QEvent* event) {
   switch (event->type()) {
-    case QEvent::ShortcutOverride: event->accept(); return true;  // all keys are the guest's, Tab among them
+    case QEvent::ShortcutOverride: event->accept(); return true;  // all keys are the guest's, including Tab
     case QEvent::KeyPress:
     case QEvent::KeyRelease: HandleKey(*static_cast<QKeyEvent*>(event)); return true;
     case QEvent::TouchBegin:
@@ -126,7 +126,7 @@ void GuestView::HandleKey(const QKeyEvent& event) {
   tavi::OnQtInputEvent(&converted);
 }
 
-// What is held now would be released by the other way of the two, so it is let go first.
+// What is held would otherwise be released in the other mode, so it is released first.
 void GuestView::PassEverythingThrough(bool on) {
   passes_through_ = on;
   tavi::OnResetInputStatus(true, kDisplay);
@@ -135,13 +135,13 @@ void GuestView::PassEverythingThrough(bool on) {
 
 void GuestView::SetTextField(bool focused) {
   text_field_ = focused;
-  setAttribute(Qt::WA_InputMethodEnabled, focused);  // else it would keep keys of a game for itself
+  setAttribute(Qt::WA_InputMethodEnabled, focused);  // otherwise it would take a game's keys for itself
 }
 
-// Events come in Qt's logical pixels of a view of any size. To the library they are pixels of the guest, so that
-// neither the window's size nor the screen's scale factor matters to a keymap or a record.
-QPointF GuestView::ToGuest(const QPointF& place) const {
-  return {place.x() * kGuest.width() / width(), place.y() * kGuest.height() / height()};
+// Converts Qt's logical pixels to guest pixels, whatever the view's size. Keymaps and records then depend neither on
+// the window's size nor on the screen's scale factor.
+QPointF GuestView::ToGuest(const QPointF& position) const {
+  return {position.x() * kGuest.width() / width(), position.y() * kGuest.height() / height()};
 }
 
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
@@ -150,8 +150,8 @@ void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
   tavi::OnQtInputEvent(&converted);
 }
 
-// The library goes by which fingers are there. Qt lists one that goes up once more, and then says nothing for as long
-// as the others rest.
+// The library compares which contacts are there. Qt lists a lifted one once more, and then sends nothing for as long as
+// the others do not move.
 void GuestView::SendTouch(const QTouchEvent& event) {
   QList<QTouchEvent::TouchPoint> points;
   for (QTouchEvent::TouchPoint point : event.touchPoints()) {
@@ -166,11 +166,11 @@ void GuestView::SendTouch(const QTouchEvent& event) {
 
 void GuestView::mousePressEvent(QMouseEvent* event) { SendMouse(event->type(), *event); }
 void GuestView::mouseReleaseEvent(QMouseEvent* event) { SendMouse(event->type(), *event); }
-// To a guest the second press of a double click is a press. The library drops double clicks.
+// The library drops double clicks, but to a guest the second press is a press.
 void GuestView::mouseDoubleClickEvent(QMouseEvent* event) { SendMouse(QEvent::MouseButtonPress, *event); }
 void GuestView::inputMethodEvent(QInputMethodEvent* event) { tavi::OnQtInputEvent(event); }
 
-// To an item on the wheel each event is a notch. Touchpads turn by parts of one, so those are added up.
+// For an item on the wheel, each event is a notch. Touchpads send fractions of one, which are added up.
 void GuestView::wheelEvent(QWheelEvent* event) {
   wheel_turn_ += event->angleDelta().y();
   const int notches = wheel_turn_ / kNotch * kNotch;
@@ -181,13 +181,13 @@ void GuestView::wheelEvent(QWheelEvent* event) {
   tavi::OnQtInputEvent(&converted);
 }
 
-// While the mouse steers the view only its counts matter. A front end takes them from the window system, which is a
-// page of code for each; this is the least that plays, and its price is told: the counts are accelerated, a move that
-// two events are merged into is lost in part, a fast pointer may leave the view, and Wayland does not move it at all.
+// While the mouse is captured only its counts matter. A front end reads them from the window system, which takes a page
+// of code for each. This is the minimum that works, with drawbacks: the counts are accelerated, part of a move is lost
+// when two events are merged, a fast pointer may leave the view, and on Wayland the pointer cannot be moved at all.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
   if (!captured_) return SendMouse(event->type(), *event);
   const QPoint counts = event->pos() - rect().center();
-  if (counts.isNull()) return;  // the move that put it back
+  if (counts.isNull()) return;  // the move that put the pointer back
   tavi::OnWindowsWmRelativeInputEvent(counts.x(), counts.y());
   QCursor::setPos(mapToGlobal(rect().center()));
 }
@@ -198,11 +198,11 @@ void GuestView::SetCaptured(bool captured) {
   if (captured_) QCursor::setPos(mapToGlobal(rect().center()));
 }
 
-// The releases of what is held will go to another window.
+// The releases of held keys will go to another window.
 void GuestView::focusOutEvent(QFocusEvent* event) {
   if (!tavi::isInputHoldWhenWindowDeactivate()) {
     tavi::OnResetInputStatus(true, kDisplay);
-    SendTouch(QTouchEvent(QEvent::TouchEnd));  // which a reset leaves alone
+    SendTouch(QTouchEvent(QEvent::TouchEnd));  // a reset does not lift touches
   }
   SetCaptured(false);
   QWidget::focusOutEvent(event);

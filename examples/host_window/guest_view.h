@@ -1,4 +1,4 @@
-// The widget that shows the guest and gives its input to the library. One in a program, as there is one library.
+// The widget that shows the guest and feeds its input to the library. A process has only one, as it has one library.
 #ifndef GUEST_VIEW_H_
 #define GUEST_VIEW_H_
 
@@ -14,7 +14,7 @@ class GuestView : public QWidget {
   GuestView();
   ~GuestView() override;
 
-  // Sets the send functions, initialises the library, and loads a keymap. Once.
+  // Sets the send functions, initialises the library, and loads a keymap. Call it once.
   void Start(const QString& keymap);
 
  protected:
@@ -31,7 +31,7 @@ class GuestView : public QWidget {
  private:
   friend struct Callbacks;
 
-  QPointF ToGuest(const QPointF& place) const;
+  QPointF ToGuest(const QPointF& position) const;
   void HandleKey(const QKeyEvent& event);
   void SendMouse(QEvent::Type type, const QMouseEvent& event);
   void SendTouch(const QTouchEvent& event);
@@ -41,7 +41,7 @@ class GuestView : public QWidget {
 
   bool passes_through_ = false;
   bool text_field_ = false;  // the guest has a text field focused
-  bool captured_ = false;    // the mouse steers the view
+  bool captured_ = false;    // the mouse turns the view
   int wheel_turn_ = 0;       // since the last notch, in eighths of a degree
 };
 

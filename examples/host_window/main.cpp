@@ -1,4 +1,4 @@
-// A host with a window. What goes to the guest is printed.
+// A host with a window. It prints what the guest is sent.
 //
 //   host_window KEYMAP
 #include <cstdio>
@@ -12,7 +12,7 @@ namespace {
 
 QtMessageHandler qt_messages = nullptr;
 
-// What a load finds wrong in a keymap is told by Qt's log. A host shows it to whoever writes the keymap.
+// A keymap load writes its diagnostics to Qt's log. A host shows them to the author of the keymap.
 void ShowFindings(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   const bool is_finding = context.category && std::strcmp(context.category, "tavi.keymap") == 0;
   if (!is_finding) return qt_messages(type, context, message);

@@ -49,7 +49,7 @@ struct InputManagerCallbacks {
   int (*GetJoystickType)(int device) = nullptr;
   // Whether an unmapped Escape acts as the guest's back key.
   bool (*IsEscapeBackEnabled)() = nullptr;
-  // Tells whether the keymap currently uses Escape, so that the host must not. May be null.
+  // Reports whether the keymap currently uses Escape, so that the host must not. May be null.
   void (*OnEscapeKeyOccupied)(bool occupied) = nullptr;
   // The guest display in display pixels, in the orientation shown in the window. Aimed skills and the macro point
   // `mouse` use QCursor::pos minus its top left corner.
@@ -67,8 +67,8 @@ struct InputManagerCallbacks {
   bool (*IsPrimaryDisplay)(int display) = nullptr;
   // A macro asks to lock or free the mouse in a keymap without a Staring item. May be null.
   void (*OnMouseLockSwitch)(const QString& key_text) = nullptr;
-  // Tells whether the loaded keymap has virtual sticks. May be null, in which case the library does not switch its own
-  // virtual gamepad either.
+  // Reports whether the loaded keymap has virtual sticks. May be null, in which case the library does not switch its
+  // own virtual gamepad either.
   void (*OnVirtualJoystickChanged)(bool enabled) = nullptr;
   // A macro asks for a screenshot; `instruction` is its command. May be null.
   void (*OnScreenshotRequest)(const QString& instruction) = nullptr;

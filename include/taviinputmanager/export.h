@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-// TAVI_STATIC: the libraries are static ones, on Windows, where that makes a difference.
+// TAVI_STATIC is defined for static libraries on Windows, where it makes a difference.
 #if defined(TAVI_STATIC)
 #define TAVI_EXPORT
 #elif defined(TAVI_BUILDING_INPUTMANAGER)

@@ -15,7 +15,7 @@ namespace kw = keywords;
 template <typename Item>
 Field ButtonField(QString Item::*member) {
   return Required(MakeField(FieldKind::kPadButton, "map_text", member,
-                            "the button by its name without `Pad `: `A`, `LB`, `Start`, `Up`"));
+                            "the button's name without `Pad `: `A`, `LB`, `Start`, `Up`"));
 }
 
 RecordTable VirtualStickTable(const QString& type, const char* doc) {
@@ -27,15 +27,15 @@ RecordTable VirtualStickTable(const QString& type, const char* doc) {
 
 RecordTable ShiftButtonTable() {
   using R = VirtualStickLeftShiftButtonConfigItem;
-  return ItemTable<R>(kw::kTypeVirtualLeftStickShiftButton,
-                      "A key that scales the virtual left stick while it is held.",
-                      {ChordField(), OverlayPointField(),
-                       Number("factor", &R::factor, {0, 10}, "factor on the stick; 0.5 walks at half speed")});
+  return ItemTable<R>(
+      kw::kTypeVirtualLeftStickShiftButton, "A key that scales the virtual left stick while it is held.",
+      {ChordField(), OverlayPointField(),
+       Number("factor", &R::factor, {0, 10}, "factor on the stick's deflection; 0.5 walks at half speed")});
 }
 
 RecordTable ButtonTable() {
   using R = VirtualJoystickButtonConfigItem;
-  return ItemTable<R>(kw::kTypeVirtualJoystickButton, "A key that is a button of the virtual gamepad.",
+  return ItemTable<R>(kw::kTypeVirtualJoystickButton, "A key that acts as a button of the virtual gamepad.",
                       {ChordField(), OverlayPointField(), ButtonField(&R::map_text)});
 }
 
@@ -48,9 +48,10 @@ RecordTable BunchButtonTable() {
       {ChordField(), OverlayPointField(), ButtonField(&R::map_text),
        Flag("bunch_enabled", &R::bunch_enabled, "rapid presses; false: a plain button"),
        Word("bunch_mode", &R::bunch_mode, {kw::kBunchContinue, kw::kBunchOneOff},
-            "`Continue`: while the key is held; `One_Off`: a run when it comes up. Not written: as `One_Off`"),
-       Integer("bunch_frequency", &R::bunch_frequency, {1, 500}, "presses a second, with `Continue`"),
-       Integer("bunch_count", &R::bunch_count, {1, 1000}, "presses of a run, with `One_Off`")});
+            "`Continue`: while the key is held; `One_Off`: a fixed number of presses when it is released. If absent, "
+            "`One_Off`"),
+       Integer("bunch_frequency", &R::bunch_frequency, {1, 500}, "presses per second, for `Continue`"),
+       Integer("bunch_count", &R::bunch_count, {1, 1000}, "number of presses, for `One_Off`")});
 }
 
 }  // namespace

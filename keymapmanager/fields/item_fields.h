@@ -55,10 +55,8 @@ inline Field ChordField() {
 // The four direction keys of an item, of which it needs at least one.
 template <typename Item>
 QVector<Field> DirectionKeyFields() {
-  return {Key("key_up", &Item::key_up, "the key of the direction up"),
-          Key("key_right", &Item::key_right, "the key of the direction right"),
-          Key("key_down", &Item::key_down, "the key of the direction down"),
-          Key("key_left", &Item::key_left, "the key of the direction left")};
+  return {Key("key_up", &Item::key_up, "the key for up"), Key("key_right", &Item::key_right, "the key for right"),
+          Key("key_down", &Item::key_down, "the key for down"), Key("key_left", &Item::key_left, "the key for left")};
 }
 
 inline QStringList DirectionKeyNames() {

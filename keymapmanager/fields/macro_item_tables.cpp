@@ -13,8 +13,9 @@ RecordTable MacroTable(const QString& type, const char* doc) {
   RecordTable table = ItemTable<Item>(
       type, doc,
       {ChordField(), OverlayPointField(),
-       Commands("press_commands", &MacroConfigItem::press_commands, "the commands when the key goes down"),
-       Commands("release_commands", &MacroConfigItem::release_commands, "the commands when the key comes up")});
+       Commands("press_commands", &MacroConfigItem::press_commands, "the commands that run when the key is pressed"),
+       Commands("release_commands", &MacroConfigItem::release_commands,
+                "the commands that run when the key is released")});
   table.at_least_one = {{QStringLiteral("press_commands"), QStringLiteral("release_commands")}};
   return table;
 }
@@ -24,7 +25,7 @@ RecordTable MacroTable(const QString& type, const char* doc) {
 QVector<RecordTable> MacroItemTables() {
   return {MacroTable<MacroConfigItem>(keywords::kTypeMacro, "A key that runs a list of commands."),
           MacroTable<OperationRecorderConfigItem>(keywords::kTypeOperationRecorder,
-                                                  "A macro that tells the program its length when it begins.")};
+                                                  "A macro that reports its length to the host when it starts.")};
 }
 
 }  // namespace tavikeymapmanager

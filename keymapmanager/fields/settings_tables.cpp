@@ -16,16 +16,16 @@ RecordTable MakeSettingsTable() {
   table.fields = {
       Word("mouse_mode", &R::mouse_mode,
            {kw::kMouseNoTransparent, kw::kMouseOtherTransparent, kw::kMouseAllTransparent},
-           "which unmapped mouse input the guest sees as a mouse: none, so that the left button is a finger; all but "
-           "the left button; or all"),
+           "which unmapped mouse input reaches the guest as a mouse: none, so that the left button is a finger; all "
+           "except the left button; or all"),
       Flag("escape_to_guest", &R::escape_to_guest, "Escape reaches the guest as Escape; false: it may act as back"),
-      Flag("wheel_transparent", &R::wheel_transparent, "the guest sees the wheel as a wheel"),
+      Flag("wheel_transparent", &R::wheel_transparent, "the wheel reaches the guest as a wheel"),
       Integer("relative_interval_ms", &R::relative_interval_ms, {0, 1000},
-              "least time between two moves of the guest's pointer by a captured mouse"),
+              "minimum time between two moves of the guest's pointer by a captured mouse"),
       Number("relative_factor", &R::relative_factor, {0, 100}, "factor on the counts of a captured mouse"),
-      Flag("keyboard_transparent", &R::keyboard_transparent, "the guest sees the keys that the keymap does not take"),
+      Flag("keyboard_transparent", &R::keyboard_transparent, "unmapped keys reach the guest as keys"),
       Flag("joystick_transparent", &R::joystick_transparent,
-           "the guest sees the gamepad input that the keymap does not take; read from a gamepad's keymap"),
+           "unmapped gamepad input reaches the guest as a gamepad; read from a gamepad's keymap"),
   };
   return table;
 }
@@ -36,25 +36,24 @@ RecordTable MakeWheelTable() {
   table.name = QStringLiteral("wheel");
   table.doc = QStringLiteral("The keymap-wide settings of wheel, pinch and virtual gamepad.");
   table.fields = {
-      Number("wheel_delta", &R::wheel_delta, {-100, 100},
-             "factor on the wheel that the guest sees, with `wheel_use_delta`"),
+      Number("wheel_delta", &R::wheel_delta, {-100, 100}, "factor on the guest's wheel, for `wheel_use_delta`"),
       Integer("wheel_use_delta", &R::wheel_use_delta, {0, 1}, "1: the guest's wheel turns by amounts, not by notches"),
       Integer("simulate_mode", &R::simulate_mode, {0, 1}, "1: a gamepad's triggers are buttons; 0: they are axes"),
       Flag("virtual_joystick", &R::virtual_joystick,
-           "the keymap has virtual sticks or buttons: gives the guest a gamepad"),
+           "the keymap has virtual sticks or buttons: the guest gets a virtual gamepad"),
       Integer("zoom_first_interval_ms", &R::zoom_first_interval_ms, {0, 1000},
-              "wheel pinch: from the touch to the first step"),
-      Integer("zoom_notch_ticks", &R::zoom_notch_ticks, {1, 1000}, "wheel pinch: steps of one notch"),
+              "wheel pinch: time from the touch to the first step"),
+      Integer("zoom_notch_ticks", &R::zoom_notch_ticks, {1, 1000}, "wheel pinch: steps per notch"),
       Integer("zoom_tick_ms", &R::zoom_tick_ms, {1, 1000}, "wheel pinch: time between two steps"),
       Integer("zoom_spread", &R::zoom_spread, {0, 1000},
-              "wheel pinch: distance of the fingers from the pointer at the start, in units of `zoom_step`"),
-      Integer("zoom_release_ms", &R::zoom_release_ms, {0, 60000}, "wheel pinch: rest before the fingers go up"),
+              "wheel pinch: initial distance of the fingers from the pointer, in units of `zoom_step`"),
+      Integer("zoom_release_ms", &R::zoom_release_ms, {0, 60000}, "wheel pinch: time from the last step to the lift"),
       Number("scroll_step", &R::scroll_step, {0, 1},
-             "an unmapped wheel swipes by 20 steps of this size a notch; fraction of the display's height"),
-      Number("zoom_step", &R::zoom_step, {0, 1}, "wheel pinch: one step; fraction of the display's longer side"),
+             "an unmapped wheel swipes 20 steps of this size per notch; fraction of the display's height"),
+      Number("zoom_step", &R::zoom_step, {0, 1}, "wheel pinch: size of a step, fraction of the display's longer side"),
       Number("zoom_angle", &R::zoom_angle, {-360, 360}, "wheel pinch: direction of the fingers, in degrees"),
-      Flag("zoom_swap_fingers", &R::zoom_swap_fingers, "wheel pinch: the two fingers change places"),
-      Flag("wheel_zoom", &R::wheel_zoom, "an unmapped wheel pinches in place of swiping"),
+      Flag("zoom_swap_fingers", &R::zoom_swap_fingers, "wheel pinch: swap the two fingers"),
+      Flag("wheel_zoom", &R::wheel_zoom, "an unmapped wheel pinches instead of swiping"),
   };
   return table;
 }

@@ -10,8 +10,8 @@ namespace tavikeymapmanager {
 template <typename Item>
 RecordTable StickItemTable(const QString& type, const char* doc, const QString& stick, const QVector<Field>& fields) {
   RecordTable table = ItemTable<Item>(type, doc, fields);
-  Field key =
-      MakeField(FieldKind::kStick, "key", &ConfigItem::key, "the stick; it is the only key and need not be written");
+  Field key = MakeField(FieldKind::kStick, "key", &ConfigItem::key,
+                        "the stick; the only possible key, so you can leave it out");
   key.words = QStringList(NameOfKey(JoystickKey(stick)));
   table.fields.prepend(key);
   table.create = [type, stick] {
