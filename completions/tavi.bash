@@ -35,6 +35,17 @@ _tavi_value() {
     "window --mirror") return 0 ;;
     "window --picture") _tavi_files png ;;
     "window --after") return 0 ;;
+    "play --joystick") _tavi_files yaml yml ;;
+    "play --device") return 0 ;;
+    "play --guest") return 0 ;;
+    "play --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
+    "play --rotation") _tavi_words "0 90 180 270" ;;
+    "play --speed") return 0 ;;
+    "play --pause-key") return 0 ;;
+    "play --panic-key") return 0 ;;
+    "play --keymaps") return 0 ;;
+    "play --name") return 0 ;;
+    "play --control") return 0 ;;
     "simulate --svg") _tavi_files svg ;;
     "simulate --record") _tavi_files json ;;
     "simulate --package") return 0 ;;
@@ -52,8 +63,11 @@ _tavi_value() {
     "record merge --gap") return 0 ;;
     "record draw -o") _tavi_files svg ;;
     "guest-uinput --input") _tavi_files ;;
+    "guest-uinput --listen") return 0 ;;
     "guest-uinput --size") _tavi_words "1280x720 1920x1080 2560x1440" ;;
     "guest-uinput --display") return 0 ;;
+    "guest-uinput --for") _tavi_words "linux android" ;;
+    "guest-uinput --name") return 0 ;;
     *) return 1 ;;
   esac
 }
@@ -61,6 +75,7 @@ _tavi_value() {
 _tavi_options() {
   case $1 in
     "window") echo "--joystick --size --rotation --pixel-ratio --background --look --pause-key --panic-key --controls-key --paused --fresh --events --record --replay --second-view --guest --allow-remote --listen --mirror --picture --after" ;;
+    "play") echo "--joystick --device --guest --allow-remote --size --rotation --speed --pause-key --panic-key --paused --keymaps --name --control --list" ;;
     "simulate") echo "--svg --record --package" ;;
     "check") echo "" ;;
     "draw") echo "-o --size --background --joystick" ;;
@@ -69,13 +84,14 @@ _tavi_options() {
     "record play") echo "--speed --emulation --size --live --guest --allow-remote" ;;
     "record merge") echo "-o --times --delay --speed --gap" ;;
     "record draw") echo "-o" ;;
-    "guest-uinput") echo "--input --size --display --timeline --dry-run" ;;
+    "guest-uinput") echo "--input --listen --size --display --for --keyboard --name --timeline --dry-run" ;;
   esac
 }
 
 _tavi_operand() {
   case $1 in
     "window") _tavi_files yaml yml ;;
+    "play") _tavi_files yaml yml ;;
     "simulate") _tavi_files yaml yml txt ;;
     "check") _tavi_files yaml yml ;;
     "draw") _tavi_files yaml yml ;;
@@ -93,12 +109,12 @@ _tavi() {
   [ "$cur" = = ] && cur=
   [ "$previous" = = ] && previous=${COMP_WORDS[COMP_CWORD - 2]}
   if [ "$COMP_CWORD" -eq 1 ]; then
-    _tavi_words "window simulate check draw keys record guest-uinput help --help --version"
+    _tavi_words "window play simulate check draw keys record guest-uinput help --help --version"
     return
   fi
   if [ "$command" = help ]; then
     command=${COMP_WORDS[2]}
-    [ "$COMP_CWORD" -eq 2 ] && _tavi_words "window simulate check draw keys record guest-uinput"
+    [ "$COMP_CWORD" -eq 2 ] && _tavi_words "window play simulate check draw keys record guest-uinput"
     [ "$COMP_CWORD" -eq 3 ] && _tavi_group "$command"
     return
   fi

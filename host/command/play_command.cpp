@@ -1,6 +1,6 @@
 #include "host/command/play_command.h"
 
-#include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -19,6 +19,7 @@
 #include "host/play/screen_size.h"
 #include "host/play/targets_outlet.h"
 #include "host/play/uinput_outlet.h"
+#include "host/play/watchdog.h"
 #include "host/system/console.h"
 #include "host/system/plain_file.h"
 #include "host/system/terminal.h"
@@ -94,6 +95,9 @@ const QString kControl = QStringLiteral("--control");
 const QString kList = QStringLiteral("--list");
 
 constexpr QSize kUsualSize(1280, 720);
+// Ten seconds without a turn of the event loop: longer than the longest record takes to be read.
+constexpr int kLookMs = 1000;
+constexpr int kPatience = 10;
 
 struct PlayOptions {
   QString keymap;           // empty: that of the last app
@@ -300,10 +304,21 @@ void TellState(const QString& state) {
   FlushOutput();
 }
 
+// The kernel gives the devices back when the process ends, and the guest's keeper lifts what is down.
+void EndAtOnce() {
+  Tell(
+      QStringLiteral("it does not get to its devices any more, as with a macro without an end; it ends to give them "
+                     "back"));
+  std::_Exit(kExitProblem);
+}
+
 // The exit status of a player that came to its end.
 int PlayToTheEnd(PlaySession* session, PlayControl* control) {
   session->ReadGamepads();
-  const int status = QCoreApplication::exec();
+  const int status = [] {
+    const Watchdog watchdog(kLookMs, kPatience, EndAtOnce);
+    return QCoreApplication::exec();
+  }();
   session->End();
   const QString problem = control->Records()->SaveAtEnd();
   Tell(problem);

@@ -24,6 +24,13 @@ TEST(Diagnostics, FiveMistakesAreToldAtOnce) {
       Said(result));
 }
 
+TEST(Diagnostics, ThePackageIsReadAndIsAText) {
+  EXPECT_EQ("com.example.game", Read("format: 1\npackage: com.example.game\n").package.toStdString());
+  EXPECT_EQ("", Read("format: 1\n").package.toStdString());
+  EXPECT_EQ("2:10 error: 'package': expected a text, got the number 2048; put it in quotes",
+            Said(Read("format: 1\npackage: 2048\n")));
+}
+
 TEST(Diagnostics, ExtentsReachBehindTheLastCharacter) {
   const LoadResult result = Read("format: 1\nname: 2048\nitems: [[0.5, 0.5]]\n");
   ASSERT_EQ(2, result.diagnostics.size());

@@ -23,7 +23,7 @@ from make_command_files import MAKERS  # noqa: E402
 HELP = Help(TAVI)
 MAN_PAGE = SOURCE / "docs" / "man" / "tavi.1"
 COMPLETIONS = SOURCE / "completions"
-FIRST_WORDS = ["window", "simulate", "check", "draw", "keys", "record", "guest-uinput", "help"]
+FIRST_WORDS = ["window", "play", "simulate", "check", "draw", "keys", "record", "guest-uinput", "help"]
 
 
 def needs(program):

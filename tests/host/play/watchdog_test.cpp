@@ -1,0 +1,39 @@
+// On the real clock: an event loop that stands still is what it is about.
+#include "host/play/watchdog.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+namespace tavi {
+namespace {
+
+class WatchdogTest : public testing::Test {
+ protected:
+  WatchdogTest() : application_(argument_count_, arguments_) {}
+
+  int argument_count_ = 0;
+  char* arguments_[1] = {nullptr};
+  QCoreApplication application_;
+  std::atomic<int> bites_{0};
+};
+
+TEST_F(WatchdogTest, BitesOnceWhenTheLoopStandsStill) {
+  Watchdog dog(10, 5, [this] { ++bites_; });
+  while (bites_ == 0) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  EXPECT_EQ(bites_, 1);
+}
+
+// Twenty looks' patience, and a pulse at each half of one.
+TEST_F(WatchdogTest, LeavesALoopAloneThatRuns) {
+  Watchdog dog(100, 20, [this] { ++bites_; });
+  QEventLoop loop;
+  QTimer::singleShot(400, &loop, &QEventLoop::quit);
+  loop.exec();
+  EXPECT_EQ(bites_, 0);
+}
+
+}  // namespace
+}  // namespace tavi
