@@ -23,7 +23,7 @@ TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument).resolve() for argument i
 BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
 HERE = Path(__file__).parent
 QEMU = "qemu-system-x86_64"
-BOOT_SECONDS = 220
+BOOT_SECONDS = 400
 LIBINPUT = KERNEL / "libinput"
 
 # The shooter with two gestures more: a chord, and a pinch by a key.
