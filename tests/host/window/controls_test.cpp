@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QThread>
 #include <QTimer>
@@ -228,6 +229,18 @@ TEST_F(Dialogs, AQuestion) {
 }
 
 // How Tab goes through it is Qt's, or the desktop's.
+TEST_F(Dialogs, EnterLosesNothing) {
+  Use(
+      [this] {
+        AskIn(Window())(QString(), {{QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
+      },
+      [](QWidget* dialog) {
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        ASSERT_NE(box, nullptr);
+        EXPECT_TRUE(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel))->isDefault());
+      });
+}
+
 TEST_F(Dialogs, TheNameOfAFile) {
   Use(
       [this] {
