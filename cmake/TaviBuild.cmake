@@ -18,6 +18,20 @@ if(PROJECT_IS_TOP_LEVEL AND TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${TAVI_CCACHE})
 endif()
 
+# The Qt that all is built on. One build has one: neither its headers nor its libraries go with the other's.
+if(TAVI_QT EQUAL 5)
+  set(TAVI_QT_LEAST 5.15)
+elseif(TAVI_QT EQUAL 6)
+  set(TAVI_QT_LEAST 6.4)
+else()
+  message(FATAL_ERROR "TAVI_QT is 5 or 6, not \"${TAVI_QT}\"")
+endif()
+
+# A macro, since Qt leaves variables that its moc is found by.
+macro(tavi_find_qt)
+  find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
+endmacro()
+
 set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
 # Shared libraries, unless static ones are asked for. No cache entry: it would decide for the project around this one.
@@ -82,9 +96,15 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header.
+# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header, and what one Qt does otherwise than the
+# other in pairs *_qt5.cpp, *_qt6.cpp. A file can be of both: *_qt6_posix.cpp.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
+  if(TAVI_QT EQUAL 5)
+    list(FILTER files EXCLUDE REGEX "_qt6(_posix)?\\.cpp$")
+  else()
+    list(FILTER files EXCLUDE REGEX "_qt5(_posix)?\\.cpp$")
+  endif()
   if(WIN32)
     list(FILTER files EXCLUDE REGEX "_posix\\.cpp$")
   else()
