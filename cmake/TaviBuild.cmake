@@ -18,11 +18,16 @@ if(PROJECT_IS_TOP_LEVEL AND TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${TAVI_CCACHE})
 endif()
 
-# The Qt that all is built on. One build has one: neither its headers nor its libraries go with the other's.
+# The Qt that all is built on. One build has one: neither its headers nor its libraries go with the other's. What one does
+# otherwise than the other stands in pairs of headers, "qt/x.h", in qt/5 and qt/6.
 if(TAVI_QT EQUAL 5)
   set(TAVI_QT_LEAST 5.15)
+  set(TAVI_QT_PACKAGE qtbase5-dev)  # Debian's
+  set(TAVI_QT_VECTOR QVector)  # what the compiler calls one
 elseif(TAVI_QT EQUAL 6)
   set(TAVI_QT_LEAST 6.4)
+  set(TAVI_QT_PACKAGE qt6-base-dev)
+  set(TAVI_QT_VECTOR QList)
 else()
   message(FATAL_ERROR "TAVI_QT is 5 or 6, not \"${TAVI_QT}\"")
 endif()
@@ -57,6 +62,7 @@ function(tavi_target_defaults target)
       -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
   endif()
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/qt/${TAVI_QT})
   tavi_open_for_mutants(${target})
   get_target_property(type ${target} TYPE)
   if(TAVI_SANITIZE AND type STREQUAL EXECUTABLE)
@@ -96,15 +102,9 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header, and what one Qt does otherwise than the
-# other in pairs *_qt5.cpp, *_qt6.cpp. A file can be of both: *_qt6_posix.cpp.
+# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
-  if(TAVI_QT EQUAL 5)
-    list(FILTER files EXCLUDE REGEX "_qt6(_posix)?\\.cpp$")
-  else()
-    list(FILTER files EXCLUDE REGEX "_qt5(_posix)?\\.cpp$")
-  endif()
   if(WIN32)
     list(FILTER files EXCLUDE REGEX "_posix\\.cpp$")
   else()

@@ -7,9 +7,9 @@
 #include <QCursor>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QTouchEvent>
+
+#include "guest_events.h"
 
 namespace tavi = taviinputmanager;
 
@@ -109,7 +109,7 @@ bool GuestView::event(QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd: SendTouch(*static_cast<QTouchEvent*>(event)); return true;
-    case QEvent::TouchCancel: SendTouch(QTouchEvent(QEvent::TouchEnd)); return true;
+    case QEvent::TouchCancel: SendTouch(TouchEnd()); return true;
     default: return QWidget::event(event);
   }
 }
@@ -145,22 +145,12 @@ QPointF GuestView::ToGuest(const QPointF& place) const {
 }
 
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
-  QMouseEvent converted(type, ToGuest(event.localPos()), event.windowPos(), event.screenPos(), event.button(),
-                        event.buttons(), event.modifiers());
+  QMouseEvent converted = MouseForGuest(type, event, [this](const QPointF& place) { return ToGuest(place); });
   tavi::OnQtInputEvent(&converted);
 }
 
-// The library goes by which fingers are there. Qt lists one that goes up once more, and then says nothing for as long
-// as the others rest.
 void GuestView::SendTouch(const QTouchEvent& event) {
-  QList<QTouchEvent::TouchPoint> points;
-  for (QTouchEvent::TouchPoint point : event.touchPoints()) {
-    if (point.state() == Qt::TouchPointReleased) continue;
-    point.setPos(ToGuest(point.pos()));
-    points.append(point);
-  }
-  QTouchEvent converted(event);
-  converted.setTouchPoints(points);
+  QTouchEvent converted = TouchForGuest(event, [this](const QPointF& place) { return ToGuest(place); });
   tavi::OnQtInputEvent(&converted);
 }
 
@@ -185,7 +175,7 @@ void GuestView::wheelEvent(QWheelEvent* event) {
 // here the pointer is put back to the middle after each move.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
   if (!captured_) return SendMouse(event->type(), *event);
-  const QPoint counts = event->pos() - rect().center();
+  const QPoint counts = PlaceOf(*event).toPoint() - rect().center();
   if (counts.isNull()) return;  // the move that put it back
   tavi::OnWindowsWmRelativeInputEvent(counts.x(), counts.y());
   QCursor::setPos(mapToGlobal(rect().center()));
@@ -201,7 +191,7 @@ void GuestView::SetCaptured(bool captured) {
 void GuestView::focusOutEvent(QFocusEvent* event) {
   if (!tavi::isInputHoldWhenWindowDeactivate()) {
     tavi::OnResetInputStatus(true, kDisplay);
-    SendTouch(QTouchEvent(QEvent::TouchEnd));  // which a reset leaves alone
+    SendTouch(TouchEnd());  // which a reset leaves alone
   }
   SetCaptured(false);
   QWidget::focusOutEvent(event);

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStringList>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "host/session/live_host.h"
@@ -12,6 +11,8 @@
 #include "keymap/keymap_functions.h"
 #include "keymap/keywords.h"
 #include "keymapmanager/key_names.h"
+#include "qt/mouse_events.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/joystick_event.h"
 
 namespace tavi {
@@ -49,7 +50,7 @@ HostEvent DescribeKey(const QKeyEvent& event) {
 
 HostEvent DescribeMouse(const QMouseEvent& event) {
   HostEvent result;
-  result.place = FractionOf(event.localPos());
+  result.place = FractionOf(qt::PlaceOf(event));
   if (event.type() == QEvent::MouseMove) {
     result.kind = Kind::kMove;
     result.text = QStringLiteral("move to ") + PlaceText(*result.place);
@@ -79,10 +80,10 @@ HostEvent DescribeTouch(const QTouchEvent& event) {
   HostEvent result;
   result.kind = event.type() == QEvent::TouchUpdate ? Kind::kMove : Kind::kTouch;
   QStringList places;
-  for (const QTouchEvent::TouchPoint& point : event.touchPoints()) {
-    places += QStringLiteral("%1: %2").arg(point.id()).arg(PlaceText(FractionOf(point.pos())));
+  for (const qt::TouchPoint& point : qt::PointsOf(event)) {
+    places += QStringLiteral("%1: %2").arg(point.id()).arg(PlaceText(FractionOf(qt::PlaceOf(point))));
   }
-  if (!event.touchPoints().isEmpty()) result.place = FractionOf(event.touchPoints().first().pos());
+  if (!qt::PointsOf(event).isEmpty()) result.place = FractionOf(qt::PlaceOf(qt::PointsOf(event).first()));
   result.text = QStringLiteral("touch ") + places.join(QStringLiteral("; "));
   return result;
 }

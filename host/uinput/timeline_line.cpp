@@ -9,9 +9,9 @@ std::optional<TimedLine> ReadTimelineLine(const QString& line) {
                                        QRegularExpression::DotMatchesEverythingOption);
   const QRegularExpressionMatch match = form.match(line);
   if (!match.hasMatch()) return std::nullopt;
-  const QStringRef mark = match.capturedRef(2);
+  const QStringView mark = match.capturedView(2);
   const SentLine sent{mark == QLatin1String("text "), match.captured(3)};
-  return TimedLine{match.capturedRef(1).toInt(), mark == QLatin1String("! "), sent};
+  return TimedLine{match.capturedView(1).toInt(), mark == QLatin1String("! "), sent};
 }
 
 }  // namespace tavi

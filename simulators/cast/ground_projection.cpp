@@ -28,7 +28,7 @@ bool DescribesView(const SpellConfigItem& item) {
 }  // namespace
 
 std::optional<GroundView> GroundView::Parse(const QString& text) {
-  const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+  const QList<QStringView> parts = QStringView(text).split(QLatin1Char(','));
   if (parts.size() != kCells) return std::nullopt;
   GroundView view;
   for (int row = 0; row < kRows; ++row) {

@@ -9,6 +9,7 @@
 #include "core/display_geometry.h"
 #include "core/numbers.h"
 #include "core/pixels.h"
+#include "qt/mouse_events.h"
 #include "slots/mouse_swipehold_slot_manager.h"
 
 namespace taviinputmanager {
@@ -22,7 +23,7 @@ constexpr double kWalkMsPerRadius = 1000;  // of a short click, before the item'
 
 // From the character to the pointer, in fractions of the display.
 QPointF WayOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
-  const QPointF pointer = RoundedPoint(event->localPos());
+  const QPointF pointer = RoundedPoint(qt::PlaceOf(*event));
   return {pointer.x() / display.width() - item.character_rel_x, pointer.y() / display.height() - item.character_rel_y};
 }
 

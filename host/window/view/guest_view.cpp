@@ -7,13 +7,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "host/look/theme.h"
 #include "host/session/input_port.h"
 #include "host/session/live_host.h"
 #include "host/session/native_key.h"
+#include "qt/mouse_events.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -135,10 +136,13 @@ bool GuestView::HandleTouch(QEvent* event) {
     ReleaseInput();
     return true;
   }
-  QTouchEvent touch(*static_cast<QTouchEvent*>(event));
-  QList<QTouchEvent::TouchPoint> points = touch.touchPoints();
-  for (QTouchEvent::TouchPoint& point : points) point.setPos(ToGuest(point.pos()));
-  touch.setTouchPoints(points);
+  const auto& told = *static_cast<QTouchEvent*>(event);
+  QList<qt::TouchPoint> points;
+  for (const qt::TouchPoint& point : qt::PointsOf(told)) {
+    points.append(qt::MakeTouchPoint(point.id(), qt::StateOf(point), ToGuest(qt::PlaceOf(point))));
+  }
+  QTouchEvent touch = qt::MakeTouchEvent(told.type(), told.modifiers(), points);
+  touch.setTimestamp(told.timestamp());
   Send(&touch);
   return true;
 }
@@ -162,7 +166,7 @@ void GuestView::SendWay(int dx, int dy) {
 
 // A drag may leave the view; a finger stays on the glass.
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
-  const QPointF inside = ClampTo(rect(), event.localPos());
+  const QPointF inside = ClampTo(rect(), qt::PlaceOf(event));
   QMouseEvent clamped(type, ToGuest(inside), mapTo(window(), inside.toPoint()), mapToGlobal(inside.toPoint()),
                       event.button(), event.buttons(), event.modifiers());
   Send(&clamped);

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "host/uinput/timeline_line.h"
 
@@ -31,11 +32,13 @@ class LineLogTest : public testing::Test {
     return log_->Text().toStdString();
   }
 
+  const PlatformEvents events_;
   VirtualEventDispatcher* clock_;
 
  private:
-  static VirtualEventDispatcher* InstallClock() {
+  VirtualEventDispatcher* InstallClock() const {
     auto* clock = new VirtualEventDispatcher;
+    events_.DeliverBy(clock);
     QCoreApplication::setEventDispatcher(clock);
     return clock;
   }
