@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QWheelEvent>
 
+#include "host/guest/rounding.h"
 #include "host/session/live_host.h"
 #include "keymap/joystick_event.h"
 #include "keymap/keymap_functions.h"
@@ -29,7 +30,7 @@ QPointF FractionOf(const QPointF& place) {
   return {place.x() / qMax(1, view.width()), place.y() / qMax(1, view.height())};
 }
 
-QString NumberText(double value) { return QString::number(qRound(value * 1000) / 1000.0, 'g', kDigits + 3); }
+QString NumberText(double value) { return QString::number(Rounded(value * 1000) / 1000.0, 'g', kDigits + 3); }
 
 QString PlaceText(const QPointF& fraction) { return NumberText(fraction.x()) + ", " + NumberText(fraction.y()); }
 

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include "host/guest/rounding.h"
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymap/joystick_event.h"
@@ -135,7 +136,7 @@ void ScriptPlayer::TypeText(const QString& text) {
 
 void ScriptPlayer::MovePointer(const QPointF& point) {
   position_ = point;
-  clock_->SetPointer(QPoint(host_->window.x, host_->window.y) + point.toPoint());
+  clock_->SetPointer(QPoint(host_->window.x, host_->window.y) + Rounded(point));
 }
 
 void ScriptPlayer::SendMouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button) {

@@ -3,6 +3,7 @@
 #include <linux/input.h>
 
 #include "host/guest/guest_line.h"
+#include "host/guest/rounding.h"
 #include "host/uinput/device_description.h"
 #include "host/uinput/gamepad_axes.h"
 #include "host/uinput/text_typing.h"
@@ -76,7 +77,7 @@ KernelEvents GuestTranslator::MovePointer(const QPoint& place) const {
 
 // The wheel turns where the pointer is, so that goes there first. Coarse steps are sent as fine ones complete them.
 KernelEvents GuestTranslator::TurnWheel(const GuestLine& line) {
-  const int parts = qRound(NotchesOf(line) * kPartsOfNotch);
+  const int parts = Rounded(NotchesOf(line) * kPartsOfNotch);
   wheel_rest_ += parts;
   const int notches = wheel_rest_ / kPartsOfNotch;
   wheel_rest_ %= kPartsOfNotch;
