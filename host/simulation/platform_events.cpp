@@ -25,7 +25,11 @@ PlatformEvents::PlatformEvents() : dispatcher_(TakeDispatcher()) {}
 PlatformEvents::~PlatformEvents() = default;
 
 void PlatformEvents::DeliverBy(VirtualEventDispatcher* time) const {
-  time->AlsoDeliver([platform = dispatcher_.get()] { platform->processEvents(QEventLoop::AllEvents); });
+  time->AlsoDeliver([platform = dispatcher_.get()] {
+    // A round of glib's is one kind of events.
+    while (platform->processEvents(QEventLoop::AllEvents)) {
+    }
+  });
 }
 
 }  // namespace tavi
