@@ -10,7 +10,7 @@ set -euo pipefail
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
   libyaml-dev libsdl2-dev libevdev-dev)
 test=(groff-base libgtest-dev libxcb-xfixes0-dev libxcb-xtest0-dev python3 python3-jsonschema python3-yaml xvfb)
-qt6=(qt6-base-dev libgl-dev)
+qt6=(qt6-base-dev)
 docs=(doxygen)
 packaging=(debootstrap lintian dpkg-dev file)
 lint=(clang-format-14 clang-tidy-14)
