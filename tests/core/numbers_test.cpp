@@ -22,7 +22,7 @@ TEST(Numbers, RoundTakesHalvesUpwards) {
 }
 
 // As qRound of Qt 5 has it. That of Qt 6 turns halves away from zero. Eighths and their sums are exact.
-TEST(Numbers, RoundTakesHalvesUpwards) {
+TEST(Numbers, RoundIsThatOfQt5) {
   for (int i = -4000; i <= 4000; ++i) EXPECT_EQ(std::floor(i / 8.0 + 0.5), Round(i / 8.0)) << i / 8.0;
 }
 
