@@ -9,10 +9,16 @@ namespace tavi {
 
 namespace {
 
+constexpr char kWithoutGlib[] = "QT_NO_GLIB";  // a variable of Qt's
+
 std::unique_ptr<QAbstractEventDispatcher> TakeDispatcher() {
+  // Glib's delivers a part of what there is at each call, which part depends on what else is posted.
+  const QByteArray without_glib = qgetenv(kWithoutGlib);
+  qputenv(kWithoutGlib, "1");
   int argument_count = 0;
   char* arguments[] = {nullptr};
   const QGuiApplication application(argument_count, arguments);
+  without_glib.isNull() ? qunsetenv(kWithoutGlib) : qputenv(kWithoutGlib, without_glib);
   QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
   dispatcher->setParent(nullptr);  // else the application would take it along
   return std::unique_ptr<QAbstractEventDispatcher>(dispatcher);
@@ -25,11 +31,7 @@ PlatformEvents::PlatformEvents() : dispatcher_(TakeDispatcher()) {}
 PlatformEvents::~PlatformEvents() = default;
 
 void PlatformEvents::DeliverBy(VirtualEventDispatcher* time) const {
-  time->AlsoDeliver([platform = dispatcher_.get()] {
-    // A round of glib's is one kind of events.
-    while (platform->processEvents(QEventLoop::AllEvents)) {
-    }
-  });
+  time->AlsoDeliver([platform = dispatcher_.get()] { platform->processEvents(QEventLoop::AllEvents); });
 }
 
 }  // namespace tavi
