@@ -18,7 +18,11 @@ std::unique_ptr<QAbstractEventDispatcher> TakeDispatcher() {
   int argument_count = 0;
   char* arguments[] = {nullptr};
   const QGuiApplication application(argument_count, arguments);
-  without_glib.isNull() ? qunsetenv(kWithoutGlib) : qputenv(kWithoutGlib, without_glib);
+  if (without_glib.isNull()) {
+    qunsetenv(kWithoutGlib);
+  } else {
+    qputenv(kWithoutGlib, without_glib);
+  }
   QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
   dispatcher->setParent(nullptr);  // else the application would take it along
   return std::unique_ptr<QAbstractEventDispatcher>(dispatcher);
