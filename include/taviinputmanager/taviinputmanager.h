@@ -66,7 +66,8 @@ namespace taviinputmanager {
 
 // A Qt event of the guest view: keys, mouse buttons and moves, wheel, touch, input method. Positions are relative to
 // the view. Native scan codes are those of Windows with the extended bit as 0x100; converting is the host's duty. Other
-// types are dropped, and all before Initialize. Not kept after the call.
+// types are dropped, and all before Initialize. Not kept after the call. On Qt 6 a touch point that the host makes has no
+// device, and its place is the one in the scene.
 TAVI_EXPORT void OnQtInputEvent(QEvent* event);
 
 // A gamepad event (joystick_event.h). Other types are dropped, and all before Initialize. Not kept after the call.
