@@ -18,7 +18,7 @@ namespace {
 void SendMouse(QEvent::Type type, const QPointF& at) {
   const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
   const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-  QMouseEvent event(type, at, button, held, Qt::NoModifier);
+  QMouseEvent event(type, at, at, button, held, Qt::NoModifier);
   OnQtInputEvent(&event);
 }
 
@@ -32,7 +32,8 @@ void StartDrag() {
 }
 
 void Drag() {
-  static QMouseEvent event(QEvent::MouseMove, QPointF(641, 361), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  static QMouseEvent event(QEvent::MouseMove, QPointF(641, 361), QPointF(641, 361), Qt::NoButton, Qt::LeftButton,
+                           Qt::NoModifier);
   OnQtInputEvent(&event);
 }
 

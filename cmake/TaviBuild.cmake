@@ -18,6 +18,25 @@ if(PROJECT_IS_TOP_LEVEL AND TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${TAVI_CCACHE})
 endif()
 
+# The Qt that all is built on. One build has one: neither its headers nor its libraries go with the other's. What one does
+# otherwise than the other stands in pairs of headers, "qt/x.h", in qt/5 and qt/6.
+if(TAVI_QT EQUAL 5)
+  set(TAVI_QT_LEAST 5.15)
+  set(TAVI_QT_PACKAGE qtbase5-dev)  # Debian's
+  set(TAVI_QT_VECTOR QVector)  # what the compiler calls one
+elseif(TAVI_QT EQUAL 6)
+  set(TAVI_QT_LEAST 6.4)
+  set(TAVI_QT_PACKAGE qt6-base-dev)
+  set(TAVI_QT_VECTOR QList)
+else()
+  message(FATAL_ERROR "TAVI_QT is 5 or 6, not \"${TAVI_QT}\"")
+endif()
+
+# A macro, since Qt leaves variables that its moc is found by.
+macro(tavi_find_qt)
+  find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
+endmacro()
+
 set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
 # Shared libraries, unless static ones are asked for. No cache entry: it would decide for the project around this one.
@@ -43,6 +62,7 @@ function(tavi_target_defaults target)
       -fno-sanitize-recover=all)
     target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
   endif()
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/qt/${TAVI_QT})
   tavi_open_for_mutants(${target})
   get_target_property(type ${target} TYPE)
   if(TAVI_SANITIZE AND type STREQUAL EXECUTABLE)
@@ -82,7 +102,8 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header.
+# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header, and so does what a Qt has its own way of,
+# *_qt5.cpp and *_qt6.cpp.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
   if(WIN32)
@@ -90,5 +111,7 @@ function(tavi_exclude_other_platforms list_name)
   else()
     list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
   endif()
+  math(EXPR other_qt "11 - ${TAVI_QT}")
+  list(FILTER files EXCLUDE REGEX "_qt${other_qt}\\.cpp$")
   set(${list_name} ${files} PARENT_SCOPE)
 endfunction()

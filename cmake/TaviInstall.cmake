@@ -82,7 +82,7 @@ function(tavi_install_pkg_config name description requires private_libraries)
 endfunction()
 
 list(JOIN tavi_libyaml_LDFLAGS " " libyaml_flags)
-tavi_install_pkg_config(tavi-keymapmanager "Keymap files to records, key names, diagnostics" "Qt5Core Qt5Gui"
+tavi_install_pkg_config(tavi-keymapmanager "Keymap files to records, key names, diagnostics" "Qt${TAVI_QT}Core >= ${TAVI_QT_LEAST} Qt${TAVI_QT}Gui >= ${TAVI_QT_LEAST}"
   "${libyaml_flags}")
 tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapmanager"
   "-lPocoJSON -lPocoFoundation")

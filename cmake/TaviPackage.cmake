@@ -49,7 +49,8 @@ This package holds the input layer and the library that reads keymap files.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtaviinputmanager-dev)
 tavi_package_section(DEVELOPMENT libdevel same)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${package_version}), qtbase5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+  "${runtime_package} (= ${package_version}), ${TAVI_QT_PACKAGE} (>= ${TAVI_QT_LEAST})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "tavi")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake, pkg-config")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "input layer of front ends for Android guests: development files

@@ -8,12 +8,12 @@
 #define CORE_GUEST_COMMAND_H_
 
 #include <QString>
+#include <QStringList>
 #include <QVarLengthArray>
 
 #include "core/line_buffer.h"
 
 class QPointF;
-class QStringList;
 
 namespace taviinputmanager::guest_command {
 

@@ -13,10 +13,13 @@ class VirtualMouseEvent final : public QMouseEvent {
   // A mouse event of any form, with slot_index 0. Positions in window pixels; `buttons` are those held after the event.
   using QMouseEvent::QMouseEvent;
 
-  // The short form, and the pointer behind it.
+  // The short form, with the pointer behind it or without. On the screen it has the same place: nobody asks for that.
+  VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
+                    Qt::KeyboardModifiers modifiers)
+      : VirtualMouseEvent(type, position, button, buttons, modifiers, qint64{0}) {}
   VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
                     Qt::KeyboardModifiers modifiers, qint64 slot_index)
-      : QMouseEvent(type, position, button, buttons, modifiers), slot_index(slot_index) {}
+      : QMouseEvent(type, position, position, button, buttons, modifiers), slot_index(slot_index) {}
 
   // Without modifiers. A template, so that a modifier, which converts to any number, is not taken for a pointer.
   template <typename Slot, typename = std::enable_if_t<std::is_integral_v<Slot>>>

@@ -153,7 +153,7 @@ void InputManager::DispatchVirtualMouse(qint64 id, int code, bool press, const Q
     VirtualMouseEvent event(type, point, button, held, id);
     return OnQtInputEvent(&event);
   }
-  QMouseEvent event(type, point, button, held, Qt::NoModifier);
+  QMouseEvent event(type, point, point, button, held, Qt::NoModifier);
   OnQtInputEvent(&event);
 }
 

@@ -5,13 +5,13 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "fuzz/fuzz_keymaps.h"
 #include "fuzz/session.h"
 #include "host/simulation/simulated_host.h"
 #include "keymap/joystick_event.h"
+#include "qt/touch_events.h"
 #include "tests/support/keymap_source.h"
 
 namespace taviinputmanager::fuzz {
@@ -157,7 +157,7 @@ void EventPlayer::PlayMouse(QEvent::Type type, const EventCode& code) {
   const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : ButtonOf(code.a);
   buttons_.setFlag(button, type != QEvent::MouseButtonRelease);
   Time().SetPointer(PointOf(code).toPoint());
-  QMouseEvent event(type, PointOf(code), button, buttons_, Qt::NoModifier);
+  QMouseEvent event(type, PointOf(code), PointOf(code), button, buttons_, Qt::NoModifier);
   OnQtInputEvent(&event);
 }
 
@@ -169,14 +169,12 @@ void EventPlayer::PlayWheel(const EventCode& code) {
 }
 
 void EventPlayer::PlayTouch(QEvent::Type type, const EventCode& code) {
-  QList<QTouchEvent::TouchPoint> points;
+  QList<qt::TouchPoint> points;
   for (int i = 0; i < code.a % 16; ++i) {
-    QTouchEvent::TouchPoint point((i * 3 + code.a / 16) % 32);
-    point.setPos(PointOf(code) + QPointF(i, i) * 17);
-    point.setState(static_cast<Qt::TouchPointState>(1 << ((code.a >> 4) + i) % 4));
-    points.append(point);
+    const auto state = static_cast<Qt::TouchPointState>(1 << ((code.a >> 4) + i) % 4);
+    points.append(qt::MakeTouchPoint((i * 3 + code.a / 16) % 32, state, PointOf(code) + QPointF(i, i) * 17));
   }
-  QTouchEvent event(type, nullptr, Qt::NoModifier, Qt::TouchPointMoved, points);
+  QTouchEvent event = qt::MakeTouchEvent(type, Qt::NoModifier, points);
   OnQtInputEvent(&event);
 }
 

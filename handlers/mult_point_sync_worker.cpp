@@ -15,37 +15,37 @@ MultPointSyncWorker* MultPointSyncWorker::GetInstance() {
 void MultPointSyncWorker::OnTouchEvent(QTouchEvent* event) {
   events_.Begin();
   switch (event->type()) {
-    case QEvent::TouchBegin: return Begin(event->touchPoints());
-    case QEvent::TouchUpdate: return Update(event->touchPoints());
+    case QEvent::TouchBegin: return Begin(qt::PointsOf(*event));
+    case QEvent::TouchUpdate: return Update(qt::PointsOf(*event));
     default: return ReleaseExcept({});
   }
 }
 
-void MultPointSyncWorker::Begin(const QList<TouchPoint>& points) {
+void MultPointSyncWorker::Begin(const QList<qt::TouchPoint>& points) {
   const unsigned turn = events_.Current();
   touches_.clear();
-  for (const TouchPoint& point : points) {
-    Press(point, MultPointSlotManager::GetInstance()->Allocate(point.pos()));
+  for (const qt::TouchPoint& point : points) {
+    Press(point, MultPointSlotManager::GetInstance()->Allocate(qt::PlaceOf(point)));
     if (events_.IsOver(turn)) return;
   }
 }
 
-void MultPointSyncWorker::Update(const QList<TouchPoint>& points) {
+void MultPointSyncWorker::Update(const QList<qt::TouchPoint>& points) {
   const unsigned turn = events_.Current();
   QSet<int> present;
-  for (const TouchPoint& point : points) present.insert(point.id());
+  for (const qt::TouchPoint& point : points) present.insert(point.id());
   ReleaseExcept(present);
-  for (const TouchPoint& point : points) {
+  for (const qt::TouchPoint& point : points) {
     if (events_.IsOver(turn)) return;
     Press(point, SlotFor(point));
   }
 }
 
-int MultPointSyncWorker::SlotFor(const TouchPoint& point) {
+int MultPointSyncWorker::SlotFor(const qt::TouchPoint& point) {
   MultPointSlotManager* pool = MultPointSlotManager::GetInstance();
   const auto known = touches_.constFind(point.id());
-  if (known == touches_.constEnd()) return pool->Allocate(point.pos());
-  pool->SetPoint(known.value(), point.pos());
+  if (known == touches_.constEnd()) return pool->Allocate(qt::PlaceOf(point));
+  pool->SetPoint(known.value(), qt::PlaceOf(point));
   return known.value();
 }
 
@@ -65,12 +65,13 @@ void MultPointSyncWorker::ReleaseExcept(const QSet<int>& kept) {
   }
 }
 
-void MultPointSyncWorker::Press(const TouchPoint& point, int slot) {
+void MultPointSyncWorker::Press(const qt::TouchPoint& point, int slot) {
   if (slot == SlotManager::kNoSlot) return;  // every finger of the guest is down
   const unsigned turn = events_.Current();
   touches_.insert(point.id(), slot);
-  int x = Truncate(point.pos().x());
-  int y = Truncate(point.pos().y());
+  const QPointF place = qt::PlaceOf(point);
+  int x = Truncate(place.x());
+  int y = Truncate(place.y());
   DisplayGeometry::GetInstance()->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition || events_.IsOver(turn)) return;
   SendEvent(guest_command::SlotMultiPress({{slot, x, y}}));

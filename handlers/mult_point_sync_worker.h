@@ -4,10 +4,10 @@
 
 #include <QMap>
 #include <QSet>
-#include <QTouchEvent>
 
 #include "core/event_handler.h"
 #include "core/turns.h"
+#include "qt/touch_events.h"
 
 namespace taviinputmanager {
 
@@ -26,18 +26,16 @@ class MultPointSyncWorker : public EventHandler {
   void OnTouchEvent(QTouchEvent* event);
 
  private:
-  using TouchPoint = QTouchEvent::TouchPoint;
-
   MultPointSyncWorker() = default;
 
-  void Begin(const QList<TouchPoint>& points);
-  void Update(const QList<TouchPoint>& points);
+  void Begin(const QList<qt::TouchPoint>& points);
+  void Update(const QList<qt::TouchPoint>& points);
   // The slot that the point has, moved there, or one from the pool; may be none.
-  int SlotFor(const TouchPoint& point);
+  int SlotFor(const qt::TouchPoint& point);
   // Releases every known point that is not in `kept`, in ascending order of their ids.
   void ReleaseExcept(const QSet<int>& kept);
   // `slot` may be none.
-  void Press(const TouchPoint& point, int slot);
+  void Press(const qt::TouchPoint& point, int slot);
 
   QMap<int, int> touches_;  // from touch point id to slot
   Turns events_;

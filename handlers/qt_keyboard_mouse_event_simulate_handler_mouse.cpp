@@ -9,6 +9,7 @@
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "keymap/config_item.h"
 #include "keymap/keymap_functions.h"
+#include "qt/mouse_events.h"
 #include "simulators/view/staring_and_fire_event_simulator.h"
 #include "simulators/walk/right_walk_event_simulator.h"
 #include "slots/macro_slot_manager.h"
@@ -108,7 +109,7 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
 void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
   const auto finger = FingerOf(event);
   if (!finger) return;  // the pool is empty: the press is given up
-  finger->position = RoundedPoint(event->localPos());
+  finger->position = RoundedPoint(qt::PlaceOf(*event));
   SendEvent(finger->UpdateLine());
 }
 

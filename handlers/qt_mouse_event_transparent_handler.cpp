@@ -5,6 +5,7 @@
 #include "core/clock.h"
 #include "core/pixels.h"
 #include "handlers/mouse_transparent_manager.h"
+#include "qt/mouse_events.h"
 
 namespace taviinputmanager {
 
@@ -39,7 +40,7 @@ void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
 }
 
 void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) {
-  const QPoint position = RoundedPoint(event->localPos());
+  const QPoint position = RoundedPoint(qt::PlaceOf(*event));
   UpdatePosition(position.x(), position.y());
 }
 

@@ -10,11 +10,11 @@
 #include "core/keymap_access.h"
 #include "core/numbers.h"
 #include "core/pixels.h"
-#include "core/wheel_event.h"
 #include "handlers/simulator_table.h"
 #include "handlers/single_key_item.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
+#include "qt/wheel_events.h"
 #include "simulators/curve/curve_event_simulator.h"
 #include "simulators/wheel/qt_wheel_event_async_worker.h"
 #include "simulators/wheel/qt_wheel_event_zoom_worker.h"
@@ -29,7 +29,7 @@ namespace {
 constexpr int kNotchTapMs = 50;  // how long the finger of a mapped notch is down
 
 ConfigKey KeyOf(const QWheelEvent* event) {
-  const int code = WheelDelta(event) > 0 ? tavikeymapmanager::kWheelUpCode : tavikeymapmanager::kWheelDownCode;
+  const int code = qt::TurnOf(*event) > 0 ? tavikeymapmanager::kWheelUpCode : tavikeymapmanager::kWheelDownCode;
   return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, -1, code);
 }
 
@@ -63,7 +63,7 @@ void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
   const QPoint position = RoundedPoint(event->position());
   int x = position.x();
   int y = position.y();
-  const int direction = WheelDelta(event) > 0 ? 1 : -1;
+  const int direction = qt::TurnOf(*event) > 0 ? 1 : -1;
   DisplayGeometry::GetInstance()->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
   SendEvent(guest_command::Wheel(x, y, Truncate(static_cast<double>(direction) * x), y));

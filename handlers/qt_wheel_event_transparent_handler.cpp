@@ -9,8 +9,8 @@
 #include "core/guest_command.h"
 #include "core/numbers.h"
 #include "core/pixels.h"
-#include "core/wheel_event.h"
 #include "handlers/mouse_transparent_manager.h"
+#include "qt/wheel_events.h"
 
 namespace taviinputmanager {
 namespace {
@@ -37,7 +37,7 @@ QtWheelEventTransparentHandler* QtWheelEventTransparentHandler::GetInstance() {
 
 void QtWheelEventTransparentHandler::OnWheel(QWheelEvent* event, bool transparent_pointer, double delta,
                                              int use_delta) {
-  const int direction = WheelDelta(event) > 0 ? 1 : -1;
+  const int direction = qt::TurnOf(*event) > 0 ? 1 : -1;
   const std::optional<QPoint> point = WheelPoint(event, transparent_pointer);
   if (!point) return;
   const DisplayGeometry* geometry = DisplayGeometry::GetInstance();

@@ -21,7 +21,7 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-using Parts = QVarLengthArray<QStringRef, 16>;  // of a line, between its colons; the word is part 0
+using Parts = QVarLengthArray<QStringView, 16>;  // of a line, between its colons; the word is part 0
 
 constexpr QLatin1Char kColon(':');
 
@@ -29,10 +29,10 @@ Parts PartsOf(const QString& command) {
   Parts parts;
   int start = 0;
   for (int colon = command.indexOf(kColon); colon >= 0; colon = command.indexOf(kColon, start)) {
-    parts.append(command.midRef(start, colon - start));
+    parts.append(QStringView(command).mid(start, colon - start));
     start = colon + 1;
   }
-  parts.append(command.midRef(start));
+  parts.append(QStringView(command).mid(start));
   return parts;
 }
 
@@ -43,7 +43,7 @@ QString Joined(QLatin1String word, const QString& argument) {
 }
 
 // Appends a colon and the point of two coordinates. False on a display without size, where there are no fractions.
-bool AppendPoint(const QStringRef& x, const QStringRef& y, LineBuffer* data) {
+bool AppendPoint(const QStringView& x, const QStringView& y, LineBuffer* data) {
   const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x.toInt(), y.toInt()));
   if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return false;
   WritePoint(point, &data->Byte(':'));
@@ -51,7 +51,7 @@ bool AppendPoint(const QStringRef& x, const QStringRef& y, LineBuffer* data) {
 }
 
 // A word and a point.
-bool TakePoint(QLatin1String word, const QStringRef& x, const QStringRef& y, RecordAction* action) {
+bool TakePoint(QLatin1String word, const QStringView& x, const QStringView& y, RecordAction* action) {
   LineBuffer data;
   if (!AppendPoint(x, y, &data.Text(word))) return false;
   action->data = data.ToString();

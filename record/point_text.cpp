@@ -2,7 +2,7 @@
 
 #include <QPointF>
 #include <QString>
-#include <QVector>
+#include <QStringView>
 
 #include "core/line_buffer.h"
 
@@ -20,7 +20,7 @@ void WritePoint(const QPointF& point, LineBuffer* text) {
 
 QPointF ReadPoint(const QString& text) {
   if (!text.startsWith(QLatin1Char('(')) || !text.endsWith(QLatin1Char(')'))) return {};
-  const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+  const QList<QStringView> parts = QStringView(text).split(QLatin1Char(','));
   if (parts.size() != 2) return {};
   return {parts.at(0).mid(1).toDouble(), parts.at(1).chopped(1).toDouble()};
 }

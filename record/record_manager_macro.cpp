@@ -8,8 +8,9 @@
 
 #include "core/display_geometry.h"
 #include "core/pixels.h"
-#include "core/wheel_event.h"
 #include "keymap/keymap_functions.h"
+#include "qt/mouse_events.h"
+#include "qt/wheel_events.h"
 #include "record/point_text.h"
 #include "record/record_format.h"
 #include "record/record_manager.h"
@@ -26,7 +27,7 @@ QString Instruction(const char* word, int argument) {
   return QLatin1String(word) + QLatin1Char(':') + QString::number(argument);
 }
 
-QPoint PositionOf(const QEvent* mouse) { return RoundedPoint(static_cast<const QMouseEvent*>(mouse)->localPos()); }
+QPoint PositionOf(const QEvent* mouse) { return RoundedPoint(qt::PlaceOf(*static_cast<const QMouseEvent*>(mouse))); }
 
 }  // namespace
 
@@ -48,7 +49,7 @@ void RecordManager::CaptureEvent(QEvent* event) {
     case QEvent::Wheel: {
       const auto* wheel = static_cast<QWheelEvent*>(event);
       AddMacroMove(RoundedPoint(wheel->position()));
-      const int delta = WheelDelta(wheel);
+      const int delta = qt::TurnOf(*wheel);
       return AddMacroAction(Instruction(delta > 0 ? "vmouse_wheelup" : "vmouse_wheeldown", delta));
     }
     case QEvent::KeyPress:

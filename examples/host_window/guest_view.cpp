@@ -7,9 +7,9 @@
 #include <QCursor>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QTouchEvent>
+
+#include "guest_events.h"
 
 namespace tavi = taviinputmanager;
 
@@ -109,7 +109,7 @@ bool GuestView::event(QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd: SendTouch(*static_cast<QTouchEvent*>(event)); return true;
-    case QEvent::TouchCancel: SendTouch(QTouchEvent(QEvent::TouchEnd)); return true;
+    case QEvent::TouchCancel: SendTouch(TouchEnd()); return true;
     default: return QWidget::event(event);
   }
 }
@@ -145,22 +145,14 @@ QPointF GuestView::ToGuest(const QPointF& position) const {
 }
 
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
-  QMouseEvent converted(type, ToGuest(event.localPos()), event.windowPos(), event.screenPos(), event.button(),
-                        event.buttons(), event.modifiers());
+  QMouseEvent converted = MouseForGuest(type, event, [this](const QPointF& place) { return ToGuest(place); });
   tavi::OnQtInputEvent(&converted);
 }
 
 // The library compares which contacts are there. Qt lists a lifted one once more, and then sends nothing for as long as
 // the others do not move.
 void GuestView::SendTouch(const QTouchEvent& event) {
-  QList<QTouchEvent::TouchPoint> points;
-  for (QTouchEvent::TouchPoint point : event.touchPoints()) {
-    if (point.state() == Qt::TouchPointReleased) continue;
-    point.setPos(ToGuest(point.pos()));
-    points.append(point);
-  }
-  QTouchEvent converted(event);
-  converted.setTouchPoints(points);
+  QTouchEvent converted = TouchForGuest(event, [this](const QPointF& place) { return ToGuest(place); });
   tavi::OnQtInputEvent(&converted);
 }
 
@@ -186,7 +178,7 @@ void GuestView::wheelEvent(QWheelEvent* event) {
 // when two events are merged, a fast pointer may leave the view, and on Wayland the pointer cannot be moved at all.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
   if (!captured_) return SendMouse(event->type(), *event);
-  const QPoint counts = event->pos() - rect().center();
+  const QPoint counts = PlaceOf(*event).toPoint() - rect().center();
   if (counts.isNull()) return;  // the move that put the pointer back
   tavi::OnWindowsWmRelativeInputEvent(counts.x(), counts.y());
   QCursor::setPos(mapToGlobal(rect().center()));
@@ -202,7 +194,7 @@ void GuestView::SetCaptured(bool captured) {
 void GuestView::focusOutEvent(QFocusEvent* event) {
   if (!tavi::isInputHoldWhenWindowDeactivate()) {
     tavi::OnResetInputStatus(true, kDisplay);
-    SendTouch(QTouchEvent(QEvent::TouchEnd));  // a reset does not lift touches
+    SendTouch(TouchEnd());  // a reset does not lift touches
   }
   SetCaptured(false);
   QWidget::focusOutEvent(event);

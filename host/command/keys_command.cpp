@@ -69,7 +69,7 @@ Cells CellsOf(const KeyRow& row) {
 QString TableText(const QVector<Cells>& table) {
   QVector<int> widths(table.first().size());
   for (const Cells& cells : table) {
-    for (int i = 0; i < cells.size(); ++i) widths[i] = std::max(widths[i], cells[i].size());
+    for (int i = 0; i < cells.size(); ++i) widths[i] = std::max<int>(widths[i], cells[i].size());
   }
   QString text;
   for (const Cells& cells : table) {

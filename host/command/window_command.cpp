@@ -25,6 +25,7 @@
 #include "host/window/target_button.h"
 #include "host/window/view/guest_display.h"
 #include "host/window/window_memory.h"
+#include "qt/high_dpi.h"
 
 namespace tavi {
 
@@ -415,8 +416,7 @@ int Run(const Invocation& invocation) {
   }
   GoOnWithoutReader();
   SetCleanUp({});  // signals have a thread of their own, which begins before the window system's
-  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  qt::FollowScreens();
   QApplication application(invocation.argc, invocation.argv);
   // The application has taken out what is Qt's own, such as -platform.
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));

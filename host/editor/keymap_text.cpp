@@ -316,7 +316,7 @@ PartWritten KeymapText::WithNewBlock(const QByteArray& source) const {
   const QByteArray new_line = lines_.Break() + IndentationOf(before.name_range.begin);
   const QByteArray front = !is_in_braces ? new_line : has_own_line ? ',' + new_line : QByteArray(", ");
   const int at = is_in_braces ? before.value.end : EndWithComments(before.value.end, 1);
-  return {Inserted(at, front + source), at + front.size()};
+  return {Inserted(at, front + source), at + static_cast<int>(front.size())};
 }
 
 QByteArray KeymapText::InLines(const QString& source) const { return source.toUtf8().replace('\n', lines_.Break()); }

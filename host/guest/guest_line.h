@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVector>
 
+#include "host/guest/rounding.h"
+
 namespace tavi {
 
 struct GuestLine {
@@ -41,7 +43,7 @@ struct GuestLine {
   // Whole, and inside what an int holds.
   int Integer(int index) const { return static_cast<int>(Bounded(index)); }
   // The position of two numbers, the first at `index`.
-  QPoint PointAt(int index) const { return QPointF(Bounded(index), Bounded(index + 1)).toPoint(); }
+  QPoint PointAt(int index) const { return Rounded(QPointF(Bounded(index), Bounded(index + 1))); }
   double Bounded(int index) const { return qBound(-kHighest, numbers.at(index), kHighest); }
 
   static constexpr double kHighest = 0x7FFFFFFF;

@@ -185,7 +185,7 @@ class PictureWriter {
   }
 
   int LegendLines() const { return 1 + NotesCount() + PartLines(); }
-  int PartLines() const { return std::min(Paths().parts.size(), kMostParts + 1); }
+  int PartLines() const { return std::min<int>(Paths().parts.size(), kMostParts + 1); }
   int NotesCount() const { return Notes().size(); }
 
   QStringList Notes() const {

@@ -1,6 +1,6 @@
 #include "host/picture/svg_writer.h"
 
-#include <QVector>
+#include <string>
 
 namespace tavi {
 
@@ -8,12 +8,12 @@ namespace {
 
 // What no XML may hold becomes the sign for "no such character".
 QString Printable(const QString& text) {
-  QVector<uint> characters = text.toUcs4();  // halves of a pair that stand alone are replaced here
-  for (uint& character : characters) {
+  std::u32string characters = text.toStdU32String();  // halves of a pair that stand alone are replaced here
+  for (char32_t& character : characters) {
     const bool is_bad = character < ' ' || character == 0xFFFE || character == 0xFFFF;
-    if (is_bad) character = QChar::ReplacementCharacter;
+    if (is_bad) character = QChar(QChar::ReplacementCharacter).unicode();
   }
-  return QString::fromUcs4(characters.constData(), characters.size());
+  return QString::fromStdU32String(characters);
 }
 
 }  // namespace

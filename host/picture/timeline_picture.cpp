@@ -114,7 +114,7 @@ class TimelineWriter {
     };
     std::stable_sort(lanes_.begin(), lanes_.end(),
                      [&](const ChartLane* a, const ChartLane* b) { return key(a) < key(b); });
-    left_out_ = std::max(0, lanes_.size() - kMostLanes);
+    left_out_ = std::max<int>(0, lanes_.size() - kMostLanes);
     lanes_.resize(lanes_.size() - left_out_);
     return PageSize();
   }
@@ -246,7 +246,7 @@ class TimelineWriter {
       break;
     }
     const int letters = static_cast<int>((room - place.x()) / kLetter);
-    if (letters < std::min(4, text.size())) return text_end;
+    if (letters < std::min<int>(4, text.size())) return text_end;
     text = Shortened(text, letters);
     WriteSmall(place, text, kSoftInk);
     return place.x() + text.size() * kLetter;

@@ -25,7 +25,7 @@ bool RecordFile::HasErrors() const {
 }
 
 QString FormatFindings(const QString& name, const RecordFile& record) {
-  const int shown = std::min(record.findings.size(), kMostFindings);
+  const int shown = std::min<int>(record.findings.size(), kMostFindings);
   QString text;
   for (int i = 0; i < shown; ++i) text += FormatFinding(name, record.findings[i]);
   const int more = record.findings.size() - shown;

@@ -4,14 +4,16 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStringList>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
+#include "host/guest/rounding.h"
 #include "host/session/live_host.h"
 #include "keymap/joystick_event.h"
 #include "keymap/keymap_functions.h"
 #include "keymap/keywords.h"
 #include "keymapmanager/key_names.h"
+#include "qt/mouse_events.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/joystick_event.h"
 
 namespace tavi {
@@ -28,7 +30,7 @@ QPointF FractionOf(const QPointF& place) {
   return {place.x() / qMax(1, view.width()), place.y() / qMax(1, view.height())};
 }
 
-QString NumberText(double value) { return QString::number(qRound(value * 1000) / 1000.0, 'g', kDigits + 3); }
+QString NumberText(double value) { return QString::number(Rounded(value * 1000) / 1000.0, 'g', kDigits + 3); }
 
 QString PlaceText(const QPointF& fraction) { return NumberText(fraction.x()) + ", " + NumberText(fraction.y()); }
 
@@ -49,7 +51,7 @@ HostEvent DescribeKey(const QKeyEvent& event) {
 
 HostEvent DescribeMouse(const QMouseEvent& event) {
   HostEvent result;
-  result.place = FractionOf(event.localPos());
+  result.place = FractionOf(qt::PlaceOf(event));
   if (event.type() == QEvent::MouseMove) {
     result.kind = Kind::kMove;
     result.text = QStringLiteral("move to ") + PlaceText(*result.place);
@@ -79,10 +81,10 @@ HostEvent DescribeTouch(const QTouchEvent& event) {
   HostEvent result;
   result.kind = event.type() == QEvent::TouchUpdate ? Kind::kMove : Kind::kTouch;
   QStringList places;
-  for (const QTouchEvent::TouchPoint& point : event.touchPoints()) {
-    places += QStringLiteral("%1: %2").arg(point.id()).arg(PlaceText(FractionOf(point.pos())));
+  for (const qt::TouchPoint& point : qt::PointsOf(event)) {
+    places += QStringLiteral("%1: %2").arg(point.id()).arg(PlaceText(FractionOf(qt::PlaceOf(point))));
   }
-  if (!event.touchPoints().isEmpty()) result.place = FractionOf(event.touchPoints().first().pos());
+  if (!qt::PointsOf(event).isEmpty()) result.place = FractionOf(qt::PlaceOf(qt::PointsOf(event).first()));
   const bool is_end = event.type() == QEvent::TouchEnd;
   result.text = is_end ? QStringLiteral("touch ends") : QStringLiteral("touch ") + places.join(QStringLiteral("; "));
   return result;

@@ -11,6 +11,14 @@ namespace {
 
 constexpr int kWaitMs = 6;
 
+std::unique_ptr<QKeyEvent> CopyOf(const QKeyEvent& event) {
+  auto copy = std::make_unique<QKeyEvent>(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
+                                          event.nativeVirtualKey(), event.nativeModifiers(), event.text(),
+                                          event.isAutoRepeat(), static_cast<ushort>(event.count()));
+  copy->setTimestamp(event.timestamp());
+  return copy;
+}
+
 }  // namespace
 
 KeyRepeatFilter::KeyRepeatFilter(Sink sink, QObject* parent) : QObject(parent), sink_(std::move(sink)) {}
@@ -26,7 +34,7 @@ void KeyRepeatFilter::Take(const QKeyEvent& event) {
     return;
   }
   Flush();
-  auto copy = std::make_unique<QKeyEvent>(event);
+  auto copy = CopyOf(event);
   if (event.type() == QEvent::KeyRelease && !event.isAutoRepeat()) {
     pending_ = std::move(copy);
     is_last_pass_ = false;

@@ -5,13 +5,14 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
+#include "host/guest/rounding.h"
 #include "host/simulation/simulated_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymap/joystick_event.h"
 #include "keymapmanager/key_names.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -42,13 +43,6 @@ Qt::KeyboardModifier ModifierOf(int scancode) {
 }
 
 Qt::MouseButton ButtonOf(const ConfigKey& key) { return static_cast<Qt::MouseButton>(key.scancode); }
-
-QTouchEvent::TouchPoint MakeTouchPoint(const ScriptTouch& touch, Qt::TouchPointState state) {
-  QTouchEvent::TouchPoint point(touch.id);
-  point.setPos(touch.point);
-  point.setState(state);
-  return point;
-}
 
 }  // namespace
 
@@ -142,7 +136,7 @@ void ScriptPlayer::TypeText(const QString& text) {
 
 void ScriptPlayer::MovePointer(const QPointF& point) {
   position_ = point;
-  clock_->SetPointer(QPoint(host_->window.x, host_->window.y) + point.toPoint());
+  clock_->SetPointer(QPoint(host_->window.x, host_->window.y) + Rounded(point));
 }
 
 void ScriptPlayer::SendMouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button) {
@@ -152,7 +146,7 @@ void ScriptPlayer::SendMouse(QEvent::Type type, const QPointF& point, Qt::MouseB
   } else if (button != Qt::NoButton) {
     buttons_.setFlag(button, true);
   }
-  QMouseEvent event(type, point, button, buttons_, modifiers_);
+  QMouseEvent event(type, point, point, button, buttons_, modifiers_);
   taviinputmanager::OnQtInputEvent(&event);
 }
 
@@ -166,10 +160,10 @@ void ScriptPlayer::SendTouch(QEvent::Type type, const QVector<ScriptTouch>& touc
   const Qt::TouchPointState state = type == QEvent::TouchBegin ? Qt::TouchPointPressed
                                     : type == QEvent::TouchEnd ? Qt::TouchPointReleased
                                                                : Qt::TouchPointMoved;
-  QList<QTouchEvent::TouchPoint> points;
-  for (const ScriptTouch& touch : touches) points.append(MakeTouchPoint(touch, state));
+  QList<qt::TouchPoint> points;
+  for (const ScriptTouch& touch : touches) points.append(qt::MakeTouchPoint(touch.id, state, touch.point));
   touches_ = touches;
-  QTouchEvent event(type, nullptr, modifiers_, state, points);
+  QTouchEvent event = qt::MakeTouchEvent(type, modifiers_, points);
   taviinputmanager::OnQtInputEvent(&event);
 }
 

@@ -9,8 +9,6 @@
 #include <QTimerEvent>
 #include <QVariant>
 
-#include "host/simulation/window_system_events.h"
-
 namespace tavi {
 
 namespace {
@@ -30,7 +28,7 @@ void VirtualEventDispatcher::Settle() {
     // One call delivers only what was posted before it began, and tells us through wakeUp what came since.
     do {
       posted_ = false;
-      SendWindowSystemEvents();
+      also_deliver_();
       QCoreApplication::sendPostedEvents();
     } while (posted_);
     // What was deleted later outside of any event loop is nobody else's to deliver. Inside of one, Qt's own rule holds:
@@ -134,7 +132,7 @@ void VirtualEventDispatcher::interrupt() {
   wakeUp();
 }
 
-void VirtualEventDispatcher::registerTimer(int id, int interval_ms, Qt::TimerType type, QObject* object) {
+void VirtualEventDispatcher::registerTimer(int id, Interval interval_ms, Qt::TimerType type, QObject* object) {
   timers_[id] = {id, interval_ms, type, object, NowMs() + interval_ms, next_order_++};
 }
 
@@ -152,7 +150,7 @@ QList<QAbstractEventDispatcher::TimerInfo> VirtualEventDispatcher::registeredTim
   QList<TimerInfo> found;
   for (const auto& entry : timers_) {
     const Timer& timer = entry.second;
-    if (timer.object == object) found.append(TimerInfo(timer.id, timer.interval_ms, timer.type));
+    if (timer.object == object) found.append(TimerInfo(timer.id, static_cast<int>(timer.interval_ms), timer.type));
   }
   return found;
 }

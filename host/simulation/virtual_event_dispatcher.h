@@ -4,11 +4,12 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <mutex>
+#include <utility>
 
-#include <QAbstractEventDispatcher>
-
+#include "qt/event_dispatcher.h"
 #include "taviinputmanager/virtual_time.h"
 
 namespace tavi {
@@ -33,11 +34,11 @@ namespace tavi {
 // - A pass is all that is due at one moment. A timer of 0 ms fires once a pass (one started in a pass, in the next),
 //   and a pass that fired nothing else takes 1 ms.
 //
-// Sockets are not served.
+// Sockets are not served, and windows are told nothing by their platform but through PlatformEvents.
 //
 // Threads: the main thread; wakeUp, interrupt and NowMs may be called on any, so that other threads can post to the
 // main thread as ever.
-class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinputmanager::VirtualTime {
+class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanager::VirtualTime {
   Q_OBJECT
   Q_INTERFACES(taviinputmanager::VirtualTime)
 
@@ -53,6 +54,8 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
   void Advance(int ms);
   // Delivers posted events and deferred deletes until nothing is left. Takes no time and fires no timer.
   void Settle();
+  // `deliver` is called wherever posted events are delivered. What it delivers may post more.
+  void AlsoDeliver(std::function<void()> deliver) { also_deliver_ = std::move(deliver); }
   void SetPointer(const QPoint& pointer) { pointer_ = pointer; }
 
   // VirtualTime.
@@ -64,10 +67,9 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
 
   // QAbstractEventDispatcher.
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
-  bool hasPendingEvents() override { return posted_.load(); }
   void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
   void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
-  void registerTimer(int id, int interval_ms, Qt::TimerType type, QObject* object) override;
+  void registerTimer(int id, Interval interval_ms, Qt::TimerType type, QObject* object) override;
   bool unregisterTimer(int id) override;
   bool unregisterTimers(QObject* object) override;
   QList<TimerInfo> registeredTimers(QObject* object) const override;
@@ -78,12 +80,11 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
 #endif
   void wakeUp() override;
   void interrupt() override;
-  void flush() override {}
 
  private:
   struct Timer {
     int id = 0;
-    int interval_ms = 0;
+    Interval interval_ms = 0;
     Qt::TimerType type = Qt::CoarseTimer;
     QObject* object = nullptr;
     qint64 due_ms = 0;
@@ -92,6 +93,7 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
   };
   enum class Scope { kAll, kWorkers };
 
+  bool HasPosted() const override { return posted_.load(); }
   void RunUntil(qint64 end_ms, Scope scope);
   bool RunPass(qint64 limit_ms, Scope scope);
   bool RunNextPass();
@@ -101,6 +103,7 @@ class VirtualEventDispatcher : public QAbstractEventDispatcher, public taviinput
 
   std::atomic<qint64> now_ms_;
   QPoint pointer_;
+  std::function<void()> also_deliver_ = [] {};
   std::map<int, Timer> timers_;  // by id
   quint64 next_order_ = 1;
   int loop_depth_ = 0;  // event loops under way

@@ -67,6 +67,7 @@ namespace taviinputmanager {
 // Feeds a Qt event of the guest view: keys, mouse buttons and moves, wheel, touch, input method. Positions are relative
 // to the view. Native scan codes are Windows scan codes with the extended bit as 0x100; the host converts them. Events
 // of other types, and all events before Initialize, are dropped. The event is not kept after the call.
+// On Qt 6, a touch point created by the host has no device, and its scene position is used.
 TAVI_EXPORT void OnQtInputEvent(QEvent* event);
 
 // Feeds a gamepad event (joystick_event.h). Events of other types, and all events before Initialize, are dropped. The

@@ -1,25 +1,9 @@
 #include "keymapmanager/keys/key_index.h"
 
-#include <cstring>
-#include <new>
-
 #include "keymapmanager/keys/pad_names.h"
+#include "qt/lasting_text.h"
 
 namespace tavikeymapmanager {
-
-namespace {
-
-// A copy of `text` that is never freed, as literals are: its own copies count no references, and each key that is
-// pressed carries one.
-QString Lasting(const QString& text) {
-  const auto length = static_cast<std::size_t>(text.size());
-  void* const block = ::operator new(sizeof(QStringData) + (length + 1) * sizeof(QChar));
-  auto* const data = new (block) QStringData{Q_STATIC_STRING_DATA_HEADER_INITIALIZER(text.size())};
-  std::memcpy(data->data(), text.constData(), (length + 1) * sizeof(QChar));
-  return QString(QStringDataPtr{data});
-}
-
-}  // namespace
 
 // Never destroyed, as its texts are never freed.
 const KeyIndex& KeyIndex::Get() {
@@ -31,9 +15,9 @@ KeyIndex::KeyIndex() {
   for (const KeyboardKeyRow& row : KeyboardKeys()) AddKeyboardKey(row);
   for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
     QString& name = keyboard_names_[scancode];
-    if (name.isEmpty()) name = Lasting(QStringLiteral("Scan %1").arg(scancode));
+    if (name.isEmpty()) name = qt::Lasting(QStringLiteral("Scan %1").arg(scancode));
   }
-  for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, Lasting(QString::fromLatin1(row.name)));
+  for (const MouseKeyRow& row : MouseKeys()) AddMouseKey(row.code, qt::Lasting(QString::fromLatin1(row.name)));
   for (int number = 1; number <= kExtraMouseButtonCount; ++number) {
     AddMouseKey(ExtraMouseButton(number), QStringLiteral("Mouse Side %1").arg(number));
   }
@@ -41,7 +25,7 @@ KeyIndex::KeyIndex() {
 }
 
 void KeyIndex::AddKeyboardKey(const KeyboardKeyRow& row) {
-  const QString name = Lasting(QString::fromLatin1(row.name));
+  const QString name = qt::Lasting(QString::fromLatin1(row.name));
   keyboard_names_[row.scancode] = name;
   virtual_keys_[row.scancode] = row.virtual_key;
   // Two keys share a virtual key (Enter): the first is meant.

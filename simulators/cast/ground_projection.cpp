@@ -28,7 +28,7 @@ bool DescribesView(const SpellConfigItem& item) {
 }  // namespace
 
 std::optional<GroundView> GroundView::Parse(const QString& text) {
-  const QVector<QStringRef> parts = text.splitRef(QLatin1Char(','));
+  const QList<QStringView> parts = QStringView(text).split(QLatin1Char(','));
   if (parts.size() != kCells) return std::nullopt;
   GroundView view;
   for (int row = 0; row < kRows; ++row) {
@@ -74,7 +74,8 @@ QPoint ProjectOnGround(const SpellConfigItem& item, const QPoint& pointer, const
   const QPointF aim = view->Solve(Normalise(pointer, display)) - origin;
 
   // The aim in the frame of the forward direction. Lengths of 0 make the rest NaN, and the result (0, 0).
-  const QPointF u = forward / Length(forward);
+  const double reach = Length(forward);
+  const QPointF u(forward.x() / reach, forward.y() / reach);  // a QPointF may refuse to be divided by 0
   const QPointF turned(aim.x() * u.y() - aim.y() * u.x(), aim.x() * u.x() + aim.y() * u.y());
   const double scale = Length(aim) * item.ground_scale * display.width() / kReferenceWidth;
   const double length = Length(turned);

@@ -17,7 +17,7 @@ QPointF FiniteOrNull(const QPointF& point) {
 
 QPointF ReadPair(const QString& element) {
   if (!element.startsWith(QLatin1Char('(')) || !element.endsWith(QLatin1Char(')'))) return {};
-  const QVector<QStringRef> parts = element.midRef(1, element.size() - 2).split(QLatin1Char(','));
+  const QList<QStringView> parts = QStringView(element).mid(1, element.size() - 2).split(QLatin1Char(','));
   if (parts.size() != 2) return {};
   return {parts[0].toDouble(), parts[1].toDouble()};
 }

@@ -9,6 +9,7 @@
 #include "core/display_geometry.h"
 #include "core/numbers.h"
 #include "core/pixels.h"
+#include "qt/mouse_events.h"
 #include "slots/mouse_swipehold_slot_manager.h"
 
 namespace taviinputmanager {
@@ -22,7 +23,7 @@ constexpr double kWalkMsPerRadius = 1000;  // of a short click, before the item'
 
 // From the character to the pointer, in fractions of the display.
 QPointF WayOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
-  const QPointF pointer = RoundedPoint(event->localPos());
+  const QPointF pointer = RoundedPoint(qt::PlaceOf(*event));
   return {pointer.x() / display.width() - item.character_rel_x, pointer.y() / display.height() - item.character_rel_y};
 }
 
@@ -31,14 +32,15 @@ QPoint RoundedCentre(const MouseRightWalkConfigItem& item, const QSize& display)
 }
 
 // The point of the stick's edge that lies in the pointer's direction. Both axes count in widths: the stick is round in
-// pixels. A pointer exactly on the character has no direction, and the limits alone place the finger.
+// pixels. A pointer exactly on the character has no direction, and the limits alone place the finger: at 1 where the
+// display is too small for both.
 QPoint TargetOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
   const QPointF way = WayOf(item, event, display);
   const QPoint centre = RoundedCentre(item, display);
   const double factor = item.walk_radius / std::hypot(way.x(), way.y());
   const double width = display.width();
-  return {qBound(1, Round(way.x() * factor * width + centre.x()), display.width() - 1),
-          qBound(1, Round(way.y() * factor * width + centre.y()), display.height() - 1)};
+  return {std::max(1, std::min(Round(way.x() * factor * width + centre.x()), display.width() - 1)),
+          std::max(1, std::min(Round(way.y() * factor * width + centre.y()), display.height() - 1))};
 }
 
 QSize DisplaySize() { return DisplayGeometry::GetInstance()->GetDisplayRect().size(); }

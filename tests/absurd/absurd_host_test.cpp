@@ -5,12 +5,12 @@
 
 #include <QMouseEvent>
 #include <QRegularExpression>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "fuzz/fuzz_keymaps.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymap/joystick_event.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/story.h"
@@ -70,7 +70,9 @@ class AbsurdHost : public Story, public testing::WithParamInterface<unsigned> {
     constexpr QEvent::Type kTypes[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseMove};
     constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
     const Qt::MouseButton button = kButtons[Below(std::size(kButtons))];
-    QMouseEvent event(kTypes[Below(std::size(kTypes))], Place(), button, button, Qt::NoModifier);
+    const QEvent::Type type = kTypes[Below(std::size(kTypes))];
+    const QPointF place = Place();
+    QMouseEvent event(type, place, place, button, button, Qt::NoModifier);
     OnQtInputEvent(&event);
   }
   void SendWheel() {
@@ -81,9 +83,9 @@ class AbsurdHost : public Story, public testing::WithParamInterface<unsigned> {
   }
   void SendTouch() {
     constexpr QEvent::Type kTypes[] = {QEvent::TouchBegin, QEvent::TouchUpdate, QEvent::TouchEnd};
-    QTouchEvent::TouchPoint point(Below(3));
-    point.setPos(Place());
-    QTouchEvent event(kTypes[Below(std::size(kTypes))], nullptr, Qt::NoModifier, Qt::TouchPointMoved, {point});
+    const int id = Below(3);
+    const qt::TouchPoint point = qt::MakeTouchPoint(id, Qt::TouchPointMoved, Place());
+    QTouchEvent event = qt::MakeTouchEvent(kTypes[Below(std::size(kTypes))], Qt::NoModifier, {point});
     OnQtInputEvent(&event);
   }
   void SendStick() {

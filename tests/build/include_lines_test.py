@@ -94,6 +94,9 @@ WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "
                    "host/target"]
 WIDGETS = re.compile(r"Q(Application|Widget|MainWindow|Dialog|Label|Menu|Action|\w*Button|\w*View|\w*Layout)$")
 WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
+# What one Qt does otherwise than the other: "qt/x.h" is in two folders, of which a build includes one. Stands on Qt alone.
+# All may use it but the installed headers.
+QTS = ["qt/5", "qt/6"]
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
 # The most files that a folder of sources holds; more want parting.
 MOST_FILES = 42
@@ -102,7 +105,7 @@ def rooms_of(floors):
     return [room for floor in floors for room in floor]
 
 
-ALL_ROOMS = rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(GUEST) + rooms_of(HOST) + FREE
+ALL_ROOMS = QTS + rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(GUEST) + rooms_of(HOST) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -123,7 +126,7 @@ def sources():
 
 def resolve(includer, name):
     """The file of the tree that an include line means, or None."""
-    for base in ("", "include", os.path.dirname(includer)):
+    for base in ("", "include", QTS[-1], os.path.dirname(includer)):
         candidate = os.path.normpath(os.path.join(base, name))
         if (ROOT / candidate).is_file():
             return candidate
@@ -150,6 +153,8 @@ def allowed(room):
     """Rooms and single files that `room` may include, apart from itself."""
     if room in rooms_of(GUEST):
         return below(room, GUEST)
+    if room in QTS:
+        return []
     if room in rooms_of(KEYMAPS[1:]):
         return below(room, KEYMAPS) + FACE_OF_KEYMAPS
     if room in rooms_of(HOST):
@@ -159,7 +164,7 @@ def allowed(room):
 
 def may_include(source, target):
     room = room_of(source)
-    if room in FREE:
+    if room in FREE or (room_of(target) in QTS and room not in GROUND):
         return True
     return room_of(target) == room or any(target == entry or room_of(target) == entry for entry in allowed(room))
 
@@ -190,6 +195,11 @@ def circles(graph):
 
 class IncludeLines(unittest.TestCase):
     maxDiff = None
+
+    def test_each_qt_has_the_same_headers(self):
+        names = [sorted(path.name for path in (ROOT / room).rglob("*.h")) for room in QTS]
+        self.assertEqual(*names)
+        self.assertTrue(names[0])
 
     def test_every_room_has_files(self):
         files = collections.Counter(os.path.dirname(source) for source in sources())
@@ -288,6 +298,9 @@ class TheTestItself(unittest.TestCase):
             ("record/x.cpp", "guest/line/guest_line.h", False, "nor does the library know the guest"),
             ("host/session/x.cpp", "host/window/view/y.h", False, "a host without a window shares the session"),
             ("host/window/view/x.cpp", "host/session/y.h", True, "downwards"),
+            ("core/x.cpp", "qt/6/qt/y.h", True, "what the Qts do otherwise is everyone's"),
+            ("include/taviinputmanager/x.h", "qt/6/qt/y.h", False, "it is not installed"),
+            ("qt/6/qt/x.h", "core/y.h", False, "it stands on Qt alone"),
         ]
         for source, target, expected, why in rows:
             self.assertEqual(may_include(source, target), expected, f"{source} -> {target}: {why}")

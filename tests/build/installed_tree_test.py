@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """An installed tree is complete, can be moved, and others can build on it by CMake and by pkg-config.
 
-    installed_tree_test.py BUILD_DIR SOURCE_DIR LIB_DIR WORK_DIR CMAKE GENERATOR COMPILER
+    installed_tree_test.py BUILD_DIR SOURCE_DIR LIB_DIR WORK_DIR CMAKE GENERATOR COMPILER QT
 """
 import functools
 import os
@@ -14,8 +14,8 @@ from pathlib import Path
 
 import commands
 
-BUILD, SOURCE, LIB, WORK, CMAKE, GENERATOR, COMPILER = sys.argv[1:8]
-del sys.argv[1:8]
+BUILD, SOURCE, LIB, WORK, CMAKE, GENERATOR, COMPILER, QT = sys.argv[1:9]
+del sys.argv[1:9]
 WORK = Path(WORK)
 INSTALLED = WORK / "moved" / "installed"
 EXAMPLE = Path(SOURCE) / "examples" / "host"
@@ -125,6 +125,16 @@ class InstalledTree(unittest.TestCase):
     def test_pkg_config_finds_the_keymap_library_by_itself(self):
         ENVIRONMENT["PKG_CONFIG_PATH"] = str(INSTALLED / LIB / "pkgconfig")
         self.assertIn("-ltavi-keymapmanager", run("pkg-config", "--libs", "tavi-keymapmanager"))
+
+    def test_packages_name_the_qt_that_the_libraries_were_built_on(self):
+        ENVIRONMENT["PKG_CONFIG_PATH"] = str(INSTALLED / LIB / "pkgconfig")
+        for name in ["tavi-keymapmanager", "taviinputmanager"]:
+            self.assertEqual(run("pkg-config", "--variable=qt", name).strip(), QT)
+        self.assertIn(f"Qt{QT}Core", run("pkg-config", "--print-requires", "tavi-keymapmanager"))
+        config = (INSTALLED / LIB / "cmake/taviinputmanager/taviinputmanagerConfig.cmake").read_text(encoding="utf-8")
+        self.assertIn(f"set(taviinputmanager_QT {QT})", config)
+        needed = run("readelf", "--dynamic", INSTALLED / LIB / "libtaviinputmanager.so")
+        self.assertIn(f"libQt{QT}Core.so.{QT}", needed)
 
 
 if __name__ == "__main__":

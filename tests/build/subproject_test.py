@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Inside another project the tree is two libraries, and changes nothing of that project.
 
-    subproject_test.py SOURCE_DIR WORK_DIR CMAKE GENERATOR COMPILER
+    subproject_test.py SOURCE_DIR WORK_DIR CMAKE GENERATOR COMPILER QT
 """
 import json
 import re
@@ -12,8 +12,8 @@ from pathlib import Path
 
 from commands import run
 
-SOURCE, WORK, CMAKE, GENERATOR, COMPILER = sys.argv[1:6]
-del sys.argv[1:6]
+SOURCE, WORK, CMAKE, GENERATOR, COMPILER, QT = sys.argv[1:7]
+del sys.argv[1:7]
 PARENT = Path(__file__).with_name("subproject")
 
 
@@ -23,7 +23,7 @@ class Project:
     def __init__(self, name, *options):
         self.folder = Path(WORK) / name
         shutil.rmtree(self.folder, ignore_errors=True)
-        run(CMAKE, "-G", GENERATOR, "-S", PARENT, "-B", self.folder, f"-DTAVI={SOURCE}",
+        run(CMAKE, "-G", GENERATOR, "-S", PARENT, "-B", self.folder, f"-DTAVI={SOURCE}", f"-DTAVI_QT={QT}",
             f"-DCMAKE_CXX_COMPILER={COMPILER}", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", *options)
 
     def cache(self):

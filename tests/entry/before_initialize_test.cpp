@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTouchEvent>
 
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace taviinputmanager {
@@ -16,11 +16,10 @@ TEST(BeforeInitialize, EverythingIsIgnored) {
   QKeyEvent key(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier, 17, 87, 0);
   OnQtInputEvent(&key);
   // With a keymap, and be it an empty one, both of these would be fingers.
-  QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
   OnQtInputEvent(&press);
-  QTouchEvent::TouchPoint point(1);
-  point.setPos({5, 5});
-  QTouchEvent touch(QEvent::TouchBegin, nullptr, Qt::NoModifier, Qt::TouchPointPressed, {point});
+  const qt::TouchPoint point = qt::MakeTouchPoint(1, Qt::TouchPointPressed, {5, 5});
+  QTouchEvent touch = qt::MakeTouchEvent(QEvent::TouchBegin, Qt::NoModifier, {point});
   OnQtInputEvent(&touch);
   OnQtInputEvent(nullptr);
   OnJoystickEvent(&key);

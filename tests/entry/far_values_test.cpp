@@ -27,7 +27,7 @@ class FarValues : public Story {
     Host().table.OnEscapeKeyOccupied = nullptr;
   }
   static void Mouse(QEvent::Type type, const QPointF& place, Qt::MouseButton button = Qt::LeftButton) {
-    QMouseEvent event(type, place, button, button, Qt::NoModifier);
+    QMouseEvent event(type, place, place, button, button, Qt::NoModifier);
     OnQtInputEvent(&event);
   }
   static void Turn(const QPointF& place, int delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

@@ -103,7 +103,7 @@ void SendEveryKey(QEvent::Type type) {
 
 void SendEveryButton(QEvent::Type type) {
   for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
-    QMouseEvent event(type, {640, 360}, button, button, Qt::NoModifier);
+    QMouseEvent event(type, {640, 360}, {640, 360}, button, button, Qt::NoModifier);
     OnQtInputEvent(&event);
   }
 }

@@ -27,7 +27,7 @@ class HandlerOperations : public Story {
     return {type, Qt::Key_A, Qt::NoModifier, static_cast<quint32>(scan), 'A', 0, QStringLiteral("a")};
   }
   static QMouseEvent MouseEvent(QEvent::Type type, Qt::MouseButton button) {
-    return {type, QPointF(10, 20), button, button, Qt::NoModifier};
+    return {type, QPointF(10, 20), QPointF(10, 20), button, button, Qt::NoModifier};
   }
   static JoystickButtonEvent ButtonEvent(QEvent::Type type, const QString& name) { return {type, name, 0, 1}; }
 };

@@ -1,5 +1,6 @@
 #include "handlers/mult_point_sync_worker.h"
 
+#include "qt/touch_events.h"
 #include "slots/mult_point_slot_manager.h"
 #include "tests/support/story.h"
 
@@ -91,7 +92,7 @@ TEST_F(Touch, NoResetReachesAGesture) {
 TEST_F(Touch, AnyOtherTouchEventEndsTheGesture) {
   Play("touch begin 1:100,200");
   Forget();
-  QTouchEvent cancel(QEvent::TouchCancel);
+  QTouchEvent cancel = qt::MakeTouchEvent(QEvent::TouchCancel, Qt::NoModifier, {});
   MultPointSyncWorker::GetInstance()->OnTouchEvent(&cancel);
   EXPECT_WIRE("0ms 1:SLOTMULTIRELEASE:18");
 }

@@ -62,7 +62,7 @@ TEST_F(SimulateHandler, AButtonIsMappedForItsPressAndItsRelease) {
               {QEvent::MouseButtonDblClick, false},
               {QEvent::MouseMove, false}};
   for (const auto& row : rows) {
-    QMouseEvent event(row.type, QPointF(10, 10), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent event(row.type, QPointF(10, 10), QPointF(10, 10), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     EXPECT_EQ(row.is_mapped, QtKeyboardMouseEventSimulateHandler::GetInstance()->IsMouseButtonMapped(&event))
         << row.type;
   }

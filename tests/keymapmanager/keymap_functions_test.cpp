@@ -219,14 +219,15 @@ TEST_F(IsConfigKeyMatch, NullAndUnsetMatchNothing) {
 TEST(GetMacroConfigKeyCode, IsTheScanCodeOfAKeyAndTheButtonOfAMouse) {
   QKeyEvent key(QEvent::KeyRelease, Qt::Key_W, Qt::NoModifier, 17, 0x57, 0);
   EXPECT_EQ(17, getMacroConfigKeyCode(&key));
-  QMouseEvent button(QEvent::MouseButtonPress, QPointF(1, 2), Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+  QMouseEvent button(QEvent::MouseButtonPress, QPointF(1, 2), QPointF(1, 2), Qt::RightButton, Qt::RightButton,
+                     Qt::NoModifier);
   EXPECT_EQ(2, getMacroConfigKeyCode(&button));
 }
 
 TEST(GetMacroConfigKeyCode, AnythingElseHasNone) {
   QEvent other(QEvent::FocusIn);
   EXPECT_EQ(-1, getMacroConfigKeyCode(&other));
-  QMouseEvent move(QEvent::MouseMove, QPointF(1, 2), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QMouseEvent move(QEvent::MouseMove, QPointF(1, 2), QPointF(1, 2), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
   EXPECT_EQ(-1, getMacroConfigKeyCode(&move));
   EXPECT_EQ(-1, getMacroConfigKeyCode(nullptr));
 }

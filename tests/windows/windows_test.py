@@ -42,7 +42,7 @@ class Compiles(unittest.TestCase):
     def test_every_file_for_windows(self):
         sources = [path for path in sorted(ROOT.glob("*/**/*_windows.cpp")) if path.parts[len(ROOT.parts)] != "build"]
         self.assertGreaterEqual(len(sources), 3)
-        includes = [f"-I{ROOT}"] + [argument for path in QT_INCLUDES for argument in ("-isystem", path)]
+        includes = [f"-I{ROOT}", f"-I{ROOT}/qt/5"] + [argument for path in QT_INCLUDES for argument in ("-isystem", path)]
         for source in sources:
             with self.subTest(source=source.name):
                 compiled = subprocess.run([COMPILER, *WARNINGS, "-fsyntax-only", *includes, source],

@@ -8,6 +8,7 @@
 #include "host/editor/keymap_document.h"
 #include "host/session/live_host.h"
 #include "host/window/editor/edit_painter.h"
+#include "qt/mouse_events.h"
 
 namespace tavi {
 
@@ -107,34 +108,35 @@ const ItemHandle* EditLayer::HandleUnder(const QPointF& place, const QVector<Ite
 void EditLayer::mousePressEvent(QMouseEvent* event) {
   setFocus();
   const QVector<ItemHandle> own = selected_ < 0 ? QVector<ItemHandle>() : HandlesAt(selected_);
-  const ItemHandle* held = HandleUnder(event->localPos(), own);
-  if (held == nullptr || IsPlace(*held)) Select(ItemUnder(event->localPos()));
+  const ItemHandle* held = HandleUnder(qt::PlaceOf(*event), own);
+  if (held == nullptr || IsPlace(*held)) Select(ItemUnder(qt::PlaceOf(*event)));
   if (event->button() == Qt::RightButton) {
-    Q_EMIT MenuWanted(event->globalPos(), FractionAt(event->localPos()));
+    Q_EMIT MenuWanted(qt::PlaceOnScreen(*event).toPoint(), FractionAt(qt::PlaceOf(*event)));
     return;
   }
   if (event->button() != Qt::LeftButton || selected_ < 0) return;
   const QVector<ItemHandle> handles = HandlesAt(selected_);
-  const ItemHandle* handle = HandleUnder(event->localPos(), handles);
+  const ItemHandle* handle = HandleUnder(qt::PlaceOf(*event), handles);
   if (handle == nullptr) return;
-  drag_ = {true, *handle, event->localPos() - handle->place, false, event->localPos(), document_->UndoStack()->index()};
+  drag_ = {
+      true, *handle, qt::PlaceOf(*event) - handle->place, false, qt::PlaceOf(*event), document_->UndoStack()->index()};
   ++gesture_;
 }
 
 void EditLayer::mouseMoveEvent(QMouseEvent* event) {
   if (drag_.is_active) {
-    drag_.has_moved = drag_.has_moved || QLineF(drag_.pressed, event->localPos()).length() >= kDragStart;
-    if (drag_.has_moved) DragTo(event->localPos());
+    drag_.has_moved = drag_.has_moved || QLineF(drag_.pressed, qt::PlaceOf(*event)).length() >= kDragStart;
+    if (drag_.has_moved) DragTo(qt::PlaceOf(*event));
     return;
   }
   const QVector<ItemHandle> handles = selected_ < 0 ? QVector<ItemHandle>() : HandlesAt(selected_);
-  const ItemHandle* handle = HandleUnder(event->localPos(), handles);
+  const ItemHandle* handle = HandleUnder(qt::PlaceOf(*event), handles);
   if (handle != nullptr && handle->shape == Shape::kCircle) {
     setCursor(Qt::SizeHorCursor);
   } else if (handle != nullptr && handle->shape == Shape::kArea) {
     setCursor(Qt::SizeFDiagCursor);
   } else {
-    const bool is_over = handle != nullptr || ItemUnder(event->localPos()) >= 0;
+    const bool is_over = handle != nullptr || ItemUnder(qt::PlaceOf(*event)) >= 0;
     setCursor(is_over ? Qt::SizeAllCursor : Qt::ArrowCursor);
   }
 }

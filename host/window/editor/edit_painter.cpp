@@ -81,7 +81,7 @@ void EditPainter::PaintNumbers(const km::ConfigItem& item, const QPointF& place)
   const double half = QFontMetricsF(painter_->font(), painter_->device()).horizontalAdvance(text) / 2;
   const bool is_low = place.y() + kSelectedRing + kTick + kNumbersGap > view_.height();
   const double y = place.y() + (is_low ? -1 : 1) * (kSelectedRing + kNumbersGap);
-  PaintOutlinedText(painter_, text, {qBound(half, place.x(), view_.width() - half), y}, theme::Colors().text);
+  PaintOutlinedText(painter_, text, {qMax(half, qMin(place.x(), view_.width() - half)), y}, theme::Colors().text);
 }
 
 }  // namespace tavi

@@ -92,20 +92,20 @@ void KeymapEditor::MakeBar() {
   add->setToolTip(QStringLiteral("Put a new item on the screen"));
   add_ = bar_->addWidget(add);
   duplicate_ = AddButton(QStringLiteral("Duplicate"), QStringLiteral("The selected item once more"),
-                         QKeySequence(Qt::CTRL + Qt::Key_D));
+                         QKeySequence(Qt::CTRL | Qt::Key_D));
   delete_ = AddButton(QStringLiteral("Delete"), QStringLiteral("Take the selected item out (Del)"), {});
   bar_->addSeparator();
   QAction* undo = document_.UndoStack()->createUndoAction(this, QStringLiteral("Undo"));
-  undo->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
+  undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
   QAction* redo = document_.UndoStack()->createRedoAction(this, QStringLiteral("Redo"));
-  redo->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
+  redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
   undo->setIconText(QStringLiteral("Undo"));
   redo->setIconText(QStringLiteral("Redo"));
   bar_->addAction(undo);
   bar_->addAction(redo);
   bar_->addSeparator();
   save_ = AddButton(QStringLiteral("Save"), QStringLiteral("Write the edits into the file, and nothing else"),
-                    QKeySequence(Qt::CTRL + Qt::Key_S));
+                    QKeySequence(Qt::CTRL | Qt::Key_S));
   QAction* save_as =
       AddButton(QStringLiteral("Save as\u2026"), QStringLiteral("Write the keymap into another file"), {});
   connect(duplicate_, &QAction::triggered, this, &KeymapEditor::Duplicate);

@@ -21,7 +21,7 @@ SourcePane::SourcePane(QWidget* parent) : QWidget(parent), text_(new QPlainTextE
                 [this] { problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::Colors().error.name())); });
   problem_->hide();
   auto* apply = new QPushButton(QStringLiteral("Apply"));
-  apply->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+  apply->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
   apply->setToolTip(QStringLiteral("Take over what was typed (%1)").arg(apply->shortcut().toString()));
   auto* revert = new QPushButton(QStringLiteral("Revert"));
   revert->setToolTip(QStringLiteral("Forget what was typed"));

@@ -10,6 +10,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "qt/mouse_events.h"
+
 namespace tavi {
 
 namespace {
@@ -45,7 +47,7 @@ class OffscreenPointerLock : public QObject, public PointerLock {
  protected:
   bool eventFilter(QObject* /*view*/, QEvent* event) override {
     if (event->type() != QEvent::MouseMove) return false;
-    const QPointF place = static_cast<QMouseEvent*>(event)->localPos();
+    const QPointF place = qt::PlaceOf(*static_cast<QMouseEvent*>(event));
     sink_(place - std::exchange(last_, place));
     return true;
   }

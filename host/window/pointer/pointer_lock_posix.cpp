@@ -1,4 +1,3 @@
-#include <QX11Info>
 #include <optional>
 #include <utility>
 
@@ -11,6 +10,8 @@
 #include "host/window/pointer/pointer_lock.h"
 #include "host/window/pointer/x11_raw_motion.h"
 #include "host/window/pointer/x11_reply.h"
+#include "qt/native_events.h"
+#include "qt/x11_connection.h"
 
 namespace tavi {
 
@@ -82,8 +83,7 @@ class X11BlankCursor {
 // wheel to events of XInput, which do not come during a grab of this kind.
 class X11PointerLock : public PointerLock, private QAbstractNativeEventFilter {
  public:
-  X11PointerLock()
-      : connection_(QX11Info::connection()), root_(QX11Info::appRootWindow()), motion_(connection_, root_) {}
+  X11PointerLock() : connection_(qt::X11Connection()), root_(qt::X11RootWindow()), motion_(connection_, root_) {}
   ~X11PointerLock() override { X11PointerLock::Release(); }
 
   Outcome Hold(QWidget* view, WaySink sink) override {
@@ -138,7 +138,7 @@ class X11PointerLock : public PointerLock, private QAbstractNativeEventFilter {
     xcb_flush(connection_);
   }
 
-  bool nativeEventFilter(const QByteArray& /*type*/, void* message, long* /*result*/) override {
+  bool nativeEventFilter(const QByteArray& /*type*/, void* message, qt::NativeResult* /*result*/) override {
     const auto& event = *static_cast<const xcb_generic_event_t*>(message);
     if ((event.response_type & ~0x80) == XCB_BUTTON_PRESS) {
       return TakeButton(reinterpret_cast<const xcb_button_press_event_t&>(event));

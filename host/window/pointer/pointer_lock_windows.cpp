@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "host/window/pointer/pointer_lock.h"
+#include "qt/native_events.h"
 
 namespace tavi {
 
@@ -70,7 +71,7 @@ class WindowsPointerLock : public PointerLock, private QAbstractNativeEventFilte
   }
 
   // Each message comes once under this type, from its window's procedure.
-  bool nativeEventFilter(const QByteArray& type, void* message, long* /*result*/) override {
+  bool nativeEventFilter(const QByteArray& type, void* message, qt::NativeResult* /*result*/) override {
     if (type != "windows_generic_MSG") return false;
     const MSG& told = *static_cast<const MSG*>(message);
     if (told.message != WM_INPUT) return false;

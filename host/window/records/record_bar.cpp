@@ -329,7 +329,7 @@ void RecordBar::ShowTimes() {
   const Recorder* recorder = Recorder::GetInstance();
   recorded_->setText(!recorder->HasRecording() ? QString() : TimeText(recorder->RecordedMs()));
   const Replayer* replayer = Replayer::GetInstance();
-  progress_->setRange(0, static_cast<int>(qBound<qint64>(1, replayer->TotalMs(), 0x7FFFFFFF)));
+  progress_->setRange(0, static_cast<int>(qBound(qint64{1}, replayer->TotalMs(), qint64{0x7FFFFFFF})));
   progress_->setValue(static_cast<int>(qMin<qint64>(replayer->PlayedMs(), progress_->maximum())));
   progress_->setToolTip(TimeText(replayer->PlayedMs()) + QStringLiteral(" of ") + TimeText(replayer->TotalMs()));
 }

@@ -7,13 +7,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "host/look/theme.h"
 #include "host/session/input_port.h"
 #include "host/session/live_host.h"
 #include "host/session/native_key.h"
+#include "qt/mouse_events.h"
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 
 namespace tavi {
@@ -151,15 +152,14 @@ bool GuestView::HandleTouch(QEvent* event) {
     return true;
   }
   const auto& given = *static_cast<QTouchEvent*>(event);
-  QList<QTouchEvent::TouchPoint> points;
-  for (QTouchEvent::TouchPoint point : given.touchPoints()) {
+  QList<qt::TouchPoint> points;
+  for (const qt::TouchPoint& point : qt::PointsOf(given)) {
     // Qt lists a finger that goes up once more, and the library takes every finger of an update to be down.
-    if (point.state() == Qt::TouchPointReleased && event->type() == QEvent::TouchUpdate) continue;
-    point.setPos(ToGuest(point.pos()));
-    points.append(point);
+    if (qt::StateOf(point) == Qt::TouchPointReleased && event->type() == QEvent::TouchUpdate) continue;
+    points.append(qt::MakeTouchPoint(point.id(), qt::StateOf(point), ToGuest(qt::PlaceOf(point))));
   }
-  QTouchEvent touch(given);
-  touch.setTouchPoints(points);
+  QTouchEvent touch = qt::MakeTouchEvent(given.type(), given.modifiers(), points);
+  touch.setTimestamp(given.timestamp());
   Send(&touch);
   return true;
 }
@@ -183,7 +183,7 @@ void GuestView::SendWay(int dx, int dy) {
 
 // A drag may leave the view; a finger stays on the glass.
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
-  const QPointF inside = ClampTo(rect(), event.localPos());
+  const QPointF inside = ClampTo(rect(), qt::PlaceOf(event));
   QMouseEvent clamped(type, ToGuest(inside), mapTo(window(), inside.toPoint()), mapToGlobal(inside.toPoint()),
                       event.button(), event.buttons(), event.modifiers());
   Send(&clamped);

@@ -5,11 +5,11 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include "examples/host_window/guest_view.h"
 #include "keymap/scan_codes.h"
+#include "qt/touch_events.h"
 #include "tests/support/keyboard_105.h"
 
 namespace {
@@ -47,16 +47,12 @@ void Tap(GuestView* view, const QPoint& place) {
   Mouse(view, QEvent::MouseButtonRelease, place);
 }
 
-QTouchEvent::TouchPoint Finger(int id, Qt::TouchPointState state, const QPoint& place) {
-  QTouchEvent::TouchPoint finger(id);
-  finger.setState(state);
-  finger.setPos(place);
-  return finger;
+qt::TouchPoint Finger(int id, Qt::TouchPointState state, const QPoint& place) {
+  return qt::MakeTouchPoint(id, state, place);
 }
 
-void Touch(GuestView* view, QEvent::Type type, const QList<QTouchEvent::TouchPoint>& fingers) {
-  QTouchEvent event(type);
-  event.setTouchPoints(fingers);
+void Touch(GuestView* view, QEvent::Type type, const QList<qt::TouchPoint>& fingers) {
+  QTouchEvent event = qt::MakeTouchEvent(type, Qt::NoModifier, fingers);
   QCoreApplication::sendEvent(view, &event);
 }
 

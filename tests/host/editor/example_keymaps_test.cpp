@@ -79,7 +79,7 @@ TEST_P(ExampleKeymap, AnItemsTextChangesItsLineAlone) {
     const QString source = document_.Source(part);
     EXPECT_EQ(document_.SetSource(part, source + QStringLiteral("  # so")), QString()) << source.toStdString();
     const int first_line = LineOf(before_, before_.indexOf(source.toUtf8()));
-    EXPECT_EQ(ChangedLines(before_, document_.Text()), QVector<int>{first_line + source.count('\n')});
+    EXPECT_EQ(ChangedLines(before_, document_.Text()), QVector<int>{first_line + static_cast<int>(source.count('\n'))});
     document_.UndoStack()->undo();
   }
   ExpectUndoGivesTheFileBack();

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "tests/host/simulation/virtual_time_fixture.h"
 
@@ -236,7 +237,9 @@ TEST_F(OtherThreads, OfQtKeepTheirOwnEventLoops) {
 
 TEST(Windows, OfThePlatformOffscreenAreExposed) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  const PlatformEvents events;
   auto* time = new VirtualEventDispatcher;
+  events.DeliverBy(time);
   QCoreApplication::setEventDispatcher(time);
   int argument_count = 1;
   char program_name[] = "windows";

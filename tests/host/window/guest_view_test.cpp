@@ -6,9 +6,9 @@
 #include <QCursor>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
+#include "qt/touch_events.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
 #include "tests/support/keyboard_105.h"
@@ -179,17 +179,15 @@ TEST_F(GuestViewTest, TheWheelTurnsWhereThePointerIs) {
 
 TEST_F(GuestViewTest, TouchesAreFingers) {
   Load("");
-  QTouchEvent::TouchPoint finger(1);
-  finger.setPos(At(0.5, 0.5));
-  finger.setState(Qt::TouchPointPressed);
-  QTouchEvent begin(QEvent::TouchBegin, nullptr, Qt::NoModifier, Qt::TouchPointPressed, {finger});
+  const qt::TouchPoint down = qt::MakeTouchPoint(1, Qt::TouchPointPressed, At(0.5, 0.5));
+  QTouchEvent begin = qt::MakeTouchEvent(QEvent::TouchBegin, Qt::NoModifier, {down});
   begin.ignore();
   Send(&begin);
   EXPECT_TRUE(begin.isAccepted());
   ExpectNear(Finger(), 640, 360);
 
-  finger.setState(Qt::TouchPointReleased);
-  QTouchEvent end(QEvent::TouchEnd, nullptr, Qt::NoModifier, Qt::TouchPointReleased, {finger});
+  const qt::TouchPoint up = qt::MakeTouchPoint(1, Qt::TouchPointReleased, At(0.5, 0.5));
+  QTouchEvent end = qt::MakeTouchEvent(QEvent::TouchEnd, Qt::NoModifier, {up});
   Send(&end);
   EXPECT_TRUE(Slots().isEmpty());
 }

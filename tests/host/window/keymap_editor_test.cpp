@@ -209,7 +209,7 @@ TEST_F(EditingInTheWindow, MouseButtonsWheelAndGamepadAreBoundAsWell) {
   KeyListener* listener = Inspector()->Editor("key")->Listener();
   listener->Listen();
   for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    QMouseEvent event(type, QPointF(3, 3), Qt::RightButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent event(type, QPointF(3, 3), QPointF(3, 3), Qt::RightButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(listener, &event);
   }
   EXPECT_EQ(Document()->WrittenText(0, "key"), "Mouse Right");

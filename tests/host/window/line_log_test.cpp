@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "guest/line/timeline_line.h"
+#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 
 namespace tavi {
@@ -31,11 +32,13 @@ class LineLogTest : public testing::Test {
     return log_->Text().toStdString();
   }
 
+  const PlatformEvents events_;
   VirtualEventDispatcher* clock_;
 
  private:
-  static VirtualEventDispatcher* InstallClock() {
+  VirtualEventDispatcher* InstallClock() const {
     auto* clock = new VirtualEventDispatcher;
+    events_.DeliverBy(clock);
     QCoreApplication::setEventDispatcher(clock);
     return clock;
   }

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 
 namespace tavi {
@@ -64,8 +65,9 @@ class PointerCaptureTest : public testing::Test {
   void Answer(PointerLock::Result result, const char* reason = "") { state_.outcome = {result, QLatin1String(reason)}; }
 
  private:
-  static VirtualEventDispatcher* InstallClock() {
+  VirtualEventDispatcher* InstallClock() const {
     auto* clock = new VirtualEventDispatcher;
+    events_.DeliverBy(clock);
     QCoreApplication::setEventDispatcher(clock);
     return clock;
   }
@@ -73,6 +75,7 @@ class PointerCaptureTest : public testing::Test {
   char* arguments_[1] = {nullptr};
 
  protected:
+  const PlatformEvents events_;
   VirtualEventDispatcher* clock_;  // the application's
 
  private:
@@ -111,7 +114,7 @@ TEST_F(PointerCaptureTest, WithoutAMouseMovesOfTheViewAreWays) {
   QObject::connect(&capture, &PointerCapture::Moved, [this](int dx, int dy) { moves_ += QPoint(dx, dy); });
   capture.SetWanted(true);
   for (const QPoint& place : {QPoint(50, 50), QPoint(55, 47), QPoint(58, 47), QPoint(50, 50)}) {
-    QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, place, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(view_.get(), &move);
   }
   EXPECT_EQ(moves_, (QVector<QPoint>{{5, -3}, {3, 0}, {-8, 3}}));

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include "host/session/live_host.h"
+#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "host/window/main_window.h"
 #include "host/window/view/guest_display.h"
@@ -68,12 +69,14 @@ class WindowFixture : public testing::Test {
   // The only finger there is.
   QPoint Finger() const { return Guest().contacts.size() == 1 ? Guest().contacts.first().point : QPoint(-1, -1); }
 
+  const PlatformEvents events_;
   VirtualEventDispatcher* clock_;  // the application's
   QTemporaryDir folder_;
 
  private:
-  static VirtualEventDispatcher* InstallClock() {
+  VirtualEventDispatcher* InstallClock() const {
     auto* clock = new VirtualEventDispatcher;
+    events_.DeliverBy(clock);
     QCoreApplication::setEventDispatcher(clock);
     return clock;
   }

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 #include "host/session/replayer.h"
@@ -27,7 +28,7 @@ class WindowStateTest : public WindowFixture {
   QString Bottom() const {
     QStringList texts;
     for (const QLabel* label : Window()->statusBar()->findChildren<QLabel*>()) {
-      if (label->isVisible()) texts += label->text().remove(QRegExp("<[^>]*>"));
+      if (label->isVisible()) texts += label->text().remove(QRegularExpression(QStringLiteral("<[^>]*>")));
     }
     return texts.join(" | ");
   }

@@ -1,0 +1,22 @@
+// From doubles to ints, the same on every Qt.
+#ifndef HOST_GUEST_ROUNDING_H_
+#define HOST_GUEST_ROUNDING_H_
+
+#include <QPoint>
+#include <QPointF>
+
+namespace tavi {
+
+// To the nearest, halves upwards: -0.5 gives 0, -1.5 gives -1. So did qRound of Qt 5; that of Qt 6, and with it
+// QPointF::toPoint, turns halves away from zero. `v` fits an int.
+inline int Rounded(double v) {
+  if (v >= 0) return static_cast<int>(v + 0.5);
+  const int below = static_cast<int>(v - 1);
+  return static_cast<int>(v - below + 0.5) + below;
+}
+
+inline QPoint Rounded(const QPointF& v) { return {Rounded(v.x()), Rounded(v.y())}; }
+
+}  // namespace tavi
+
+#endif  // HOST_GUEST_ROUNDING_H_

@@ -1,0 +1,26 @@
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
+#include <QtGui/qtguiglobal.h>
+
+#include "host/simulation/platform_events.h"
+#include "host/simulation/virtual_event_dispatcher.h"
+
+// Every event dispatcher under a QGuiApplication calls this one function. Its header is not among those that Qt 5
+// installs for applications, though the library exports it. The platform's own dispatcher, which does for Qt 6, keeps
+// events back here while a dialog runs a loop of its own.
+class Q_GUI_EXPORT QWindowSystemInterface {
+ public:
+  static bool sendWindowSystemEvents(QEventLoop::ProcessEventsFlags flags);
+};
+
+namespace tavi {
+
+PlatformEvents::PlatformEvents() = default;
+
+PlatformEvents::~PlatformEvents() = default;
+
+void PlatformEvents::DeliverBy(VirtualEventDispatcher* time) const {
+  time->AlsoDeliver([] { QWindowSystemInterface::sendWindowSystemEvents(QEventLoop::AllEvents); });
+}
+
+}  // namespace tavi

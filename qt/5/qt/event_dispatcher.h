@@ -1,0 +1,23 @@
+// What an event dispatcher is made of: Qt 5.
+#ifndef QT_5_QT_EVENT_DISPATCHER_H_
+#define QT_5_QT_EVENT_DISPATCHER_H_
+
+#include <QAbstractEventDispatcher>
+
+namespace qt {
+
+class EventDispatcher : public QAbstractEventDispatcher {
+ public:
+  using Interval = int;  // of registerTimer, in milliseconds
+
+  bool hasPendingEvents() override { return HasPosted(); }
+  void flush() override {}
+
+ private:
+  // Whether events were posted that are not delivered yet.
+  virtual bool HasPosted() const = 0;
+};
+
+}  // namespace qt
+
+#endif  // QT_5_QT_EVENT_DISPATCHER_H_

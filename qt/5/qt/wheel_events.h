@@ -1,0 +1,18 @@
+// How far a wheel event turns: Qt 5.
+#ifndef QT_5_QT_WHEEL_EVENTS_H_
+#define QT_5_QT_WHEEL_EVENTS_H_
+
+#include <QWheelEvent>
+
+namespace qt {
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+// In eighths of a degree; positive is up, away from the user. Deprecated, and still the only answer that is right for
+// every way in which a host builds the event.
+inline int TurnOf(const QWheelEvent& event) { return event.delta(); }
+QT_WARNING_POP
+
+}  // namespace qt
+
+#endif  // QT_5_QT_WHEEL_EVENTS_H_

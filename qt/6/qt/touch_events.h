@@ -1,0 +1,36 @@
+// Touch events, read and made: Qt 6.
+#ifndef QT_6_QT_TOUCH_EVENTS_H_
+#define QT_6_QT_TOUCH_EVENTS_H_
+
+#include <QEventPoint>
+#include <QList>
+#include <QPointF>
+#include <QTouchEvent>
+
+namespace qt {
+
+using TouchPoint = QEventPoint;
+
+inline const QList<TouchPoint>& PointsOf(const QTouchEvent& event) { return event.points(); }
+
+// In the receiver, in its logical pixels.
+//
+// A point that Qt delivers has a device, and Qt has put it into the receiver. Who makes a point of his own can give it
+// a place in the scene and no other; it has no device.
+inline QPointF PlaceOf(const TouchPoint& point) { return point.device() ? point.position() : point.scenePosition(); }
+
+inline Qt::TouchPointState StateOf(const TouchPoint& point) { return static_cast<Qt::TouchPointState>(point.state()); }
+
+// `place` is what PlaceOf gives for it.
+inline TouchPoint MakeTouchPoint(int id, Qt::TouchPointState state, const QPointF& place) {
+  return {id, static_cast<QEventPoint::State>(state), place, place};
+}
+
+// Of no device.
+inline QTouchEvent MakeTouchEvent(QEvent::Type type, Qt::KeyboardModifiers modifiers, const QList<TouchPoint>& points) {
+  return QTouchEvent(type, nullptr, modifiers, points);
+}
+
+}  // namespace qt
+
+#endif  // QT_6_QT_TOUCH_EVENTS_H_
