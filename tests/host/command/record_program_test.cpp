@@ -347,7 +347,7 @@ TEST_F(RecordProgram, SimulateTellsWhenThereIsNoRecord) {
   Write("keymap.yaml", kKeymap);
   const Outcome nothing = Run({"simulate", "--record", "out.json", "keymap.yaml", "-"}, "wait 5\n");
   EXPECT_EQ(nothing.status, 1);
-  EXPECT_TRUE(nothing.errors.endsWith("out.json: not written: there is nothing to record\n"));
+  EXPECT_TRUE(nothing.errors.endsWith("out.json: not saved: there is nothing to record\n"));
   EXPECT_FALSE(Has("out.json"));
   const Outcome nowhere =
       Run({"simulate", "--record", "none/out.json", "keymap.yaml", "-"}, "down Space; wait 1; up Space\n");
