@@ -54,6 +54,7 @@ PHRASES = [
     (r"here stands?|what stands|there stands?", "is"),
     (r"tells(?! (you|them|a host|the host)\b)", "prints, documents, reports"),
     (r"(is|are) told (by|in|all|below|above|to)", "is described, is reported"),
+    (r"told (of|on)", "is reported"),
     (r"let(s|ting)? (it |them |this |that )?go( of)?", "release"),
     (r"held to", "checked against"),
     (r"mended|mends", "fixed"),
@@ -91,6 +92,12 @@ PHRASES = [
     (r"know(n|s)? (them|it|keys) by", "identify by"),
     (r"answers? to (no|a|the) key", "matches, responds to"),
     (r"made of its", "generated from its"),
+    (r"sees? to it", "make sure"),
+    (r"the ways? (that|of|to)", "the path of, how"),
+    (r"gives? back", "return, release"),
+    (r"for ever", "forever, endless"),
+    (r"if wanted", "optionally"),
+    (r"need(s)? so long", "needs that long"),
 ]
 
 
