@@ -367,6 +367,7 @@ int Run(const Invocation& invocation) {
     const QCoreApplication application(invocation.argc, invocation.argv);
     return options.is_list ? ListDevices(options) : AskForControl(options);
   }
+  qputenv("QT_NO_GLIB", "1");                                           // Qt's own event loop takes less time for a key
   const QGuiApplication application(invocation.argc, invocation.argv);  // the library asks it for the pointer
   return PlayOn(options);
 }

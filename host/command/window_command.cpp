@@ -296,7 +296,8 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
   if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
 }
 
-int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
+// `news` is what the person is to know of the start.
+int ShowWindow(const WindowOptions& options, const QStringList& news, WindowMemory* memory) {
   theme::Apply(qApp, options.look);
   const TargetsInUse targets;  // longer than the window, which lifts what is down at its end
   MainWindow window;
@@ -335,6 +336,7 @@ int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
   window.ReadGamepads();
   window.ClearLog();  // what the guest was sent by way of a beginning is no news
   window.show();
+  if (!news.isEmpty()) window.Tell(news.join(QStringLiteral("; ")), true);
   if (options.shows_events) window.ShowEvents();
   window.activateWindow();
   const InterruptionWatch interruptions(&window);
@@ -348,9 +350,10 @@ int ShowWindow(const WindowOptions& options, WindowMemory* memory) {
   return status;
 }
 
-// What the command line leaves open is as it was last time. What was remembered and makes no sense counts for nothing.
-WindowOptions Remember(ParsedArguments arguments, const WindowMemory& memory, const WindowOptions& given) {
-  const QMap<QString, QString> kept = memory.Options();
+using KeptOptions = QMap<QString, QString>;
+
+// The command line with what was kept of the options that it leaves open.
+ParsedArguments Completed(ParsedArguments arguments, const KeptOptions& kept) {
   const bool has_keymap = !arguments.positional.isEmpty();
   for (auto option = kept.begin(); option != kept.end(); ++option) {
     const bool is_of_the_keymap = option.key() == kJoystick;
@@ -358,9 +361,48 @@ WindowOptions Remember(ParsedArguments arguments, const WindowMemory& memory, co
     arguments.options.insert(option.key(), option.value());
     arguments.in_order.append({option.key(), option.value()});
   }
-  if (!has_keymap && !memory.Keymap().isEmpty()) arguments.positional += memory.Keymap();
+  return arguments;
+}
+
+QString ProblemWith(const ParsedArguments& given, const KeptOptions& kept) {
   WindowOptions options;
-  return ReadOptions(arguments, &options).isEmpty() ? options : given;
+  return ReadOptions(Completed(given, kept), &options);
+}
+
+QString NewsOf(const QString& option, const KeptOptions& kept, const QString& problem) {
+  return QStringLiteral("%1 %2 of last time is not used: %3").arg(option, kept[option], problem);
+}
+
+// What was kept and makes sense beside the command line. An option that does not is left out, and told in `news`; where
+// no single one is to blame, each that does not go with those before it.
+KeptOptions UsableOf(const ParsedArguments& given, const KeptOptions& kept, QStringList* news) {
+  const QString problem = ProblemWith(given, kept);
+  if (problem.isEmpty()) return kept;
+  for (const QString& option : kept.keys()) {
+    KeptOptions others = kept;
+    others.remove(option);
+    if (!ProblemWith(given, others).isEmpty()) continue;
+    news->append(NewsOf(option, kept, problem));
+    return others;
+  }
+  KeptOptions usable;
+  for (const QString& option : kept.keys()) {
+    usable.insert(option, kept[option]);
+    const QString own_problem = ProblemWith(given, usable);
+    if (own_problem.isEmpty()) continue;
+    usable.remove(option);
+    news->append(NewsOf(option, kept, own_problem));
+  }
+  return usable;
+}
+
+// What the command line leaves open is as it was last time.
+WindowOptions Remember(const ParsedArguments& given, const WindowMemory& memory, QStringList* news) {
+  ParsedArguments arguments = Completed(given, UsableOf(given, memory.Options(), news));
+  if (arguments.positional.isEmpty() && !memory.Keymap().isEmpty()) arguments.positional += memory.Keymap();
+  WindowOptions options;
+  ReadOptions(arguments, &options);
+  return options;
 }
 
 int Run(const Invocation& invocation) {
@@ -381,7 +423,10 @@ int Run(const Invocation& invocation) {
   const QString problem = ReadOptions(arguments, &options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
   WindowMemory memory(options.is_fresh ? QString() : WindowMemory::UsualFile());
-  return ShowWindow(Remember(arguments, memory, options), &memory);
+  QStringList news;
+  options = Remember(arguments, memory, &news);
+  for (const QString& text : qAsConst(news)) Tell(text);
+  return ShowWindow(options, news, &memory);
 }
 
 }  // namespace

@@ -40,12 +40,13 @@ QColor Faint(QColor color, int alpha) {
 // Paints the marks of one view. All places are in the painter's units.
 class MarkPainter {
  public:
-  MarkPainter(QPainter* painter, const QSizeF& view)
+  MarkPainter(QPainter* painter, const QSizeF& view, const QRectF& covered)
       : painter_(painter),
         view_(view),
         text_height_(qBound(kSmallestText, qRound(view.height() * kTextHeight), kLargestText)),
         key_font_(SizedFont(painter->font(), text_height_, true)),
-        label_font_(SizedFont(painter->font(), qRound(text_height_ * kLabelSize), false)) {}
+        label_font_(SizedFont(painter->font(), qRound(text_height_ * kLabelSize), false)),
+        taken_{covered} {}
 
   // What may lie under the keys of other marks comes first.
   void PaintArea(const OverlayMark& mark) {
@@ -211,7 +212,7 @@ class MarkPainter {
   const int text_height_;
   const QFont key_font_;
   const QFont label_font_;
-  QVector<QRectF> taken_;  // by keys and labels
+  QVector<QRectF> taken_;  // by keys, labels, and what covers them
 };
 
 }  // namespace
@@ -229,7 +230,7 @@ QColor ColorOf(Family family) {
 
 void KeymapOverlay::Paint(QPainter* painter, const QSizeF& view) const {
   painter->save();
-  MarkPainter marks(painter, view);
+  MarkPainter marks(painter, view, covered_);
   for (const OverlayMark& mark : marks_) {
     if (mark.HasPlace()) marks.PaintArea(mark);
   }

@@ -2,6 +2,7 @@
 #define HOST_PICTURE_KEYMAP_OVERLAY_H_
 
 #include <QColor>
+#include <QRectF>
 #include <QSizeF>
 #include <QVector>
 
@@ -20,12 +21,15 @@ class KeymapOverlay {
  public:
   void SetMarks(const QVector<OverlayMark>& marks) { marks_ = marks; }
   bool IsEmpty() const { return marks_.isEmpty(); }
+  // A part of the view that something else lies upon: keys give way to it as they do to each other.
+  void SetCovered(const QRectF& covered) { covered_ = covered; }
 
   // `view` is the size of the guest view in the painter's units, its top left at 0, 0.
   void Paint(QPainter* painter, const QSizeF& view) const;
 
  private:
   QVector<OverlayMark> marks_;
+  QRectF covered_;  // in the painter's units; empty: nothing
 };
 
 }  // namespace tavi

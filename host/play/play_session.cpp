@@ -93,6 +93,9 @@ QString PlaySession::Start() {
   pads_.SetListening(!settings_.is_paused);
   devices_.Start();
   devices_.SetGrabWanted(!settings_.is_paused);
+  if (devices_.Count() == 0) {
+    Q_EMIT Told(QStringLiteral("no keyboard and no mouse to play with yet; --list tells what there is"));
+  }
   return {};
 }
 
@@ -204,6 +207,7 @@ void PlaySession::End() {
   mapping_.LetGoOfEverything();
   outlet_->Close();
   LiveHost::GetInstance()->SetLineSink({});
+  LiveHost::GetInstance()->Start({});  // nobody asks for our pointer any more
 }
 
 void PlaySession::TakeFrame(int device, const InputFrame& frame, bool is_grabbed) {

@@ -43,9 +43,7 @@ QString UnknownKey(const QString& name) {
 
 }  // namespace
 
-bool KeyCombination::IsKeyOf(const QKeyEvent& event) const {
-  return static_cast<int>(NativeKeyOf(event).scancode) == scancode;
-}
+bool KeyCombination::IsKeyOf(const QKeyEvent& event) const { return static_cast<int>(ScanCodeOf(event)) == scancode; }
 
 bool KeyCombination::Matches(const QKeyEvent& event) const {
   return (event.modifiers() & modifiers) == modifiers && IsKeyOf(event);

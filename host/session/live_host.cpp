@@ -104,6 +104,7 @@ bool LiveHost::IsHeard() const {
 }
 
 void LiveHost::Add(Source source, const QString& text) {
+  if (!IsHeard()) return;
   const TimelineEntry entry{clock_.elapsed(), source, text};
   QMetaObject::invokeMethod(this, [this, entry] { Q_EMIT EntryAdded(entry); });
 }

@@ -14,6 +14,8 @@ struct NativeKey {
 };
 
 NativeKey NativeKeyOf(const QKeyEvent& event);
+// The first of the two alone, which takes no search.
+quint32 ScanCodeOf(const QKeyEvent& event);
 
 }  // namespace tavi
 

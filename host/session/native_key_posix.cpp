@@ -20,11 +20,15 @@ quint32 VirtualKeyOf(int scancode) {
 
 }  // namespace
 
-NativeKey NativeKeyOf(const QKeyEvent& event) {
+quint32 ScanCodeOf(const QKeyEvent& event) {
   const int linux_code = static_cast<int>(event.nativeScanCode()) - tavikeymapmanager::kX11KeyOffset;
-  const int scancode = tavikeymapmanager::ScanCodeOfLinuxKey(linux_code);
+  return static_cast<quint32>(tavikeymapmanager::ScanCodeOfLinuxKey(linux_code));
+}
+
+NativeKey NativeKeyOf(const QKeyEvent& event) {
+  const quint32 scancode = ScanCodeOf(event);
   if (scancode == 0) return {};
-  return {static_cast<quint32>(scancode), VirtualKeyOf(scancode)};
+  return {scancode, VirtualKeyOf(static_cast<int>(scancode))};
 }
 
 }  // namespace tavi

@@ -4,6 +4,8 @@
 
 namespace tavi {
 
+quint32 ScanCodeOf(const QKeyEvent& event) { return event.nativeScanCode(); }
+
 NativeKey NativeKeyOf(const QKeyEvent& event) { return {event.nativeScanCode(), event.nativeVirtualKey()}; }
 
 }  // namespace tavi

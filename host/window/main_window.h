@@ -8,22 +8,20 @@
 #include <QStringList>
 
 #include "host/gamepad/gamepads.h"
-#include "host/picture/overlay_marks.h"
 #include "host/session/key_combination.h"
 #include "host/session/keymap_source.h"
 #include "host/session/mapping.h"
 #include "host/session/reserved_keys.h"
-#include "host/window/findings/placed_finding.h"
+#include "host/window/list_docks.h"
+#include "host/window/shown_keymap.h"
 #include "host/window/view/window_state.h"
 
 class QAction;
 class QDockWidget;
-class QLabel;
 
 namespace tavi {
 
 class ControlFocus;
-class DiagnosticsPanel;
 class DockFolder;
 class FindingMarks;
 class GamepadPoll;
@@ -32,12 +30,11 @@ class GuestFrame;
 class GuestPanel;
 class GuestView;
 class KeymapEditor;
-class KeymapWatch;
-class LineLog;
 class MainToolBar;
 class MirrorLabel;
 class RecordBar;
 class ReplayDock;
+class StatusLine;
 class TargetButton;
 
 // The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
@@ -70,6 +67,8 @@ class MainWindow : public QMainWindow {
   // Lifts what is down, and saves a recording or puts it aside, as it does with edits. Returns what a person is to know
   // of, such as where these are.
   QStringList LeaveWithoutAsking();
+  // Tells the person at the bottom for a while; `is_problem`: something went wrong.
+  void Tell(const QString& text, bool is_problem);
   // Empties the list of the lines for the guest.
   void ClearLog();
 
@@ -80,7 +79,7 @@ class MainWindow : public QMainWindow {
   TargetButton* Targets() const { return targets_; }
   RecordBar* Records() const { return records_; }
   // Lists the events of the host.
-  QAction* EventsShown() const { return events_shown_; }
+  QAction* EventsShown() const { return lists_->EventsShown(); }
   void ShowEvents();
   KeymapEditor* Editor() const { return editor_; }
   // The gamepads that the library is told of.
@@ -89,10 +88,10 @@ class MainWindow : public QMainWindow {
   Mapping* Keymaps() { return &mapping_; }
   MainToolBar* Tools() const { return tools_; }
   // Puts docks away while the window is small.
-  DockFolder* Docks() const { return docks_; }
+  DockFolder* Docks() const { return lists_->Folder(); }
   // Those that the player shows and hides; which ones are shown is remembered.
-  QVector<QDockWidget*> RememberedDocks() const { return {log_dock_, event_dock_}; }
-  QString JoystickKeymapPath() const { return joystick_keymap_.path; }
+  QVector<QDockWidget*> RememberedDocks() const { return {lists_->LogDock(), lists_->EventDock()}; }
+  QString JoystickKeymapPath() const { return joystick_keymap_.Path(); }
   QString PauseKeyName() const;
   QString PanicKeyName() const;
   QString ControlsKeyName() const;
@@ -105,37 +104,20 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  // A keymap that is in use, and what belongs to it.
-  struct Keymap {
-    QString path;      // empty: none
-    QString contents;  // for people
-    QVector<OverlayMark> marks;
-    QVector<PlacedFinding> findings;  // that have a place on the screen
-    DiagnosticsPanel* diagnostics;
-    KeymapWatch* watch;
-  };
-
   void MakeToolBar();
   void MakeDisplay();
   void MakeFullScreen();
-  void MakeStatusBar();
-  QDockWidget* AddDock(const QString& name, const QString& title, QWidget* content, Qt::DockWidgetArea area);
-  void MakeLogDock();
-  void MakeEventDock();
   void MakeEditor();
   void MakeRecordBar();
   void MakeReplayDock();
-  void Tell(const QString& text, bool is_problem);
   QWidget* MakeCentre();
-  // Takes in a keymap that was read.
-  void Take(const KeymapSource& source, Keymap* keymap);
   void ShowEdited();
   void ShowTitle();
   void SetEditing(bool editing);
   void UseEdited(const QString& file);
-  void TellVanished(const Keymap& keymap);
-  static QString ContentsOf(const Keymap& keymap);
-  QString AskForKeymap(const QString& title, const Keymap& before);
+  void TellVanished(const ShownKeymap& keymap);
+  QString AskForKeymap(const QString& title, const ShownKeymap& before);
+  QString Hint() const;
   void ShowKeymaps();
   void TakeActivation();
   void ShowPads();
@@ -148,22 +130,15 @@ class MainWindow : public QMainWindow {
   KeymapEditor* editor_ = nullptr;
   KeymapSource edited_;  // the keymap as the editor has it
   QString name_;         // of the keymap, for people
-  Keymap keymap_;
-  Keymap joystick_keymap_;
-  LineLog* log_;
-  DockFolder* docks_;
+  ShownKeymap keymap_;
+  ShownKeymap joystick_keymap_;
+  ListDocks* lists_ = nullptr;
   ControlFocus* controls_;
-  QDockWidget* log_dock_ = nullptr;
-  QDockWidget* event_dock_ = nullptr;
-  QAction* log_shown_ = nullptr;
-  QAction* events_shown_ = nullptr;
   MainToolBar* tools_ = nullptr;
   GuestDisplay* display_ = nullptr;
-  QLabel* keymap_label_;
-  QLabel* state_label_;
+  StatusLine* status_ = nullptr;
   MirrorLabel* mirrors_;
   TargetButton* targets_;
-  QLabel* pad_label_;
   FindingMarks* finding_marks_ = nullptr;
   RecordBar* records_ = nullptr;
   ReplayDock* replay_dock_ = nullptr;

@@ -31,6 +31,8 @@ Ask AskIn(QWidget* window) {
       QPushButton* button = box.addButton(answer.button);
       if (!answer.text.isEmpty()) button->setText(answer.text);
     }
+    // Where nothing can be saved, Enter by itself must not lose anything.
+    if (box.button(QMessageBox::Save) == nullptr) box.setDefaultButton(QMessageBox::Cancel);
     return static_cast<QMessageBox::StandardButton>(box.exec());
   };
 }

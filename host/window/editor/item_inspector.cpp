@@ -241,6 +241,8 @@ void ItemInspector::CommitSource() {
   if (!pane_->Problem().isEmpty()) Q_EMIT Refused(QStringLiteral("The text is not taken over. ") + pane_->Problem());
 }
 
+QString ItemInspector::TextProblem() const { return pane_->isHidden() ? QString() : pane_->Problem(); }
+
 void ItemInspector::LeavePart() {
   if (pane_->isHidden()) return;
   CommitSource();

@@ -40,6 +40,8 @@ class ItemInspector : public QWidget {
   void ListenForKey();
   // Takes over what was typed and not confirmed yet.
   void Commit();
+  // What is wrong with the text that was typed, and that nothing has taken over; empty: nothing.
+  QString TextProblem() const;
   // A button of a gamepad, for a field that waits for a key.
   void TakePad(const QString& text, bool down);
   // Of the selected item; null when it is not shown.

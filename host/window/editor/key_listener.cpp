@@ -9,6 +9,8 @@ namespace tavi {
 KeyListener::KeyListener(bool takes_chords, QWidget* parent) : QToolButton(parent), takes_chords_(takes_chords) {
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setToolTip(takes_chords_ ? QStringLiteral("Waits for a key, or for two at once; Escape ends the wait")
+                           : QStringLiteral("Waits for a key; Escape ends the wait"));
   connect(this, &QToolButton::clicked, this, &KeyListener::Listen);
   Stop();
 }
@@ -16,8 +18,7 @@ KeyListener::KeyListener(bool takes_chords, QWidget* parent) : QToolButton(paren
 void KeyListener::Listen() {
   is_listening_ = true;
   capture_ = KeyCapture(takes_chords_);
-  setText(takes_chords_ ? QStringLiteral("Press a key, or two\u2026 (Esc: cancel)")
-                        : QStringLiteral("Press a key\u2026 (Esc: cancel)"));
+  setText(QStringLiteral("Press it\u2026"));  // no longer than before: it shares a line with the key's name
   setFocus();
 }
 

@@ -265,8 +265,16 @@ bool KeymapEditor::TakeFileChange() {
   return true;
 }
 
+bool KeymapEditor::MayForgetText() {
+  const QString problem = inspector_->TextProblem();
+  if (problem.isEmpty()) return true;
+  return ask_(QStringLiteral("The text that you typed cannot be used and would be lost. %1").arg(problem),
+              {{QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}}) == QMessageBox::Discard;
+}
+
 bool KeymapEditor::MayLeave() {
   inspector_->Commit();
+  if (!MayForgetText()) return false;
   if (!document_.IsModified()) return true;
   const Button answer = ask_(QStringLiteral("Save the edits of the keymap?"),
                              {{QMessageBox::Save, {}}, {QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
@@ -311,8 +319,12 @@ bool KeymapEditor::SaveAs(const QString& path) {
   if (target.isEmpty()) return false;
   const QString problem = document_.Save(target);
   Report(problem);
-  if (problem.isEmpty()) Q_EMIT Message(QStringLiteral("Saved %1").arg(target), false);
-  return problem.isEmpty();
+  if (!problem.isEmpty()) return false;
+  const bool is_whole = inspector_->TextProblem().isEmpty();
+  const QString news =
+      is_whole ? QStringLiteral("Saved %1") : QStringLiteral("Saved %1, but not the text that you typed");
+  Q_EMIT Message(news.arg(target), !is_whole);
+  return true;
 }
 
 // ---- Items

@@ -95,6 +95,8 @@ class KeymapEditor : public QObject {
   void ShowState();
   void ShowMenu(const QPoint& global, const QPointF& place);
   void Report(const QString& problem);
+  // Asks whether a text that was typed and cannot be taken over may be lost.
+  bool MayForgetText();
   // A place for a new item where none is near.
   QPointF FreePlace() const;
 

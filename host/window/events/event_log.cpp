@@ -41,7 +41,9 @@ QVariant EventLog::headerData(int section, Qt::Orientation orientation, int role
 QVariant EventLog::data(const QModelIndex& index, int role) const {
   const Row& row = rows_[static_cast<size_t>(index.row())];
   switch (role) {
-    case Qt::DisplayRole: return Text(row, index.column());
+    case Qt::DisplayRole:
+      if (index.column() == kTime) return Text(row, kTime) + QLatin1Char(' ');  // or a long one runs into the event
+      return Text(row, index.column());
     case Qt::ToolTipRole: return index.column() == kSent ? row.lines.join(QLatin1Char('\n')) : QString();
     case Qt::TextAlignmentRole:
       return static_cast<int>((index.column() == kTime ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);

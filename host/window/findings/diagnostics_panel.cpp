@@ -1,6 +1,7 @@
 #include "host/window/findings/diagnostics_panel.h"
 
 #include <QLabel>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -79,7 +80,10 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
   findings_->setAccessibleName(QStringLiteral("Findings of %1").arg(subject.toLower()));
   findings_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   findings_->setFont(theme::MonospaceFont());
+  findings_->setWordWrap(true);
   scroll_->setWidget(findings_);
+  scroll_->setWidgetResizable(true);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it would lie upon the only line
   scroll_->setFrameShape(QFrame::NoFrame);
   ReachByTab(scroll_);
   scroll_->setAccessibleName(QStringLiteral("List of findings"));
@@ -106,7 +110,6 @@ void DiagnosticsPanel::Render() {
     rows += FindingHtml(shown_.all[i], FindPlaced(shown_.placed, i));
   }
   findings_->setText(QStringLiteral("<table cellspacing=0>") + rows + QStringLiteral("</table>"));
-  findings_->adjustSize();
   const bool has_findings = !shown_.all.isEmpty();
   const QColor& color = has_errors_    ? theme::Colors().error
                         : has_findings ? theme::Colors().warning
@@ -120,9 +123,23 @@ void DiagnosticsPanel::KeepHeight(int height) {
   Arrange();
 }
 
+// A narrower panel breaks its findings into more lines.
+void DiagnosticsPanel::resizeEvent(QResizeEvent* event) {
+  QFrame::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) Arrange();
+}
+
+int DiagnosticsPanel::HeightOfFindings() const {
+  const QMargins around = layout()->contentsMargins();
+  findings_->setMinimumHeight(0);  // counts in what it asks for
+  return qMax(0, findings_->heightForWidth(width() - around.left() - around.right()));
+}
+
 void DiagnosticsPanel::Arrange() {
   const bool is_own = kept_height_ == kOwnHeight;
-  scroll_->setMinimumHeight(is_own ? qMin(findings_->height(), kMostHeight) : 0);
+  const int height = HeightOfFindings();
+  findings_->setMinimumSize(1, height);  // by itself it would ask for that of its narrowest
+  scroll_->setMinimumHeight(is_own ? qMin(height, kMostHeight) : 0);
   scroll_->setMaximumHeight(is_own ? scroll_->minimumHeight() : QWIDGETSIZE_MAX);
   setMinimumHeight(is_own ? 0 : kept_height_);
   setMaximumHeight(is_own ? QWIDGETSIZE_MAX : kept_height_);

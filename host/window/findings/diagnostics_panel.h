@@ -29,6 +29,9 @@ class DiagnosticsPanel : public QFrame {
   static constexpr int kOwnHeight = -1;
   static constexpr int kEditingHeight = 72;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  Q_SIGNALS:
   // A finding that is marked was clicked at.
   void FindingChosen(const QString& label);
@@ -36,6 +39,7 @@ class DiagnosticsPanel : public QFrame {
  private:
   void Render();
   void Arrange();
+  int HeightOfFindings() const;
 
   const QString subject_;
   QLabel* title_;

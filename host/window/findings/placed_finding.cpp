@@ -30,12 +30,32 @@ int CommonEnd(const Lines& a, const Lines& b, int start) {
   return count;
 }
 
+int IndentOf(const QByteArray& line) {
+  int indent = 0;
+  while (indent < line.size() && line[indent] == ' ') ++indent;
+  return indent;
+}
+
+// Whether the line begins an item of a list that is indented like this.
+bool BeginsAnItem(const QByteArray& line, int indent) { return IndentOf(line) == indent && line.mid(indent, 1) == "-"; }
+
 // Lines of a text that was changed, to lines of the text before. All from 1.
 class LineMap {
  public:
   LineMap(const Lines& before, const Lines& after)
-      : before_size_(before.size()), after_size_(after.size()), start_(CommonStart(before, after)) {
+      : after_(after), before_size_(before.size()), after_size_(after.size()), start_(CommonStart(before, after)) {
     end_ = CommonEnd(before, after, start_);
+  }
+  // Whether the line belongs to an item, of a list that is indented like this, that was put in between those before.
+  bool IsOfANewItem(int line, int indent) const {
+    const bool only_adds = start_ + end_ >= before_size_;
+    int last = qMin(line, after_size_);
+    while (last > start_ && after_[last - 1].trimmed().isEmpty()) --last;  // a file's end is about what is above it
+    if (!only_adds || last > after_size_ - end_) return false;
+    for (int i = last; i > start_; --i) {
+      if (BeginsAnItem(after_[i - 1], indent)) return true;
+    }
+    return false;
   }
   int Before(int line) const {
     if (line <= start_) return line;
@@ -44,6 +64,7 @@ class LineMap {
   }
 
  private:
+  const Lines& after_;
   int before_size_;
   int after_size_;
   int start_;
@@ -79,12 +100,14 @@ QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QVector<D
                                      const QString& prefix) {
   const km::LoadResult& keymap = source.InUse();
   const Lines last = source.LastText().split('\n');
-  const LineMap map(source.TextInUse().split('\n'), last);
+  const Lines before = source.TextInUse().split('\n');
+  const LineMap map(before, last);
   QVector<PlacedFinding> placed;
   for (int i = 0; i < findings.size(); ++i) {
     if (!IsAmongItems(last, findings[i].line)) continue;
     const int item = ItemAt(keymap, map.Before(findings[i].line), findings[i].column);
     if (item < 0 || item >= keymap.config->items.size()) continue;
+    if (map.IsOfANewItem(findings[i].line, IndentOf(before[keymap.item_sources[item].line - 1]))) continue;
     const QPointF point = PlaceOf(*keymap.config->items[item]);
     if (point.isNull()) continue;
     const bool is_error = findings[i].severity == Diagnostic::Severity::kError;

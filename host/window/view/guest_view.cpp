@@ -74,6 +74,11 @@ QPoint GuestView::Corner(const QSize& size) const {
   return pointer - QPoint(x, y);
 }
 
+void GuestView::SetCovered(const QRect& covered) {
+  overlay_.SetCovered(covered);
+  update();
+}
+
 void GuestView::SetHint(const QString& hint) {
   hint_ = hint;
   update();
@@ -207,8 +212,14 @@ QVariant GuestView::inputMethodQuery(Qt::InputMethodQuery query) const {
   return QWidget::inputMethodQuery(query);
 }
 
+void GuestView::focusInEvent(QFocusEvent* event) {
+  stale_repeats_.Take({});
+  QWidget::focusInEvent(event);
+}
+
 void GuestView::focusOutEvent(QFocusEvent* event) {
   if (!taviinputmanager::isInputHoldWhenWindowDeactivate()) ReleaseInput();
+  stale_repeats_.Take(pressed_);
   QWidget::focusOutEvent(event);
 }
 

@@ -6,6 +6,7 @@
 
 #include "host/picture/keymap_overlay.h"
 #include "host/session/key_repeat_filter.h"
+#include "host/window/controls/stale_repeats.h"
 #include "host/window/pointer/pointer_capture.h"
 #include "host/window/view/guest_screen.h"
 
@@ -30,6 +31,9 @@ class GuestView : public GuestScreen {
   void SetOverlayDimmed(bool dimmed);
   // Shown in the middle while the guest has nothing to show.
   void SetHint(const QString& hint);
+  const QString& Hint() const { return hint_; }
+  // Something lies upon this part of the view; keys of the keymap give way to it.
+  void SetCovered(const QRect& covered);
   // The corner of the view where it is `size` to the library: LiveHost::Corner.
   QPoint Corner(const QSize& size) const;
   // Holds the pointer while the library takes nothing but its movement.
@@ -48,6 +52,7 @@ class GuestView : public GuestScreen {
   void wheelEvent(QWheelEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void PaintOverFingers(QPainter* painter) override;
 
@@ -76,7 +81,8 @@ class GuestView : public GuestScreen {
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;
-  QSet<quint32> pressed_;             // scan codes whose press came here
+  QSet<quint32> pressed_;  // scan codes whose press came here
+  StaleRepeats stale_repeats_;
   const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
 };
 

@@ -82,6 +82,7 @@ void StateCorner::Place() {
   const int lines = is_row ? 1 : words_.size();
   resize(qMin(room, is_row ? in_a_row : widest), lines * (kHeight + kGap) - kGap);
   move(parentWidget()->width() - kMargin - width(), kMargin);
+  Q_EMIT Placed(geometry());
 }
 
 void StateCorner::paintEvent(QPaintEvent* /*event*/) {

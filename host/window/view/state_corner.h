@@ -19,6 +19,10 @@ class StateCorner : public QWidget {
   // For people who look at texts.
   QStringList Texts() const;
 
+ Q_SIGNALS:
+  // The part of the view that it covers is another one.
+  void Placed(const QRect& place);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

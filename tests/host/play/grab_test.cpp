@@ -199,6 +199,14 @@ TEST_F(Grab, WhenItEndsEverythingIsLiftedAndGivenBack) {
   EXPECT_TRUE(guest_.is_closed);
 }
 
+TEST_F(Grab, WhereThereIsNothingToPlayWithThatIsTold) {
+  settings_.devices = QStringList{"No such board"};
+  session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
+  QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
+  ASSERT_EQ(session_->Start(), QString());
+  EXPECT_EQ(told_, QStringList{"no keyboard and no mouse to play with yet; --list tells what there is"});
+}
+
 // ---- Which devices
 
 TEST(DeviceChoice, WhatIsTakenAndWhyNot) {

@@ -14,6 +14,8 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
 #include <QThread>
 #include <QTimer>
 #include <QToolBar>
@@ -227,6 +229,18 @@ TEST_F(Dialogs, AQuestion) {
 }
 
 // How Tab goes through it is Qt's, or the desktop's.
+TEST_F(Dialogs, EnterLosesNothing) {
+  Use(
+      [this] {
+        AskIn(Window())(QString(), {{QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
+      },
+      [](QWidget* dialog) {
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        ASSERT_NE(box, nullptr);
+        EXPECT_TRUE(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel))->isDefault());
+      });
+}
+
 TEST_F(Dialogs, TheNameOfAFile) {
   Use(
       [this] {
@@ -263,6 +277,47 @@ TEST_F(Dialogs, SomethingThatTakesItsTime) {
 }
 
 // ---- The way there
+
+TEST_F(Controls, AMessageIsReadAsAWholeInANarrowWindow) {
+  Window()->resize(640, 600);
+  const QString message = "The edits are in use, but not saved yet, and this sentence goes on";
+  Window()->Tell(message, false);
+  clock_->Settle();
+  const QStatusBar* bar = Window()->statusBar();
+  int room = bar->width();
+  for (const QLabel* label : bar->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (label->isVisible()) room = qMin(room, label->width() > 0 ? label->x() : room);
+  }
+  EXPECT_GE(room, bar->fontMetrics().horizontalAdvance(message));
+  Window()->statusBar()->clearMessage();
+  Window()->resize(1360, 760);
+  clock_->Settle();
+  for (const QLabel* label : bar->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (!label->isVisible()) continue;
+    EXPECT_GE(label->width(), qMin(label->sizeHint().width(), 100)) << label->text().toStdString();
+  }
+}
+
+// A player walks and clicks at Open…: the key that is still down is no part of a file's name.
+TEST_F(Controls, AKeyThatIsHeldOverTheGuestRepeatsNowhereElse) {
+  View()->setFocus();
+  Press(kW);
+  QLineEdit field(Window());
+  field.show();
+  field.setFocus();
+  const auto type = [&field](QEvent::Type type, bool repeats) {
+    QKeyEvent event(type, Qt::Key_W, Qt::NoModifier, kW + 8, 0, 0, "w", repeats);
+    QCoreApplication::sendEvent(&field, &event);
+  };
+  type(QEvent::KeyPress, true);
+  type(QEvent::KeyRelease, true);
+  type(QEvent::KeyPress, true);
+  EXPECT_EQ(field.text(), QString());
+  type(QEvent::KeyRelease, false);
+  type(QEvent::KeyPress, false);  // pressed anew, it types and repeats
+  type(QEvent::KeyPress, true);
+  EXPECT_EQ(field.text(), "ww");
+}
 
 TEST_F(Controls, TheKeyLeadsToTheFirstOne) {
   Load(kItems);

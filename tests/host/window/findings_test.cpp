@@ -1,8 +1,11 @@
 // What is wrong with a keymap, told in a list and marked where its items are.
 #include <QAction>
 #include <QFile>
+#include <QFontMetrics>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolTip>
 
 #include "host/session/keymap_source.h"
@@ -89,6 +92,54 @@ TEST_F(Findings, LinesThatMovedStandForThemselves) {
       "  - {type: Click, label: New, key: R, point: [0.1, 0.1]}\n" +
       Replaced("key: E, point: [0.75", "key: Eh, point: [7.5").mid(17));
   ExpectMarkAt("1", 0.75, 0.25);
+}
+
+// A brace is forgotten in an item that is put behind the others. The reader stops in the line below, or at the end.
+TEST_F(Findings, AnItemThatIsNotInUseYetMarksNoOther) {
+  Save(kTwins);
+  Save(QByteArray(kTwins) +
+       "\n  - {type: Click, key: R, point: [0.1, 0.1]\n  - {type: Click, key: F, point: [0.2, 0.2]}\n");
+  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+  EXPECT_FALSE(Marks()->isVisible());
+  Save(kTwins);
+  Save(QByteArray(kTwins) + "  - {type: Click, key: R, point: [0.1, 0.1]\n");
+  EXPECT_FALSE(Marks()->isVisible());
+  Save(kTwins);
+  Save(QByteArray(kTwins) + "  - type: Macro\n    key: R\n    press_commands:\n      - sleep: 40\n");
+  EXPECT_FALSE(Marks()->isVisible());
+}
+
+TEST_F(Findings, ALineThatIsPutIntoAnItemMarksIt) {
+  const QByteArray item = "format: 1\nitems:\n  - type: Click\n    key: Space\n    point: [0.25, 0.75]\n";
+  Save(item);
+  Save(item + "    colour: red\n");
+  ExpectMarkAt("1", 0.25, 0.75);
+}
+
+// Long sentences break where the panel ends, and no bar lies upon a line or beside the only one.
+TEST_F(Findings, AreReadAsAWhole) {
+  const auto* panel = Window()->findChildren<DiagnosticsPanel*>().first();
+  const auto* scroll = panel->findChild<QScrollArea*>();
+  const auto is_whole = [this, scroll] {
+    clock_->Settle();
+    return scroll->isVisible() && !scroll->horizontalScrollBar()->isVisible() &&
+           !scroll->verticalScrollBar()->isVisible() && scroll->widget()->width() <= scroll->viewport()->width();
+  };
+  const QByteArray broken = QByteArray(kTwins).replace("point: [0.5, 0.5]}", "point: [0.5, 0.5]");
+  for (const int width : {700, 900, 1000, 1272, 1400}) {
+    Window()->resize(width, 700);
+    Save(kTwins);
+    clock_->Settle();
+    Save(broken);
+    EXPECT_TRUE(is_whole()) << width;
+  }
+  const int line = QFontMetrics(scroll->widget()->font()).height();
+  Window()->resize(700, 700);
+  EXPECT_TRUE(is_whole());
+  EXPECT_GT(scroll->viewport()->height(), line * 3 / 2);  // more than one of them
+  Window()->resize(1900, 700);
+  EXPECT_TRUE(is_whole());
+  EXPECT_LT(scroll->viewport()->height(), line * 3 / 2);
 }
 
 TEST_F(Findings, SeveralOfOneItemStandAboveEachOther) {

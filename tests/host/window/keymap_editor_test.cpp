@@ -92,6 +92,13 @@ class EditingInTheWindow : public WindowFixture {
     Inspector()->Editor(field)->Commit();
   }
 
+  bool HasLabel(const QString& text) const {
+    for (const QLabel* label : Window()->findChildren<QLabel*>()) {
+      if (label->text() == text) return true;
+    }
+    return false;
+  }
+
   QPlainTextEdit* Text() const { return Inspector()->Pane()->Text(); }
   // The rows of the list: the items, then the blocks of settings.
   void ChooseRow(int row) { Inspector()->findChild<QListWidget*>()->setCurrentRow(row); }
@@ -288,6 +295,21 @@ TEST_F(EditingInTheWindow, TextThatIsWrongStaysToBeCorrected) {
   EXPECT_TRUE(problem_.contains("unknown key 'Spcae'")) << problem_.toStdString();
   EXPECT_EQ(Layer()->Selected(), 1);
   EXPECT_TRUE(Text()->toPlainText().startsWith("{type: Swipehold"));
+}
+
+TEST_F(EditingInTheWindow, TextThatIsWrongIsNotLostWithoutAWord) {
+  Edit();
+  Layer()->Select(0);
+  Inspector()->SetAsText(true);
+  Text()->setPlainText("{type: Click, key: Spcae, point: [0.25, 0.75]}");
+  EXPECT_TRUE(Editor()->Save());
+  EXPECT_EQ(problem_, "Saved " + folder_.filePath("keymap.yaml") + ", but not the text that you typed");
+  EXPECT_FALSE(Window()->close());
+  EXPECT_EQ(questions_, QStringList("The text that you typed cannot be used and would be lost. "
+                                    "Line 1, column 20: unknown key 'Spcae'; did you mean 'Space'?"));
+  EXPECT_EQ(Text()->toPlainText(), "{type: Click, key: Spcae, point: [0.25, 0.75]}");
+  answer_ = QMessageBox::Discard;
+  EXPECT_TRUE(Window()->close());
 }
 
 TEST_F(EditingInTheWindow, AnEditElsewhereLeavesWhatIsTyped) {
@@ -599,6 +621,35 @@ TEST_F(EditingInTheWindow, WithoutAKeymapANewOneBegins) {
   EXPECT_TRUE(Editor()->SaveAs(path));
   EXPECT_FALSE(Window()->isWindowModified());
   EXPECT_EQ(Window()->windowTitle(), QStringLiteral("mine.yaml \u2013 tavi"));
+}
+
+// Nobody is told in the middle of the first items that there is no keymap.
+TEST_F(EditingInTheWindow, ANewKeymapIsOneFromItsFirstItemOn) {
+  Window()->LoadKeymap(QString());
+  EXPECT_TRUE(View()->Hint().startsWith("No keymap.")) << View()->Hint().toStdString();
+  Edit();
+  EXPECT_TRUE(View()->Hint().startsWith("No items yet.")) << View()->Hint().toStdString();
+  EXPECT_TRUE(HasLabel(QStringLiteral("New keymap \u00B7 no items")));
+  Editor()->Add("Click", {0.5, 0.5});
+  EXPECT_EQ(View()->Hint(), QString());
+  EXPECT_TRUE(HasLabel(QStringLiteral("New keymap \u00B7 1 item")));
+  Editor()->Document()->UndoStack()->undo();
+  Edit(false);
+  EXPECT_TRUE(View()->Hint().startsWith("No keymap.")) << View()->Hint().toStdString();
+  EXPECT_TRUE(HasLabel("No keymap"));
+}
+
+// The name of the key that there is stays readable beside it.
+TEST_F(EditingInTheWindow, TheWaitForAKeyTakesNoRoomFromItsName) {
+  Edit();
+  Layer()->Select(0);
+  clock_->Settle();
+  const FieldEditor* field = Inspector()->Editor("key");
+  const int before = field->Line()->width();
+  field->Listener()->Listen();
+  clock_->Settle();
+  EXPECT_GE(field->Line()->width(), before);
+  EXPECT_LE(field->Listener()->sizeHint().width(), field->Listener()->width());
 }
 
 }  // namespace

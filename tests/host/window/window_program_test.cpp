@@ -152,6 +152,20 @@ TEST_F(WindowProgram, WhatIsRememberedAndMakesNoSenseCountsForNothing) {
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
 }
 
+// Last time F11 paused; today it is the way out.
+TEST_F(WindowProgram, WhatIsRememberedAndDoesNotGoWithTheRestIsLeftOutAlone) {
+  StartWithAFingerDown({"--guest", "800x600", "--pause-key", "F11"});
+  EndBy(SIGTERM);
+  program_.readAllStandardError();
+  socket_ = nullptr;
+  said_.clear();
+  StartWithAFingerDown({"--panic-key", "F11"});
+  EXPECT_TRUE(HasSaid(":400:300"));
+  EndBy(SIGTERM);
+  EXPECT_TRUE(program_.readAllStandardError().contains(
+      "--pause-key F11 of last time is not used: --pause-key and --panic-key are one key"));
+}
+
 TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
   StartWithAFingerDown({"--record", "/dev/full"});
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);

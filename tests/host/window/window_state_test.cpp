@@ -48,6 +48,23 @@ TEST_F(WindowStateTest, WithOneItIsOnOrOff) {
   EXPECT_TRUE(Bottom().contains("Mapping off (F12: on)"));
 }
 
+// The board of a game is often at the upper right.
+TEST_F(WindowStateTest, KeysGiveWayToTheCorner) {
+  const auto screen = [this] {
+    auto* corner = View()->findChild<StateCorner*>();
+    corner->hide();
+    const QImage image = View()->grab().toImage();
+    corner->show();
+    return image;
+  };
+  Load("");
+  const QImage empty = screen();
+  Load("{type: Click, label: Board, key: Tab, point: [0.94, 0.04]}");
+  const QImage with_key = screen();
+  EXPECT_NE(with_key, empty);
+  EXPECT_EQ(with_key.copy(Corner()->geometry()), empty.copy(Corner()->geometry()));
+}
+
 TEST_F(WindowStateTest, ABrokenChangeIsShown) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}");
   Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");

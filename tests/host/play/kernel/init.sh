@@ -33,6 +33,24 @@ step() {
   echo "step $1" >>/log/eyes
   echo "step $1" >>/log/libinput
 }
+# wait_state WORDS: until the state that was told last begins so, or 20 s are over
+wait_state() {
+  tries=0
+  until $bb tail -n 1 /log/play | $bb grep -q "^$1"; do
+    $bb sleep 0.05
+    tries=$((tries + 1))
+    [ $tries -lt 400 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
+  done
+}
+# wait_touch STEP: until a finger went down in this step, or 20 s are over
+wait_touch() {
+  tries=0
+  until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do
+    $bb sleep 0.05
+    tries=$((tries + 1))
+    [ $tries -lt 400 ] || { echo "no finger in step $1" >>/log/problems; return; }
+  done
+}
 # do_by_hand COMMANDS...: and returns when they are done
 done_count=0
 do_by_hand() {
@@ -88,23 +106,33 @@ do_by_hand_script
 
 step pause
 do_by_hand "key 88 1" "wait 30" "key 88 0" "wait 200"
-wait_for "^mapping off" /log/play
+wait_state "mapping off"
 do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
 step resume
-do_by_hand "key 88 1" "wait 100" "key 88 0" "wait 300" "key 57 1" "wait 50" "key 57 0" "wait 200"
+do_by_hand "key 88 1" "wait 100" "key 88 0" "wait 100"
+wait_state "mapping on"
+do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
+wait_touch resume
 step panic
-do_by_hand "key 17 1" "wait 200" "key 29 1" "key 56 1" "key 14 1" "wait 200" "key 14 0" "key 56 0" "key 29 0" "key 17 0" "wait 100" \
-  "key 57 1" "wait 50" "key 57 0" "wait 200"
+do_by_hand "key 17 1" "wait 200"
+wait_touch panic
+do_by_hand "key 29 1" "key 56 1" "key 14 1" "wait 200" "key 14 0" "key 56 0" "key 29 0" "key 17 0" "wait 100"
+wait_state "mapping off"
+do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
 step control
 ask state
 ask resume
 ask "keymap /other.yaml"
 ask "kemap /other.yaml"
-do_by_hand "wait 300" "key 57 1" "wait 50" "key 57 0" "wait 200"
+wait_state "mapping on"
+do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
+wait_touch control
 ask "keymap /keymap.yaml"
 
 step unplug
-do_by_hand "key 17 1" "wait 300" "unplug" "wait 500"
+do_by_hand "key 17 1" "wait 300"
+wait_touch unplug
+do_by_hand "unplug" "wait 500"
 exec 4>&-
 wait $hands
 : >/log/play
@@ -112,7 +140,9 @@ take_hands
 wait_for "2 keyboards, 1 mouse" /log/play
 
 step term
+wait_state "mapping on"
 do_by_hand "key 17 1" "wait 300"
+wait_touch term
 $bb kill -TERM $play
 wait $play
 echo "after SIGTERM $?" >>/log/status
@@ -120,7 +150,9 @@ do_by_hand "key 17 0" "wait 100"
 
 start_play
 step kill
+wait_state "mapping on"
 do_by_hand "key 17 1" "wait 300"
+wait_touch kill
 $bb kill -KILL $play
 wait $play
 echo "after SIGKILL $?" >>/log/status

@@ -1,0 +1,36 @@
+#ifndef HOST_WINDOW_CONTROLS_STATUS_ROOM_H_
+#define HOST_WINDOW_CONTROLS_STATUS_ROOM_H_
+
+#include <QObject>
+#include <QVector>
+
+class QLabel;
+class QStatusBar;
+
+namespace tavi {
+
+// Gives the text at the left of a status bar the room that it needs: in a narrow window the labels at the right step
+// back, a message being worth more than they are while it is told.
+//
+// Main thread.
+class StatusRoom : public QObject {
+  Q_OBJECT
+
+ public:
+  // `usual` stands at the left while there is no message. The first of `waiting` are the first to go.
+  StatusRoom(QStatusBar* bar, QLabel* usual, const QVector<QLabel*>& waiting);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Arrange();
+
+  QStatusBar* bar_;
+  QLabel* usual_;
+  QVector<QLabel*> waiting_;
+};
+
+}  // namespace tavi
+
+#endif  // HOST_WINDOW_CONTROLS_STATUS_ROOM_H_
