@@ -84,7 +84,7 @@ QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
   if (problem.isEmpty()) problem = TakeSize(FindSize(parsed), &options->guest);
   if (problem.isEmpty()) problem = TakeTargets(parsed, &options->targets);
   const bool is_too_fast = !options->targets.isEmpty() && !options->is_live;
-  return problem.isEmpty() && is_too_fast ? QStringLiteral("a guest goes with %1").arg(kLive) : problem;
+  return problem.isEmpty() && is_too_fast ? QStringLiteral("--guest needs %1").arg(kLive) : problem;
 }
 
 QSize GuestSize(const PlayOptions& options) {

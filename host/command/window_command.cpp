@@ -228,7 +228,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (arguments.options.contains(kAfter)) options->after_ms = arguments.options[kAfter].toInt(&is_number);
   if (!is_number || options->after_ms < 0) return QStringLiteral("%1 needs a time in milliseconds").arg(kAfter);
   if (arguments.options.contains(kAfter) && options->picture.isEmpty()) {
-    return QStringLiteral("%1 goes with %2").arg(kAfter, kPicture);
+    return QStringLiteral("%1 needs %2").arg(kAfter, kPicture);
   }
   const QString look = arguments.options.value(kLook, theme::NameOf(theme::Look::kDesktop));
   if (!theme::ParseLook(look, &options->look)) {

@@ -128,12 +128,13 @@ class Prose(unittest.TestCase):
         self.assertEqual(sorted(listed["checked"] & listed["not yet"]), [], "in both lists")
 
     def test_the_reader_sees_prose_and_no_code(self):
-        markdown = "# A house\n\nOne `let go`\ntwo.\n\n```\nheld to\n```\n- three\n\n| four | five |\n|---|---|\n"
+        markdown = ("# A house\n\nOne `let go`\ntwo.\n\n```\nheld to\n```\n"
+                    "- three\n\n  ```\n  held to\n  ```\n\n| four | five |\n|---|---|\n")
         header = "// One\n// two.\nint x;  // three\nauto y = \"// held to\";\n"
         source = "#include \"held to\"\nF(\"one \"\n  \"two\", \"word\");  // held to\n"
         path = Path(self.id())
         for suffix, text, expected in [
-                (".md", markdown, [(1, "A house"), (3, "One `let go` two."), (9, "three"), (11, "four"), (11, "five")]),
+                (".md", markdown, [(1, "A house"), (3, "One `let go` two."), (9, "three"), (15, "four"), (15, "five")]),
                 (".h", header, [(1, "One two."), (3, "three")]),
                 (".cpp", source, [(2, "one two")])]:
             with self.subTest(suffix):

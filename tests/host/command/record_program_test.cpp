@@ -64,7 +64,7 @@ TEST_F(RecordProgram, RefusesWhatItDoesNotKnow) {
        "\"tavi record play --help\".\n"},
       {"play for a guest without time",
        {"record", "play", "a", "--guest", "exec:cat"},
-       "tavi record play: a guest goes with --live\nTry \"tavi record play --help\".\n"},
+       "tavi record play: --guest needs --live\nTry \"tavi record play --help\".\n"},
       {"merge without target",
        {"record", "merge", "a"},
        "tavi record merge: -o FILE is missing\nTry \"tavi record merge --help\".\n"},
