@@ -2,7 +2,7 @@
 import re
 from typing import NamedTuple
 
-FENCE = re.compile(r"^```")
+FENCE = re.compile(r"^ *```")
 NOT_PROSE_LINE = re.compile(r"^(#|\||<!--|!\[|    \S)")
 LIST_MARK = re.compile(r"^\s*(?:[-*]|\d+\.) ")
 TABLE_RULE = re.compile(r"^\|[-| ]+\|$")

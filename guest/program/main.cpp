@@ -7,11 +7,11 @@ namespace {
 
 constexpr taviguest::ProgramPage kPage = {
     "tavi-guest",
-    "a touch screen, a keyboard and a pointer, and a gamepad and a touchpad\n"
-    "when a line needs one. It tells where they are and keeps them until the lines end.\n"
-    "What reads the devices takes what they do for its user's doing.\n",
-    "  --gamepad      the gamepad from the start\n"
-    "  --touchpad     the touchpad from the start\n",
+    "a touch screen, a keyboard and a pointer, and a gamepad and a touchpad when a line\n"
+    "needs one. It prints where they are and keeps them until the lines end. To the\n"
+    "programs that read the devices, their input looks like that of the user.\n",
+    "  --gamepad      create the gamepad at the start\n"
+    "  --touchpad     create the touchpad at the start\n",
     "printf '1:KBDPR:30:1\\n1:KBDRL:30:0\\n' | tavi-guest --dry-run\n"};
 
 int FailUsage(const taviguest::Output& output, const std::string& error) {

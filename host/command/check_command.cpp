@@ -12,10 +12,10 @@ namespace {
 constexpr char kHelp[] =
     "Usage: tavi check FILE...\n"
     "\n"
-    "Reads keymap files and prints everything that is wrong with them, one finding a\n"
-    "line, as compilers do: \"file:line:column: error: message\". A warning tells of a\n"
-    "part that is not what its author meant; the file can be used. A file with\n"
-    "nothing to say about gets the line \"file: 12 items\". \"-\" is standard input.\n"
+    "Reads keymap files and reports everything that is wrong with them, one diagnostic per\n"
+    "line, in the form of a compiler: \"file:line:column: error: message\". A warning marks\n"
+    "something that its author probably did not intend; the file can still be used. A file\n"
+    "without diagnostics gets the line \"file: 12 items\". \"-\" is standard input.\n"
     "\n"
     "Exit status: 0 when no file has an error, 1 when one has, 2 for a wrong command\n"
     "line.\n"
@@ -49,6 +49,6 @@ int Run(const Invocation& invocation) {
 
 }  // namespace
 
-Subcommand CheckCommand() { return {"check", "prints what is wrong with keymap files", kHelp, Run}; }
+Subcommand CheckCommand() { return {"check", "reports what is wrong with keymap files", kHelp, Run}; }
 
 }  // namespace tavi

@@ -17,9 +17,9 @@ namespace {
 constexpr char kName[] = "guest-uinput";
 constexpr taviguest::ProgramPage kPage = {
     "tavi guest-uinput",
-    "a touch screen, a keyboard, a pointer, a gamepad and a touchpad. It\n"
-    "tells where they are and keeps them until the lines end. The computer's own\n"
-    "desktop takes what they do for its user's doing.\n",
+    "a touch screen, a keyboard, a pointer, a gamepad and a touchpad. It prints where\n"
+    "they are and keeps them until the lines end. To the computer's own desktop, their\n"
+    "input looks like that of its user.\n",
     "",
     "echo \"down Space; wait 50; up Space\" |\n"
     "           tavi simulate examples/keymaps/shooter.yaml - |\n"

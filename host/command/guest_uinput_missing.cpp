@@ -8,10 +8,10 @@ namespace {
 constexpr char kHelp[] =
     "Usage: tavi guest-uinput\n"
     "\n"
-    "Plays guest lines on input devices of the Linux kernel. This program was built\n"
-    "without it: it needs Linux.\n"
+    "Plays guest lines on input devices of the Linux kernel. This build does not include\n"
+    "the command: it needs Linux.\n"
     "\n"
-    "Exit status: 0 when there is nothing to do but to tell this, 2 for everything else.\n"
+    "Exit status: 0 when this page was asked for, 2 for everything else.\n"
     "\n"
     "Example: tavi guest-uinput --help\n";
 

@@ -9,9 +9,9 @@ constexpr char kHelp[] =
     "Usage: tavi play\n"
     "\n"
     "Plays with the keyboards, mice and gamepads of this computer, without a window. This\n"
-    "program was built without it: it needs Linux and libevdev.\n"
+    "build does not include the command: it needs Linux and libevdev.\n"
     "\n"
-    "Exit status: 0 when there is nothing to do but to tell this, 2 for everything else.\n"
+    "Exit status: 0 when this page was asked for, 2 for everything else.\n"
     "\n"
     "Example: tavi play --help\n";
 

@@ -20,14 +20,15 @@ const QString kCommand = QStringLiteral("record draw");
 constexpr char kHelp[] =
     "Usage: tavi record draw -o PICTURE FILE\n"
     "\n"
-    "Draws a record as a picture: the ways that its fingers take, in the colours of time.\n"
+    "Draws a record as a picture: the paths of its fingers, coloured by time.\n"
     "\n"
-    "  -o PICTURE    where to write it, as SVG; \"-\" is standard output\n"
+    "  -o PICTURE    the file to write, as SVG; \"-\" is standard output\n"
     "\n"
-    "Long work is told of on a terminal. Ctrl+C ends it, and leaves the picture as it was.\n"
+    "On a terminal, long work shows its progress. Ctrl+C ends it and leaves the picture\n"
+    "unchanged.\n"
     "\n"
-    "Exit status: 0 when the picture was written, 1 when it cannot be, 2 when the record\n"
-    "or the command line cannot be used.\n"
+    "Exit status: 0 when the picture was written, 1 when it cannot be written, 2 when the\n"
+    "record or the command line cannot be used.\n"
     "\n"
     "Example: tavi record draw -o walk.svg examples/records/walk.json\n";
 
@@ -61,6 +62,6 @@ int Run(const Invocation& invocation) {
 
 }  // namespace
 
-Subcommand RecordDrawCommand() { return {"record draw", "draws the ways of a record's fingers", kHelp, Run}; }
+Subcommand RecordDrawCommand() { return {"record draw", "draws the paths of a record's fingers", kHelp, Run}; }
 
 }  // namespace tavi

@@ -21,8 +21,8 @@ const QString kName = QStringLiteral("record info");
 constexpr char kHelp[] =
     "Usage: tavi record info FILE...\n"
     "\n"
-    "Tells what is in record files: the app, the display, when they were made, how long\n"
-    "they play, and on standard error what of them a replay drops.\n"
+    "Prints what record files contain: the app, the display, when they were made, how long\n"
+    "they play, and on standard error what a replay drops.\n"
     "\n"
     "Exit status: 0 when every file can be played, 1 when one cannot, 2 for a wrong\n"
     "command line.\n"
@@ -156,6 +156,6 @@ QString DescribeRecord(const QString& name, const RecordFile& record) {
   return text + DescribeParts(record.root, QStringLiteral("    "));
 }
 
-Subcommand RecordInfoCommand() { return {"record info", "tells what is in record files", kHelp, Run}; }
+Subcommand RecordInfoCommand() { return {"record info", "prints what record files contain", kHelp, Run}; }
 
 }  // namespace tavi

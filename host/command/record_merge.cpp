@@ -17,22 +17,23 @@ const QString kCommand = QStringLiteral("record merge");
 constexpr char kHelp[] =
     "Usage: tavi record merge -o TARGET FILE [OPTIONS] [FILE [OPTIONS]]...\n"
     "\n"
-    "Writes one record that plays the others in turn. Options stand behind the record\n"
-    "that they are about.\n"
+    "Writes one record that plays the others in turn. Options apply to the record before\n"
+    "them.\n"
     "\n"
-    "  -o TARGET     where to write it\n"
-    "  --times N     play it N times, from 1 on (1)\n"
-    "  --delay MS    pause between those times, in milliseconds from 0 on (0)\n"
-    "  --speed X     play it that many times as fast, any number above 0 (1)\n"
-    "  --gap MS      pause before the next record, in milliseconds from 0 on, shortened by\n"
-    "                this one's speed (0)\n"
+    "  -o TARGET     the file to write\n"
+    "  --times N     play it N times, 1 or more (1)\n"
+    "  --delay MS    pause between those times, in milliseconds, 0 or more (0)\n"
+    "  --speed X     play it X times as fast, any number above 0 (1)\n"
+    "  --gap MS      pause before the next record, in milliseconds, 0 or more, divided by\n"
+    "                this record's speed (0)\n"
     "\n"
-    "A name that begins with a dash is written ./-name, or stands behind \"--\".\n"
+    "Write a name that begins with a dash as ./-name, or put it after \"--\".\n"
     "\n"
-    "Long work is told of on a terminal. Ctrl+C ends it, and leaves the target as it was.\n"
+    "On a terminal, long work shows its progress. Ctrl+C ends it and leaves the target\n"
+    "unchanged.\n"
     "\n"
-    "Exit status: 0 when it was written, 1 when it cannot be, 2 when a record or the\n"
-    "command line cannot be used.\n"
+    "Exit status: 0 when it was written, 1 when it cannot be written, 2 when a record or\n"
+    "the command line cannot be used.\n"
     "\n"
     "Example: tavi record merge -o day.json examples/records/taps.json \\\n"
     "           examples/records/walk.json --times 3 --delay 500\n";
@@ -48,7 +49,7 @@ QString TakeOption(const GivenArgument& given, MergeOrder* order) {
     order->target = given.value;
     return {};
   }
-  if (order->records.isEmpty()) return QStringLiteral("%1 stands behind the record that it is about").arg(given.option);
+  if (order->records.isEmpty()) return QStringLiteral("%1 must follow the record that it applies to").arg(given.option);
   MergeParam& record = order->records.last();
   if (given.option == kTimes) return TakeWholeNumber(given, 1, &record.repeat_times);
   if (given.option == kDelay) return TakeWholeNumber(given, 0, &record.repeat_delay);

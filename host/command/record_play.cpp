@@ -28,30 +28,30 @@ const QString kCommand = QStringLiteral("record play");
 constexpr char kHelp[] =
     "Usage: tavi record play [OPTIONS] FILE\n"
     "\n"
-    "Plays a record and prints every line for the guest, and after a \"!\" every call of\n"
-    "the host, each with the time in milliseconds since the start. Time is not waited\n"
-    "for.\n"
+    "Plays a record and prints every line for the guest, and after a \"!\" every call of the\n"
+    "host, each with the time in milliseconds since the start. It does not wait: time is\n"
+    "virtual.\n"
     "\n"
-    "  --speed X     that many times as fast, any number above 0 (1)\n"
-    "  --emulation   fingers miss their points by up to 2 pixels, at random\n"
+    "  --speed X     play it X times as fast, any number above 0 (1)\n"
+    "  --emulation   let fingers miss their points by up to 2 pixels, at random\n"
     "  --size WxH    the guest's display in pixels, each side from 1 to 16384 (as it was\n"
     "                recorded)\n"
-    "  --live        wait, and print each line as it falls due\n"
+    "  --live        play in real time, and print each line when it is due\n"
     "  --guest TARGET\n"
-    "                with --live, send the lines to a guest, too: to the standard input of a\n"
+    "                with --live, also send the lines to a guest: to the standard input of a\n"
     "                command (exec:COMMAND), a socket file (unix:PATH), a port of this\n"
-    "                machine (tcp:HOST:PORT) or input devices of its kernel (uinput); again\n"
-    "                and again for several\n"
+    "                machine (tcp:HOST:PORT) or input devices of its kernel (uinput); repeat\n"
+    "                it for several guests\n"
     "  --allow-remote\n"
-    "                let tcp: lead to other machines, though anybody on the way can read\n"
-    "                what is typed\n"
+    "                let tcp: connect to other machines, although anyone on the network path\n"
+    "                can read what is typed\n"
     "\n"
-    "The replay begins when each guest is connected or has failed to. Whatever ends it,\n"
-    "what is down at the guests is lifted first.\n"
+    "The replay starts when each guest is connected or has failed to connect. Whatever ends\n"
+    "it, what is down at the guests is lifted first.\n"
     "\n"
     "Exit status: 0 when it was played, 1 when the replay did not start or a guest was\n"
     "not connected at the end, 2 when the record or the command line cannot be used, 128\n"
-    "and the signal's number when a signal ended what guests were sent.\n"
+    "plus the signal's number when a signal ended a replay with guests.\n"
     "\n"
     "Example: tavi record play --speed 2 examples/records/walk.json\n";
 
@@ -84,7 +84,7 @@ QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
   if (problem.isEmpty()) problem = TakeSize(FindSize(parsed), &options->guest);
   if (problem.isEmpty()) problem = TakeTargets(parsed, &options->targets);
   const bool is_too_fast = !options->targets.isEmpty() && !options->is_live;
-  return problem.isEmpty() && is_too_fast ? QStringLiteral("a guest goes with %1").arg(kLive) : problem;
+  return problem.isEmpty() && is_too_fast ? QStringLiteral("--guest needs %1").arg(kLive) : problem;
 }
 
 QSize GuestSize(const PlayOptions& options) {

@@ -17,7 +17,7 @@ QString Save(const QString& package, const QString& file) {
   WholeFile whole(file);
   if (!whole.Problem().isEmpty()) return QStringLiteral("cannot be written: ") + whole.Problem();
   taviinputmanager::StopRecord(package, whole.WorkingName());
-  if (last_outcome == kNothingToSave) return QStringLiteral("not written: there is nothing to record");
+  if (last_outcome == kNothingToSave) return QStringLiteral("not saved: there is nothing to record");
   RecordInfo info;
   QString problem = WrittenRecordProblem(whole.WorkingName(), &info);
   if (problem.isEmpty() && !whole.Keep()) problem = whole.Problem();

@@ -39,7 +39,7 @@ struct Group {
 
 constexpr Group kRecordGroup = {
     "record",
-    "Works with records: files that hold what a guest got, to be played again.\n"
+    "Works with records: files of what a guest got, to play it again.\n"
     "\"tavi simulate --record FILE\" makes one from a script, \"tavi window\" from play.\n"};
 
 // The second words of a group, or the first words of all commands and groups.
@@ -75,17 +75,17 @@ QString CommandList(const QString& prefix) {
 int PrintOverview() {
   Print(QStringLiteral("Usage: tavi COMMAND [ARGUMENTS]\n"
                        "\n"
-                       "Shows, plays, checks and draws keymaps: what the keys and the mouse of this\n"
-                       "computer do on the screen of an Android guest. Plays, merges and draws records of\n"
-                       "it.\n") +
+                       "Shows, plays, checks and draws keymaps, which define what the keys and the mouse of\n"
+                       "this computer do on the screen of an Android guest. Plays, merges and draws\n"
+                       "records.\n") +
         CommandList({}) +
         QStringLiteral("\n"
-                       "  --help, -h  this page, or behind a command the page of that command, as does\n"
-                       "              \"tavi help COMMAND\"\n"
-                       "  --version   the version of the program\n"
+                       "  --help, -h  print this page; after a command, print the page of that command, as\n"
+                       "              \"tavi help COMMAND\" does\n"
+                       "  --version   print the version of the program\n"
                        "\n"
-                       "Exit status: 0 when all went well, 1 when a command found something wrong or could\n"
-                       "not finish, 2 for a wrong command line or a file that cannot be used.\n"
+                       "Exit status: 0 when all went well, 1 when a command found a problem or could not\n"
+                       "finish, 2 for a wrong command line or a file that cannot be used.\n"
                        "\n"
                        "Example: tavi check examples/keymaps/shooter.yaml\n"));
   return kExitDone;
@@ -95,7 +95,7 @@ int PrintGroup(const Group& group) {
   const QString name = QLatin1String(group.name);
   Print(QStringLiteral("Usage: tavi %1 COMMAND [ARGUMENTS]\n\n").arg(name) + QLatin1String(group.about) +
         CommandList(name + QLatin1Char(' ')) +
-        QStringLiteral("\n\"tavi %1 COMMAND --help\" tells more.\n"
+        QStringLiteral("\n\"tavi %1 COMMAND --help\" documents a command.\n"
                        "\n"
                        "Example: tavi %1 %2 --help\n")
             .arg(name, WordsBehind(name).first()));

@@ -16,32 +16,34 @@ sys.path.insert(0, str(ROOT / "tools"))
 from prose_text import passages
 
 CHECKED = [
+    "CHANGELOG.md",
     "README.md",
     "docs/README.md",
+    "docs/architecture.md",
+    "docs/development.md",
     "docs/editor.md",
     "docs/embedding.md",
     "docs/glossary.md",
+    "docs/guest-protocol.md",
     "docs/keymap.md",
     "docs/macros.md",
+    "docs/play.md",
     "docs/record-format.md",
     "docs/scripts.md",
     "docs/tutorial.md",
+    "examples/*/README.md",
+    "fuzz/README.md",
+    "host/command/[!p]*.cpp",
+    "host/command/play_missing.cpp",
     "include/taviinputmanager/*.h",
     "keymap/*.h",
     "keymapmanager/*.h",
     "keymapmanager/fields/*_tables.cpp",
 ]
 NOT_YET = [
-    "CHANGELOG.md",
-    "docs/architecture.md",
-    "docs/development.md",
-    "docs/guest-protocol.md",
     "docs/performance.md",
-    "docs/play.md",
     "docs/window.md",
-    "examples/*/README.md",
-    "fuzz/README.md",
-    "host/command/*.cpp",
+    "host/command/play_command.cpp",
 ]
 SCOPE = ["*.md", "docs/*.md", "examples/**/*.md", "fuzz/*.md", "include/**/*.h", "keymap/*.h", "keymapmanager/*.h",
          "host/command/*.cpp"]
@@ -52,6 +54,7 @@ PHRASES = [
     (r"here stands?|what stands|there stands?", "is"),
     (r"tells(?! (you|them|a host|the host)\b)", "prints, documents, reports"),
     (r"(is|are) told (by|in|all|below|above|to)", "is described, is reported"),
+    (r"told (of|on)", "is reported"),
     (r"let(s|ting)? (it |them |this |that )?go( of)?", "release"),
     (r"held to", "checked against"),
     (r"mended|mends", "fixed"),
@@ -89,6 +92,12 @@ PHRASES = [
     (r"know(n|s)? (them|it|keys) by", "identify by"),
     (r"answers? to (no|a|the) key", "matches, responds to"),
     (r"made of its", "generated from its"),
+    (r"sees? to it", "make sure"),
+    (r"the ways? (that|of|to)", "the path of, how"),
+    (r"gives? back", "return, release"),
+    (r"for ever", "forever, endless"),
+    (r"if wanted", "optionally"),
+    (r"need(s)? so long", "needs that long"),
 ]
 
 
@@ -119,12 +128,13 @@ class Prose(unittest.TestCase):
         self.assertEqual(sorted(listed["checked"] & listed["not yet"]), [], "in both lists")
 
     def test_the_reader_sees_prose_and_no_code(self):
-        markdown = "# A house\n\nOne `let go`\ntwo.\n\n```\nheld to\n```\n- three\n\n| four | five |\n|---|---|\n"
+        markdown = ("# A house\n\nOne `let go`\ntwo.\n\n```\nheld to\n```\n"
+                    "- three\n\n  ```\n  held to\n  ```\n\n| four | five |\n|---|---|\n")
         header = "// One\n// two.\nint x;  // three\nauto y = \"// held to\";\n"
         source = "#include \"held to\"\nF(\"one \"\n  \"two\", \"word\");  // held to\n"
         path = Path(self.id())
         for suffix, text, expected in [
-                (".md", markdown, [(1, "A house"), (3, "One `let go` two."), (9, "three"), (11, "four"), (11, "five")]),
+                (".md", markdown, [(1, "A house"), (3, "One `let go` two."), (9, "three"), (15, "four"), (15, "five")]),
                 (".h", header, [(1, "One two."), (3, "three")]),
                 (".cpp", source, [(2, "one two")])]:
             with self.subTest(suffix):

@@ -70,7 +70,7 @@ TEST_F(Program, RefusesWhatItDoesNotKnow) {
        "--allow-remote allows it\nTry \"tavi window --help\".\n"},
       {"a time of no picture",
        {"window", "--after", "5"},
-       "tavi window: --after goes with --picture\nTry \"tavi window --help\".\n"},
+       "tavi window: --after needs --picture\nTry \"tavi window --help\".\n"},
       {"a time that is none",
        {"window", "--picture", "a.png", "--after", "soon"},
        "tavi window: --after needs a time in milliseconds\nTry \"tavi window --help\".\n"},

@@ -64,7 +64,7 @@ TEST_F(RecordProgram, RefusesWhatItDoesNotKnow) {
        "\"tavi record play --help\".\n"},
       {"play for a guest without time",
        {"record", "play", "a", "--guest", "exec:cat"},
-       "tavi record play: a guest goes with --live\nTry \"tavi record play --help\".\n"},
+       "tavi record play: --guest needs --live\nTry \"tavi record play --help\".\n"},
       {"merge without target",
        {"record", "merge", "a"},
        "tavi record merge: -o FILE is missing\nTry \"tavi record merge --help\".\n"},
@@ -347,7 +347,7 @@ TEST_F(RecordProgram, SimulateTellsWhenThereIsNoRecord) {
   Write("keymap.yaml", kKeymap);
   const Outcome nothing = Run({"simulate", "--record", "out.json", "keymap.yaml", "-"}, "wait 5\n");
   EXPECT_EQ(nothing.status, 1);
-  EXPECT_TRUE(nothing.errors.endsWith("out.json: not written: there is nothing to record\n"));
+  EXPECT_TRUE(nothing.errors.endsWith("out.json: not saved: there is nothing to record\n"));
   EXPECT_FALSE(Has("out.json"));
   const Outcome nowhere =
       Run({"simulate", "--record", "none/out.json", "keymap.yaml", "-"}, "down Space; wait 1; up Space\n");

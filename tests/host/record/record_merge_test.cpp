@@ -47,7 +47,7 @@ TEST(RecordMerge, TellsWhatIsWrong) {
       {"no target", {"a"}, "-o FILE is missing"},
       {"no records", {"-o", "t"}, "a record is missing"},
       {"an empty target", {"-o", "", "a"}, "-o FILE is missing"},
-      {"an option of nothing", {"-o", "t", "--times", "2", "a"}, "--times stands behind the record that it is about"},
+      {"an option of nothing", {"-o", "t", "--times", "2", "a"}, "--times must follow the record that it applies to"},
       {"no times at all", {"-o", "t", "a", "--times", "0"}, "--times needs a whole number from 1 on, not \"0\""},
       {"a pause back", {"-o", "t", "a", "--delay", "-1"}, "--delay needs a whole number from 0 on, not \"-1\""},
       {"a gap with a fraction", {"-o", "t", "a", "--gap", "1.5"}, "--gap needs a whole number from 0 on, not \"1.5\""},
