@@ -43,8 +43,14 @@ class ItemIndex {
     return ItemOf(entry);
   }
 
-  // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`. Unlike the
-  // searches it goes by the keys as they are now.
+  // Whether an item answers to `configured` alone, or to the chord of `configured` and then `pressed`: whether one of
+  // the searches would find it.
+  bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);  // each is asked both, in its place
+    return FirstAloneEntry(configured) != nullptr || FirstChordEntry(configured, pressed) != nullptr;
+  }
+
+  // The same by the keys as they are now: looks at every item.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }
