@@ -30,10 +30,6 @@ QPoint PositionOf(const QEvent* mouse) { return RoundedPoint(static_cast<const Q
 
 }  // namespace
 
-void RecordManager::OnQtInputEvent(QEvent* event) {
-  if (macro_recording_) CaptureEvent(event);
-}
-
 void RecordManager::CaptureEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseMove:
