@@ -19,12 +19,16 @@ double Length(const QPoint& v) {
   return std::sqrt(x * x + y * y);
 }
 
-// The last pixel of an extent from `first` to `last`, nearer where the extent, or that less 1, would not fit an int.
-int Measurable(int first, int last) {
+// How far it is from `first` to `last`, both counted; or as far as an int with a sign goes.
+int Extent(int first, int last) {
   constexpr qint64 kLongest = std::numeric_limits<int>::max();
-  const qint64 extent = qint64{last} - first + 1;
-  return static_cast<int>(first + qBound(-kLongest, extent, kLongest) - 1);
+  return static_cast<int>(qBound(-kLongest, qint64{last} - first + 1, kLongest));
 }
+
+QSize SizeOf(const QRect& rect) { return {Extent(rect.left(), rect.right()), Extent(rect.top(), rect.bottom())}; }
+
+// The last pixel of an extent from `first` to `last`, nearer where the extent, or that less 1, would not fit an int.
+int Measurable(int first, int last) { return static_cast<int>(qint64{first} + Extent(first, last) - 1); }
 
 // With the same top left corner. Qt computes extents in ints; those of the host's rectangles may be more than that.
 QRect Measurable(const QRect& rect) {
@@ -36,11 +40,6 @@ QPoint Scaled(const QPoint& v, double numerator, double denominator) {
 }
 
 }  // namespace
-
-DisplayGeometry* DisplayGeometry::GetInstance() {
-  static DisplayGeometry instance;
-  return &instance;
-}
 
 WindowGeometry DisplayGeometry::GetWindowGeometry() const {
   if (!callbacks_) return {0, 0, kDefaultDisplay.width(), kDefaultDisplay.height()};
@@ -92,7 +91,7 @@ void DisplayGeometry::RelativeToTouch(int& x, int& y, double rel_x, double rel_y
     x = y = kNoPosition;
     return;
   }
-  const QRect touch = Measurable(callbacks_->GetTouchRect());
+  const QSize touch = SizeOf(callbacks_->GetTouchRect());
   double a = rel_x;
   double b = rel_y;
   switch (callbacks_->GetDisplayRotation()) {
@@ -113,7 +112,7 @@ void DisplayGeometry::RelativeToTouch(int& x, int& y, double rel_x, double rel_y
 void DisplayGeometry::WindowPositionToAndroid(int& x, int& y) const {
   if (!callbacks_) return;
   const WindowGeometry window = GetWindowGeometry();
-  const QRect touch = Measurable(callbacks_->GetTouchRect());
+  const QSize touch = SizeOf(callbacks_->GetTouchRect());
   const int rotation = callbacks_->GetDisplayRotation();
   const int across = rotation == 90 || rotation == 270 ? touch.height() : touch.width();
   if (window.width == 0 || across == 0) return;  // no factor to scale by

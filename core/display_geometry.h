@@ -24,7 +24,10 @@ constexpr int kNoPosition = 0x7FFFFFFF;
 // display of size 0 gives kNoPosition where a division by it would have been needed.
 class DisplayGeometry {
  public:
-  static DisplayGeometry* GetInstance();
+  static DisplayGeometry* GetInstance() {
+    static DisplayGeometry instance;
+    return &instance;
+  }
 
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 

@@ -18,7 +18,10 @@ struct HostFunctions {
 };
 
 // The one set of the process.
-HostFunctions& GetHostFunctions();
+inline HostFunctions& GetHostFunctions() {
+  static HostFunctions functions;
+  return functions;
+}
 
 }  // namespace taviinputmanager
 

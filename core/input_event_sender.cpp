@@ -19,97 +19,92 @@ void Transmit(const LineBuffer& line, int display) {
 // from inside any of its functions; that one finishes this one first, so that all see the lines in one order.
 class LineUnderWay {
  public:
-  LineUnderWay() : outer_(newest) {
+  LineUnderWay(const LineUnderWay&) = delete;
+  LineUnderWay& operator=(const LineUnderWay&) = delete;
+
+  virtual void Finish() = 0;
+
+ protected:
+  LineUnderWay() = default;
+  ~LineUnderWay() { newest = outer_; }
+
+  void Begin() {
     if (outer_) outer_->Finish();
     newest = this;
   }
-  LineUnderWay(const LineUnderWay&) = delete;
-  LineUnderWay& operator=(const LineUnderWay&) = delete;
-  virtual ~LineUnderWay() { newest = outer_; }
+
+ private:
+  static thread_local LineUnderWay* newest;  // of each thread: the end of a replay sends on the replay's
+
+  LineUnderWay* const outer_ = newest;
+};
+
+thread_local LineUnderWay* LineUnderWay::newest = nullptr;
+
+// `Line` tells whether a line is mirrored and recorded at all, and does both.
+template <typename Line>
+class UnderWay final : public LineUnderWay {
+ public:
+  explicit UnderWay(const Line& line) : line_(line) { Begin(); }
 
   // Each step comes once, whoever gets to it.
-  void Finish() {
+  void Finish() override {
     if (step_ == Step::kAsk) {
-      const bool is_shared = IsShared();
+      const bool is_shared = line_.IsShared();
       if (step_ == Step::kAsk) step_ = is_shared ? Step::kMirror : Step::kDone;
     }
     if (step_ == Step::kMirror) {
       step_ = Step::kOffer;
-      Mirror();
+      line_.Mirror();
     }
     if (step_ == Step::kOffer) {
       step_ = Step::kDone;
-      Offer();
+      line_.Offer();
     }
   }
 
  private:
   enum class Step { kAsk, kMirror, kOffer, kDone };
 
-  // Whether the line is mirrored and recorded at all.
-  virtual bool IsShared() const = 0;
-  virtual void Mirror() const = 0;
-  virtual void Offer() const = 0;
-
-  static thread_local LineUnderWay* newest;  // of each thread: the end of a replay sends on the replay's
-
-  LineUnderWay* outer_;
+  const Line line_;
   Step step_ = Step::kAsk;
 };
 
-thread_local LineUnderWay* LineUnderWay::newest = nullptr;
-
-// `Line` becomes a text only for those who listen.
-template <typename Line>
-class EventUnderWay : public LineUnderWay {
- public:
-  EventUnderWay(const Line& line, int display, const InputManagerCallbacks* callbacks)
-      : line_(line), display_(display), callbacks_(callbacks) {}
-
- private:
-  bool IsShared() const override {
-    return callbacks_ && callbacks_->IsPrimaryDisplay && callbacks_->IsPrimaryDisplay(display_);
-  }
-  void Mirror() const override {
+// `Text` becomes a QString only for those who listen.
+template <typename Text>
+struct EventLine {
+  bool IsShared() const { return callbacks && callbacks->IsPrimaryDisplay && callbacks->IsPrimaryDisplay(display); }
+  void Mirror() const {
     const InputSyncManager* mirror = InputSyncManager::GetInstance();
-    if (mirror->IsEventMirrored()) mirror->SyncEvent(line_);
+    if (mirror->IsEventMirrored()) mirror->SyncEvent(text);
   }
-  void Offer() const override {
-    if (IsLineRecorded()) OfferEventLine(line_);
+  void Offer() const {
+    if (IsLineRecorded()) OfferEventLine(text);
   }
 
-  const Line& line_;
-  const int display_;
-  const InputManagerCallbacks* callbacks_;
+  const Text& text;
+  int display;
+  const InputManagerCallbacks* callbacks;
 };
 
-class TextUnderWay : public LineUnderWay {
- public:
-  explicit TextUnderWay(const QString& command) : command_(command) {}
+struct TextLine {
+  bool IsShared() const { return true; }
+  void Mirror() const { InputSyncManager::GetInstance()->SyncText(text); }
+  void Offer() const { OfferTextLine(text); }
 
- private:
-  bool IsShared() const override { return true; }
-  void Mirror() const override { InputSyncManager::GetInstance()->SyncText(command_); }
-  void Offer() const override { OfferTextLine(command_); }
-
-  const QString& command_;
+  const QString& text;
 };
 
 }  // namespace
 
-InputEventSender* InputEventSender::GetInstance() {
-  static InputEventSender instance;
-  return &instance;
-}
-
 void InputEventSender::SendEvent(const LineBuffer& line, int display) {
-  EventUnderWay<LineBuffer> under_way(line, display, callbacks_);
+  UnderWay<EventLine<LineBuffer>> under_way({line, display, callbacks_});
   Transmit(line, display);
   under_way.Finish();
 }
 
 void InputEventSender::SendEvent(const QString& command, int display) {
-  EventUnderWay<QString> under_way(command, display, callbacks_);
+  UnderWay<EventLine<QString>> under_way({command, display, callbacks_});
   LineBuffer line;
   Transmit(line.Narrow(command), display);
   under_way.Finish();
@@ -117,7 +112,7 @@ void InputEventSender::SendEvent(const QString& command, int display) {
 
 void InputEventSender::SendText(const QString& command) {
   if (command.isEmpty()) return;  // no newline to replace
-  TextUnderWay under_way(command);
+  UnderWay<TextLine> under_way({command});
   LineBuffer line;
   line.Narrow(command);
   const int length = line.size();

@@ -15,7 +15,10 @@ class LineBuffer;
 // retry.
 class InputEventSender {
  public:
-  static InputEventSender* GetInstance();
+  static InputEventSender* GetInstance() {
+    static InputEventSender instance;
+    return &instance;
+  }
 
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 

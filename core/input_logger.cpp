@@ -25,9 +25,6 @@ Poco::Logger& OwnLogger() {
   return *logger;
 }
 
-// Nobody but this file refers to it any more: lines go to whatever has its name by now.
-bool IsOwnLoggerGone() { return OwnLogger().referenceCount() == 1; }
-
 // A log that cannot be written must not stop the input: a file that does not open is no error of the caller's.
 template <typename Function>
 void Write(Function&& function) {
@@ -38,11 +35,6 @@ void Write(Function&& function) {
 }
 
 }  // namespace
-
-InputLogger* InputLogger::GetInstance() {
-  static InputLogger instance;
-  return &instance;
-}
 
 InputLogger::InputLogger() {
   Poco::AutoPtr<Poco::FileChannel> file(new Poco::FileChannel);
@@ -64,6 +56,10 @@ void InputLogger::Error(const std::string& message) {
   Write([&] { Logger().error(message); });
 }
 
-bool InputLogger::IsDebugOn() const { return OwnLogger().debug() || IsOwnLoggerGone(); }
+bool InputLogger::IsDebugOn() const {
+  const Poco::Logger& logger = OwnLogger();
+  if (logger.debug()) return true;
+  return logger.referenceCount() == 1;  // nobody but this file's: lines go to whatever has its name by now
+}
 
 }  // namespace taviinputmanager

@@ -9,7 +9,10 @@ namespace taviinputmanager {
 // Any thread. The file bears the process id, so that two hosts do not share one.
 class InputLogger {
  public:
-  static InputLogger* GetInstance();
+  static InputLogger* GetInstance() {
+    static InputLogger instance;
+    return &instance;
+  }
 
   // Below the threshold as it is set here: such lines are dropped.
   void Debug(const std::string& message);

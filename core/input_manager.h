@@ -27,7 +27,10 @@ constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press butt
 // Main thread only. Owns both keymaps and destroys each before its successor is read.
 class InputManager {
  public:
-  static InputManager* GetInstance();
+  static InputManager* GetInstance() {
+    static InputManager instance;
+    return &instance;
+  }
 
   void Initialize(InputManagerCallbacks* callbacks);
   void OnLoadKeymapConfigAndInfo(const QString& path, const QString& package, const QString& extra, int display);

@@ -123,8 +123,7 @@ void InputStatusManager::SetForceTransparent(int display, bool on) {
   if (on) has_force_transparent_.store(true, std::memory_order_release);
 }
 
-bool InputStatusManager::IsDisplayForceTransparent(int display) const {
-  if (!has_force_transparent_.load(std::memory_order_acquire)) return false;  // no display ever was
+bool InputStatusManager::WasMadeTransparent(int display) const {
   const QMutexLocker locker(&force_transparent_mutex_);
   return force_transparent_.value(display, false);
 }

@@ -59,7 +59,9 @@ class InputStatusManager {
   int GetReplayDisplayId() const { return replay_display_id_; }
   void SetReplayDisplayId(int display) { replay_display_id_ = display; }
   void SetForceTransparent(int display, bool on);
-  bool IsDisplayForceTransparent(int display) const;
+  bool IsDisplayForceTransparent(int display) const {
+    return has_force_transparent_.load(std::memory_order_acquire) && WasMadeTransparent(display);
+  }
 
   const QString& GetPackageName() const { return package_name_; }
   // A keymap path was in effect at the last load.
@@ -99,6 +101,7 @@ class InputStatusManager {
  private:
   InputStatusManager() = default;
 
+  bool WasMadeTransparent(int display) const;
   // Both halves of a reset of everything on the present display, and between them the move to the next.
   void ResetAndMoveTo(int display);
   // What a reset does before the sweep, but for that of macros.

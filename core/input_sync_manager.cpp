@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "core/host_functions.h"
-
 namespace taviinputmanager {
 
 void InputSyncManager::StartSync(const QString& target) {
@@ -16,10 +14,6 @@ void InputSyncManager::StopSync(const QString& target) {
   QVector<QString> targets = Targets();
   targets.removeAll(target);
   SetTargets(std::move(targets));
-}
-
-bool InputSyncManager::IsEventMirrored() const {
-  return has_targets_.load(std::memory_order_relaxed) && GetHostFunctions().sync_event.load();
 }
 
 void InputSyncManager::SyncEvent(const QString& command) const {

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVector>
 
+#include "core/host_functions.h"
 #include "taviinputmanager/types.h"
 
 namespace taviinputmanager {
@@ -27,7 +28,9 @@ class InputSyncManager {
   // Hands a bare line and all targets to the host, unless there is no function or no target.
   void SyncEvent(const QString& command) const;
   // Whether that would do anything.
-  bool IsEventMirrored() const;
+  bool IsEventMirrored() const {
+    return has_targets_.load(std::memory_order_relaxed) && GetHostFunctions().sync_event.load();
+  }
   void SyncText(const QString& command) const;
 
  private:

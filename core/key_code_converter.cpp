@@ -11,28 +11,25 @@ struct CodePair {
   int guest;
 };
 
-constexpr int kPauseScan = 69;
-constexpr int kFirstExtendedScan = 256;  // codes below stay as they are, but for Pause
-
 constexpr CodePair kScanToGuest[] = {
-    {kPauseScan, 119},  // Pause
-    {284, 96},          // keypad Enter
-    {285, 97},          // right Control
-    {309, 98},          // keypad divide
-    {312, 100},         // right Alt
-    {325, 69},          // Num Lock
-    {327, 102},         // Home
-    {328, 103},         // Up
-    {329, 104},         // Page Up
-    {331, 105},         // Left
-    {333, 106},         // Right
-    {335, 107},         // End
-    {336, 108},         // Down
-    {337, 109},         // Page Down
-    {338, 110},         // Insert
-    {339, 111},         // Delete
-    {349, 139},         // Menu
-    {2147483647, 1},    // a key without scan code: Escape
+    {69, 119},        // Pause
+    {284, 96},        // keypad Enter
+    {285, 97},        // right Control
+    {309, 98},        // keypad divide
+    {312, 100},       // right Alt
+    {325, 69},        // Num Lock
+    {327, 102},       // Home
+    {328, 103},       // Up
+    {329, 104},       // Page Up
+    {331, 105},       // Left
+    {333, 106},       // Right
+    {335, 107},       // End
+    {336, 108},       // Down
+    {337, 109},       // Page Down
+    {338, 110},       // Insert
+    {339, 111},       // Delete
+    {349, 139},       // Menu
+    {2147483647, 1},  // a key without scan code: Escape
 };
 
 constexpr CodePair kButtonToGuest[] = {
@@ -55,10 +52,7 @@ int LookUp(const CodePair (&table)[N], int host, int otherwise) {
 
 }  // namespace
 
-int KeyCodeConverter::KeyToGuestCode(int scan) const {
-  if (scan >= 0 && scan < kFirstExtendedScan && scan != kPauseScan) return scan;  // most keys, with a single glance
-  return LookUp(kScanToGuest, scan, scan);
-}
+int KeyCodeConverter::LookUpKey(int scan) { return LookUp(kScanToGuest, scan, scan); }
 
 int KeyCodeConverter::MouseButtonToGuestCode(int button) const { return LookUp(kButtonToGuest, button, -1); }
 

@@ -78,6 +78,8 @@ class LineBuffer {
   operator QString() const { return ToString(); }  // NOLINT(google-explicit-constructor)
   std::string toStdString() const { return std::string(begin_, end_); }
   char* data() { return begin_; }
+  // Of a whole line. Valid until the next change.
+  QLatin1String WithoutEnd() const { return QLatin1String(begin_, isEmpty() ? 0 : size() - 1); }
   int size() const { return static_cast<int>(end_ - begin_); }
   bool isEmpty() const { return begin_ == end_; }
   void Clear() { end_ = begin_; }

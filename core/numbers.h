@@ -2,6 +2,7 @@
 #ifndef CORE_NUMBERS_H_
 #define CORE_NUMBERS_H_
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -12,10 +13,9 @@ namespace taviinputmanager {
 inline int Truncate(double v) {
   constexpr double kLowest = std::numeric_limits<int>::min();
   constexpr double kHighest = std::numeric_limits<int>::max();
+  if (v > kLowest && v < kHighest) return static_cast<int>(v);
   if (std::isnan(v)) return 0;
-  if (v <= kLowest) return std::numeric_limits<int>::min();
-  if (v >= kHighest) return std::numeric_limits<int>::max();
-  return static_cast<int>(v);
+  return v < 0 ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
 }
 
 // The same for whole numbers beyond an int.
@@ -49,9 +49,14 @@ inline int LowDistance(std::int64_t from, std::int64_t to) {
 }
 
 // Positions stop at the ends of an int.
-inline int AddSaturated(int a, int b) { return Truncate(static_cast<double>(a) + b); }
-inline int SubtractSaturated(int a, int b) { return Truncate(static_cast<double>(a) - b); }
-inline int NegateSaturated(int a) { return Truncate(-static_cast<double>(a)); }
+inline int Saturate(std::int64_t v) {
+  constexpr std::int64_t kLowest = std::numeric_limits<int>::min();
+  constexpr std::int64_t kHighest = std::numeric_limits<int>::max();
+  return static_cast<int>(std::clamp(v, kLowest, kHighest));
+}
+inline int AddSaturated(int a, int b) { return Saturate(std::int64_t{a} + b); }
+inline int SubtractSaturated(int a, int b) { return Saturate(std::int64_t{a} - b); }
+inline int NegateSaturated(int a) { return Saturate(-std::int64_t{a}); }
 
 }  // namespace taviinputmanager
 

@@ -6,9 +6,12 @@ class QString;
 
 namespace taviinputmanager {
 
+class LineBuffer;
+
 // A line that went to a primary display, and a text line. Both with their newline, which the recorder does not keep.
-void OfferEventLine(QString line);
-void OfferTextLine(QString line);
+void OfferEventLine(const LineBuffer& line);
+void OfferEventLine(const QString& line);
+void OfferTextLine(const QString& line);
 // Whether an offer would be taken up at present: no line has to become a text for one that is not.
 bool IsLineRecorded();
 

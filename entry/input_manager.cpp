@@ -32,6 +32,7 @@
 namespace taviinputmanager {
 
 namespace keywords = tavikeymapmanager::keywords;
+using tavikeymapmanager::IsSameText;
 using tavikeymapmanager::JoystickEvent;
 using tavikeymapmanager::kUnsetCode;
 using tavikeymapmanager::kWheelDownCode;
@@ -51,11 +52,6 @@ void LogLoad(const QString& path, bool is_system, const QString& package, int di
 }
 
 }  // namespace
-
-InputManager* InputManager::GetInstance() {
-  static InputManager instance;
-  return &instance;
-}
 
 InputManager::InputManager() : last_mouse_move_ms_(Clock::NowMs()) {}
 
@@ -134,8 +130,8 @@ void InputManager::InjectText(const QString& text) {
 }
 
 void InputManager::DispatchVirtualEvent(const QString& device, qint64 id, int code, bool press, const QPointF& point) {
-  if (device == keywords::kDeviceMouse) return DispatchVirtualMouse(id, code, press, point);
-  if (device != keywords::kDeviceKeyboard) return;
+  if (IsSameText(device, keywords::kDeviceMouse)) return DispatchVirtualMouse(id, code, press, point);
+  if (!IsSameText(device, keywords::kDeviceKeyboard)) return;
   // Past recording, text mode and forced transparency: this is not the user.
   VirtualKeyboardEvent event(press ? QEvent::KeyPress : QEvent::KeyRelease, code, id);
   if (QtKeyboardMouseEventSimulateHandler::GetInstance()->HandleKeyEvent(&event)) return;

@@ -29,6 +29,7 @@
 namespace taviinputmanager {
 
 namespace keywords = tavikeymapmanager::keywords;
+using tavikeymapmanager::IsSameText;
 using tavikeymapmanager::JoystickEvent;
 
 namespace {
@@ -108,7 +109,8 @@ QtMouseEventHandler* InputManager::SelectMouseHandler(const QMouseEvent* event) 
   QtMouseEventHandler* transparent = QtMouseEventTransparentHandler::GetInstance();
   if (IsForcedTransparent()) return IsLeft(event) ? SimulateMouseSide() : transparent;
   const QString& mode = SettingsOf(keymap_config_.get()).mouse_mode;
-  const bool passes = IsLeft(event) ? mode == keywords::kMouseAllTransparent : mode != keywords::kMouseNoTransparent;
+  const bool passes = IsLeft(event) ? IsSameText(mode, keywords::kMouseAllTransparent)
+                                    : !IsSameText(mode, keywords::kMouseNoTransparent);
   return passes ? transparent : SimulateMouseSide();
 }
 

@@ -9,6 +9,7 @@
 #include "core/key_code_converter.h"
 #include "core/keymap_access.h"
 #include "core/virtual_keyboard_event.h"
+#include "handlers/key_match_origin.h"
 #include "handlers/simulator_table.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
@@ -44,7 +45,8 @@ bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboa
 }  // namespace
 
 QtKeyboardMouseEventSimulateHandler::QtKeyboardMouseEventSimulateHandler()
-    : default_mouse_slot_(std::shared_ptr<void>(), MouseSlotManager::GetInstance()) {
+    : default_mouse_slot_(std::shared_ptr<void>(), MouseSlotManager::GetInstance()),
+      is_key_match_own_(IsKeyMatchOwn()) {
   escape_key_.device = tavikeymapmanager::keywords::kDeviceKeyboard;
   escape_key_.scancode = kEscapeScanCode;
   mouse_buttons_[0] = 0;
@@ -176,13 +178,18 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
   UpdateEscapeState();
 }
 
+// A function of the host's own is asked at each key, the library's gives the same answer as the index at hand.
+bool QtKeyboardMouseEventSimulateHandler::IsKeyMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
+  if (is_key_match_own_) return Index().IsFound(configured, pressed);
+  ConfigKey first = configured;
+  ConfigKey second = pressed;
+  return tavikeymapmanager::isConfigKeyMatch(config_, &first, &second);
+}
+
 bool QtKeyboardMouseEventSimulateHandler::IsEscapeOccupied() const {
   if (!config_) return false;
-  ConfigKey escape = escape_key_;
-  ConfigKey armed = current_key_;
-  // Asked of the keymap library and not of the index at hand: a host may have a function of its own in front.
-  if (tavikeymapmanager::isConfigKeyMatch(config_, &escape, &armed)) return true;
-  if (IsKeySet(current_key_) && tavikeymapmanager::isConfigKeyMatch(config_, &armed, &escape)) return true;
+  if (IsKeyMatch(escape_key_, current_key_)) return true;
+  if (IsKeySet(current_key_) && IsKeyMatch(current_key_, escape_key_)) return true;
   const auto& settings = SettingsOf(config_);
   return settings.keyboard_transparent && settings.escape_to_guest;
 }

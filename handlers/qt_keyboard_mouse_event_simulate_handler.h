@@ -77,6 +77,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool PressEscape(const QKeyEvent* event);
   bool ReleaseEscape(const QKeyEvent* event);
   void ClearCurrentKey();
+  // What isConfigKeyMatch says of the keymap.
+  bool IsKeyMatch(const tavikeymapmanager::ConfigKey& configured, const tavikeymapmanager::ConfigKey& pressed) const;
   // Whether an item takes Escape, alone or in a chord with the key that is armed, or the guest gets it.
   bool IsEscapeOccupied() const;
   // Tells the host whether Escape is taken.
@@ -98,6 +100,7 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   mutable tavikeymapmanager::ItemIndex index_;                       // of its items, made as they are searched
   std::shared_ptr<MouseSlotManager> default_mouse_slot_;             // the singleton, not owned
   std::map<qint64, std::shared_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
+  const bool is_key_match_own_;                                      // nobody stands in front of isConfigKeyMatch
   InputManagerCallbacks* callbacks_ = nullptr;                       // the host's
   tavikeymapmanager::ConfigKey escape_key_;   // what the state of Escape is asked by; never changes
   tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord

@@ -26,9 +26,10 @@ ConfigKey KeyOf(Qt::MouseButton button) {
   return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
 }
 
-// The class has no heirs, so that one look at the type is enough.
+// The class has no heirs and is of this library alone, so that one look at the type is enough; to compare two types by
+// operator== is to compare their names.
 const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) {
-  return typeid(*event) == typeid(VirtualMouseEvent) ? static_cast<const VirtualMouseEvent*>(event) : nullptr;
+  return &typeid(*event) == &typeid(VirtualMouseEvent) ? static_cast<const VirtualMouseEvent*>(event) : nullptr;
 }
 
 // The pointer that an event is of; 0 is the real mouse.

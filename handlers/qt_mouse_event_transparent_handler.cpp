@@ -9,11 +9,6 @@
 
 namespace taviinputmanager {
 
-QtMouseEventTransparentHandler* QtMouseEventTransparentHandler::GetInstance() {
-  static QtMouseEventTransparentHandler instance;
-  return &instance;
-}
-
 QtMouseEventTransparentHandler::QtMouseEventTransparentHandler() : last_relative_send_ms_(Clock::NowMs()) {}
 
 void QtMouseEventTransparentHandler::UpdatePosition(int x, int y) {

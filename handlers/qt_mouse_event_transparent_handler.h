@@ -10,7 +10,10 @@ namespace taviinputmanager {
 
 class QtMouseEventTransparentHandler : public QtMouseEventHandler {
  public:
-  static QtMouseEventTransparentHandler* GetInstance();
+  static QtMouseEventTransparentHandler* GetInstance() {
+    static QtMouseEventTransparentHandler instance;
+    return &instance;
+  }
 
   // Puts the guest's pointer at a window position.
   void UpdatePosition(int x, int y);

@@ -35,10 +35,7 @@ ConfigKey KeyOf(const QWheelEvent* event) {
 
 }  // namespace
 
-QtWheelEventSimulateHandler* QtWheelEventSimulateHandler::GetInstance() {
-  static QtWheelEventSimulateHandler instance;
-  return &instance;
-}
+QtWheelEventSimulateHandler::QtWheelEventSimulateHandler() = default;
 
 bool QtWheelEventSimulateHandler::IsWheelWorkerRunning() const {
   return QtWheelEventAsyncWorker::GetInstance()->IsRunning() || QtWheelEventZoomWorker::GetInstance()->IsRunning();

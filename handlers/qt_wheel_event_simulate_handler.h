@@ -16,7 +16,10 @@ class EventSimulator;
 
 class QtWheelEventSimulateHandler : public QtWheelEventHandler {
  public:
-  static QtWheelEventSimulateHandler* GetInstance();
+  static QtWheelEventSimulateHandler* GetInstance() {
+    static QtWheelEventSimulateHandler instance;
+    return &instance;
+  }
 
   void SetConfig(tavikeymapmanager::KeymapConfig* config) { config_ = config; }
   // The config is about to go.
@@ -29,7 +32,7 @@ class QtWheelEventSimulateHandler : public QtWheelEventHandler {
   bool IsWheelWorkerRunning() const;
 
  private:
-  QtWheelEventSimulateHandler() = default;
+  QtWheelEventSimulateHandler();
 
   tavikeymapmanager::ConfigItem* FindItem(const tavikeymapmanager::ConfigKey& key) const;
   bool PlayMappedItem(const QWheelEvent* event);

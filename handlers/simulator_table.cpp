@@ -1,8 +1,5 @@
 #include "handlers/simulator_table.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "keymap/spell_cancel_config_item.h"
 #include "simulators/cast/spell_event_simulator.h"
 #include "simulators/curve/curve_event_simulator.h"
@@ -76,9 +73,10 @@ const Row kRows[] = {
 
 EventSimulator* Find(const ConfigItem* item, Source source) {
   if (!item) return nullptr;
-  const auto row =
-      std::find_if(std::begin(kRows), std::end(kRows), [item](const Row& r) { return IsSameText(r.type, item->type); });
-  return row == std::end(kRows) || (row->sources & source) == 0 ? nullptr : row->get(item);
+  for (const Row& row : kRows) {
+    if (IsSameText(row.type, item->type)) return (row.sources & source) != 0 ? row.get(item) : nullptr;
+  }
+  return nullptr;
 }
 
 }  // namespace

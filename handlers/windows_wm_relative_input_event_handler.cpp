@@ -7,10 +7,7 @@
 
 namespace taviinputmanager {
 
-WindowsWmRelativeInputEventHandler* WindowsWmRelativeInputEventHandler::GetInstance() {
-  static WindowsWmRelativeInputEventHandler instance;
-  return &instance;
-}
+WindowsWmRelativeInputEventHandler::WindowsWmRelativeInputEventHandler() = default;
 
 void WindowsWmRelativeInputEventHandler::OnRelativeInput(int dx, int dy, int interval_ms, double factor) {
   const InputStatus status = InputStatusManager::GetInstance()->GetStatus();

@@ -9,7 +9,10 @@ namespace taviinputmanager {
 // Keeps nothing. Main thread.
 class WindowsWmRelativeInputEventHandler : public EventHandler {
  public:
-  static WindowsWmRelativeInputEventHandler* GetInstance();
+  static WindowsWmRelativeInputEventHandler* GetInstance() {
+    static WindowsWmRelativeInputEventHandler instance;
+    return &instance;
+  }
 
   // To the guest's own pointer, unless view control or observing is on; then to a cast in progress, and else to the
   // view. `interval_ms`, the least time between sends, and `factor`, display pixels a count, are the keymap's settings
@@ -17,7 +20,7 @@ class WindowsWmRelativeInputEventHandler : public EventHandler {
   void OnRelativeInput(int dx, int dy, int interval_ms, double factor);
 
  private:
-  WindowsWmRelativeInputEventHandler() = default;
+  WindowsWmRelativeInputEventHandler();
 };
 
 }  // namespace taviinputmanager

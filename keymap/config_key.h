@@ -24,12 +24,12 @@ struct TAVI_KEYMAP_RECORD ConfigKey {
   int user_flags = 0;            // the same
 };
 
-// Like operator==, without its call into Qt. Most texts here differ in length or share their data.
+// Like operator==, without its call into Qt. Most texts here share their data or differ in length.
 inline bool IsSameText(const QString& a, const QString& b) {
+  if (a.isSharedWith(b)) return true;
   if (a.size() != b.size()) return false;
   const QChar* const of_a = a.constData();
   const QChar* const of_b = b.constData();
-  if (of_a == of_b) return true;
   constexpr int kUsual = 8;  // of "keyboard" and "joystick": memcmp of a constant length is inlined
   if (a.size() == kUsual) return std::memcmp(of_a, of_b, kUsual * sizeof(QChar)) == 0;
   return std::memcmp(of_a, of_b, static_cast<std::size_t>(a.size()) * sizeof(QChar)) == 0;
@@ -44,8 +44,8 @@ inline bool IsJoystickKey(const ConfigKey& key) {
 
 // Key identity: keys of a joystick are compared by name, those of other devices by scan code.
 inline bool IsSameKey(const ConfigKey& a, const ConfigKey& b) {
-  const bool is_same = IsJoystickKey(a) ? IsSameText(a.text, b.text) : a.scancode == b.scancode;
-  return is_same && IsSameText(a.device, b.device);
+  if (!IsSameText(a.device, b.device)) return false;
+  return IsJoystickKey(a) ? IsSameText(a.text, b.text) : a.scancode == b.scancode;
 }
 
 // Whether the record identifies a key.

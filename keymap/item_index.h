@@ -43,8 +43,14 @@ class ItemIndex {
     return ItemOf(entry);
   }
 
-  // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item. Unlike the searches,
-  // this uses the keys as they are now.
+  // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item: whether one of the
+  // searches would find it.
+  bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);  // each is asked both, in its place
+    return FirstAloneEntry(configured) != nullptr || FirstChordEntry(configured, pressed) != nullptr;
+  }
+
+  // The same for the keys as they are now: looks at every item.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }

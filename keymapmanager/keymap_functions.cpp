@@ -4,7 +4,6 @@
 #include <QLoggingCategory>
 #include <QMouseEvent>
 
-#include "keymap/item_index.h"
 #include "keymapmanager/keymap_file.h"
 #include "keymapmanager/keys/key_index.h"
 
@@ -36,13 +35,6 @@ void SetTextForConfigKey(ConfigKey* key) {
   if (key == nullptr) return;
   if (key->device == keywords::kDeviceJoystick) return;  // its text is what it is known by
   key->text = KeyIndex::Get().TextOf(key->device, key->virtual_key, key->scancode);
-}
-
-bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed) {
-  if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
-  static ItemIndex index;  // of the list asked for last: the same one is asked for at every key that passes through
-  index.Follow(config->items);
-  return index.IsMatch(*configured, *pressed);
 }
 
 int getMacroConfigKeyCode(QEvent* event) {

@@ -1,11 +1,17 @@
 #include "record/command_translation.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <functional>
 #include <iterator>
+#include <optional>
+#include <system_error>
 
 #include <QPointF>
 #include <QString>
+#include <QStringView>
 #include <QVarLengthArray>
 
 #include "core/display_geometry.h"
@@ -21,19 +27,38 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-using Parts = QVarLengthArray<QStringView, 16>;  // of a line, between its colons; the word is part 0
+// A part of a line, or a whole one: of a text of any script, or of a line as it was put together here.
+int IntOf(const QStringView& part) { return part.toInt(); }
+int IntOf(QLatin1String part) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(part.begin(), part.end(), number);
+  return error == std::errc() && end == part.end() ? number : 0;
+}
+
+QString ToString(const QStringView& part) { return part.toString(); }
+QString ToString(QLatin1String part) { return part; }
 
 constexpr QLatin1Char kColon(':');
 
-Parts PartsOf(const QString& command) {
-  Parts parts;
+// Of a line, between its colons; the word is part 0.
+template <typename Text>
+QVarLengthArray<Text, 16> PartsOf(const Text& line) {
+  QVarLengthArray<Text, 16> parts;
   int start = 0;
-  for (int colon = command.indexOf(kColon); colon >= 0; colon = command.indexOf(kColon, start)) {
-    parts.append(QStringView(command).mid(start, colon - start));
-    start = colon + 1;
+  for (int i = 0; i < line.size(); ++i) {
+    if (line.at(i) != kColon) continue;
+    parts.append(line.mid(start, i - start));
+    start = i + 1;
   }
-  parts.append(QStringView(command).mid(start));
+  parts.append(line.mid(start));
   return parts;
+}
+
+// Words that all actions share the texts of.
+const QString& TextOf(QLatin1String word) {
+  static const QString texts[] = {kTypeTouch,       kTypeKeyboard, kTypeMouse,    kTypeJoystick,
+                                  kTypeInputMethod, kRelease,      kReleaseMulti, kReset};
+  return *std::find(std::begin(texts), std::end(texts), word);
 }
 
 QString Joined(QLatin1String word, const QString& argument) {
@@ -42,88 +67,135 @@ QString Joined(QLatin1String word, const QString& argument) {
   return data.append(word).append(kColon).append(argument);
 }
 
-// Appends a colon and the point of two coordinates. False on a display without size, where there are no fractions.
-bool AppendPoint(const QStringView& x, const QStringView& y, LineBuffer* data) {
-  const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x.toInt(), y.toInt()));
-  if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return false;
-  WritePoint(point, &data->Byte(':'));
-  return true;
+// The texts of all slots share theirs.
+QString SlotText(int slot) {
+  constexpr int kSlots = 26;
+  static const auto texts = [] {
+    std::array<QString, kSlots> all;
+    for (int i = 0; i < kSlots; ++i) all[static_cast<std::size_t>(i)] = QString::number(i);
+    return all;
+  }();
+  return slot >= 0 && slot < kSlots ? texts[static_cast<std::size_t>(slot)] : QString::number(slot);
+}
+
+// Nothing on a display without size, where there are no fractions.
+std::optional<QPointF> FractionOf(int x, int y) {
+  const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x, y));
+  if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return std::nullopt;
+  return point;
+}
+
+// A word, a colon and a point. Fingers come down on the same points again and again: such texts share one, and are not
+// put together anew.
+QString PointText(QLatin1String word, const QPointF& point) {
+  struct Made {
+    const char* word = nullptr;
+    double x = 0;
+    double y = 0;
+    QString text;
+  };
+  constexpr std::size_t kKept = 64;
+  thread_local std::array<Made, kKept> made;
+  const std::size_t hash = std::hash<double>()(point.x()) * 31 + std::hash<double>()(point.y());
+  Made& last = made[(hash ^ hash >> 32) % kKept];
+  if (last.word != word.data() || last.x != point.x() || last.y != point.y()) {
+    LineBuffer text;
+    WritePoint(point, &text.Text(word).Byte(':'));
+    last = {word.data(), point.x(), point.y(), text.ToString()};
+  }
+  return last.text;
 }
 
 // A word and a point.
-bool TakePoint(QLatin1String word, const QStringView& x, const QStringView& y, RecordAction* action) {
-  LineBuffer data;
-  if (!AppendPoint(x, y, &data.Text(word))) return false;
-  action->data = data.ToString();
-  return true;
+bool TakePoint(QLatin1String word, int x, int y, RecordAction* action) {
+  const auto point = FractionOf(x, y);
+  if (point) action->data = PointText(word, *point);
+  return point.has_value();
 }
 
-bool TouchPress(const QString& command, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool TouchPress(const Text& line, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() != 7) return false;
-  action->extra1 = QString::number(parts[1].toInt());
-  return TakePoint(kPressRel, parts[5], parts[6], action);
+  action->extra1 = SlotText(IntOf(parts[1]));
+  return TakePoint(kPressRel, IntOf(parts[5]), IntOf(parts[6]), action);
 }
 
-bool TouchRelease(const QString& command, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool TouchRelease(const Text& line, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() != 2) return false;
-  action->data = kRelease;
-  action->extra1 = QString::number(parts[1].toInt());
+  action->data = TextOf(kRelease);
+  action->extra1 = SlotText(IntOf(parts[1]));
   return true;
 }
 
 // Groups of four: slot, tracking id, x, y.
-bool TouchMultiPress(const QString& command, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool TouchMultiPress(const Text& line, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() < 5 || (parts.size() - 1) % 4 != 0) return false;
   LineBuffer data;
   data.Text(kPressMultiRel);
   for (int i = 1; i < parts.size(); i += 4) {
     if (i > 1) action->extra1.append(kColon);
-    action->extra1.append(QString::number(parts[i].toInt()));
-    if (!AppendPoint(parts[i + 2], parts[i + 3], &data)) return false;
+    action->extra1.append(SlotText(IntOf(parts[i])));
+    const auto point = FractionOf(IntOf(parts[i + 2]), IntOf(parts[i + 3]));
+    if (!point) return false;
+    WritePoint(*point, &data.Byte(':'));
   }
   action->data = data.ToString();
   return true;
 }
 
-bool TouchMultiRelease(const QString& command, RecordAction* action) {
+template <typename Text>
+bool TouchMultiRelease(const Text& line, RecordAction* action) {
   const int word = guest_words::kSlotMultiRelease.size();
-  if (command.size() <= word) return false;
-  action->data = kReleaseMulti;
-  action->extra1 = command.mid(word + 1);
+  if (line.size() <= word) return false;
+  action->data = TextOf(kReleaseMulti);
+  action->extra1 = ToString(line.mid(word + 1));
   return true;
 }
 
-bool TouchReset(const QString& /*command*/, RecordAction* action) {
-  action->data = kReset;
+template <typename Text>
+bool TouchReset(const Text& /*line*/, RecordAction* action) {
+  action->data = TextOf(kReset);
   return true;
 }
 
-bool Key(const QString& command, QLatin1String word, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool Key(const Text& line, QLatin1String word, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() != 3) return false;
-  action->data = Joined(word, parts[1].toString());
+  action->data = Joined(word, ToString(parts[1]));
   return true;
 }
-bool KeyPress(const QString& command, RecordAction* action) { return Key(command, kKeyboardPress, action); }
-bool KeyRelease(const QString& command, RecordAction* action) { return Key(command, kKeyboardRelease, action); }
+template <typename Text>
+bool KeyPress(const Text& line, RecordAction* action) {
+  return Key(line, kKeyboardPress, action);
+}
+template <typename Text>
+bool KeyRelease(const Text& line, RecordAction* action) {
+  return Key(line, kKeyboardRelease, action);
+}
 
-bool MouseWheel(const QString& command, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool MouseWheel(const Text& line, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() != 5) return false;
-  return TakePoint(kWheel, parts[3], parts[4], action);
+  return TakePoint(kWheel, IntOf(parts[3]), IntOf(parts[4]), action);
 }
 
-bool MouseMove(const QString& command, RecordAction* action) {
-  const Parts parts = PartsOf(command);
+template <typename Text>
+bool MouseMove(const Text& line, RecordAction* action) {
+  const auto parts = PartsOf(line);
   if (parts.size() != 3) return false;
-  return TakePoint(kMove, parts[1], parts[2], action);
+  return TakePoint(kMove, IntOf(parts[1]), IntOf(parts[2]), action);
 }
 
-bool Gamepad(const QString& command, RecordAction* action) {
-  action->data = command;
+template <typename Text>
+bool Gamepad(const Text& line, RecordAction* action) {
+  action->data = ToString(line);
   return true;
 }
 
@@ -134,47 +206,54 @@ enum class Match {
   kLine        // the line is the word
 };
 
-// Texts that all actions share.
-const QString& TextOf(QLatin1String type) {
-  static const QString texts[] = {kTypeTouch, kTypeKeyboard, kTypeMouse, kTypeJoystick, kTypeInputMethod};
-  return *std::find(std::begin(texts), std::end(texts), type);
-}
-
+template <typename Text>
 struct Rule {
   QLatin1String word;
   Match match = Match::kWord;
   QLatin1String type;  // one of TextOf's
-  bool (*translate)(const QString& command, RecordAction* action) = nullptr;
+  bool (*translate)(const Text& line, RecordAction* action) = nullptr;
 };
 
-bool Fits(const QString& command, const Rule& rule) {
-  if (!command.startsWith(rule.word)) return false;
+template <typename Text>
+bool Fits(const Text& line, const Rule<Text>& rule) {
+  if (!line.startsWith(rule.word)) return false;
   const int end = rule.word.size();
   switch (rule.match) {
     case Match::kWord: return true;
-    case Match::kWordColon: return command.size() > end && command.at(end) == kColon;
+    case Match::kWordColon: return line.size() > end && line.at(end) == kColon;
     case Match::kLine: break;
   }
-  return command.size() == end;
+  return line.size() == end;
 }
 
 // In this order; the first that fits decides.
-constexpr Rule kRules[] = {
-    {guest_words::kSlotPress, Match::kWordColon, kTypeTouch, TouchPress},
-    {guest_words::kSlotRelease, Match::kWordColon, kTypeTouch, TouchRelease},
-    {guest_words::kKeyPress, Match::kWordColon, kTypeKeyboard, KeyPress},
-    {guest_words::kKeyRelease, Match::kWordColon, kTypeKeyboard, KeyRelease},
-    {guest_words::kSlotMultiPress, Match::kWord, kTypeTouch, TouchMultiPress},
-    {guest_words::kSlotMultiRelease, Match::kWord, kTypeTouch, TouchMultiRelease},
-    {guest_words::kWheel, Match::kWordColon, kTypeMouse, MouseWheel},
-    {guest_words::kMouseMove, Match::kWordColon, kTypeMouse, MouseMove},
-    {guest_words::kSlotReleaseAll, Match::kLine, kTypeTouch, TouchReset},
-    {guest_words::kGamepadButton, Match::kWordColon, kTypeJoystick, Gamepad},
-    {guest_words::kLeftStickAxis, Match::kWordColon, kTypeJoystick, Gamepad},
-    {guest_words::kRightStickAxis, Match::kWordColon, kTypeJoystick, Gamepad},
-    {guest_words::kLeftTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad},
-    {guest_words::kRightTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad},
+template <typename Text>
+constexpr Rule<Text> kRules[] = {
+    {guest_words::kSlotPress, Match::kWordColon, kTypeTouch, TouchPress<Text>},
+    {guest_words::kSlotRelease, Match::kWordColon, kTypeTouch, TouchRelease<Text>},
+    {guest_words::kKeyPress, Match::kWordColon, kTypeKeyboard, KeyPress<Text>},
+    {guest_words::kKeyRelease, Match::kWordColon, kTypeKeyboard, KeyRelease<Text>},
+    {guest_words::kSlotMultiPress, Match::kWord, kTypeTouch, TouchMultiPress<Text>},
+    {guest_words::kSlotMultiRelease, Match::kWord, kTypeTouch, TouchMultiRelease<Text>},
+    {guest_words::kWheel, Match::kWordColon, kTypeMouse, MouseWheel<Text>},
+    {guest_words::kMouseMove, Match::kWordColon, kTypeMouse, MouseMove<Text>},
+    {guest_words::kSlotReleaseAll, Match::kLine, kTypeTouch, TouchReset<Text>},
+    {guest_words::kGamepadButton, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
+    {guest_words::kLeftStickAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
+    {guest_words::kRightStickAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
+    {guest_words::kLeftTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
+    {guest_words::kRightTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
 };
+
+template <typename Text>
+bool Translate(const Text& line, RecordAction* action) {
+  for (const auto& rule : kRules<Text>) {
+    if (!Fits(line, rule)) continue;
+    action->type = TextOf(rule.type);
+    return rule.translate(line, action);
+  }
+  return false;
+}
 
 // False when the line is another, or has no text.
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
@@ -188,13 +267,10 @@ bool TranslateText(const QString& command, QLatin1String line_word, QLatin1Strin
 }  // namespace
 
 bool TranslateEventCommand(const QString& command, RecordAction* action) {
-  for (const Rule& rule : kRules) {
-    if (!Fits(command, rule)) continue;
-    action->type = TextOf(rule.type);
-    return rule.translate(command, action);
-  }
-  return false;
+  return Translate(QStringView(command), action);
 }
+
+bool TranslateEventLine(QLatin1String line, RecordAction* action) { return Translate(line, action); }
 
 bool TranslateTextCommand(const QString& command, RecordAction* action) {
   return TranslateText(command, guest_words::kText, kTextInject, action) ||

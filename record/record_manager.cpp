@@ -1,9 +1,12 @@
 #include "record/record_manager.h"
 
+#include <utility>
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include "core/clock.h"
+#include "core/line_buffer.h"
 #include "core/recorder_offer.h"
 #include "record/command_translation.h"
 #include "record/record_file_utils.h"
@@ -25,11 +28,6 @@ QString DetectAppMarker(const QString& package, const QString& app) {
 }
 
 }  // namespace
-
-RecordManager* RecordManager::GetInstance() {
-  static RecordManager instance;
-  return &instance;
-}
 
 RecordManager::RecordManager() : pause_time_(Clock::NowMs()) {}
 
@@ -77,21 +75,31 @@ void RecordManager::AddVControlCommand(const QString& data, const QString& extra
 }
 
 void RecordManager::AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2) {
-  if (data.isEmpty()) return;
+  Add({0, type, data, extra1, extra2});
+}
+
+void RecordManager::Add(RecordAction action) {
+  if (action.data.isEmpty()) return;
   const std::lock_guard<std::mutex> lock(mutex_);
-  if (GetStatus() == RecordStatus::Recording) actions_.Add({0, type, data, extra1, extra2});
+  if (GetStatus() == RecordStatus::Recording) actions_.Add(std::move(action));
 }
 
 void RecordManager::OnEventCommand(const QString& command) {
   if (macro_recording_ || command.isEmpty()) return;
   RecordAction action;
-  if (TranslateEventCommand(command, &action)) AddAction(action.type, action.data, action.extra1, action.extra2);
+  if (TranslateEventCommand(command, &action)) Add(std::move(action));
+}
+
+void RecordManager::OnEventLine(QLatin1String line) {
+  if (macro_recording_ || line.isEmpty()) return;
+  RecordAction action;
+  if (TranslateEventLine(line, &action)) Add(std::move(action));
 }
 
 void RecordManager::OnTextCommand(const QString& command) {
   if (command.isEmpty()) return;
   RecordAction action;
-  if (TranslateTextCommand(command, &action)) AddAction(action.type, action.data, action.extra1, action.extra2);
+  if (TranslateTextCommand(command, &action)) Add(std::move(action));
 }
 
 void RecordManager::StartRecordMacroInstruction(const QString& name) {
@@ -109,16 +117,16 @@ void RecordManager::StopRecordMacroInstruction(const QString& name) {
 
 // A line is recorded without its end.
 
-void OfferEventLine(QString line) {
-  if (!IsLineRecorded()) return;
-  line.chop(1);
-  RecordManager::GetInstance()->OnEventCommand(line);
+void OfferEventLine(const LineBuffer& line) {
+  if (IsLineRecorded()) RecordManager::GetInstance()->OnEventLine(line.WithoutEnd());
 }
 
-void OfferTextLine(QString line) {
-  if (!IsLineRecorded()) return;
-  line.chop(1);
-  RecordManager::GetInstance()->OnTextCommand(line);
+void OfferEventLine(const QString& line) {
+  if (IsLineRecorded()) RecordManager::GetInstance()->OnEventCommand(line.left(line.size() - 1));
+}
+
+void OfferTextLine(const QString& line) {
+  if (IsLineRecorded()) RecordManager::GetInstance()->OnTextCommand(line.left(line.size() - 1));
 }
 
 bool IsLineRecorded() { return RecordManager::GetInstance()->GetStatus() == RecordStatus::Recording; }

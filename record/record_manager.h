@@ -2,6 +2,7 @@
 #ifndef RECORD_RECORD_MANAGER_H_
 #define RECORD_RECORD_MANAGER_H_
 
+#include <QLatin1String>
 #include <atomic>
 #include <mutex>
 
@@ -29,7 +30,10 @@ struct InputRecorderCallbacks;
 // GetStatus is for any thread.
 class RecordManager {
  public:
-  static RecordManager* GetInstance();
+  static RecordManager* GetInstance() {
+    static RecordManager instance;
+    return &instance;
+  }
   virtual ~RecordManager() = default;
 
   void SetCallbacks(InputRecorderCallbacks* callbacks) { callbacks_ = callbacks; }
@@ -50,9 +54,12 @@ class RecordManager {
 
   // Without their line ends.
   void OnEventCommand(const QString& command);
+  void OnEventLine(QLatin1String line);
   void OnTextCommand(const QString& command);
   // Every event of the host, before any handler sees it. Only read.
-  void OnQtInputEvent(QEvent* event);
+  void OnQtInputEvent(QEvent* event) {
+    if (macro_recording_.load(std::memory_order_relaxed)) CaptureEvent(event);
+  }
 
  private:
   RecordManager();
@@ -62,6 +69,8 @@ class RecordManager {
 
   void CaptureEvent(QEvent* event);
   void AddMacroAction(const QString& data);
+  // As AddAction.
+  void Add(RecordAction action);
   void AddMacroMove(const QPoint& window_position);
 
   // Guards actions_ while status_ is Recording, and all changes of status_. Not held while a file is written or the

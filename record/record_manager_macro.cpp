@@ -31,10 +31,6 @@ QPoint PositionOf(const QEvent* mouse) { return RoundedPoint(qt::PlaceOf(*static
 
 }  // namespace
 
-void RecordManager::OnQtInputEvent(QEvent* event) {
-  if (macro_recording_) CaptureEvent(event);
-}
-
 void RecordManager::CaptureEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseMove:

@@ -5,12 +5,6 @@
 
 namespace tavikeymapmanager {
 
-// Never destroyed, as its texts are never freed.
-const KeyIndex& KeyIndex::Get() {
-  static const auto* const index = new KeyIndex;
-  return *index;
-}
-
 KeyIndex::KeyIndex() {
   for (const KeyboardKeyRow& row : KeyboardKeys()) AddKeyboardKey(row);
   for (int scancode = 0; scancode < kScancodeCount; ++scancode) {
@@ -61,16 +55,13 @@ ConfigKey KeyIndex::KeyboardKey(int scancode) const {
   return key;
 }
 
-const QString& KeyIndex::TextOf(const QString& device, int virtual_key, int scancode) const {
-  if (IsSameText(device, keywords::kDeviceKeyboard)) return KeyboardText(virtual_key, scancode);
-  if (device != keywords::kDeviceMouse && device != keywords::kDeviceWheel) return no_name_;
+const QString& KeyIndex::MouseText(const QString& device, int scancode) const {
+  if (!IsSameText(device, keywords::kDeviceMouse) && !IsSameText(device, keywords::kDeviceWheel)) return no_name_;
   const auto found = mouse_names_.constFind(scancode);
   return found == mouse_names_.constEnd() ? no_name_ : *found;
 }
 
-const QString& KeyIndex::KeyboardText(int virtual_key, int scancode) const {
-  if (scancode >= 0 && scancode < kScancodeCount) return keyboard_names_[scancode];
-  if (scancode != kUnsetCode) return no_name_;
+const QString& KeyIndex::TextOfVirtualKey(int virtual_key) const {
   const auto found = names_by_virtual_key_.constFind(virtual_key);
   return found == names_by_virtual_key_.constEnd() ? no_name_ : *found;
 }

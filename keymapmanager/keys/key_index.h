@@ -16,7 +16,11 @@ namespace tavikeymapmanager {
 
 class KeyIndex {
  public:
-  static const KeyIndex& Get();
+  // Never destroyed, as its texts are never freed.
+  static const KeyIndex& Get() {
+    static const auto* const index = new KeyIndex;
+    return *index;
+  }
 
   // The key of a name or alias, gamepads and `Scan 200` apart.
   std::optional<ConfigKey> Find(const QString& name) const;
@@ -24,7 +28,10 @@ class KeyIndex {
   ConfigKey KeyboardKey(int scancode) const;
   // The shared name of a key by its codes: the scan code, or, where that is unset, the virtual key. Empty for a
   // gamepad's key and for codes that no key has.
-  const QString& TextOf(const QString& device, int virtual_key, int scancode) const;
+  const QString& TextOf(const QString& device, int virtual_key, int scancode) const {
+    if (IsSameText(device, keywords::kDeviceKeyboard)) return KeyboardText(virtual_key, scancode);
+    return MouseText(device, scancode);
+  }
   // As AllKeyNames.
   const QStringList& Names() const { return names_; }
 
@@ -33,7 +40,13 @@ class KeyIndex {
 
   void AddKeyboardKey(const KeyboardKeyRow& row);
   void AddMouseKey(int code, const QString& name);
-  const QString& KeyboardText(int virtual_key, int scancode) const;
+  const QString& KeyboardText(int virtual_key, int scancode) const {
+    if (scancode >= 0 && scancode < kScancodeCount) return keyboard_names_[scancode];
+    return scancode == kUnsetCode ? TextOfVirtualKey(virtual_key) : no_name_;
+  }
+  const QString& TextOfVirtualKey(int virtual_key) const;
+  // Of a mouse's key or a wheel's; empty for other devices.
+  const QString& MouseText(const QString& device, int scancode) const;
 
   std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` where the table has none
   std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 where the table has none

@@ -42,11 +42,6 @@ SpellSyncWorker* WorkerOf(const SpellConfigItem& item) {
 
 }  // namespace
 
-SpellEventSimulator* SpellEventSimulator::GetInstance() {
-  static SpellEventSimulator instance;
-  return &instance;
-}
-
 SpellEventSimulator::SpellEventSimulator() : follow_timer_(new QTimer(this)) {
   follow_timer_->setTimerType(Qt::PreciseTimer);
   connect(follow_timer_, &QTimer::timeout, this, &SpellEventSimulator::TimerOutTime);

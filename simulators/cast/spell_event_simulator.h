@@ -29,7 +29,10 @@ class SpellEventSimulator : public EventSimulator {
   Q_OBJECT
 
  public:
-  static SpellEventSimulator* GetInstance();
+  static SpellEventSimulator* GetInstance() {
+    static SpellEventSimulator instance;
+    return &instance;
+  }
   ~SpellEventSimulator() override;
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;

@@ -20,11 +20,6 @@ MacroCalls::MacroCalls() = default;
 
 MacroCalls::~MacroCalls() = default;
 
-MacroCalls* MacroCalls::GetInstance() {
-  static MacroCalls instance;
-  return &instance;
-}
-
 void MacroCalls::Run(MacroSequentialTapAsyncWorker* worker) {
   calls_.emplace_back(worker);
   if (depth_ < kMostDepth) RunDownTo(calls_.size() - 1);

@@ -26,7 +26,10 @@ class MacroSequentialTapAsyncWorker;
 // Main thread.
 class MacroCalls {
  public:
-  static MacroCalls* GetInstance();
+  static MacroCalls* GetInstance() {
+    static MacroCalls instance;
+    return &instance;
+  }
 
   // Runs the list of `worker` until it pauses or ends: at once, or behind the command under way.
   void Run(MacroSequentialTapAsyncWorker* worker);

@@ -6,6 +6,7 @@
 #include <QVarLengthArray>
 
 #include "core/guest_command.h"
+#include "keymap/config_key.h"
 #include "slots/macro_slot_manager.h"
 
 namespace taviinputmanager {
@@ -34,13 +35,18 @@ QVarLengthArray<Place, MacroSlotManager::kSlotCount> PlacesOf(const MacroPoints&
   return places;
 }
 
+auto CountOf(const QString& text, const QStringList& texts) {
+  return std::count_if(texts.begin(), texts.end(),
+                       [&text](const QString& other) { return tavikeymapmanager::IsSameText(text, other); });
+}
+
 }  // namespace
 
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   // At the end each press lifts one finger that its point has. A loop may press for hours, and more fingers than the
   // pool has cannot hold one point.
-  if (pressed_points_.count(list.text) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
+  if (CountOf(list.text, pressed_points_) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
   Contacts contacts;
   for (const Place& place : PlacesOf(list)) {
     const int slot = pool->Allocate(place.point);

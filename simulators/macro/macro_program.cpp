@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QSet>
+
 #include "core/numbers.h"
 
 namespace taviinputmanager {
@@ -10,7 +12,11 @@ using tavikeymapmanager::MacroVerb;
 
 MacroProgram::MacroProgram(const QStringList& commands) : commands_(commands) {
   lines_.reserve(static_cast<std::size_t>(commands.size()));
-  for (const QString& text : commands) lines_.push_back({text, ParseMacroCommand(text)});
+  QSet<QString> points;  // equal ones share a text, and are told to be equal at a glance
+  for (const QString& text : commands) {
+    lines_.push_back({text, ParseMacroCommand(text)});
+    if (auto& command = lines_.back().command) command->points.text = *points.insert(command->points.text);
+  }
 }
 
 bool MacroProgram::HasLoopUntilRelease() const {

@@ -3,6 +3,7 @@
 #include "core/input_status_manager.h"
 #include "keymap/observe_config_item.h"
 #include "keymap/spell_cancel_config_item.h"
+#include "keymap/staring_config_item.h"
 #include "simulators/cast/spell_event_simulator.h"
 #include "simulators/view/fire_sync_worker.h"
 #include "simulators/view/observe_sync_worker.h"
@@ -24,10 +25,7 @@ bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == Inpu
 
 }  // namespace
 
-StaringAndFireEventSimulator* StaringAndFireEventSimulator::GetInstance() {
-  static StaringAndFireEventSimulator instance;
-  return &instance;
-}
+StaringAndFireEventSimulator::StaringAndFireEventSimulator() = default;
 
 void StaringAndFireEventSimulator::ConnectWorkers() {
   FireSyncWorker* fire = FireSyncWorker::GetInstance();
@@ -87,7 +85,7 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
     status->SetStatus(InputStatus::StaringOff, key_text);
   } else {
     const auto* staring = dynamic_cast<const StaringConfigItem*>(item);
-    staring_item_ = staring ? std::make_optional(*staring) : std::nullopt;
+    staring_item_ = staring ? std::make_shared<const StaringConfigItem>(*staring) : nullptr;
     status->SetStatus(InputStatus::Staring, key_text);
     if (IsStaring()) StaringWmRelativeInputWorker::GetInstance()->StartStaring(staring);
     if (!IsStaring()) StopAutoReset();  // the host turned it off from inside
@@ -124,8 +122,8 @@ void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {
     case RelativeRoute::kStaring: break;
   }
   if (!staring_item_) return;
-  const StaringConfigItem item = *staring_item_;  // view control may end from inside a send
-  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(&item, dx, dy);
+  const auto item = staring_item_;  // view control may end from inside a send
+  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(item.get(), dx, dy);
 }
 
 void StaringAndFireEventSimulator::StopAutoReset() { StaringWmRelativeInputWorker::GetInstance()->StopAutoReset(); }

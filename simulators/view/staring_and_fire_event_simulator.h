@@ -2,15 +2,15 @@
 #ifndef SIMULATORS_VIEW_STARING_AND_FIRE_EVENT_SIMULATOR_H_
 #define SIMULATORS_VIEW_STARING_AND_FIRE_EVENT_SIMULATOR_H_
 
+#include <memory>
 #include <mutex>
-#include <optional>
 
-#include "keymap/staring_config_item.h"
 #include "simulators/event_simulator.h"
 
 namespace tavikeymapmanager {
 struct SpellCancelConfigItem;
-}
+struct StaringConfigItem;
+}  // namespace tavikeymapmanager
 
 namespace taviinputmanager {
 
@@ -23,7 +23,10 @@ class StaringAndFireEventSimulator : public EventSimulator {
   Q_OBJECT
 
  public:
-  static StaringAndFireEventSimulator* GetInstance();
+  static StaringAndFireEventSimulator* GetInstance() {
+    static StaringAndFireEventSimulator instance;
+    return &instance;
+  }
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
@@ -40,15 +43,16 @@ class StaringAndFireEventSimulator : public EventSimulator {
   // Whom the relative counts belong to.
   enum class RelativeRoute { kFire = 1, kStaring = 2, kObserve = 3 };
 
-  StaringAndFireEventSimulator() = default;
+  StaringAndFireEventSimulator();
 
   void ConnectWorkers();
   void ToggleStaring(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void PressObserve(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void LiftViewFinger();
 
-  std::once_flag connected_;                                          // the workers' signals, at the first press
-  std::optional<tavikeymapmanager::StaringConfigItem> staring_item_;  // from the key that turned view control on
+  std::once_flag connected_;  // the workers' signals, at the first press
+  // From the key that turned view control on. Never changes once made: whoever sends keeps it with no copy of its own.
+  std::shared_ptr<const tavikeymapmanager::StaringConfigItem> staring_item_;
   bool has_observe_item_ = false;  // observing was entered from outside view control, since that was last left
   RelativeRoute relative_route_ = RelativeRoute::kStaring;
 };

@@ -8,11 +8,12 @@
 
 #include "core/display_geometry.h"
 #include "core/numbers.h"
-#include "keymap/keywords.h"
+#include "keymap/config_key.h"
 #include "slots/position_slot_manager.h"
 
 namespace taviinputmanager {
 
+using tavikeymapmanager::IsSameText;
 namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
@@ -52,16 +53,16 @@ void StaringRange::Prepare(const QPointF& centre, const QSizeF& size) {
 }
 
 const StaringRange::Bounds& StaringRange::BoundsOf(const QString& range_mode) const {
-  if (range_mode == keywords::kRangeUser) return user_range_in_window_;
-  if (range_mode == keywords::kRangeUserAllowOutside) return user_range_;
-  if (range_mode == keywords::kRangePadded) return padded_range_;
+  if (IsSameText(range_mode, keywords::kRangeUser)) return user_range_in_window_;
+  if (IsSameText(range_mode, keywords::kRangeUserAllowOutside)) return user_range_;
+  if (IsSameText(range_mode, keywords::kRangePadded)) return padded_range_;
   return window_range_;
 }
 
 void StaringRange::Apply(PositionSlotManager* finger, bool auto_reset, const QString& range_mode) const {
   if (!auto_reset) {
     finger->position = user_range_.Nearest(finger->position);
-  } else if (range_mode != keywords::kRangeInfinite && !BoundsOf(range_mode).Contains(finger->position)) {
+  } else if (!IsSameText(range_mode, keywords::kRangeInfinite) && !BoundsOf(range_mode).Contains(finger->position)) {
     finger->Reset();
   }
 }

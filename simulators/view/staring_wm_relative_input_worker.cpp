@@ -21,11 +21,6 @@ double EffectiveSensitivity(double base, double factor, double present) {
 
 }  // namespace
 
-StaringWmRelativeInputWorker* StaringWmRelativeInputWorker::GetInstance() {
-  static StaringWmRelativeInputWorker instance;
-  return &instance;
-}
-
 StaringWmRelativeInputWorker::StaringWmRelativeInputWorker() : last_send_ms_(Clock::NowMs()) {
   auto_reset_timer_.setTimerType(Qt::PreciseTimer);
   connect(&auto_reset_timer_, &QTimer::timeout, this, &StaringWmRelativeInputWorker::OnPerioidAutoResetTimerOutOfTime);

@@ -28,7 +28,10 @@ class StaringWmRelativeInputWorker : public EventHandler {
   Q_OBJECT
 
  public:
-  static StaringWmRelativeInputWorker* GetInstance();
+  static StaringWmRelativeInputWorker* GetInstance() {
+    static StaringWmRelativeInputWorker instance;
+    return &instance;
+  }
 
   // View control begins: lays out the range and takes the sensitivities of `item`; a period of its own lifts the finger
   // from then on, if the item has one. Puts nothing down. Nothing for null.

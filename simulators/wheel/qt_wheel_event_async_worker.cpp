@@ -30,11 +30,6 @@ int StepOfNotch(const KeymapConfig* config) {
 
 }  // namespace
 
-QtWheelEventAsyncWorker* QtWheelEventAsyncWorker::GetInstance() {
-  static QtWheelEventAsyncWorker instance;
-  return &instance;
-}
-
 QtWheelEventAsyncWorker::QtWheelEventAsyncWorker() : timer_(new QTimer(this)) {
   timer_->setTimerType(Qt::PreciseTimer);
   connect(timer_, &QTimer::timeout, this, &QtWheelEventAsyncWorker::TimerOutTime);

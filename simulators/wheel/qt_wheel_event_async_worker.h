@@ -22,7 +22,10 @@ class QtWheelEventAsyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
-  static QtWheelEventAsyncWorker* GetInstance();
+  static QtWheelEventAsyncWorker* GetInstance() {
+    static QtWheelEventAsyncWorker instance;
+    return &instance;
+  }
 
   // `config` may be null.
   virtual void OnWheel(QWheelEvent* event, tavikeymapmanager::KeymapConfig* config);

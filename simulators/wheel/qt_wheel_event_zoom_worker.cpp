@@ -40,11 +40,6 @@ bool IsOnDisplay(const guest_command::Contact& contact) { return contact.x != kN
 
 }  // namespace
 
-QtWheelEventZoomWorker* QtWheelEventZoomWorker::GetInstance() {
-  static QtWheelEventZoomWorker instance;
-  return &instance;
-}
-
 QtWheelEventZoomWorker::QtWheelEventZoomWorker() : timer_(new QTimer(this)) {
   timer_->setTimerType(Qt::PreciseTimer);
   connect(timer_, &QTimer::timeout, this, &QtWheelEventZoomWorker::TimerOutTime);

@@ -25,7 +25,10 @@ class QtWheelEventZoomWorker : public EventHandler {
   Q_OBJECT
 
  public:
-  static QtWheelEventZoomWorker* GetInstance();
+  static QtWheelEventZoomWorker* GetInstance() {
+    static QtWheelEventZoomWorker instance;
+    return &instance;
+  }
 
   // `config` may be null.
   virtual void OnWheel(QWheelEvent* event, tavikeymapmanager::KeymapConfig* config);

@@ -5,6 +5,7 @@
 
 #include <QRect>
 
+#include "core/guest_command.h"
 #include "record/record_action.h"
 #include "tests/support/story.h"
 
@@ -110,6 +111,54 @@ TEST(CommandTranslation, EveryEventLine) {
       {"nothing at all", "", "nothing"},
   };
   for (const auto& row : rows) EXPECT_EQ(row.action, Event(row.command)) << row.name;
+}
+
+// Of a line as guest_command puts it together, and of the text of it.
+void ExpectSameAction(const LineBuffer& line) {
+  RecordAction action;
+  const bool is_translated = TranslateEventLine(line.WithoutEnd(), &action);
+  EXPECT_EQ(Event(line.ToString().chopped(1)), Action(is_translated, action)) << line.toStdString();
+}
+
+TEST(CommandTranslation, ALineAndItsTextAreTheSameAction) {
+  namespace gc = guest_command;
+  for (const int number : {0, 1, -1, 7, 25, 26, 640, 1000000, 2147483647, -2147483647 - 1}) {
+    for (const LineBuffer& line :
+         {gc::SlotPress(number, 640, number), gc::SlotPress(2, number, 360), gc::SlotRelease(number),
+          gc::SlotMultiPress({{number, 320, 180}, {19, number, 540}}), gc::SlotMultiRelease({number, 19}),
+          gc::KeyPress(number), gc::KeyRelease(number), gc::MouseMove(number, 180), gc::Wheel(1, 2, number, -36),
+          gc::WheelWithDelta(number, 2, 0.5), gc::LeftStickAxis(number, 2), gc::RightStickAxis(1, number),
+          gc::LeftTriggerAxis(number), gc::RightTriggerAxis(number), gc::GamepadButton(number, 1), gc::HatX(number),
+          gc::HatY(number), gc::TouchpadLightTouch(number, 2)}) {
+      ExpectSameAction(line);
+    }
+  }
+  // Numbers that are no ints are 0 to a record, but for those that look like one.
+  for (const double number : {0.0, -0.0, 0.5, -1.5, 640.0, 123456.0, 1234567.0, 1e-7, 1e300}) {
+    const QPointF place(number, 360);
+    for (const LineBuffer& line : {gc::SlotPress(2, place), gc::MouseMove(place), gc::Wheel(place)}) {
+      ExpectSameAction(line);
+    }
+  }
+  for (const LineBuffer& line : {gc::SlotReleaseAll(), gc::SlotMultiPress({}), gc::SlotMultiRelease({}),
+                                 gc::TouchpadPress(), gc::TouchpadRelease()}) {
+    ExpectSameAction(line);
+  }
+}
+
+// Texts are shared, and so must tell what they are shared by: the word, either number, and their order.
+TEST(CommandTranslation, AShareOfATextIsTheSameText) {
+  EXPECT_EQ("touch|press_rel:(0.5,0.25)|2|", Event("SLOTPRESS:2:2:1:1:640:180"));
+  EXPECT_EQ("mouse|move:(0.5,0.25)||", Event("MOUSEMOVE_REL:640:180"));
+  EXPECT_EQ("mouse|wheel:(0.5,0.25)||", Event("WHEEL:1:2:640:180"));
+  for (int x = 0; x <= 1280; x += 40) {
+    for (int y = 0; y <= 720; y += 45) {
+      const QString point = QStringLiteral("(%1,%2)").arg(x / 1280.0).arg(y / 720.0);
+      EXPECT_EQ("mouse|move:" + point.toStdString() + "||", Event(QStringLiteral("MOUSEMOVE_REL:%1:%2").arg(x).arg(y)));
+      EXPECT_EQ("touch|press_rel:" + point.toStdString() + "|2|",
+                Event(QStringLiteral("SLOTPRESS:2:2:1:1:%1:%2").arg(x).arg(y)));
+    }
+  }
 }
 
 TEST(CommandTranslation, EveryTextLine) {

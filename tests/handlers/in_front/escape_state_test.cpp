@@ -1,4 +1,5 @@
 // A host with a matching function of its own in front of the keymap library's: the state of Escape goes by it.
+#include "handlers/key_match_origin.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/support/story.h"
 
@@ -43,6 +44,8 @@ class EscapeByTheHost : public Story {
   }
   static std::string Asked() { return std::exchange(asked, {}).join(", ").toStdString(); }
 };
+
+TEST_F(EscapeByTheHost, IsToldFromTheLibrarys) { EXPECT_FALSE(IsKeyMatchOwn()); }
 
 // B has the scan code 48.
 TEST_F(EscapeByTheHost, IsAskedAboutTheArmedKeyBothWays) {

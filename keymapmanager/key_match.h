@@ -1,0 +1,15 @@
+// Which keys a keymap takes.
+#ifndef KEYMAPMANAGER_KEY_MATCH_H_
+#define KEYMAPMANAGER_KEY_MATCH_H_
+
+namespace tavikeymapmanager {
+
+struct ConfigKey;
+struct KeymapConfig;
+
+// What isConfigKeyMatch does.
+bool IsKeyMatch(const KeymapConfig* config, const ConfigKey* configured, const ConfigKey* pressed);
+
+}  // namespace tavikeymapmanager
+
+#endif  // KEYMAPMANAGER_KEY_MATCH_H_
