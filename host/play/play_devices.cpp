@@ -114,11 +114,9 @@ void PlayDevices::Read(const QString& path) {
   const auto found = devices_.find(path);
   if (found == devices_.end()) return;
   Device* device = &found->second;
-  std::vector<InputFrame> frames;
-  const bool is_there = device->device->Read(&frames);
-  for (const InputFrame& frame : frames) {
+  const bool is_there = device->device->Read([this, device](const InputFrame& frame) {
     Q_EMIT FrameRead(device->id, frame, device->grab->GetState() == DeviceGrab::State::kHeld);
-  }
+  });
   if (!is_there) return Remove(path);
   if (is_grab_wanted_) UpdateGrab(device);
 }
