@@ -65,7 +65,8 @@ PlaySession::PlaySession(DeviceSource* source, GuestOutlet* outlet, const PlaySe
       devices_(source, settings.devices) {
   feeder_.SetSpeed(settings.speed);
   ReserveKeys();
-  connect(&devices_, &PlayDevices::FrameRead, this, &PlaySession::TakeFrame);
+  devices_.SetTaker(
+      [this](int device, const InputFrame& frame, bool is_grabbed) { TakeFrame(device, frame, is_grabbed); });
   connect(&devices_, &PlayDevices::Gone, this, &PlaySession::TakeGone);
   connect(&devices_, &PlayDevices::Told, this, &PlaySession::Told);
   connect(&devices_, &PlayDevices::Changed, this, &PlaySession::TellState);
