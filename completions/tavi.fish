@@ -51,7 +51,7 @@ complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subco
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l paused -d 'begin with the mapping off'
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l keymaps -x -d 'keymaps of apps, told apart by their field "package"; without KEYMAP, that of the app that was played last'
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l name -x -d 'the name that --control finds it by, a word of letters, digits, - and _ (play)'
-complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l control -x -d 'ask the one that plays for something: keymap FILE, app NAME, reset, rotation DEG, size WxH, pause, resume, record FILE, replay FILE, stop, state, quit'
+complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l control -x -d 'ask the one that plays for something: keymap FILE, app NAME, reset, rotation DEG, size WxH, text on|off, pause, resume, record FILE, replay FILE, stop, state, quit'
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l list -d 'what devices there are, which would be taken, and why not the others'
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -l help -d 'tells about the command'
 complete -c tavi -n '__fish_seen_subcommand_from play; and not __fish_seen_subcommand_from record help' -k -x -a '(__fish_complete_suffix .yaml; __fish_complete_suffix .yml;)' -d 'file'

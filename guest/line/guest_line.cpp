@@ -53,16 +53,6 @@ const LineForm* FindForm(std::string_view name) {
   return nullptr;
 }
 
-std::vector<std::string_view> SplitFields(std::string_view rest) {
-  std::vector<std::string_view> fields;
-  for (size_t colon = rest.find(':'); colon != std::string_view::npos; colon = rest.find(':')) {
-    fields.push_back(rest.substr(0, colon));
-    rest.remove_prefix(colon + 1);
-  }
-  fields.push_back(rest);
-  return fields;
-}
-
 bool ReadField(std::string_view field, char kind, std::vector<double>* numbers) {
   const std::optional<double> number = kind == 'd' ? ReadNumber(field) : std::optional<double>(ReadWholeNumber(field));
   if (!number) return false;
@@ -71,16 +61,19 @@ bool ReadField(std::string_view field, char kind, std::vector<double>* numbers) 
   return !is_constant || *number == kind - '0';
 }
 
-bool ReadFields(const std::vector<std::string_view>& fields, std::string_view kinds, std::vector<double>* numbers) {
-  const bool is_repeated = !kinds.empty() && kinds.back() == '+';
+// `kinds` is not empty.
+bool ReadFields(std::string_view rest, std::string_view kinds, std::vector<double>* numbers) {
+  const bool is_repeated = kinds.back() == '+';
   if (is_repeated) kinds.remove_suffix(1);
-  if (kinds.empty()) return fields.empty();
-  if (fields.empty() || fields.size() % kinds.size() != 0) return false;
-  if (!is_repeated && fields.size() != kinds.size()) return false;
-  for (size_t i = 0; i < fields.size(); ++i) {
-    if (!ReadField(fields[i], kinds[i % kinds.size()], numbers)) return false;
+  numbers->reserve(kinds.size());
+  for (bool is_more = true; is_more;) {
+    if (numbers->size() == kinds.size() && !is_repeated) return false;
+    const size_t colon = rest.find(':');
+    if (!ReadField(rest.substr(0, colon), kinds[numbers->size() % kinds.size()], numbers)) return false;
+    is_more = colon != std::string_view::npos;
+    if (is_more) rest.remove_prefix(colon + 1);
   }
-  return true;
+  return numbers->size() % kinds.size() == 0;
 }
 
 }  // namespace
@@ -100,8 +93,8 @@ GuestLine ParseGuestLine(std::string_view line) {
     if (!has_fields) return {};
     result.text = rest;
   } else {
-    const std::vector<std::string_view> fields = has_fields ? SplitFields(rest) : std::vector<std::string_view>();
-    if (!ReadFields(fields, form->fields, &result.numbers)) return {};
+    if (has_fields == form->fields.empty()) return {};
+    if (has_fields && !ReadFields(rest, form->fields, &result.numbers)) return {};
   }
   result.kind = form->kind;
   return result;

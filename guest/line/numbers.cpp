@@ -14,6 +14,7 @@ namespace {
 
 constexpr char32_t kMinusSign = 0x2212;
 constexpr int kHighestExponent = 1'000'000;  // beyond any double, and far from what an int holds
+constexpr size_t kMostPlainDigits = 9;       // which an int holds, whatever they are
 
 bool IsBlank(char32_t character) {
   switch (character) {
@@ -70,6 +71,15 @@ bool TakeSign(std::string_view* text) {
   return false;
 }
 
+// What nearly every field is: a few digits and nothing else. It is on the way of each touch, so that the frame is not
+// looked for.
+std::optional<int> PlainNumber(std::string_view text) {
+  if (text.empty() || text.size() > kMostPlainDigits || !std::all_of(text.begin(), text.end(), IsDigit)) return {};
+  int number = 0;
+  for (const char digit : text) number = number * 10 + (digit - '0');
+  return number;
+}
+
 std::string TakeDigits(std::string_view* text) {
   size_t count = 0;
   while (count < text->size() && IsDigit((*text)[count])) ++count;
@@ -92,6 +102,7 @@ std::optional<int> TakeExponent(std::string_view* text) {
 }  // namespace
 
 std::optional<int> ReadWholeNumber(std::string_view text) {
+  if (const std::optional<int> plain = PlainNumber(text)) return plain;
   text = Trimmed(text);
   const std::string sign = TakeSign(&text) ? "-" : "";
   const std::string plain = sign + TakeDigits(&text);
@@ -103,6 +114,7 @@ std::optional<int> ReadWholeNumber(std::string_view text) {
 }
 
 std::optional<double> ReadNumber(std::string_view text) {
+  if (const std::optional<int> plain = PlainNumber(text)) return *plain;
   text = Trimmed(text);
   const bool is_negative = TakeSign(&text);
   const std::string whole = TakeDigits(&text);

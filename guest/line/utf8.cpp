@@ -27,6 +27,13 @@ constexpr int kBitsOfFollower = 6;
 
 bool IsFollower(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
+// How many bytes in front are characters by themselves. Event lines are nothing else.
+size_t PlainBytes(std::string_view text) {
+  size_t count = 0;
+  while (count < text.size() && (static_cast<unsigned char>(text[count]) & 0x80U) == 0) ++count;
+  return count;
+}
+
 bool IsCharacter(char32_t code) { return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF); }
 
 Utf8Character Decode(std::string_view text, const Form& form) {
@@ -51,7 +58,9 @@ Utf8Character FirstCharacter(std::string_view text) {
 
 std::string ValidUtf8(std::string_view text) {
   if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
-  std::string valid;
+  const size_t plain = PlainBytes(text);
+  std::string valid(text.substr(0, plain));
+  text.remove_prefix(plain);
   while (!text.empty()) {
     const Utf8Character character = FirstCharacter(text);
     valid += character.code == kReplacement ? kReplacementBytes : text.substr(0, character.bytes);

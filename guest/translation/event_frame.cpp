@@ -1,6 +1,7 @@
 #include "guest/translation/event_frame.h"
 
 #include <linux/input.h>
+#include <utility>
 
 namespace taviguest {
 
@@ -10,11 +11,9 @@ EventFrame& EventFrame::Turn(int code, int steps) { return steps != 0 ? Add(EV_R
 
 EventFrame& EventFrame::Key(int code, bool down) { return Add(EV_KEY, code, down ? 1 : 0); }
 
-KernelEvents EventFrame::Close() const {
-  if (events_.empty()) return {};
-  KernelEvents closed = events_;
-  closed.push_back({device_, EV_SYN, SYN_REPORT, 0});
-  return closed;
+KernelEvents EventFrame::Close() {
+  if (!events_.empty()) Add(EV_SYN, SYN_REPORT, 0);
+  return std::exchange(events_, {});
 }
 
 EventFrame& EventFrame::Add(int type, int code, int value) {

@@ -8,16 +8,18 @@ namespace taviguest {
 
 class EventFrame {
  public:
-  explicit EventFrame(KernelDevice device) : device_(device) {}
+  explicit EventFrame(KernelDevice device) : device_(device) { events_.reserve(kUsualEvents); }
 
   EventFrame& Axis(int code, int value);
   EventFrame& Turn(int code, int steps);  // a relative axis; no steps are no event
   EventFrame& Key(int code, bool down);
 
-  // With the report that ends a frame; nothing for a frame in which nothing happened.
-  KernelEvents Close() const;
+  // With the report that ends a frame; nothing for a frame in which nothing happened. The next frame begins.
+  KernelEvents Close();
 
  private:
+  static constexpr size_t kUsualEvents = 8;  // a finger's, the touch's and the report
+
   EventFrame& Add(int type, int code, int value);
 
   const KernelDevice device_;

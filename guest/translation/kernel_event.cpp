@@ -5,7 +5,10 @@
 
 namespace taviguest {
 
-void Append(const KernelEvents& more, KernelEvents* events) { events->insert(events->end(), more.begin(), more.end()); }
+void Append(KernelEvents more, KernelEvents* events) {
+  if (events->empty()) return events->swap(more);
+  events->insert(events->end(), more.begin(), more.end());
+}
 
 std::string KernelEventText(const KernelEvent& event) {
   return std::string(WordOfDevice(event.device)) + ' ' + EventTypeText(event.type) + ' ' +

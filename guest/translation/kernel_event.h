@@ -24,7 +24,7 @@ struct KernelEvent {
 // In order of writing. The events of one moment end in a SYN_REPORT of their device.
 using KernelEvents = std::vector<KernelEvent>;
 
-void Append(const KernelEvents& more, KernelEvents* events);
+void Append(KernelEvents more, KernelEvents* events);
 
 // "screen EV_ABS ABS_MT_SLOT 11". A code that the kernel has no name for stands as its number.
 std::string KernelEventText(const KernelEvent& event);

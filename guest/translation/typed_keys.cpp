@@ -49,11 +49,15 @@ std::optional<TypedKey> KeyThatTypes(char32_t character) {
   return TypedKey{KeyInLayout(character + kLetterOfControl)->code, KEY_LEFTCTRL};
 }
 
-bool IsCharacterKey(int code) {
+bool IsCharacterKey(int code) { return CharacterOfKey(code, false) != 0; }
+
+char CharacterOfKey(int code, bool is_shifted) {
   for (const LayoutKey& key : kLayout) {
-    if (key.code == code) return key.plain >= ' ' && key.plain <= '~';
+    if (key.code != code) continue;
+    if (key.plain < ' ' || key.plain > '~') return 0;
+    return is_shifted && key.shifted != 0 ? key.shifted : key.plain;
   }
-  return false;
+  return 0;
 }
 
 }  // namespace taviguest

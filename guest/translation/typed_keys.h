@@ -18,6 +18,9 @@ std::optional<TypedKey> KeyThatTypes(char32_t character);
 // Whether the key puts a character of its own into a text: letters, digits, signs and the blank.
 bool IsCharacterKey(int code);
 
+// That character, or the one with Shift; 0: the key has none.
+char CharacterOfKey(int code, bool is_shifted);
+
 }  // namespace taviguest
 
 #endif  // GUEST_TRANSLATION_TYPED_KEYS_H_

@@ -14,7 +14,7 @@ namespace {
 
 using Verb = ControlWords::Verb;
 
-enum class Argument { kNone, kFile, kName, kRotation, kSize };
+enum class Argument { kNone, kFile, kName, kRotation, kSize, kSwitch };
 
 struct VerbRow {
   const char* word;
@@ -29,6 +29,7 @@ constexpr VerbRow kVerbs[] = {
     {"reset", Verb::kReset, Argument::kNone, ""},
     {"rotation", Verb::kRotation, Argument::kRotation, "0, 90, 180 or 270"},
     {"size", Verb::kSize, Argument::kSize, "a size such as 1280x720"},
+    {"text", Verb::kText, Argument::kSwitch, "on or off"},
     {"pause", Verb::kPause, Argument::kNone, ""},
     {"resume", Verb::kResume, Argument::kNone, ""},
     {"record", Verb::kRecord, Argument::kFile, "a file"},
@@ -85,6 +86,11 @@ bool TakeSize(const QString& text, QSize* size) {
          TakeSide(match.captured(2), &size->rheight());
 }
 
+bool TakeSwitch(const QString& text, bool* is_on) {
+  *is_on = text == QLatin1String("on");
+  return *is_on || text == QLatin1String("off");
+}
+
 bool TakeArgument(Argument argument, ControlWords* words) {
   switch (argument) {
     case Argument::kNone: return words->text.isEmpty();
@@ -92,6 +98,7 @@ bool TakeArgument(Argument argument, ControlWords* words) {
     case Argument::kName: return !words->text.isEmpty();
     case Argument::kRotation: return TakeRotation(words->text, &words->rotation);
     case Argument::kSize: return TakeSize(words->text, &words->size);
+    case Argument::kSwitch: return TakeSwitch(words->text, &words->is_on);
   }
   return false;
 }

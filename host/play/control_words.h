@@ -14,6 +14,7 @@ struct ControlWords {
     kReset,     // reset
     kRotation,  // rotation N
     kSize,      // size WxH
+    kText,      // text on|off
     kPause,     // pause
     kResume,    // resume
     kRecord,    // record FILE
@@ -27,6 +28,7 @@ struct ControlWords {
   QString text;      // the file's or app's name
   int rotation = 0;  // degrees
   QSize size;
+  bool is_on = false;
   QString problem;  // what is wrong with the line, for people; empty when nothing is
 };
 

@@ -8,6 +8,7 @@
 #include <linux/input.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QFile>
 
@@ -70,7 +71,7 @@ EvdevDevice::~EvdevDevice() {
   ::close(file_);
 }
 
-bool EvdevDevice::Read(std::vector<InputFrame>* frames) {
+bool EvdevDevice::Read(const FrameTaker& take) {
   unsigned flag = LIBEVDEV_READ_FLAG_NORMAL;
   for (;;) {
     input_event event{};
@@ -84,8 +85,7 @@ bool EvdevDevice::Read(std::vector<InputFrame>* frames) {
     if (event.type != EV_SYN) {
       frame_.push_back({event.type, event.code, event.value});
     } else if (event.code == SYN_REPORT && !frame_.empty()) {
-      frames->push_back(std::move(frame_));
-      frame_.clear();
+      take(std::exchange(frame_, {}));
     }
   }
 }

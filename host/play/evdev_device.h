@@ -21,7 +21,7 @@ class EvdevDevice : public PhysicalDevice {
   const DeviceTraits& Traits() const override { return traits_; }
   int File() const override { return file_; }
   // Where the kernel had no room for all, what is down now is told in place of what was lost.
-  bool Read(std::vector<InputFrame>* frames) override;
+  bool Read(const FrameTaker& take) override;
   bool IsAnyKeyDown() const override;
   QString Grab() override;
   void Ungrab() override;

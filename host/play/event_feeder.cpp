@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include "guest/translation/typed_keys.h"
 #include "host/session/input_port.h"
 #include "host/session/live_host.h"
 #include "host/session/reserved_keys.h"
@@ -134,7 +135,7 @@ void EventFeeder::SendKey(int code, bool is_down) {
   const NativeKey& native = NativeOf(code);
   if (native.scancode == 0) return;  // no keymap can name it
   QKeyEvent event(is_down ? QEvent::KeyPress : QEvent::KeyRelease, 0, Modifiers(), native.scancode, native.virtual_key,
-                  0);
+                  0, TextOf(code));
   InputPort::GetInstance()->Send(&event);
 }
 
@@ -187,6 +188,16 @@ void EventFeeder::LetGo() {
 QPointF EventFeeder::Pointer() const {
   const QSize size = LiveHost::GetInstance()->ViewSize();
   return {qMin(place_.x() * size.width(), size.width() - 1.0), qMin(place_.y() * size.height(), size.height() - 1.0)};
+}
+
+// By the US layout, which is the guest's own: there is no window system that would know another. A key is no text while
+// others make it a command.
+QString EventFeeder::TextOf(int code) const {
+  if (!LiveHost::GetInstance()->HasTextField()) return {};
+  const Qt::KeyboardModifiers modifiers = Modifiers();
+  if ((modifiers & ~Qt::ShiftModifier) != 0) return {};
+  const char character = taviguest::CharacterOfKey(code, modifiers.testFlag(Qt::ShiftModifier));
+  return character == 0 ? QString() : QString(QLatin1Char(character));
 }
 
 Qt::KeyboardModifiers EventFeeder::Modifiers() const {

@@ -64,6 +64,8 @@ class EventFeeder : public QObject {
   void Move(const Motion& motion);
   void Turn(int parts);
 
+  // What the key types into the guest's text field, while that has the focus.
+  QString TextOf(int code) const;
   Qt::KeyboardModifiers Modifiers() const;
   Qt::MouseButtons Buttons() const;
   const NativeKey& NativeOf(int code);

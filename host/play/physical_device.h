@@ -5,7 +5,6 @@
 
 #include <functional>
 #include <memory>
-#include <vector>
 
 #include <QString>
 #include <QStringList>
@@ -14,6 +13,8 @@
 #include "host/play/input_frame.h"
 
 namespace tavi {
+
+using FrameTaker = std::function<void(const InputFrame& frame)>;
 
 // Main thread.
 class PhysicalDevice {
@@ -24,8 +25,8 @@ class PhysicalDevice {
   // Becomes readable when there is something to read; -1: never.
   virtual int File() const = 0;
 
-  // Appends what came since the last time. False when the device is gone.
-  virtual bool Read(std::vector<InputFrame>* frames) = 0;
+  // Hands over what came since the last time, each frame as soon as it is whole. False when the device is gone.
+  virtual bool Read(const FrameTaker& take) = 0;
 
   // Whether a key or button is down right now, as the kernel says.
   virtual bool IsAnyKeyDown() const = 0;

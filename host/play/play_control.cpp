@@ -38,6 +38,7 @@ QString PlayControl::DoWords(const ControlWords& words) {
     case Verb::kReset: session_->Reset(); return {};
     case Verb::kRotation: session_->SetRotation(words.rotation); return {};
     case Verb::kSize: return session_->SetSize(words.size);
+    case Verb::kText: session_->SetTextField(words.is_on); return {};
     case Verb::kPause: session_->SetPaused(true); return {};
     case Verb::kResume: session_->SetPaused(false); return {};
     case Verb::kRecord: return records_.Record(words.text, app_);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <QSocketNotifier>
+#include "host/play/device_notifier.h"
 
 namespace tavi {
 
@@ -99,8 +99,7 @@ void PlayDevices::Take(std::unique_ptr<PhysicalDevice> device) {
   Device entry{next_id_++, std::move(device), nullptr, nullptr};
   entry.grab = std::make_unique<DeviceGrab>(entry.device.get());
   if (entry.device->File() >= 0) {
-    entry.notifier = std::make_unique<QSocketNotifier>(entry.device->File(), QSocketNotifier::Read);
-    connect(entry.notifier.get(), &QSocketNotifier::activated, this, [this, path = traits.path] { Read(path); });
+    entry.notifier = std::make_unique<DeviceNotifier>(this, entry.device->File(), traits.path);
   }
   Device* taken = &devices_.emplace(traits.path, std::move(entry)).first->second;
   Q_EMIT Told(QStringLiteral("%1 %2").arg(WordOf(KindOf(traits)), Quoted(traits)));
@@ -114,11 +113,9 @@ void PlayDevices::Read(const QString& path) {
   const auto found = devices_.find(path);
   if (found == devices_.end()) return;
   Device* device = &found->second;
-  std::vector<InputFrame> frames;
-  const bool is_there = device->device->Read(&frames);
-  for (const InputFrame& frame : frames) {
-    Q_EMIT FrameRead(device->id, frame, device->grab->GetState() == DeviceGrab::State::kHeld);
-  }
+  const bool is_there = device->device->Read([this, device](const InputFrame& frame) {
+    if (taker_) taker_(device->id, frame, device->grab->GetState() == DeviceGrab::State::kHeld);
+  });
   if (!is_there) return Remove(path);
   if (is_grab_wanted_) UpdateGrab(device);
 }

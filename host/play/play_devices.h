@@ -1,8 +1,10 @@
 #ifndef HOST_PLAY_PLAY_DEVICES_H_
 #define HOST_PLAY_PLAY_DEVICES_H_
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <QObject>
@@ -13,9 +15,9 @@
 #include "host/play/device_grab.h"
 #include "host/play/physical_device.h"
 
-class QSocketNotifier;
-
 namespace tavi {
+
+class DeviceNotifier;
 
 // The keyboards and mice that are played with: those that are there, and those that come and go meanwhile. They are
 // read all the time, so that the keys that the player needs in any case are heard; they are grabbed while that is
@@ -40,6 +42,11 @@ class PlayDevices : public QObject {
   // All devices of a source, and whether each would be taken. Nothing is kept.
   static std::vector<Listed> List(DeviceSource* source, const QStringList& wanted);
 
+  // Gets what a device reports, which is faster than a signal. `device` is its own for as long as the program runs;
+  // while it is not grabbed, others hear the same. To be set before Start.
+  using Taker = std::function<void(int device, const InputFrame& frame, bool is_grabbed)>;
+  void SetTaker(Taker taker) { taker_ = std::move(taker); }
+
   // Opens what is there, and follows what comes and goes from here on.
   void Start();
   void SetGrabWanted(bool wanted);
@@ -52,9 +59,6 @@ class PlayDevices : public QObject {
   int CountOf(DeviceGrab::State state) const;
 
  Q_SIGNALS:
-  // A device reported something. `device` is its own for as long as the program runs; while it is not grabbed, others
-  // hear the same.
-  void FrameRead(int device, const tavi::InputFrame& frame, bool is_grabbed);
   // It is gone, with whatever was down on it.
   void Gone(int device);
   // A device came or went, or a grab changed.
@@ -66,7 +70,7 @@ class PlayDevices : public QObject {
   struct Device {
     int id;
     std::unique_ptr<PhysicalDevice> device;
-    std::unique_ptr<QSocketNotifier> notifier;
+    std::unique_ptr<DeviceNotifier> notifier;
     std::unique_ptr<DeviceGrab> grab;
     bool is_refusal_told = false;
   };
@@ -82,6 +86,7 @@ class PlayDevices : public QObject {
 
   DeviceSource* const source_;
   const QStringList wanted_;
+  Taker taker_;
   bool is_grab_wanted_ = false;
   int next_id_ = 1;
   std::map<QString, Device> devices_;  // by path

@@ -36,6 +36,8 @@ QString ViewText() {
   }
 }
 
+QString TypingText() { return LiveHost::GetInstance()->HasTextField() ? QStringLiteral("keys are typed") : QString(); }
+
 QString RecordText() {
   switch (Recorder::GetInstance()->Status()) {
     case RecordStatus::Recording: return QStringLiteral("recording");
@@ -63,7 +65,8 @@ PlaySession::PlaySession(DeviceSource* source, GuestOutlet* outlet, const PlaySe
       devices_(source, settings.devices) {
   feeder_.SetSpeed(settings.speed);
   ReserveKeys();
-  connect(&devices_, &PlayDevices::FrameRead, this, &PlaySession::TakeFrame);
+  devices_.SetTaker(
+      [this](int device, const InputFrame& frame, bool is_grabbed) { TakeFrame(device, frame, is_grabbed); });
   connect(&devices_, &PlayDevices::Gone, this, &PlaySession::TakeGone);
   connect(&devices_, &PlayDevices::Told, this, &PlaySession::Told);
   connect(&devices_, &PlayDevices::Changed, this, &PlaySession::TellState);
@@ -105,6 +108,7 @@ void PlaySession::StartLibrary() {
   host->SetRotation(settings_.rotation);
   host->SetLineSink([this](const char* data, int length) { outlet_->Send(data, length); });
   connect(host, &LiveHost::InputStatusChanged, this, &PlaySession::TellState);
+  connect(host, &LiveHost::TextFieldChanged, this, &PlaySession::TellState);
   connect(Recorder::GetInstance(), &Recorder::Changed, this, &PlaySession::TellState);
   connect(Replayer::GetInstance(), &Replayer::Changed, this, &PlaySession::TellState);
   host->Start([this](const QSize& /*view*/) { return Corner(); });
@@ -180,6 +184,11 @@ void PlaySession::SetRotation(int degrees) {
   TellState();
 }
 
+void PlaySession::SetTextField(bool focused) {
+  Reset();
+  LiveHost::GetInstance()->SetTextField(focused);
+}
+
 void PlaySession::SetPaused(bool paused) {
   mapping_.SetPaused(paused);
   pads_.SetListening(!paused);
@@ -239,7 +248,7 @@ QString PlaySession::State() const {
   const int rotation = LiveHost::GetInstance()->Geometry().rotation;
   QStringList parts{MappingText(), keymap, QStringLiteral("%1x%2").arg(size_.width()).arg(size_.height())};
   if (rotation != 0) parts += QStringLiteral("rotation %1").arg(rotation);
-  parts << DevicesText() << ViewText() << RecordText() << ReplayText() << outlet_->State();
+  parts << DevicesText() << ViewText() << TypingText() << RecordText() << ReplayText() << outlet_->State();
   parts.removeAll(QString());
   return parts.join(QStringLiteral(", "));
 }

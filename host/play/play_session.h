@@ -55,6 +55,8 @@ class PlaySession : public QObject {
   QString LoadJoystickKeymap(const QString& path);
   QString SetSize(const QSize& size);
   void SetRotation(int degrees);
+  // Whether a text field of the guest has the focus, so that keys are typed there. Lifts everything that is down.
+  void SetTextField(bool focused);
 
   void SetPaused(bool paused);
   // Lifts everything that is down, as a reset of the library does.

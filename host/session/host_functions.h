@@ -10,33 +10,55 @@
 
 namespace tavi {
 
-// The functions that tell. `Host` has GetInstance() and Add(source, text), and is called on whatever thread the library
-// tells on. A host's own functions derive from this, add the answers, and replace what it wants to do more about.
+// The functions that tell. `Host` has GetInstance(), Add(source, text) and IsHeard(), whether anybody gets what is
+// added, and is called on whatever thread the library tells on. Where nobody does, no words are made, which would be
+// the dearest part of an event's way. A host's own functions derive from this, add the answers, and replace what it
+// wants to do more about.
 template <typename Host>
 struct TellingFunctions {
   using Source = TimelineEntry::Source;
 
-  static void Say(const QString& text) { Host::GetInstance()->Add(Source::kCallback, text); }
+  // `words` makes the text.
+  template <typename Words>
+  static void Tell(Source source, const Words& words) {
+    if (Host::GetInstance()->IsHeard()) Host::GetInstance()->Add(source, words());
+  }
+  template <typename Words>
+  static void Say(const Words& words) {
+    Tell(Source::kCallback, words);
+  }
 
   static void SendEvent(const char* data, int length) {
-    Host::GetInstance()->Add(Source::kLine, QString::fromUtf8(data, length - 1));  // without the newline
+    Tell(Source::kLine, [&] { return QString::fromUtf8(data, length - 1); });  // without the newline
   }
   static void SendText(const char* data, int length) {
-    Host::GetInstance()->Add(Source::kText, QString::fromUtf8(data, length - 1));  // without the NUL
+    Tell(Source::kText, [&] { return QString::fromUtf8(data, length - 1); });  // without the NUL
   }
 
   static void OnInputStatusChanged(int status, const QString& key) {
-    Say(QStringLiteral("status %1 %2").arg(status).arg(key).trimmed());
+    Say([&] { return QStringLiteral("status %1 %2").arg(status).arg(key).trimmed(); });
   }
-  static void OnEscapeKeyOccupied(bool occupied) { Say(QStringLiteral("escape_occupied %1").arg(occupied)); }
-  static void OnMappedDeviceUsed(bool keyboard_or_mouse) { Say(QStringLiteral("mapped %1").arg(keyboard_or_mouse)); }
+  static void OnEscapeKeyOccupied(bool occupied) {
+    Say([&] { return QStringLiteral("escape_occupied %1").arg(occupied); });
+  }
+  static void OnMappedDeviceUsed(bool keyboard_or_mouse) {
+    Say([&] { return QStringLiteral("mapped %1").arg(keyboard_or_mouse); });
+  }
   static void OnOperationRecorderStarted(const QString& name, int total_sleep_ms) {
-    Say(QStringLiteral("operation %1 %2").arg(name).arg(total_sleep_ms));
+    Say([&] { return QStringLiteral("operation %1 %2").arg(name).arg(total_sleep_ms); });
   }
-  static void SetGravity(double x, double y, double z) { Say(QStringLiteral("gravity %1 %2 %3").arg(x).arg(y).arg(z)); }
-  static void OnMouseLockSwitch(const QString& key_text) { Say(QStringLiteral("mouse_lock %1").arg(key_text)); }
-  static void OnVirtualJoystickChanged(bool enabled) { Say(QStringLiteral("virtual_joystick %1").arg(enabled)); }
-  static void OnScreenshotRequest(const QString& instruction) { Say(QStringLiteral("screenshot %1").arg(instruction)); }
+  static void SetGravity(double x, double y, double z) {
+    Say([&] { return QStringLiteral("gravity %1 %2 %3").arg(x).arg(y).arg(z); });
+  }
+  static void OnMouseLockSwitch(const QString& key_text) {
+    Say([&] { return QStringLiteral("mouse_lock %1").arg(key_text); });
+  }
+  static void OnVirtualJoystickChanged(bool enabled) {
+    Say([&] { return QStringLiteral("virtual_joystick %1").arg(enabled); });
+  }
+  static void OnScreenshotRequest(const QString& instruction) {
+    Say([&] { return QStringLiteral("screenshot %1").arg(instruction); });
+  }
 };
 
 // The library's table of all of a host's functions.

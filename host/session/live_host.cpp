@@ -27,11 +27,11 @@ struct LiveHostFunctions : TellingFunctions<LiveHost> {
   // Targets first: what is shown may take its time.
   static void SendEvent(const char* data, int length) {
     Host()->SendLine(data, length);
-    if (Host()->IsHeard()) TellingFunctions::SendEvent(data, length);
+    TellingFunctions::SendEvent(data, length);
   }
   static void SendText(const char* data, int length) {
     Host()->SendLine(data, length);
-    if (Host()->IsHeard()) TellingFunctions::SendText(data, length);
+    TellingFunctions::SendText(data, length);
   }
 
   static WindowGeometry GetWindowGeometry() { return Host()->ViewGeometry(); }
@@ -104,7 +104,6 @@ bool LiveHost::IsHeard() const {
 }
 
 void LiveHost::Add(Source source, const QString& text) {
-  if (!IsHeard()) return;
   const TimelineEntry entry{clock_.elapsed(), source, text};
   QMetaObject::invokeMethod(this, [this, entry] { Q_EMIT EntryAdded(entry); });
 }

@@ -1,4 +1,5 @@
 // What a script may ask of a player at work.
+#include <algorithm>
 #include <thread>
 
 #include <QDir>
@@ -26,11 +27,13 @@ TEST(ControlWordsTest, WhatIsWrongIsTold) {
       {"a file with blanks", "keymap /tmp/my game.yaml", ""},
       {"a turn", "rotation 270", ""},
       {"a size", "size 1920x1080", ""},
+      {"a switch", "text on", ""},
       {"misspelt", "puase", "unknown word \"puase\"; did you mean \"pause\"?"},
       {"too much", "reset now", "nothing may follow \"reset\""},
       {"no file", "keymap", "\"keymap\" needs a file"},
       {"no app", "app ", "\"app\" needs the name of an app"},
       {"a turn that is none", "rotation 45", "\"rotation\" needs 0, 90, 180 or 270"},
+      {"a switch that is neither", "text yes", "\"text\" needs on or off"},
       {"a size of nothing", "size 0x720", "\"size\" needs a size such as 1280x720"},
       {"a size beyond all", "size 16385x720", "\"size\" needs a size such as 1280x720"},
       {"half a size", "size 1280", "\"size\" needs a size such as 1280x720"},
@@ -112,6 +115,40 @@ TEST_F(Control, AResetLiftsWhatIsDownAndAReleaseAfterwardsIsNothing) {
   EXPECT_FALSE(Sent().empty());
   Release(KEY_SPACE);
   EXPECT_EQ(Sent(), Lines{});
+}
+
+TEST_F(Control, WhileATextFieldHasTheFocusKeysAreTyped) {
+  Start("{type: Click, key: H, point: [0.25, 0.75]}");
+  Press(KEY_H);
+  EXPECT_EQ(Ask("text on"), "ok");
+  const Lines lifted = Sent();
+  EXPECT_EQ(std::count(lifted.begin(), lifted.end(), "0ms 1:SLOTRELEASE:11"), 1);
+  EXPECT_NE(State().find("keys are typed"), std::string::npos) << State();
+  Release(KEY_H);
+  Click(KEY_H);
+  Press(KEY_LEFTSHIFT);
+  Click(KEY_H);
+  Click(KEY_1);
+  Release(KEY_LEFTSHIFT);
+  Click(KEY_ENTER);
+  EXPECT_EQ(Sent(),
+            (Lines{"0ms TEXT:h", "0ms TEXT:" /* Shift */, "0ms TEXT:H", "0ms TEXT:!", "0ms TEXT_CONTROL:ENTER"}));
+  EXPECT_EQ(Ask("text off"), "ok");
+  EXPECT_EQ(State().find("keys are typed"), std::string::npos) << State();
+  Sent();
+  Click(KEY_H);
+  EXPECT_EQ(Sent(), (Lines{"0ms 1:SLOTPRESS:11:11:1:1:320:540", "0ms 1:SLOTRELEASE:11"}));
+}
+
+// With Control held, a letter is a command and no text.
+TEST_F(Control, AKeyThatIsACommandIsNoText) {
+  Start(kTap);
+  EXPECT_EQ(Ask("text on"), "ok");
+  Press(KEY_LEFTALT);
+  Sent();
+  Click(KEY_F);
+  for (const std::string& line : Sent()) EXPECT_EQ(line.find("TEXT:f"), std::string::npos) << line;
+  EXPECT_EQ(Ask("text off"), "ok");
 }
 
 TEST_F(Control, SizeAndRotationAreInTheState) {

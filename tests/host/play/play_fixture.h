@@ -9,6 +9,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QCursor>
@@ -43,9 +44,8 @@ class ToyDevice : public PhysicalDevice {
 
   const DeviceTraits& Traits() const override { return toy_->traits; }
   int File() const override { return -1; }
-  bool Read(std::vector<InputFrame>* frames) override {
-    frames->insert(frames->end(), toy_->frames.begin(), toy_->frames.end());
-    toy_->frames.clear();
+  bool Read(const FrameTaker& take) override {
+    for (const InputFrame& frame : std::exchange(toy_->frames, {})) take(frame);
     return !toy_->is_gone;
   }
   bool IsAnyKeyDown() const override { return !toy_->down.empty(); }

@@ -5,8 +5,13 @@
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
 //   wait MS           at least: a machine that is slow makes no gesture shorter
-//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, the time in
-//   microseconds unplug            takes the keyboard away done WORD         prints WORD
+//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, in microseconds
+//   unplug            takes the keyboard away
+//   plug_pad          makes a gamepad, which is not there at first
+//   pad CODE VALUE    a button of the gamepad
+//   axis CODE VALUE   an axis of the gamepad: a stick from -32768 to 32767, a trigger from 0 to 255
+//   unplug_pad        takes the gamepad away
+//   done WORD         prints WORD
 //
 // Prints "ready" when the devices are there; they go with the program.
 #include <chrono>
@@ -65,6 +70,28 @@ int MakeMouse() {
   return Create(file, "Test Rat");
 }
 
+void SetAxis(int file, int code, int least, int most) {
+  uinput_abs_setup axis{};
+  axis.code = static_cast<unsigned short>(code);
+  axis.absinfo.minimum = least;
+  axis.absinfo.maximum = most;
+  ::ioctl(file, UI_ABS_SETUP, &axis);
+}
+
+int MakePad() {
+  const int file = ::open("/dev/uinput", O_WRONLY | O_CLOEXEC);
+  ::ioctl(file, UI_SET_EVBIT, EV_KEY);
+  for (const int code : {BTN_SOUTH, BTN_EAST, BTN_NORTH, BTN_WEST, BTN_TL, BTN_TR, BTN_SELECT, BTN_START, BTN_MODE,
+                         BTN_THUMBL, BTN_THUMBR}) {
+    ::ioctl(file, UI_SET_KEYBIT, code);
+  }
+  ::ioctl(file, UI_SET_EVBIT, EV_ABS);
+  for (const int code : {ABS_X, ABS_Y, ABS_RX, ABS_RY}) SetAxis(file, code, -32768, 32767);
+  for (const int code : {ABS_Z, ABS_RZ}) SetAxis(file, code, 0, 255);
+  for (const int code : {ABS_HAT0X, ABS_HAT0Y}) SetAxis(file, code, -1, 1);
+  return Create(file, "Test Pad");
+}
+
 class Hands {
  public:
   void Play(const std::string& line) {
@@ -84,6 +111,10 @@ class Hands {
     if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
     if (verb == "race") Race(a, b);
     if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
+    if (verb == "plug_pad") pad_ = MakePad();
+    if (verb == "pad") UsePad(EV_KEY, a, b);
+    if (verb == "axis") UsePad(EV_ABS, a, b);
+    if (verb == "unplug_pad") ::close(pad_);
   }
 
  private:
@@ -91,6 +122,10 @@ class Hands {
     const int file = code >= BTN_MOUSE ? mouse_ : keyboard_;
     Emit(file, EV_KEY, code, value);
     Report(file);
+  }
+  void UsePad(int type, int code, int value) {
+    Emit(pad_, type, code, value);
+    Report(pad_);
   }
   // Printed at the end: what is measured is not to wait for it.
   void Race(int code, int times) {
@@ -119,6 +154,7 @@ class Hands {
 
   const int keyboard_ = MakeKeyboard();
   const int mouse_ = MakeMouse();
+  int pad_ = -1;
 };
 
 }  // namespace

@@ -19,36 +19,41 @@ $bb insmod /uinput.ko
 /bin/udevadm trigger --action=add --subsystem-match=misc --sysname-match=uinput
 /bin/udevadm settle
 
-# wait_for WORDS FILE: until the file has a line with the words, or 20 s are over
+# wait_for WORDS FILE: until the file has a line with the words, or a minute is over
 wait_for() {
   tries=0
   until $bb grep -q "$1" "$2"; do
     $bb sleep 0.05
     tries=$((tries + 1))
-    [ $tries -lt 400 ] || { echo "no \"$1\" in $2" >>/log/problems; return; }
+    [ $tries -lt 1200 ] || { echo "no \"$1\" in $2" >>/log/problems; return; }
   done
 }
+# step NAME: what is seen belongs to it from here on. Readers have come to the end of what was before.
 step() {
-  $bb sleep 0.3
+  seen=
+  until [ "$seen" = "$($bb wc -c /log/eyes /log/libinput)" ]; do
+    seen=$($bb wc -c /log/eyes /log/libinput)
+    $bb sleep 0.3
+  done
   echo "step $1" >>/log/eyes
   echo "step $1" >>/log/libinput
 }
-# wait_state WORDS: until the state that was told last begins so, or 20 s are over
+# wait_state WORDS: until the state that was told last begins so, or a minute is over
 wait_state() {
   tries=0
   until $bb tail -n 1 /log/play | $bb grep -q "^$1"; do
     $bb sleep 0.05
     tries=$((tries + 1))
-    [ $tries -lt 400 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
+    [ $tries -lt 1200 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
   done
 }
-# wait_touch STEP: until a finger went down in this step, or 20 s are over
+# wait_touch STEP: until a finger went down in this step, or a minute is over
 wait_touch() {
   tries=0
   until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do
     $bb sleep 0.05
     tries=$((tries + 1))
-    [ $tries -lt 400 ] || { echo "no finger in step $1" >>/log/problems; return; }
+    [ $tries -lt 1200 ] || { echo "no finger in step $1" >>/log/problems; return; }
   done
 }
 # do_by_hand COMMANDS...: and returns when they are done
@@ -79,7 +84,7 @@ for name in eyes libinput hands play news answers problems list rights status; d
 take_hands
 wait_for ready /log/hands
 /bin/udevadm settle
-/eyes "Test Board" "tavi screen" "bare screen" >>/log/eyes 2>>/log/problems 4>&- &
+/eyes "Test Board" "tavi screen" "tavi keyboard" "bare screen" >>/log/eyes 2>>/log/problems 4>&- &
 eyes=$!
 /usr/libexec/libinput/libinput-debug-events >>/log/libinput 2>>/log/problems 4>&- &
 libinput=$!
@@ -94,15 +99,26 @@ for name in nobody player; do
 done
 $bb su -s /bin/sh nobody -c "export XDG_RUNTIME_DIR=/run/of_nobody; /tavi play /keymap.yaml; echo play \$?" >>/log/rights 2>&1
 
-start_play
-/tavi play --list >>/log/list 2>&1
-step script
 do_by_hand_script() {
   done_count=$((done_count + 1))
-  { $bb cat /script; echo "done d$done_count."; } >&4
+  { $bb cat "$1"; echo "done d$done_count."; } >&4
   wait_for "d$done_count\\." /log/hands
 }
-do_by_hand_script
+start_play --joystick /pad.yaml
+/tavi play --list >>/log/list 2>&1
+step script
+do_by_hand_script /script
+
+step typed
+ask "text on"
+do_by_hand_script /typed_script
+ask "text off"
+step pad
+do_by_hand plug_pad
+wait_for "1 mouse, 1 gamepad" /log/play
+do_by_hand_script /pad_script
+do_by_hand unplug_pad
+wait_state "mapping on.*no gamepad"
 
 step pause
 do_by_hand "key 88 1" "wait 30" "key 88 0" "wait 200"
