@@ -63,7 +63,7 @@ TEST_F(Events, ATouchEventHasThePointsThatItWasMadeOf) {
 
 TEST(LastingText, IsACopyThatAllItsCopiesShare) {
   QString source = QStringLiteral("Scan %1").arg(200);
-  const QString lasting = qt::Lasting(source);
+  static const QString lasting = qt::Lasting(source);  // never freed, and so never to be lost sight of
   EXPECT_NE(lasting.constData(), source.constData());
   source.fill(QLatin1Char('x'));
   const QString copy = lasting;

@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 
 #include "tests/record/json/hostile_records.h"
+#include "tests/record/json/leaks_of_qt.h"
 #include "tests/record/json/library_way.h"
 #include "tests/record/record_files.h"
 #include "tests/support/from_environment.h"
@@ -125,6 +126,7 @@ TEST(FileLayout, TheTimeIsThatOfTheHeader) {
 }
 
 TEST(SpoiltRecords, AreCopiedOnlyWhereTheLibraryWritesTheSame) {
+  const LeaksOfQt leaks;
   HostileRecords records(FromEnvironment("TAVI_RECORD_SEED", 1));
   const int documents = FromEnvironment("TAVI_RECORD_DOCUMENTS", kUsualDocuments);
   int copied_count = 0;

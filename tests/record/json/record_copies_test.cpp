@@ -16,6 +16,7 @@
 #include "record/record_reader.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/record/json/hostile_records.h"
+#include "tests/record/json/leaks_of_qt.h"
 #include "tests/record/json/library_way.h"
 #include "tests/record/record_files.h"
 #include "tests/support/from_environment.h"
@@ -67,6 +68,7 @@ class RecordCopies : public Story, protected RecordFiles {
 };
 
 TEST_F(RecordCopies, OfRecordsAndOfSpoiltOnes) {
+  const LeaksOfQt leaks;
   for (const QByteArray& record : RecordsToSpoil()) {
     ExpectMergedAsByLibrary(record);
     ExpectStampedAsByLibrary(record);

@@ -12,6 +12,7 @@
 #include "record/record_file_utils.h"
 #include "record/single_record_actions.h"
 #include "tests/record/json/hostile_records.h"
+#include "tests/record/json/leaks_of_qt.h"
 #include "tests/record/json/library_way.h"
 #include "tests/record/record_files.h"
 #include "tests/support/from_environment.h"
@@ -48,6 +49,7 @@ TEST(RecordReader, ThroughAnyWindow) {
 
 // Each row is a document that some fault would read, or read as something else.
 TEST(RecordReader, LeavesWhatIsOddToTheLibrary) {
+  const LeaksOfQt leaks;
   const struct {
     const char* name;
     QByteArray json;
@@ -224,6 +226,7 @@ TEST_F(RowsOfWords, Numbers) {
 }
 
 TEST(SpoiltRecords, AreReadAsTheLibraryReadsThem) {
+  const LeaksOfQt leaks;
   HostileRecords records(FromEnvironment("TAVI_RECORD_SEED", 1));
   const int documents = FromEnvironment("TAVI_RECORD_DOCUMENTS", kUsualDocuments);
   int read_count = 0;
