@@ -269,7 +269,8 @@ QString LoadKeymaps(const PlayOptions& options, const AppKeymaps* apps, PlaySess
   if (!options.keymap.isEmpty()) {
     problem = session->LoadKeymap(options.keymap);
   } else if (!apps->LastApp().isEmpty()) {
-    problem = control->UseApp(apps->LastApp());
+    const QString forgotten = control->UseApp(apps->LastApp());
+    if (!forgotten.isEmpty()) Tell(forgotten);  // its keymap may be gone; another is a word away
   } else {
     Tell(QStringLiteral("no app was played yet: \"tavi play --control 'app NAME'\" names one of %1")
              .arg(apps->Apps().join(QStringLiteral(", "))));

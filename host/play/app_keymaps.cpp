@@ -65,8 +65,13 @@ QString AppKeymaps::LastApp() const {
   return memory_.isEmpty() ? QString() : QSettings(memory_, QSettings::IniFormat).value(KeyOf(folder_)).toString();
 }
 
-void AppKeymaps::Remember(const QString& app) const {
-  if (!memory_.isEmpty()) QSettings(memory_, QSettings::IniFormat).setValue(KeyOf(folder_), app);
+QString AppKeymaps::Remember(const QString& app) const {
+  if (memory_.isEmpty()) return {};
+  QSettings memory(memory_, QSettings::IniFormat);
+  memory.setValue(KeyOf(folder_), app);
+  memory.sync();
+  if (memory.status() == QSettings::NoError) return {};
+  return QStringLiteral("cannot write %1: %2 is not remembered").arg(memory_, app);
 }
 
 }  // namespace tavi

@@ -25,7 +25,8 @@ class AppKeymaps {
   QStringList Apps() const;
 
   QString LastApp() const;
-  void Remember(const QString& app) const;
+  // What went wrong, or nothing.
+  QString Remember(const QString& app) const;
 
  private:
   const QString folder_;

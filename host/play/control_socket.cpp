@@ -47,7 +47,9 @@ void ControlSocket::TakeConnection(QLocalSocket* socket) {
 // The answer is out before the handler's next step, which may be the program's end.
 void ControlSocket::TakeLines(QLocalSocket* socket) {
   while (socket->canReadLine()) {
-    const QString line = QString::fromUtf8(socket->readLine(kLongestLine)).trimmed();
+    const QByteArray bytes = socket->readLine(kLongestLine);
+    if (!bytes.endsWith('\n')) return socket->abort();  // the end of a line too long would be read as a command
+    const QString line = QString::fromUtf8(bytes).trimmed();
     if (line.isEmpty()) continue;
     socket->write(LineOf(handler_(line)));
     socket->flush();

@@ -27,7 +27,8 @@ QString PlayControl::UseApp(const QString& app) {
   problem = session_->LoadKeymap(keymap);
   if (!problem.isEmpty()) return problem;
   app_ = app;
-  apps_->Remember(app);
+  problem = apps_->Remember(app);
+  if (!problem.isEmpty()) session_->Tell(problem);  // it is played all the same
   return {};
 }
 

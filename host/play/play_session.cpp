@@ -46,6 +46,14 @@ QString RecordText() {
   }
 }
 
+// Why another keymap does not take the place of the one in use. One that is saved with errors is read all the same:
+// what it was before stays in use.
+QString RefusalOf(const QString& path, const KeymapSource& in_use) {
+  if (path == in_use.Path()) return {};
+  const tavikeymapmanager::LoadResult read = tavikeymapmanager::ReadKeymapFile(path);
+  return read.HasErrors() ? FormatDiagnostics(read).trimmed() : QString();
+}
+
 QString ReplayText() {
   const Replayer::State state = Replayer::GetInstance()->GetState();
   return state == Replayer::State::kPlaying ? QStringLiteral("replaying") : QString();
@@ -129,10 +137,8 @@ void PlaySession::ReadGamepads() {
 }
 
 QString PlaySession::LoadKeymap(const QString& path) {
-  const bool is_same = path == mapping_.Keymap().Path();
-  if (!is_same && tavikeymapmanager::ReadKeymapFile(path).HasErrors()) {
-    return FormatDiagnostics(tavikeymapmanager::ReadKeymapFile(path)).trimmed();
-  }
+  const QString refusal = RefusalOf(path, mapping_.Keymap());
+  if (!refusal.isEmpty()) return refusal;
   watch_.Watch(path);  // from before it is read, so that no change is missed
   mapping_.Read(path);
   feeder_.LetGo();
@@ -142,10 +148,8 @@ QString PlaySession::LoadKeymap(const QString& path) {
 }
 
 QString PlaySession::LoadJoystickKeymap(const QString& path) {
-  const bool is_same = path == mapping_.JoystickKeymap().Path();
-  if (!is_same && tavikeymapmanager::ReadKeymapFile(path).HasErrors()) {
-    return FormatDiagnostics(tavikeymapmanager::ReadKeymapFile(path)).trimmed();
-  }
+  const QString refusal = RefusalOf(path, mapping_.JoystickKeymap());
+  if (!refusal.isEmpty()) return refusal;
   joystick_watch_.Watch(path);
   mapping_.ReadJoystick(path);
   TellFindings(mapping_.JoystickKeymap());

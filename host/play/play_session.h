@@ -69,6 +69,8 @@ class PlaySession : public QObject {
   PlayDevices* Devices() { return &devices_; }
   // "mapping on, shooter.yaml (24 items), 1280x720, 1 keyboard, 1 mouse, no gamepad".
   QString State() const;
+  // Passes a sentence on to Told.
+  void Tell(const QString& text) { Q_EMIT Told(text); }
 
  Q_SIGNALS:
   void StateChanged(const QString& state);

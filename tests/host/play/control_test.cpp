@@ -208,6 +208,18 @@ TEST_F(Control, AnAppHasItsOwnKeymapAndTheLastOneIsRemembered) {
   EXPECT_EQ(apps_->LastApp(), QString("com.example.two"));
 }
 
+// A folder in the place of the file cannot be written to, whoever tries.
+TEST_F(Control, AnAppThatCannotBeRememberedIsPlayedAndThatIsTold) {
+  Write("one.yaml", kOtherTap, "package: com.example.one");
+  apps_ = std::make_unique<AppKeymaps>(folder_.path(), folder_.path());
+  Start(kTap);
+  EXPECT_EQ(Ask("app com.example.one"), "ok");
+  EXPECT_TRUE(told_.contains("cannot write " + folder_.path() + ": com.example.one is not remembered"));
+  Sent();
+  Press(KEY_SPACE);
+  EXPECT_EQ(Sent(), (Lines{"0ms 1:SLOTPRESS:11:11:1:1:640:360"}));
+}
+
 TEST_F(Control, WithoutAFolderThereAreNoApps) {
   Start(kTap);
   EXPECT_EQ(Ask("app com.example.one"), "error keymaps of apps need --keymaps");
@@ -255,6 +267,19 @@ TEST_F(ControlSocketTest, ALineGoesInAndItsAnswerComesBack) {
   EXPECT_FALSE(refusal.is_ok);
   EXPECT_EQ(refusal.text, QString("no"));
   EXPECT_EQ(lines, (QStringList{"state", "keymap /tmp/two  blanks.yaml"}));
+}
+
+// Its end would be a command otherwise.
+TEST_F(ControlSocketTest, ALineTooLongEndsTheConnection) {
+  QStringList lines;
+  ControlSocket socket([&lines](const QString& line) {
+    lines += line;
+    return ControlAnswer{true, {}};
+  });
+  ASSERT_EQ(socket.Listen("here"), QString());
+  const ControlAnswer answer = AskFromElsewhere("here", "keymap " + QString(20000, 'x') + " quit");
+  EXPECT_FALSE(answer.is_ok);
+  EXPECT_EQ(lines, QStringList());
 }
 
 TEST_F(ControlSocketTest, NobodyElseCanEnter) {
