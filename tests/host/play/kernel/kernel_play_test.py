@@ -9,8 +9,6 @@ is measured too, beside that of BARE. TAVI is to be a release build then.
 Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script say what is to be
 seen, finger by finger. What is missing for that makes it skip, with exit status 77.
 """
-import lzma
-import os
 import re
 import shutil
 import statistics
@@ -19,10 +17,15 @@ import sys
 import unittest
 from pathlib import Path
 
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parents[3] / "guest" / "kernel"))
+
+import small_machine  # noqa: E402
+
 TAVI, HANDS, EYES, KERNEL, WORK, ROOT = (Path(argument).resolve() for argument in sys.argv[1:7])
 BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
 HERE = Path(__file__).parent
-QEMU = "qemu-system-x86_64"
+QEMU = small_machine.X86_64[0]
 BOOT_SECONDS = 900
 # 2.6 to 2.9 were measured, without acceleration: the emulated processor forgets its pages with each switch of processes,
 # and most of what is left is finding those of the code anew.
@@ -170,12 +173,6 @@ def seen_fingers(lines):
     return fingers
 
 
-def libraries(*programs):
-    environment = {**os.environ, "LD_LIBRARY_PATH": str(LIBINPUT / "usr/lib/x86_64-linux-gnu")}
-    text = "".join(run("ldd", program, env=environment) for program in programs)
-    return sorted(set(re.findall(r"(?:=> |^\s*)(/\S+)", text, re.MULTILINE)))
-
-
 def copy(source, target):
     target.parent.mkdir(parents=True, exist_ok=True)
     shutil.copy(source, target)
@@ -188,7 +185,8 @@ def make_file_system():
     debug_events = LIBINPUT / "usr/libexec/libinput/libinput-debug-events"
     udev = [LIBINPUT / "bin/udevadm"]
     helpers = sorted((LIBINPUT / "lib/udev").glob("libinput-*"))
-    for library in libraries(TAVI, HANDS, EYES, plugin, debug_events, *udev, *helpers):
+    for library in small_machine.libraries(TAVI, HANDS, EYES, plugin, debug_events, *udev, *helpers,
+                                           folder=LIBINPUT / "usr/lib/x86_64-linux-gnu"):
         name = library.split("/libinput/", 1)[1] if str(LIBINPUT) in library else library[1:]
         copy(library, root / name)
     copy(plugin, root / str(plugin)[1:])
@@ -226,33 +224,16 @@ def make_file_system():
     for name, commands in (("script", hand_commands()), ("typed_script", typed_commands()),
                            ("pad_script", pad_commands())):
         (root / name).write_text(commands, encoding="utf-8")
-    with open(WORK / "root.cpio", "wb") as archive:
-        subprocess.run("find . | cpio --quiet -o -H newc", shell=True, cwd=root, stdout=archive, check=True)
-
-
-def kernel():
-    """The kernel without its own unpacking, which takes as long as all the rest: qemu starts an ELF file as it is."""
-    packed = (KERNEL / "vmlinuz").read_bytes()
-    start = packed.find(b"\xfd7zXZ\0")
-    if start < 0:
-        return KERNEL / "vmlinuz"
-    unpacked = WORK / "vmlinux"
-    unpacked.write_bytes(lzma.LZMADecompressor().decompress(packed[start:]))
-    return unpacked
 
 
 def boot():
     """What the machine printed between its marks: the lines of each file, by its name."""
-    console = subprocess.run(
-        [QEMU, "-machine", "q35", "-cpu", "max", "-m", "1024", "-nographic", "-no-reboot", "-nic", "none",
-         "-kernel", kernel(), "-initrd", WORK / "root.cpio", "-append",
-         "console=ttyS0 quiet panic=-1 mitigations=off nokaslr cryptomgr.notests tsc=reliable"],
-        stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace", timeout=BOOT_SECONDS).stdout
-    text = console.replace("\r", "")
+    make_file_system()
+    archive = small_machine.pack(WORK / "root", WORK / "root.cpio")
+    kernel = small_machine.unpacked(KERNEL / "vmlinuz", WORK / "vmlinux")
+    text = small_machine.boot(kernel, archive, BOOT_SECONDS, memory=1024)
     (WORK / "console.txt").write_text(text, encoding="utf-8")
-    if "=== begin\n" not in text or "=== end" not in text:
-        raise AssertionError("the machine did not come to its end:\n" + text)
-    files = text.split("=== begin\n")[1].split("=== end")[0].split("=== file ")[1:]
+    files = small_machine.between_marks(text).split("=== file ")[1:]
     return {file.split("\n", 1)[0]: file.split("\n", 1)[1].splitlines() for file in files}
 
 
@@ -291,7 +272,6 @@ class KernelPlay(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        make_file_system()
         cls.files = boot()
         cls.eyes = steps(cls.files["eyes"])
         cls.fingers = seen_fingers(cls.files["eyes"])
