@@ -1,4 +1,4 @@
-// The lines that the guest is sent, taken apart. This is the guest's side of them, for windows and checks that show
+// The lines that the guest is sent, taken apart by the guest's own reader of them, for windows and checks that show
 // what a guest would make of its input.
 #ifndef HOST_GUEST_GUEST_LINE_H_
 #define HOST_GUEST_GUEST_LINE_H_
@@ -8,37 +8,14 @@
 #include <QString>
 #include <QVector>
 
+#include "guest/line/guest_line.h"
 #include "host/guest/rounding.h"
 
 namespace tavi {
 
+// As taviguest::GuestLine, which says what each kind carries.
 struct GuestLine {
-  // With the numbers that each carries. Positions are touch coordinates; those of a replay have fractions.
-  enum class Kind {
-    kUnknown,         // not understood; no numbers
-    kSlotPress,       // slot, tracking id, 1, 1, x, y
-    kSlotRelease,     // slot
-    kSlotReleaseAll,  // none
-    kMultiPress,      // slot, tracking id, x, y; again for each contact
-    kMultiRelease,    // slot; again for each contact
-    kKeyPress,        // guest key code, 1
-    kKeyRelease,      // guest key code, 0
-    kMouseMove,       // x, y: the place of the pointer, in spite of the line's name
-    kWheel,           // x, y, amount, 0
-    kWheelWithDelta,  // x, y, amount with fraction, 0
-    kText,            // none; text
-    kTextControl,     // none; text: the control's name
-    kLeftStick,       // x, y in millionths
-    kRightStick,      // x, y in millionths
-    kLeftTrigger,     // value
-    kRightTrigger,    // value
-    kGamepadButton,   // code, value
-    kHatX,            // -1 left, 1 right
-    kHatY,            // -1 up, 1 down
-    kTouchpadTouch,   // x, y
-    kTouchpadPress,   // none
-    kTouchpadRelease  // none
-  };
+  using Kind = taviguest::GuestLine::Kind;
 
   // Whole, and inside what an int holds.
   int Integer(int index) const { return static_cast<int>(Bounded(index)); }
