@@ -2,10 +2,11 @@
 #ifndef GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 #define GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 
-#include <set>
+#include <bitset>
 #include <string>
 
 #include "guest/line/guest_options.h"
+#include "guest/translation/device_description.h"
 #include "guest/translation/event_frame.h"
 
 namespace taviguest {
@@ -37,9 +38,9 @@ class ScreenContacts {
 
   const Size surface_;
   const size_t most_fingers_;
-  std::set<int> down_;     // slots
-  std::set<int> refused_;  // slots that the line has down, and there was no room for them; that was told
-  std::string problem_;    // of the line that is being reported
+  std::bitset<kSlotCount> down_;     // slots
+  std::bitset<kSlotCount> refused_;  // slots that the line has down, and there was no room for them; that was told
+  std::string problem_;              // of the line that is being reported
 };
 
 }  // namespace taviguest

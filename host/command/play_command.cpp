@@ -1,5 +1,6 @@
 #include "host/command/play_command.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <memory>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "host/play/control_socket.h"
 #include "host/play/control_words.h"
 #include "host/play/device_folder.h"
+#include "host/play/epoll_dispatcher.h"
 #include "host/play/play_control.h"
 #include "host/play/play_session.h"
 #include "host/play/rights_advice.h"
@@ -248,16 +250,17 @@ std::unique_ptr<GuestOutlet> MakeOutlet(const PlayOptions& options) {
   return std::make_unique<TargetsOutlet>(options.targets, Tell);
 }
 
+void ExitLater(int status) {
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
+void ExitBySignal(int number) { ExitLater(ExitStatusOfSignal(number)); }
+
 // While it lives, a signal that tells the program to end has it end in order.
 class InterruptionWatch {
  public:
-  InterruptionWatch() {
-    SetInterruptionTaker([](int number) {
-      QMetaObject::invokeMethod(
-          QCoreApplication::instance(), [number] { QCoreApplication::exit(ExitStatusOfSignal(number)); },
-          Qt::QueuedConnection);
-    });
-  }
+  InterruptionWatch() { SetInterruptionTaker(ExitBySignal); }
   ~InterruptionWatch() { SetInterruptionTaker({}); }
   InterruptionWatch(const InterruptionWatch&) = delete;
   InterruptionWatch& operator=(const InterruptionWatch&) = delete;
@@ -306,30 +309,38 @@ void TellState(const QString& state) {
 }
 
 // The kernel gives the devices back when the process ends, and the guest's keeper lifts what is down.
-void EndAtOnce() {
+void EndAtOnce(int status) {
   Tell(
       QStringLiteral("it does not get to its devices any more, as with a macro without an end; it ends to give them "
                      "back"));
-  std::_Exit(kExitProblem);
+  std::_Exit(status);
+}
+
+// The event loop, and a watchdog over it, which has less patience once a signal told the program to end.
+int RunWatched() {
+  std::atomic<int> bitten_status{kExitProblem};
+  Watchdog watchdog(kLookMs, kPatience, [&bitten_status] { EndAtOnce(bitten_status); });
+  SetInterruptionTaker([&](int number) {
+    bitten_status = ExitStatusOfSignal(number);
+    watchdog.Hurry();
+    ExitBySignal(number);
+  });
+  const int status = QCoreApplication::exec();
+  SetInterruptionTaker(ExitBySignal);
+  return status;
 }
 
 // The exit status of a player that came to its end.
 int PlayToTheEnd(PlaySession* session, PlayControl* control) {
   session->ReadGamepads();
-  const int status = [] {
-    const Watchdog watchdog(kLookMs, kPatience, EndAtOnce);
-    return QCoreApplication::exec();
-  }();
+  const int status = RunWatched();
   session->End();
   const QString problem = control->Records()->SaveAtEnd();
   Tell(problem);
   return status == kExitDone && !problem.isEmpty() ? kExitProblem : status;
 }
 
-void Quit() {
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
-}
+void Quit() { ExitLater(kExitDone); }
 
 int PlayOn(PlayOptions options) {
   if (IsAnythingMissing(options)) return kExitProblem;
@@ -368,7 +379,7 @@ int Run(const Invocation& invocation) {
     const QCoreApplication application(invocation.argc, invocation.argv);
     return options.is_list ? ListDevices(options) : AskForControl(options);
   }
-  qputenv("QT_NO_GLIB", "1");                                           // Qt's own event loop takes less time for a key
+  QCoreApplication::setEventDispatcher(new EpollDispatcher);
   const QGuiApplication application(invocation.argc, invocation.argv);  // the library asks it for the pointer
   return PlayOn(options);
 }
