@@ -12,7 +12,7 @@ class GuestOutlet {
   virtual ~GuestOutlet() = default;
 
   // The guest's touch surface from here on. Where that cannot be changed, it lifts what is down and begins anew. What
-  // went wrong, for people, or nothing.
+  // went wrong, for people, or nothing; then the guest that there was goes on.
   virtual QString Open(const QSize& surface) = 0;
 
   // A line as the library's send functions get it. Any thread.
