@@ -20,8 +20,8 @@ InputPort* InputPort::GetInstance() {
   return &instance;
 }
 
-void InputPort::connectNotify(const QMetaMethod& /*signal*/) {
-  is_heard_ = isSignalConnected(QMetaMethod::fromSignal(&InputPort::Began));
+void InputPort::connectNotify(const QMetaMethod& signal) {
+  if (signal == QMetaMethod::fromSignal(&InputPort::Began)) is_heard_ = true;
 }
 
 void InputPort::Send(QEvent* event) {

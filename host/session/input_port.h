@@ -40,12 +40,11 @@ class InputPort : public QObject {
  private:
   InputPort() = default;
 
-  // Looks whether anybody listens to Began: to ask with each event would be a good part of its way.
+  // Notes that somebody listens to Began: to ask with each event would be a good part of its way.
   void connectNotify(const QMetaMethod& signal) override;
-  void disconnectNotify(const QMetaMethod& signal) override { connectNotify(signal); }
   void LiftTouches();
 
-  bool is_heard_ = false;    // without listeners, words for an event would be the dearest part of its way
+  bool is_heard_ = false;    // was ever; for nobody, words for an event would be the dearest part of its way
   bool is_touched_ = false;  // the library has fingers of a touch
 };
 

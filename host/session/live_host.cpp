@@ -98,8 +98,8 @@ void LiveHost::SendLine(const char* data, int length) {
   targets_.Send(data, length);
 }
 
-void LiveHost::connectNotify(const QMetaMethod& /*signal*/) {
-  is_heard_ = isSignalConnected(QMetaMethod::fromSignal(&LiveHost::EntryAdded));
+void LiveHost::connectNotify(const QMetaMethod& signal) {
+  if (signal == QMetaMethod::fromSignal(&LiveHost::EntryAdded)) is_heard_ = true;
 }
 
 void LiveHost::Add(Source source, const QString& text) {

@@ -88,11 +88,10 @@ class LiveHost : public QObject {
   LiveHost();
 
   void SendLine(const char* data, int length);
-  // Whether anybody listens to EntryAdded. It is looked at as that changes: to ask with each line would be a good part
-  // of its way.
+  // Whether anybody ever listened to EntryAdded. To ask with each line whether somebody still does would be a good part
+  // of its way; the end of a listener is told under locks of Qt, where nothing can be asked.
   bool IsHeard() const { return is_heard_; }
   void connectNotify(const QMetaMethod& signal) override;
-  void disconnectNotify(const QMetaMethod& signal) override { connectNotify(signal); }
   void Add(TimelineEntry::Source source, const QString& text);
   void SetInputStatus(int status, const QString& key);
   void SetGravity(double x, double y, double z);
