@@ -68,12 +68,12 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "libtaviinputmanager-dev")
 configure_file(packaging/tavi.postinst packaging/tools/postinst COPYONLY)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/packaging/tools/postinst)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "keymaps for Android guests: try, check, simulate, record
-A keymap defines what the keys, the mouse and the gamepads of this computer do
-on the screen of an Android guest. tavi opens a window to try one in, checks it,
-plays scripts of input with it, and plays, merges and draws records. Without
-a window it plays a guest from this computer's devices, here or on a phone. It
-can be the guest too, on input devices of the Linux kernel. A udev rule lets the
-group input do so.
+A keymap defines what the keys, the mouse and the gamepads of this computer
+do on the screen of an Android guest. tavi opens a window to try one in,
+checks it, plays scripts of input with it, and plays, merges and draws
+records. Without a window it plays a guest from this computer's devices, here
+or on a phone. It can be the guest too, on input devices of the Linux kernel.
+A udev rule lets the group input do so.
 .
 This package holds the program, example keymaps and the documents for authors
 of keymaps.")
