@@ -20,7 +20,11 @@ struct KeymapConfig;
 namespace taviinputmanager {
 
 struct InputManagerCallbacks;
+class InputStatusManager;
+class QtKeyboardMouseEventSimulateHandler;
 class QtMouseEventHandler;
+class RecordManager;
+class WindowsWmRelativeInputEventHandler;
 
 constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
 
@@ -70,6 +74,7 @@ class InputManager {
   InputManager();
   ~InputManager();
 
+  void RouteOther(QEvent* event);  // neither key nor mouse
   void RouteKey(QKeyEvent* event);
   void RouteMouseButton(QMouseEvent* event);
   void RouteMouseMove(QMouseEvent* event);
@@ -79,6 +84,12 @@ class InputManager {
   bool IsForcedTransparent() const;
   void DispatchVirtualMouse(qint64 id, int code, bool press, const QPointF& point);
   void DispatchWheelAt(const QPointF& point, int delta);
+
+  // Singletons that events pass.
+  InputStatusManager* const status_;
+  RecordManager* const recorder_;
+  QtKeyboardMouseEventSimulateHandler* const simulate_;
+  WindowsWmRelativeInputEventHandler* const relative_;
 
   InputManagerCallbacks* callbacks_ = nullptr;  // the host's
   std::unique_ptr<tavikeymapmanager::KeymapConfig> keymap_config_;

@@ -7,6 +7,7 @@
 
 #include <QMap>
 
+#include "handlers/known_keys.h"
 #include "handlers/qt_keyboard_event_handler.h"
 #include "handlers/qt_mouse_event_handler.h"
 #include "keymap/config_key.h"
@@ -46,6 +47,9 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // What an item does at run time; null for an item that does nothing by itself.
   static EventSimulator* GetSimulator(const tavikeymapmanager::ConfigItem* item);
 
+  // A macro's press or release of a key, which has one number for both codes; whether it was used up.
+  bool SetVirtualKey(int code, bool press);
+
   // For a press or release: whether an item answers to the button.
   bool IsMouseButtonMapped(QMouseEvent* event) const;
   // For a move: whether the left button is held and an item answers to it.
@@ -73,7 +77,10 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool IsEscapeToGuest() const;
   // Whether an Escape that is not mapped acts as back, for a real key.
   bool IsEscapeBack() const;
-  // Both take the event of an Escape that is not mapped, and tell whether it was used up.
+  // Where a macro works the key, there is no event.
+  bool PressKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  bool ReleaseKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  // Both take an Escape that is not mapped, and tell whether it was used up.
   bool PressEscape(const QKeyEvent* event);
   bool ReleaseEscape(const QKeyEvent* event);
   void ClearCurrentKey();
@@ -84,6 +91,9 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // Tells the host whether Escape is taken.
   void UpdateEscapeState();
 
+  bool IsMapped(Qt::MouseButton button) const;
+  void PressButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
+  void ReleaseButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
   void PressLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void ReleaseLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void MoveLeftFinger(QMouseEvent* event);
@@ -106,6 +116,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord
   QMap<int, tavikeymapmanager::ConfigItem*> chord_items_;  // by scan code of the second key, while that is down
   QMap<qint64, unsigned> mouse_buttons_;                   // Qt::MouseButton bits held, by pointer; 0 is the real mouse
+  mutable KnownKeys keys_{tavikeymapmanager::keywords::kDeviceKeyboard};
+  mutable KnownKeys buttons_{tavikeymapmanager::keywords::kDeviceMouse};
 };
 
 }  // namespace taviinputmanager

@@ -26,11 +26,6 @@ KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) { return Load(path); 
 
 KeymapConfig* LoadJoystickConfigAndInfo(const QString& path) { return Load(path); }
 
-ConfigKey CreateConfigKey(QString device, int virtual_key, int scancode) {
-  const QString& text = KeyIndex::Get().TextOf(device, virtual_key, scancode);
-  return ConfigKey{std::move(device), text, virtual_key, scancode};
-}
-
 void SetTextForConfigKey(ConfigKey* key) {
   if (key == nullptr) return;
   if (key->device == keywords::kDeviceJoystick) return;  // its text is what it is known by

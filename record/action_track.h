@@ -2,6 +2,7 @@
 #ifndef RECORD_ACTION_TRACK_H_
 #define RECORD_ACTION_TRACK_H_
 
+#include <memory>
 #include <utility>
 
 #include <QList>
@@ -23,6 +24,7 @@ class ActionTrack {
   void Start();
   // `action` as it is, but for its timing.
   void Add(RecordAction action);
+  void Add(std::unique_ptr<RecordAction> action);
   void Clear();
   // What was recorded, which is the caller's from then on; empty again.
   QList<RecordAction*> Take() { return std::exchange(actions_, {}); }

@@ -4,6 +4,7 @@
 
 #include <QLatin1String>
 #include <atomic>
+#include <memory>
 #include <mutex>
 
 #include <QString>
@@ -62,6 +63,8 @@ class RecordManager {
   }
 
  private:
+  using Action = std::unique_ptr<RecordAction>;
+
   RecordManager();
 
   // From its return on nothing enters, and the record is the main thread's alone.
@@ -70,7 +73,7 @@ class RecordManager {
   void CaptureEvent(QEvent* event);
   void AddMacroAction(const QString& data);
   // As AddAction.
-  void Add(RecordAction action);
+  void Add(Action action);
   void AddMacroMove(const QPoint& window_position);
 
   // Guards actions_ while status_ is Recording, and all changes of status_. Not held while a file is written or the

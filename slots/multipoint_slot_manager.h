@@ -10,7 +10,7 @@ namespace taviinputmanager {
 
 // A finger is known by where it is, not by who asked for it: press and release are paired by comparing points, exactly.
 // Points are fractions of the display. The slot touched last is the one that the commands speak of; -1 before that.
-class MultipointSlotManager : public SlotManager {
+class MultipointSlotManager final : public SlotManager {
  public:
   static MultipointSlotManager* GetInstance() {
     static MultipointSlotManager instance;

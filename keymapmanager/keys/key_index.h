@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 #include <QHash>
 #include <QString>
@@ -24,6 +25,11 @@ class KeyIndex {
 
   // The key of a name or alias, gamepads and `Scan 200` apart.
   std::optional<ConfigKey> Find(const QString& name) const;
+  // What CreateConfigKey does.
+  ConfigKey MakeKey(QString device, int virtual_key, int scancode) const {
+    const QString& text = TextOf(device, virtual_key, scancode);
+    return {std::move(device), text, virtual_key, scancode};
+  }
   // The keyboard's key of a scan code from 0 to 511.
   ConfigKey KeyboardKey(int scancode) const;
   // The shared name of a key by its codes: the scan code, or, where that is unset, the virtual key. Empty for a

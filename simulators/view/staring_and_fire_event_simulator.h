@@ -14,6 +14,8 @@ struct StaringConfigItem;
 
 namespace taviinputmanager {
 
+class StaringWmRelativeInputWorker;
+
 // Moves the status of the input layer between view control, observing and neither, by keys, and gives the relative
 // counts to the one of three workers whose turn it is: staring, unless a fire key in relative mode or an observe key is
 // held. The key that came last has the counts, and the first of them to come up gives them back to staring.
@@ -44,15 +46,16 @@ class StaringAndFireEventSimulator : public EventSimulator {
   enum class RelativeRoute { kFire = 1, kStaring = 2, kObserve = 3 };
 
   StaringAndFireEventSimulator();
+  ~StaringAndFireEventSimulator() override;
 
   void ConnectWorkers();
   void ToggleStaring(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void PressObserve(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void LiftViewFinger();
 
-  std::once_flag connected_;  // the workers' signals, at the first press
-  // From the key that turned view control on. Never changes once made: whoever sends keeps it with no copy of its own.
-  std::shared_ptr<const tavikeymapmanager::StaringConfigItem> staring_item_;
+  StaringWmRelativeInputWorker* const staring_;  // the singleton
+  std::once_flag connected_;                     // the workers' signals, at the first press
+  std::unique_ptr<const tavikeymapmanager::StaringConfigItem> staring_item_;  // of the key that turned view control on
   bool has_observe_item_ = false;  // observing was entered from outside view control, since that was last left
   RelativeRoute relative_route_ = RelativeRoute::kStaring;
 };

@@ -15,6 +15,8 @@ struct StaringConfigItem;
 
 namespace taviinputmanager {
 
+class MouseSlotManager;
+
 // Turns relative counts into one held finger, which is MouseSlotManager's while view control is on. Owns the view
 // sensitivity, which the fire finger and aimed casts follow too. Main thread.
 //
@@ -37,7 +39,8 @@ class StaringWmRelativeInputWorker : public EventHandler {
   // from then on, if the item has one. Puts nothing down. Nothing for null.
   void StartStaring(const tavikeymapmanager::StaringConfigItem* item);
   void StopAutoReset();
-  // Counts of one host event. Nothing for null.
+  // Counts of one host event. `item` is read before the host is asked or sent anything: view control may end, and the
+  // item go, from inside. Nothing for null.
   void OnStaringRelativeInput(const tavikeymapmanager::StaringConfigItem* item, int dx, int dy);
   // Lifts the finger outside the range or moves it back in, and sends what it is now. The range is that of the last
   // StartStaring; `item` says what becomes of a finger outside. Nothing for null.
@@ -59,6 +62,7 @@ class StaringWmRelativeInputWorker : public EventHandler {
   StaringWmRelativeInputWorker();
   ~StaringWmRelativeInputWorker() override;
 
+  MouseSlotManager* const finger_;
   RelativeCounts accumulated_;  // since the finger was last put on the centre
   qint64 last_send_ms_;         // since the epoch
   StaringRange range_;

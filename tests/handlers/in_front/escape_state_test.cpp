@@ -1,5 +1,5 @@
 // A host with a matching function of its own in front of the keymap library's: the state of Escape goes by it.
-#include "handlers/key_match_origin.h"
+#include "handlers/keymap_origin.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/support/story.h"
 
