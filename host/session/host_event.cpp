@@ -152,7 +152,7 @@ HostEvent DescribeMovement(int dx, int dy) {
 HostEvent DescribeLettingGo() {
   HostEvent event;
   event.kind = Kind::kLetGo;
-  event.text = QStringLiteral("let go");
+  event.text = QStringLiteral("release all");
   return event;
 }
 

@@ -31,10 +31,10 @@ CHECKED = [
     "docs/record-format.md",
     "docs/scripts.md",
     "docs/tutorial.md",
+    "docs/window.md",
     "examples/*/README.md",
     "fuzz/README.md",
-    "host/command/[!p]*.cpp",
-    "host/command/play_missing.cpp",
+    "host/command/*.cpp",
     "include/taviinputmanager/*.h",
     "keymap/*.h",
     "keymapmanager/*.h",
@@ -42,11 +42,11 @@ CHECKED = [
 ]
 NOT_YET = [
     "docs/performance.md",
-    "docs/window.md",
-    "host/command/play_command.cpp",
 ]
 SCOPE = ["*.md", "docs/*.md", "examples/**/*.md", "fuzz/*.md", "include/**/*.h", "keymap/*.h", "keymapmanager/*.h",
          "host/command/*.cpp"]
+
+LINK_TARGET = re.compile(r"\]\([^)]*\)")
 
 # What is not written, and what is written instead.
 PHRASES = [
@@ -116,7 +116,7 @@ class Prose(unittest.TestCase):
         phrases = [(matcher(phrase), plain) for phrase, plain in PHRASES]
         found = [f"{path.relative_to(ROOT)}:{passage.line}: '{match[0]}': {plain}"
                  for path in sorted(files(CHECKED)) for passage in passages(path)
-                 for phrase, plain in phrases for match in phrase.finditer(passage.text)]
+                 for phrase, plain in phrases for match in phrase.finditer(LINK_TARGET.sub("]", passage.text))]
         self.assertEqual(found, [])
 
     def test_each_checked_file_is_there(self):

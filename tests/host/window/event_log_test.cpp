@@ -68,7 +68,7 @@ TEST_F(EventLogTest, AReleaseIsNotCreditedWithWhatTheWindowLifts) {
   QFocusEvent lost(QEvent::FocusOut);
   Send(&lost);
   EXPECT_EQ(Cell(release, EventLog::kSent), "1:SLOTRELEASE:12");
-  EXPECT_EQ(Last(EventLog::kEvent), "let go");
+  EXPECT_EQ(Last(EventLog::kEvent), "release all");
   EXPECT_EQ(Last(EventLog::kMatch), "the window");
   // Three gestures lift their fingers, then the sweep those of slots 0 to 17: of 21 lines 12 are listed.
   EXPECT_TRUE(Last(EventLog::kSent).endsWith("1:SLOTRELEASE:8  and 9 more")) << Last(EventLog::kSent).toStdString();

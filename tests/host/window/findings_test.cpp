@@ -76,7 +76,7 @@ TEST_F(Findings, AnErrorMarksTheItemOfTheStateBefore) {
   Save(kTwins);
   Save(Replaced("key: W", "key: Spcae"));
   ExpectMarkAt("1", 0.5, 0.5);
-  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+  EXPECT_TRUE(Panel().contains("The version before the change stays in use"));
 }
 
 // Lines were put in above the item with the error, and behind it nothing changed.
@@ -99,7 +99,7 @@ TEST_F(Findings, AnItemThatIsNotInUseYetMarksNoOther) {
   Save(kTwins);
   Save(QByteArray(kTwins) +
        "\n  - {type: Click, key: R, point: [0.1, 0.1]\n  - {type: Click, key: F, point: [0.2, 0.2]}\n");
-  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+  EXPECT_TRUE(Panel().contains("The version before the change stays in use"));
   EXPECT_FALSE(Marks()->isVisible());
   Save(kTwins);
   Save(QByteArray(kTwins) + "  - {type: Click, key: R, point: [0.1, 0.1]\n");

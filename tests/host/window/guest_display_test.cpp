@@ -194,7 +194,7 @@ TEST_F(GuestDisplay, APictureOfAnotherShapeKeepsItAndIsTold) {
 TEST_F(GuestDisplay, TheShapeIsComparedAgainWhenTheDisplayTurns) {
   EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
   Window()->Display()->SetRotation(90);
-  EXPECT_TRUE(Window()->statusBar()->currentMessage().contains("the guest 720 \u00D7 1280"));
+  EXPECT_TRUE(Window()->statusBar()->currentMessage().contains("the guest is 720 \u00D7 1280"));
 }
 
 TEST_F(GuestDisplay, WhatIsNoPictureIsToldAndChangesNothing) {

@@ -529,7 +529,7 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
   EXPECT_TRUE(Editor()->Save());
   QStringList texts;
   for (const Answer& answer : qAsConst(answers_)) texts += answer.text;
-  EXPECT_EQ(texts, (QStringList{"Overwrite", "Read again", "Save as\u2026", ""}));
+  EXPECT_EQ(texts, (QStringList{"Overwrite", "Reload", "Save as\u2026", ""}));
   EXPECT_EQ(FileText(), foreign);
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
   EXPECT_FALSE(Document()->IsModified());

@@ -389,7 +389,7 @@ TEST_F(MappingTest, AFileThatGoesIsToldAndStaysInUse) {
             QString("keymap.yaml is gone; the keymap stays in use as it was read last"));
   const QList<QLabel*> labels = Window()->statusBar()->findChildren<QLabel*>();
   EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-    return label->text().contains("1 item \u00B7 the file is gone");
+    return label->text().contains("1 item \u00B7 the file was deleted");
   }));
   Press(kSpace);
   ExpectNear(Finger(), 320, 540);

@@ -69,7 +69,7 @@ TEST_F(WindowStateTest, KeysGiveWayToTheCorner) {
 TEST_F(WindowStateTest, ABrokenChangeIsShown) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}");
   Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
-  EXPECT_EQ(Texts(), QStringList("Mapping as before the last change"));
+  EXPECT_EQ(Texts(), QStringList("Mapping from before the last change"));
 }
 
 TEST_F(WindowStateTest, AKeymapThatCannotBeUsedIsNotOn) {

@@ -235,7 +235,7 @@ class Taken : public ViewControl {
 
 TEST_F(Taken, ItIsToldAndWaitedFor) {
   const PointerCapture& capture = View()->Capture();
-  EXPECT_EQ(capture.Problem(), "Another program holds the mouse. View control begins when that lets go of it.");
+  EXPECT_EQ(capture.Problem(), "Another program holds the mouse. View control begins when it releases it.");
   EXPECT_TRUE(hand_->SeesPointer());
   EXPECT_FALSE(capture.IsHeld());
   hand_->MoveBy(30, 0);
