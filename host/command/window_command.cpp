@@ -159,7 +159,7 @@ QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
   for (int i = 0; i < keys.size(); ++i) {
     for (int j = 0; j < i; ++j) {
       if (keys[i].second == keys[j].second)
-        return QStringLiteral("%1 and %2 are one key").arg(keys[j].first, keys[i].first);
+        return QStringLiteral("%1 and %2 use the same key").arg(keys[j].first, keys[i].first);
     }
   }
   return {};
@@ -371,7 +371,7 @@ QString ProblemWith(const ParsedArguments& given, const KeptOptions& kept) {
 }
 
 QString NewsOf(const QString& option, const KeptOptions& kept, const QString& problem) {
-  return QStringLiteral("%1 %2 of last time is not used: %3").arg(option, kept[option], problem);
+  return QStringLiteral("%1 %2 from the last session is ignored: %3").arg(option, kept[option], problem);
 }
 
 // The stored options that do not conflict with the command line. An option that does is left out and reported in

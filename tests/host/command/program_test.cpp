@@ -66,7 +66,7 @@ TEST_F(Program, RefusesWhatItDoesNotKnow) {
        "window --help\".\n"},
       {"window with a guest elsewhere",
        {"window", "--guest", "exec:cat", "--guest", "tcp:10.0.0.1:7000"},
-       "tavi window: --guest: 10.0.0.1 is another machine, and anybody on the way there can read what is typed; "
+       "tavi window: --guest: 10.0.0.1 is another machine, and anyone on the network path can read what you type; "
        "--allow-remote allows it\nTry \"tavi window --help\".\n"},
       {"a time of no picture",
        {"window", "--after", "5"},

@@ -159,7 +159,7 @@ TEST_F(RecordProgram, InfoWarnsAndGoesOn) {
   EXPECT_EQ(Lines(outcome.output, "app  ").first(), QStringLiteral("  app           -"));
   EXPECT_TRUE(outcome.errors.startsWith("empty.json: warning: the first action has no data"));
   EXPECT_TRUE(
-      outcome.errors.contains("\nbare.json: warning: actions[0]: data: \"\" is no command of this type; dropped\n"));
+      outcome.errors.contains("\nbare.json: warning: actions[0]: data: \"\" is not a command of this type; dropped\n"));
   EXPECT_TRUE(outcome.errors.contains("\nnone.json: error: cannot be read: "));
 }
 
@@ -365,7 +365,7 @@ TEST_F(RecordProgram, AFullDiskLeavesTheRecordThatWasThere) {
     outcome = Run({"simulate", "--record", "tap.json", "keymap.yaml", "-"}, "down Space; wait 50; up Space\n");
   }
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.errors, QString("tap.json: cannot be written: it came out short; the disk may be full\n"));
+  EXPECT_EQ(outcome.errors, QString("tap.json: cannot be written: it was truncated; the disk may be full\n"));
   EXPECT_EQ(Content("tap.json"), QByteArray("before"));
 }
 

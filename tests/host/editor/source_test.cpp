@@ -86,12 +86,12 @@ TEST_F(SourceTest, WhatComesToLightFurtherDownHasItsPlaceInTheFile) {
 
 TEST_F(SourceTest, OtherPartsOfTheFileAreOutOfReach) {
   Open(kLines);
-  const QString refusal = "This cannot be written without touching other parts of the file. Edit the file itself.";
+  const QString refusal = "This edit would change other parts of the file. Edit the file itself.";
   for (const char* more : {"\n  - {type: Click, key: E, point: [0.5, 0.5]}", "\nname: Other"}) {
     EXPECT_EQ(document_.SetSource(kSecond, document_.Source(kSecond) + more), refusal) << more;
   }
   EXPECT_EQ(document_.SetSource(kSettings, document_.Source(kSettings) + "\nname: Other"), refusal);
-  EXPECT_EQ(document_.SetSource(kFirst, "\n"), "Nothing is left of the item; Delete takes it out.");
+  EXPECT_EQ(document_.SetSource(kFirst, "\n"), "Nothing is left of the item; use Delete to remove it.");
   EXPECT_EQ(Text(), kLines);
 }
 

@@ -76,7 +76,7 @@ TEST_F(RecordPicture, HasALegend) {
   EXPECT_EQ(texts_[0], QStringLiteral("<walk> & \"talk\".json"));
   EXPECT_EQ(texts_[1], QStringLiteral("display 1000 x 500  |  plays 0.200 s  |  1 contact"));
   for (const char* text : {"0.000 s", "0.050 s", "0.100 s", "0.150 s", "0.200 s", "1",
-                           "a finger goes down, with its number", "not drawn: 1 vcontrol"}) {
+                           "a finger is put down, with its number", "not shown: 1 vcontrol"}) {
     EXPECT_TRUE(texts_.contains(QLatin1String(text))) << text;
   }
 }

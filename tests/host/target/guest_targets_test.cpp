@@ -221,8 +221,8 @@ TEST_F(GuestTargetsTest, ATargetThatDiesInAGestureGetsNoneOfItsRest) {
   Send("1:SLOTPRESS:11:11:1:1:100:100");
   guest.Hang();
   ASSERT_TRUE(Becomes(State::kEnded));
-  EXPECT_TRUE(IsTold("No lines go to unix:" + Path("guest") + ": it went away"));
-  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it went away"));
+  EXPECT_TRUE(IsTold("No lines go to unix:" + Path("guest") + ": it disconnected"));
+  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it disconnected"));
   Send("1:SLOTPRESS:11:11:1:1:110:100");
   Send("1:SLOTPRESS:12:12:1:1:500:500");
   targets_.TryAgain(0);
@@ -299,7 +299,7 @@ TEST_F(GuestTargetsTest, ATargetThatReadsNothingIsPassedByAndComesBackWithNothin
   EXPECT_GT(most, GuestTargets::kMostWaitingBytes - 2 * move.size());
   EXPECT_LE(most, GuestTargets::kMostWaitingBytes + 2 * move.size());
   EXPECT_LE(targets_.StatusOf(0).waiting_bytes, 100);  // the rest of a line, and the lift
-  EXPECT_TRUE(IsTold("unix:" + Path("guest") + " takes too little: lines pass it by until it has caught up"));
+  EXPECT_TRUE(IsTold("unix:" + Path("guest") + " reads too slowly: lines are dropped until it has caught up"));
 
   Send("1:SLOTRELEASE:2");
   Send("1:SLOTPRESS:3:3:1:1:5:5");
@@ -388,7 +388,7 @@ TEST_F(GuestTargetsTest, ACommandThatCannotBeFoundIsToldOf) {
 TEST_F(GuestTargetsTest, ACommandThatShutsItsInputIsNotWrittenToAnyMore) {
   Reach("exec:exec <&-; sleep 1000");
   ASSERT_TRUE(Becomes(State::kEnded));
-  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it took no more lines"));
+  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it stopped reading lines"));
 }
 
 // Ctrl+C reaches every program of the terminal; the last lines are still to come then.

@@ -196,8 +196,7 @@ TEST_F(Findings, TheKeymapOfGamepadsHasLabelsOfItsOwn) {
 
 TEST_F(Findings, AKeyOfTheWindowIsOne) {
   Save(Replaced("key: W", "key: F12"));
-  EXPECT_TRUE(
-      Panel().contains("the window keeps F12 for itself, so this item never gets it; --pause-key takes another"))
+  EXPECT_TRUE(Panel().contains("the window keeps F12 for itself, so this item never gets it; --pause-key sets another"))
       << Panel().toStdString();
   ExpectMarkAt("1", 0.5, 0.5);
   Save(Replaced("key: W", "key: F12 + R"));  // as a part of a chord, too
@@ -234,7 +233,7 @@ TEST_F(Findings, AKeyOfTheWindowWithModifiersTellsWhenItIsTaken) {
   Save(Replaced("key: Space", "key: Left Ctrl").replace("key: W", "key: Backspace").replace("key: E", "key: Left Alt"));
   EXPECT_TRUE(
       Panel().contains("the window keeps Ctrl+Alt+Backspace for itself, so this item does not get its key while "
-                       "Ctrl and Alt of this keymap are down; --panic-key takes another key"))
+                       "Ctrl and Alt of this keymap are down; --panic-key sets another key"))
       << Panel().toStdString();
   ExpectMarkAt("1", 0.5, 0.5);
   EXPECT_FALSE(Panel().contains("href='2'"));

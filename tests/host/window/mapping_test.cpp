@@ -67,9 +67,9 @@ TEST(KeyCombinationTest, WhatIsWrongIsTold) {
     const char* told;
   } rows[] = {
       {"misspelt key", "Pasue", "did you mean \"Pause\""},
-      {"unknown modifier", "Hyper+F5", "no modifier is called \"Hyper\""},
-      {"a button of the mouse", "Mouse Left", "no key of the keyboard is called \"Mouse Left\""},
-      {"no key", "Ctrl+", "no key of the keyboard is called \"\""},
+      {"unknown modifier", "Hyper+F5", "\"Hyper\" is not a modifier"},
+      {"a button of the mouse", "Mouse Left", "\"Mouse Left\" is not a key of the keyboard"},
+      {"no key", "Ctrl+", "\"\" is not a key of the keyboard"},
       {"nothing", "", "no key of the keyboard"},
   };
   for (const auto& row : rows) {

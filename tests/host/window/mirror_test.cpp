@@ -156,7 +156,7 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   ASSERT_TRUE(RunEventsUntil([&] { return goes.HasPeer(); }));
   goes.Leave();
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it went away")}));
+  EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it disconnected")}));
   EXPECT_EQ(targets->Names(), QStringList{"stays"});
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), LiveHost::kDisplay);
   EXPECT_TRUE(RunEventsUntil([&] {
@@ -169,7 +169,7 @@ TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   targets->Add("nobody");
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"nobody", QStringLiteral("no instance listens as that")}));
+  EXPECT_EQ(lost_, QStringList({"nobody", QStringLiteral("no instance listens under that name")}));
   EXPECT_TRUE(targets->Names().isEmpty());
 }
 
@@ -292,7 +292,7 @@ TEST_F(Mirror, WhatIsNoSocketStays) {
   file.close();
   {
     MirrorServer server(LiveHost::kDisplay);
-    EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+    EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   }
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), QByteArray("dear"));
@@ -304,7 +304,7 @@ TEST_F(Mirror, ASocketOfAnotherUserStays) {
   const QByteArray address = QFile::encodeName(MirrorAddressOf("server"));
   ASSERT_EQ(chown(address.constData(), kNobody, kNobody), 0);
   MirrorServer server(LiveHost::kDisplay);
-  EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+  EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
 }
 
@@ -337,7 +337,7 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   targets->Add("other");
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"other", "another user listens as that"}));
+  EXPECT_EQ(lost_, QStringList({"other", "another user listens under that name"}));
   close(other);
 }
 

@@ -163,7 +163,7 @@ TEST_F(WindowProgram, WhatIsRememberedAndDoesNotGoWithTheRestIsLeftOutAlone) {
   EXPECT_TRUE(HasSaid(":400:300"));
   EndBy(SIGTERM);
   EXPECT_TRUE(program_.readAllStandardError().contains(
-      "--pause-key F11 of last time is not used: --pause-key and --panic-key are one key"));
+      "--pause-key F11 from the last session is ignored: --pause-key and --panic-key use the same key"));
 }
 
 TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
