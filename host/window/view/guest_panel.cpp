@@ -69,7 +69,7 @@ class SectionPainter {
 QString MouseText(int status, const QString& staring_key) {
   switch (static_cast<InputStatus>(status)) {
     case InputStatus::Normal: return QStringLiteral("free");
-    case InputStatus::Staring: return QStringLiteral("steers the view (%1: free)").arg(staring_key);
+    case InputStatus::Staring: return QStringLiteral("turns the view (%1: free)").arg(staring_key);
     case InputStatus::StaringOff:
       return staring_key.isEmpty() ? QStringLiteral("free") : QStringLiteral("free (%1: view)").arg(staring_key);
     case InputStatus::Observing: return QStringLiteral("looks around");

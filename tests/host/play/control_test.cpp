@@ -93,7 +93,7 @@ TEST_F(Control, AKeymapWithErrorsLeavesTheOneThatIsInUse) {
 TEST_F(Control, AMissingFileIsAnError) {
   Start(kTap);
   EXPECT_EQ(Ask("keymap /nowhere/x.yaml").substr(0, 6), "error ");
-  EXPECT_EQ(Ask("replay /nowhere/x.json"), "error /nowhere/x.json is no record");
+  EXPECT_EQ(Ask("replay /nowhere/x.json"), "error /nowhere/x.json is not a record");
   EXPECT_EQ(Ask("record /nowhere/x.json").substr(0, 39), "error cannot write /nowhere/x.json: No ");
 }
 
@@ -169,9 +169,9 @@ TEST_F(Control, QuitEnds) {
 TEST_F(Control, WhatIsRecordedIsPlayedAgain) {
   Start(kTap);
   const QString file = folder_.filePath("taps.json");
-  EXPECT_EQ(Ask("stop"), "error nothing is recorded or played");
+  EXPECT_EQ(Ask("stop"), "error no recording or replay is running");
   EXPECT_EQ(Ask("record " + file), "ok");
-  EXPECT_EQ(Ask("record " + file), "error a recording runs; \"stop\" ends it");
+  EXPECT_EQ(Ask("record " + file), "error a recording is running; \"stop\" ends it");
   EXPECT_NE(State().find(", recording"), std::string::npos) << State();
   Press(KEY_SPACE);
   clock_->Advance(50);
@@ -204,7 +204,7 @@ TEST_F(Control, AnAppHasItsOwnKeymapAndTheLastOneIsRemembered) {
   EXPECT_EQ(AppKeymaps("/elsewhere", memory).LastApp(), QString());
   EXPECT_EQ(Ask("app com.example.three"),
             "error no keymap in " + folder_.path().toStdString() +
-                " has the package com.example.three; there are some for com.example.one, com.example.two");
+                " has the package com.example.three; there are keymaps for com.example.one, com.example.two");
   EXPECT_EQ(apps_->LastApp(), QString("com.example.two"));
 }
 
@@ -293,7 +293,7 @@ TEST_F(ControlSocketTest, NobodyElseCanEnter) {
 TEST_F(ControlSocketTest, WhereNobodyPlaysThatIsTold) {
   const ControlAnswer answer = AskPlayer("here", "state");
   EXPECT_FALSE(answer.is_ok);
-  EXPECT_EQ(answer.text, QString("no \"tavi play\" of yours runs under the name \"here\""));
+  EXPECT_EQ(answer.text, QString("you have no \"tavi play\" running under the name \"here\""));
 }
 
 TEST_F(ControlSocketTest, TwoPlayersNeedTwoNames) {

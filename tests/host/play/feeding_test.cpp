@@ -175,7 +175,7 @@ TEST_F(Feeding, InViewControlTheCountsTurnTheViewAndThePointerStays) {
   settings_.speed = 3;  // is the pointer's, not the view's
   Start(kView);
   Click(KEY_GRAVE);
-  EXPECT_NE(State().find("the mouse steers the view"), std::string::npos) << State();
+  EXPECT_NE(State().find("the mouse turns the view"), std::string::npos) << State();
   Sent();
   clock_->Advance(30);
   Move(7, -4);
@@ -184,7 +184,7 @@ TEST_F(Feeding, InViewControlTheCountsTurnTheViewAndThePointerStays) {
   const Lines turned = Sent();
   EXPECT_EQ(turned, (Lines{"35ms 1:SLOTPRESS:1:1:1:1:640:360", "70ms 1:SLOTPRESS:1:1:1:1:645:362"}));
   Click(KEY_GRAVE);
-  EXPECT_EQ(State().find("the mouse steers the view"), std::string::npos) << State();
+  EXPECT_EQ(State().find("the mouse turns the view"), std::string::npos) << State();
   Sent();
   Button(BTN_LEFT, true);
   EXPECT_EQ(Sent().back(), "0ms 1:SLOTPRESS:1:1:1:1:640:360");

@@ -68,12 +68,12 @@ TEST_F(Grab, AMouseIsNotGrabbedWhileAButtonIsDown) {
 }
 
 TEST_F(Grab, ADeviceThatAnotherProgramHasIsToldOnceAndTriedAgain) {
-  keyboard_->refusal = "another program keeps it for itself";
+  keyboard_->refusal = "another program has grabbed it";
   session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
   QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
   ASSERT_EQ(session_->Start(), QString());
   clock_->Advance(3000);
-  const QString expected = "\"Board\" (/dev/input/event1) is not played with: another program keeps it for itself";
+  const QString expected = "\"Board\" (/dev/input/event1) is not used: another program has grabbed it";
   EXPECT_EQ(told_.filter("not played with"), QStringList{expected});
   keyboard_->refusal.clear();
   clock_->Advance(600);
@@ -153,7 +153,7 @@ TEST_F(Grab, UnpluggingWithWDownLiftsTheWalk) {
   ASSERT_FALSE(Sent().empty());
   box_.Remove(kKeyboard);
   EXPECT_EQ(Sent().back().substr(0, 20), "0ms 1:SLOTRELEASE:2");
-  EXPECT_TRUE(told_.contains("\"Board\" (/dev/input/event1) is gone"));
+  EXPECT_TRUE(told_.contains("\"Board\" (/dev/input/event1) was disconnected"));
 }
 
 TEST_F(Grab, ADeviceThatIsPluggedInIsPlayedWith) {
@@ -204,7 +204,7 @@ TEST_F(Grab, WhereThereIsNothingToPlayWithThatIsTold) {
   session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
   QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
   ASSERT_EQ(session_->Start(), QString());
-  EXPECT_EQ(told_, QStringList{"no keyboard and no mouse to play with yet; --list tells what there is"});
+  EXPECT_EQ(told_, QStringList{"no keyboard and no mouse to play with yet; --list shows the devices"});
 }
 
 // ---- Which devices
@@ -242,7 +242,7 @@ TEST(DeviceChoice, WhatIsTakenAndWhyNot) {
       {"by its file", keyboard, {"/dev/input/event1"}, ""},
       {"one of two", keyboard, {"Rat", "Board"}, ""},
       {"another was asked for", keyboard, {"Rat"}, "not among those of --device"},
-      {"a tablet", tablet, {}, "it tells places in place of ways"},
+      {"a tablet", tablet, {}, "it reports positions instead of movement"},
       {"a power button", {}, {}, "neither a keyboard nor a mouse"},
       {"a gamepad", pad, {}, "gamepads are read through SDL"},
       {"a guest's keyboard", own, {}, "a guest's own device"},

@@ -386,7 +386,7 @@ TEST_F(MappingTest, AFileThatGoesIsToldAndStaysInUse) {
   ASSERT_NE(watch, nullptr);
   QMetaObject::invokeMethod(watch, "Settle");
   EXPECT_EQ(Window()->statusBar()->currentMessage(),
-            QString("keymap.yaml is gone; the keymap stays in use as it was read last"));
+            QString("keymap.yaml was deleted; the keymap stays in use as it was last read"));
   const QList<QLabel*> labels = Window()->statusBar()->findChildren<QLabel*>();
   EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
     return label->text().contains("1 item \u00B7 the file was deleted");

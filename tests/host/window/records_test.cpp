@@ -394,7 +394,7 @@ TEST_F(RecordsInTheWindow, AFullDiskLeavesTheRecordThatWasThere) {
 TEST_F(RecordsInTheWindow, WithoutAskingItIsSavedOrKept) {
   BeginATap(kFull);
   const QStringList news = Window()->LeaveWithoutAsking();
-  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording is kept as " +
+  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording was saved as " +
                               Recorder::GetInstance()->KeptFile()));
   EXPECT_TRUE(IsRecord(Recorder::GetInstance()->KeptFile()));
   Records()->SetTarget(Path("tap.json"));

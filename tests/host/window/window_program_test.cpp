@@ -170,7 +170,8 @@ TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
   StartWithAFingerDown({"--record", "/dev/full"});
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
   const QString told = QString::fromUtf8(program_.readAllStandardError());
-  const QString start = "tavi window: /dev/full cannot be written: No space left on device; the recording is kept as ";
+  const QString start =
+      "tavi window: /dev/full cannot be written: No space left on device; the recording was saved as ";
   ASSERT_TRUE(told.contains(start)) << told.toStdString();
   const QString kept = told.mid(told.indexOf(start) + start.size()).trimmed();
   RecordInfo info;

@@ -325,12 +325,12 @@ class KernelPlay(unittest.TestCase):
         text = "\n".join(self.files["rights"])
         without, member = text.split("player\n")[0], text.split("player\n")[1].split("tavi play: /dev/uinput")[0]
         self.assertIn("/dev/input/event1  not readable: Permission denied", without)
-        self.assertIn("/dev/uinput may not be written to, which the touch screen is made through", without)
+        self.assertIn("/dev/uinput is not writable; it is needed to create the touch screen", without)
         self.assertIn("As root: adduser YOUR-NAME input. Then log out and in again.", without)
         self.assertIn("list 1\n", without)
         self.assertIn('keyboard  "Test Board"  taken', member)
         self.assertIn("list 0\n", member)
-        self.assertIn('no "tavi play" of yours runs under the name "play"\ncontrol 1', member)
+        self.assertIn('you have no "tavi play" running under the name "play"\ncontrol 1', member)
         self.assertTrue(text.endswith("\nplay 1"), text)
 
     def test_the_script_is_seen_as_it_was_simulated(self):
