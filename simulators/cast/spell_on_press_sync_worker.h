@@ -1,4 +1,4 @@
-// The cast that happens at the press of its key.
+// The cast that is performed at the press of its key.
 #ifndef SIMULATORS_CAST_SPELL_ON_PRESS_SYNC_WORKER_H_
 #define SIMULATORS_CAST_SPELL_ON_PRESS_SYNC_WORKER_H_
 
@@ -28,7 +28,7 @@ class SpellOnPressSyncWorker : public SpellSyncWorker {
  private:
   SpellOnPressSyncWorker() = default;
 
-  // The end of `cast`. False, and nothing, where it is over already.
+  // Ends `cast`. Returns false and does nothing if it is already over.
   bool End(unsigned cast);
 };
 
