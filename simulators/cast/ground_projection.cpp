@@ -15,9 +15,8 @@ namespace {
 
 constexpr int kRows = 4;
 constexpr int kCells = kRows * kRows;
-constexpr double kForwardY = 0.8;  // normalized height of a point straight ahead of the character
-constexpr double kReferenceWidth =
-    1280.0;  // aspect ratio of the display for which ground_scale is defined, whatever the current one is
+constexpr double kForwardY = 0.8;           // normalized height of a point straight ahead of the character
+constexpr double kReferenceWidth = 1280.0;  // display width that ground_scale is defined for, whatever the actual one
 
 double Length(const QPointF& v) { return std::sqrt(v.x() * v.x() + v.y() * v.y()); }
 
