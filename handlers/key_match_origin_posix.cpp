@@ -5,8 +5,8 @@
 
 namespace taviinputmanager {
 
-// Our keymap library has a second name for its function, which nobody stands in front of; no other library has it. It
-// is looked up, so that it need not be there.
+// Our keymap library exports its function under a second name, which nothing overrides and no other library has. It is
+// looked up, so that it may be missing.
 bool IsKeyMatchOwn() {
   const void* const own = dlsym(RTLD_DEFAULT, "tavi_isConfigKeyMatch");
   return own == reinterpret_cast<const void*>(&tavikeymapmanager::isConfigKeyMatch);

@@ -29,7 +29,7 @@ void LogKey(const QKeyEvent* event) {
 bool QtKeyboardEventTransparentHandler::OnKeyPress(QKeyEvent* event) {
   LogKey(event);
   const int code = GuestCodeOf(event);
-  InputStatusManager::GetInstance()->AddHeldKey(code);  // first: its release may come from inside the send
+  InputStatusManager::GetInstance()->AddHeldKey(code);  // first, because its release may come during the call
   SendEvent(guest_command::KeyPress(code));
   return true;
 }

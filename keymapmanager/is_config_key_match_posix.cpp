@@ -9,8 +9,8 @@ bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pr
 
 }  // namespace tavikeymapmanager
 
-// The same function, by its mangled name, under one that a program does not put a function of its own in front of: by
-// this name the input layer tells whose function it calls.
+// The same function, by its mangled name, under a name that programs do not override: by this name the input layer
+// recognizes whose function it calls.
 extern "C" TAVI_KEYMAP_EXPORT
     __attribute__((alias("_ZN17tavikeymapmanager16isConfigKeyMatchEPNS_12KeymapConfigEPNS_9ConfigKeyES3_"))) bool
     tavi_isConfigKeyMatch(tavikeymapmanager::KeymapConfig*, tavikeymapmanager::ConfigKey*,

@@ -10,7 +10,7 @@ namespace {
 
 namespace kw = keywords;
 
-// The types that each device's events can start; a keyboard starts every other.
+// The types that events of each device can start; a keyboard starts every other type.
 const QStringList& WheelTypes() {
   static const QStringList types{kw::kTypeClick, kw::kTypeBunchClick, kw::kTypeStaring,          kw::kTypeMacro,
                                  kw::kTypeZoom,  kw::kTypeCurve,      kw::kTypeOperationRecorder};
@@ -28,7 +28,7 @@ bool IsWheel(const ConfigKey& key) {
   return key.device == kw::kDeviceMouse && (key.scancode == kWheelUpCode || key.scancode == kWheelDownCode);
 }
 
-// Key identity as a text.
+// The identity of a key as a text.
 QString IdOf(const ConfigKey& key) {
   if (!IsKeySet(key)) return {};
   const bool is_pad = key.device == kw::kDeviceJoystick;
@@ -74,7 +74,7 @@ void BindingChecks::Run() {
 
 void BindingChecks::Collect() {
   for (const SourcedItem& sourced : items_) {
-    if (sourced.item->type == kw::kTypeTip) continue;  // a label answers to no key
+    if (sourced.item->type == kw::kTypeTip) continue;  // a label has no key
     for (const Field& field : sourced.table->fields) {
       if (!IsKeyField(field)) continue;
       const Binding binding = BindingOf(sourced, field);
@@ -83,8 +83,8 @@ void BindingChecks::Collect() {
   }
 }
 
-// A file is loaded as the keymap of keyboard and mouse, or as that of the gamepad; keys of the other answer to nothing.
-// The device with more keys is the one that is meant; of as many, the first.
+// A file is loaded either as the keymap of keyboard and mouse, or as that of the gamepad; keys of the other device have
+// no effect. The device with more keys is the intended one; if equal, the first.
 void BindingChecks::CheckMixedDevices() {
   const auto is_pad = [](const Binding& binding) { return binding.key.device == kw::kDeviceJoystick; };
   const auto pads = std::count_if(bindings_.begin(), bindings_.end(), is_pad);
@@ -113,7 +113,7 @@ void BindingChecks::CheckTwice(const Binding& binding) {
                                           .arg(NameOf(binding), QString::number(*found)));
 }
 
-// The first key of a chord waits for the second only while nothing takes it.
+// The first key of a chord waits for the second only if no item uses it.
 void BindingChecks::CheckChord(const Binding& binding) {
   const bool is_keyboard = binding.first_key.device == kw::kDeviceKeyboard && binding.key.device == kw::kDeviceKeyboard;
   if (!is_keyboard) {

@@ -30,7 +30,7 @@ bool IsVirtualJoystick(const QString& type) {
 void KeymapChecks::Run() {
   BindingChecks(items_, diagnostics_).Run();
   for (const SourcedItem& sourced : items_) {
-    if (sourced.is_good) CheckItem(sourced);  // of a broken item it is not known what it says
+    if (sourced.is_good) CheckItem(sourced);  // of an invalid item nothing is known
   }
   CheckVirtualJoystick();
 }
@@ -92,7 +92,7 @@ void KeymapChecks::CheckSpellAim(const SourcedItem& sourced, const SpellConfigIt
                         QStringLiteral("the mouse cannot aim without 'circle_size' and 'swipe_radius' above 0"));
 }
 
-// A run of one tick touches and does not move, and the next follows at once.
+// A run of one tick touches without moving, and the next follows at once.
 void KeymapChecks::CheckRun(const SourcedItem& sourced, int duration_ms, int tick_ms) {
   if (duration_ms >= tick_ms) return;
   diagnostics_->Warning(

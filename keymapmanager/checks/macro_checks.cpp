@@ -25,7 +25,7 @@ QStringList AllWords() {
   return words;
 }
 
-// The row of a word with or without an argument; a word that only stands the other way round gives that row.
+// The row of a command word with or without an argument; if the word exists only in the other form, that row.
 const MacroWord* FindWord(const QString& word, bool has_argument) {
   const MacroWord* found = nullptr;
   for (const MacroWord& row : kMacroWords) {
@@ -42,7 +42,7 @@ bool IsInteger(const QString& text) {
   return is_number;
 }
 
-// The negative time of a pause; the timer behind it would never fire.
+// A negative pause; its timer would never fire.
 bool IsEndlessPause(MacroVerb verb, const QString& argument) {
   return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && argument.toInt() < 0;
 }
@@ -57,7 +57,7 @@ bool IsNumber(const QString& text) {
   return is_number;
 }
 
-// The numbers of "(x,y)" that are not both 0; nothing for any other text.
+// The numbers of "(x,y)", unless both are 0; nothing for any other text.
 std::optional<QPointF> PointOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("\\A\\(([^,()]+),([^,()]+)\\)\\z"));
   const QRegularExpressionMatch match = form.match(text);
@@ -70,7 +70,7 @@ std::optional<QPointF> PointOf(const QString& text) {
 
 bool IsOnDisplay(const QPointF& point) { return point.x() >= 0 && point.x() <= 1 && point.y() >= 0 && point.y() <= 1; }
 
-// What is wrong with the point of a command; empty for a good one.
+// The error in the point of a command; empty if there is none.
 QString FaultOfPoint(const QString& text) {
   if (text == QLatin1String("mouse")) return {};
   const std::optional<QPointF> point = PointOf(text);

@@ -13,7 +13,7 @@ namespace tavikeymapmanager {
 namespace {
 
 constexpr int kMostTypesNamed = 3;
-constexpr double kLargestFraction = 2;  // ranges of fractions end here at the latest; what lies beyond is pixels
+constexpr double kLargestFraction = 2;  // the maximum of any range of fractions; larger values are pixels
 
 QStringList TypesWith(const QString& field) {
   QStringList types;
@@ -30,7 +30,7 @@ QString Joined(QStringList names) {
   return names.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
 }
 
-// Where a field of that exact name belongs; empty for a name that no place knows.
+// Where a field of that exact name belongs; empty for an unknown name.
 QString HomeOf(const QString& name) {
   for (const RecordTable* table : {&SettingsTable(), &WheelTable()}) {
     if (table->name == name) return QStringLiteral("; it belongs at the top of the file");

@@ -12,7 +12,7 @@ namespace {
 
 const QString kChordSign = QStringLiteral(" + ");
 
-// The name of a key in a scalar. A digit is a number to YAML and a key to people.
+// The name of a key from a scalar. A digit is a number for YAML but a key for the author.
 QString KeyNameOf(const YamlNode& node) {
   if (const auto text = TextOf(node)) return *text;
   const auto number = NumberOf(node);
@@ -133,7 +133,7 @@ bool KeyReader::RefuseStick(const YamlNode& node, const ConfigKey& key) {
   return true;
 }
 
-// A gamepad's names are the host's, so that an unknown one may be right.
+// The host defines the names of a gamepad, so an unknown name may be correct.
 void KeyReader::WarnOfUnusualPad(const YamlNode& node, const ConfigKey& key) {
   for (const QString& part : key.text.split(QLatin1Char('+'))) {
     if (IsUsualPadText(part)) continue;

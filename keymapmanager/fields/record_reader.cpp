@@ -18,7 +18,7 @@ namespace {
 constexpr size_t kMatrixSize = 16;
 constexpr size_t kFewestPoints = 2;
 
-bool IsInRange(double value, const Range& range) { return value >= range.min && value <= range.max; }  // no NaN
+bool IsInRange(double value, const Range& range) { return value >= range.min && value <= range.max; }  // not NaN
 
 QString NumberText(double value) { return QString::number(value, 'g', QLocale::FloatingPointShortest); }
 
@@ -134,7 +134,7 @@ void RecordReader::ReadField(const Field& field, const YamlNode& node, const Rec
     case FieldKind::kMatrix: is_good = ReadMatrix(field, node, std::get<QString*>(target)); break;
     case FieldKind::kWalk: is_good = ReadWalk(node, std::get<SwipeholdConfigItem*>(target)); break;
   }
-  if (is_good || diagnostics_->ErrorCount() != errors_before) return;  // told already, at a place within
+  if (is_good || diagnostics_->ErrorCount() != errors_before) return;  // reported already, at a position within it
   const QString got = field.kind == FieldKind::kPair ? DescribePair(node) : Describe(node);
   diagnostics_->Error(
       node.span,
