@@ -1,4 +1,4 @@
-// The settings of a keymap, whatever of it is there.
+// The settings of a keymap, which may be incomplete.
 #ifndef CORE_KEYMAP_ACCESS_H_
 #define CORE_KEYMAP_ACCESS_H_
 
@@ -10,7 +10,7 @@ struct WheelSettings;
 
 namespace taviinputmanager {
 
-// Defaults for a null config and for a config without the record. Valid for as long as the config.
+// Defaults for a null config and for a config without the record. Valid as long as the config.
 const tavikeymapmanager::KeymapSettings& SettingsOf(const tavikeymapmanager::KeymapConfig* config);
 const tavikeymapmanager::WheelSettings& WheelSettingsOf(const tavikeymapmanager::KeymapConfig* config);
 
