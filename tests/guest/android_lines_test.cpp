@@ -53,11 +53,11 @@ TEST(AndroidDevices, TheMouseHasNoPlace) {
 
 TEST_F(AndroidLines, TheSeventeenthFingerIsLeftOutAndToldOnce) {
   for (int slot = 0; slot < 16; ++slot) EXPECT_FALSE(Press(slot).empty());
-  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not seen there; left out");
+  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not supported; ignored");
   EXPECT_EQ(Press(20), Texts{});  // it moves
   EXPECT_FALSE(Press(3).empty());
   EXPECT_EQ(Play("SLOTRELEASE:20"), Texts{});
-  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not seen there; left out");
+  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not supported; ignored");
 }
 
 TEST_F(AndroidLines, AFingerThatMovesWhenThereIsRoomComesDown) {

@@ -179,7 +179,7 @@ TEST_F(ListeningGuest, NothingElseIsReplaced) {
   Start({"--listen", "unix:" + Path()});
   ASSERT_TRUE(guest_.waitForFinished());
   EXPECT_EQ(guest_.exitCode(), 2);
-  EXPECT_EQ(guest_.readAllStandardError(), "tavi-guest: " + Path().toUtf8() + " is there already, and is no socket\n");
+  EXPECT_EQ(guest_.readAllStandardError(), "tavi-guest: " + Path().toUtf8() + " already exists and is not a socket\n");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "mine");
 }

@@ -42,7 +42,7 @@ TEST_F(GuestUinput, TellsOfALineThatIsTooLongAndGoesOn) {
   const Outcome outcome = DryRun("1:" + QByteArray(70000, 'A') + "\n1:KBDPR:30:1\n");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.output, QLatin1String(kKeyDown));
-  EXPECT_EQ(outcome.errors, "tavi guest-uinput: passed over, longer than 65536 bytes: 1:" + QString(38, 'A') + "...\n");
+  EXPECT_EQ(outcome.errors, "tavi guest-uinput: ignored, longer than 65536 bytes: 1:" + QString(38, 'A') + "...\n");
 }
 
 TEST_F(GuestUinput, TakesItsSizeAndDisplay) {
@@ -59,7 +59,7 @@ TEST_F(GuestUinput, RefusesWhatItDoesNotKnow) {
   } rows[] = {
       {{"--size", "wide"}, "--size needs a size such as 1280x720, not \"wide\""},
       {{"--display", "main"}, "--display needs a number, not \"main\""},
-      {{"lines.txt"}, "\"lines.txt\" is no option"},
+      {{"lines.txt"}, "\"lines.txt\" is not an option"},
       {{"--verbose"}, "unknown option \"--verbose\""},
   };
   for (const auto& row : rows) {
