@@ -1,6 +1,6 @@
-"""Completion of `tavi` for shells, made of its pages of help."""
+"""Completion of `tavi` for shells, generated from its help pages."""
 
-# What the names of files end in, by command and the word that stands for the name in its usage or options.
+# The endings of file names, by command and by the placeholder for the name in its usage or options.
 KEYMAPS, RECORDS, PICTURES = ("yaml", "yml"), ("json",), ("png", "jpg", "jpeg", "webp", "bmp")
 FILES = {
     "KEYMAP": KEYMAPS,
@@ -21,7 +21,7 @@ FILES = {
     "--background": PICTURES,
     "--input": (),  # any
 }
-# What to offer for other values, by the word that stands for them.
+# The choices for other values, by their placeholder.
 WORDS = {
     "WxH": "1280x720 1920x1080 2560x1440",
     "SYSTEM": "linux android",
@@ -31,7 +31,7 @@ MADE = "# Made by tools/make_command_files.py of what tavi --help says."
 
 
 def endings(command, option, value):
-    """What the name of a file ends in, () for any; None where no file is meant."""
+    """The endings of a file name, () for any; None if the value is not a file."""
     for key in (option, f"{command} {value}", value):
         if key in FILES:
             return FILES[key]
@@ -39,7 +39,7 @@ def endings(command, option, value):
 
 
 def operand(page):
-    """What stands behind the options of a command: the ending of its files, or None."""
+    """The arguments after a command's options: the endings of its files, or None."""
     words = page.usage[0].replace("[", " ").replace("]", " ").replace("...", " ").split()
     known = [endings(page.command, "", word) for word in words if word in ("KEYMAP", "SCRIPT", "FILE")]
     return tuple(ending for found in known for ending in found or ()) if known else None

@@ -1,4 +1,4 @@
-"""The prose of a file of this tree: what a reader reads of it, without the code."""
+"""The prose of a file of this tree: the text for its readers, without the code."""
 import re
 from typing import NamedTuple
 
@@ -65,7 +65,7 @@ def comment_passages(text):
 
 
 def literal_passages(text):
-    """The texts of a program's source: string literals of several words, those side by side as one."""
+    """The texts in a program's source: string literals of several words; adjacent literals are one text."""
     code = "\n".join("" if line.lstrip().startswith(("#include", "//")) else line for line in text.split("\n"))
     end, start, parts = 0, 0, []
     for found in [*LITERAL.finditer(code), None]:
@@ -87,7 +87,7 @@ def passages(path):
     return list(kinds[path.suffix](text))
 
 
-# Before a small letter a full stop is one of an abbreviation.
+# A full stop before a lower-case letter belongs to an abbreviation.
 SENTENCE_END = re.compile(r"(?<=[\w`)\"*\]][.!?]) +(?=[A-Z0-9`\"*\[(])")
 WORD = re.compile(r"\w+")
 LINK = re.compile(r"\[[^]]*\]\([^)]*\)")

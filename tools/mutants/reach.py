@@ -66,12 +66,12 @@ class Reach:
         return sorted(tests, key=lambda test: self._distance(change, test))
 
     @staticmethod
-    def _is_of_room(test, change):
+    def _is_of_folder(test, change):
         return test.program.name == "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
 
     def _distance(self, change, test):
-        """A test of the same room is near, and one that runs little else."""
-        return not self._is_of_room(test, change), self._lines_run[test.name], test.name
+        """A test of the same folder is near, and so is one that runs little else."""
+        return not self._is_of_folder(test, change), self._lines_run[test.name], test.name
 
     @functools.cached_property
     def _blocks(self):

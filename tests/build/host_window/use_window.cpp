@@ -1,4 +1,4 @@
-// Uses the example host with a window as a person would, and tells what it does between the lines that the host prints.
+// Uses the example host with a window like a person, and prints its actions between the lines that the host prints.
 #include <cstdio>
 
 #include <QApplication>
