@@ -46,11 +46,11 @@ class ItemIndex {
   // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item: whether one of the
   // searches would find it.
   bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (!strangers_.empty()) return IsMatchInList(configured, pressed);  // each is asked both, in its place
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);  // each is called for both, at its position
     return FirstAloneEntry(configured) != nullptr || FirstChordEntry(configured, pressed) != nullptr;
   }
 
-  // The same for the keys as they are now: looks at every item.
+  // The same for the current keys: checks every item.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }
