@@ -188,7 +188,7 @@ def zsh_arguments(page):
     again = "*" if "[OPTIONS]]..." in page.usage[0] else ""  # once for each file
     lines = [f"      '{again}{option.name}[{zsh_quoted(option.text)}]{zsh_value(page.command, option)}'"
              for option in page.options]
-    lines.append("      '--help[tells about the command]'")
+    lines.append("      '--help[shows the help page]'")
     if operand(page) is not None:
         lines.append(f"      '*:file:{zsh_files(operand(page))}'")
     return f"    '{page.command}')\n      _arguments \\\n  " + " \\\n  ".join(lines) + " ;;\n"
@@ -271,7 +271,7 @@ def fish(pages):
     for name, page in pages.pages.items():
         condition = fish_condition(pages, name)
         out += "".join(fish_option(condition, name, option) for option in page.options)
-        out += fish_line(condition, "-l help", "tells about the command")
+        out += fish_line(condition, "-l help", "shows the help page")
         found = operand(page)
         if found:
             out += fish_line(condition, f"-k -x -a {fish_quoted('(' + fish_files(found) + ')')}", "file")

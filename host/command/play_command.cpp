@@ -75,9 +75,9 @@ constexpr char kHelp[] =
     "When a signal ends it (Ctrl+C, SIGTERM, SIGHUP), it lifts what is down, gives the\n"
     "devices back and saves the recording.\n"
     "\n"
-    "Exit status: 0 after quit, or if the answer to --control was \"ok\", 1 when it could not\n"
-    "play or the answer was an error, 2 for a wrong command line or a keymap that cannot be\n"
-    "used, 128 plus the signal's number after a signal.\n"
+    "Exit status: 0 when it was told to quit or the answer to --control was \"ok\", 1 when it\n"
+    "could not play or the answer was an error, 2 for a wrong command line or a keymap that\n"
+    "cannot be used, 128 plus the signal's number after a signal.\n"
     "\n"
     "Example: tavi play examples/keymaps/shooter.yaml\n";
 
