@@ -1,7 +1,7 @@
 # Made by tools/make_command_files.py of what tavi --help says.
 complete -c tavi -f
-complete -c tavi -n '__fish_use_subcommand' -l help -d 'tells about commands'
-complete -c tavi -n '__fish_use_subcommand' -l version -d 'tells the version'
+complete -c tavi -n '__fish_use_subcommand' -l help -d 'lists the commands'
+complete -c tavi -n '__fish_use_subcommand' -l version -d 'prints the version'
 complete -c tavi -n '__fish_use_subcommand' -a window -d 'opens a window to try a keymap'
 complete -c tavi -n '__fish_use_subcommand' -a play -d 'plays a guest from this computer\'s keyboard and mouse'
 complete -c tavi -n '__fish_use_subcommand' -a simulate -d 'plays a script of input and prints what the guest would get'
@@ -14,7 +14,7 @@ complete -c tavi -n '__fish_seen_subcommand_from record; and not __fish_seen_sub
 complete -c tavi -n '__fish_seen_subcommand_from record; and not __fish_seen_subcommand_from info play merge draw' -a play -d 'prints what a record plays'
 complete -c tavi -n '__fish_seen_subcommand_from record; and not __fish_seen_subcommand_from info play merge draw' -a merge -d 'writes one record that plays others in turn'
 complete -c tavi -n '__fish_seen_subcommand_from record; and not __fish_seen_subcommand_from info play merge draw' -a draw -d 'draws the paths of a record\'s fingers'
-complete -c tavi -n '__fish_use_subcommand' -a help -d 'tells about a command'
+complete -c tavi -n '__fish_use_subcommand' -a help -d 'shows the help page of a command'
 complete -c tavi -n '__fish_seen_subcommand_from help' -a 'window play simulate check draw keys record guest-uinput'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l joystick -x -a '(__fish_complete_suffix .yaml; __fish_complete_suffix .yml;)' -d 'the gamepad keymap, also reloaded when you save it; without it, gamepads pass through to the guest'
 complete -c tavi -n '__fish_seen_subcommand_from window; and not __fish_seen_subcommand_from record help' -l size -x -a '1280x720 1920x1080 2560x1440' -d 'the guest\'s display in pixels, each side from 1 to 16384; "view" makes it as large as it is shown (1280x720)'

@@ -200,10 +200,10 @@ def zsh_described(words):
 
 def zsh(pages):
     first = [(name, page.summary) for name, page in pages.pages.items() if " " not in name]
-    first += [(group, "works with records") for group in pages.groups] + [("help", "tells about a command")]
+    first += [(group, "works with records") for group in pages.groups] + [("help", "shows the help page of a command")]
     out = f"#compdef tavi\n{MADE}\n\n_tavi() {{\n  local command=$words[2]\n  if (( CURRENT == 2 )); then\n"
     out += f"    local -a commands=({zsh_described(first)})\n"
-    out += "    _describe command commands\n    _arguments '--help[tells about commands]' '--version[tells the version]'\n"
+    out += "    _describe command commands\n    _arguments '--help[lists the commands]' '--version[prints the version]'\n"
     out += "    return\n  fi\n"
     out += f"  if [[ $command == help ]]; then\n    local -a commands=({zsh_described(first[:-1])})\n"
     out += "    (( CURRENT == 3 )) && _describe command commands\n    return\n  fi\n"
@@ -256,7 +256,7 @@ def fish_condition(pages, name):
 def fish(pages):
     out = f"{MADE}\ncomplete -c tavi -f\n"
     none = "__fish_use_subcommand"
-    out += fish_line(none, "-l help", "tells about commands") + fish_line(none, "-l version", "tells the version")
+    out += fish_line(none, "-l help", "lists the commands") + fish_line(none, "-l version", "prints the version")
     for name, page in pages.pages.items():
         if " " not in name:
             out += fish_line(none, f"-a {name}", page.summary)
@@ -266,7 +266,7 @@ def fish(pages):
         condition = f"__fish_seen_subcommand_from {group}; and not __fish_seen_subcommand_from {' '.join(words)}"
         for word in words:
             out += fish_line(condition, f"-a {word}", pages.pages[f"{group} {word}"].summary)
-    out += fish_line(none, "-a help", "tells about a command")
+    out += fish_line(none, "-a help", "shows the help page of a command")
     out += f"complete -c tavi -n '__fish_seen_subcommand_from help' -a {fish_quoted(' '.join(first_words(pages)))}\n"
     for name, page in pages.pages.items():
         condition = fish_condition(pages, name)
