@@ -10,7 +10,7 @@ TEST_F(GamepadLines, EachNumberMovesItsAxis) {
   const struct {
     const char* name;
     const char* line;
-    std::vector<std::string> events;  // but the last, the report
+    std::vector<std::string> events;  // without the last, the report
   } rows[] = {
       {"the left stick",
        "LSTICKAXIS:-1000000:500000",

@@ -28,7 +28,7 @@ TEST_F(GuestUinput, ReadsAFile) {
   const Outcome missing = DryRun({}, {"--input", "none"});
   EXPECT_EQ(missing.status, 2);
   EXPECT_TRUE(missing.errors.startsWith("none: cannot be read: ")) << missing.errors.toStdString();
-  EXPECT_EQ(DryRun({}, {"--input", "."}).status, 1);  // opens, and cannot be read
+  EXPECT_EQ(DryRun({}, {"--input", "."}).status, 1);  // can be opened but not read
 }
 
 TEST_F(GuestUinput, TellsOfALineAndGoesOn) {
@@ -72,7 +72,7 @@ TEST_F(GuestUinput, RefusesWhatItDoesNotKnow) {
   }
 }
 
-// An hour is not waited for.
+// The test does not wait an hour.
 TEST_F(GuestUinput, ADryRunOfATimelineDoesNotWait) {
   EXPECT_EQ(DryRun("0ms ! mapped 1\n3600000ms 1:KBDPR:30:1\n", {"--timeline"}).output, QLatin1String(kKeyDown));
 }

@@ -67,7 +67,7 @@ TEST_F(SourceTest, CommandsOfAMacroAreEditedInOneStep) {
   EXPECT_FALSE(document_.IsModified());
 }
 
-// "    key: Spcae": the key begins behind nine characters.
+// "    key: Spcae": the key begins after nine characters.
 TEST_F(SourceTest, WhatIsWrongComesWithItsPlaceInThePart) {
   Open(kLines);
   EXPECT_EQ(document_.SetSource(kSecond, Edited(kSecond, "key: M", "key: Spcae")),
@@ -76,7 +76,7 @@ TEST_F(SourceTest, WhatIsWrongComesWithItsPlaceInThePart) {
   EXPECT_FALSE(document_.UndoStack()->canUndo());
 }
 
-// The bracket is missed where the next item begins.
+// The missing bracket is noticed where the next item begins.
 TEST_F(SourceTest, WhatComesToLightFurtherDownHasItsPlaceInTheFile) {
   Open(kLines);
   const QString problem = document_.SetSource(kFirst, Edited(kFirst, "0.8]", "0.8"));

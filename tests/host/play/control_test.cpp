@@ -1,4 +1,4 @@
-// What a script may ask of a player at work.
+// The commands of a script for a running player.
 #include <algorithm>
 #include <thread>
 
@@ -140,7 +140,7 @@ TEST_F(Control, WhileATextFieldHasTheFocusKeysAreTyped) {
   EXPECT_EQ(Sent(), (Lines{"0ms 1:SLOTPRESS:11:11:1:1:320:540", "0ms 1:SLOTRELEASE:11"}));
 }
 
-// With Control held, a letter is a command and no text.
+// With Control held, a letter is a command and not text.
 TEST_F(Control, AKeyThatIsACommandIsNoText) {
   Start(kTap);
   EXPECT_EQ(Ask("text on"), "ok");
@@ -208,7 +208,7 @@ TEST_F(Control, AnAppHasItsOwnKeymapAndTheLastOneIsRemembered) {
   EXPECT_EQ(apps_->LastApp(), QString("com.example.two"));
 }
 
-// A folder in the place of the file cannot be written to, whoever tries.
+// A folder with the file's name cannot be written to by anyone.
 TEST_F(Control, AnAppThatCannotBeRememberedIsPlayedAndThatIsTold) {
   Write("one.yaml", kOtherTap, "package: com.example.one");
   apps_ = std::make_unique<AppKeymaps>(folder_.path(), folder_.path());
@@ -227,7 +227,7 @@ TEST_F(Control, WithoutAFolderThereAreNoApps) {
 
 // ---- The socket
 
-// Each of two ends of one process needs its thread, since who asks waits.
+// The two ends in one process need a thread each, because the sender waits.
 ControlAnswer AskFromElsewhere(const QString& name, const QString& line) {
   ControlAnswer answer;
   QEventLoop loop;

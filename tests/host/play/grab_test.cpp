@@ -1,4 +1,4 @@
-// When devices are kept from other programs, and when they are given back.
+// When devices are grabbed, and when they are released.
 #include <algorithm>
 
 #include "tests/host/play/play_fixture.h"
@@ -8,7 +8,7 @@ namespace {
 
 class Grab : public PlayFixture {};
 
-// A reset, and nothing behind it that puts a finger down.
+// A reset, and then nothing that puts a finger down.
 bool LiftsAllFingers(const Lines& lines) {
   const bool has_reset = std::find(lines.begin(), lines.end(), "0ms 1:SLOTRELEASEALL") != lines.end();
   return has_reset && std::none_of(lines.begin(), lines.end(), [](const std::string& line) {
@@ -30,7 +30,8 @@ TEST_F(Grab, DevicesAreGrabbedWhileTheMappingIsOn) {
   EXPECT_TRUE(keyboard_->is_grabbed);
 }
 
-// To the others a key that is down at the grab would be down for as long as it lasts: Enter, which started the program.
+// For other programs a key that is down at the grab would stay down as long as the grab lasts: Enter, which started the
+// program.
 TEST_F(Grab, AKeyboardIsNotGrabbedWhileAKeyIsDown) {
   keyboard_->down.insert(KEY_ENTER);
   Start(kTap);
@@ -38,7 +39,7 @@ TEST_F(Grab, AKeyboardIsNotGrabbedWhileAKeyIsDown) {
   EXPECT_TRUE(mouse_->is_grabbed);
   EXPECT_EQ(State().substr(0, 38), "mapping waits for all keys to be up, k");
   Press(KEY_SPACE);
-  EXPECT_EQ(Sent(), Lines{});  // others hear it, so that it is theirs
+  EXPECT_EQ(Sent(), Lines{});  // other programs get it, so it belongs to them
   Release(KEY_ENTER);
   EXPECT_FALSE(keyboard_->is_grabbed);
   Release(KEY_SPACE);
@@ -93,11 +94,11 @@ TEST_F(Grab, ThePauseKeyGivesTheDevicesBackAndTakesThemAgain) {
   Release(KEY_F12);
   Release(KEY_SPACE);
   Click(KEY_SPACE);
-  EXPECT_EQ(Sent(), Lines{});  // it is everybody's now
+  EXPECT_EQ(Sent(), Lines{});  // all programs get it now
   EXPECT_EQ(State().substr(0, 12), "mapping off,");
 
   Press(KEY_F12);
-  EXPECT_FALSE(keyboard_->is_grabbed);  // the key itself is down still
+  EXPECT_FALSE(keyboard_->is_grabbed);  // the key itself is still down
   Release(KEY_F12);
   EXPECT_TRUE(keyboard_->is_grabbed);
   Sent();
@@ -125,7 +126,7 @@ TEST_F(Grab, ThePanicKeyIsTheKeymapsWithoutItsModifiers) {
   EXPECT_TRUE(keyboard_->is_grabbed);
 }
 
-// Ctrl on one keyboard, the rest on another: a player's hands know of no difference.
+// Ctrl on one keyboard, the other key on another: to the player there is no difference.
 TEST_F(Grab, ThePanicKeyMayBeOnTwoKeyboards) {
   Start(kTap);
   const auto second = box_.Add("/dev/input/event7", "Other board", DeviceKind::kKeyboard);
@@ -176,7 +177,7 @@ TEST_F(Grab, ADeviceThatIsPluggedInDuringThePauseIsLeftAlone) {
   EXPECT_TRUE(second->is_grabbed);
 }
 
-// udev gives the rights a moment after the device is there.
+// udev sets the permissions a moment after the device appears.
 TEST_F(Grab, ADeviceWithoutRightsIsToldOnceAndTakenWhenTheyCome) {
   Start(kTap);
   box_.locked.insert("/dev/input/event7");
@@ -228,7 +229,7 @@ TEST(DeviceChoice, WhatIsTakenAndWhyNot) {
   own.name = "tavi keyboard";
   own.is_virtual = true;
   DeviceTraits namesake = own;
-  namesake.is_virtual = false;  // a keyboard that only is called so
+  namesake.is_virtual = false;  // a keyboard only by its name
   const struct {
     const char* name;
     DeviceTraits traits;

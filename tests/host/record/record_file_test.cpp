@@ -7,7 +7,7 @@
 namespace tavi {
 namespace {
 
-// As the program prints them, of a file called "f".
+// As the program prints them, for a file named "f".
 QString FindingsOf(const QByteArray& text) { return FormatFindings(QStringLiteral("f"), ReadRecordText(text)); }
 
 TEST(RecordFile, ReadsASingleRecord) {
@@ -49,7 +49,7 @@ TEST(RecordFile, TellsWhereJsonIsBroken) {
   EXPECT_TRUE(FindingsOf("").startsWith("f:1:1: error: broken JSON: "));
 }
 
-// The file is one level, so that a list of 1023 in it makes 1024.
+// The file is one level, so a list of 1023 in it makes 1024.
 TEST(RecordFile, ReadsAsManyLevelsAsAReplayDoes) {
   const auto findings_of = [](int levels) {
     return FindingsOf(WithActions("").replace(
