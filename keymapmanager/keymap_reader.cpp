@@ -139,7 +139,7 @@ void KeymapReader::ReportDuplicates(const YamlNode& node) {
   QSet<QString> names;
   for (const YamlNode& key : node.keys) {
     if (names.contains(key.text)) {
-      diagnostics_->Error(key.span, QStringLiteral("'%1' is written a second time").arg(Shown(key.text)));
+      diagnostics_->Error(key.span, QStringLiteral("'%1' occurs twice").arg(Shown(key.text)));
     }
     names += key.text;
   }
@@ -149,7 +149,7 @@ void KeymapReader::ReportDuplicates(const YamlNode& node) {
 void KeymapReader::ReadFormat(const YamlNode& root) {
   const YamlNode* format = FindValue(root, kFormatField);
   if (format == nullptr) {
-    diagnostics_->Error(root.span, QStringLiteral("a keymap without 'format: %1'").arg(kFormat));
+    diagnostics_->Error(root.span, QStringLiteral("the keymap has no 'format: %1'").arg(kFormat));
   } else if (NumberOf(*format) != kFormat) {
     diagnostics_->Error(format->span,
                         QStringLiteral("'format': expected %1, got %2").arg(kFormat).arg(Describe(*format)));
@@ -207,7 +207,7 @@ const RecordTable* KeymapReader::ReadType(const YamlNode& node) {
   }
   const YamlNode* type = FindValue(node, kTypeField);
   if (type == nullptr) {
-    diagnostics_->Error(node.span, QStringLiteral("an item without 'type'"));
+    diagnostics_->Error(node.span, QStringLiteral("the item has no 'type'"));
     return nullptr;
   }
   const auto text = TextOf(*type);

@@ -189,7 +189,7 @@ QJsonObject OrNull(const QJsonObject& schema) { return AnyOf({schema, OfType("nu
 
 QJsonObject FileSchema() {
   const QJsonObject format{{Q("const"), 1}, {Q("description"), Q("the version of the format")}};
-  const QJsonObject name{{Q("type"), Q("string")}, {Q("description"), Q("the keymap's name, for people")}};
+  const QJsonObject name{{Q("type"), Q("string")}, {Q("description"), Q("the keymap's name, for display")}};
   const QJsonObject package{{Q("type"), Q("string")},
                             {Q("description"), Q("the guest's app that the keymap is for, as Android names it")}};
   const QJsonObject properties{{Q("format"), format},

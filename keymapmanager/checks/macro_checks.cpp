@@ -76,7 +76,7 @@ QString FaultOfPoint(const QString& text) {
   const std::optional<QPointF> point = PointOf(text);
   if (!point) {
     const QString hint = HasBlank(text) ? QStringLiteral(", without blanks around it") : QString();
-    return QStringLiteral("'%1' is no point; a point is (x,y), not (0,0), or mouse%2").arg(Shown(text), hint);
+    return QStringLiteral("'%1' is not a point; a point is (x,y), not (0,0), or mouse%2").arg(Shown(text), hint);
   }
   if (IsOnDisplay(*point)) return {};
   return QStringLiteral("'%1' is outside the display: x and y are fractions from 0 to 1, not pixels").arg(Shown(text));
@@ -114,7 +114,7 @@ void MacroChecks::CheckCommand(const YamlNode& node) {
     return;
   }
   const QString form =
-      expected == 1 ? QStringLiteral("takes no argument") : QStringLiteral("takes one argument behind ':'");
+      expected == 1 ? QStringLiteral("takes no argument") : QStringLiteral("takes one argument after ':'");
   diagnostics_->Warning(node.span, QStringLiteral("'%1' %2").arg(word, form));
 }
 
@@ -129,10 +129,10 @@ void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, cons
   switch (row.argument) {
     case MacroArgument::kInteger:
       if (IsEndlessPause(row.verb, argument)) {
-        diagnostics_->Warning(node.span, QStringLiteral("'%1': a negative time stops the macro for ever").arg(word));
+        diagnostics_->Warning(node.span, QStringLiteral("'%1': a negative time stops the macro forever").arg(word));
       }
       if (IsInteger(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no whole number").arg(word, Shown(argument)));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is not a whole number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kIntegerOrWord:
       if (IsInteger(argument) || argument == QLatin1String(row.argument_word)) return;
@@ -141,7 +141,7 @@ void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, cons
       return;
     case MacroArgument::kNumber:
       if (IsNumber(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no number").arg(word, Shown(argument)));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is not a number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kPoint: CheckPoints(node, argument, false); return;
     case MacroArgument::kPoints: CheckPoints(node, argument, true); return;
@@ -166,7 +166,7 @@ void MacroChecks::CheckLoop(const YamlNode& node, const QString& word, const Mac
   }
   if (word == kStartLoop) {
     if (loop_.start != nullptr) {
-      diagnostics_->Warning(node.span, QStringLiteral("loops do not nest: this one ends the one before"));
+      diagnostics_->Warning(node.span, QStringLiteral("loops do not nest: this one ends the previous one"));
     }
     loop_ = Loop();
     loop_.start = &node;
@@ -184,7 +184,7 @@ void MacroChecks::CloseLoop(const YamlNode& node) {
     diagnostics_->Warning(loop_.start->span, QStringLiteral("a loop of fewer than two commands runs once"));
   } else if (loop_.is_endless && !loop_.has_pause) {
     diagnostics_->Warning(loop_.start->span,
-                          QStringLiteral("this loop never ends and stops all input: put a 'sleep' in it"));
+                          QStringLiteral("this loop never ends and blocks all input: put a 'sleep' in it"));
   }
   loop_ = Loop();
 }

@@ -50,7 +50,7 @@ void PauseChecks::Check(const SourcedItem& sourced) {
   const int pause_ms = PauseOf(sourced.item.get());
   if (pause_ms <= kLongestPauseMs) return;
   diagnostics_->Warning(sourced.node->span,
-                        QStringLiteral("this %1 stops all input for %2 ms: its steps and delays add up")
+                        QStringLiteral("this %1 blocks all input for %2 ms: its steps and delays add up")
                             .arg(sourced.item->type)
                             .arg(pause_ms));
 }

@@ -45,7 +45,7 @@ QVector<Diagnostic> DiagnosticList::Sorted() const {
   std::stable_sort(sorted.begin(), sorted.end(), IsBefore);
   if (sorted.size() < kMostDiagnostics) return sorted;
   Diagnostic more = sorted.last();
-  more.message = QStringLiteral("a thousand are told; any others are left out");
+  more.message = QStringLiteral("only the first thousand are shown");
   sorted += more;
   return sorted;
 }

@@ -66,7 +66,7 @@ QString HintForNumber(const FieldInfo& field, const YamlNode& node) {
   if (node.kind != YamlNode::Kind::kScalar) return {};
   const QRegularExpressionMatch match = comma.match(node.text);
   if (match.hasMatch()) {
-    return QStringLiteral("; the decimal sign is a point: %1.%2").arg(match.captured(1), match.captured(2));
+    return QStringLiteral("; the decimal separator is a point: %1.%2").arg(match.captured(1), match.captured(2));
   }
   const auto number = NumberOf(node);
   const bool is_fraction = field.kind != FieldKind::kInteger && field.range.max <= kLargestFraction;
@@ -78,8 +78,8 @@ QString DescribePair(const YamlNode& node) {
   const std::vector<YamlNode>& numbers = node.children;
   const bool has_commas = numbers.size() == 3 || numbers.size() == 4;  // in one of the numbers, or in both
   if (node.kind != YamlNode::Kind::kSequence || !has_commas || !AreWholeNumbers(numbers)) return Describe(node);
-  if (numbers.size() == 3) return QStringLiteral("three numbers; the decimal sign is a point: 0.5");
-  return QStringLiteral("four numbers; the decimal sign is a point: [%1.%2, %3.%4]")
+  if (numbers.size() == 3) return QStringLiteral("three numbers; the decimal separator is a point: 0.5");
+  return QStringLiteral("four numbers; the decimal separator is a point: [%1.%2, %3.%4]")
       .arg(numbers[0].text, numbers[1].text, numbers[2].text, numbers[3].text);
 }
 

@@ -15,7 +15,7 @@ struct Hint {
   const char* hint;
 };
 constexpr Hint kHints[] = {
-    {"mapping values are not allowed in this context", "a text that holds ': ' needs quotes"},
+    {"mapping values are not allowed in this context", "a text that contains ': ' needs quotes"},
     {"found character that cannot start any token",
      "indent with spaces; a text that begins with @, ` or % needs quotes"},
     {"could not find expected ':'", "a field is written as name, ':' and a space"},
@@ -91,7 +91,7 @@ bool Parser::ParseDocument(YamlNode* root) {
   Event content, document_end, next;
   if (!Next(&content) || !ParseNode(content, 1, root) || !Next(&document_end) || !Next(&next)) return false;
   if (next->type == YAML_STREAM_END_EVENT) return true;
-  return Fail(next.span(), QStringLiteral("a second document begins here; a keymap file holds one"));
+  return Fail(next.span(), QStringLiteral("a second document begins here; a keymap file contains only one"));
 }
 
 bool Parser::Next(Event* event) { return yaml_parser_parse(&parser_, event->get()) != 0 || FailAtProblem(); }

@@ -8,9 +8,8 @@ namespace taviinputmanager {
 
 // mouse: key down -- swipe to the target -- lift
 // inner walk: key down -- tap on the button
-// walk: key down -- finger on the button -- the first direction told -- finger there -- lift; a walk tells its present
-// direction at once, and at rest that it has none.
-// Any other location does nothing and stays active.
+// walk: key down -- finger on the button -- the first direction reported -- finger there -- lift; a walk reports its
+// present direction at once, and at rest that it has none. Any other location does nothing and stays active.
 class SpellOnPressSyncWorker : public SpellSyncWorker {
  public:
   static SpellOnPressSyncWorker* GetInstance();

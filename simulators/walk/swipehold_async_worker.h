@@ -66,7 +66,7 @@ class SwipeholdAsyncWorker : public EventHandler {
   // The flag words of the keys.
   QPoint GetDirections() const;
 
-  // Resets the walk and releases the contact, whoever owns it.
+  // Resets the walk and releases the contact, regardless of its owner.
   void StopAndRelease();
   // Resets the walk and sends nothing.
   void ClearAll();

@@ -15,7 +15,7 @@ namespace taviinputmanager {
 
 //   turn      8 ms     8 ms          8 ms      8 ms
 //   press --- move --- move  ... --- move --- release                 20 moves
-//   a turn on the way sets length and direction of what is still to come anew
+//   a turn meanwhile sets length and direction of the remaining moves
 //
 // Main thread, despite its name.
 class QtWheelEventAsyncWorker : public EventHandler {

@@ -58,8 +58,8 @@ class Trial:
         try:
             verdict, by = self._meet(changed, runner, tests, [LIBRARY])
             if verdict == SURVIVED and change.path.endswith(".h"):
-                # Programs of tests have their own copy of what stands in a header, and may run that alone: no trace of
-                # the library tells of it.
+                # Test programs have their own copy of inline functions, and may run only that: the library's trace does
+                # not show it.
                 tests = list(dict.fromkeys([*self._reach.tests_that_include(change), *tests]))
                 programs = sorted({os.path.relpath(test.program, self._build.folder) for test in tests})
                 verdict, by = self._meet(changed, runner, tests, [LIBRARY, *programs])

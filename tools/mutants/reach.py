@@ -52,7 +52,7 @@ class Reach:
 
     def tests_of(self, change):
         """Tests that run the changed line, the nearest first. A line without code of its own, such as the constant of a
-        file, is run by whoever runs anything of the file."""
+        file, is run by every test that runs anything of the file."""
         names = self._by_line.get(f"{change.path}:{change.line}")
         for above in range(1, 4):
             names = names or self._by_line.get(f"{change.path}:{change.line - above}")

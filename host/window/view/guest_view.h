@@ -83,7 +83,7 @@ class GuestView : public GuestScreen {
   KeyRepeatFilter key_repeats_;
   QSet<quint32> pressed_;  // scan codes that were pressed here
   StaleRepeats stale_repeats_;
-  const bool may_repeat_as_release_;  // the window system repeats keys in the way of X11
+  const bool may_repeat_as_release_;  // the window system repeats keys like X11
 };
 
 }  // namespace tavi

@@ -102,7 +102,7 @@ void UseView(GuestView* view) {
   commit.setCommitString("\u00e9");
   QCoreApplication::sendEvent(view, &commit);
   Click(view, 87, Qt::Key_F11);
-  Say("the mouse steers the view");
+  Say("the mouse turns the view");
   Click(view, kGrave);
   QCoreApplication::processEvents();
   Mouse(view, QEvent::MouseMove, view->rect().center() + QPoint(10, 0), Qt::NoButton);

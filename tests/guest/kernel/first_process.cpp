@@ -56,7 +56,7 @@ std::vector<std::string> Programs() {
 struct Guest {
   pid_t process = 0;
   FILE* lines = nullptr;   // what it reads
-  FILE* places = nullptr;  // what it tells
+  FILE* places = nullptr;  // its output
 };
 
 Guest Start(const std::string& program) {

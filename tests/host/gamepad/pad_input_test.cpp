@@ -107,9 +107,9 @@ TEST_F(PadInputTest, ATriggerIsAButtonWithALeeway) {
     double value;
     QStringList told;
   } rows[] = {
-      {"just short of it", 0.4, {}},     {"down", 0.41, {"press LT"}},  {"all the way", 1, {}},
-      {"still down", 0.25, {}},          {"up", 0.24, {"release LT"}},  {"a little", 0.4, {}},
-      {"down again", 0.5, {"press LT"}}, {"let go", 0, {"release LT"}},
+      {"just short of it", 0.4, {}},     {"down", 0.41, {"press LT"}},    {"all the way", 1, {}},
+      {"still down", 0.25, {}},          {"up", 0.24, {"release LT"}},    {"a little", 0.4, {}},
+      {"down again", 0.5, {"press LT"}}, {"released", 0, {"release LT"}},
   };
   for (const auto& row : rows) {
     Axis("lefttrigger", row.value);

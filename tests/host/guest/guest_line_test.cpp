@@ -53,7 +53,7 @@ TEST(GuestLine, UnderstandsEveryFormOfNumbers) {
       {"the hat, upright", "HATY:1", Kind::kHatY, {1}},
       {"the touchpad", "TOUCHPADLIGHTTOUCH:640:360", Kind::kTouchpadTouch, {640, 360}},
       {"the touchpad pressed", "TOUCHPADPRESS", Kind::kTouchpadPress, {}},
-      {"the touchpad let go", "TOUCHPADRELEASE", Kind::kTouchpadRelease, {}},
+      {"the touchpad released", "TOUCHPADRELEASE", Kind::kTouchpadRelease, {}},
   };
   for (const FormRow& row : rows) {
     SCOPED_TRACE(row.name);

@@ -427,7 +427,7 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
     taviinputmanager::OnInputRawTextData(text);
     QCoreApplication::processEvents();
   }
-  EXPECT_EQ(lost_, QStringList({"silent", "it takes no more lines"}));
+  EXPECT_EQ(lost_, QStringList({"silent", "it stopped reading lines"}));
   EXPECT_TRUE(targets->Names().isEmpty());
   close(silent);
 }

@@ -5,7 +5,7 @@
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
 //   wait MS           at least: a machine that is slow makes no gesture shorter
-//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, in microseconds
+//   race CODE TIMES   a key, 8 ms down and 8 ms up repeatedly; prints "press US" for each, in microseconds
 //   unplug            takes the keyboard away
 //   plug_pad          makes a gamepad, which is not there at first
 //   pad CODE VALUE    a button of the gamepad

@@ -25,7 +25,7 @@ HERE = Path(__file__).parent
 QEMU = "qemu-system-x86_64"
 BOOT_SECONDS = 900
 # 2.6 to 2.9 were measured, without acceleration: the emulated processor forgets its pages with each switch of processes,
-# and most of what is left is finding those of the code anew.
+# and most of what is left is reloading those of the code.
 MOST_TIMES_BARE = 3.3
 LIBINPUT = KERNEL / "libinput"
 
@@ -140,7 +140,7 @@ class Screen:
 
 
 def expected_events(script):
-    """What the devices are told of a script, as `tavi guest-uinput` says it."""
+    """The events of the devices for a script, from `tavi guest-uinput`."""
     timeline = run(TAVI, "simulate", WORK / "root" / "keymap.yaml", "-", input=script)
     return [line.split() for line in run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline).splitlines()]
 

@@ -1,5 +1,4 @@
-// The window on a real X server, with another program behind it, and a simulated hand on mouse and keyboard. Time is
-// real.
+// The window on a real X server, in front of another program, and a simulated hand on mouse and keyboard. Time is real.
 #ifndef TESTS_HOST_WINDOW_POINTER_DESKTOP_FIXTURE_H_
 #define TESTS_HOST_WINDOW_POINTER_DESKTOP_FIXTURE_H_
 
