@@ -21,7 +21,7 @@ void SendKey(QEvent::Type type, int scancode) {
   OnQtInputEvent(&event);
 }
 
-// One line of the guest for each of two events a pass.
+// One line for the guest for each of two events in an iteration.
 void MeasureKey(benchmark::State& state, int scancode) {
   QKeyEvent press = MakeKey(QEvent::KeyPress, scancode);
   QKeyEvent release = MakeKey(QEvent::KeyRelease, scancode);
@@ -43,7 +43,7 @@ void PassThroughByItems(benchmark::State& state) {
   MeasureKey(state, kUnmappedScanCode);
 }
 
-// A walk that never arrives, one step a pass of the event loop; a click; and `count` macros that sleep.
+// A walk that never arrives, with one step per iteration of the event loop; a click; and `count` macros that sleep.
 void LoadWithWorkers(int count) {
   auto config = MakeKeymap(30);
   auto* walk = static_cast<SwipeholdConfigItem*>(config->items.first());

@@ -1,6 +1,6 @@
-# Debian packages, made by `cpack -G DEB` in a build folder of the preset "package"; tools/try_packages tries them.
+# Debian packages, created by `cpack -G DEB` in a build folder of the preset "package"; tools/try_packages tries them.
 #
-# Three of them, one a component: the libraries, what others build on, the program.
+# There are three, one for each component: the libraries, what other projects need, and the program.
 set(CPACK_PACKAGE_VENDOR "taviinputmanager")
 set(TAVI_PACKAGE_CONTACT "taviinputmanager developers <taviinputmanager@example.org>" CACHE STRING
   "Who answers for the Debian packages: name and address")
@@ -9,7 +9,7 @@ set(TAVI_PACKAGE_HOMEPAGE "https://example.org/taviinputmanager" CACHE STRING
   "Where the Debian packages say that more is to be read")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TAVI_PACKAGE_HOMEPAGE})
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has one of its own
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime development tools)
 set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
@@ -22,20 +22,20 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(runtime_package libtaviinputmanager${TAVI_SOVERSION})
 set(package_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
-# What the programs and libraries need is read from them. Our own libraries are in no package yet.
+# The dependencies of programs and libraries are read from their files. Our own libraries are not in any package yet.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/keymapmanager)
 
-# `multi_arch`: same, installed for several architectures side by side; foreign, used by packages of any.
+# `multi_arch`: same, installed for several architectures in parallel; foreign, used by packages of any.
 function(tavi_package_section component section multi_arch)
-  # CPack has no name for the field before 3.31: it goes out behind another.
+  # Before 3.31 CPack has no variable for this field, so it is appended to another.
   set(CPACK_DEBIAN_${component}_PACKAGE_SECTION "${section}\nMulti-Arch: ${multi_arch}" PARENT_SCOPE)
 endfunction()
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 tavi_package_section(RUNTIME libs same)
-# The trigger runs ldconfig. CPack leaves out the scripts that would do it too where it is given some of its own, and takes
-# none where those are not there.
+# The trigger runs ldconfig. If CPack is given maintainer scripts, it omits its own, which would run it as well; it
+# ignores scripts that do not exist.
 set(no_scripts ${PROJECT_BINARY_DIR}/packaging/none/postinst ${PROJECT_BINARY_DIR}/packaging/none/postrm)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${no_scripts})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
@@ -64,7 +64,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tavi)
 tavi_package_section(TOOLS utils foreign)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "libtaviinputmanager-dev")
-# Puts the rule of udev to use.
+# Activates the udev rule.
 configure_file(packaging/tavi.postinst packaging/tools/postinst COPYONLY)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/packaging/tools/postinst)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "keymaps for Android guests: try, check, simulate, record
@@ -78,7 +78,7 @@ input do so.
 This package holds the program, example keymaps and the documents for authors
 of keymaps.")
 
-# The files that every package has. They are no part of a plain installation.
+# The files that every package has, but a plain installation does not.
 set(changelog packaging/changelog.Debian)
 if(TAVI_FOR_DEBIAN)
   tavi_compress(packaging/changelog.Debian changelog)
@@ -102,8 +102,8 @@ foreach(package IN ITEMS "runtime ${runtime_package}" "development libtaviinputm
     DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
 
-# Two builds of one source are equal byte for byte, wherever and whenever they are made: all that has a time has that of
-# the last entry of the changelog.
+# Two builds of one source are equal byte for byte, wherever and whenever they are made: all file times are that of the
+# last entry in the changelog.
 if(TAVI_FOR_DEBIAN)
   find_program(TAVI_PARSE_CHANGELOG dpkg-parsechangelog REQUIRED)
   set(debian_changelog ${PROJECT_SOURCE_DIR}/packaging/changelog.Debian)

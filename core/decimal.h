@@ -13,7 +13,7 @@ constexpr std::size_t kLongestDecimal = 11;  // of an int: ten digits and a sign
 
 namespace decimal_detail {
 
-// "00" to "99", one behind the other.
+// "00" to "99" in a row.
 constexpr auto kPairs = [] {
   std::array<char, 200> digits{};
   for (std::size_t i = 0; i < 100; ++i) {
@@ -34,13 +34,13 @@ inline char* WritePair(char* at, unsigned pair) {
   return at + 2;
 }
 
-// As below.
+// Like WriteDecimalBefore.
 char* WriteLongDecimalBefore(char* end, int value);
 
 }  // namespace decimal_detail
 
-// Writes what std::to_chars writes, and returns the end. There is room for kLongestDecimal characters. Slots, flags and
-// pixels are short: those are written at a third of the price.
+// Writes what std::to_chars writes, and returns the end. Needs room for kLongestDecimal characters. Slots, flags and
+// pixels are short: writing those costs a third.
 inline char* WriteDecimal(char* at, int value) {
   using namespace decimal_detail;  // NOLINT(google-build-using-namespace)
   const auto number = static_cast<unsigned>(value);
@@ -51,14 +51,14 @@ inline char* WriteDecimal(char* at, int value) {
   return std::to_chars(at, at + kLongestDecimal, value).ptr;
 }
 
-// The same in front of `end`; returns the start.
+// The same before `end`; returns the start.
 inline char* WriteDecimalBefore(char* end, int value) {
   const bool is_digit = static_cast<unsigned>(value) < 10;
   return is_digit ? decimal_detail::WriteDigit(end - 1, static_cast<unsigned>(value)) - 1
                   : decimal_detail::WriteLongDecimalBefore(end, value);
 }
 
-// The int that is written from `begin` to `end`, as above; 0 where something else is.
+// The int written from `begin` to `end`, as above; 0 for anything else.
 inline int ReadDecimal(const char* begin, const char* end) {
   constexpr std::ptrdiff_t kSurelyFits = 9;  // digits
   if (begin != end && end - begin <= kSurelyFits) {

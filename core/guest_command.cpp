@@ -17,7 +17,7 @@ LineBuffer Line(QLatin1String word, Values... values) {
   return line;
 }
 
-// The text stands as it is: the line has no escapes.
+// The text is unchanged: lines have no escapes.
 QString TextLine(QLatin1String word, const QString& text) {
   QString line;
   line.reserve(word.size() + text.size() + 2);
@@ -26,7 +26,7 @@ QString TextLine(QLatin1String word, const QString& text) {
 
 }  // namespace
 
-// The slot stands twice: as the slot, and as the contact's tracking id.
+// The slot appears twice: as the slot, and as the contact's tracking id.
 LineBuffer SlotPress(int slot, int x, int y) { return Line(guest_words::kSlotPress, slot, slot, 1, 1, x, y); }
 LineBuffer SlotPress(int slot, const QPointF& place) {
   return Line(guest_words::kSlotPress, slot, slot, 1, 1, place.x(), place.y());

@@ -29,7 +29,7 @@ constexpr CodePair kScanToGuest[] = {
     {338, 110},       // Insert
     {339, 111},       // Delete
     {349, 139},       // Menu
-    {2147483647, 1},  // a key without scan code: Escape
+    {2147483647, 1},  // a key without a scan code: Escape
 };
 
 constexpr CodePair kButtonToGuest[] = {

@@ -1,4 +1,4 @@
-// The settings of a keymap, whatever of it is there.
+// The settings of a keymap, which may be incomplete.
 #ifndef CORE_KEYMAP_ACCESS_H_
 #define CORE_KEYMAP_ACCESS_H_
 
@@ -9,7 +9,7 @@ namespace taviinputmanager {
 const tavikeymapmanager::KeymapSettings& DefaultSettings();
 const tavikeymapmanager::WheelSettings& DefaultWheelSettings();
 
-// Defaults for a null config and for a config without the record. Valid for as long as the config.
+// Defaults for a null config and for a config without the record. Valid as long as the config.
 inline const tavikeymapmanager::KeymapSettings& SettingsOf(const tavikeymapmanager::KeymapConfig* config) {
   return config && config->settings ? *config->settings : DefaultSettings();
 }

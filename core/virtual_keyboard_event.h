@@ -1,4 +1,4 @@
-// A key event made inside the library, by a macro.
+// A key event that a macro creates inside the library.
 #ifndef CORE_VIRTUAL_KEYBOARD_EVENT_H_
 #define CORE_VIRTUAL_KEYBOARD_EVENT_H_
 
@@ -10,10 +10,10 @@ namespace taviinputmanager {
 
 class VirtualKeyboardEvent : public QKeyEvent {
  public:
-  // A key event of any form, with slot_index 0.
+  // A key event with any constructor, with slot_index 0.
   using QKeyEvent::QKeyEvent;
 
-  // The form with native codes, and the pointer behind it.
+  // The constructor with native codes, followed by the pointer.
   VirtualKeyboardEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, quint32 native_scan_code,
                        quint32 native_virtual_key, quint32 native_modifiers, const QString& text, bool auto_repeat,
                        ushort count, qint64 slot_index)

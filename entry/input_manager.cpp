@@ -1,4 +1,4 @@
-// Start, keymaps, and input made inside the library. The ways of events are in the file of routes.
+// Start, keymaps, and input created inside the library. The routing of events is in input_manager_routes.cpp.
 #include "core/input_manager.h"
 
 #include <algorithm>
@@ -42,7 +42,7 @@ using tavikeymapmanager::kWheelUpCode;
 namespace {
 
 constexpr int kNotch = 120;             // eighths of a degree
-constexpr int kMacroWheelUpCode = 224;  // the wheel as macros name it
+constexpr int kMacroWheelUpCode = 224;  // the wheel's name in macros
 constexpr int kMacroWheelDownCode = 225;
 
 void LogLoad(const QString& path, bool is_system, const QString& package, int display) {
@@ -65,7 +65,7 @@ InputManager::~InputManager() = default;
 
 void InputManager::Initialize(InputManagerCallbacks* callbacks) {
   callbacks_ = callbacks;
-  last_mouse_move_ms_ = std::min(last_mouse_move_ms_, Clock::NowMs());  // virtual time may lie before the real one
+  last_mouse_move_ms_ = std::min(last_mouse_move_ms_, Clock::NowMs());  // virtual time may precede real time
   DisplayGeometry::GetInstance()->SetCallbacks(callbacks);
   status_->SetCallbacks(callbacks);
   JoystickEventTransparentHandler::GetInstance()->SetCallbacks(callbacks);
@@ -91,7 +91,7 @@ void InputManager::OnLoadKeymapConfigAndInfo(const QString& path, const QString&
   QtWheelEventSimulateHandler::GetInstance()->ForgetConfig();
   keymap_config_.reset();
   keymap_config_.reset(tavikeymapmanager::LoadKeymapConfigAndInfo(source));
-  if (!keymap_config_) return;  // a library that failed: events are dropped until a load succeeds
+  if (!keymap_config_) return;  // a keymap library that failed: events are dropped until a load succeeds
 
   const auto& wheel_settings = WheelSettingsOf(keymap_config_.get());
   if (callbacks_ && callbacks_->OnVirtualJoystickChanged) {
@@ -125,7 +125,7 @@ void InputManager::SwitchStaring(bool enter) {
     return;
   }
   if (status_->GetStatus() != (enter ? InputStatus::StaringOff : InputStatus::Staring)) return;
-  DispatchVirtualEvent(key.device, 0, key.scancode, true, QPointF());  // never released: it acts on the press alone
+  DispatchVirtualEvent(key.device, 0, key.scancode, true, QPointF());  // never released: only its press has an effect
 }
 
 void InputManager::InjectText(const QString& text) {
@@ -137,7 +137,7 @@ void InputManager::InjectText(const QString& text) {
 void InputManager::DispatchVirtualEvent(const QString& device, qint64 id, int code, bool press, const QPointF& point) {
   if (IsSameText(device, keywords::kDeviceMouse)) return DispatchVirtualMouse(id, code, press, point);
   if (!IsSameText(device, keywords::kDeviceKeyboard)) return;
-  // Past recording, text mode and forced transparency: this is not the user. Keys have no pointer.
+  // Bypasses recording, text mode and forced transparency: this is not the user. Keys have no pointer.
   if (simulate_->SetVirtualKey(code, press)) return;
   QtKeyboardEventTransparentHandler::GetInstance()->SetVirtualKey(code, press);
 }
@@ -147,7 +147,7 @@ void InputManager::DispatchVirtualMouse(qint64 id, int code, bool press, const Q
     return DispatchWheelAt(point, code == kWheelUpCode ? kNotch : -kNotch);
   }
   const QEvent::Type type = press ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease;
-  const auto button = static_cast<Qt::MouseButton>(static_cast<quint32>(code));  // a macro may name any number
+  const auto button = static_cast<Qt::MouseButton>(static_cast<quint32>(code));  // a macro may contain any number
   const Qt::MouseButtons held = press ? Qt::MouseButtons(button) : Qt::NoButton;
   if (id != 0) {
     VirtualMouseEvent event(type, point, button, held, id);

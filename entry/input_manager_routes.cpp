@@ -1,4 +1,4 @@
-// The ways of events: who decides what a host event becomes.
+// The routing of events: which handler gets a host event.
 #include <QMouseEvent>
 #include <QTouchEvent>
 #include <QWheelEvent>
@@ -34,7 +34,7 @@ using tavikeymapmanager::JoystickEvent;
 
 namespace {
 
-constexpr int kMouseMoveFloorMs = 2;  // moves closer than this are dropped
+constexpr int kMouseMoveFloorMs = 2;  // moves that are closer in time are dropped
 
 bool IsLeft(const QMouseEvent* event) {
   return event->button() == Qt::LeftButton || event->buttons().testFlag(Qt::LeftButton);
@@ -65,7 +65,7 @@ void InputManager::RouteOther(QEvent* event) {
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
       return QtMultPointEventHandler::GetInstance()->OnTouchEvent(static_cast<QTouchEvent*>(event));
-    default: return;  // a double click and everything else is not ours
+    default: return;  // double clicks and all other events are not handled
   }
 }
 
@@ -105,7 +105,7 @@ QtMouseEventHandler* InputManager::SelectMoveHandler(QMouseEvent* event) const {
   return SelectMouseHandler(event);
 }
 
-// The left button makes a plain touch even on a display that is forced to be transparent.
+// The left button touches even on a display that is forced to be transparent.
 QtMouseEventHandler* InputManager::SelectMouseHandler(const QMouseEvent* event) const {
   QtMouseEventHandler* transparent = QtMouseEventTransparentHandler::GetInstance();
   if (IsForcedTransparent()) return IsLeft(event) ? simulate_ : transparent;

@@ -1,12 +1,12 @@
-// Whose functions of the keymap contract a program has.
+// Which library a program's functions of the keymap contract belong to.
 #ifndef HANDLERS_KEYMAP_ORIGIN_H_
 #define HANDLERS_KEYMAP_ORIGIN_H_
 
 namespace taviinputmanager {
 
-// Whether calls of a function reach our keymap library: no host has one of its own in front, and no other library
-// stands in its place. What ours answers may then be known beforehand. False also where that cannot be told. The same
-// for the whole run; any thread.
+// Whether calls of a function reach our keymap library: no host function of that name takes precedence, and no other
+// library replaces it. If so, its results may be kept. False also if that is unknown. The result does not change during
+// the run; any thread.
 bool IsKeyCreationOwn();  // CreateConfigKey
 bool IsKeyMatchOwn();     // isConfigKeyMatch
 

@@ -6,8 +6,8 @@
 namespace taviinputmanager {
 namespace {
 
-// Our keymap library has a second name for each of the functions, which nobody stands in front of; no other library has
-// it. It is looked up, so that it need not be there.
+// Our keymap library exports each function under a second name, which nothing overrides and no other library has. It is
+// looked up, so that it may be missing.
 template <typename Function>
 bool IsOwn(Function* called, const char* second_name) {
   return dlsym(RTLD_DEFAULT, second_name) == reinterpret_cast<const void*>(called);

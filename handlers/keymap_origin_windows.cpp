@@ -2,7 +2,7 @@
 
 namespace taviinputmanager {
 
-// Nobody can stand in front, but the library may be another's.
+// Nothing can override them, but the library may be another one.
 bool IsKeyCreationOwn() { return false; }
 
 bool IsKeyMatchOwn() { return false; }

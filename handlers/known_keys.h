@@ -12,15 +12,15 @@
 
 namespace taviinputmanager {
 
-// What our keymap library makes of a pair of codes is always the same, so that each key is made once and kept. A
-// function of the host's own is asked each time, and nothing is kept.
+// Our keymap library always creates the same key from the same codes, so each key is created once and kept. A function
+// of the host is called each time, and nothing is kept.
 //
-// Main thread. A key that was found stays as it is for the whole run.
+// Main thread. A key that was found does not change during the run.
 class KnownKeys {
  public:
   explicit KnownKeys(const QString& device) : device_(device) {}
 
-  // Calls `use` with the key of these codes, which is there for the call.
+  // Calls `use` with the key of these codes, which is valid during the call.
   template <typename Use>
   auto With(int virtual_key, int scancode, Use use) {
     tavikeymapmanager::ConfigKey* const known = Find(virtual_key, scancode);
@@ -30,7 +30,7 @@ class KnownKeys {
  private:
   static constexpr std::size_t kPlaces = 512;  // as many as a keyboard has scan codes; buttons are bits
 
-  // Null where the key has to be made anew.
+  // Null if the key has to be created.
   tavikeymapmanager::ConfigKey* Find(int virtual_key, int scancode) {
     tavikeymapmanager::ConfigKey& key = keys_[static_cast<unsigned>(scancode) % kPlaces];
     if (key.device.isEmpty()) return Keep(virtual_key, scancode, &key);
@@ -42,7 +42,7 @@ class KnownKeys {
     tavikeymapmanager::ConfigKey key = tavikeymapmanager::CreateConfigKey(device_, virtual_key, scancode);
     return use(&key);
   }
-  // The first key of a place has it for good.
+  // The first key of a place keeps it.
   Q_NEVER_INLINE tavikeymapmanager::ConfigKey* Keep(int virtual_key, int scancode,
                                                     tavikeymapmanager::ConfigKey* place) const {
     if (!is_making_own_) return nullptr;

@@ -43,7 +43,7 @@ void QtKeyboardEventTransparentHandler::SetVirtualKey(int code, bool press) {
 
 void QtKeyboardEventTransparentHandler::Press(int scancode) {
   const int code = KeyCodeConverter::GetInstance()->KeyToGuestCode(scancode);
-  InputStatusManager::GetInstance()->AddHeldKey(code);  // first: its release may come from inside the send
+  InputStatusManager::GetInstance()->AddHeldKey(code);  // first, because its release may come during the call
   SendEvent(guest_command::KeyPress(code));
 }
 

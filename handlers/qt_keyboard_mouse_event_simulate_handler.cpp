@@ -13,7 +13,8 @@
 #include "slots/mouse_slot_manager.h"
 #include "taviinputmanager/callbacks.h"
 
-// The keyboard side, and what both sides share. The mouse side is in the file beside this one.
+// The keyboard side, and the common part of both sides. The mouse side is in
+// qt_keyboard_mouse_event_simulate_handler_mouse.cpp.
 
 namespace taviinputmanager {
 
@@ -30,10 +31,10 @@ int VirtualKeyOf(const QKeyEvent* event) { return static_cast<int>(event->native
 
 int ScanCodeOf(const QKeyEvent* event) { return static_cast<int>(event->nativeScanCode()); }
 
-// Of a macro, which comes without an event.
+// A macro's key, which may come without an event.
 bool IsVirtual(const QKeyEvent* event) { return !event || dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
 
-// Gives the function keys of its own, since it may write to them.
+// Passes copies, because the function may write to its arguments.
 Q_NEVER_INLINE bool AskKeyMatch(KeymapConfig* config, const ConfigKey& configured, const ConfigKey& pressed) {
   ConfigKey first = configured;
   ConfigKey second = pressed;
@@ -95,7 +96,7 @@ EventSimulator* QtKeyboardMouseEventSimulateHandler::GetSimulator(const ConfigIt
 ConfigItem* QtKeyboardMouseEventSimulateHandler::FindPressedItem(const ConfigKey& key) {
   if (IsKeySet(current_key_)) {
     if (ConfigItem* chord = Index().FindChord(current_key_, key)) {
-      chord_items_[key.scancode] = chord;  // its release reaches the same item, whatever is armed by then
+      chord_items_[key.scancode] = chord;  // its release reaches the same item, whatever is armed then
       return chord;
     }
   }
@@ -167,14 +168,14 @@ bool QtKeyboardMouseEventSimulateHandler::PressEscape(const QKeyEvent* event) {
     status->AddHeldKey(kBackCode);
     SendEvent(guest_command::KeyPress(kBackCode));
   }
-  return true;  // it never reaches the guest as Escape
+  return true;  // the guest never gets it as Escape
 }
 
 bool QtKeyboardMouseEventSimulateHandler::ReleaseEscape(const QKeyEvent* event) {
   InputStatusManager* status = InputStatusManager::GetInstance();
   if (IsVirtual(event)) {
     const int code = IsEscapeToGuest() ? kEscapeCode : kBackCode;
-    status->AddHeldKey(code);  // not removed: the next reset releases a macro's Escape once more
+    status->AddHeldKey(code);  // not removed: the next reset releases a macro's Escape again
     SendEvent(guest_command::KeyRelease(code));
     return true;
   }
@@ -191,7 +192,7 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
   UpdateEscapeState();
 }
 
-// A function of the host's own is asked at each key, the library's gives the same answer as the index at hand.
+// A function of the host is called for each key; the library's own gives the same result as this index.
 bool QtKeyboardMouseEventSimulateHandler::IsKeyMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
   return is_key_match_own_ ? Index().IsFound(configured, pressed) : AskKeyMatch(config_, configured, pressed);
 }

@@ -22,13 +22,13 @@ using tavikeymapmanager::ConfigKey;
 
 namespace {
 
-// The class has no heirs and is of this library alone, so that one look at the type is enough; to compare two types by
-// operator== is to compare their names.
+// The class is final and belongs to this library, so comparing the types' addresses is enough; operator== would compare
+// their names.
 const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) {
   return &typeid(*event) == &typeid(VirtualMouseEvent) ? static_cast<const VirtualMouseEvent*>(event) : nullptr;
 }
 
-// The pointer that an event is of; 0 is the real mouse.
+// The pointer of an event; 0 is the real mouse.
 qint64 PointerOf(const QMouseEvent* event) {
   const VirtualMouseEvent* virtual_event = AsVirtual(event);
   return virtual_event ? virtual_event->slot_index : 0;
@@ -96,7 +96,7 @@ void QtKeyboardMouseEventSimulateHandler::OnMouseMove(QMouseEvent* event) {
 void QtKeyboardMouseEventSimulateHandler::PressLeft(QMouseEvent* event, ConfigItem* item, ConfigKey* key) {
   if (IsStaring()) {
     if (IsFire(item)) StaringAndFireEventSimulator::GetInstance()->Press(item, key);
-    return;  // while staring the left button makes no touch of its own
+    return;  // during view control the left button has no contact of its own
   }
   MoveLeftFinger(event);
 }
@@ -115,7 +115,7 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
 
 void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
   const auto finger = FingerOf(event);
-  if (!finger) return;  // the pool is empty: the press is given up
+  if (!finger) return;  // the pool is empty: the press is dropped
   finger->position = RoundedPoint(qt::PlaceOf(*event));
   SendEvent(finger->UpdateLine());
 }
@@ -145,7 +145,7 @@ void QtKeyboardMouseEventSimulateHandler::SetButton(qint64 id, Qt::MouseButton b
   unsigned& held = mouse_buttons_[id];
   const auto bit = static_cast<unsigned>(button);
   held = down ? held | bit : held & ~bit;
-  if (held == 0 && id != 0) mouse_buttons_.remove(id);  // virtual pointers come and go
+  if (held == 0 && id != 0) mouse_buttons_.remove(id);  // virtual pointers are created and deleted
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsButtonHeld(qint64 id, Qt::MouseButton button) const {

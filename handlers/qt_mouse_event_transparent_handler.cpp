@@ -21,7 +21,7 @@ void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interva
   MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
   pointer->AddRelative(dx * factor, dy * factor);
   const qint64 now = Clock::NowMs();
-  if (now - last_relative_send_ms_ < interval_ms) return;  // the next send carries this movement too
+  if (now - last_relative_send_ms_ < interval_ms) return;  // the next line includes this movement too
   last_relative_send_ms_ = now;
   SendEvent(pointer->MoveLine());
 }

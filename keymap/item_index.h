@@ -45,18 +45,18 @@ class ItemIndex {
   // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item: whether one of the
   // searches would find it.
   bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (!strangers_.empty()) return IsMatchInList(configured, pressed);          // each is asked both, in its place
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);          // each is called for both, at its position
     if (HeadOf(configured) == kNone && !MayBeInChord(configured)) return false;  // as for most keys
     return IsFoundInEntries(configured, pressed);
   }
 
-  // The same for the keys as they are now: looks at every item.
+  // The same for the current keys: checks every item.
   bool IsMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     return (!strangers_.empty() || MayMatch(configured, pressed)) && IsMatchInList(configured, pressed);
   }
 
  private:
-  // A key, with the name of its device shared by all who are known by it: those are compared at a glance.
+  // A key. Equal device names share their data, so that comparing them is one comparison of pointers.
   struct KnownKey {
     explicit KnownKey(const ConfigKey& its_key)
         : device(Shared(its_key.device)),
@@ -150,7 +150,7 @@ class ItemIndex {
     const unsigned spread = static_cast<unsigned>(scancode) * kSpread;
     return spread ^ (spread >> 15U);
   }
-  // Where no entry's key is a joystick's, there is none to be found, by whatever hash.
+  // If no entry has a joystick key, none is found whatever its hash.
   unsigned HashOf(const ConfigKey& key) const {
     return has_joystick_keys_ && IsJoystickKey(key) ? qHash(key.text) : HashOf(key.scancode);
   }

@@ -8,7 +8,7 @@ namespace tavikeymapmanager {
 
 namespace {
 
-// The tables hand out places to write to; nothing here writes.
+// The tables return writable places; nothing here writes.
 RecordRef RefOf(const ConfigItem& item) { return const_cast<ConfigItem*>(&item); }
 
 bool IsReadable(FieldKind kind) {
@@ -23,7 +23,7 @@ bool IsReadable(FieldKind kind) {
   }
 }
 
-// Null for a field whose value cannot be told. A click without a chord is held as a plain item, without the key's part.
+// Null for a field without a known value. A click without a chord is stored as a plain item, without the key's part.
 const Field* FindField(const ConfigItem& item, const QString& name) {
   const RecordTable* table = FindItemTable(item.type);
   const Field* field = table == nullptr ? nullptr : table->Find(name);

@@ -28,7 +28,7 @@ KeymapConfig* LoadJoystickConfigAndInfo(const QString& path) { return Load(path)
 
 void SetTextForConfigKey(ConfigKey* key) {
   if (key == nullptr) return;
-  if (key->device == keywords::kDeviceJoystick) return;  // its text is what it is known by
+  if (key->device == keywords::kDeviceJoystick) return;  // identified by its text
   key->text = KeyIndex::Get().TextOf(key->device, key->virtual_key, key->scancode);
 }
 

@@ -31,7 +31,7 @@ class Outliner {
     return record;
   }
 
-  // The dash in front of an entry: behind what stands before it there are only spaces and comments.
+  // The dash after `position`, which only spaces and comments precede.
   int DashBehind(int position) const {
     while (position < text_.size() && (IsSpace(text_[position]) || text_[position] == '#')) {
       if (text_[position] == '#') {
@@ -71,7 +71,7 @@ class Outliner {
   }
 
   const QByteArray& text_;
-  QVector<int> bytes_;  // where each character begins, and the end
+  QVector<int> bytes_;  // the start of each character, and the end
 };
 
 bool IsOtherEncoding(const QByteArray& text) { return text.startsWith("\xFF\xFE") || text.startsWith("\xFE\xFF"); }

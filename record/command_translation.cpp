@@ -26,7 +26,7 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-// A part of a line, or a whole one: of a text of any script, or of a line as it was put together here.
+// A part of a line, or a whole one: of a text in any script, or of a line that was built here.
 int IntOf(const QStringView& part) { return part.toInt(); }
 int IntOf(QLatin1String part) { return ReadDecimal(part.begin(), part.end()); }
 
@@ -41,7 +41,7 @@ QString ToString(QLatin1String part) { return part; }
 
 constexpr QLatin1Char kColon(':');
 
-// Of a line, between its colons; the word is part 0.
+// A part of a line, separated by colons; the word is part 0.
 template <typename Text>
 QVarLengthArray<Text, 16> PartsOf(const Text& line) {
   QVarLengthArray<Text, 16> parts;
@@ -78,7 +78,7 @@ QString Joined(QLatin1String word, const QString& argument) {
   return data.append(word).append(kColon).append(argument);
 }
 
-// The texts of all slots share theirs.
+// Slots whose texts all actions share.
 QString SlotText(int slot) {
   constexpr int kSlots = 26;
   static const auto texts = [] {
@@ -89,15 +89,15 @@ QString SlotText(int slot) {
   return slot >= 0 && slot < kSlots ? texts[static_cast<std::size_t>(slot)] : QString::number(slot);
 }
 
-// Nothing on a display without size, where there are no fractions.
+// Nothing on a display without a size, which has no fractions.
 std::optional<QPointF> FractionOf(int x, int y) {
   const QPointF point = DisplayGeometry::GetInstance()->DisplayToRelative(QPointF(x, y));
   if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return std::nullopt;
   return point;
 }
 
-// A word, a colon and a point. Fingers come down on the same points again and again: such texts share one, and are not
-// put together anew.
+// A word, a colon and a point. Contacts are often pressed at the same points: such texts are shared instead of built
+// again.
 QString PointText(QLatin1String word, const QPointF& point) {
   struct Made {
     const char* word = nullptr;
@@ -210,7 +210,7 @@ bool Gamepad(const Text& line, RecordAction* action) {
   return true;
 }
 
-// How much of a line has to be the word.
+// How the start of a line is compared with the word.
 enum class Match {
   kWord,       // the line starts with the word
   kWordColon,  // and a colon follows it
@@ -237,7 +237,7 @@ bool Fits(const Text& line, const Rule<Text>& rule) {
   return line.size() == end;
 }
 
-// In this order; the first that fits decides.
+// In this order; the first that matches decides.
 template <typename Text>
 constexpr Rule<Text> kRules[] = {
     {guest_words::kSlotPress, Match::kWordColon, &Texts::touch, TouchPress<Text>},
@@ -266,7 +266,7 @@ bool Translate(const Text& line, RecordAction* action) {
   return false;
 }
 
-// False when the line is another, or has no text.
+// False if it is another line, or if there is no text.
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
   const int end = line_word.size();
   if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;

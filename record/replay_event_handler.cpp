@@ -21,23 +21,23 @@ namespace {
 
 constexpr unsigned kDisturbances = 3;  // display pixels: 0, 1 or 2
 
-// In display pixels of the moment. The null point, which is also the top left corner, is no point.
+// In pixels of the current display. The null point, which is also the top left corner, is not a point.
 QPointF DisplayPoint(const QString& text) { return DisplayGeometry::GetInstance()->RelativeToDisplay(ReadPoint(text)); }
 
-// Both coordinates up, or both down. 0 is a floor; there is no ceiling.
+// Both coordinates rounded up, or both down. The minimum is 0; there is no maximum.
 QPointF Disturbed(const QPointF& point) {
   const int direction = std::rand() % 2 != 0 ? 1 : -1;
   const auto move = [direction](qreal v) {
     const auto pixels = static_cast<int>(QRandomGenerator::global()->generate() % kDisturbances);
     return std::max<qreal>(0, v + direction * pixels);
   };
-  const qreal x = move(point.x());  // x is drawn first
+  const qreal x = move(point.x());  // the random value of x comes first
   return {x, move(point.y())};
 }
 
 bool HasMoreThan(const QString& data, QLatin1String word) { return data.startsWith(word) && data.size() > word.size(); }
 
-// Whether there is exactly one argument, which goes to `argument`.
+// Whether there is exactly one argument, which is stored in `argument`.
 bool OneArgument(const QString& data, QString* argument) {
   const QStringList parts = data.split(QLatin1Char(':'));
   if (parts.size() != 2) return false;
@@ -91,7 +91,7 @@ void ReplayEventHandler::OnTouchAction(const QString& data, const QString& extra
   if (data.startsWith(kPressMultiRel)) return MultiPress(data, extra1);
   if (data == kReleaseMulti) return MultiRelease(extra1);
   if (data != kReset) return;
-  pressed_slots_.clear();  // the pool and the map stay: later presses find their old slots
+  pressed_slots_.clear();  // the pool and the map stay: later presses get their previous slots
   SendToReplay(guest_command::SlotReleaseAll());
 }
 
@@ -144,7 +144,7 @@ void ReplayEventHandler::MultiRelease(const QString& slot_texts) {
 
 void ReplayEventHandler::OnInputMethodAction(const QString& data, const QString& /*extra1*/,
                                              const QString& /*extra2*/) {
-  // Whatever stands between the word and the text counts as the colon.
+  // Anything between the word and the text counts as the colon.
   if (HasMoreThan(data, kTextInject)) return SendText(guest_command::Text(data.mid(kTextInject.size() + 1)));
   if (HasMoreThan(data, kTextControl)) SendText(guest_command::TextControl(data.mid(kTextControl.size() + 1)));
 }
@@ -161,7 +161,7 @@ void ReplayEventHandler::Reset() {
 }
 
 void ReplayEventHandler::ResumeHeldInput() {
-  // Copies: the host may restart a replay from inside a send, which forgets all this.
+  // Copies: the host may restart a replay during a call, which clears all this.
   const QMap<int, QString> slots = pressed_slots_;
   const QStringList multi_slots = pressed_multi_slots_.values();
   const CodeSet keys = replayed_keys_;

@@ -51,7 +51,7 @@ void ScreenContacts::ReportContacts(const GuestLine& line, EventFrame* frame) {
   }
 }
 
-// The tracking id stands behind the slot.
+// The tracking id follows the slot.
 void ScreenContacts::Press(const GuestLine& line, size_t slot_index, size_t place_index, EventFrame* frame) {
   const int slot = line.Integer(slot_index);
   const int tracking_id = line.Integer(slot_index + 1);
@@ -66,14 +66,14 @@ void ScreenContacts::Press(const GuestLine& line, size_t slot_index, size_t plac
   frame->Axis(ABS_MT_POSITION_X, point.x).Axis(ABS_MT_POSITION_Y, point.y);
 }
 
-// A finger that found no room is told once, not with each of its moves.
+// A contact without a free place is reported once, not with each of its moves.
 bool ScreenContacts::HasRoomFor(int slot) {
   if (down_.count(slot) > 0 || down_.size() < most_fingers_) {
     refused_.erase(slot);
     return true;
   }
   if (refused_.insert(slot).second) {
-    problem_ = "more than " + std::to_string(most_fingers_) + " fingers at once are not seen there; left out";
+    problem_ = "more than " + std::to_string(most_fingers_) + " fingers at once are not supported; ignored";
   }
   return false;
 }
@@ -88,7 +88,7 @@ void ScreenContacts::Release(int slot, EventFrame* frame) {
     return;
   }
   refused_.erase(slot);
-  if (down_.erase(slot) == 0) return;  // up already, as most slots that a reset sweeps
+  if (down_.erase(slot) == 0) return;  // already up, like most slots that a reset sweeps
   frame->Axis(ABS_MT_SLOT, slot).Axis(ABS_MT_TRACKING_ID, kNoTrackingId);
 }
 

@@ -27,7 +27,7 @@ bool HasAll(const libevdev* device, unsigned type, unsigned first, unsigned last
 
 bool Has(const libevdev* device, unsigned type, unsigned code) { return HasAll(device, type, code, code); }
 
-// Escape to S: what udev takes a keyboard to have.
+// Escape to S: the keys by which udev recognizes a keyboard.
 bool HasLetters(const libevdev* device) { return HasAll(device, EV_KEY, KEY_ESC, KEY_S); }
 
 DeviceTraits TraitsOf(const libevdev* device, const QString& path) {
@@ -65,7 +65,7 @@ std::unique_ptr<EvdevDevice> EvdevDevice::Open(const QString& path, QString* pro
 EvdevDevice::EvdevDevice(int file, libevdev* device, const QString& path)
     : file_(file), device_(device), traits_(TraitsOf(device, path)) {}
 
-// Closing gives a grab back.
+// Closing ends a grab.
 EvdevDevice::~EvdevDevice() {
   libevdev_free(device_);
   ::close(file_);
@@ -92,14 +92,14 @@ bool EvdevDevice::Read(const FrameTaker& take) {
 
 bool EvdevDevice::IsAnyKeyDown() const {
   std::array<unsigned char, KEY_CNT / kBitsInByte> keys{};
-  if (::ioctl(file_, EVIOCGKEY(keys.size()), keys.data()) < 0) return false;  // gone: nothing can hang
+  if (::ioctl(file_, EVIOCGKEY(keys.size()), keys.data()) < 0) return false;  // disconnected: no key can be stuck
   return std::any_of(keys.begin(), keys.end(), [](unsigned char byte) { return byte != 0; });
 }
 
 QString EvdevDevice::Grab() {
   const int result = libevdev_grab(device_, LIBEVDEV_GRAB);
   if (result == 0) return {};
-  return result == -EBUSY ? QStringLiteral("another program keeps it for itself") : qt_error_string(-result);
+  return result == -EBUSY ? QStringLiteral("another program has grabbed it") : qt_error_string(-result);
 }
 
 void EvdevDevice::Ungrab() { libevdev_grab(device_, LIBEVDEV_UNGRAB); }

@@ -12,7 +12,7 @@ namespace tavi {
 // An input device of this machine's kernel.
 class EvdevDevice : public PhysicalDevice {
  public:
-  // Null, and `problem` says why, when it cannot be opened.
+  // Null if it cannot be opened; `problem` is then the reason.
   static std::unique_ptr<EvdevDevice> Open(const QString& path, QString* problem);
   ~EvdevDevice() override;
   EvdevDevice(const EvdevDevice&) = delete;
@@ -20,7 +20,7 @@ class EvdevDevice : public PhysicalDevice {
 
   const DeviceTraits& Traits() const override { return traits_; }
   int File() const override { return file_; }
-  // Where the kernel had no room for all, what is down now is told in place of what was lost.
+  // If the kernel's buffer overflowed, the current state is reported in place of the lost events.
   bool Read(const FrameTaker& take) override;
   bool IsAnyKeyDown() const override;
   QString Grab() override;
@@ -32,7 +32,7 @@ class EvdevDevice : public PhysicalDevice {
   const int file_;
   libevdev* const device_;
   const DeviceTraits traits_;
-  InputFrame frame_;  // of which more is to come
+  InputFrame frame_;  // an incomplete frame
 };
 
 }  // namespace tavi

@@ -8,7 +8,7 @@ QString UinputOutlet::Open(const QSize& surface) {
   taviguest::GuestOptions options;
   options.surface = {surface.width(), surface.height()};
   const std::lock_guard<std::mutex> lock(lock_);
-  guest_.reset();  // the names of the devices are free again before they are taken
+  guest_.reset();  // the old devices' names are free before new devices use them
   auto guest = std::make_unique<taviguest::UinputGuest>(options);
   const std::string problem = guest->Open();
   if (problem.empty()) guest_ = std::move(guest);

@@ -13,10 +13,10 @@ namespace tavi {
 // Plays the lines on devices of this machine's kernel, in this process: a line is on its device before Send returns.
 class UinputOutlet : public GuestOutlet {
  public:
-  // `tell` gets what could not be played, for people, on the thread of Send.
+  // `tell` gets the errors, for display, on the thread of Send.
   explicit UinputOutlet(std::function<void(const QString&)> tell) : tell_(std::move(tell)) {}
 
-  // Takes 0.3 s, in which readers find the devices.
+  // Takes 0.3 s, the time that readers need to find the devices.
   QString Open(const QSize& surface) override;
   void Send(const char* data, int length) override;
   void LiftAll() override;
@@ -25,7 +25,7 @@ class UinputOutlet : public GuestOutlet {
 
  private:
   const std::function<void(const QString&)> tell_;
-  std::mutex lock_;  // of the guest: a replay ends on a thread of its own
+  std::mutex lock_;  // for the guest: a replay ends on a thread of its own
   std::unique_ptr<taviguest::UinputGuest> guest_;
 };
 

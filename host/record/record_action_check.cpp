@@ -12,11 +12,11 @@ using Kind = RecordTouch::Kind;
 
 namespace {
 
-const QString kNoPoint = QStringLiteral("data: \"%1\" is no point such as (0.5,0.25); dropped");
-const QString kNoCoordinate = QStringLiteral("data: a coordinate of \"%1\" is no number and reads as 0");
-const QString kCorner = QStringLiteral("data: (0,0) counts as no point; dropped");
-const QString kUnknownData = QStringLiteral("data: \"%1\" is no command of this type; dropped");
-const QString kNoNumber = QStringLiteral("%1: \"%2\" is no whole number and reads as 0");
+const QString kNoPoint = QStringLiteral("data: \"%1\" is not a point such as (0.5,0.25); dropped");
+const QString kNoCoordinate = QStringLiteral("data: a coordinate of \"%1\" is not a number and reads as 0");
+const QString kCorner = QStringLiteral("data: (0,0) is not a valid point; dropped");
+const QString kUnknownData = QStringLiteral("data: \"%1\" is not a command of this type; dropped");
+const QString kNoNumber = QStringLiteral("%1: \"%2\" is not a whole number and reads as 0");
 
 bool IsWholeNumber(const QString& text) {
   bool is_number = false;
@@ -30,7 +30,8 @@ struct PointText {
   QString problem;
 };
 
-// "(0.5,0.25)", as a replay reads it: a coordinate that is no number is 0, and the corner (0,0) is no point.
+// "(0.5,0.25)", with the rules of a replay: a coordinate that is not a number is 0, and the corner (0,0) is not a
+// point.
 PointText ReadPoint(const QString& text) {
   const QStringList parts = text.split(QLatin1Char(','));
   if (!text.startsWith(QLatin1Char('(')) || !text.endsWith(QLatin1Char(')')) || parts.size() != 2) {
@@ -43,7 +44,7 @@ PointText ReadPoint(const QString& text) {
   return {point, false, is_x && is_y ? QString() : kNoCoordinate.arg(text)};
 }
 
-// "word:argument"; nothing for another number of colons.
+// "word:argument"; nothing for any other number of colons.
 std::optional<QString> OnlyArgument(const QString& data) {
   const QStringList parts = data.split(QLatin1Char(':'));
   if (parts.size() != 2) return std::nullopt;
@@ -118,7 +119,7 @@ QString JoystickProblem(const RecordAction& action) {
   return action.data.isEmpty() ? QStringLiteral("data: empty; dropped") : QString();
 }
 
-// What it means is between the host and itself.
+// Its meaning is up to the host.
 QString HostCommandProblem(const RecordAction& /*action*/) { return {}; }
 
 struct ActionType {

@@ -20,7 +20,7 @@ InputPort* InputPort::GetInstance() {
   return &instance;
 }
 
-// Where nobody listens, words for an event would be the dearest part of its way.
+// If nobody listens, describing events would be the most expensive part of handling them.
 bool InputPort::IsHeard() const {
   static const QMetaMethod began = QMetaMethod::fromSignal(&InputPort::Began);
   return isSignalConnected(began);

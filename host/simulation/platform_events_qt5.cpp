@@ -5,9 +5,9 @@
 #include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 
-// Every event dispatcher under a QGuiApplication calls this one function. Its header is not among those that Qt 5
-// installs for applications, though the library exports it. The platform's own dispatcher, which does for Qt 6, keeps
-// events back here while a dialog runs a loop of its own.
+// Every event dispatcher under a QGuiApplication calls this function. Qt 5 does not install its header for
+// applications, though the library exports it. The platform's own dispatcher, which works for Qt 6, holds events back
+// here while a dialog runs a nested loop.
 class Q_GUI_EXPORT QWindowSystemInterface {
  public:
   static bool sendWindowSystemEvents(QEventLoop::ProcessEventsFlags flags);

@@ -12,7 +12,7 @@ QByteArray BytesOf(std::string_view text) {
 
 }  // namespace
 
-// A document is a list or an object, so each value stands in a list of its own.
+// A document is a list or an object, so each value is put in a list of its own.
 
 QJsonValue Read(std::string_view value) { return QJsonDocument::fromJson('[' + BytesOf(value) + ']').array().at(0); }
 

@@ -13,11 +13,11 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-constexpr int kColumnsToTheRight = 8;  // a list of a document is two levels deeper as that of an item
-// How the library writes the empty list of an item. No text can look like it: in those, a line's end is an escape.
+constexpr int kColumnsToTheRight = 8;  // a list of a document is indented by two more levels as the list of an item
+// How the library writes the empty list of an item. No text can look like it, because a line end in a text is escaped.
 constexpr std::string_view kEmptyList = "[\n            ]";
 
-// Actions win over items.
+// Actions take precedence over items.
 const ByteRange& ListOf(const RecordPlaces& places) {
   return places.actions ? *places.actions : *places.merged_actions;
 }

@@ -17,7 +17,7 @@ namespace {
 
 std::string_view ViewOf(const QByteArray& bytes) { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
 
-// Writes actions as elements of the document's list: keys in ascending order, four columns a level.
+// Writes actions as elements of the document's list: keys in ascending order, four columns per level.
 class ActionWriter {
  public:
   explicit ActionWriter(JsonOutput* output) : output_(output) {}
@@ -52,7 +52,7 @@ class ActionWriter {
 }  // namespace
 
 bool WriteRecord(const QJsonObject& info, const QList<RecordAction*>& actions, QIODevice* target) {
-  // The library writes what is around the actions. Theirs is the first list.
+  // The library writes everything around the actions. Their list is the first.
   const QByteArray frame = QJsonDocument(QJsonObject{{kActions, QJsonArray()}, {kInfo, info}}).toJson();
   const int place = frame.indexOf("[\n") + 2;
 

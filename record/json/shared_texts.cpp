@@ -12,7 +12,7 @@ QLatin1String Plain(std::string_view ascii) { return QLatin1String(ascii.data(),
 
 }  // namespace
 
-// Words differ in their ends, numbers in any digit.
+// Words differ at their ends, numbers in any digit.
 template <typename Text>
 QString& SharedTexts::PlaceOf(const Text& text) {
   const auto size = static_cast<std::size_t>(text.size());

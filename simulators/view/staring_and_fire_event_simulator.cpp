@@ -54,9 +54,9 @@ void StaringAndFireEventSimulator::ConnectWorkers() {
 
 void StaringAndFireEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   std::call_once(connected_, [this] { ConnectWorkers(); });
-  if (!item) return;  // its type is what is asked for
+  if (!item) return;  // its type is what matters
   if (item->type == keywords::kTypeFire) {
-    if (!IsStaring()) return;  // there is nothing to aim by
+    if (!IsStaring()) return;  // there is nothing to aim with
     FireSyncWorker::GetInstance()->OnFirePress(item);
   } else if (item->type == keywords::kTypeStaring) {
     ToggleStaring(item, key->text);
@@ -90,7 +90,7 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
     staring_item_ = staring ? std::make_unique<const StaringConfigItem>(*staring) : nullptr;
     status->SetStatus(InputStatus::Staring, key_text);
     if (IsStaring()) staring_->StartStaring(staring);
-    if (!IsStaring()) StopAutoReset();  // the host turned it off from inside
+    if (!IsStaring()) StopAutoReset();  // the host turned it off during the call
   }
   LiftViewFinger();  // whatever it was down for
 }
@@ -98,12 +98,12 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
 void StaringAndFireEventSimulator::PressObserve(const ConfigItem* item, const QString& key_text) {
   InputStatusManager* status = InputStatusManager::GetInstance();
   switch (status->GetStatus()) {
-    case InputStatus::Staring: break;  // observing inside view control is no status of its own
+    case InputStatus::Staring: break;  // observing during view control has no status of its own
     case InputStatus::Normal:
     case InputStatus::StaringOff:
       has_observe_item_ = dynamic_cast<const ObserveConfigItem*>(item) != nullptr;
       status->SetStatus(InputStatus::Observing, key_text);
-      if (status->GetStatus() != InputStatus::Observing) return;  // the host let go of the key from inside
+      if (status->GetStatus() != InputStatus::Observing) return;  // the host released the key during the call
       break;
     default: return;  // a second observe key
   }

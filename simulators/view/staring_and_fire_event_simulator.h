@@ -16,11 +16,11 @@ namespace taviinputmanager {
 
 class StaringWmRelativeInputWorker;
 
-// Moves the status of the input layer between view control, observing and neither, by keys, and gives the relative
-// counts to the one of three workers whose turn it is: staring, unless a fire key in relative mode or an observe key is
-// held. The key that came last has the counts, and the first of them to come up gives them back to staring.
+// Switches the status of the input layer between view control, observing and neither, by keys, and passes the relative
+// counts to one of three workers: staring, unless a fire key in relative mode or an observe key is held. The key
+// pressed last gets the counts; the first of them to be released returns them to staring.
 //
-// Works on copies: counts may follow the end of the keymap that an item was in. Main thread.
+// Works on copies: counts may arrive after the keymap of an item was deleted. Main thread.
 class StaringAndFireEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -32,17 +32,17 @@ class StaringAndFireEventSimulator : public EventSimulator {
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // Relative counts of one host event, while view control or observing is on.
+  // The relative counts of one host event, while view control or observing is on.
   void OnRelativeInput(int dx, int dy);
-  // Stops the timer that lifts the view finger.
+  // Stops the timer that releases the view contact.
   void StopAutoReset();
 
  public Q_SLOTS:
-  // The spell-cancel key went down while a fire key in relative mode is held.
+  // The spell-cancel key was pressed while a fire key in relative mode is held.
   void OnSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
 
  private:
-  // Whom the relative counts belong to.
+  // The owner of the relative counts.
   enum class RelativeRoute { kFire = 1, kStaring = 2, kObserve = 3 };
 
   StaringAndFireEventSimulator();

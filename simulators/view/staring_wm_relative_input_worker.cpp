@@ -11,10 +11,10 @@ using tavikeymapmanager::StaringConfigItem;
 
 namespace {
 
-// Pixels a count from the item's per cent and the user's factor: straight from 1 per cent at factor 0 to the item's
+// Pixels per count from the item's per cent and the user's factor: linear from 1 per cent at factor 0 to the item's
 // value at 1, and from there to 200 per cent at 2.
 double EffectiveSensitivity(double base, double factor, double present) {
-  if (!(base > 0)) return present;  // an axis without a value of its own keeps what it had
+  if (!(base > 0)) return present;  // an axis without a value keeps its previous one
   const double percent = factor <= 1.0 ? (base - 1) * factor + 1 : (200 - base) * (factor - 1) + base;
   return percent / 100;
 }
@@ -55,7 +55,7 @@ void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigIte
   accumulated_.Add(dx, dy);
   const bool is_down = finger_->HasTouch();
   const qint64 now = Clock::NowMs();
-  if (now - last_send_ms_ < (is_down ? item->move_interval_ms : item->press_interval_ms)) return;  // too soon to send
+  if (now - last_send_ms_ < (is_down ? item->move_interval_ms : item->press_interval_ms)) return;  // too early to send
   const QPoint& centre = range_.GetCentre();
   if (is_down) {
     const QPoint way = accumulated_.ToPixels(effective_sensitivity_);

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The input manager library exports the functions of its header and no other symbol. Both libraries say in their names
-and at each symbol which programs they fit.
+"""The input manager library exports the functions of its header and no other symbol. Both libraries have
+their version in their names and at each symbol.
 
     exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY HEADER VERSION
 """
@@ -27,7 +27,7 @@ def exported(library):
 
 
 def declared():
-    """Names of the functions that the header marks as exported."""
+    """The names of the functions that the header exports."""
     return re.findall(r"^TAVI_EXPORT\s+[^;(]*?(\w+)\(", Path(HEADER).read_text(encoding="utf-8"), re.MULTILINE)
 
 

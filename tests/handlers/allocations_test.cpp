@@ -79,7 +79,7 @@ TEST_F(Allocations, ARelativeMoveOfTheViewTakesNone) {
   Add<StaringConfigItem>("Staring", "W", {0.5, 0.5});
   LoadQuietly();
   Tap(kW);
-  OnWindowsWmRelativeInputEvent(0, 0);  // the finger goes down
+  OnWindowsWmRelativeInputEvent(0, 0);  // the finger is put down
   EXPECT_EQ(0, Of([] { OnWindowsWmRelativeInputEvent(1, 1); }));
   EXPECT_EQ(1, lines);
 }

@@ -313,7 +313,7 @@ TEST_F(TransparentGamepad, EachEventGoesToTheDisplayOfItsMoment) {
   Play("joy down A; joy axis 0 1,0");
   EXPECT_WIRE("0ms 1:GPDBUTTON:304:1", "0ms 1:LSTICKAXIS:1000000:0");
   Play("display 2");
-  EXPECT_EQ("", WithoutSweep(TakeWire()));  // what the gamepad holds is not let go
+  EXPECT_EQ("", WithoutSweep(TakeWire()));  // what the gamepad holds is not released
   Play("joy up A; joy axis 0 0,0");
   EXPECT_WIRE("0ms 2:GPDBUTTON:304:0", "0ms 2:LSTICKAXIS:0:0");
 }

@@ -50,8 +50,8 @@ TEST_F(Wheel, AMappedNotchIsATapOf50MsThatBlocks) {
   EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not told
 }
 
-// 40 taps a second are a change each 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
-// thread sleeps over all of it.
+// 40 taps per second are a change every 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
+// thread sleeps during all of it.
 TEST_F(Wheel, ARapidTapTapsOnDuringItsNotch) {
   auto* bunch = Add<tavikeymapmanager::BunchClickConfigItem>("BunchClick", "Wheel Up", {0.5, 0.5});
   bunch->bunch_mode = "Continue";
@@ -178,7 +178,7 @@ TEST_F(Wheel, AnAppOfTheSystemHasAKeymap) {
   EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
 }
 
-// No load leads here, so the status is told by hand. The third field is the place once more, with the turn's sign.
+// No load leads to this status, so the test sets it. The third field is the position again, with the wheel's sign.
 TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   LoadNothing("com.example");
   const tavikeymapmanager::KeymapConfig none;
@@ -192,7 +192,7 @@ TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
 }
 
-// The greatest int stands for no place: one on the far edge of a surface that wide has none.
+// The largest int means no position: a point on the far edge of a surface of that width has none.
 TEST_F(Wheel, APlainTurnWithoutAPlaceSaysNothing) {
   const int most = std::numeric_limits<int>::max();
   const struct {
@@ -224,7 +224,7 @@ TEST_F(Wheel, MovesAreSwallowedWhileItsGestureRuns) {
 TEST_F(Wheel, ASwallowedMoveStillCountsForTheNext) {
   Settings().mouse_mode = "Mouse_OtherButton_Transparent";
   Load();
-  // The swipe of a turn ends 21 ticks of 8 ms behind it: at 173 ms, where no timer runs any more.
+  // The swipe of a wheel movement ends 21 ticks of 8 ms later: at 173 ms, when no timer is running anymore.
   Play("wait 5; wheel +120 640,360; wait 167; move 100,100; wait 1");
   Forget();
   Play("move 100,100");  // 1 ms behind a swallowed one

@@ -137,7 +137,7 @@ TEST_F(Index, AStrangerKeepsItsPlaceAndIsAskedEachTime) {
   ConfigItem* behind = AddOn<ConfigItem>(KeyboardKey(5));
   index_.Follow(items_);
   EXPECT_EQ(before, index_.FindAlone(KeyboardKey(2)));
-  EXPECT_TRUE(asked.empty());  // it stands behind
+  EXPECT_TRUE(asked.empty());  // it comes after
   EXPECT_EQ(stranger, index_.FindAlone(KeyboardKey(4)));
   EXPECT_EQ(behind, index_.FindAlone(KeyboardKey(5)));
   EXPECT_EQ((std::vector<std::string>{"stranger alone", "stranger alone"}), asked);

@@ -49,11 +49,12 @@ TEST(Hints, AFieldThatBelongsElsewhereIsSentThere) {
 
 TEST(Hints, ADecimalCommaIsToldAsSuch) {
   EXPECT_EQ(
-      "3:32 error: 'point': expected [x, y], both from 0 to 1, got four numbers; the decimal sign is a point: "
+      "3:32 error: 'point': expected [x, y], both from 0 to 1, got four numbers; the decimal separator is a point: "
       "[0.5, 0.25]",
       Said(ReadItems("- {key: A, type: Click, point: [0,5, 0,25]}\n")));
   EXPECT_EQ(
-      "3:32 error: 'point': expected [x, y], both from 0 to 1, got three numbers; the decimal sign is a point: 0.5",
+      "3:32 error: 'point': expected [x, y], both from 0 to 1, got three numbers; the decimal separator is a point: "
+      "0.5",
       Said(ReadItems("- {key: A, type: Click, point: [0,5, 1]}\n")));
   EXPECT_EQ(
       "4:10 error: 'walk_radius': expected a number from 0.001 to 1, got the text '0,1'; the decimal sign is a "

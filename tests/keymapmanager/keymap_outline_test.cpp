@@ -83,7 +83,7 @@ TEST(ItemTypes, TellWhatAnItemHas) {
   EXPECT_EQ(NumbersOfField(*items[1], "radius"), QVector<double>{0.1});
   EXPECT_EQ(TextOfField(*items[1], "compensate"), "false");
   EXPECT_EQ(TextOfField(*items[2], "point"), "[0, 0.125]");
-  EXPECT_EQ(TextOfField(*items[2], "key"), "");  // the file tells keys
+  EXPECT_EQ(TextOfField(*items[2], "key"), "");  // the file distinguishes keys
   EXPECT_EQ(NumbersOfField(*items[2], "radius"), QVector<double>());
   EXPECT_EQ(NumbersOfField(*items[3], "range_size"), (QVector<double>{0.5, 2}));
   EXPECT_EQ(TextOfField(*items[3], "auto_reset"), "true");

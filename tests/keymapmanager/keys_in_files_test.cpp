@@ -56,7 +56,7 @@ TEST(KeysInFiles, AGamepadsKeyMayHaveAnyNameOfTheHosts) {
 
 TEST(KeysInFiles, AnUnusualNameOfAGamepadIsMentioned) {
   EXPECT_EQ(
-      "3:11 warning: no gamepad has a button 'LBB' as a rule; did you mean 'LB'?; {pad: LBB} names it all the same",
+      "3:11 warning: 'LBB' is not a usual gamepad button; did you mean 'LB'?; {pad: LBB} is accepted without a warning",
       Said(ReadItems("- {  key: Pad LBB, type: Click, point: [0.5, 0.5]}\n")));
 }
 

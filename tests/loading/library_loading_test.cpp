@@ -1,4 +1,4 @@
-// A host that loads the library by hand, as a plugin, and lets go of it before the program ends.
+// A host that loads the library dynamically, as a plugin, and unloads it before the program ends.
 #include <algorithm>
 #include <csignal>
 #include <dlfcn.h>
@@ -124,8 +124,7 @@ TEST(LibraryLoading, StaysWhenItIsClosed) {
   EXPECT_EQ(Lines(), (std::vector<std::string>{"1:KBDPR:158:1\n", "1:KBDRL:158:0\n"}));
 }
 
-// Poco blocks SIGPIPE while it is loaded. What the header tells of it is all there is, and the way back that it names
-// is one.
+// Loading Poco blocks SIGPIPE. The header documents everything about it, including how to undo it.
 TEST(LibraryLoading, BlocksSigpipeOnTheLoadingThreadAndNothingElse) {
   Unblock(SIGPIPE);
   const std::vector<int> before = BlockedSignals();

@@ -41,13 +41,13 @@ TEST(CommandTranslation, EveryEventLine) {
        "touch|press_rel:(0.25,0.75)|25|"},
       {"press: outside", "SLOTPRESS:2:2:1:1:-128:1440", "touch|press_rel:(-0.1,2)|2|"},
       {"press: six digits", "SLOTPRESS:2:2:1:1:1:1", "touch|press_rel:(0.00078125,0.00138889)|2|"},
-      {"press: a slot goes through an int", "SLOTPRESS:+07:2:1:1:0:0", "touch|press_rel:(0,0)|7|"},
+      {"press: a slot is converted to an int", "SLOTPRESS:+07:2:1:1:0:0", "touch|press_rel:(0,0)|7|"},
       {"press: a slot that is no number is 0", "SLOTPRESS:x:2:1:1:0:0", "touch|press_rel:(0,0)|0|"},
       {"press: coordinates with fractions are no ints", "SLOTPRESS:2:2:1:1:640.5:360", "touch|press_rel:(0,0.5)|2|"},
       {"press: empty parts count", "SLOTPRESS::::::", "touch|press_rel:(0,0)|0|"},
       {"press: 6 parts", "SLOTPRESS:2:2:1:1:640", "nothing"},
       {"press: 8 parts", "SLOTPRESS:2:2:1:1:640:360:0", "nothing"},
-      {"press: a part behind the last colon", "SLOTPRESS:2:2:1:1:640:360:", "nothing"},
+      {"press: a part after the last colon", "SLOTPRESS:2:2:1:1:640:360:", "nothing"},
       {"press: the word alone", "SLOTPRESS", "nothing"},
 
       {"release", "SLOTRELEASE:2", "touch|release|2|"},
@@ -133,7 +133,7 @@ TEST(CommandTranslation, ALineAndItsTextAreTheSameAction) {
       ExpectSameAction(line);
     }
   }
-  // Numbers that are no ints are 0 to a record, but for those that look like one.
+  // Numbers that are not ints are 0 in a record, except those that look like one.
   for (const double number : {0.0, -0.0, 0.5, -1.5, 640.0, 123456.0, 1234567.0, 1e-7, 1e300}) {
     const QPointF place(number, 360);
     for (const LineBuffer& line : {gc::SlotPress(2, place), gc::MouseMove(place), gc::Wheel(place)}) {

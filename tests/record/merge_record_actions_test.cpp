@@ -346,7 +346,7 @@ TEST(MergeRecordActions, PlaysItemsOfAnyKind) {
                "5 x", "5 x", "0 timer", "5 x", "5 x");
 }
 
-// What stands in `current` is what plays, however it came there.
+// The item in `current` is played, however it got there.
 TEST(MergeRecordActions, GoesOnWithTheCurrentItem) {
   const auto item = Single({{1, "a"}, {20, "b"}});
   const auto list = Merged({item, Single({{3, "c"}})});

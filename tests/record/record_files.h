@@ -20,8 +20,8 @@ namespace taviinputmanager {
 
 class RecordFileUtils;
 
-// A folder of the test's own. All files of a test are in it, those that the library writes too: these are copied to the
-// folder that the environment names as TAVI_WRITTEN_RECORDS, for whoever looks at them later.
+// A folder of the test's own. It contains all files of a test, including those that the library writes: these are
+// copied to the folder in the environment variable TAVI_WRITTEN_RECORDS, for later checks.
 class RecordFiles {
  protected:
   RecordFiles();

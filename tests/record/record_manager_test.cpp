@@ -39,7 +39,7 @@ class Recording : public Story, protected RecordFiles {
   static void Line(const QString& line) { OnInputRawEventData(line + '\n', 1); }
   static void Key(int code) { Line(QString("KBDPR:%1:1").arg(code)); }
 
-  // What is in the file after a stop, "timing type data extra1 extra2" each, but for the start marker.
+  // The content of the file after a stop, "timing type data extra1 extra2" for each action, without the start marker.
   QStringList Recorded() {
     StopRecord("com.example.game", file_);
     QStringList lines;
@@ -138,7 +138,7 @@ TEST_F(Recording, ASecondStartBeginsAgain) {
   EXPECT_EQ("b", app.toStdString());
 }
 
-// Two actions of the host: one when the call began, one when the host was told of it.
+// Two actions of the host: one at the start of the call, one in the host's callback.
 TEST_F(Recording, TheHostIsToldAtTheEndOfACall) {
   table_.started = [] { AddVControlCommand("in started", "1", ""); };
   table_.resumed = [] { AddVControlCommand("in resumed", "", ""); };

@@ -1,4 +1,4 @@
-// Short records that play again and again, and a host that asks for something at every line and callback.
+// Short records that are played in loops, and a host that makes a request in every line and callback.
 #include <random>
 
 #include "tests/record/replay_threads.h"

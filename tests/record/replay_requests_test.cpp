@@ -126,7 +126,7 @@ TEST_F(ReplayRequests, ANewReplayMakesTheOthersForget) {
   EXPECT_STORY("200ms 2:SLOTRELEASE:19");  // slot 18 stays taken, and its contact down
 }
 
-// What is held is pressed again, whoever is named.
+// What is held is pressed again, whichever replay is named.
 TEST_F(ReplayRequests, AResumeOfNobodyPressesWhatIsHeld) {
   Save("a.json", {TouchDown(100, 5, "(0.25,0.5)"), KeyUp(1000, 30)});
   Start(7, "a.json");

@@ -152,7 +152,7 @@ TEST(SingleRecordActions, ThePauseBetweenRepeatsIsAtItsSpeed) {
 
 TEST(SingleRecordActions, TheOwnRatioIsNotAppliedTwice) {
   const auto actions = Single({{10, "a"}}, AtSpeed(5.0));
-  EXPECT_STEPS(actions.get(), "10 a") << "whoever plays it puts the ratio into the speed";
+  EXPECT_STEPS(actions.get(), "10 a") << "the caller includes the ratio in the speed";
 }
 
 TEST(RecordActions, TheBaseOnlyStartsOver) {

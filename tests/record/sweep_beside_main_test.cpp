@@ -1,5 +1,5 @@
-// The reset at the natural end of a replay runs on that replay's thread. Here it does so without end, beside each thing
-// of the main thread that it meets. ThreadSanitizer tells what is not guarded.
+// The reset at the natural end of a replay runs on that replay's thread. Here it runs endlessly, in parallel to each
+// activity of the main thread that it may meet. ThreadSanitizer reports unguarded data.
 #include <atomic>
 #include <thread>
 

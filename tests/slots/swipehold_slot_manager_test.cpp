@@ -79,7 +79,7 @@ TEST_F(SwipeholdSlot, TheLastKeyOfAnAxisWinsWhereTheItemSaysSo) {
   walk_->SetDirectionKey(kDirectionDown, false);  // the one that is left counts by itself
   EXPECT_EQ(QPoint(256, 232), walk_->GetTargetPoint());
   walk_->SetDirectionKey(kDirectionDown, true);
-  walk_->SetDirectionKey(kDirectionUp, true);  // pressed anew without a release
+  walk_->SetDirectionKey(kDirectionUp, true);  // pressed again without a release
   EXPECT_EQ(QPoint(256, 232), walk_->GetTargetPoint());
 }
 

@@ -82,8 +82,8 @@ class Soak : public Story {
     }
   }
 
-  // Recordings of display 1, and replays to it. A file is in one replay at a time, and merged or recorded anew only
-  // while it is in none.
+  // Recordings of display 1, and replays to it. A file is used by one replay at a time, and merged or recorded only
+  // while it is used by none.
   void RecordOrReplay() {
     Host().primary_display = kRecordedDisplay;
     UpdateReplayDisplayId(kRecordedDisplay);
@@ -157,8 +157,8 @@ class Soak : public Story {
     }
   }
 
-  // The library knows of no button that is down: a host that changes displays or keymaps in between lets go of its
-  // gamepads itself, and here it does so at the end. The second kind of gamepad has every button.
+  // The library does not know which buttons are down: a host that changes displays or keymaps in between releases its
+  // gamepads itself, which is done at the end here. The second kind of gamepad has every button.
   void LetGoOfGamepads() {
     Host().joystick_type = 2;
     for (const int simulate_mode : {0, 1}) {

@@ -1,6 +1,6 @@
 // Holds a file as a replay does, or tries what another program could do to it. For Windows.
 //
-//   hold_record hold PATH     prints "held" or "not held", waits for the end of its input, and lets go
+//   hold_record hold PATH     prints "held" or "not held", waits for the end of its input, and closes it
 //   hold_record try PATH      prints "read yes write no delete no", as far as each is allowed; deletes nothing
 #include <cstdio>
 #include <string>

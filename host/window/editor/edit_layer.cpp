@@ -18,7 +18,7 @@ namespace {
 
 constexpr double kItemReach = 18;   // pixels from an item's point
 constexpr double kHandleReach = 9;  // from a handle
-constexpr double kDragStart = 3;    // a click is no drag
+constexpr double kDragStart = 3;    // a click is not a drag
 constexpr int kLargeNudge = 10;     // pixels of the guest
 const QString kPoint = QStringLiteral("point");
 
@@ -32,13 +32,13 @@ QPoint ArrowOf(int key) {
   }
 }
 
-// Where an item touches, as opposed to what belongs to it.
+// A point that the item touches, as opposed to its other handles.
 bool IsPlace(const ItemHandle& handle) { return handle.field == kPoint || handle.field == QLatin1String("alt_point"); }
 
 }  // namespace
 
 EditLayer::EditLayer(KeymapDocument* document, QWidget* view) : QWidget(view->parentWidget()), document_(document) {
-  setFocusPolicy(Qt::ClickFocus);  // Tab goes from item to item here
+  setFocusPolicy(Qt::ClickFocus);  // Tab moves from item to item here
   setAccessibleName(QStringLiteral("Items on the screen"));
   setMouseTracking(true);
   setGeometry(view->geometry());
@@ -53,7 +53,7 @@ bool EditLayer::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// Behind an undone deletion the same index may be another item.
+// After an undone deletion the same index may be another item.
 void EditLayer::TakeDocument() {
   const bool has_other_items = document_->ItemCount() != item_count_;
   item_count_ = document_->ItemCount();
@@ -78,7 +78,7 @@ QVector<ItemHandle> EditLayer::HandlesAt(int item) const { return HandlesOf(*doc
 
 // ---- Mouse
 
-// Of several items at one place the first one, or the selected one, so that it can be dragged away from the others.
+// Of several items at one point, the selected one, so that it can be dragged away from the others; otherwise the first.
 int EditLayer::ItemUnder(const QPointF& place) const {
   int nearest = -1;
   double best = kItemReach;
@@ -194,7 +194,7 @@ void EditLayer::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// Arrow keys in a row are one step back.
+// A run of arrow keys is one undo step.
 bool EditLayer::Nudge(const QKeyEvent& event) {
   const QPoint arrow = ArrowOf(event.key());
   const QVector<ItemHandle> handles = HandlesAt(selected_);

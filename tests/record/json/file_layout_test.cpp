@@ -30,7 +30,7 @@ bool IsLaidOut(const QByteArray& bytes, FileLayout::Writer writer, int window_by
 }
 
 QByteArray InLayout(const QByteArray& json) { return QJsonDocument::fromJson(Text(json)).toJson(); }
-// A document in which this stands for the value of a member.
+// A document in which this is the value of a member.
 QByteArray WithValue(const QByteArray& value) {
   return Text("{\n    'info': {\n        'create_time': 5\n    },\n    'other': " + value + "\n}\n");
 }
@@ -89,7 +89,7 @@ TEST(FileLayout, HasOneFormOfEachValue) {
       {"another end of lines", "[\r\n        1\r\n    ]", false, false},
       {"a blank at a line's end", "[\n        1, \n        2\n    ]", false, false},
       {"a blank before a colon", "{\n        'a' : 1\n    }", false, false},
-      {"no blank behind it", "{\n        'a':1\n    }", false, false},
+      {"no blank after it", "{\n        'a':1\n    }", false, false},
       {"members in order", "{\n        'a': 1,\n        'b': 1\n    }", true, true},
       {"members out of order", "{\n        'b': 1,\n        'a': 1\n    }", false, false},
       {"a member twice", "{\n        'a': 1,\n        'a': 1\n    }", false, false},

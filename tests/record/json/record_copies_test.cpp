@@ -1,4 +1,4 @@
-// Merged and stamped files: the bytes are those of the libraries, whether they were copied or written anew.
+// Merged and stamped files: the bytes are those of the libraries, whether they were copied or rewritten.
 //
 // TAVI_RECORD_FILES and TAVI_RECORD_SEED make the search longer.
 #include <gtest/gtest.h>

@@ -134,7 +134,7 @@ TEST_F(SpellLifetime, AnInnerWalkOfAGoneKeymapEndsWithAReset) {
   Play("joy down A");
   EXPECT_WIRE(At(0, 960, 540), "0ms 1:SLOTRELEASE:2");
   LoadJoystick();
-  Play("down W; wait 10");  // exclusive as ever
+  Play("down W; wait 10");  // still exclusive
   EXPECT_WIRE(At(0, 960, 540), At(10, 960, 476));
   Play("reset");
   Forget();

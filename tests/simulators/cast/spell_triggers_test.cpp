@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// When the finger goes down and when it lifts: the four triggers.
+// When the finger is put down and lifted: the four triggers.
 
 namespace taviinputmanager {
 namespace {
@@ -244,7 +244,7 @@ TEST_F(SpellTriggers, OnPressKeepsTheItemThatIsInForce) {
   AddSpell(keywords::kTriggerOnPress, keywords::kLocationMousePosition);
   AddSpell(keywords::kTriggerOnPress, keywords::kLocationSwipehold, "E");
   Load();
-  Play("down Q; down E");  // by E's location the finger goes down, by Q's it waits for no walk
+  Play("down Q; down E");  // E's location presses the finger, Q's waits for no walk
   EXPECT_WIRE(At(0, 960, 540));
   EXPECT_TRUE(IsActive());
 }

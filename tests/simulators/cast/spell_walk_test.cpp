@@ -137,7 +137,7 @@ TEST_F(SpellWalk, OnPressHasDoneWithTheWalkWhenItHasCast) {
   EXPECT_TRUE(IsActive());
 }
 
-// A cancel ends no subscription: the walk goes on to be told, to whoever is the present one.
+// A cancel ends no connection: the walk is still reported, to the current worker.
 class SpellWalkAfterCancel : public SpellWalk {
  protected:
   // Q is aimed by the walk and cancelled.
@@ -244,7 +244,7 @@ TEST_F(SpellInnerWalk, AnExclusiveOneStopsTheWalkAndGivesItBack) {
   EXPECT_WIRE(At(10, 960, 540), At(10, 960, 540), EndWalk(10), At(20, 960, 476));
   Play("down D");
   EXPECT_WIRE(At(20, 1005, 495));
-  Play("up Q");  // the walk begins anew with both keys before the finger lifts
+  Play("up Q");  // the walk starts again with both keys before the finger is lifted
   EXPECT_WIRE(Walk(20, 256, 360), Lift(20), Lift(20));
   Play("wait 10; up D");
   EXPECT_WIRE(Walk(30, 347, 269), Walk(30, 256, 232));
@@ -362,7 +362,7 @@ TEST_F(SpellInnerWalk, EachAimBringsItsOwn) {
   EXPECT_WIRE(Walk(10, 256, 360), At(10, 960, 540), Walk(20, 256, 232), At(20, 960, 412));
 }
 
-// Tells how many of it live.
+// Counts its instances.
 struct CountedWalk : SwipeholdConfigItem {
   CountedWalk(const SwipeholdConfigItem& walk, int* live) : SwipeholdConfigItem(walk), live(live) { ++*live; }
   CountedWalk(const CountedWalk&) = delete;

@@ -63,7 +63,7 @@ TEST_F(VStick, SpeaksOnceHoweverOftenItIsPressed) {
   EXPECT_EQ("32ms left 1,0, 32ms left 0,0, 72ms left 1,0, 72ms left 0,0, 112ms left 1,0, 112ms left 0,0", Said());
 }
 
-// A worker that walks before the first press is not heard, and a release does not make it so.
+// A worker that walks before the first press is ignored, and a release does not change that.
 TEST_F(VStick, IsSilentUntilTheFirstPress) {
   Listen<VStickLeftStickSimulator>("left");
   auto* item = AddStick("VirtualLeftStick");
@@ -104,7 +104,7 @@ TEST_F(VStick, OfItemsThatShareItTheOneUsedLastIsInForceAlsoByARelease) {
   LoadPad();
   Play("down W; wait 200; up I; wait 10");
   Said();
-  SwipeholdAsyncWorker::GetInstance(2)->ReplayDirections({1, 0});  // right, anew
+  SwipeholdAsyncWorker::GetInstance(2)->ReplayDirections({1, 0});  // right, again
   Wait(32);
   EXPECT_EQ("242ms left 1,0", Said());
 }

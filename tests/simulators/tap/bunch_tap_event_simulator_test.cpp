@@ -42,7 +42,7 @@ class BunchTap : public Story {
   const QPointF e_{0.5, 0.5};
 };
 
-// 20 taps a second: 500 / 20 = 25 ms down, 25 ms up.
+// 20 taps per second: 500 / 20 = 25 ms down, 25 ms up.
 TEST_F(BunchTap, TapsForAsLongAsItsKeyIsHeld) {
   AddContinue("W", w_, 20);
   Load();
@@ -330,7 +330,7 @@ TEST_F(BunchTap, AnItemOfAnotherClassDoesNothing) {
   EXPECT_WIRE_NONE();
 }
 
-// The log stands in the working directory.
+// The log is in the working directory.
 class BunchTapLog : public BunchTap {
  protected:
   BunchTapLog() : before_(QDir::currentPath()) { QDir::setCurrent(folder_.path()); }

@@ -166,7 +166,7 @@ TEST_F(BunchTapWorkers, WithoutAnItemADefaultOneIsTapped) {
     pressed.append({x, y});
   });
   held.Process();
-  Wait(99);  // 10 taps a second
+  Wait(99);  // 10 taps per second
   EXPECT_EQ(QList<QPointF>({{0, 0}}), pressed);
   Wait(1);
   EXPECT_EQ(QList<QPointF>({{0, 0}, {0, 0}}), pressed);

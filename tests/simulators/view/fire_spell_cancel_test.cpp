@@ -1,4 +1,4 @@
-// The way of a fire finger to the point that gives up a cast.
+// The path of a fire finger to the point that cancels a cast.
 #include <sstream>
 
 #include <Poco/AutoPtr.h>

@@ -92,7 +92,7 @@ TEST_F(Observe, AFingerThatComesToTheCornerLiftsAndPressesAgain) {
   AddObserve();
   StartObserving();
   Play("rel 0,0; rel -320,-360; rel 1,1; rel 1,1");
-  // The counts of the press are spent by the move behind it.
+  // The move after the press includes the counts of the press.
   EXPECT_WIRE(ObserverAt(320, 360), "40ms 1:SLOTRELEASE:1", ObserverAt(320, 360), ObserverAt(322, 362));
 }
 

@@ -95,7 +95,7 @@ TEST_F(Staring, TheHandyFactorSteersTheFingerAtOnce) {
   Stare();
   Play("rel 0,0; rel 10,10");
   SetHandyStaringSensitivity(2.0, 1.5);  // (200 - 100) * 0.5 + 100 = 150 per cent
-  Play("rel 0,0");                       // the same counts stand for another way
+  Play("rel 0,0");                       // the same counts move by another distance
   EXPECT_WIRE(ViewAt(640, 360), ViewAt(650, 370), ViewAt(660, 375));
 }
 
@@ -217,7 +217,7 @@ TEST_F(Staring, ACentreInTheCornerCannotBeHeld) {
   item->rel_x = 0;
   item->rel_y = 0;
   Stare();
-  Play("rel 3,3; rel 3,3");  // each presses anew, at the place that means no finger
+  Play("rel 3,3; rel 3,3");  // each presses again, at the point that means no finger
   EXPECT_WIRE(kViewUp, kViewUp);
 }
 

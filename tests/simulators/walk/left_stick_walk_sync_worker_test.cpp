@@ -33,7 +33,7 @@ class LeftStickWalk : public Story {
 TEST_F(LeftStickWalk, DrawsAMovementInSteps) {
   AddWalk();
   LoadJoystick();
-  // 16 ms after the press a step each 8 ms; a step that would reach the target is the target.
+  // 16 ms after the press a step every 8 ms; a step that would reach the target is the target.
   Play("joy axis 0 1,0");
   EXPECT_WIRE(At(0, 320, 360), At(16, 336, 360), At(24, 352, 360), At(32, 368, 360), At(40, 384, 360), At(48, 400, 360),
               At(56, 416, 360), At(64, 432, 360), At(72, 448, 360));

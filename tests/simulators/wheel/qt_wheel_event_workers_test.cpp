@@ -189,7 +189,7 @@ TEST_F(Pinch, WithoutARestTheNextTickLifts) {
   Wheel().zoom_release_ms = 0;
   Load();
   Play("wheel +120 640,360; wait 500");
-  // A move at 16, the decision at 26, the release one more tick behind it.
+  // A move at 16, the decision at 26, the release one tick later.
   EXPECT_EQ("36ms 1:SLOTMULTIRELEASE:10:0", TakeWire().last().toStdString());
 }
 

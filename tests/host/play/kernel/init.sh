@@ -47,7 +47,7 @@ wait_state() {
     [ $tries -lt 1200 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
   done
 }
-# wait_touch STEP: until a finger went down in this step, or a minute is over
+# wait_touch STEP: until a finger is put down in this step, or a minute is over
 wait_touch() {
   tries=0
   until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do

@@ -28,7 +28,7 @@ HERE = Path(__file__).parent
 QEMU = small_machine.X86_64[0]
 BOOT_SECONDS = 900
 # 2.6 to 2.9 were measured, without acceleration: the emulated processor forgets its pages with each switch of processes,
-# and most of what is left is finding those of the code anew.
+# and most of what is left is reloading those of the code.
 MOST_TIMES_BARE = 3.3
 LIBINPUT = KERNEL / "libinput"
 
@@ -143,7 +143,7 @@ class Screen:
 
 
 def expected_events(script):
-    """What the devices are told of a script, as `tavi guest-uinput` says it."""
+    """The events of the devices for a script, from `tavi guest-uinput`."""
     timeline = run(TAVI, "simulate", WORK / "root" / "keymap.yaml", "-", input=script)
     return [line.split() for line in run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline).splitlines()]
 
@@ -305,12 +305,12 @@ class KernelPlay(unittest.TestCase):
         text = "\n".join(self.files["rights"])
         without, member = text.split("player\n")[0], text.split("player\n")[1].split("tavi play: /dev/uinput")[0]
         self.assertIn("/dev/input/event1  not readable: Permission denied", without)
-        self.assertIn("/dev/uinput may not be written to, which the touch screen is made through", without)
+        self.assertIn("/dev/uinput is not writable; it is needed to create the touch screen", without)
         self.assertIn("As root: adduser YOUR-NAME input. Then log out and in again.", without)
         self.assertIn("list 1\n", without)
         self.assertIn('keyboard  "Test Board"  taken', member)
         self.assertIn("list 0\n", member)
-        self.assertIn('no "tavi play" of yours runs under the name "play"\ncontrol 1', member)
+        self.assertIn('you have no "tavi play" running under the name "play"\ncontrol 1', member)
         self.assertTrue(text.endswith("\nplay 1"), text)
 
     def test_the_script_is_seen_as_it_was_simulated(self):
