@@ -45,7 +45,7 @@ class ItemIndex {
   // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item: whether one of the
   // searches would find it.
   bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (!strangers_.empty()) return IsMatchInList(configured, pressed);          // each is called for both, at its position
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);          // each is called for both
     if (HeadOf(configured) == kNone && !MayBeInChord(configured)) return false;  // as for most keys
     return IsFoundInEntries(configured, pressed);
   }
