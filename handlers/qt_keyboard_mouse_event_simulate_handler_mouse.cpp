@@ -23,7 +23,8 @@ using tavikeymapmanager::ConfigKey;
 namespace {
 
 ConfigKey KeyOf(Qt::MouseButton button) {
-  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
+  const int code = static_cast<int>(button);
+  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, code, code);
 }
 
 // The class has no heirs and is of this library alone, so that one look at the type is enough; to compare two types by

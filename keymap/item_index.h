@@ -111,7 +111,7 @@ class ItemIndex {
     });
   }
 
-  static unsigned HashOf(const ConfigKey& key) {
+  static std::size_t HashOf(const ConfigKey& key) {
     if (IsJoystickKey(key)) return qHash(key.text);
     constexpr unsigned kSpread = 0x9E3779B1U;  // 2^32 divided by the golden ratio: spreads adjacent codes
     const unsigned spread = static_cast<unsigned>(key.scancode) * kSpread;

@@ -2,7 +2,6 @@
 #ifndef KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 #define KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 
-#include <array>
 #include <optional>
 
 #include <QHash>
@@ -48,8 +47,8 @@ class KeyIndex {
   // Of a mouse's key or a wheel's; empty for other devices.
   const QString& MouseText(const QString& device, int scancode) const;
 
-  std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` where the table has none
-  std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 where the table has none
+  QString keyboard_names_[kScancodeCount];  // by scan code; `Scan <code>` where the table has none
+  int virtual_keys_[kScancodeCount] = {};   // by scan code; 0 where the table has none
   QHash<int, QString> names_by_virtual_key_;
   QHash<int, QString> mouse_names_;
   QHash<QString, ConfigKey> keys_;
