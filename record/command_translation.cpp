@@ -17,6 +17,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_words.h"
 #include "core/line_buffer.h"
+#include "qt/numbers.h"
 #include "record/point_text.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -28,7 +29,7 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 namespace {
 
 // A part of a line, or a whole one: of a text of any script, or of a line as it was put together here.
-int IntOf(const QStringView& part) { return part.toInt(); }
+int IntOf(const QStringView& part) { return qt::ToInt(part); }
 int IntOf(QLatin1String part) {
   int number = 0;
   const auto [end, error] = std::from_chars(part.begin(), part.end(), number);
@@ -217,7 +218,7 @@ struct Rule {
 template <typename Text>
 bool Fits(const Text& line, const Rule<Text>& rule) {
   if (!line.startsWith(rule.word)) return false;
-  const int end = rule.word.size();
+  const auto end = rule.word.size();
   switch (rule.match) {
     case Match::kWord: return true;
     case Match::kWordColon: return line.size() > end && line.at(end) == kColon;
@@ -257,7 +258,7 @@ bool Translate(const Text& line, RecordAction* action) {
 
 // False when the line is another, or has no text.
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
-  const int end = line_word.size();
+  const auto end = line_word.size();
   if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;
   action->type = TextOf(kTypeInputMethod);
   action->data = Joined(word, command.mid(end + 1));
