@@ -22,6 +22,8 @@ using tavikeymapmanager::ConfigKey;
 
 namespace {
 
+int CodeOf(Qt::MouseButton button) { return static_cast<int>(button); }
+
 // The class is final and belongs to this library, so comparing the types' addresses is enough; operator== would compare
 // their names.
 const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) {
@@ -50,12 +52,13 @@ bool QtKeyboardMouseEventSimulateHandler::IsHeldLeftMapped(QMouseEvent* event) c
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsMapped(Qt::MouseButton button) const {
-  return buttons_.With(button, button, [this](const ConfigKey* key) { return FindConfigItem(*key) != nullptr; });
+  return buttons_.With(CodeOf(button), CodeOf(button),
+                       [this](const ConfigKey* key) { return FindConfigItem(*key) != nullptr; });
 }
 
 void QtKeyboardMouseEventSimulateHandler::OnMousePress(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), true);
-  buttons_.With(event->button(), event->button(), [&](ConfigKey* key) { PressButton(event, key); });
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { PressButton(event, key); });
 }
 
 void QtKeyboardMouseEventSimulateHandler::PressButton(QMouseEvent* event, ConfigKey* key) {
@@ -72,7 +75,7 @@ void QtKeyboardMouseEventSimulateHandler::PressButton(QMouseEvent* event, Config
 
 void QtKeyboardMouseEventSimulateHandler::OnMouseRelease(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), false);
-  buttons_.With(event->button(), event->button(), [&](ConfigKey* key) { ReleaseButton(event, key); });
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { ReleaseButton(event, key); });
 }
 
 void QtKeyboardMouseEventSimulateHandler::ReleaseButton(QMouseEvent* event, ConfigKey* key) {

@@ -145,13 +145,13 @@ class ItemIndex {
     });
   }
 
-  static unsigned HashOf(int scancode) {
+  static std::size_t HashOf(int scancode) {
     constexpr unsigned kSpread = 0x9E3779B1U;  // 2^32 divided by the golden ratio: spreads adjacent codes
     const unsigned spread = static_cast<unsigned>(scancode) * kSpread;
     return spread ^ (spread >> 15U);
   }
   // If no entry has a joystick key, none is found whatever its hash.
-  unsigned HashOf(const ConfigKey& key) const {
+  std::size_t HashOf(const ConfigKey& key) const {
     return has_joystick_keys_ && IsJoystickKey(key) ? qHash(key.text) : HashOf(key.scancode);
   }
 
@@ -174,7 +174,7 @@ class ItemIndex {
     std::size_t size = 1;
     while (size < 4 * entries_.size()) size *= 2;
     buckets_.assign(size, kNone);
-    last_bucket_ = static_cast<unsigned>(size - 1);
+    last_bucket_ = size - 1;
     for (std::size_t i = entries_.size(); i-- > 0;) {
       const KnownKey& key = entries_[i].key;
       int& head = buckets_[(key.is_joystick ? qHash(key.text) : HashOf(key.scancode)) & last_bucket_];
@@ -213,7 +213,7 @@ class ItemIndex {
   std::vector<Entry> entries_;
   std::vector<const ConfigKey*> keys_;  // of the entries, contiguous: MayMatch scans all of them
   std::vector<int> buckets_{kNone};     // index of the first entry, or kNone; a power of two in number
-  unsigned last_bucket_ = 0;
+  std::size_t last_bucket_ = 0;
   std::vector<Stranger> strangers_;
   bool has_chords_ = false;
   bool has_joystick_keys_ = false;

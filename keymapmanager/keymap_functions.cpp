@@ -40,7 +40,7 @@ int getMacroConfigKeyCode(QEvent* event) {
     case QEvent::KeyRelease: return static_cast<int>(static_cast<QKeyEvent*>(event)->nativeScanCode());
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick: return static_cast<QMouseEvent*>(event)->button();
+    case QEvent::MouseButtonDblClick: return static_cast<int>(static_cast<QMouseEvent*>(event)->button());
     default: return kNoCode;
   }
 }

@@ -16,6 +16,7 @@
 #include "core/guest_words.h"
 #include "core/line_buffer.h"
 #include "qt/lasting_text.h"
+#include "qt/numbers.h"
 #include "record/point_text.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -27,7 +28,7 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 namespace {
 
 // A part of a line, or a whole one: of a text in any script, or of a line that was built here.
-int IntOf(const QStringView& part) { return part.toInt(); }
+int IntOf(const QStringView& part) { return qt::ToInt(part); }
 int IntOf(QLatin1String part) { return ReadDecimal(part.begin(), part.end()); }
 
 bool StartsWith(const QStringView& line, QLatin1String word) { return line.startsWith(word); }
@@ -228,7 +229,7 @@ struct Rule {
 template <typename Text>
 bool Fits(const Text& line, const Rule<Text>& rule) {
   if (!StartsWith(line, rule.word)) return false;
-  const int end = rule.word.size();
+  const auto end = rule.word.size();
   switch (rule.match) {
     case Match::kWord: return true;
     case Match::kWordColon: return line.size() > end && line.at(end) == kColon;
@@ -268,7 +269,7 @@ bool Translate(const Text& line, RecordAction* action) {
 
 // False if it is another line, or if there is no text.
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
-  const int end = line_word.size();
+  const auto end = line_word.size();
   if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;
   action->type = KnownTexts().input_method;
   action->data = Joined(word, command.mid(end + 1));

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include "qt/numbers.h"
+
 namespace tavi {
 
 using Kind = GuestLine::Kind;
@@ -52,7 +54,7 @@ const LineForm* FindForm(const QString& name) {
 
 bool ReadNumber(const QString& field, QChar kind, QVector<double>* numbers) {
   bool is_number = false;
-  const double number = kind == QLatin1Char('d') ? field.toDouble(&is_number) : field.toInt(&is_number);
+  const double number = kind == QLatin1Char('d') ? field.toDouble(&is_number) : qt::ToInt(field, &is_number);
   numbers->append(number);
   if (kind.isDigit()) return is_number && number == kind.digitValue();
   return is_number && std::isfinite(number);

@@ -2,7 +2,6 @@
 #ifndef KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 #define KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -54,8 +53,8 @@ class KeyIndex {
   // Of a mouse button or wheel direction; empty for other devices.
   const QString& MouseText(const QString& device, int scancode) const;
 
-  std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` if it is not in the table
-  std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 if it is not in the table
+  QString keyboard_names_[kScancodeCount];  // by scan code; `Scan <code>` if it is not in the table
+  int virtual_keys_[kScancodeCount] = {};   // by scan code; 0 if it is not in the table
   QHash<int, QString> names_by_virtual_key_;
   QHash<int, QString> mouse_names_;
   QHash<QString, ConfigKey> keys_;

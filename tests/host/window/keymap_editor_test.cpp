@@ -2,12 +2,9 @@
 #include "host/window/editor/keymap_editor.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include "host/editor/item_handles.h"
 #include "host/window/editor/edit_layer.h"
@@ -539,12 +536,7 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
 TEST_F(EditingInTheWindow, ANameWithoutSuffixGetsOne) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   Edit();
-  QTimer::singleShot(0, Window(), [this] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder_.filePath("mine"));
-    QMetaObject::invokeMethod(dialog, "accept");
-  });
+  EnterName(folder_.filePath("mine"));
   EXPECT_TRUE(Editor()->SaveAs(QString()));
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
   EXPECT_TRUE(QFile::exists(folder_.filePath("mine.yaml")));
