@@ -5,7 +5,7 @@
 namespace taviinputmanager {
 namespace {
 
-// A program with a function in front of it is among the tests beside these.
+// The tests include a program with a function that overrides it.
 TEST(KeyMatchOrigin, IsTheLibrarysInAnOrdinaryProgram) { EXPECT_TRUE(IsKeyMatchOwn()); }
 
 }  // namespace
