@@ -31,9 +31,8 @@ class ReenteringHost : public Story {
   static constexpr int kEventsAKeymap = 500;
   static constexpr int kDisplay = 1;  // primary: mirrored and recorded
   static constexpr int kRecords = 3;
-  static constexpr int kDeepest = 4;  // nested calls
-  static constexpr int kLineInterval =
-      3;  // one in this many functions of the host calls back, fewer of the nested ones
+  static constexpr int kDeepest = 4;       // nested calls
+  static constexpr int kLineInterval = 3;  // one in this many functions calls back, fewer of the nested ones
   static constexpr int kQuietMs = 2000;
 
   ReenteringHost() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(seed_), player_(&Time(), &Host()) {
