@@ -5,7 +5,7 @@
 namespace taviinputmanager {
 namespace {
 
-// Programs with functions in front of them are among the tests beside these.
+// The tests include programs with functions that override them.
 TEST(KeymapOrigin, IsTheLibraryInAnOrdinaryProgram) {
   EXPECT_TRUE(IsKeyCreationOwn());
   EXPECT_TRUE(IsKeyMatchOwn());

@@ -47,7 +47,7 @@ TEST_F(Wheel, AMappedNotchIsATapOf50MsThatBlocks) {
   Play("wheel +120 10,10; wheel -120 10,10");
   EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:640:360", "50ms 1:SLOTRELEASE:11", "50ms 1:SLOTPRESS:11:11:1:1:320:360",
               "100ms 1:SLOTRELEASE:11");
-  EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not told
+  EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not reported
 }
 
 // 40 taps per second are a change every 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
@@ -78,7 +78,7 @@ TEST_F(Wheel, APinchBeginsWithItsNotch) {
               "60ms 1:SLOTMULTIPRESS:18:18:1011:360:19:19:269:360", "60ms 1:SLOTMULTIRELEASE:19:18");
 }
 
-// A macro starts the run and turns the wheel in one go, so that the notch's 50 ms pass before anything is delivered.
+// A macro starts the run and turns the wheel in one call, so that the notch's 50 ms pass before anything is delivered.
 // The curve's points are due 8, 16 and 24 ms after its start: (0.25 + 0.125) * 1280 = 480.
 TEST_F(Wheel, ACurveIsFollowedDuringANotch) {
   auto* curve = Add<tavikeymapmanager::CurveConfigItem>("Curve", "W", {0.25, 0.5});
@@ -227,7 +227,7 @@ TEST_F(Wheel, ASwallowedMoveStillCountsForTheNext) {
   // The swipe of a wheel movement ends 21 ticks of 8 ms later: at 173 ms, when no timer is running anymore.
   Play("wait 5; wheel +120 640,360; wait 167; move 100,100; wait 1");
   Forget();
-  Play("move 100,100");  // 1 ms behind a swallowed one
+  Play("move 100,100");  // 1 ms after a swallowed one
   EXPECT_WIRE_NONE();
 }
 

@@ -1,4 +1,4 @@
-// What an error says beyond "unknown": the name that was meant, the place where a field belongs, the decimal point.
+// What an error says in addition to "unknown": the intended name, where a field belongs, the decimal point.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -23,7 +23,7 @@ TEST(Hints, NamesOfKeysThatPeopleKnowFromElsewhere) {
   }
 }
 
-// Near by its letters, and another key all the same.
+// Similar letters, but another key.
 TEST(Hints, AKeyThatMeansSomethingElseIsNotOffered) {
   for (const char* word : {"F25", "Numpad 10", "Mouse Up", "Page Left", "Scroll Left", "Mouse Side 99"}) {
     EXPECT_EQ("", NearestKeyName(QString::fromUtf8(word)).toStdString()) << word;

@@ -1,4 +1,4 @@
-// What editors ask: where things stand in a file, and what its items may have.
+// The queries of editors: positions in a file, and the possible fields of its items.
 #include "keymapmanager/keymap_outline.h"
 
 #include <gtest/gtest.h>

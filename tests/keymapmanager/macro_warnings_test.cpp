@@ -4,7 +4,7 @@
 namespace tavikeymapmanager {
 namespace {
 
-// What is said of a macro's commands, without the places.
+// The diagnostics of a macro's commands, without their positions.
 std::string SaidOf(const QByteArrayList& commands, const QByteArray& field = "press_commands") {
   QByteArray text = "- type: Macro\n  key: F1\n  " + field + ":\n";
   for (const QByteArray& command : commands) text += "  - \"" + command + "\"\n";

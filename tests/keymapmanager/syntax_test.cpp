@@ -1,4 +1,4 @@
-// Files that are broken before their content can be looked at: one error, at its place, and nothing else.
+// Files whose syntax is invalid: one error, with its position, and nothing else.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -48,7 +48,7 @@ TEST(Syntax, HidesTheErrorsOfTheContent) {
   EXPECT_EQ("3:7 error: a quote that is never closed", Said(Read("format: 2\nunknown: 1\nname: 'Race\n")));
 }
 
-// A list of so many lists in each other, beside one of "items" itself, which is the second level.
+// This many nested lists, beside the list "items", which is the second level.
 QByteArray Nested(int depth) { return "items: " + QByteArray(depth, '[') + QByteArray(depth, ']') + "\n"; }
 
 TEST(Syntax, NestsSixtyFourLevelsDeep) {

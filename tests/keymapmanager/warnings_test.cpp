@@ -1,4 +1,4 @@
-// What a keymap may say and its author cannot have meant.
+// Keymaps that are valid but cannot be intended.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -93,7 +93,7 @@ TEST(Warnings, DevicesThatShareNoKeymap) {
   EXPECT_EQ("3:9 " + key_among_pads, Said(ReadItems("- {key: W, type: Click, point: [0.1, 0.1]}\n"
                                                     "- {key: Pad A, type: Click, point: [0.1, 0.1]}\n"
                                                     "- {key: Pad B, type: Click, point: [0.1, 0.1]}\n")));
-  // As many of both: the first says whose keymap it is.
+  // As many of both: the first determines the kind of keymap.
   EXPECT_EQ("4:9 " + key_among_pads, Said(ReadItems("- {key: Pad A, type: Click, point: [0.1, 0.1]}\n"
                                                     "- {key: W, type: Click, point: [0.1, 0.1]}\n")));
 }
@@ -127,7 +127,7 @@ TEST(Warnings, ItemsThatStopAllInput) {
        "- {type: Spell, mode: Spell_mode_curve, key: Q, point: [0.1, 0.1], press_hold_ms: 1001, swipe_steps: 101, "
        "swipe_step_ms: 10}\n",
        "3:3 warning: this Spell blocks all input for 2001 ms: its steps and delays add up"},
-      // the slow start, (51 - 1) * 50 = 2500 ms, is in place of the rest
+      // the slow start, (51 - 1) * 50 = 2500 ms, replaces the rest
       {"a cast with a slow start",
        "- {type: Spell, mode: Spell_mode_curve, key: Q, point: [0.1, 0.1], press_hold_ms: 9000, curve_enabled: true, "
        "curve_steps: 51, curve_step_ms: 50}\n",

@@ -14,7 +14,7 @@
 #include "keymap/keymap_functions.h"
 #include "taviinputmanager/callbacks.h"
 
-// The host's own, in front of the keymap library's: keys that no item takes reach the guest.
+// The host's own, which overrides the keymap library's: unmapped keys reach the guest.
 tavikeymapmanager::KeymapConfig* tavikeymapmanager::LoadKeymapConfigAndInfo(const QString& /*path*/) {
   auto* config = new KeymapConfig;
   config->settings = new KeymapSettings;
@@ -46,7 +46,7 @@ InputManagerCallbacks* Callbacks() {
   return &callbacks;
 }
 
-// The library, loaded by its file, and functions of it by the names that the linker has for them.
+// The library, loaded from its file, and its functions by their linker names.
 class Library {
  public:
   Library() : handle_(dlopen(TAVI_LIBRARY, RTLD_NOW | RTLD_LOCAL)) { EXPECT_NE(handle_, nullptr) << dlerror(); }
@@ -80,7 +80,7 @@ class Library {
 void StartUp(const Library& library) {
   library.SetSendFunc(Send);
   library.Initialize(Callbacks());
-  Lines().clear();  // what its first load says
+  Lines().clear();  // the lines of its first load
 }
 
 std::vector<int> BlockedSignals() {
@@ -110,7 +110,7 @@ TEST(LibraryLoading, AsksTheHostsOwnLoader) {
   EXPECT_EQ(Lines(), (std::vector<std::string>{"0:KBDPR:33:1\n", "0:KBDRL:33:0\n"}));
 }
 
-// The timer of the back key fires, and the application is taken down, when the host has no handle any more.
+// The timer of the back key fires, and the application is destroyed, after the host has closed its handle.
 TEST(LibraryLoading, StaysWhenItIsClosed) {
   int argc = 0;
   const QGuiApplication application(argc, nullptr);

@@ -1,4 +1,4 @@
-// Guest lines to actions.
+// Converts guest lines to actions.
 #include "record/command_translation.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ std::string TextOf(const QString& command) {
   return Action(translated, action);
 }
 
-// On the display of 1280 x 720 that is taken while none is known.
+// On the default display of 1280 x 720.
 TEST(CommandTranslation, EveryEventLine) {
   const struct {
     const char* name;
@@ -113,7 +113,7 @@ TEST(CommandTranslation, EveryEventLine) {
   for (const auto& row : rows) EXPECT_EQ(row.action, Event(row.command)) << row.name;
 }
 
-// Of a line as guest_command puts it together, and of the text of it.
+// From a line of guest_command, and from its text.
 void ExpectSameAction(const LineBuffer& line) {
   RecordAction action;
   const bool is_translated = TranslateEventLine(line.WithoutEnd(), &action);
@@ -146,7 +146,7 @@ TEST(CommandTranslation, ALineAndItsTextAreTheSameAction) {
   }
 }
 
-// Texts are shared, and so must tell what they are shared by: the word, either number, and their order.
+// Texts are shared, so they must be identified by everything: the word, either number, and their order.
 TEST(CommandTranslation, AShareOfATextIsTheSameText) {
   EXPECT_EQ("touch|press_rel:(0.5,0.25)|2|", Event("SLOTPRESS:2:2:1:1:640:180"));
   EXPECT_EQ("mouse|move:(0.5,0.25)||", Event("MOUSEMOVE_REL:640:180"));
@@ -198,7 +198,7 @@ TEST_F(DisplayTranslation, ADisplayWithoutSizeHasNoPoints) {
   EXPECT_EQ("touch|release|2|", Event("SLOTRELEASE:2"));
 }
 
-// One side is enough: of what is 0 wide there are no fractions, however high it is.
+// One side is enough: a display with a width of 0 has no fractions, whatever its height.
 TEST_F(DisplayTranslation, ADisplayOfOneSideHasNoPoints) {
   for (const QRect& display : {QRect(0, 0, 0, 720), QRect(0, 0, 1280, 0)}) {
     Host().display = display;

@@ -18,7 +18,7 @@ namespace {
 
 using tavikeymapmanager::ComposableConfigItem;
 
-QStringList told;  // what the host was told
+QStringList told;  // the calls of the host's functions
 
 class Recording : public Story, protected RecordFiles {
  protected:
@@ -261,7 +261,7 @@ TEST_F(Recording, ASecondPauseCountsFromTheSecond) {
   Wait(10);
   PauseRecord();
   Wait(100);
-  PauseRecord();  // as if it ran until now
+  PauseRecord();  // as if it had run until now
   Wait(1000);
   ResumeRecord();
   Wait(5);
@@ -282,8 +282,8 @@ TEST_F(Recording, TwoPausesInAGapAreBothCutOut) {
   EXPECT_RECORDED("23 keyboard keyboard_press:30");
 }
 
-// The pause before it is long over, and so the gap that ran before it is below 0: pause at 10, action at 30,
-// resume at 50 with last action = 50 - (10 - 30) = 70, and so the action at 75 comes 5 later.
+// The pause is long over, so the time before it is negative: pause at 10, action at 30, resume at 50 with last action =
+// 50 - (10 - 30) = 70, and so the action at 75 comes 5 later.
 TEST_F(Recording, AResumeWithoutAPauseTakesTheOldOne) {
   StartRecord("p", "a");
   Wait(10);

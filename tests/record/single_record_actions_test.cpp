@@ -112,7 +112,7 @@ TEST(SingleRecordActions, ATimerHasNothingButItsType) {
   EXPECT_EQ(0, action.timing);
 }
 
-// (1 / speed) is taken first, then the product is cut off.
+// (1 / speed) is computed first, then the product is truncated.
 TEST(SingleRecordActions, SpeedDividesAndCutsOff) {
   const struct {
     const char* name;

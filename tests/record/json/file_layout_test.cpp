@@ -1,4 +1,4 @@
-// What may be copied: a file that the library would write again, byte for byte.
+// Which files may be copied: those that the library would write again, byte for byte.
 //
 // TAVI_RECORD_DOCUMENTS and TAVI_RECORD_SEED make the search longer.
 #include "record/json/file_layout.h"
@@ -46,7 +46,7 @@ TEST(FileLayout, IsThatOfBothLibraries) {
   EXPECT_TRUE(IsLaidOut(json + " \r\n\t", FileLayout::Writer::kQt)) << "with more of them";
 }
 
-// Each row is a value that some fault would have copied, though a library writes it as another one.
+// Each row is a value that a faulty check would copy, though a library writes it in another form.
 TEST(FileLayout, HasOneFormOfEachValue) {
   const struct {
     const char* name;
@@ -116,7 +116,7 @@ TEST(FileLayout, IsThatOfAWholeDocument) {
   EXPECT_FALSE(IsLaidOut(InLayout("{'a':" + NestedLists(64) + "}"), FileLayout::Writer::kQt)) << "too deep";
 }
 
-// Found by level, not by name alone: another one is further down, and one is beside the header.
+// Found by level, not only by name: another one is deeper, and one is beside the header.
 TEST(FileLayout, TheTimeIsThatOfTheHeader) {
   for (const char* json :
        {"{'info':{'create_time':5,'other':{'create_time':6}}}", "{'info':{'a':{'create_time':6},'create_time':5}}",
