@@ -145,6 +145,37 @@ TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
   EXPECT_EQ(Document()->Text(), before_);
 }
 
+// Each edit has the whole file read again, which takes long in a large keymap.
+TEST_F(EditingInTheWindow, ADragIsShownOnItsWayAndWrittenAtItsEnd) {
+  Edit();
+  const QByteArray text = Document()->Text();
+  LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+  LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  EXPECT_EQ(text, Document()->Text());
+  EXPECT_FALSE(Document()->IsModified());
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  EXPECT_EQ(FileWith("[0.25, 0.75]", "[0.5, 0.25]"), Document()->Text().toStdString());
+  EXPECT_EQ(1, Document()->UndoStack()->count());
+}
+
+TEST_F(EditingInTheWindow, WhatEndsADragOtherwiseMovesNothing) {
+  Edit();
+  const auto drag = [this] {
+    LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+    LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  };
+  drag();
+  Layer()->Select(1);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  drag();
+  Edit(false);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  EXPECT_FALSE(Document()->IsModified());
+}
+
 TEST_F(EditingInTheWindow, ArrowKeysMoveByPixelsOfTheGuest) {
   Edit();
   Layer()->Select(0);
