@@ -2,7 +2,8 @@
 """The input manager library exports the functions of its header and no other symbol, and a program can link each. Both
 libraries have their version in their names and at each symbol.
 
-    exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY INCLUDE_DIR VERSION WORK_DIR COMPILER QT_INCLUDE_DIR...
+    exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY INCLUDE_DIR VERSION WORK_DIR COMPILER QT_CORE
+        QT_INCLUDE_DIR...
 """
 import os
 import re
@@ -13,7 +14,7 @@ from pathlib import Path
 
 from commands import run
 
-NM, READELF, LIBRARY, KEYMAP_LIBRARY, INCLUDE, VERSION, WORK, COMPILER, *QT = sys.argv[1:]
+NM, READELF, LIBRARY, KEYMAP_LIBRARY, INCLUDE, VERSION, WORK, COMPILER, QT_CORE, *QT = sys.argv[1:]
 del sys.argv[1:]
 NAMESPACE = "taviinputmanager::"
 HEADER = "taviinputmanager/taviinputmanager.h"
@@ -58,8 +59,8 @@ class ExportedSymbols(unittest.TestCase):
         source, program = Path(WORK, "all.cpp"), Path(WORK, "all")
         source.write_text(program_of_all(), encoding="utf-8")
         system = [word for folder in QT for word in ("-isystem", folder)]
-        run(COMPILER, "-std=c++17", "-fPIC", f"-I{INCLUDE}", *system, source, LIBRARY, f"-Wl,-rpath,{Path(LIBRARY).parent}",
-            "-o", program)
+        run(COMPILER, "-std=c++17", "-fPIC", f"-I{INCLUDE}", *system, source, LIBRARY, QT_CORE,
+            f"-Wl,-rpath,{Path(LIBRARY).parent}", "-o", program)
         run(program, env={**os.environ, "LD_BIND_NOW": "1"})
 
     def test_every_symbol_has_the_node_of_the_version(self):
