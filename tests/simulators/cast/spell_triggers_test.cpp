@@ -26,7 +26,7 @@ TEST_F(SpellTriggers, ImmediateHoldsTheButtonWhileItsKeyIsDown) {
   EXPECT_WIRE(At(0, 960, 540));
   EXPECT_TRUE(IsActive());
   PointTo(840, 360);
-  Play("wait 100; down Q");  // the pointer does not aim, and a second press is nothing
+  Play("wait 100; down Q");  // the pointer does not aim, and a second press has no effect
   EXPECT_WIRE_NONE();
   Play("up Q");
   EXPECT_WIRE(Lift(100));
@@ -58,7 +58,7 @@ TEST_F(SpellTriggers, OnReleaseSwipesFollowsAndCastsWithItsKey) {
   Play("wait 1; up Q");
   EXPECT_WIRE(Lift(58));
   EXPECT_FALSE(IsActive());
-  Play("wait 100; up Q");  // ticks find nothing to do
+  Play("wait 100; up Q");  // ticks have nothing to do
   EXPECT_WIRE_NONE();
 }
 
@@ -134,7 +134,7 @@ TEST_F(SpellTriggers, OnPressOnTheInnerWalkIsATap) {
 }
 
 TEST_F(SpellTriggers, AnUnknownTriggerCastsOnRelease) {
-  AddSpell("Spell_Trigger_Immediate", keywords::kLocationMouse);  // spelt as nobody spells it
+  AddSpell("Spell_Trigger_Immediate", keywords::kLocationMouse);  // an unknown spelling
   Load();
   Play("down Q");
   EXPECT_WIRE(At(0, 960, 540), At(0, 980, 540));
@@ -283,7 +283,7 @@ TEST_F(SpellTriggers, AReleaseMakesItsWorkerThePresentOne) {
   Forget();
   Play("wait 16");
   EXPECT_WIRE(At(16, 980, 540));
-  Play("up E; wait 16");  // a stray release: frames go to a worker that follows nothing
+  Play("up E; wait 16");  // a stray release: frames go to a worker that has no cast
   EXPECT_WIRE_NONE();
   EXPECT_FALSE(IsActive());
   Play("up Q");

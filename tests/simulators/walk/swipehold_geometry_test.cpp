@@ -77,7 +77,7 @@ TEST_F(SwipeholdGeometry, AWindowThatTurnsDuringAWalk) {
   EXPECT_WIRE(At(48, 683, 203));
 }
 
-// The machine goes on; what cannot be mapped is not sent.
+// The state machine continues; positions that cannot be converted are not sent.
 TEST_F(SwipeholdGeometry, AWindowWithoutSizeSwallowsPositions) {
   AddShortWalk();
   Load();
