@@ -88,8 +88,8 @@ class LiveHost : public QObject {
   LiveHost();
 
   void SendLine(const char* data, int length);
-  // Whether anybody ever listened to EntryAdded. To ask with each line whether somebody still does would be a good part
-  // of its way; the end of a listener is told under locks of Qt, where nothing can be asked.
+  // Whether EntryAdded was ever connected. Checking at each line whether it still is would be a large part of the
+  // line's cost, and disconnections are notified under locks of Qt, where nothing may be called.
   bool IsHeard() const { return is_heard_; }
   void connectNotify(const QMetaMethod& signal) override;
   void Add(TimelineEntry::Source source, const QString& text);
