@@ -50,7 +50,7 @@ void ScreenContacts::ReportContacts(const GuestLine& line, EventFrame* frame) {
   }
 }
 
-// The tracking id stands behind the slot.
+// The tracking id follows the slot.
 void ScreenContacts::Press(const GuestLine& line, size_t slot_index, size_t place_index, EventFrame* frame) {
   const int slot = line.Integer(slot_index);
   const int tracking_id = line.Integer(slot_index + 1);
@@ -66,14 +66,14 @@ void ScreenContacts::Press(const GuestLine& line, size_t slot_index, size_t plac
   frame->Axis(ABS_MT_POSITION_X, point.x).Axis(ABS_MT_POSITION_Y, point.y);
 }
 
-// A finger that found no room is told once, not with each of its moves.
+// A contact without a free place is reported once, not with each of its moves.
 bool ScreenContacts::HasRoomFor(int slot) {
   if (down_[slot] || down_.count() < most_fingers_) {
     refused_.reset(slot);
     return true;
   }
   if (!refused_[slot]) {
-    problem_ = "more than " + std::to_string(most_fingers_) + " fingers at once are not seen there; left out";
+    problem_ = "more than " + std::to_string(most_fingers_) + " fingers at once are not supported; ignored";
   }
   refused_.set(slot);
   return false;
@@ -89,7 +89,7 @@ void ScreenContacts::Release(int slot, EventFrame* frame) {
     return;
   }
   refused_.reset(slot);
-  if (!down_[slot]) return;  // up already, as most slots that a reset sweeps
+  if (!down_[slot]) return;  // already up, like most slots that a reset sweeps
   down_.reset(slot);
   frame->Axis(ABS_MT_SLOT, slot).Axis(ABS_MT_TRACKING_ID, kNoTrackingId);
 }

@@ -4,7 +4,7 @@ namespace tavi {
 
 using Kind = GuestLine::Kind;
 
-// A text is taken from the line as it is: not every QString is valid UTF-8.
+// A text is taken from the line itself: not every QString is valid Unicode.
 GuestLine ParseGuestLine(const QString& line) {
   const taviguest::GuestLine parsed = taviguest::ParseGuestLine(line.toStdString());
   GuestLine result;

@@ -21,11 +21,11 @@ using Microseconds = std::chrono::microseconds;
 constexpr qint64 kTicksOfMs = 1000;  // the clock's ticks are microseconds
 constexpr qint64 kTicksOfSecond = 1'000'000;
 constexpr qint64 kNanosecondsOfTick = 1000;
-constexpr int kMostAtOnce = 16;  // files; more are told the next time
+constexpr int kMostAtOnce = 16;  // files; others are returned by the next call
 
-// What epoll is asked for, by QSocketNotifier::Type. The end of a file and its errors are news for all.
+// The events of a QSocketNotifier::Type. The end of a file and its errors are reported to all.
 constexpr std::uint32_t kAsked[] = {EPOLLIN, EPOLLOUT, EPOLLPRI};
-constexpr std::uint32_t kAlwaysTold = EPOLLHUP | EPOLLERR;
+constexpr std::uint32_t kAlwaysReported = EPOLLHUP | EPOLLERR;
 
 }  // namespace
 
@@ -43,7 +43,7 @@ EpollDispatcher::~EpollDispatcher() {
   for (const int file : {alarm_, waking_, epoll_}) ::close(file);
 }
 
-// The clock of the alarm.
+// The same clock as the alarm's.
 qint64 EpollDispatcher::Now() const {
   return std::chrono::duration_cast<Microseconds>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
@@ -84,7 +84,7 @@ std::uint32_t EpollDispatcher::EventsOf(const Notifiers& notifiers) {
   return events;
 }
 
-// A file that was closed before is forgotten by the kernel, so that it is another one now, or none.
+// The kernel has removed files that were closed, so a known number may be a new file.
 void EpollDispatcher::Watch(int file, std::uint32_t events) {
   epoll_event event{};
   event.events = events;
@@ -104,7 +104,7 @@ bool EpollDispatcher::ServeFiles(bool waits) {
   bool is_any_served = false;
   for (int i = 0; i < count; ++i) {
     const int file = ready[i].data.fd;
-    if (file == alarm_) continue;  // it is quiet again when it is set anew
+    if (file == alarm_) continue;  // setting it again clears it
     is_any_served = true;
     if (file == waking_) {
       TakeWakeUp();
@@ -115,17 +115,17 @@ bool EpollDispatcher::ServeFiles(bool waits) {
   return is_any_served;
 }
 
-// What is posted from here on wakes anew, and what was posted before is delivered next.
+// Events posted from now on wake the loop again; those posted before are delivered next.
 void EpollDispatcher::TakeWakeUp() {
   eventfd_t times = 0;
   ::eventfd_read(waking_, &times);
   is_woken_ = false;
 }
 
-// Whoever is told may end any notifier.
+// A receiver may delete any notifier.
 void EpollDispatcher::Serve(int file, std::uint32_t events) {
   for (std::size_t type = 0; type < std::size(kAsked); ++type) {
-    if ((events & (kAsked[type] | kAlwaysTold)) == 0) continue;
+    if ((events & (kAsked[type] | kAlwaysReported)) == 0) continue;
     const auto found = notifiers_.find(file);
     if (found == notifiers_.end()) return;
     if (!found->second[type]) continue;
@@ -156,7 +156,7 @@ bool EpollDispatcher::FireTimers() {
   return is_any_fired;
 }
 
-// Zero is no time: the alarm is off then.
+// A time of zero switches the alarm off.
 void EpollDispatcher::SetAlarm() {
   const Timer* next = Earliest(kEver, NextOrder(), IsFree);
   const qint64 due = next ? next->due : 0;

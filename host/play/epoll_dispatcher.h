@@ -10,14 +10,14 @@
 
 namespace tavi {
 
-// The event dispatcher of a player: one that hears of a device's events soon. Qt's own asks the kernel about each of
-// its files anew whenever one of them has something, which is longer than all that Qt itself does on a key's way. Here
-// the kernel keeps the files, and tells the one.
+// The event dispatcher of `tavi play`, which has less latency than Qt's own: that passes all its files to poll() at
+// each event, which costs more than the rest of Qt's part in a key's path. Here the kernel keeps the list of files, and
+// returns the one that is ready.
 //
-// It is installed before the application object is made, which then owns it. Windows are not served, and
-// QEventLoop::ExcludeSocketNotifiers and X11ExcludeTimers are not known.
+// Install it before you create the application object, which then owns it. It does not serve windows, and ignores
+// QEventLoop::ExcludeSocketNotifiers and X11ExcludeTimers.
 //
-// Threads: the main thread; wakeUp and interrupt may be called on any.
+// Threads: the main thread; wakeUp and interrupt may be called on any thread.
 class EpollDispatcher : public TimedDispatcher {
  public:
   EpollDispatcher();
@@ -33,15 +33,15 @@ class EpollDispatcher : public TimedDispatcher {
   void interrupt() override;
 
  private:
-  // Those of one file, by QSocketNotifier::Type; null: none.
+  // The notifiers of one file, by QSocketNotifier::Type; may be null.
   using Notifiers = std::array<QSocketNotifier*, 3>;
 
   bool HasPosted() const override { return is_woken_; }
   qint64 Now() const override;
-  // In an event loop inside of its own handler, a timer is not waited for.
+  // An event loop inside a timer's handler does not wait for that timer.
   static bool IsFree(const Timer& timer) { return !timer.in_handler; }
   static std::uint32_t EventsOf(const Notifiers& notifiers);
-  // Nothing to ask for: no more.
+  // Without events, removes the file.
   void Watch(int file, std::uint32_t events);
   bool ServeFiles(bool waits);
   void TakeWakeUp();
@@ -51,7 +51,7 @@ class EpollDispatcher : public TimedDispatcher {
 
   const int epoll_;
   const int waking_;  // an eventfd
-  const int alarm_;   // a timerfd, which wakes for the next timer
+  const int alarm_;   // a timerfd, set to the next timer
   qint64 alarm_due_ = 0;
   std::map<int, Notifiers> notifiers_;  // by file
   std::atomic<bool> is_woken_{false};

@@ -38,7 +38,7 @@ bool HasAll(const libevdev* device, unsigned type, unsigned first, unsigned last
 
 bool Has(const libevdev* device, unsigned type, unsigned code) { return HasAll(device, type, code, code); }
 
-// Escape to S: what udev takes a keyboard to have.
+// Escape to S: the keys by which udev recognizes a keyboard.
 bool HasLetters(const libevdev* device) { return HasAll(device, EV_KEY, KEY_ESC, KEY_S); }
 
 DeviceTraits TraitsOf(const libevdev* device, const QString& path) {
@@ -76,7 +76,7 @@ std::unique_ptr<EvdevDevice> EvdevDevice::Open(const QString& path, QString* pro
 EvdevDevice::EvdevDevice(int file, libevdev* device, const QString& path)
     : file_(file), device_(device), traits_(TraitsOf(device, path)) {}
 
-// Closing gives a grab back.
+// Closing ends a grab.
 EvdevDevice::~EvdevDevice() {
   libevdev_free(device_);
   ::close(file_);
@@ -120,14 +120,14 @@ void EvdevDevice::CatchUp() {
 }
 
 bool EvdevDevice::IsAnyKeyDown() const {
-  is_behind_ = true;  // asking takes events back
+  is_behind_ = true;  // the ioctl drops queued events
   return KeysDown(file_).any();
 }
 
 QString EvdevDevice::Grab() {
   const int result = libevdev_grab(device_, LIBEVDEV_GRAB);
   if (result == 0) return {};
-  return result == -EBUSY ? QStringLiteral("another program keeps it for itself") : qt_error_string(-result);
+  return result == -EBUSY ? QStringLiteral("another program has grabbed it") : qt_error_string(-result);
 }
 
 void EvdevDevice::Ungrab() { libevdev_grab(device_, LIBEVDEV_UNGRAB); }

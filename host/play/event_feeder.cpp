@@ -20,15 +20,15 @@ using taviinputmanager::InputStatus;
 
 namespace {
 
-constexpr int kNotch = 120;  // of Qt, and of a wheel with high resolution
-constexpr int kRepeat = 2;   // the value of a key that the kernel repeats
+constexpr int kNotch = 120;  // of Qt, and of a high-resolution wheel
+constexpr int kRepeat = 2;   // the value of a key repeat from the kernel
 
 struct ButtonRow {
   int code;
   Qt::MouseButton button;
 };
 
-// As Qt numbers them under X11 and Wayland, so that a keymap is one for the window and for this.
+// With Qt's numbers under X11 and Wayland, so that one keymap works in the window and here.
 constexpr ButtonRow kButtons[] = {
     {BTN_LEFT, Qt::LeftButton},   {BTN_RIGHT, Qt::RightButton},   {BTN_MIDDLE, Qt::MiddleButton},
     {BTN_SIDE, Qt::BackButton},   {BTN_EXTRA, Qt::ForwardButton}, {BTN_FORWARD, Qt::ExtraButton3},
@@ -58,7 +58,7 @@ bool IsViewSteered() {
   return status == static_cast<int>(InputStatus::Staring) || status == static_cast<int>(InputStatus::Observing);
 }
 
-// As a window system tells it, which is what keys are compared by that are kept for the program.
+// As a window system reports it, because reserved keys are compared by that.
 QKeyEvent WindowSystemEvent(int code, bool is_down, Qt::KeyboardModifiers modifiers) {
   return {is_down ? QEvent::KeyPress : QEvent::KeyRelease,
           0,
@@ -97,7 +97,7 @@ void EventFeeder::Take(int device, const InputFrame& frame, bool is_fed) {
   if (is_fed) Turn(motion.wheel);
 }
 
-// A key that is down on two keyboards is one key, down until it is up on both.
+// A key that is down on two keyboards is one key, which is down until it is released on both.
 bool EventFeeder::TakeKey(int device, const DeviceEvent& event, bool is_fed) {
   std::vector<int>& devices = keys_[event.code].devices;
   const auto found = std::find(devices.begin(), devices.end(), device);
@@ -158,8 +158,8 @@ void EventFeeder::Move(const Motion& motion) {
   InputPort::GetInstance()->Send(&event);
 }
 
-// To an item on the wheel each event is a notch, so that parts of one are added up. What is left of a turn counts for
-// nothing when the wheel goes the other way.
+// For an item on the wheel each event is a notch, so parts of a notch are added up. A remainder is discarded when the
+// wheel turns the other way.
 void EventFeeder::Turn(int parts) {
   if (parts == 0) return;
   if ((parts > 0) != (turned_ > 0)) turned_ = 0;
@@ -189,8 +189,8 @@ QPointF EventFeeder::Pointer() const {
   return {qMin(place_.x() * size.width(), size.width() - 1.0), qMin(place_.y() * size.height(), size.height() - 1.0)};
 }
 
-// By the US layout, which is the guest's own: there is no window system that would know another. A key is no text while
-// others make it a command.
+// In the US layout, which the guest uses: there is no window system that would know another. A key is not text while a
+// modifier makes it a command.
 QString EventFeeder::TextOf(int code) const {
   if (!LiveHost::GetInstance()->HasTextField()) return {};
   const Qt::KeyboardModifiers modifiers = Modifiers();
@@ -215,7 +215,7 @@ Qt::MouseButtons EventFeeder::Buttons() const {
   return buttons;
 }
 
-// Names of keys are looked up for it, once for each key.
+// Looked up once for each key, because finding the name takes a while.
 const NativeKey& EventFeeder::NativeOf(int code) {
   auto native = natives_.find(code);
   if (native == natives_.end()) {

@@ -8,7 +8,7 @@ namespace tavi {
 Watchdog::Watchdog(int look_ms, int patience, std::function<void()> bite)
     : look_ms_(look_ms), patience_(patience), bite_(std::move(bite)) {
   QObject::connect(&pulse_, &QTimer::timeout, [this] { has_pulse_ = true; });
-  pulse_.start(look_ms / 2);  // at least one falls between two looks
+  pulse_.start(look_ms / 2);  // at least one falls between two checks
   thread_ = std::thread([this] { Watch(); });
 }
 

@@ -16,23 +16,23 @@ void VirtualEventDispatcher::Sleep(unsigned long ms) { RunUntil(NowMs() + static
 
 void VirtualEventDispatcher::Settle() {
   do {
-    // One call delivers only what was posted before it began, and tells us through wakeUp what came since.
+    // One call delivers only what was posted before it began; wakeUp reports what was posted since.
     do {
       posted_ = false;
       also_deliver_();
       QCoreApplication::sendPostedEvents();
     } while (posted_);
-    // What was deleted later outside of any event loop is nobody else's to deliver. Inside of one, Qt's own rule holds:
-    // an object lives on until the handler that gave it up has returned.
+    // Nobody else delivers a deferred delete from outside any event loop. From inside one, Qt's own rule applies: the
+    // object exists until the handler that deleted it has returned.
     if (loop_depth_ == 0) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   } while (posted_);
 }
 
-// Of all timers, or in a blocking sleep of the workers' alone; nothing is delivered then.
+// For all timers, or in a blocking sleep only for those of the workers; nothing is delivered then.
 void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
   for (;;) {
     if (scope == Scope::kAll) Settle();
-    // A pass of 0 ms timers alone needs a millisecond to pass in.
+    // A pass with only 0 ms timers takes a millisecond.
     const Timer* next = EarliestOf(scope, end_ms, NowMs() < end_ms ? NextOrder() : 0);
     if (!next) break;
     now_ms_ = std::max(NowMs(), next->due);
@@ -41,10 +41,10 @@ void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
   now_ms_ = std::max(NowMs(), end_ms);
 }
 
-// Fires what is due by `limit_ms`, and tells whether that was anything.
+// Fires what is due by `limit_ms`, and returns whether there was anything.
 bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
   const quint64 pass_order = NextOrder();
-  const qint64 pass_ms = NowMs();  // a handler that sleeps does not make its pass later
+  const qint64 pass_ms = NowMs();  // a handler that sleeps does not delay its pass
   bool any = false;
   bool only_idle = true;
   for (;;) {
@@ -69,7 +69,7 @@ bool VirtualEventDispatcher::IsWorkers(const Timer& timer) {
 
 bool VirtualEventDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags) {
   const QScopedValueRollback<int> depth(loop_depth_, loop_depth_ + 1);
-  // A wake-up that came before we looked must not be slept through.
+  // A wake-up that came before this check must not be slept through.
   const bool was_woken = interrupted_.exchange(false) || posted_;
   const bool any = RunPass(NowMs(), Scope::kAll) || was_woken;
   if (any || interrupted_ || !flags.testFlag(QEventLoop::WaitForMoreEvents)) return any;

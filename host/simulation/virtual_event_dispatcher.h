@@ -1,4 +1,4 @@
-// Virtual time for a whole program: timers, pauses and the clock without any waiting.
+// Virtual time for a whole program: timers, pauses and the clock, without any waiting.
 #ifndef HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 #define HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 
@@ -13,8 +13,8 @@
 
 namespace tavi {
 
-// The event dispatcher of a program that runs on virtual time. It is installed before the application object is made,
-// which then owns it:
+// The event dispatcher of a program on virtual time. Install it before creating the application object, which then owns
+// it:
 //
 //   auto* time = new VirtualEventDispatcher;
 //   QCoreApplication::setEventDispatcher(time);
@@ -22,19 +22,19 @@ namespace tavi {
 //   ...
 //   time->Advance(100);               // what takes 100 ms is done when it returns
 //
-// The clock stands still but for Advance, Sleep and event loops that have nothing left to do at the present moment:
-// these go on to the next timer instead of waiting for it, and wait for other threads when there is no timer either.
+// Time passes only in Advance, in Sleep, and in event loops that have nothing left to do at the current time: these
+// skip to the next timer instead of waiting for it, and wait for other threads if there is no timer either.
 //
-// Order, the same at every run:
+// The order is the same in every run:
 // - Before each timer all posted events and deferred deletes are delivered, until nothing is left.
-// - Timers fire as TimedDispatcher says.
-// - A pass is all that is due at one moment. A timer of 0 ms fires once a pass (one started in a pass, in the next),
-//   and a pass that fired nothing else takes 1 ms.
+// - Timers fire in the order of TimedDispatcher.
+// - A pass is everything that is due at one moment. A timer of 0 ms fires once per pass (if started in a pass, in the
+//   next one), and a pass that fired nothing else takes 1 ms.
 //
-// Sockets are not served, and windows are told nothing by their platform but through PlatformEvents.
+// Sockets are not served, and the platform sends nothing to windows except through PlatformEvents.
 //
-// Threads: the main thread; wakeUp, interrupt and NowMs may be called on any, so that other threads can post to the
-// main thread as ever.
+// Threads: the main thread; wakeUp, interrupt and NowMs may be called on any thread, so that other threads can post to
+// the main thread as usual.
 class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::VirtualTime {
   Q_OBJECT
   Q_INTERFACES(taviinputmanager::VirtualTime)
@@ -44,21 +44,20 @@ class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::
 
   explicit VirtualEventDispatcher(qint64 start_ms = kDefaultStartMs);
 
-  // Lets `ms` milliseconds pass: fires every timer that falls due on the way or at the end of it, and returns at that
-  // moment with nothing left to deliver. Timers of 0 ms get no pass of their own at the very end: that belongs to the
-  // next millisecond, so that two steps do what one of their sum does. Where a handler sleeps beyond the end, the time
-  // is later, and what fell due after the end is left to the next call.
+  // Advances the time by `ms` milliseconds: fires every timer that is due on the way or at the end, and returns at that
+  // time with nothing left to deliver. Timers of 0 ms get no pass of their own at the very end: it belongs to the next
+  // millisecond, so that two steps do the same as one of their sum. If a handler sleeps beyond the end, the time is
+  // later, and timers due after the end are left to the next call.
   void Advance(int ms);
   // Delivers posted events and deferred deletes until nothing is left. Takes no time and fires no timer.
   void Settle();
-  // `deliver` is called wherever posted events are delivered. What it delivers may post more.
+  // `deliver` is called whenever posted events are delivered. What it delivers may post more.
   void AlsoDeliver(std::function<void()> deliver) { also_deliver_ = std::move(deliver); }
   void SetPointer(const QPoint& pointer) { pointer_ = pointer; }
 
   // VirtualTime.
   qint64 NowMs() const override { return now_ms_.load(); }
-  // Fires the timers marked with kWorkerTimerProperty that fall due on the way or at the end of it, and delivers
-  // nothing.
+  // Fires the timers marked with kWorkerTimerProperty that are due on the way or at the end, and delivers nothing.
   void Sleep(unsigned long ms) override;
   QPoint Pointer() const override { return pointer_; }
 
@@ -89,7 +88,7 @@ class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::
   std::atomic<qint64> now_ms_;
   QPoint pointer_;
   std::function<void()> also_deliver_ = [] {};
-  int loop_depth_ = 0;  // event loops under way
+  int loop_depth_ = 0;  // nested event loops
 
   std::atomic<bool> interrupted_{false};
   std::atomic<bool> posted_{false};  // set under `wake_mutex_`

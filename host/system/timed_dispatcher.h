@@ -1,4 +1,4 @@
-// What event dispatchers of our own have in common: their timers.
+// The timers of our own event dispatchers.
 #ifndef HOST_SYSTEM_TIMED_DISPATCHER_H_
 #define HOST_SYSTEM_TIMED_DISPATCHER_H_
 
@@ -9,11 +9,11 @@
 
 namespace tavi {
 
-// Timers fire by due time, equal ones by the time of their last start or timeout. On a timeout, before it is told, the
-// due time moves on by the interval, and if it is past even then, to one interval from now. A timer does not fire
-// inside its own handler. All types are precise.
+// Timers fire by due time, those with equal due times by the time of their last start or timeout. On a timeout, before
+// the timer event, the due time advances by the interval; if that is in the past as well, it becomes one interval from
+// now. A timer does not fire inside its own handler. All timers are precise.
 //
-// Times are in ticks of the dispatcher's own clock. Threads: that of the dispatcher.
+// Times are in ticks of the dispatcher's clock. Only the dispatcher's thread.
 class TimedDispatcher : public qt::EventDispatcher {
  public:
   // QAbstractEventDispatcher.
@@ -32,22 +32,22 @@ class TimedDispatcher : public qt::EventDispatcher {
     Qt::TimerType type = Qt::CoarseTimer;
     QObject* object = nullptr;
     qint64 due = 0;
-    quint64 order = 0;  // of all starts and timeouts
+    quint64 order = 0;  // counts all starts and timeouts
     bool in_handler = false;
   };
   using TimerTest = bool (*)(const Timer& timer);
 
   explicit TimedDispatcher(qint64 ticks_of_ms) : ticks_of_ms_(ticks_of_ms) {}
 
-  // What the clock says.
+  // The time in ticks.
   virtual qint64 Now() const = 0;
 
-  // The first timer that passes the test and is due by `limit`; those of 0 ms count only where they were started before
-  // `idle_before`. Null: none.
+  // The first timer that passes the test and is due by `limit`; those of 0 ms count only if they were started before
+  // `idle_before`. Null if there is none.
   Timer* Earliest(qint64 limit, quint64 idle_before, TimerTest test);
-  // `pass`: when this round of timeouts began.
+  // `pass` is the time at which this round of timeouts began.
   void Fire(Timer* timer, qint64 pass);
-  // That of the next start or timeout.
+  // The order of the next start or timeout.
   quint64 NextOrder() const { return next_order_; }
 
  private:

@@ -1,4 +1,4 @@
-// What the guest knows for itself is what the library, its program and the kernel's own names say.
+// The guest's own data agrees with the library, its program and the kernel's names.
 #include <gtest/gtest.h>
 #include <libevdev/libevdev.h>
 #include <random>

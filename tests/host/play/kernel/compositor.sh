@@ -1,6 +1,6 @@
 #!/bin/busybox sh
-# The first process of the small machine in which a program under a compositor, as a player's desktop has one, is what
-# sees the fingers: a Wayland client of a wlroots compositor without a screen.
+# The first process of the small machine in which a Wayland client of a wlroots compositor without a screen sees the
+# contacts, as programs on a player's desktop do.
 . /machine.sh
 
 $bb mkdir -m 1777 /dev/shm
@@ -13,7 +13,7 @@ until [ -e /run/seatd.sock ] || [ $tries = 100 ]; do
   $bb sleep 0.05
   tries=$((tries + 1))
 done
-# The client's own output comes in large pieces; what it is told on its connection is written down at once.
+# The client buffers its output; the log of its connection is written at once.
 $bb chmod 666 /log/client
 $bb su -s /bin/sh player -c "export XDG_RUNTIME_DIR=/run/of_player LIBSEAT_BACKEND=seatd WLR_RENDERER=pixman \
   WLR_BACKENDS=headless,libinput WLR_LIBINPUT_NO_DEVICES=1 WAYLAND_DEBUG=client; \

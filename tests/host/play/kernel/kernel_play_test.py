@@ -27,9 +27,9 @@ BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
 HERE = Path(__file__).parent
 QEMU = small_machine.X86_64[0]
 BOOT_SECONDS = 900
-# For the race, a processor that takes 4 ns for each instruction, whatever else the computer does that emulates it. Of
-# itself an emulated one forgets with each switch of processes where its code is, and finding that anew is what would be
-# measured.
+# For the race, a processor that takes 4 ns for each instruction, whatever the load of the computer that emulates it.
+# Without that, an emulated processor forgets the addresses of its code with each switch of processes, and finding those
+# again would be most of what is measured.
 STEADY = [*small_machine.X86_64, "-icount", "shift=2"]
 MOST_TIMES_BARE = 2.0  # 1.9 was measured
 LIBINPUT = KERNEL / "libinput"
@@ -161,7 +161,7 @@ def simulate(script, *options):
 
 
 def events_of(timeline):
-    """What the devices are told of it, as `tavi guest-uinput` says it."""
+    """The events of the devices for a timeline, from `tavi guest-uinput`."""
     return [line.split() for line in run(TAVI, "guest-uinput", "--timeline", "--dry-run", input=timeline).splitlines()]
 
 
@@ -329,12 +329,12 @@ class KernelPlay(unittest.TestCase):
         text = "\n".join(self.files["rights"])
         without, member = text.split("player\n")[0], text.split("player\n")[1].split("tavi play: /dev/uinput")[0]
         self.assertIn("/dev/input/event1  not readable: Permission denied", without)
-        self.assertIn("/dev/uinput may not be written to, which the touch screen is made through", without)
+        self.assertIn("/dev/uinput is not writable; it is needed to create the touch screen", without)
         self.assertIn("As root: adduser YOUR-NAME input. Then log out and in again.", without)
         self.assertIn("list 1\n", without)
         self.assertIn('keyboard  "Test Board"  taken', member)
         self.assertIn("list 0\n", member)
-        self.assertIn('no "tavi play" of yours runs under the name "play"\ncontrol 1', member)
+        self.assertIn('you have no "tavi play" running under the name "play"\ncontrol 1', member)
         self.assertTrue(text.endswith("\nplay 1"), text)
 
     def test_the_script_is_seen_as_it_was_simulated(self):

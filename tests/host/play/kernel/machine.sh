@@ -1,5 +1,5 @@
-# What both first processes of the small machine begin with, to be read by a shell: its devices, the player's hands, and
-# the eyes that see what others see.
+# The start of each first process of the small machine, to be sourced: its devices, the player's input, and a reader of
+# the events that others see.
 bb=/bin/busybox
 PATH=/bin
 $bb mkdir -p /proc /sys /dev /run /tmp
@@ -45,7 +45,7 @@ wait_state() {
     [ $tries -lt 1200 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
   done
 }
-# wait_touch STEP: until a finger went down in this step, or a minute is over
+# wait_touch STEP: until a contact is pressed in this step, or a minute is over
 wait_touch() {
   tries=0
   until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do
@@ -75,7 +75,7 @@ start_play() {
   play=$!
   wait_for "^mapping on, keymap.yaml.*2 keyboards, 1 mouse" /log/play
 }
-# kill_while_walking SIGNAL: with a finger down. Others have seen what there is to be seen when it returns.
+# kill_while_walking SIGNAL: kills it while a contact is down, and returns when others have seen the result
 kill_while_walking() {
   step "$1"
   wait_state "mapping on"
@@ -89,7 +89,7 @@ kill_while_walking() {
 }
 ask() { echo "$1: $(/tavi play --control "$1" 2>&1)" >>/log/answers; }
 
-# tell FILES: what they have come to, between the marks that the test looks for; and off
+# tell FILES: prints them, between the marks that the test looks for, and powers off
 tell() {
   echo "=== begin"
   for name in "$@"; do
