@@ -17,7 +17,7 @@ qint64 clock_stride_ms = 0;
 
 }  // namespace
 
-// In front of Qt's: reads the real clock, at its real price.
+// Replaces Qt's function: reads the real clock, at its real cost.
 qint64 QDateTime::currentMSecsSinceEpoch() noexcept {
   using Clock = qint64 (*)();
   static const auto real = reinterpret_cast<Clock>(dlsym(RTLD_NEXT, "_ZN9QDateTime22currentMSecsSinceEpochEv"));
@@ -51,7 +51,7 @@ InputManagerCallbacks MakeCallbacks() {
   return table;
 }
 
-// Four keys in place of one: letters for the walk, arrows for the eye.
+// Four keys instead of one: letters for the walk, arrows for the eye.
 template <typename Item>
 std::unique_ptr<ConfigItem> MakeFourKeys(const QString& type, const std::array<int, 4>& scancodes) {
   auto item = std::make_unique<Item>();
@@ -63,7 +63,7 @@ std::unique_ptr<ConfigItem> MakeFourKeys(const QString& type, const std::array<i
   return item;
 }
 
-// A walk, an eye, and then single keys, every fifth of another class than a plain click.
+// A walk, an eye, and then single keys, every fifth of another class than an ordinary click.
 std::unique_ptr<ConfigItem> MakeFiller(int number) {
   const int scancode = kFirstFillerScanCode + number;
   switch (number) {
@@ -123,7 +123,7 @@ QKeyEvent MakeKey(QEvent::Type type, int scancode) {
 }
 
 void SetClockStride(int ms) {
-  clock_stride_ms = ms;  // what it has gained stays: a clock that is set back would hold paths up
+  clock_stride_ms = ms;  // the clock keeps its lead: setting it back would delay timers
 }
 
 }  // namespace taviinputmanager::bench

@@ -14,23 +14,23 @@ namespace taviinputmanager::bench {
 
 constexpr int kDisplay = 1;
 
-// The keys that the paths press, by Windows scan code.
+// The keys that the benchmarks press, by Windows scan code.
 constexpr int kWalkUpScanCode = 17;    // W
 constexpr int kLastScanCode = 59;      // F1: the last item of every keymap
 constexpr int kUnmappedScanCode = 48;  // B
 constexpr int kFirstFillerScanCode = 1000;
 
-// Takes a line and forgets it. What a path's line and its floor's line go to alike.
+// Receives a line and discards it. Both a path's lines and its baseline's go here.
 void Sink(const char* data, int length);
 
-// Once, at the start: the table, the send functions, Initialize.
+// Call it once, at the start: sets the table and the send functions, and calls Initialize.
 void SetUpHost();
 
-// A keymap of `size` items with a key each: a walk, an eye, clicks, rapid taps and casts. The last is a Click on
+// A keymap of `size` items with one key each: a walk, an eye, clicks, rapid taps and casts. The last is a Click on
 // kLastScanCode. `size` is at least 1.
 std::unique_ptr<tavikeymapmanager::KeymapConfig> MakeKeymap(int size);
 
-// Makes a single item, on kLastScanCode unless `scancode` says another.
+// Creates a single item, on kLastScanCode unless `scancode` is set.
 template <typename Item>
 std::unique_ptr<Item> MakeItem(const QString& type, int scancode = kLastScanCode) {
   auto item = std::make_unique<Item>();
@@ -45,14 +45,14 @@ std::unique_ptr<Item> MakeItem(const QString& type, int scancode = kLastScanCode
 // Loads `config` as a host would.
 void Load(std::unique_ptr<tavikeymapmanager::KeymapConfig> config);
 
-// What `round` sends, line by line, each with its display and newline.
+// The lines that `round` sends, each with its display and newline.
 std::string Record(void (*round)());
 
-// A key event as the host hands it over.
+// A key event as the host passes it.
 QKeyEvent MakeKey(QEvent::Type type, int scancode);
 
-// From now on each reading of the clock gains `ms` on the one before: for paths that drop what comes too early. It
-// stays a reading of the real clock, at its price. 0: the clock goes on at its own pace.
+// From now on each reading of the clock is `ms` later than the previous one: for code that drops events that come too
+// early. The real clock is still read, at its cost. 0: the clock runs normally again.
 void SetClockStride(int ms);
 
 }  // namespace taviinputmanager::bench

@@ -1,5 +1,5 @@
-// What each path is measured against: the same bytes, formatted with std::to_chars into a buffer on the stack, and one
-// call through a function pointer; where the path's behaviour asks for the time, one reading of the clock an event.
+// The baseline of each path: the same bytes, formatted with std::to_chars into a buffer on the stack, and one call
+// through a function pointer; if the path needs the time, also one reading of the clock per event.
 #ifndef BENCHMARKS_FLOOR_H_
 #define BENCHMARKS_FLOOR_H_
 
@@ -14,12 +14,13 @@ namespace taviinputmanager::bench {
 
 using SendFunction = void (*)(const char* data, int length);
 
-// Where floors send to. Written before a floor runs; volatile, so that the call stays one through a pointer.
+// Where baselines send. Written before a baseline runs; volatile, so that the call through the pointer is not optimized
+// away.
 extern SendFunction volatile floor_send;
 
 inline char* PutNumber(char* at, int value) {
   constexpr int kDigits = 11;
-  benchmark::DoNotOptimize(value);  // no number is known beforehand
+  benchmark::DoNotOptimize(value);  // all numbers are known only at run time
   return std::to_chars(at, at + kDigits, value).ptr;
 }
 

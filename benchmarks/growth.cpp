@@ -21,7 +21,7 @@ void SendKey(QEvent::Type type, int scancode) {
   OnQtInputEvent(&event);
 }
 
-// One line of the guest for each of two events a pass.
+// One line for the guest for each of two events in an iteration.
 void MeasureKey(benchmark::State& state, int scancode) {
   QKeyEvent press = MakeKey(QEvent::KeyPress, scancode);
   QKeyEvent release = MakeKey(QEvent::KeyRelease, scancode);
@@ -43,7 +43,7 @@ void PassThroughByItems(benchmark::State& state) {
   MeasureKey(state, kUnmappedScanCode);
 }
 
-// A walk that never arrives, one step a pass of the event loop; a click; and `count` macros that sleep.
+// A walk that never arrives, with one step per iteration of the event loop; a click; and `count` macros that sleep.
 void LoadWithWorkers(int count) {
   auto config = MakeKeymap(30);
   auto* walk = static_cast<SwipeholdConfigItem*>(config->items.first());
@@ -63,6 +63,20 @@ void TapByWorkers(benchmark::State& state) {
   LoadWithWorkers(static_cast<int>(state.range(0)));
   MeasureKey(state, kLastScanCode);
   Load(MakeKeymap(1));
+}
+
+// Lines and text lines go to mirrors by functions of one type.
+void TakeMirrored(const QString& command, const QVector<QString>& targets) {
+  benchmark::DoNotOptimize(command.constData());
+  benchmark::DoNotOptimize(targets.constData());
+}
+
+void TapByTargets(benchmark::State& state) {
+  Load(MakeKeymap(30));
+  SetInputEventSyncFunc(reinterpret_cast<void*>(&TakeMirrored));
+  for (int i = 0; i < state.range(0); ++i) StartSync(QString::number(i), QString(), QString());
+  MeasureKey(state, kLastScanCode);
+  for (int i = 0; i < state.range(0); ++i) StopSync(QString::number(i));
 }
 
 void TickByWorkers(benchmark::State& state) {
@@ -86,6 +100,7 @@ void RegisterGrowth() {
   Register("growth/pass_through/items", PassThroughByItems);
   Register("growth/tap/workers", TapByWorkers);
   Register("growth/walk_tick/workers", TickByWorkers);
+  Register("growth/tap/targets", TapByTargets);
 }
 
 }  // namespace taviinputmanager::bench

@@ -1,4 +1,4 @@
-// How cost grows with what is there: items of the keymap, workers that are alive.
+// How the cost grows with the number of items in the keymap and of live workers.
 #ifndef BENCHMARKS_GROWTH_H_
 #define BENCHMARKS_GROWTH_H_
 

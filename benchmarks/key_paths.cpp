@@ -14,7 +14,7 @@ using namespace tavikeymapmanager;
 
 namespace {
 
-// One event object a key and direction, as a host's window system has one at a time.
+// One event object for each key and direction: a host's window system has only one at a time.
 template <QEvent::Type kType, int kScanCode>
 void SendKey() {
   static QKeyEvent event = MakeKey(kType, kScanCode);
@@ -37,7 +37,7 @@ void FloorTap() {
   FloorRelease();
 }
 
-// What is recorded has its time.
+// Recorded actions need their time.
 void FloorRecordedTap() {
   FloorPress();
   ReadClock();
@@ -50,7 +50,8 @@ void LoadItems() {
   Load(MakeKeymap(kSize));
 }
 
-// A release of what was never pressed sends nothing; what was pressed once may be released for ever.
+// Releasing a key that was never pressed sends nothing; a key that was pressed once may be released any number of
+// times.
 void LoadAndPress() {
   LoadItems<30>();
   Press();

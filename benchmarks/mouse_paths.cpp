@@ -1,4 +1,4 @@
-// The mouse: a finger that is drawn, and view control by relative counts.
+// The mouse: dragging a contact, and view control with relative counts.
 #include <limits>
 
 #include <QMouseEvent>
@@ -22,7 +22,7 @@ void SendMouse(QEvent::Type type, const QPointF& at) {
   OnQtInputEvent(&event);
 }
 
-// Moves closer than 2 ms to each other are dropped.
+// Moves less than 2 ms apart are dropped.
 constexpr int kBetweenMovesMs = 3;
 
 void StartDrag() {
@@ -47,7 +47,7 @@ void FloorDrag() {
   SendFloorLine("SLOTPRESS", 1, 1, 1, 1, 641, 361);
 }
 
-// `interval_ms`: the least time between sends.
+// `interval_ms`: the minimum time between lines.
 void LookAround(int interval_ms) {
   auto config = MakeKeymap(30);
   auto staring = MakeItem<StaringConfigItem>(keywords::kTypeStaring, kUnmappedScanCode);
@@ -61,7 +61,7 @@ void LookAround(int interval_ms) {
 
 void StartLooking() {
   LookAround(0);
-  OnWindowsWmRelativeInputEvent(0, 0);  // puts the finger on the centre
+  OnWindowsWmRelativeInputEvent(0, 0);  // presses the contact at the centre
 }
 
 void StartThrottled() { LookAround(std::numeric_limits<int>::max()); }

@@ -37,7 +37,7 @@ Side::Side(const Path& path, bool is_floor)
     : round_(is_floor ? path.floor : path.round), tear_down_(is_floor ? path.floor_tear_down : path.tear_down) {
   void (*const set_up)() = is_floor ? path.floor_set_up : path.set_up;
   if (set_up) set_up();
-  round_();  // what is made at the first use is there from then on
+  round_();  // objects that are created at first use exist afterwards
 }
 
 Side::~Side() {

@@ -1,4 +1,4 @@
-// The ways of events that are measured.
+// The paths of events that are measured.
 #ifndef BENCHMARKS_PATH_H_
 #define BENCHMARKS_PATH_H_
 
@@ -7,19 +7,19 @@
 
 namespace taviinputmanager::bench {
 
-// A path is driven in rounds: one to a hundred events, after which everything is as it was before.
+// A path is measured in rounds: one to a hundred events, after which the initial state is restored.
 struct Path {
   const char* name;
-  int events;  // of a round
-  int lines;   // of a round; 0 for events that are held back
+  int events;  // per round
+  int lines;   // per round; 0 for events that are held back
   void (*set_up)();
   void (*round)();
   void (*tear_down)();  // may be null
-  // The same for what it is measured against.
+  // The same for its baseline.
   void (*floor_set_up)();  // may be null
   void (*floor)();
   void (*floor_tear_down)();  // may be null
-  // Rounds of a repetition, for paths that keep something of each round; 0: as many as the time asks for.
+  // Rounds per repetition, for paths that accumulate data in each round; 0: as many as fit the time.
   int rounds;
 };
 
@@ -27,13 +27,13 @@ std::vector<Path> KeyPaths();
 std::vector<Path> MousePaths();
 std::vector<Path> TimedPaths();
 
-// All of them.
+// All paths.
 std::vector<Path> AllPaths();
 
-// What is wrong with a path and its floor: lines that differ, or not as many as it says. Empty when all is well.
+// The problem of a path and its baseline: different lines, or not the stated number of them. Empty if there is none.
 std::string CheckPath(const Path& path);
 
-// One side of a path: set up on construction, torn down at the end.
+// One side of a path: set up by the constructor, torn down by the destructor.
 class Side {
  public:
   Side(const Path& path, bool is_floor);

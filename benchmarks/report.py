@@ -13,7 +13,7 @@ import sys
 from pathlib import Path
 
 LIMITS = Path(__file__).with_name("limits.json")
-ALLOCATION_TOLERANCE = 0.01  # what is made once, spread over a run
+ALLOCATION_TOLERANCE = 0.01  # what is created once, spread over a run
 
 
 def read_sides(times):

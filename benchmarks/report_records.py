@@ -8,7 +8,7 @@ import json
 import sys
 from pathlib import Path
 
-# What is measured, in the order of the table, with its limit.
+# The measurements, in the order of the table, with their limits.
 ROWS = [
     ("file_MiB", "size of the file (MiB)", None),
     ("parse_s", "a bare QJsonDocument parse of its bytes (s)", None),

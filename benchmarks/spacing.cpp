@@ -29,7 +29,7 @@ using Clock = std::chrono::steady_clock;
 constexpr int kTickMs = 8;
 constexpr std::size_t kTicks = 400;
 
-// When lines were sent, or ticks came.
+// The times at which lines were sent, or ticks came.
 std::vector<Clock::time_point> times;
 
 void NoteTime() {
@@ -98,7 +98,7 @@ void RunNanosleep() {
   }
 }
 
-// A busy thread for each core, for as long as it lives.
+// One busy thread per core, as long as it exists.
 class BusyCores {
  public:
   explicit BusyCores(bool is_on) {

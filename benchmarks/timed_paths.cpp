@@ -1,4 +1,4 @@
-// What goes on by itself: the ticks of a walk, and the commands of a macro.
+// Timed gestures: the ticks of a walk, and the commands of a macro.
 #include <limits>
 #include <memory>
 
@@ -23,12 +23,12 @@ void SendKey(QEvent::Type type, int scancode) {
   OnQtInputEvent(&event);
 }
 
-// A pass of the event loop, in which one timer is due.
+// One iteration of the event loop, in which one timer is due.
 void Pass() { QCoreApplication::processEvents(); }
 
 // ---- Walk ----
 
-// A slide without end, one step a pass.
+// An endless slide, with one step per iteration of the event loop.
 void StartWalk() {
   auto config = MakeKeymap(30);
   auto* walk = static_cast<SwipeholdConfigItem*>(config->items.first());
@@ -62,7 +62,7 @@ void EndBareTimer() { bare_timer.reset(); }
 
 constexpr int kCommands = 100;
 
-// A macro that does `first` and `second` in turn, without a pause.
+// A macro that repeats `first` and `second` without a pause.
 void LoadMacro(const QString& first, const QString& second) {
   auto config = MakeKeymap(30);
   auto macro = MakeItem<MacroConfigItem>(keywords::kTypeMacro, kUnmappedScanCode);

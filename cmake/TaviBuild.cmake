@@ -1,5 +1,5 @@
-# What every target of the tree shares. Inside another project it holds for this tree alone: what is set here is set in
-# this folder's scope, and what cannot be is left to that project.
+# What all targets of the tree have in common. As a subproject it affects only this tree: variables are set in this
+# folder's scope, and everything else is left to the outer project.
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -12,18 +12,18 @@ endif()
 
 find_program(TAVI_CCACHE ccache)
 if(PROJECT_IS_TOP_LEVEL AND TAVI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # A precompiled header defeats the cache unless its defines and times are allowed to differ.
+  # With a precompiled header, the compiler cache works only if its defines and times may differ.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
     CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${TAVI_CCACHE})
 endif()
 
-# The Qt that all is built on. One build has one: neither its headers nor its libraries go with the other's. What one does
-# otherwise than the other stands in pairs of headers, "qt/x.h", in qt/5 and qt/6.
+# The Qt of the build. Headers and libraries of the two Qts cannot be mixed. Differences between the Qts are in pairs of
+# headers, "qt/x.h", in qt/5 and qt/6.
 if(TAVI_QT EQUAL 5)
   set(TAVI_QT_LEAST 5.15)
-  set(TAVI_QT_PACKAGE qtbase5-dev)  # Debian's
-  set(TAVI_QT_VECTOR QVector)  # what the compiler calls one
+  set(TAVI_QT_PACKAGE qtbase5-dev)  # Debian's name
+  set(TAVI_QT_VECTOR QVector)  # the compiler's name
 elseif(TAVI_QT EQUAL 6)
   set(TAVI_QT_LEAST 6.4)
   set(TAVI_QT_PACKAGE qt6-base-dev)
@@ -32,14 +32,14 @@ else()
   message(FATAL_ERROR "TAVI_QT is 5 or 6, not \"${TAVI_QT}\"")
 endif()
 
-# A macro, since Qt leaves variables that its moc is found by.
+# A macro, because find_package sets variables that Qt's moc needs.
 macro(tavi_find_qt)
   find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
 endmacro()
 
 set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
-# Shared libraries, unless static ones are asked for. No cache entry: it would decide for the project around this one.
+# Shared libraries by default. Not a cache entry, which would affect the outer project.
 set(TAVI_LIBRARY_TYPE SHARED)
 if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
   set(TAVI_LIBRARY_TYPE STATIC)
@@ -55,6 +55,9 @@ function(tavi_target_defaults target)
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
+  elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # Macros of Qt's and of GoogleTest's are written with an extension.
+    target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
   endif()
   if(TAVI_SANITIZE)
     list(JOIN TAVI_SANITIZE "," sanitizers)
@@ -70,7 +73,14 @@ function(tavi_target_defaults target)
   endif()
 endfunction()
 
-# The libraries alone are counted: tests always run. Some of their lines run on threads at once.
+# For the libraries: no implicit conversion that may change a value, and no hidden name.
+function(tavi_strict_warnings target)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "^(GNU|Clang)$")
+    target_compile_options(${target} PRIVATE -Wshadow -Wconversion -Wsign-conversion)
+  endif()
+endfunction()
+
+# Only the libraries are measured: tests always run. Some lines run on several threads at once.
 if(TAVI_COVERAGE)
   add_link_options(--coverage)
 endif()
@@ -80,11 +90,11 @@ function(tavi_count_lines target)
   endif()
 endfunction()
 
-# What a shared library says of itself, for a library of the tree that is one.
+# The properties of a shared library of the tree.
 #
-# Its version is the first two numbers: while the first is 0, each second one may need programs to be built anew. It
-# stays in the process once it is loaded, since timers, threads and objects that are destroyed at exit run its code. And
-# it has exactly the symbols that a version script names: hidden visibility alone leaks template instances.
+# Its version consists of the first two numbers: while the first is 0, a new second number may require rebuilding
+# programs. The library is never unloaded, because timers, threads and objects with static lifetime run its code until
+# exit. It exports exactly the symbols in its version script: hidden visibility alone would export template instances.
 function(tavi_shared_library target version_script)
   get_target_property(type ${target} TYPE)
   if(NOT type STREQUAL SHARED_LIBRARY)
@@ -102,8 +112,7 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header, and so does what a Qt has its own way of,
-# *_qt5.cpp and *_qt6.cpp.
+# Platform code is in pairs *_posix.cpp, *_windows.cpp behind one header.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
   if(WIN32)
@@ -111,7 +120,5 @@ function(tavi_exclude_other_platforms list_name)
   else()
     list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
   endif()
-  math(EXPR other_qt "11 - ${TAVI_QT}")
-  list(FILTER files EXCLUDE REGEX "_qt${other_qt}\\.cpp$")
   set(${list_name} ${files} PARENT_SCOPE)
 endfunction()

@@ -1,8 +1,8 @@
-# What an installed tree holds: both libraries with their headers, the program, documents and examples, and the ways in
-# for CMake (find_package(taviinputmanager)) and pkg-config. The tree can be moved: nothing in it names the prefix.
+# The installed tree: both libraries with their headers, the program, documents and examples, and the files for CMake
+# (find_package(taviinputmanager)) and pkg-config. The tree can be moved: no file in it contains the prefix.
 #
-# Components, each of which is one of the packages of debian/rules: `runtime`, the libraries; `development`, what others
-# build on; `tools`, the program.
+# The components are the packages of debian/rules: `runtime`, the libraries; `development`, what other projects need;
+# `tools`, the program.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/taviinputmanager)
@@ -13,20 +13,20 @@ install(TARGETS taviinputmanager tavi-keymapmanager EXPORT taviinputmanagerTarge
   ARCHIVE COMPONENT development)
 if(TAVI_BUILD_HOST)
   set(TAVI_ZSH_DIR ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING
-    "Where zsh finds the functions of programs")
+    "Where zsh finds completion functions of programs")
   install(TARGETS tavi COMPONENT tools)
   install(FILES docs/man/tavi.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES completions/tavi.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME tavi
     COMPONENT tools)
   install(FILES completions/_tavi DESTINATION ${TAVI_ZSH_DIR} COMPONENT tools)
   install(FILES completions/tavi.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
-  # Without libevdev there is no `tavi play`, which needs it.
+  # `tavi play` exists only with libevdev.
   if(libevdev_FOUND)
     install(FILES packaging/60-tavi.rules DESTINATION lib/udev/rules.d COMPONENT tools)
   endif()
 endif()
 
-# The guest for phones and other machines, for tavi to take there.
+# The guest for phones and other machines, for users of tavi to copy there.
 option(TAVI_INSTALL_GUESTS "Install the static guests that tools/build_guest has built" OFF)
 set(TAVI_GUESTS ${PROJECT_SOURCE_DIR}/build/guest CACHE PATH "Where tools/build_guest has put the static guests")
 function(tavi_install_guests)
@@ -57,8 +57,8 @@ install(FILES
   ${PROJECT_BINARY_DIR}/taviinputmanagerConfig.cmake ${PROJECT_BINARY_DIR}/taviinputmanagerConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT development)
 
-# `private_libraries`: what the code needs and the headers do not. Not as packages that it requires: pkg-config would
-# ask for those of each who builds on the shared libraries.
+# `private_libraries`: what the code needs but not the headers. They are not listed as required packages, because
+# pkg-config would demand them from every user of the shared libraries.
 function(tavi_install_pkg_config name description requires private_libraries)
   set(pkg_config_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH prefix_from_here /${pkg_config_dir} /)
@@ -72,8 +72,8 @@ tavi_install_pkg_config(tavi-keymapmanager "Keymap files to records, key names, 
 tavi_install_pkg_config(taviinputmanager "${PROJECT_DESCRIPTION}" "tavi-keymapmanager"
   "-lPocoJSON -lPocoFoundation")
 
-# The documents lie beside the examples as they do in the source, so that the links between them hold; they link to
-# nothing that is not installed. What players and authors of keymaps read comes with the program.
+# The documents are beside the examples, as in the source, so that the links between them work; they link only to
+# installed files. What players and authors of keymaps read is installed with the program.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/taviinputmanager)
 set(examples_for_tools keymaps records scripts tutorial)
 set(documents_for_tools

@@ -1,5 +1,5 @@
-# The target `reference`: pages of the public headers, in reference/html of the build folder. A comment that is missing
-# or does not fit is an error.
+# The target `reference`: pages of the public headers, in reference/html of the build folder. A missing or wrong comment
+# is an error.
 find_program(TAVI_DOXYGEN doxygen)
 if(NOT TAVI_DOXYGEN)
   message(STATUS "doxygen not found (Debian: doxygen): no target `reference`, and its test is skipped")

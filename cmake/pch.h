@@ -1,4 +1,4 @@
-// Heads that most files of the library read and nobody changes.
+// Headers that most files of the library include and nobody changes.
 #include <cmath>
 #include <functional>
 #include <memory>

@@ -1,8 +1,8 @@
-// Which code of the library a process ran, in a file that outlives the process however it ends.
+// Records which code of the library a process ran, in a file that survives the process however it ends.
 //
-// Every block of the library's code calls __sanitizer_cov_trace_pc (-fsanitize-coverage=trace-pc). With TAVI_TRACE_RUNS
-// naming a folder, the file PID in it gets a byte of 1 at the offset of each return address from the library's start;
-// without, a call costs a test of a pointer.
+// Every block of the library's code calls __sanitizer_cov_trace_pc (-fsanitize-coverage=trace-pc). If TAVI_TRACE_RUNS
+// names a folder, the file PID in it gets a byte of 1 at the offset of each return address from the library's start;
+// otherwise a call only checks a pointer.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -19,7 +19,7 @@ std::uintptr_t base = 0;
 std::uintptr_t size = 0;
 unsigned char* runs = nullptr;  // `size` bytes, shared with the file
 
-// Segments are mapped one behind another from `base` on.
+// Segments are mapped in sequence from `base` on.
 int MeasureLibrary(dl_phdr_info* info, std::size_t, void*) {
   if (info->dlpi_addr != base) return 0;
   for (int i = 0; i < info->dlpi_phnum; ++i) {

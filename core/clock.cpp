@@ -23,10 +23,10 @@ void Clock::FindVirtualTime() {
   const QCoreApplication* app = QCoreApplication::instance();
   QAbstractEventDispatcher* dispatcher = app ? QAbstractEventDispatcher::instance(app->thread()) : nullptr;
   VirtualTime* found = qobject_cast<VirtualTime*>(dispatcher);
-  if (virtual_time.exchange(found) == found || !found) return;  // known and watched, or none
+  if (virtual_time.exchange(found) == found || !found) return;  // a valid, watched pointer or null
   QObject::connect(dispatcher, &QObject::destroyed, [found] {
     VirtualTime* gone = found;
-    virtual_time.compare_exchange_strong(gone, nullptr);  // leaves alone one that was found since
+    virtual_time.compare_exchange_strong(gone, nullptr);  // keeps one that was found since
   });
 }
 

@@ -1,4 +1,4 @@
-// A set of guest key codes, walked in ascending order.
+// A set of guest key codes in ascending order.
 #ifndef CORE_CODE_SET_H_
 #define CORE_CODE_SET_H_
 
@@ -7,7 +7,7 @@
 
 namespace taviinputmanager {
 
-// A sorted vector: a handful of keys are held at once, and a key that goes down after the first few allocates nothing.
+// A sorted vector: only a handful of keys are held at once, and after the first few, a key press allocates nothing.
 class CodeSet {
  public:
   using const_iterator = std::vector<int>::const_iterator;

@@ -12,14 +12,14 @@ namespace {
 
 constexpr QRect kDefaultDisplay(0, 0, 1280, 720);
 
-// In doubles: the squares of far points do not fit an int.
+// In doubles: the squares of distant points do not fit an int.
 double Length(const QPoint& v) {
   const double x = v.x();
   const double y = v.y();
   return std::sqrt(x * x + y * y);
 }
 
-// How far it is from `first` to `last`, both counted; or as far as an int with a sign goes.
+// The number of pixels from `first` to `last`, including both; at most the largest int.
 int Extent(int first, int last) {
   constexpr qint64 kLongest = std::numeric_limits<int>::max();
   return static_cast<int>(qBound(-kLongest, qint64{last} - first + 1, kLongest));
@@ -27,10 +27,10 @@ int Extent(int first, int last) {
 
 QSize SizeOf(const QRect& rect) { return {Extent(rect.left(), rect.right()), Extent(rect.top(), rect.bottom())}; }
 
-// The last pixel of an extent from `first` to `last`, nearer where the extent, or that less 1, would not fit an int.
+// The last pixel of a size from `first` to `last`; less if the size, or the size minus 1, would not fit an int.
 int Measurable(int first, int last) { return static_cast<int>(qint64{first} + Extent(first, last) - 1); }
 
-// With the same top left corner. Qt computes extents in ints; those of the host's rectangles may be more than that.
+// With the same top left corner. Qt computes sizes in ints; the host's rectangles may be larger.
 QRect Measurable(const QRect& rect) {
   return {rect.topLeft(), QPoint(Measurable(rect.left(), rect.right()), Measurable(rect.top(), rect.bottom()))};
 }

@@ -1,4 +1,5 @@
-// The base of everything that takes an event and sends lines: handlers, simulators, and workers of the main thread.
+// The base class of everything that handles events and sends lines: handlers, simulators, and workers of the main
+// thread.
 #ifndef CORE_EVENT_HANDLER_H_
 #define CORE_EVENT_HANDLER_H_
 
@@ -10,7 +11,7 @@ namespace taviinputmanager {
 class InputEventSender;
 class LineBuffer;
 
-// Main thread. An empty command means that there is nothing to send, and is dropped.
+// Main thread. An empty command means that there is nothing to send, and is ignored.
 class EventHandler : public QObject {
   Q_OBJECT
 
@@ -18,7 +19,7 @@ class EventHandler : public QObject {
   EventHandler();
   ~EventHandler() override;
 
-  // To the display that live input goes to.
+  // To the current display.
   void SendEvent(const LineBuffer& command);
   void SendEvent(const QString& command);
   void SendEventTo(const LineBuffer& command, int display);

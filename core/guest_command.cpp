@@ -10,14 +10,14 @@
 namespace taviinputmanager::guest_command {
 namespace {
 
-template <typename... Fields>
-LineBuffer Line(QLatin1String word, Fields... fields) {
+template <typename... Values>
+LineBuffer Line(QLatin1String word, Values... values) {
   LineBuffer line;
-  line.Line(word, fields...);
+  line.Line(word, values...);
   return line;
 }
 
-// The text stands as it is: the line has no escapes.
+// The text is unchanged: lines have no escapes.
 QString TextLine(QLatin1String word, const QString& text) {
   QString line;
   line.reserve(word.size() + text.size() + 2);
@@ -26,7 +26,7 @@ QString TextLine(QLatin1String word, const QString& text) {
 
 }  // namespace
 
-// The slot stands twice: as the slot, and as the contact's tracking id.
+// The slot appears twice: as the slot, and as the contact's tracking id.
 LineBuffer SlotPress(int slot, int x, int y) { return Line(guest_words::kSlotPress, slot, slot, 1, 1, x, y); }
 LineBuffer SlotPress(int slot, const QPointF& place) {
   return Line(guest_words::kSlotPress, slot, slot, 1, 1, place.x(), place.y());
@@ -38,7 +38,7 @@ LineBuffer SlotMultiPress(const Contacts& contacts) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiPress);
   for (const Contact& contact : contacts) {
-    line.Field(contact.slot).Field(contact.slot).Field(contact.x).Field(contact.y);
+    line.Fields(contact.slot, contact.slot, contact.x, contact.y);
   }
   line.Byte('\n');
   return line;
@@ -52,13 +52,13 @@ QString SlotMultiPressOf(const QStringList& groups) {
 
 QString ContactGroup(int slot, const QPointF& place) {
   LineBuffer group;
-  return group.Number(slot).Field(slot).Field(place.x()).Field(place.y()).ToString();
+  return group.Number(slot).Fields(slot, place.x(), place.y()).ToString();
 }
 
 LineBuffer SlotMultiRelease(const Slots& slots) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiRelease);
-  for (const int slot : slots) line.Field(slot);
+  for (const int slot : slots) line.Fields(slot);
   line.Byte('\n');
   return line;
 }

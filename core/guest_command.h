@@ -1,9 +1,8 @@
-// The text of every line that the guest understands. No other file spells one.
+// The text of every line for the guest. No other file contains one.
 //
-// Each line ends in a newline, which is part of it. Positions in ints are touch coordinates: integers of the guest's
-// unrotated touch surface. Positions in a QPointF are display pixels, with what is behind the point: replays send
-// those. A line stands on the stack, and becomes a QString where one is asked for; texts, which may be of any script,
-// are QStrings from the start.
+// Each line includes its final newline. Positions in ints are touch coordinates: integers of the guest's unrotated
+// touch surface. Positions in a QPointF are display pixels with decimals, as replays send them. A line is built on the
+// stack and converted to a QString on demand; text lines, which may contain any script, are QStrings from the start.
 #ifndef CORE_GUEST_COMMAND_H_
 #define CORE_GUEST_COMMAND_H_
 
@@ -17,7 +16,7 @@ class QPointF;
 
 namespace taviinputmanager::guest_command {
 
-// One contact of a report of several: a slot and where it is.
+// One contact of a line with several: a slot and a position.
 struct Contact {
   int slot;
   int x;
@@ -26,30 +25,30 @@ struct Contact {
 using Contacts = QVarLengthArray<Contact, 10>;
 using Slots = QVarLengthArray<int, 10>;
 
-// Puts a contact down or moves it.
+// Presses or moves a contact.
 LineBuffer SlotPress(int slot, int x, int y);
 LineBuffer SlotPress(int slot, const QPointF& place);
 LineBuffer SlotRelease(int slot);
 LineBuffer SlotReleaseAll();
-// Any number of contacts in one report.
+// Any number of contacts in one line.
 LineBuffer SlotMultiPress(const Contacts& contacts);
 LineBuffer SlotMultiRelease(const Slots& slots);
-// The same of contacts that are kept as texts, each by ContactGroup.
+// The same for contacts that are stored as texts, each from ContactGroup.
 QString SlotMultiPressOf(const QStringList& groups);
 QString ContactGroup(int slot, const QPointF& place);
-// The same of slots that stand in a text with colons between them.
+// The same for slots in a text, separated by colons.
 QString SlotMultiReleaseOf(const QString& slots);
 
 // `code` is a guest key code. Mouse buttons are keys too.
 LineBuffer KeyPress(int code);
 LineBuffer KeyRelease(int code);
 
-// The guest's pointer; absolute in spite of the line's name.
+// The guest's pointer; absolute despite the line's name.
 LineBuffer MouseMove(int x, int y);
 LineBuffer MouseMove(const QPointF& place);
-// The third field is an amount, or whatever a caller puts there; so is the fourth.
+// The third and fourth fields are amounts, or other values that the caller needs.
 LineBuffer Wheel(int x, int y, int third, int fourth);
-// Amounts and place are the same numbers here.
+// Amounts and positions are the same numbers here.
 LineBuffer Wheel(const QPointF& place);
 LineBuffer WheelWithDelta(int x, int y, double amount);
 
@@ -68,7 +67,7 @@ LineBuffer TouchpadLightTouch(int x, int y);
 LineBuffer TouchpadPress();
 LineBuffer TouchpadRelease();
 
-// A line that was kept without its newline.
+// From a line that was stored without its newline.
 QString Complete(const QString& command);
 
 }  // namespace taviinputmanager::guest_command

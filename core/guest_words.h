@@ -1,4 +1,4 @@
-// The first word of every line that the guest understands. Who builds a line and who reads one take it from here.
+// The first word of every line for the guest, for the code that writes lines and the code that parses them.
 #ifndef CORE_GUEST_WORDS_H_
 #define CORE_GUEST_WORDS_H_
 

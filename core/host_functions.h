@@ -1,4 +1,4 @@
-// The functions through which lines leave the library.
+// The host's functions that receive the library's lines.
 #ifndef CORE_HOST_FUNCTIONS_H_
 #define CORE_HOST_FUNCTIONS_H_
 
@@ -8,8 +8,8 @@
 
 namespace taviinputmanager {
 
-// Null until the host sets them. The send functions are called without a test, the sync functions after one. Set on the
-// main thread; a replay that ends reads them on its own.
+// Null until the host sets them. The send functions are not checked for null, the sync functions are. They are set on
+// the main thread; a replay that ends reads them on its own thread.
 struct HostFunctions {
   std::atomic<InputEventSendFunc> send_event{nullptr};
   std::atomic<InputTextSendFunc> send_text{nullptr};
@@ -17,7 +17,7 @@ struct HostFunctions {
   std::atomic<InputTextSyncFunc> sync_text{nullptr};
 };
 
-// The one set of the process.
+// The only set in the process.
 inline HostFunctions& GetHostFunctions() {
   static HostFunctions functions;
   return functions;

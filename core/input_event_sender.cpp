@@ -15,8 +15,9 @@ void Transmit(const LineBuffer& line, int display) {
   GetHostFunctions().send_event.load()(data, length);
 }
 
-// What is left to do with a line that the host has got: it is mirrored and recorded. The host may send a further line
-// from inside any of its functions; that one finishes this one first, so that all see the lines in one order.
+// The remaining steps for a line after the host has received it: mirroring and recording. The host may send another
+// line from inside any of its functions; that call finishes this line first, so that every receiver gets the lines in
+// the same order.
 class LineUnderWay {
  public:
   LineUnderWay(const LineUnderWay&) = delete;
@@ -34,20 +35,20 @@ class LineUnderWay {
   }
 
  private:
-  static thread_local LineUnderWay* newest;  // of each thread: the end of a replay sends on the replay's
+  static thread_local LineUnderWay* newest;  // per thread: the end of a replay sends on the replay's
 
   LineUnderWay* const outer_ = newest;
 };
 
 thread_local LineUnderWay* LineUnderWay::newest = nullptr;
 
-// `Line` tells whether a line is mirrored and recorded at all, and does both.
+// `Line` decides whether a line is mirrored and recorded at all, and does both.
 template <typename Line>
 class UnderWay final : public LineUnderWay {
  public:
   explicit UnderWay(const Line& line) : line_(line) { Begin(); }
 
-  // Each step comes once, whoever gets to it.
+  // Each step is done once, by whichever call gets there first.
   void Finish() override {
     if (step_ == Step::kAsk) {
       const bool is_shared = line_.IsShared();
@@ -70,7 +71,7 @@ class UnderWay final : public LineUnderWay {
   Step step_ = Step::kAsk;
 };
 
-// `Text` becomes a QString only for those who listen.
+// `Text` is converted to a QString only if something uses it.
 template <typename Text>
 struct EventLine {
   bool IsShared() const { return callbacks && callbacks->IsPrimaryDisplay && callbacks->IsPrimaryDisplay(display); }
@@ -116,7 +117,7 @@ void InputEventSender::SendText(const QString& command) {
   LineBuffer line;
   line.Narrow(command);
   const int length = line.size();
-  line.data()[length - 1] = '\0';  // in place of the newline, and counted
+  line.data()[length - 1] = '\0';  // replaces the newline, and is counted
   line.Byte('\0');
   GetHostFunctions().send_text.load()(line.data(), length);
   under_way.Finish();

@@ -15,17 +15,17 @@ namespace {
 constexpr char kLoggerName[] = "input_logger";
 constexpr char kBaseFileName[] = "input_looger.txt";
 
-// By its name at each line: a host that uses the same classes may destroy loggers and set up its own.
+// Looked up by name for each line: a host that uses the same classes may destroy loggers and configure its own.
 Poco::Logger& Logger() { return Poco::Logger::get(kLoggerName); }
 
-// The one that was set up here, kept alive. The registry locks at each look, and every key that passes through asks for
-// the level.
+// The logger that was configured here, kept alive. The registry locks on each lookup, and every key that passes through
+// needs the level.
 Poco::Logger& OwnLogger() {
   static Poco::AutoPtr<Poco::Logger> logger(&Logger(), true);
   return *logger;
 }
 
-// A log that cannot be written must not stop the input: a file that does not open is no error of the caller's.
+// A log that cannot be written must not stop the input, so a file that cannot be opened is no error for the caller.
 template <typename Function>
 void Write(Function&& function) {
   try {
@@ -59,7 +59,7 @@ void InputLogger::Error(const std::string& message) {
 bool InputLogger::IsDebugOn() const {
   const Poco::Logger& logger = OwnLogger();
   if (logger.debug()) return true;
-  return logger.referenceCount() == 1;  // nobody but this file's: lines go to whatever has its name by now
+  return logger.referenceCount() == 1;  // only for this file: lines go to whichever logger has its name now
 }
 
 }  // namespace taviinputmanager

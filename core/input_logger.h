@@ -1,4 +1,4 @@
-// The library's diagnostic lines, in one rotating file of the working directory.
+// Writes the library's diagnostic messages to a rotating file in the working directory.
 #ifndef CORE_INPUT_LOGGER_H_
 #define CORE_INPUT_LOGGER_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// Any thread. The file bears the process id, so that two hosts do not share one.
+// Any thread. The file name contains the process id, so that two hosts do not share a file.
 class InputLogger {
  public:
   static InputLogger* GetInstance() {
@@ -14,11 +14,11 @@ class InputLogger {
     return &instance;
   }
 
-  // Below the threshold as it is set here: such lines are dropped.
+  // Below the default threshold: such messages are dropped.
   void Debug(const std::string& message);
   void Error(const std::string& message);
 
-  // Whether debug lines may be kept. Ask before a line is put together on a hot path.
+  // Whether debug messages may be written. Check this before formatting one in a hot path.
   bool IsDebugOn() const;
 
  private:

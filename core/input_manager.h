@@ -1,4 +1,4 @@
-// Behind the exports: the host's table, the keymaps, and the way of every event.
+// The core behind the exports: the host's table, the keymaps, and the routing of every event.
 #ifndef CORE_INPUT_MANAGER_H_
 #define CORE_INPUT_MANAGER_H_
 
@@ -20,11 +20,15 @@ struct KeymapConfig;
 namespace taviinputmanager {
 
 struct InputManagerCallbacks;
+class InputStatusManager;
+class QtKeyboardMouseEventSimulateHandler;
 class QtMouseEventHandler;
+class RecordManager;
+class WindowsWmRelativeInputEventHandler;
 
-constexpr int kMacroJoystickDevice = 999;  // the gamepad that macros press buttons of
+constexpr int kMacroJoystickDevice = 999;  // the gamepad whose buttons macros press
 
-// Main thread only. Owns both keymaps and destroys each before its successor is read.
+// Main thread only. Owns both keymaps, and destroys each before its successor is read.
 class InputManager {
  public:
   static InputManager* GetInstance() {
@@ -45,20 +49,20 @@ class InputManager {
   void UpdateMousePosition(int x, int y);
 
   // ---- Input made inside the library, as if from the host ----
-  // A key or button by its code; `id` is the virtual pointer, 0 the real mouse; `point` in window pixels. Nothing for a
-  // device other than "keyboard" and "mouse".
+  // A key or button by its code; `id` is the virtual pointer, 0 the real mouse; `point` in window pixels. Does nothing
+  // for a device other than "keyboard" and "mouse".
   void DispatchVirtualEvent(const QString& device, qint64 id, int code, bool press, const QPointF& point);
-  // A wheel turn of `delta` eighths of a degree at `point`. Nothing unless `device` is "mouse" and `code` names a
-  // wheel.
+  // A wheel movement of `delta` eighths of a degree at `point`. Does nothing unless `device` is "mouse" and `code` is a
+  // wheel direction.
   void DispatchVirtualWheel(const QString& device, int delta, int code, const QPointF& point);
-  // Nothing unless `device` is "joystick".
+  // Does nothing unless `device` is "joystick".
   void DispatchVirtualJoystickButton(const QString& device, const QString& text, bool press);
-  // Presses the keymap's staring key, where that leads into (or out of) view control.
+  // Presses the keymap's staring key, if that enters or leaves view control.
   void SwitchStaring(bool enter);
   // Types `text` as an input method would.
   void InjectText(const QString& text);
 
-  // Whether the keymap has an item of this type.
+  // Whether the keymap contains an item of this type.
   bool isConfigHasSpeicalTypeKey(const QString& type) const;
 
   InputManagerCallbacks* GetCallbacks() const { return callbacks_; }
@@ -70,6 +74,7 @@ class InputManager {
   InputManager();
   ~InputManager();
 
+  void RouteOther(QEvent* event);  // neither key nor mouse
   void RouteKey(QKeyEvent* event);
   void RouteMouseButton(QMouseEvent* event);
   void RouteMouseMove(QMouseEvent* event);
@@ -80,10 +85,16 @@ class InputManager {
   void DispatchVirtualMouse(qint64 id, int code, bool press, const QPointF& point);
   void DispatchWheelAt(const QPointF& point, int delta);
 
-  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
+  // The singletons that handle most events.
+  InputStatusManager* const status_;
+  RecordManager* const recorder_;
+  QtKeyboardMouseEventSimulateHandler* const simulate_;
+  WindowsWmRelativeInputEventHandler* const relative_;
+
+  InputManagerCallbacks* callbacks_ = nullptr;  // owned by the host
   std::unique_ptr<tavikeymapmanager::KeymapConfig> keymap_config_;
   std::unique_ptr<tavikeymapmanager::KeymapConfig> joystick_config_;
-  qint64 last_mouse_move_ms_;  // since the epoch, of the last move that passed the floor
+  qint64 last_mouse_move_ms_;  // since the epoch; time of the last move that was not dropped
 };
 
 }  // namespace taviinputmanager

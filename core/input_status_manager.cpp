@@ -25,7 +25,7 @@ constexpr int kLastMacroSlot = 25;
 
 using Codes = QVarLengthArray<int, 16>;
 
-// Taken before anything is sent: sending may reach code that adds a key.
+// Moved out before anything is sent: sending may call code that adds a key.
 Codes Take(CodeSet& keys) {
   Codes codes(keys.begin(), keys.end());
   keys.Clear();
@@ -59,7 +59,7 @@ void InputStatusManager::NotifyStatus() const {
   if (callbacks) callbacks->OnInputStatusChanged(static_cast<int>(GetStatus()), StatusMessage());
 }
 
-// The main thread may load a keymap without Staring item meanwhile: that one's status stays.
+// The main thread may load a keymap without a Staring item meanwhile: then that keymap's status stays.
 void InputStatusManager::LeaveModes() {
   InputStatus before = status_;
   while (before != InputStatus::Normal && !status_.compare_exchange_weak(before, InputStatus::StaringOff)) {

@@ -26,11 +26,11 @@ void InputSyncManager::SyncText(const QString& command) const {
 }
 
 void InputSyncManager::Mirror(InputTextSyncFunc sync, const QString& command) const {
-  const QVector<QString> targets = Targets();  // the host may stop one while it goes through them
+  const QVector<QString> targets = Targets();  // the host may stop one during the iteration
   if (!targets.isEmpty()) sync(command, targets);
 }
 
-// In place of the list before, which another thread may be going through.
+// Replaces the list, because another thread may be iterating over it.
 void InputSyncManager::SetTargets(QVector<QString> targets) {
   const std::lock_guard<std::mutex> lock(mutex_);
   has_targets_.store(!targets.isEmpty(), std::memory_order_relaxed);

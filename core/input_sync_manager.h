@@ -1,4 +1,4 @@
-// The mirror: copies of what goes to the primary display, for other instances.
+// Mirroring: copies of the primary display's lines, for other instances.
 #ifndef CORE_INPUT_SYNC_MANAGER_H_
 #define CORE_INPUT_SYNC_MANAGER_H_
 
@@ -13,7 +13,7 @@
 
 namespace taviinputmanager {
 
-// Main thread, but for the lines of a replay that ends, which are mirrored on its own.
+// Main thread, except the lines of a replay that ends, which are mirrored on its own thread.
 class InputSyncManager {
  public:
   static InputSyncManager* GetInstance() {
@@ -21,27 +21,27 @@ class InputSyncManager {
     return &instance;
   }
 
-  // Targets stand once each, in order of adding.
+  // Each target exists once, in the order of adding.
   void StartSync(const QString& target);
   void StopSync(const QString& target);
 
-  // Hands a bare line and all targets to the host, unless there is no function or no target.
+  // Passes a line without display prefix and all targets to the host, if there are a function and a target.
   void SyncEvent(const QString& command) const;
-  // Whether that would do anything.
+  // Whether the above would do anything.
   bool IsEventMirrored() const {
     return has_targets_.load(std::memory_order_relaxed) && GetHostFunctions().sync_event.load();
   }
   void SyncText(const QString& command) const;
 
  private:
-  // The two kinds of function have one type.
+  // The two kinds of function have the same type.
   void Mirror(InputTextSyncFunc sync, const QString& command) const;
   QVector<QString> Targets() const;
   void SetTargets(QVector<QString> targets);
 
   mutable std::mutex mutex_;              // guards sync_targets_
   QVector<QString> sync_targets_;         // changed on the main thread
-  std::atomic<bool> has_targets_{false};  // spares lines the lock where nobody mirrors
+  std::atomic<bool> has_targets_{false};  // lets lines skip the lock if nothing is mirrored
 };
 
 }  // namespace taviinputmanager

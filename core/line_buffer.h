@@ -1,4 +1,4 @@
-// A buffer on the stack in which a guest line is put together.
+// A buffer on the stack in which a guest line is built.
 #ifndef CORE_LINE_BUFFER_H_
 #define CORE_LINE_BUFFER_H_
 
@@ -16,10 +16,12 @@
 #include <QByteArray>
 #include <QString>
 
+#include "core/decimal.h"
+
 namespace taviinputmanager {
 
-// Moves to the heap by itself where a form has no upper length. There is room in front for the number of a display and
-// behind for a NUL, so that a line is sent from where it was made. Goes wherever a QString is asked for.
+// Uses the heap if a line has no maximum length. There is room before it for the number of a display and after it for a
+// NUL, so that a line is sent without a copy. Converts to a QString implicitly.
 class LineBuffer {
  public:
   LineBuffer() = default;
@@ -33,30 +35,30 @@ class LineBuffer {
     end_ = Write(Room(kLongest<Value>), value);
     return *this;
   }
-  // A separator and a field.
-  template <typename Value>
-  LineBuffer& Field(Value value) {
-    return Byte(':').Number(value);
+  // Each with a separator in front.
+  template <typename... Values>
+  LineBuffer& Fields(Values... values) {
+    end_ = WriteFields(Room((kLongest<Values> + ... + sizeof...(values))), values...);
+    return *this;
   }
   // A whole line: a word, its fields, and the end.
-  template <typename... Fields>
-  LineBuffer& Line(QLatin1String word, Fields... fields) {
+  template <typename... Values>
+  LineBuffer& Line(QLatin1String word, Values... values) {
     const auto length = static_cast<std::size_t>(word.size());
-    char* at = Room(length + (kLongest<Fields> + ... + (sizeof...(fields) + 1)));
+    char* at = Room(length + (kLongest<Values> + ... + (sizeof...(values) + 1)));
     std::memcpy(at, word.data(), length);
-    at += length;
-    ((*at = ':', at = Write(at + 1, fields)), ...);
+    at = WriteFields(at + length, values...);
     *at = '\n';
     end_ = at + 1;
     return *this;
   }
-  // Text of any script. What is not ASCII is narrowed to UTF-8.
+  // Text of any script. Other characters than ASCII are converted to UTF-8.
   LineBuffer& Narrow(const QString& text) {
     const auto length = static_cast<std::size_t>(text.size());
     const QChar* units = text.constData();
     char* at = Room(length);
     unsigned seen = 0;
-    for (std::size_t i = 0; i < length; ++i) {  // without a way out, so that it runs in wide steps
+    for (std::size_t i = 0; i < length; ++i) {  // without an early exit, so that the loop can be vectorized
       seen |= units[i].unicode();
       at[i] = static_cast<char>(units[i].unicode());
     }
@@ -73,29 +75,23 @@ class LineBuffer {
     return *this;
   }
 
-  // Of what is ASCII.
+  // For ASCII text.
   QString ToString() const { return QString::fromLatin1(begin_, size()); }
   operator QString() const { return ToString(); }  // NOLINT(google-explicit-constructor)
   std::string toStdString() const { return std::string(begin_, end_); }
   char* data() { return begin_; }
-  // Of a whole line. Valid until the next change.
+  // A whole line. Valid until the next change.
   QLatin1String WithoutEnd() const { return QLatin1String(begin_, isEmpty() ? 0 : size() - 1); }
   int size() const { return static_cast<int>(end_ - begin_); }
   bool isEmpty() const { return begin_ == end_; }
   void Clear() { end_ = begin_; }
 
-  // The text with the number of a display and a colon in front and a NUL behind, which `length` does not count. Valid
-  // until the next change.
+  // The text after a display number and a colon, and before a NUL, which `length` does not count. Valid until the next
+  // change.
   const char* ForDisplay(int display, int* length) const {
     char* start = begin_;
     *--start = ':';
-    const bool is_negative = display < 0;
-    unsigned rest = is_negative ? 0U - static_cast<unsigned>(display) : static_cast<unsigned>(display);
-    do {
-      *--start = static_cast<char>('0' + rest % kTen);
-      rest /= kTen;
-    } while (rest != 0);
-    if (is_negative) *--start = '-';
+    start = WriteDecimalBefore(start, display);
     *end_ = '\0';
     *length = static_cast<int>(end_ - start);
     return start;
@@ -103,17 +99,20 @@ class LineBuffer {
 
  private:
   static constexpr std::size_t kUsualLength = 192;
-  static constexpr std::size_t kLongestInt = 11;
   static constexpr std::size_t kLongestDouble = 32;
   template <typename Value>
-  static constexpr std::size_t kLongest = std::is_integral_v<Value> ? kLongestInt : kLongestDouble;
-  static constexpr std::size_t kHeadroom = kLongestInt + 1;
+  static constexpr std::size_t kLongest = std::is_integral_v<Value> ? kLongestDecimal : kLongestDouble;
+  static constexpr std::size_t kHeadroom = kLongestDecimal + 1;
   static constexpr int kSignificantDigits = 6;
-  static constexpr unsigned kTen = 10;
   static constexpr unsigned kLastAscii = 0x7F;
 
-  static char* Write(char* at, int value) { return std::to_chars(at, at + kLongestInt, value).ptr; }
-  // As QString::arg(double) writes it: six significant digits, fixed or exponent form, -0 as 0.
+  template <typename... Values>
+  static char* WriteFields(char* at, Values... values) {
+    ((*at = ':', at = Write(at + 1, values)), ...);
+    return at;
+  }
+  static char* Write(char* at, int value) { return WriteDecimal(at, value); }
+  // Like QString::arg(double): six significant digits, fixed or exponent form, -0 as 0.
   static char* Write(char* at, double value) {
     constexpr char kNoNumber[] = "nan";
     if (std::isnan(value)) return std::copy_n(kNoNumber, sizeof kNoNumber - 1, at);
@@ -128,7 +127,7 @@ class LineBuffer {
     return *this;
   }
 
-  // Where the next `length` bytes go.
+  // Where to write the next `length` bytes.
   char* Room(std::size_t length) {
     if (static_cast<std::size_t>(limit_ - end_) < length) Grow(length);
     return end_;
@@ -146,10 +145,10 @@ class LineBuffer {
   }
 
   char usual_[kHeadroom + kUsualLength + 1];
-  std::unique_ptr<char[]> heap_;  // null until a line is longer than usual
+  std::unique_ptr<char[]> heap_;  // null unless a line is longer than usual
   char* begin_ = usual_ + kHeadroom;
   char* end_ = begin_;
-  char* limit_ = begin_ + kUsualLength;  // a NUL goes behind it
+  char* limit_ = begin_ + kUsualLength;  // a NUL follows
 };
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// Points of whole pixels, whatever numbers a host or a keymap comes up with.
+// Points of whole pixels, for any numbers of a host or a keymap.
 #ifndef CORE_PIXELS_H_
 #define CORE_PIXELS_H_
 
@@ -9,8 +9,8 @@
 
 namespace taviinputmanager {
 
-// As QPointF::toPoint and the operators of QPoint give them; but what no int can hold stops at the ends of one, where
-// theirs is undefined.
+// Like QPointF::toPoint and the operators of QPoint, but values out of range saturate at the limits of an int instead
+// of being undefined.
 inline QPoint RoundedPoint(const QPointF& point) { return {Round(point.x()), Round(point.y())}; }
 
 inline QPoint Sum(const QPoint& a, const QPoint& b) { return {AddSaturated(a.x(), b.x()), AddSaturated(a.y(), b.y())}; }

@@ -1,4 +1,4 @@
-// What the sender offers to the recorder. Declared here, where lines are sent; defined where they are recorded.
+// The sender's interface to the recorder. Declared here, where lines are sent; defined where they are recorded.
 #ifndef CORE_RECORDER_OFFER_H_
 #define CORE_RECORDER_OFFER_H_
 
@@ -8,11 +8,12 @@ namespace taviinputmanager {
 
 class LineBuffer;
 
-// A line that went to a primary display, and a text line. Both with their newline, which the recorder does not keep.
+// A line that was sent to a primary display, and a text line. Both include their newline, which the recorder does not
+// store.
 void OfferEventLine(const LineBuffer& line);
 void OfferEventLine(const QString& line);
 void OfferTextLine(const QString& line);
-// Whether an offer would be taken up at present: no line has to become a text for one that is not.
+// Whether a line would currently be recorded: otherwise it need not be converted to a text.
 bool IsLineRecorded();
 
 }  // namespace taviinputmanager

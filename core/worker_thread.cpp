@@ -12,11 +12,11 @@ namespace taviinputmanager {
 
 namespace {
 
-// How long the end of the application waits for all runs together. Workers answer within microseconds; only a host
-// that blocks in a callback of a replay can use it up.
+// How long the end of the application waits for all runs together. Workers react within microseconds; only a host that
+// blocks in a callback of a replay can exhaust it.
 constexpr int kExitWaitMs = 2000;
 
-// Main thread: whether the application will call QuitLiveRuns when it goes.
+// Main thread: whether the application will call QuitLiveRuns at its end.
 bool exit_is_watched = false;
 
 }  // namespace
@@ -24,7 +24,7 @@ bool exit_is_watched = false;
 WorkerThread::WorkerThread(QObject* worker) : is_virtual_(Clock::IsVirtual()), worker_(worker) {
   new WorkerGate(worker, &state_);
   if (!is_virtual_) worker->moveToThread(this);
-  // Connected first, so that the worker is gone when others hear of `finished`.
+  // Connected first, so that the worker is destroyed when other receivers get `finished`.
   connect(this, &QThread::finished, this, &WorkerThread::DeleteWorker, Qt::QueuedConnection);
   LiveRuns()->append(this);
   if (exit_is_watched) return;
@@ -41,12 +41,12 @@ void WorkerThread::Start() {
   if (begun_ || state_.load() >= WorkerRunState::kClosed) return;  // quit came first
   if (is_virtual_) {
     begun_ = true;
-    Q_EMIT started(QPrivateSignal());  // the last thing: the worker may lead to the end of this run
+    Q_EMIT started(QPrivateSignal());  // last, because the worker may lead to the end of this run
     return;
   }
   start(QThread::InheritPriority);
   begun_ = isRunning() || isFinished();
-  // The system has no thread to give. The caller still holds the worker, which goes when it has returned.
+  // The system has no thread left. The caller still uses the worker, which is deleted when it has returned.
   if (!begun_) QMetaObject::invokeMethod(this, &WorkerThread::quit, Qt::QueuedConnection);
 }
 
@@ -60,9 +60,9 @@ QTimer* WorkerThread::MakeWorkerTimer(QObject* owner) {
 }
 
 void WorkerThread::quit() {
-  if (MoveOn(&state_, WorkerRunState::kClosed) >= WorkerRunState::kClosed) return;  // has ended already
-  // Connected last, so that everyone else hears of `finished` first. Posted once more, so that what was posted to this
-  // object up to then comes before its end.
+  if (MoveOn(&state_, WorkerRunState::kClosed) >= WorkerRunState::kClosed) return;  // has already ended
+  // Connected last, so that all other receivers get `finished` first. Posted again, so that whatever was posted to this
+  // object before is delivered before its deletion.
   connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::QueuedConnection);
   if (begun_ && !is_virtual_) {
     QThread::quit();  // run() does the rest
@@ -91,13 +91,13 @@ void WorkerThread::EndWithoutThread() {
 }
 
 void WorkerThread::DeleteWorker() {
-  // Its thread is through with it, or never was. ThreadSanitizer does not see how Qt waits for a thread; this it sees.
+  // Its thread no longer uses it, or never did. ThreadSanitizer does not see how Qt waits for a thread; it sees this.
   static_cast<void>(state_.load());
   delete worker_;
   worker_ = nullptr;
 }
 
-// Never destroyed: an application object with static lifetime may go after all other static objects.
+// Never destroyed: an application object with static lifetime may be destroyed after all other static objects.
 QList<WorkerThread*>* WorkerThread::LiveRuns() {
   static auto* const runs = new QList<WorkerThread*>;
   return runs;
@@ -109,7 +109,7 @@ void WorkerThread::QuitLiveRuns() {
   for (WorkerThread* run : runs) run->quit();
   const QDeadlineTimer limit(kExitWaitMs);
   for (WorkerThread* run : runs) {
-    if (run->wait(limit)) delete run;  // one that still runs is left as it is
+    if (run->wait(limit)) delete run;  // one that is still running is left alone
   }
 }
 

@@ -1,4 +1,4 @@
-// Runs a timed worker beside the main thread.
+// Runs a timed worker in parallel to the main thread.
 #ifndef CORE_WORKER_THREAD_H_
 #define CORE_WORKER_THREAD_H_
 
@@ -25,53 +25,53 @@ namespace taviinputmanager {
 //   run->DeleteWorkerOn(worker, &TapWorker::TapFinished);
 //   run->Start();
 //
-// Every connection between worker and owner, both ways, is Qt::QueuedConnection, which is what an automatic one would
-// be across threads; `started` alone is left automatic. Signals carry Qt value types and plain numbers. The worker
-// makes its timer by MakeWorkerTimer.
+// Every connection between worker and owner, in both directions, is Qt::QueuedConnection, as an automatic one would be
+// across threads; only `started` is automatic. Signals carry Qt value types and plain numbers. The worker creates its
+// timer with MakeWorkerTimer.
 //
-// In real time and in virtual time alike:
-// - The run begins inside Start: the worker works, and its timers tick, also while the main thread blocks. In virtual
-//   time a slot that `started` is connected to runs in that very call.
-// - What the worker signals waits until the main thread is back in its event loop. `started` reaches the worker before
-//   any request; a slot of it runs where the worker lives.
-// - After `quit` was handled no event and no tick reaches the worker. It is deleted on the main thread: in virtual time
-//   at once, else when the slot that it may be in has returned, ahead of `finished`.
-// - `finished` comes once, also for a run that was quit before it began, or that the system has no thread for; such a
-//   worker never runs.
+// In real time and in virtual time:
+// - The run begins inside Start: the worker works, and its timers tick, even while the main thread blocks. In virtual
+//   time a slot that is connected to `started` runs during that call.
+// - The worker's signals are delivered when the main thread is back in its event loop. `started` reaches the worker
+//   before any request; a slot of the worker runs on the worker's thread.
+// - After `quit` was handled no event and no tick reaches the worker. It is deleted on the main thread, before
+//   `finished`: in virtual time at once, otherwise when the slot that it may be in has returned.
+// - `finished` is emitted once, also for a run that was quit before it began, or that the system has no thread for;
+//   such a worker never runs.
 // - The run deletes itself after `finished`. What was posted to it before (a functor with the run as its context, and
 //   one more posted from there) still runs.
-// - When the application goes, all live runs are quit, and waited for within a limit. Nothing of them is delivered any
-//   more.
+// - At the end of the application, all live runs are quit, and waited for up to a limit. Nothing more of them is
+//   delivered.
 //
-// Threads: made and used on the main thread, and lives there.
+// Threads: created and used on the main thread, and belongs to it.
 class WorkerThread : public QThread {
   Q_OBJECT
 
  public:
-  // Takes ownership of `worker`, which has no parent, and moves it to where it will run.
+  // Takes ownership of `worker`, which must have no parent, and moves it to its thread.
   explicit WorkerThread(QObject* worker);
   ~WorkerThread() override;
 
-  // Once, and after all connections: the worker may be at work before this returns.
+  // Call it once, and after all connections: the worker may start before this returns.
   void Start();
 
-  // From the first such signal on the worker gets no tick. Requests that were on their way still reach it, unless quit
-  // comes first; later ones do not. To be used for every worker that ends its own life.
+  // From the first such signal on the worker gets no ticks. Queued requests still reach it, unless quit comes first;
+  // later ones do not. Use it for every worker that ends by itself.
   template <typename Worker, typename... Args>
   void DeleteWorkerOn(Worker* worker, void (Worker::*signal)(Args...)) {
     connect(worker, signal, this, &WorkerThread::RetireWorker, Qt::DirectConnection);
   }
 
-  // A precise timer, owned by the worker `owner`, called where that worker runs. It is marked with
-  // kWorkerTimerProperty, so that a blocking pause of the main thread does not hold it up in virtual time either.
+  // A precise timer, owned by the worker `owner`, which calls back on the worker's thread. It is marked with
+  // kWorkerTimerProperty, so that a blocking pause of the main thread does not delay it in virtual time either.
   static QTimer* MakeWorkerTimer(QObject* owner);
 
  Q_SIGNALS:
-  // In place of QThread's own, which would still reach a worker whose run was quit as its thread came up.
+  // Hides QThread's own, which would still reach a worker whose run was quit while its thread started.
   void started(QPrivateSignal);
 
  public Q_SLOTS:
-  // Ends the run; further calls do nothing. Not from inside the worker's own code.
+  // Ends the run; further calls do nothing. Must not be called from the worker's own code.
   void quit();
 
  protected:

@@ -1,6 +1,6 @@
-// A gamepad for the pictures of the window, where none is plugged in: loaded before tavi (LD_PRELOAD), it gives SDL a
-// gamepad of its own. The gamepad is at rest until the file that HELD_GAMEPAD names is there. From then on both its
-// sticks are held out, and two of its buttons are down.
+// A gamepad for the pictures of the window, on machines without one: loaded before tavi (LD_PRELOAD), it gives SDL a
+// virtual gamepad. The gamepad is at rest until the file in HELD_GAMEPAD exists. Then both its sticks are deflected,
+// and two of its buttons are down.
 #define SDL_MAIN_HANDLED
 
 #include <SDL.h>

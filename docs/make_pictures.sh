@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the pictures of keymaps and of the window in docs/pictures anew: starts the window on a display of its own and
-# uses it as people would.
+# Takes the pictures of keymaps and of the window in docs/pictures: starts the window on a display of its own and uses it
+# like a person.
 #
 #   docs/make_pictures.sh [TAVI]    TAVI is the program, build/release/host/tavi unless given
 #
@@ -63,7 +63,7 @@ play_battle() {
   drag 60 4 2
 }
 
-# Saves a key that does not exist, and a field that is spelt wrong, and clicks at the first finding.
+# Saves a key that does not exist, and a field that is spelt wrong, and clicks the first diagnostic.
 break_keymap() {
   sed -i 's/label: Crouch, key: C,/label: Crouch, key: Contrl,/; s/label: Map, key: M,/label: Map, kee: M,/' \
     "$keymaps/shooter.yaml"
@@ -81,7 +81,7 @@ pause_mapping() {
   drag 4 6 -3
 }
 
-# What each event becomes: view control, a walk, a tap, turns of the wheel, a key that is nobody's.
+# What each event becomes: view control, a walk, a tap, turns of the wheel, an unmapped key.
 watch_events() {
   move_to 0.30 0.30
   xdotool key grave
@@ -98,7 +98,7 @@ watch_events() {
   xdotool mousedown 1
 }
 
-# A landscape with a sun, for want of a game.
+# A landscape with a sun, instead of a game.
 make_landscape() {
   awk 'BEGIN {
     print "P3 1280 720 255"

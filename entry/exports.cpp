@@ -1,4 +1,4 @@
-// The 46 functions of the public header. Each finds the singleton that knows, and hands on.
+// The 46 functions of the public header. Each forwards to the responsible singleton.
 #include <QCoreApplication>
 #include <QEvent>
 #include <QThread>
@@ -22,7 +22,8 @@
 namespace taviinputmanager {
 namespace {
 
-// Whatever thread makes the application object is the main one. Before and after that there is none to be told from.
+// The thread that creates the application object is the main thread. Before and after that there is none to compare
+// with.
 bool IsMainThread() {
   const QCoreApplication* app = QCoreApplication::instance();
   return !app || app->thread() == QThread::currentThread();
@@ -30,8 +31,8 @@ bool IsMainThread() {
 
 }  // namespace
 
-// Stands first in each function that is not for any thread. In debug builds a call from elsewhere ends the program, and
-// names the function; in others it costs nothing.
+// The first statement of each function that is restricted to the main thread. In debug builds a call from another
+// thread ends the program and names the function; in other builds it costs nothing.
 #define TAVI_ASSERT_MAIN_THREAD() Q_ASSERT_X(IsMainThread(), __func__, "called on a thread that is not the main one")
 
 // ---- Input events --------------------------------------------------------------------------------------------------
@@ -70,7 +71,7 @@ void doBackAction(int display) {
 
 void Initialize(InputManagerCallbacks* callbacks, int, int) {
   TAVI_ASSERT_MAIN_THREAD();
-  Clock::FindVirtualTime();  // first: singletons read the time as they are made
+  Clock::FindVirtualTime();  // first: singletons read the time in their constructors
   InputManager::GetInstance()->Initialize(callbacks);
 }
 

@@ -1,4 +1,4 @@
-// The part of the status manager that sees every room: a reset visits everyone who may hold something down.
+// The part of the status manager that depends on every folder: a reset calls everything that may hold something down.
 #include "core/input_status_manager.h"
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "simulators/cast/spell_event_simulator.h"
@@ -42,7 +42,7 @@ void ResetFixedSlots() {
   CurveSlotManager::GetInstance()->Reset();
 }
 
-// `everything`: macros and rapid taps that go on by themselves end too.
+// `everything`: also ends macros and rapid taps that continue by themselves.
 void ResetPools(bool everything) {
   MultipointSlotManager::GetInstance()->Reset();
   if (everything) MacroSlotManager::GetInstance()->Reset();
@@ -66,7 +66,7 @@ void ResetSimulators() {
 
 }  // namespace
 
-// Of all modes, kResetMacro alone touches nothing but what may be touched on the thread of a replay.
+// kResetMacro is the only mode that uses nothing but what may be used on the thread of a replay.
 void InputStatusManager::ResetGuestState(int mode, int display) {
   if (display == 0) display = display_id_;
   if (mode == kResetMacro) {

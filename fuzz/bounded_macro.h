@@ -1,4 +1,4 @@
-// Macros out of any text, without the ones that never return.
+// Macros from any text, without those that never return.
 #ifndef FUZZ_BOUNDED_MACRO_H_
 #define FUZZ_BOUNDED_MACRO_H_
 
@@ -11,7 +11,7 @@ namespace taviinputmanager::fuzz {
 
 constexpr int kMaxMacroCommands = 40;
 
-// One command a line. A loop without a pause may never return, so each gets one.
+// One command per line. A loop without a pause may never return, so each gets one.
 inline QStringList BoundedMacro(const QString& text) {
   QStringList commands;
   for (const QString& line : text.split('\n')) {

@@ -1,4 +1,4 @@
-// What a target holds to be always true.
+// The invariants of a target.
 #ifndef FUZZ_CHECK_H_
 #define FUZZ_CHECK_H_
 
@@ -9,7 +9,7 @@
 
 namespace taviinputmanager::fuzz {
 
-// Ends the program, and with it the input, as a crash does: the input is kept and can be played again.
+// Ends the program, and with it the input, like a crash: the input is kept and can be played again.
 inline void Check(bool is_true, const QString& what) {
   if (is_true) return;
   std::fprintf(stderr, "Not as it has to be: %s\n", qUtf8Printable(what));

@@ -1,4 +1,4 @@
-// Input as bytes: four for each thing that a host does.
+// Input as bytes: four for each event or call of a host.
 #ifndef FUZZ_EVENT_CODE_H_
 #define FUZZ_EVENT_CODE_H_
 
@@ -54,12 +54,12 @@ struct EventCode {
   uint8_t c;
 };
 
-// Any byte is a verb.
+// Any byte is a valid verb.
 constexpr EventVerb VerbOf(const EventCode& code) {
   return static_cast<EventVerb>(code.verb % static_cast<int>(EventVerb::kCount));
 }
 
-// A pixel of the guest view and of a band around it, as one byte.
+// A pixel of the guest view and of a margin around it, as one byte.
 constexpr int kPixelStep = 6;
 constexpr int kPixelOffset = -60;
 constexpr int ToPixel(uint8_t byte) { return byte * kPixelStep + kPixelOffset; }

@@ -25,9 +25,9 @@ constexpr int kNotch = 120;
 constexpr int kTask = 1;
 constexpr int kGamepad = 1;
 
-const QString kKeymapPath = QStringLiteral("fuzz.yaml");  // one text for all loads: the source keeps each path
+const QString kKeymapPath = QStringLiteral("fuzz.yaml");  // one text for all loads: each new path would be stored
 
-// A wait at the end of a click on the back key: a second one within that time leaves the first one's press.
+// A wait at the end of a click on the back key: a second click within that time keeps the first one's press.
 constexpr int kBackClickMs = 8;
 
 constexpr char kRecordText[] = R"json({"info": {"package_name": "com.example.game", "resolution_x": 1280},
@@ -45,7 +45,7 @@ int8_t Signed(uint8_t byte) { return static_cast<int8_t>(byte); }
 QPointF PointOf(const EventCode& code) { return {qreal(ToPixel(code.b)), qreal(ToPixel(code.c))}; }
 QString Name(uint8_t byte) { return QString::number(byte % 4); }
 
-// Keyboards have no codes in the upper half: there stand, once more, the keys that keymaps use.
+// Keyboards have no codes in the upper half: it repeats the keys that keymaps use.
 quint32 ScanCode(uint8_t byte) {
   constexpr quint32 kUsual[] = {17, 30, 31, 32, 33, 57, 16, 18, 41, 1, 42, 59};  // W A S D F Space Q E Grave Esc ...
   return byte < 0x80 ? byte : kUsual[byte % std::size(kUsual)];
@@ -64,7 +64,7 @@ QString Text(uint8_t byte) {
   return texts[byte % texts.size()];
 }
 
-// Takes the members that may be null out of a table, by the bits of a number.
+// Sets the optional members of a table to null, according to the bits of a number.
 void Thin(InputManagerCallbacks* table, unsigned bits) {
   if (bits & 0x1) table->GetJoystickType = nullptr;
   if (bits & 0x2) table->OnEscapeKeyOccupied = nullptr;
@@ -88,7 +88,7 @@ EventPlayer::EventPlayer()
   Session::WriteFile(recorded_, kRecordText);
 }
 
-// The table of this player goes with it.
+// The table of this player is about to be destroyed.
 EventPlayer::~EventPlayer() { Initialize(&Host().table, 0, 0); }
 
 void EventPlayer::Play(const EventCode& code) {
@@ -232,7 +232,7 @@ void EventPlayer::ChangeHost(const EventCode& code) {
   }
 }
 
-// A host that starts anew. An empty keymap is loaded for display 0.
+// A host that starts again. An empty keymap is loaded for display 0.
 void EventPlayer::InitializeAgain(const EventCode& code) {
   table_ = Host().table;
   Thin(&table_, code.a | (code.b & 1U) << 8);
@@ -265,7 +265,7 @@ void EventPlayer::PlayReplay(const EventCode& code) {
   const ReplayParam param{code.b / 64.0, (code.c & 1) != 0};
   switch (code.a % 9) {
     case 0:
-      // A second replay of a file would leave the first one's handle open, as it does with any host.
+      // A second replay of a file would leave the first one's handle open, as with any host.
       if (!is_replaying_) StartReplay(0, kTask, {}, record_, param);
       is_replaying_ = true;
       return;
@@ -298,7 +298,7 @@ void EventPlayer::PlayRecordFile(const EventCode& code) {
     case 1: return GetScriptAppAndPackage(file, app, package);
     case 2: try { UpdateRecordTimestamp(file);
       } catch (const std::exception&) {
-        return;  // the parser's, let through
+        return;  // the parser's exceptions, which are not caught
       }
       return;
     default:

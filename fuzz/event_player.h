@@ -1,4 +1,4 @@
-// Plays coded input through the exports, all of them.
+// Plays coded input through all exports.
 #ifndef FUZZ_EVENT_PLAYER_H_
 #define FUZZ_EVENT_PLAYER_H_
 
@@ -12,7 +12,7 @@
 
 namespace taviinputmanager::fuzz {
 
-// One for each input, on a session that has begun. Keeps to the duties of a host that the public header names.
+// One for each input, on a session that has begun. It observes the duties of a host that the public header documents.
 class EventPlayer {
  public:
   EventPlayer();
@@ -21,7 +21,7 @@ class EventPlayer {
   EventPlayer& operator=(const EventPlayer&) = delete;
 
   void Play(const EventCode& code);
-  // The display that live input goes to.
+  // The current display.
   int GetDisplay() const { return display_; }
 
  private:
@@ -43,10 +43,10 @@ class EventPlayer {
 
   int display_ = 1;
   Qt::MouseButtons buttons_;
-  QString record_;    // a record file of touches, keys and text, that a replay plays
+  QString record_;    // a record file of touches, keys and text, for replays
   QString recorded_;  // what this input records
   bool is_replaying_ = false;
-  InputManagerCallbacks table_;  // the host's, without the members that are null at present
+  InputManagerCallbacks table_;  // the host's, without the members that are currently null
 };
 
 }  // namespace taviinputmanager::fuzz

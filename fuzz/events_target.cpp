@@ -1,8 +1,9 @@
-// Bytes as what a host does, through all exports: whatever went down in the guest comes up.
+// Input: bytes as the actions of a host, through all exports. Property: everything that is pressed in the guest is
+// released.
 #include "fuzz/event_player.h"
 #include "fuzz/session.h"
 
-// Codes of four bytes each (event_code.h); a rest is left out.
+// Codes of four bytes each (event_code.h); the rest is ignored.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace taviinputmanager::fuzz;
   constexpr size_t kMaxCodes = 256;

@@ -27,13 +27,13 @@ std::vector<QByteArray> ReadKeymapTexts() {
   std::vector<QByteArray> texts;
   for (const QString& path : qAsConst(paths)) {
     QFile file(path);
-    Check(file.open(QIODevice::ReadOnly), "the tree has its keymaps: " + path);
+    Check(file.open(QIODevice::ReadOnly), "the tree contains its keymaps: " + path);
     texts.push_back(file.readAll());
   }
   return texts;
 }
 
-// Fills records with whatever their fields can hold.
+// Fills records with any values that their fields can store.
 class OddKeymap {
  public:
   explicit OddKeymap(unsigned seed) : random_(seed) {}
@@ -52,7 +52,7 @@ class OddKeymap {
   bool OneIn(int n) { return Below(n) == 0; }
   bool Flag() { return OneIn(2); }
 
-  // Mostly what a fraction of the display looks like.
+  // Mostly values that look like a fraction of the display.
   double Number() {
     constexpr double kInfinite = std::numeric_limits<double>::infinity();
     constexpr double kOdd[] = {0,    1,    -1,        2,         -0.5, 1e-9,
@@ -142,11 +142,11 @@ class OddKeymap {
       case 19: return Filled<VirtualStickLeftShiftButtonConfigItem>(kTypeVirtualLeftStickShiftButton);
       case 20: return Filled<WheelConfigItem>(kTypeWheel);
       case 21: return Filled<ZoomConfigItem>(kTypeZoom);
-      default: return Filled<SpellConfigItem>(kTypeSpell);  // there are most ways through these
+      default: return Filled<SpellConfigItem>(kTypeSpell);  // they have the most code
     }
   }
 
-  // One that other items can go by: a walk that works.
+  // A valid walk that other items can refer to.
   ConfigItem* Walk() {
     auto* walk = new SwipeholdConfigItem;
     walk->type = keywords::kTypeSwipehold;
@@ -244,7 +244,7 @@ class OddKeymap {
   void Fill(MouseRightWalkConfigItem* item) {
     item->character_rel_x = Number();
     item->character_rel_y = Number();
-    item->continue_factor = OneIn(4) ? -Below(5) : Below(5);  // a time goes by it
+    item->continue_factor = OneIn(4) ? -Below(5) : Below(5);  // used as a duration
     item->press_hold_ms = Ms();
     item->swipe_steps = Count();
     item->swipe_step_ms = Ms();

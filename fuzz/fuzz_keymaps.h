@@ -1,4 +1,4 @@
-// Keymaps to play with.
+// Keymaps for fuzz targets.
 #ifndef FUZZ_FUZZ_KEYMAPS_H_
 #define FUZZ_FUZZ_KEYMAPS_H_
 
@@ -9,9 +9,9 @@ namespace taviinputmanager::fuzz {
 // One of the tree's own keymaps, by any number. The caller owns it.
 tavikeymapmanager::KeymapConfig* MakeKeymap(int number);
 
-// A few items of any types with any values in their fields, the same ones for a seed always: what a keymap library may
-// hand over, but no reader of files lets through. Times, steps and counts are small, since they are walked. The caller
-// owns it.
+// A few items of any types with any values in their fields, always the same for a seed: what a keymap library may
+// return, although no reader of files accepts it. Times, steps and counts are small, because they are executed. The
+// caller owns it.
 tavikeymapmanager::KeymapConfig* MakeOddKeymap(unsigned seed);
 
 }  // namespace taviinputmanager::fuzz

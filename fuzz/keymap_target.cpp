@@ -1,4 +1,5 @@
-// Bytes as the text of a keymap file: a config always, and every finding at a place of the file.
+// Input: bytes as the text of a keymap file. Property: there is always a config, and every diagnostic has a position in
+// the file.
 #include "fuzz/check.h"
 #include "keymapmanager/keymap_file.h"
 
@@ -9,11 +10,11 @@ namespace {
 
 void CheckFinding(const Diagnostic& finding) {
   const QString text = tavikeymapmanager::FormatDiagnostic(finding);
-  Check(finding.line >= 1 && finding.column >= 1, "a finding is at a place: " + text);
+  Check(finding.line >= 1 && finding.column >= 1, "a diagnostic has a position: " + text);
   const bool ends_behind =
       finding.end_line > finding.line || (finding.end_line == finding.line && finding.end_column >= finding.column);
-  Check(ends_behind, "a finding does not end before it starts: " + text);
-  Check(!finding.message.isEmpty() && !text.contains('\n'), "a finding is one line: " + text);
+  Check(ends_behind, "a diagnostic does not end before it starts: " + text);
+  Check(!finding.message.isEmpty() && !text.contains('\n'), "a diagnostic is one line: " + text);
 }
 
 }  // namespace
@@ -25,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Check(result.config->settings && result.config->wheel_settings, "both settings are there");
   Check(!result.config->items.contains(nullptr), "no item is null");
   Check(result.config->items.size() == result.item_sources.size(), "every item has its source");
-  Check(!result.HasErrors() || result.config->items.isEmpty(), "nothing is half-loaded");
+  Check(!result.HasErrors() || result.config->items.isEmpty(), "no file is loaded in part");
   for (const Diagnostic& finding : result.diagnostics) CheckFinding(finding);
   return 0;
 }

@@ -1,4 +1,4 @@
-// Bytes as the commands of two macros, run by their keys beside the other items of a keymap.
+// Input: bytes as the commands of two macros, which their keys run beside the other items of a keymap.
 #include <QKeyEvent>
 
 #include "fuzz/bounded_macro.h"
@@ -15,7 +15,7 @@ namespace {
 using namespace tavikeymapmanager;
 
 constexpr int kDisplay = 1;
-const QString kKeymapPath = QStringLiteral("macro.yaml");  // one text for all loads: the source keeps each path
+const QString kKeymapPath = QStringLiteral("macro.yaml");  // one text for all loads: each new path would be stored
 constexpr char kSection[] = "\n--\n";
 
 template <typename Item>
@@ -35,7 +35,7 @@ void AddMacro(KeymapConfig* config, const QString& key, const QString& press, co
   macro->release_commands = BoundedMacro(release);
 }
 
-// What the input of macros may reach: a tap, a walk, a view, a pinch.
+// The items that the input of macros may reach: a tap, a walk, a view, a pinch.
 KeymapConfig* MakeKeymap(const QStringList& sections) {
   auto* config = new KeymapConfig;
   config->settings = new KeymapSettings;
@@ -64,8 +64,8 @@ void SendKey(QEvent::Type type, quint32 scan_code) {
 }  // namespace
 }  // namespace taviinputmanager::fuzz
 
-// The lists stand one behind the other with a line of two dashes between them: press and release of the first macro,
-// press and release of the second; a fifth makes the keymap one with a view.
+// The lists follow each other, separated by a line of two dashes: press and release of the first macro, press and
+// release of the second; a fifth makes the keymap one with a view.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace taviinputmanager::fuzz;
   constexpr quint32 kFirstKey = 59;

@@ -1,4 +1,4 @@
-// Writes inputs to start from, out of the tree's own examples: fuzz_make_seeds FOLDER. A folder for each target is made
+// Writes the initial inputs, from the tree's own examples: fuzz_make_seeds FOLDER. Creates a folder for each target
 // there.
 #include <QCoreApplication>
 #include <QDir>
@@ -88,7 +88,7 @@ void AddRecords(Seeds* seeds) {
   }
 }
 
-// What the guest was sent, without times and displays.
+// The lines for the guest, without times and displays.
 void AddLines(Seeds* seeds) {
   static const QRegularExpression line("^\\d+ms (?:text |\\d+:)(.*)$", QRegularExpression::MultilineOption);
   for (const QFileInfo& info : Files("examples/scripts", "*.timeline")) {
@@ -161,7 +161,7 @@ void AddVerbs(Seeds* seeds) {
   }
 }
 
-// Each script with each of the tree's keymaps, and with as many odd ones.
+// Each script with each of the tree's keymaps, and with as many random ones.
 void AddEvents(Seeds* seeds) {
   constexpr int kKeymaps = 6;
   constexpr int kAll = 2 * kKeymaps;

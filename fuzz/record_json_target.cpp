@@ -1,8 +1,9 @@
-// Bytes as a record file, read and copied without a tree of it: held against what the JSON libraries make of them.
+// Input: bytes as a record file, read and copied without a tree of it. Property: the result is that of the JSON
+// libraries.
 #include "fuzz/check.h"
 #include "tests/record/json/library_way.h"
 
-// The first byte says how small the window is; the others are the file.
+// The first byte sets the size of the window; the others are the file.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace taviinputmanager;
   if (size < 1) return 0;

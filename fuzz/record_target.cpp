@@ -1,4 +1,4 @@
-// Bytes as a record file: read, walked, replayed, stamped and merged.
+// Input: bytes as a record file, which is read, walked, replayed, stamped and merged.
 #include <exception>
 
 #include <QJsonArray>
@@ -22,11 +22,11 @@ constexpr int kMaxSteps = 3000;  // a record may have any number of repeats
 constexpr int kReplayMs = 400;
 constexpr int kTask = 1;
 
-// GetScriptAppAndPackage does not return for a record without.
+// GetScriptAppAndPackage does not return for a record without data.
 bool FirstActionHasData(QJsonObject json) {
   while (!json.contains(kActions)) {
     const QJsonArray items = json.value(kMergedActions).toArray();
-    if (items.isEmpty()) return true;  // nowhere to look on
+    if (items.isEmpty()) return true;  // no more data
     json = items.first().toObject();
   }
   return !json.value(kActions).toArray().first().toObject().value(kData).toString().isEmpty();
@@ -68,7 +68,7 @@ void Stamp(const QString& file) {
   try {
     UpdateRecordTimestamp(file);
   } catch (const std::exception&) {
-    return;  // the parser's, let through; the file stays as it was
+    return;  // the parser's exceptions, which are not caught; the file is unchanged
   }
   RecordInfo after;
   Check(!was_readable || GetRecordInfo(file, &after), "a stamped record can still be read");
@@ -91,7 +91,7 @@ void Merge(const QString& file, const MergeParam& param) {
 }  // namespace
 }  // namespace taviinputmanager::fuzz
 
-// The first byte says how the record is played and merged; the others are the file.
+// The first byte sets how the record is played and merged; the others are the file.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace taviinputmanager::fuzz;
   if (size < 1) return 0;

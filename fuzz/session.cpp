@@ -39,7 +39,7 @@ void Mirror(const QString& command, const QVector<QString>& targets) {
   Check(targets.isEmpty() || !command.isEmpty(), "a mirrored line is not empty");
 }
 
-// Replays and raw lines have displays of their own. A gamepad's numbers are what a host or an odd keymap gave.
+// Replays and raw lines have displays of their own. The numbers of gamepad lines come from the host or an odd keymap.
 bool PassesAsGiven(const QString& line) {
   const tavi::AddressedLine addressed = tavi::SplitDisplay(line);
   if (addressed.display >= Session::kReplayDisplay) return true;

@@ -1,4 +1,4 @@
-// The library under a fuzz target: on the virtual clock, with a host that has no window.
+// The library in a fuzz target: on virtual time, with a host without a window.
 #ifndef FUZZ_SESSION_H_
 #define FUZZ_SESSION_H_
 
@@ -19,30 +19,29 @@ struct TimelineEntry;
 
 namespace taviinputmanager::fuzz {
 
-// Singletons cannot be reset, so one library lives on from input to input. Finish brings it back to the same state as
-// far as exports can: no keymap, no recording, no replay, no gesture under way, the settings of the host as they were.
-// What stays: the time, which goes on, and Qt's random numbers, which cannot be started anew; by these virtual mice are
-// named and a replay's positions disturbed, and nothing else.
+// Singletons cannot be reset, so one library serves all inputs. Finish restores the initial state as far as exports
+// can: no keymap, no recording, no replay, no gesture in progress, the initial settings of the host. What stays: the
+// time, which continues, and Qt's random numbers, which cannot be seeded again; they only affect the names of virtual
+// mice and the random offsets of a replay.
 class Session {
  public:
   static Session& Get();
 
-  // After each input.
+  // Call it after each input.
   void Finish();
 
   tavi::SimulatedHost& Host();
   tavi::VirtualEventDispatcher& Time() { return *clock_; }
 
-  // Displays that live input goes to are those below this one. Lines to others are a replay's or raw, and pass as
-  // given.
+  // Displays of live input are below this one. Lines to others come from a replay or are raw, and may be anything.
   static constexpr int kReplayDisplay = 7;
   static constexpr int kRawDisplay = 8;
 
-  // Takes live input off `display` as a change of the display does, waits until timed runs are through, and tells that
-  // nothing is down in the guest and that every line could be read.
+  // Moves live input away from `display`, as a change of the display does, waits until timed runs have ended, and
+  // checks that nothing is down in the guest and that every line could be parsed.
   void CheckThatNothingStaysDown(int display);
 
-  // A file of this process, in memory where the system has such a folder.
+  // A file of this process, in memory if the system has such a folder.
   QString FilePath(const QString& name) const;
   static void WriteFile(const QString& path, const QByteArray& bytes);
 
@@ -54,7 +53,7 @@ class Session {
   void RestoreHost();
   void Listen();
 
-  tavi::VirtualEventDispatcher* clock_;  // the application's
+  tavi::VirtualEventDispatcher* clock_;  // owned by the application
   std::unique_ptr<QGuiApplication> application_;
   QString folder_;
   ModelGuest guest_;

@@ -1,4 +1,4 @@
-// Bytes as lines for the guest: recorded, saved, and played again.
+// Input: bytes as lines for the guest, which are recorded, saved, and replayed.
 #include <QStringList>
 
 #include "fuzz/check.h"
@@ -54,7 +54,7 @@ QRect DisplayRect(int how) {
 }  // namespace
 }  // namespace taviinputmanager::fuzz
 
-// The first byte is the host's display and how the recording is played; the others are lines.
+// The first byte sets the host's display and how the recording is played; the others are lines.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace taviinputmanager::fuzz;
   if (size < 1) return 0;

@@ -31,7 +31,7 @@ void GuestPlayer::LiftAll() {
 
 bool GuestPlayer::IsWhole(const SentLine& line) {
   if (!line.is_cut) return true;
-  Tell("passed over, longer than " + std::to_string(GuestStream::kMostLineBytes) + " bytes", line.line + "...");
+  Tell("ignored, longer than " + std::to_string(GuestStream::kMostLineBytes) + " bytes", line.line + "...");
   return false;
 }
 

@@ -1,4 +1,4 @@
-// Plays the lines that a host sends.
+// Plays the lines of a host.
 #ifndef GUEST_GUEST_PLAYER_H_
 #define GUEST_GUEST_PLAYER_H_
 
@@ -15,17 +15,17 @@ namespace taviguest {
 // Not bound to a thread.
 class GuestPlayer {
  public:
-  // What becomes of the player's results. `events` says what went wrong with them, or nothing.
+  // The receiver of the player's results. `events` returns its error, or an empty string.
   struct Outlets {
     std::function<std::string(const KernelEvents&)> events;
-    std::function<void(const std::string&)> problem;  // one line for people
+    std::function<void(const std::string&)> problem;  // one line, for display
   };
 
   GuestPlayer(const GuestOptions& options, Outlets outlets)
       : display_(options.display), outlets_(std::move(outlets)), translator_(options) {}
 
   void Play(const SentLine& line);
-  // A line of a timeline; `wait` until so long after the start comes before it, and says whether it is to be played.
+  // A line of a timeline; first calls `wait` with its time since the start, which returns whether to play it.
   void PlayTimed(const SentLine& line, const std::function<bool(int ms)>& wait);
 
   void LiftAll();

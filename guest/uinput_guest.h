@@ -30,27 +30,27 @@ class UinputGuest {
   explicit UinputGuest(const GuestOptions& options);
   UinputGuest(const UinputGuest&) = delete;
   UinputGuest& operator=(const UinputGuest&) = delete;
-  // Lifts what is down and takes the devices away; takes a tenth of a second, in which readers see the lift.
+  // Lifts what is down and removes the devices; takes a tenth of a second, so that readers see the lift.
   ~UinputGuest();
 
-  // Makes the devices, and returns 0.3 s later: readers need so long to find them, and what is played before is lost on
-  // them. What went wrong, for people; empty when the devices are there. To be called once, before all else.
+  // Creates the devices, and returns 0.3 s later: readers need that long to find them, and events before that are lost.
+  // Returns the error, for display; empty if the devices exist. Must be called once, before anything else.
   std::string Open();
 
-  // The devices that there are: screen, keyboard and pointer after Open; gamepad and touchpad when `options` ask for
-  // them, or after the first line that needs one.
+  // The existing devices: screen, keyboard and pointer after Open; gamepad and touchpad if `options` ask for them, or
+  // after the first line that needs one.
   std::vector<DevicePlace> Places() const;
 
   // Plays a line as a host's send functions get it, with its newline or NUL at the end or without: an event line with
-  // its display in front, or a text line. Each report of a device is one write(). What could not be played, for people;
-  // empty when all was, and when the line is for another display than `options.display`.
+  // its display prefix, or a text line. Each report of a device is one write(). Returns what could not be played, for
+  // display; empty if everything was, and if the line is for another display than `options.display`.
   //
-  // Does not block, except for the first line of a gamepad or touchpad that `options` did not ask for: this makes the
+  // Does not block, except on the first line for a gamepad or touchpad that `options` did not ask for: this creates the
   // device and takes the 0.3 s of Open.
   std::string TakeLine(std::string_view line);
 
-  // Lifts all fingers, keys and buttons that are down and centres sticks, triggers and hat, of all displays. Nothing
-  // happens to what is up already. What the kernel did not take, for people, or nothing.
+  // Lifts all fingers, keys and buttons that are down and centres sticks, triggers and hat, of all displays. Sends
+  // nothing for what is up already. Returns the kernel's error, for display, or an empty string.
   std::string LiftAll();
 
  private:

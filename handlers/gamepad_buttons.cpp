@@ -3,7 +3,7 @@
 namespace taviinputmanager {
 namespace {
 
-// Null where a layout has no such button.
+// Null if a layout has no such button.
 struct ButtonRow {
   int code;
   const char* name_a;

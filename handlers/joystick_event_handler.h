@@ -1,4 +1,4 @@
-// The base of what a gamepad's events become.
+// The base class of the handlers of gamepad events.
 #ifndef HANDLERS_JOYSTICK_EVENT_HANDLER_H_
 #define HANDLERS_JOYSTICK_EVENT_HANDLER_H_
 
@@ -9,10 +9,10 @@ namespace taviinputmanager {
 class JoystickAxisEvent;
 class JoystickButtonEvent;
 
-// Each operation tells whether the event was used up.
+// Each operation returns whether the event was consumed.
 class JoystickEventHandler : public EventHandler {
  public:
-  // One kind of event each. `simulate_mode` is the keymap's.
+  // One function for each kind of event. `simulate_mode` is the keymap's.
   virtual bool OnAxis(JoystickAxisEvent* event) = 0;
   virtual bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) = 0;
   virtual bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) = 0;

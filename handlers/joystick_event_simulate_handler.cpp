@@ -33,10 +33,10 @@ ConfigKey KeyOf(const QString& text) {
   return key;
 }
 
-// Joins the buttons of a combination; the one pressed last is the last.
+// Joins the buttons of a chord; the button pressed last comes last.
 QString CombinationOf(const QString& held, const QString& pressed) { return held + QLatin1Char('+') + pressed; }
 
-// Whether the key called `text` ends with the release of the button `name`.
+// Whether the key named `text` ends with the release of the button `name`.
 bool EndsWith(const QString& text, const QString& name) {
   return text == name || text.endsWith(CombinationOf(QString(), name));
 }
@@ -94,7 +94,7 @@ bool JoystickEventSimulateHandler::OnButtonPress(JoystickButtonEvent* event, int
   }
   if (!was_pressed) was_pressed = TryPress(name);
   if (!held_buttons_.contains(name)) held_buttons_.append(name);
-  if (!pressing_.removeOne(name)) Release(name);  // the host let go of it from inside
+  if (!pressing_.removeOne(name)) Release(name);  // the host released it during the call
   return was_pressed;
 }
 
@@ -113,7 +113,7 @@ bool JoystickEventSimulateHandler::Release(const QString& name) {
     was_released = true;
     if (releasing_.contains(name)) active_texts_.removeAll(text);
   }
-  if (releasing_.removeOne(name)) held_buttons_.removeAll(name);  // else the host pressed it again from inside
+  if (releasing_.removeOne(name)) held_buttons_.removeAll(name);  // otherwise the host pressed it again during the call
   return was_released;
 }
 

@@ -1,4 +1,4 @@
-// Gamepad events as keymap actions.
+// Applies the keymap to gamepad events.
 #ifndef HANDLERS_JOYSTICK_EVENT_SIMULATE_HANDLER_H_
 #define HANDLERS_JOYSTICK_EVENT_SIMULATE_HANDLER_H_
 
@@ -17,21 +17,21 @@ namespace taviinputmanager {
 class EventSimulator;
 struct InputManagerCallbacks;
 
-// Buttons are keys of the device "joystick", known by name. While "A" is held, "B" is first looked up as "A+B" and by
-// itself only where no such combination does anything.
+// Buttons are keys of the device "joystick", identified by name. While "A" is held, "B" is first looked up as "A+B",
+// and by itself only if no such chord has an effect.
 //
-// Main thread. What it remembers are names: no item is held beyond a call, and a press is released through whatever
-// item answers to its name by then. A new config leaves all of it as it is.
+// Main thread. It remembers names only: no item is kept after a call, and a release goes to the item that has the key's
+// name at that time. A new config changes nothing of this.
 //
-// Names are noted when a press or release is through: a macro that presses or releases its own button while it runs
-// finds nothing of it. Where a host does that from inside a send, it is made up for at the end.
+// Names are recorded after a press or release has been handled: a macro that presses or releases its own button while
+// it runs finds no record of it. If a host does that during a call, the record is corrected at the end.
 class JoystickEventSimulateHandler : public JoystickEventHandler {
  public:
   static JoystickEventSimulateHandler* GetInstance();
 
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
   void SetConfig(tavikeymapmanager::KeymapConfig* config) { joystick_config_ = config; }
-  // The config is about to go.
+  // The config is about to be deleted.
   void ForgetConfig() { joystick_config_ = nullptr; }
 
   bool OnAxis(JoystickAxisEvent* event) override;
@@ -43,21 +43,21 @@ class JoystickEventSimulateHandler : public JoystickEventHandler {
 
   bool OnLeftStick(JoystickAxisEvent* event);
   bool OnRightStick(JoystickAxisEvent* event);
-  // Null when nothing matches. A match is told to the host.
+  // Null if nothing matches. A match is reported to the host.
   tavikeymapmanager::ConfigItem* FindItem(const tavikeymapmanager::ConfigKey& key) const;
   static EventSimulator* SimulatorFor(const tavikeymapmanager::ConfigItem* item);
-  // Each tells whether an item and its simulator took the key called `text`.
+  // Each returns whether an item and its simulator handled the key named `text`.
   bool TryPress(const QString& text);
   bool TryRelease(const QString& text);
-  // Releases every active text that ends with the button `name`. Tells whether there was one.
+  // Releases every active text that ends with the button `name`. Returns whether there was one.
   bool Release(const QString& name);
 
-  tavikeymapmanager::KeymapConfig* joystick_config_ = nullptr;  // the input manager's
+  tavikeymapmanager::KeymapConfig* joystick_config_ = nullptr;  // owned by the input manager
   QStringList held_buttons_;                                    // by name, in the order of pressing
   QStringList active_texts_;                                    // pressed and not yet released
-  QStringList pressing_;                                        // presses under way that the host has not taken back
-  QStringList releasing_;                                       // the same of releases
-  InputManagerCallbacks* callbacks_ = nullptr;                  // the host's
+  QStringList pressing_;                        // presses in progress that the host has not released meanwhile
+  QStringList releasing_;                       // the same for releases
+  InputManagerCallbacks* callbacks_ = nullptr;  // owned by the host
 };
 
 }  // namespace taviinputmanager

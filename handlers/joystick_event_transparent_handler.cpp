@@ -21,12 +21,12 @@ using tavikeymapmanager::JoystickEvent;
 namespace {
 
 constexpr int kVirtualDevice = 100801;
-constexpr double kStickUnit = 1000000;   // of the guest's stick axes
+constexpr double kStickUnit = 1000000;   // range of the guest's stick axes
 constexpr int kTriggersAreButtons = 1;   // simulate_mode
-constexpr double kTouchpadPoint = 0.5;   // of the display, on both axes
-constexpr int kUnknownTouchpoint = 100;  // where there is no display
+constexpr double kTouchpadPoint = 0.5;   // relative to the display, on both axes
+constexpr int kUnknownTouchpoint = 100;  // without a display
 
-// The hat's arrows, which hosts give as text. Up and left are negative.
+// The hat's directions, which hosts report as text. Up and left are negative.
 struct HatRow {
   ushort arrow;
   LineBuffer (*line)(int);

@@ -1,4 +1,4 @@
-// Gamepad events as the guest's gamepad.
+// Sends gamepad events to the guest's gamepad.
 #ifndef HANDLERS_JOYSTICK_EVENT_TRANSPARENT_HANDLER_H_
 #define HANDLERS_JOYSTICK_EVENT_TRANSPARENT_HANDLER_H_
 
@@ -11,10 +11,10 @@ namespace taviinputmanager {
 
 struct InputManagerCallbacks;
 
-// Passes on what a gamepad's keymap leaves over, and what the virtual gamepad of the keyboard's keymap says, by events
-// of a device of its own. Takes every event.
+// Sends what a gamepad's keymap does not handle, and events of the virtual gamepad of the keyboard's keymap, under a
+// device of its own. Consumes every event.
 //
-// Knows of no button that is down: each press and release goes to the display of its moment, and no reset visits here.
+// Keeps no record of pressed buttons: each press and release goes to the current display, and no reset affects it.
 class JoystickEventTransparentHandler : public JoystickEventHandler {
   Q_OBJECT
 
@@ -22,22 +22,23 @@ class JoystickEventTransparentHandler : public JoystickEventHandler {
   static JoystickEventTransparentHandler* GetInstance();
 
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
-  // Connects or disconnects the keymap's virtual gamepad. Connecting, also once more, sends where its sticks are.
+  // Connects or disconnects the keymap's virtual gamepad. Connecting it, even repeatedly, sends the positions of its
+  // sticks.
   void SetVirtualJoystick(bool enable);
 
   bool OnAxis(JoystickAxisEvent* event) override;
   bool OnButtonPress(JoystickButtonEvent* event, int simulate_mode) override;
   bool OnButtonRelease(JoystickButtonEvent* event, int simulate_mode) override;
 
-  // The guest's code of the button that the host calls `name` on the gamepad `device`; kNoButtonCode for none.
+  // The guest's code of the button named `name` on the gamepad `device`; kNoButtonCode if there is none.
   int LookupCode(int device, const QString& name, int simulate_mode) const;
 
  public Q_SLOTS:
-  // Sticks of the virtual gamepad, from -1 to 1 where they have arrived.
+  // Sticks of the virtual gamepad, from -1 to 1 at the edge.
   void OnLeftStickPointChanged(QPointF& point);
   void OnRightStickPointChanged(QPointF& point);
   void OnVJoystickButtonPressOrRelease(QString& text, bool press);
-  // While pressed, the left stick counts `factor` times. It is sent anew at once.
+  // While pressed, the left stick is multiplied by `factor`. It is sent again at once.
   void OnVStickLeftShiftButtonPressOrRelease(double factor, bool press);
 
  private:
@@ -53,9 +54,9 @@ class JoystickEventTransparentHandler : public JoystickEventHandler {
   void SendHat(const QString& text, bool press);
   void SendTouchpad(bool press);
 
-  // By whether simulate_mode is 1, then by layout. The two sets have the same entries.
+  // Indexed by whether simulate_mode is 1, then by layout. The two sets have the same entries.
   ButtonMap button_maps_[2][kButtonLayoutCount];
-  InputManagerCallbacks* callbacks_ = nullptr;  // the host's
+  InputManagerCallbacks* callbacks_ = nullptr;  // owned by the host
   double left_stick_factor_ = 1.0;
 };
 

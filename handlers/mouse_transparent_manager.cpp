@@ -9,7 +9,7 @@
 namespace taviinputmanager {
 namespace {
 
-constexpr double kKeptFreeAtTop = 0.1;  // of the display's height, after a wrap
+constexpr double kKeptFreeAtTop = 0.1;  // relative to the display's height, after a wrap
 
 }  // namespace
 
@@ -22,7 +22,7 @@ MouseTransparentManager::~MouseTransparentManager() = default;
 
 void MouseTransparentManager::SetPosition(int window_x, int window_y) {
   const double scale = DisplayGeometry::GetInstance()->GetWindowScale();
-  if (!DisplayGeometry::IsScale(scale)) return;  // a window or display of no size: the pointer stays
+  if (!DisplayGeometry::IsScale(scale)) return;  // a window or display without a size: the pointer stays
   x_ = window_x / scale;
   y_ = window_y / scale;
 }

@@ -66,7 +66,7 @@ void MultPointSyncWorker::ReleaseExcept(const QSet<int>& kept) {
 }
 
 void MultPointSyncWorker::Press(const qt::TouchPoint& point, int slot) {
-  if (slot == SlotManager::kNoSlot) return;  // every finger of the guest is down
+  if (slot == SlotManager::kNoSlot) return;  // every slot of the guest is taken
   const unsigned turn = events_.Current();
   touches_.insert(point.id(), slot);
   const QPointF place = qt::PlaceOf(point);

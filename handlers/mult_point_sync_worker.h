@@ -1,4 +1,4 @@
-// From the host's touch points to the guest's.
+// Converts the host's touch points to contacts.
 #ifndef HANDLERS_MULT_POINT_SYNC_WORKER_H_
 #define HANDLERS_MULT_POINT_SYNC_WORKER_H_
 
@@ -11,18 +11,17 @@
 
 namespace taviinputmanager {
 
-// Each touch point gets a slot of MultPointSlotManager for as long as it lasts, and a line of its own at each event. A
-// point that finds no free slot is left out, and is offered one again at its next event.
+// Each touch point keeps a slot of MultPointSlotManager while it lasts, and gets a line of its own in each event. A
+// point for which there is no free slot is skipped, and tries again in its next event.
 //
-// No reset reaches the points known here: the next gesture forgets them. Slots of a gesture whose end never came stay
-// taken. An event that comes from inside a send is the newer picture: what is left of the older one is dropped. Main
-// thread.
+// Resets do not affect the points recorded here: the next gesture clears them. Slots of a gesture that never ended stay
+// taken. An event that arrives during a call to the host is newer: the rest of the older one is dropped. Main thread.
 class MultPointSyncWorker : public EventHandler {
  public:
   static MultPointSyncWorker* GetInstance();
 
-  // A begin forgets the points known and presses the event's; an update releases those that the event does not have any
-  // more and presses or moves the rest; anything else ends the gesture and releases all.
+  // A begin clears the record and presses the event's points; an update releases points that the event no longer has,
+  // and presses or moves the rest; any other event ends the gesture and releases all points.
   void OnTouchEvent(QTouchEvent* event);
 
  private:
@@ -30,9 +29,9 @@ class MultPointSyncWorker : public EventHandler {
 
   void Begin(const QList<qt::TouchPoint>& points);
   void Update(const QList<qt::TouchPoint>& points);
-  // The slot that the point has, moved there, or one from the pool; may be none.
+  // The slot of the point, moved there, or one from the pool; may be none.
   int SlotFor(const qt::TouchPoint& point);
-  // Releases every known point that is not in `kept`, in ascending order of their ids.
+  // Releases every recorded point that is not in `kept`, in ascending order of ids.
   void ReleaseExcept(const QSet<int>& kept);
   // `slot` may be none.
   void Press(const qt::TouchPoint& point, int slot);

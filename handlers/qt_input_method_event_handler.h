@@ -1,4 +1,4 @@
-// What an input method commits.
+// Text that an input method commits.
 #ifndef HANDLERS_QT_INPUT_METHOD_EVENT_HANDLER_H_
 #define HANDLERS_QT_INPUT_METHOD_EVENT_HANDLER_H_
 
@@ -8,7 +8,7 @@ class QInputMethodEvent;
 
 namespace taviinputmanager {
 
-// Forwards committed text. What is still being composed stays on the host.
+// Forwards committed text. Text that is still being composed stays on the host.
 class QtInputMethodEventHandler : public EventHandler {
  public:
   static QtInputMethodEventHandler* GetInstance();

@@ -1,4 +1,4 @@
-// The base of what a key of the host becomes.
+// The base class of the handlers of key events.
 #ifndef HANDLERS_QT_KEYBOARD_EVENT_HANDLER_H_
 #define HANDLERS_QT_KEYBOARD_EVENT_HANDLER_H_
 
@@ -10,13 +10,13 @@ namespace taviinputmanager {
 
 class QtKeyboardEventHandler : public EventHandler {
  public:
-  // Whether the event was used up. A repeat that the handler does not accept is not.
+  // Whether the event was consumed. A repeat that the handler does not accept is not.
   bool HandleKeyEvent(QKeyEvent* event);
 
-  // One kind of event each, without a look at repeats; whether it was used up.
+  // One function for each kind of event, regardless of repeats; returns whether it was consumed.
   virtual bool OnKeyPress(QKeyEvent* event) = 0;
   virtual bool OnKeyRelease(QKeyEvent* event) = 0;
-  // Whether the host's repeats of a key that stays down count as presses.
+  // Whether the host's key repeats count as presses.
   virtual bool AcceptsAutoRepeat(QKeyEvent* event);
 };
 

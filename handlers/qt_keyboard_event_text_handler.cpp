@@ -41,7 +41,7 @@ bool QtKeyboardEventTextHandler::OnKeyPress(QKeyEvent* event) {
   } else if (IsPaste(event, code)) {
     SendText(guest_command::Text(ClipboardText()));
   } else {
-    SendText(guest_command::Text(event->text()));  // also where that is empty, as for Shift alone
+    SendText(guest_command::Text(event->text()));  // even if it is empty, as for Shift alone
   }
   return true;
 }

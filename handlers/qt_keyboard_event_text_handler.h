@@ -1,4 +1,4 @@
-// Keys as text, while the guest has a text field focused.
+// Keys as text, while a text field of the guest has the focus.
 #ifndef HANDLERS_QT_KEYBOARD_EVENT_TEXT_HANDLER_H_
 #define HANDLERS_QT_KEYBOARD_EVENT_TEXT_HANDLER_H_
 
@@ -6,8 +6,8 @@
 
 namespace taviinputmanager {
 
-// Uses up every key. All goes out on the press, the host's repeats included: keys that move or control as clicks, so
-// that nothing stays down, everything else as text.
+// Consumes every key. Everything is sent on the press, including repeats: navigation and control keys as clicks, so
+// that nothing stays down, all others as text.
 class QtKeyboardEventTextHandler : public QtKeyboardEventHandler {
  public:
   static QtKeyboardEventTextHandler* GetInstance();

@@ -1,4 +1,4 @@
-// A host key that stays a key.
+// Passes host keys through as keys.
 #ifndef HANDLERS_QT_KEYBOARD_EVENT_TRANSPARENT_HANDLER_H_
 #define HANDLERS_QT_KEYBOARD_EVENT_TRANSPARENT_HANDLER_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// Passes every press and release, whether or not one went before the other. Repeats are the guest's own business.
+// Sends every press and release, whether or not they are paired. The guest generates repeats itself.
 class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
  public:
   static QtKeyboardEventTransparentHandler* GetInstance() {
@@ -14,12 +14,18 @@ class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
     return &instance;
   }
 
+  // A macro's press or release of a key, which has one number for all its codes.
+  void SetVirtualKey(int code, bool press);
+
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
   bool AcceptsAutoRepeat(QKeyEvent* event) override;
 
  private:
   QtKeyboardEventTransparentHandler() = default;
+
+  void Press(int scancode);
+  void Release(int scancode);
 };
 
 }  // namespace taviinputmanager

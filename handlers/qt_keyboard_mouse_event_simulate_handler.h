@@ -1,4 +1,4 @@
-// Where a host key or mouse button meets the keymap.
+// Applies the keymap to host keys and mouse buttons.
 #ifndef HANDLERS_QT_KEYBOARD_MOUSE_EVENT_SIMULATE_HANDLER_H_
 #define HANDLERS_QT_KEYBOARD_MOUSE_EVENT_SIMULATE_HANDLER_H_
 
@@ -7,6 +7,7 @@
 
 #include <QMap>
 
+#include "handlers/known_keys.h"
 #include "handlers/qt_keyboard_event_handler.h"
 #include "handlers/qt_mouse_event_handler.h"
 #include "keymap/config_key.h"
@@ -23,10 +24,11 @@ struct InputManagerCallbacks;
 class EventSimulator;
 class MouseSlotManager;
 
-// Finds the item of a key, chords of two keys included, and hands the press or release to the item's simulator. What no
-// item takes: Escape, which may act as the guest's back key, and the left button, which is a finger.
+// Finds the item of a key, including chords of two keys, and passes the press or release to the item's simulator. It
+// also handles what no item uses: Escape, which may act as the guest's back key, and the left button, which is a
+// contact.
 //
-// Two QObject bases, so never a sender, receiver or context of a connection. Main thread only.
+// Has two QObject bases, so it must not be a sender, receiver or context of a connection. Main thread only.
 class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, public QtMouseEventHandler {
  public:
   static QtKeyboardMouseEventSimulateHandler* GetInstance() {
@@ -36,19 +38,22 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
 
   void Initialize(InputManagerCallbacks* callbacks);
   void SetConfig(tavikeymapmanager::KeymapConfig* config);
-  // The config is about to go: follows no pointer into it any more and tells nobody.
+  // The config is about to be deleted: follows no pointer into it anymore, and calls nobody.
   void ForgetConfig();
-  // Forgets armed and chorded keys and the real mouse's buttons; those of virtual pointers stay.
+  // Clears armed and chorded keys and the buttons of the real mouse; those of virtual pointers stay.
   void ResetKeyState();
 
-  // The first item that answers to `key` alone, or null. Tells the host that a mapped device is in use.
+  // The first item that matches `key` alone, or null. Reports to the host that a mapped device is in use.
   tavikeymapmanager::ConfigItem* FindConfigItem(const tavikeymapmanager::ConfigKey& key) const;
-  // What an item does at run time; null for an item that does nothing by itself.
+  // The simulator of an item; null for an item without an effect of its own.
   static EventSimulator* GetSimulator(const tavikeymapmanager::ConfigItem* item);
 
-  // For a press or release: whether an item answers to the button.
+  // A macro's press or release of a key, which has one number for both codes; whether it was consumed.
+  bool SetVirtualKey(int code, bool press);
+
+  // For a press or release: whether an item matches the button.
   bool IsMouseButtonMapped(QMouseEvent* event) const;
-  // For a move: whether the left button is held and an item answers to it.
+  // For a move: whether the left button is held and an item matches it.
   bool IsHeldLeftMapped(QMouseEvent* event) const;
 
   bool OnKeyPress(QKeyEvent* event) override;
@@ -63,49 +68,57 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   QtKeyboardMouseEventSimulateHandler();
   ~QtKeyboardMouseEventSimulateHandler() override;
 
-  // Through the first of the two bases, which is as good as the other.
+  // Through the first of the two bases; the other would do as well.
   void SendEvent(const LineBuffer& command) { static_cast<QtKeyboardEventHandler*>(this)->SendEvent(command); }
 
-  // Of the items as they are now.
+  // For the current items.
   const tavikeymapmanager::ItemIndex& Index() const;
   tavikeymapmanager::ConfigItem* FindPressedItem(const tavikeymapmanager::ConfigKey& key);
   tavikeymapmanager::ConfigItem* FindReleasedItem(const tavikeymapmanager::ConfigKey& key);
   bool IsEscapeToGuest() const;
-  // Whether an Escape that is not mapped acts as back, for a real key.
+  // Whether an unmapped Escape acts as back, for a real key.
   bool IsEscapeBack() const;
-  // Both take the event of an Escape that is not mapped, and tell whether it was used up.
+  // The event is null if a macro presses the key.
+  bool PressKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  bool ReleaseKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  // Both handle an unmapped Escape, and return whether it was consumed.
   bool PressEscape(const QKeyEvent* event);
   bool ReleaseEscape(const QKeyEvent* event);
   void ClearCurrentKey();
-  // What isConfigKeyMatch says of the keymap.
+  // The result of isConfigKeyMatch for the keymap.
   bool IsKeyMatch(const tavikeymapmanager::ConfigKey& configured, const tavikeymapmanager::ConfigKey& pressed) const;
-  // Whether an item takes Escape, alone or in a chord with the key that is armed, or the guest gets it.
+  // Whether Escape is consumed by an item, alone or in a chord with the armed key, or sent to the guest.
   bool IsEscapeOccupied() const;
-  // Tells the host whether Escape is taken.
+  // Reports to the host whether Escape is taken.
   void UpdateEscapeState();
 
+  bool IsMapped(Qt::MouseButton button) const;
+  void PressButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
+  void ReleaseButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
   void PressLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void ReleaseLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void MoveLeftFinger(QMouseEvent* event);
-  // The finger of a virtual pointer, made at its first use; null when the macro pool has no slot left.
+  // The contact of a virtual pointer, created at its first use; null if the macro pool has no slot left.
   std::shared_ptr<MouseSlotManager> GetMouseSlot(qint64 id);
-  // The finger that an event moves: the real mouse's, or its virtual pointer's. May be null, as above. Kept by whoever
-  // works with it: the host may release it from inside a question or a send.
+  // The contact that an event moves: the real mouse's, or its virtual pointer's. May be null, as above. Callers keep a
+  // reference: the host may release it during a call.
   std::shared_ptr<MouseSlotManager> FingerOf(const QMouseEvent* event);
   void GiveBackMouseSlot(qint64 id);
   void SetButton(qint64 id, Qt::MouseButton button, bool down);
   bool IsButtonHeld(qint64 id, Qt::MouseButton button) const;
 
-  tavikeymapmanager::KeymapConfig* config_ = nullptr;                // the input manager's
-  mutable tavikeymapmanager::ItemIndex index_;                       // of its items, made as they are searched
+  tavikeymapmanager::KeymapConfig* config_ = nullptr;                // owned by the input manager
+  mutable tavikeymapmanager::ItemIndex index_;                       // of its items, created as they are searched
   std::shared_ptr<MouseSlotManager> default_mouse_slot_;             // the singleton, not owned
   std::map<qint64, std::shared_ptr<MouseSlotManager>> mouse_slots_;  // by virtual pointer
-  const bool is_key_match_own_;                                      // nobody stands in front of isConfigKeyMatch
-  InputManagerCallbacks* callbacks_ = nullptr;                       // the host's
-  tavikeymapmanager::ConfigKey escape_key_;   // what the state of Escape is asked by; never changes
-  tavikeymapmanager::ConfigKey current_key_;  // pressed last and taken by nothing: may be the first key of a chord
+  const bool is_key_match_own_;                                      // no other function overrides isConfigKeyMatch
+  InputManagerCallbacks* callbacks_ = nullptr;                       // owned by the host
+  tavikeymapmanager::ConfigKey escape_key_;   // the argument for the state of Escape; never changes
+  tavikeymapmanager::ConfigKey current_key_;  // pressed last without an effect: may be the first key of a chord
   QMap<int, tavikeymapmanager::ConfigItem*> chord_items_;  // by scan code of the second key, while that is down
   QMap<qint64, unsigned> mouse_buttons_;                   // Qt::MouseButton bits held, by pointer; 0 is the real mouse
+  mutable KnownKeys keys_{tavikeymapmanager::keywords::kDeviceKeyboard};
+  mutable KnownKeys buttons_{tavikeymapmanager::keywords::kDeviceMouse};
 };
 
 }  // namespace taviinputmanager

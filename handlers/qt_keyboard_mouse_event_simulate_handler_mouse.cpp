@@ -22,17 +22,15 @@ using tavikeymapmanager::ConfigKey;
 
 namespace {
 
-ConfigKey KeyOf(Qt::MouseButton button) {
-  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
-}
+int CodeOf(Qt::MouseButton button) { return static_cast<int>(button); }
 
-// The class has no heirs and is of this library alone, so that one look at the type is enough; to compare two types by
-// operator== is to compare their names.
+// The class is final and belongs to this library, so comparing the types' addresses is enough; operator== would compare
+// their names.
 const VirtualMouseEvent* AsVirtual(const QMouseEvent* event) {
   return &typeid(*event) == &typeid(VirtualMouseEvent) ? static_cast<const VirtualMouseEvent*>(event) : nullptr;
 }
 
-// The pointer that an event is of; 0 is the real mouse.
+// The pointer of an event; 0 is the real mouse.
 qint64 PointerOf(const QMouseEvent* event) {
   const VirtualMouseEvent* virtual_event = AsVirtual(event);
   return virtual_event ? virtual_event->slot_index : 0;
@@ -46,38 +44,49 @@ bool IsFire(const ConfigItem* item) { return item && item->type == tavikeymapman
 
 bool QtKeyboardMouseEventSimulateHandler::IsMouseButtonMapped(QMouseEvent* event) const {
   if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) return false;
-  return FindConfigItem(KeyOf(event->button())) != nullptr;
+  return IsMapped(event->button());
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsHeldLeftMapped(QMouseEvent* event) const {
-  return IsButtonHeld(PointerOf(event), Qt::LeftButton) && FindConfigItem(KeyOf(Qt::LeftButton)) != nullptr;
+  return IsButtonHeld(PointerOf(event), Qt::LeftButton) && IsMapped(Qt::LeftButton);
+}
+
+bool QtKeyboardMouseEventSimulateHandler::IsMapped(Qt::MouseButton button) const {
+  return buttons_.With(CodeOf(button), CodeOf(button),
+                       [this](const ConfigKey* key) { return FindConfigItem(*key) != nullptr; });
 }
 
 void QtKeyboardMouseEventSimulateHandler::OnMousePress(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), true);
-  ConfigKey key = KeyOf(event->button());
-  ConfigItem* item = FindConfigItem(key);
-  if (event->button() == Qt::LeftButton) return PressLeft(event, item, &key);
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { PressButton(event, key); });
+}
+
+void QtKeyboardMouseEventSimulateHandler::PressButton(QMouseEvent* event, ConfigKey* key) {
+  ConfigItem* item = FindConfigItem(*key);
+  if (event->button() == Qt::LeftButton) return PressLeft(event, item, key);
   EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
   if (!simulator) return;
   if (simulator == RightWalkEventSimulator::GetInstance()) {
     RightWalkEventSimulator::GetInstance()->OnMousePress(item, event);
   } else {
-    simulator->Press(item, &key);
+    simulator->Press(item, key);
   }
 }
 
 void QtKeyboardMouseEventSimulateHandler::OnMouseRelease(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), false);
-  ConfigKey key = KeyOf(event->button());
-  ConfigItem* item = FindConfigItem(key);
-  if (event->button() == Qt::LeftButton) return ReleaseLeft(event, item, &key);
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { ReleaseButton(event, key); });
+}
+
+void QtKeyboardMouseEventSimulateHandler::ReleaseButton(QMouseEvent* event, ConfigKey* key) {
+  ConfigItem* item = FindConfigItem(*key);
+  if (event->button() == Qt::LeftButton) return ReleaseLeft(event, item, key);
   EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
   if (!simulator) return;
   if (simulator == RightWalkEventSimulator::GetInstance()) {
     RightWalkEventSimulator::GetInstance()->OnMouseRelease(item, event);
   } else {
-    simulator->Release(item, &key);
+    simulator->Release(item, key);
   }
 }
 
@@ -90,7 +99,7 @@ void QtKeyboardMouseEventSimulateHandler::OnMouseMove(QMouseEvent* event) {
 void QtKeyboardMouseEventSimulateHandler::PressLeft(QMouseEvent* event, ConfigItem* item, ConfigKey* key) {
   if (IsStaring()) {
     if (IsFire(item)) StaringAndFireEventSimulator::GetInstance()->Press(item, key);
-    return;  // while staring the left button makes no touch of its own
+    return;  // during view control the left button has no contact of its own
   }
   MoveLeftFinger(event);
 }
@@ -109,7 +118,7 @@ void QtKeyboardMouseEventSimulateHandler::ReleaseLeft(QMouseEvent* event, Config
 
 void QtKeyboardMouseEventSimulateHandler::MoveLeftFinger(QMouseEvent* event) {
   const auto finger = FingerOf(event);
-  if (!finger) return;  // the pool is empty: the press is given up
+  if (!finger) return;  // the pool is empty: the press is dropped
   finger->position = RoundedPoint(qt::PlaceOf(*event));
   SendEvent(finger->UpdateLine());
 }
@@ -139,7 +148,7 @@ void QtKeyboardMouseEventSimulateHandler::SetButton(qint64 id, Qt::MouseButton b
   unsigned& held = mouse_buttons_[id];
   const auto bit = static_cast<unsigned>(button);
   held = down ? held | bit : held & ~bit;
-  if (held == 0 && id != 0) mouse_buttons_.remove(id);  // virtual pointers come and go
+  if (held == 0 && id != 0) mouse_buttons_.remove(id);  // virtual pointers are created and deleted
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsButtonHeld(qint64 id, Qt::MouseButton button) const {

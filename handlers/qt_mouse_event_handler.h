@@ -1,4 +1,4 @@
-// The base of what a mouse button or move of the host becomes.
+// The base class of the handlers of mouse buttons and moves.
 #ifndef HANDLERS_QT_MOUSE_EVENT_HANDLER_H_
 #define HANDLERS_QT_MOUSE_EVENT_HANDLER_H_
 
@@ -12,7 +12,7 @@ class QtMouseEventHandler : public EventHandler {
  public:
   void HandleMouseEvent(QMouseEvent* event);
 
-  // One kind of event each.
+  // One function for each kind of event.
   virtual void OnMousePress(QMouseEvent* event) = 0;
   virtual void OnMouseRelease(QMouseEvent* event) = 0;
   virtual void OnMouseMove(QMouseEvent* event) = 0;

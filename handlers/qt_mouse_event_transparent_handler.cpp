@@ -21,17 +21,17 @@ void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interva
   MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
   pointer->AddRelative(dx * factor, dy * factor);
   const qint64 now = Clock::NowMs();
-  if (now - last_relative_send_ms_ < interval_ms) return;  // the next send carries this movement too
+  if (now - last_relative_send_ms_ < interval_ms) return;  // the next line includes this movement too
   last_relative_send_ms_ = now;
   SendEvent(pointer->MoveLine());
 }
 
 void QtMouseEventTransparentHandler::OnMousePress(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->ButtonPressLine(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonPressLine(static_cast<int>(event->button())));
 }
 
 void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(static_cast<int>(event->button())));
 }
 
 void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) {

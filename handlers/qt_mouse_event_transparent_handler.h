@@ -15,9 +15,9 @@ class QtMouseEventTransparentHandler : public QtMouseEventHandler {
     return &instance;
   }
 
-  // Puts the guest's pointer at a window position.
+  // Moves the guest's pointer to a window position.
   void UpdatePosition(int x, int y);
-  // Moves it by relative counts times `factor`. The movement adds up at every call; a command goes out at most once in
+  // Moves it by relative counts times `factor`. Every call adds to the movement; a line is sent at most once in
   // `interval_ms`.
   void OnRelativeInput(int dx, int dy, int interval_ms, double factor);
 

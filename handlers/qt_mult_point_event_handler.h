@@ -8,7 +8,7 @@ class QTouchEvent;
 
 namespace taviinputmanager {
 
-// Where touch events enter; the worker of touch points does everything. Main thread.
+// The entry point of touch events; MultPointSyncWorker does the work. Main thread.
 class QtMultPointEventHandler : public EventHandler {
  public:
   static QtMultPointEventHandler* GetInstance();

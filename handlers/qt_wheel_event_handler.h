@@ -1,4 +1,4 @@
-// The base of what a turn of the host's wheel becomes.
+// The base class of the handlers of wheel events.
 #ifndef HANDLERS_QT_WHEEL_EVENT_HANDLER_H_
 #define HANDLERS_QT_WHEEL_EVENT_HANDLER_H_
 
@@ -10,8 +10,8 @@ namespace taviinputmanager {
 
 class QtWheelEventHandler : public EventHandler {
  public:
-  // `transparent_pointer`: the guest's pointer may be elsewhere than the host's. `delta` and `use_delta` are the
-  // keymap's wheel_delta and wheel_use_delta.
+  // `transparent_pointer`: the guest's pointer may be at another position than the host's. `delta` and `use_delta` are
+  // the keymap's wheel_delta and wheel_use_delta.
   virtual void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) = 0;
 };
 

@@ -26,7 +26,7 @@ using tavikeymapmanager::ConfigKey;
 
 namespace {
 
-constexpr int kNotchTapMs = 50;  // how long the finger of a mapped notch is down
+constexpr int kNotchTapMs = 50;  // how long the contact of a mapped notch is down
 
 ConfigKey KeyOf(const QWheelEvent* event) {
   const int code = qt::TurnOf(*event) > 0 ? tavikeymapmanager::kWheelUpCode : tavikeymapmanager::kWheelDownCode;
@@ -55,7 +55,7 @@ void QtWheelEventSimulateHandler::TurnWithoutKeymap(QWheelEvent* event) {
   QtWheelEventAsyncWorker::GetInstance()->OnWheel(event, config_);
 }
 
-// The guest's own apps take the last two fields as they are: the pointer's position, and no amount.
+// The guest's own apps interpret the last two fields differently: as the pointer's position, without an amount.
 void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
   const QPoint position = RoundedPoint(event->position());
   int x = position.x();
@@ -66,7 +66,7 @@ void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
   SendEvent(guest_command::Wheel(x, y, Truncate(static_cast<double>(direction) * x), y));
 }
 
-// Tells nobody that a mapped device is in use, unlike keys and buttons.
+// Unlike keys and buttons, does not report that a mapped device is in use.
 ConfigItem* QtWheelEventSimulateHandler::FindItem(const ConfigKey& key) const {
   if (!config_) return nullptr;
   for (ConfigItem* item : qAsConst(config_->items)) {

@@ -1,4 +1,4 @@
-// What a turn of the wheel becomes by the keymap.
+// Applies the keymap to wheel events.
 #ifndef HANDLERS_QT_WHEEL_EVENT_SIMULATE_HANDLER_H_
 #define HANDLERS_QT_WHEEL_EVENT_SIMULATE_HANDLER_H_
 
@@ -22,13 +22,13 @@ class QtWheelEventSimulateHandler : public QtWheelEventHandler {
   }
 
   void SetConfig(tavikeymapmanager::KeymapConfig* config) { config_ = config; }
-  // The config is about to go.
+  // The config is about to be deleted.
   void ForgetConfig() { config_ = nullptr; }
-  // A tap of a mapped item blocks the caller for 50 ms. Reads the event alone of its arguments.
+  // A tap of a mapped item blocks the caller for 50 ms. Only the event is used of its arguments.
   void OnWheel(QWheelEvent* event, bool transparent_pointer, double delta, int use_delta) override;
-  // What an item that a notch is mapped to does; null for a type that a wheel cannot work.
+  // The simulator of an item that a notch is mapped to; null for a type that does not work with a wheel.
   static EventSimulator* GetWheelSimulator(const tavikeymapmanager::ConfigItem* item);
-  // Whether a gesture of the wheel is under way; the mouse then moves nothing.
+  // Whether a gesture of the wheel is in progress; mouse moves are then ignored.
   bool IsWheelWorkerRunning() const;
 
  private:
@@ -39,7 +39,7 @@ class QtWheelEventSimulateHandler : public QtWheelEventHandler {
   void TurnWithoutKeymap(QWheelEvent* event);
   void SendPlainWheel(const QWheelEvent* event);
 
-  tavikeymapmanager::KeymapConfig* config_ = nullptr;  // the input manager's
+  tavikeymapmanager::KeymapConfig* config_ = nullptr;  // owned by the input manager
 };
 
 }  // namespace taviinputmanager

@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kUnitsPerNotch = 100;
 
-// Display pixels of the event, or of the guest's own pointer where that may have been left elsewhere. Nothing on a
-// window or display of no size.
+// The event's position in display pixels, or that of the guest's own pointer if that may be elsewhere. Nothing for a
+// window or display without a size.
 std::optional<QPoint> WheelPoint(const QWheelEvent* event, bool transparent_pointer) {
   const MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
   if (transparent_pointer && pointer->HasPosition()) return pointer->GetPosition();
@@ -49,7 +49,7 @@ void QtWheelEventTransparentHandler::OnWheel(QWheelEvent* event, bool transparen
   if (x == kNoPosition || y == kNoPosition) return;  // no display to turn the wheel on
   if (use_delta != 1) return SendEvent(guest_command::Wheel(x, y, direction * kUnitsPerNotch, 0));
   const double amount = direction * delta * kUnitsPerNotch;
-  if (std::isfinite(amount)) SendEvent(guest_command::WheelWithDelta(x, y, amount));  // guests read numbers
+  if (std::isfinite(amount)) SendEvent(guest_command::WheelWithDelta(x, y, amount));  // guests parse numbers
 }
 
 }  // namespace taviinputmanager

@@ -33,19 +33,19 @@ EventSimulator* Get(const ConfigItem* /*item*/) {
   return Simulator::GetInstance();
 }
 
-// The key cancels by itself only where the item says so; else only a fire button in use listens to it.
+// The key cancels by itself only if the item says so; otherwise only a fire button that is held reacts to it.
 EventSimulator* GetForSpellCancel(const ConfigItem* item) {
   const auto* cancel = dynamic_cast<const SpellCancelConfigItem*>(item);
   return cancel && cancel->cancel_immediately ? SpellEventSimulator::GetInstance() : nullptr;
 }
 
-// What a key belongs to.
+// The device that an event comes from.
 enum Source : unsigned { kKeyboardMouse = 1, kJoystick = 2, kWheel = 4 };
 
 struct Row {
   const QString& type;
   EventSimulator* (*get)(const ConfigItem*);
-  unsigned sources;  // whose keys work this type
+  unsigned sources;  // the devices whose keys support this type
 };
 
 const Row kRows[] = {

@@ -1,4 +1,4 @@
-// Which items one key reaches.
+// Which items a single key reaches.
 #ifndef HANDLERS_SINGLE_KEY_ITEM_H_
 #define HANDLERS_SINGLE_KEY_ITEM_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// Whether `item` answers to its key alone: a chord does not.
+// Whether `item` matches its key alone, unlike a chord.
 inline bool IsSingleKeyItem(const tavikeymapmanager::ConfigItem* item) {
   const auto* composable = dynamic_cast<const tavikeymapmanager::ComposableConfigItem*>(item);
   return !composable || !IsKeySet(composable->first_key);

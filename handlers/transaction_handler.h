@@ -8,8 +8,8 @@
 
 namespace taviinputmanager {
 
-// The key does not count as held: the release always follows, 8 ms after the press. A second click within that time
-// sends its press and puts the release off; one release then serves both, on the later display. Main thread.
+// The key is not recorded as held: the release always follows, 8 ms after the press. A second click within that time
+// sends its press and delays the release; one release then serves both, on the later display. Main thread.
 //
 //   click         8 ms
 //   press ------- release
@@ -22,7 +22,7 @@ class TransactionHandler : public EventHandler {
  public:
   static TransactionHandler* GetInstance();
 
-  // Goes to `display`, whichever live input goes to.
+  // Goes to `display`, regardless of the current display.
   void doBackAction(int display);
 
  public Q_SLOTS:

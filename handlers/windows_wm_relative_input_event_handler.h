@@ -1,4 +1,4 @@
-// The ways of relative mouse counts, as the host takes them from its window messages.
+// Distributes the relative mouse counts that the host gets from its window messages.
 #ifndef HANDLERS_WINDOWS_WM_RELATIVE_INPUT_EVENT_HANDLER_H_
 #define HANDLERS_WINDOWS_WM_RELATIVE_INPUT_EVENT_HANDLER_H_
 
@@ -6,7 +6,11 @@
 
 namespace taviinputmanager {
 
-// Keeps nothing. Main thread.
+class InputStatusManager;
+class SpellEventSimulator;
+class StaringAndFireEventSimulator;
+
+// Stateless. Main thread.
 class WindowsWmRelativeInputEventHandler : public EventHandler {
  public:
   static WindowsWmRelativeInputEventHandler* GetInstance() {
@@ -14,13 +18,18 @@ class WindowsWmRelativeInputEventHandler : public EventHandler {
     return &instance;
   }
 
-  // To the guest's own pointer, unless view control or observing is on; then to a cast in progress, and else to the
-  // view. `interval_ms`, the least time between sends, and `factor`, display pixels a count, are the keymap's settings
-  // for the pointer; casts and views have those of their items.
+  // To the guest's own pointer, unless view control or observing is on; then to a cast in progress, otherwise to the
+  // view. `interval_ms`, the minimum time between lines, and `factor`, display pixels per count, are the keymap's
+  // settings for the pointer; casts and views use those of their items.
   void OnRelativeInput(int dx, int dy, int interval_ms, double factor);
 
  private:
   WindowsWmRelativeInputEventHandler();
+
+  // The singletons.
+  const InputStatusManager* const status_;
+  SpellEventSimulator* const spell_;
+  StaringAndFireEventSimulator* const view_;
 };
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// The item classes of the contract, and the keys that each is matched by.
+// The item classes of the contract, and the keys that trigger each.
 #ifndef KEYMAP_ITEM_CLASSES_H_
 #define KEYMAP_ITEM_CLASSES_H_
 

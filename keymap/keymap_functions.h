@@ -23,8 +23,8 @@ TAVI_KEYMAP_EXPORT ConfigKey CreateConfigKey(QString device, int virtual_key, in
 // Sets `text` from the key's codes. A joystick key has none and keeps its text. Null is ignored.
 TAVI_KEYMAP_EXPORT void SetTextForConfigKey(ConfigKey* key);
 
-// Whether `configured` alone, or the chord (`configured`, `pressed`), triggers an item of `config`, with its keys as
-// they are now. False for null.
+// Whether `configured` alone, or the chord (`configured`, `pressed`), triggers an item of `config`, with its current
+// keys. False for null.
 TAVI_KEYMAP_EXPORT bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed);
 // The code of an event in the macro language: a key's native scan code, a button's Qt::MouseButton value, otherwise -1.
 TAVI_KEYMAP_EXPORT int getMacroConfigKeyCode(QEvent* event);

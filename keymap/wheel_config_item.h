@@ -1,4 +1,4 @@
-// Type "Wheel": a key that slides one contact as a wheel would.
+// Type "Wheel": a key that swipes with one contact, like a wheel.
 #ifndef KEYMAP_WHEEL_CONFIG_ITEM_H_
 #define KEYMAP_WHEEL_CONFIG_ITEM_H_
 

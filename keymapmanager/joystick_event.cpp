@@ -4,7 +4,7 @@ namespace tavikeymapmanager {
 
 namespace {
 
-// Registered, so that no event type of the host or of another library is the same.
+// Registered, so that no event type of the host or of another library has the same number.
 QEvent::Type Register() { return static_cast<QEvent::Type>(QEvent::registerEventType()); }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace tavikeymapmanager {
 
 bool IsKeyMatch(const KeymapConfig* config, const ConfigKey* configured, const ConfigKey* pressed) {
   if (config == nullptr || configured == nullptr || pressed == nullptr) return false;
-  static ItemIndex index;  // of the list asked for last
+  static ItemIndex index;  // of the list that was last searched
   index.Follow(config->items);
   return index.IsMatch(*configured, *pressed);
 }

@@ -1,4 +1,4 @@
-// Which keys a keymap takes.
+// Which keys a keymap uses.
 #ifndef KEYMAPMANAGER_KEY_MATCH_H_
 #define KEYMAPMANAGER_KEY_MATCH_H_
 
@@ -7,7 +7,7 @@ namespace tavikeymapmanager {
 struct ConfigKey;
 struct KeymapConfig;
 
-// What isConfigKeyMatch does.
+// The implementation of isConfigKeyMatch.
 bool IsKeyMatch(const KeymapConfig* config, const ConfigKey* configured, const ConfigKey* pressed);
 
 }  // namespace tavikeymapmanager

@@ -24,7 +24,7 @@ std::optional<ConfigKey> ScanKeyFromName(const QString& name) {
   return KeyIndex::Get().KeyboardKey(scancode);
 }
 
-// One button, or the two of a pair: the one that is held, "+", the one that is pressed. Empty for anything else.
+// One button, or the two of a pair: the held one, "+", the pressed one. Empty for anything else.
 QStringList PadParts(const QString& text) {
   static const QRegularExpression form(QStringLiteral("\\A([^\\s+]+)(?: ?\\+ ?([^\\s+]+))?\\z"),
                                        QRegularExpression::UseUnicodePropertiesOption);
@@ -42,8 +42,8 @@ std::optional<ConfigKey> PadKeyFromName(const QString& name) {
   return JoystickKey(parts.join(QLatin1Char('+')));
 }
 
-// A key that is told from its neighbours by a part of its name is meant only where each part comes near: not `Wheel Up`
-// by `Scroll Up`, nor `F24` by `F25`.
+// A key that differs from its neighbours in one part of its name is suggested only if each part is close: not `Wheel
+// Up` for `Scroll Up`, nor `F24` for `F25`.
 bool MayBeMeant(const QString& word, const QString& name) {
   static const QRegularExpression no_digits(QStringLiteral("[^0-9]"));
   if (QString(word).remove(no_digits) != QString(name).remove(no_digits)) return false;

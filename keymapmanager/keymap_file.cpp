@@ -18,7 +18,7 @@ LoadResult DefaultResult() {
   return result;
 }
 
-// The keymap of the system's own apps: what the keymap takes nowhere else is typed and steered as on any computer.
+// The keymap of the system's own apps: what it does not map is typed and moved as on any computer.
 LoadResult SystemResult() {
   LoadResult result = DefaultResult();
   result.config->settings->keyboard_transparent = true;
@@ -26,9 +26,8 @@ LoadResult SystemResult() {
   return result;
 }
 
-// A pipe keeps its reader waiting, and could be read once only; a device may have no end.
-// Why what is there is no file to read: a pipe keeps its reader waiting, a device may have no end. Empty for a file,
-// and where there is nothing.
+// Why this is not a readable file: it is a folder; or it is a pipe, which blocks its reader and can be read only once,
+// or a device, which may be endless. Empty for a file, and if nothing exists.
 QString NoFileProblem(const QString& path) {
   const QFileInfo info(path);
   if (info.isDir()) return QStringLiteral("it is a folder");
@@ -52,7 +51,7 @@ LoadResult ReadKeymapFile(const QString& path) {
   QFile file(path);
   if (problem.isEmpty() && !file.open(QIODevice::ReadOnly)) problem = file.errorString();
   if (!problem.isEmpty()) return FailedResult(path, {}, QStringLiteral("cannot be read: %1").arg(problem));
-  // One byte more than allowed is enough to see that it is too long.
+  // One byte more than allowed is enough to see that the file is too long.
   return ReadKeymapText(file.read(kMostKeymapBytes + 1), path);
 }
 
@@ -72,7 +71,7 @@ LoadResult ReadKeymapText(const QByteArray& text, const QString& file) {
 
 QString FormatDiagnostic(const Diagnostic& diagnostic) {
   const bool is_error = diagnostic.severity == Diagnostic::Severity::kError;
-  // Put together, not filled in: a path or message may hold what looks like a place marker.
+  // Concatenated instead of formatted: a path or message may contain a placeholder.
   const QString place = QLatin1Char(':') + QString::number(diagnostic.line) + QLatin1Char(':') +
                         QString::number(diagnostic.column) + QStringLiteral(": ");
   return diagnostic.file + place + (is_error ? QStringLiteral("error: ") : QStringLiteral("warning: ")) +

@@ -50,7 +50,7 @@ struct TAVI_KEYMAP_RECORD LoadResult {
   }
 
   std::unique_ptr<KeymapConfig> config;  // never null, both settings records set
-  QString name;                          // the keymap's own name, for people
+  QString name;                          // the keymap's own name, for display
   QString package;                       // the app that the keymap is for, as Android names it; empty for any
   QVector<ItemSource> item_sources;      // one for each of config->items, in the same order
   QVector<Diagnostic> diagnostics;       // in the order of the file

@@ -15,12 +15,13 @@ bool IsSpace(char byte) { return byte == ' ' || byte == '\t' || byte == '\r' || 
 class Outliner {
  public:
   explicit Outliner(const QByteArray& text) : text_(text) {
-    bytes_.reserve(text.size() + 1);
-    for (int i = text.startsWith(kByteOrderMark) ? 3 : 0; i < text.size(); ++i) {
+    const int end = static_cast<int>(text.size());
+    bytes_.reserve(end + 1);
+    for (int i = text.startsWith(kByteOrderMark) ? 3 : 0; i < end; ++i) {
       const bool is_continuation = (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
       if (!is_continuation) bytes_.append(i);
     }
-    bytes_.append(text.size());
+    bytes_.append(end);
   }
 
   RecordOutline Record(const YamlNode& node) const {
@@ -31,7 +32,7 @@ class Outliner {
     return record;
   }
 
-  // The dash in front of an entry: behind what stands before it there are only spaces and comments.
+  // The dash after `position`, which only spaces and comments precede.
   int DashBehind(int position) const {
     while (position < text_.size() && (IsSpace(text_[position]) || text_[position] == '#')) {
       if (text_[position] == '#') {
@@ -71,7 +72,7 @@ class Outliner {
   }
 
   const QByteArray& text_;
-  QVector<int> bytes_;  // where each character begins, and the end
+  QVector<int> bytes_;  // the start of each character, and the end
 };
 
 bool IsOtherEncoding(const QByteArray& text) { return text.startsWith("\xFF\xFE") || text.startsWith("\xFE\xFF"); }

@@ -54,7 +54,7 @@ void CopyKeys(const SwipeholdConfigItem& from, SwipeholdConfigItem* to) {
   to->key_left = from.key_left;
 }
 
-// The inner walk takes over keys that are held for the ordinary one, and its finger is already on the skill button.
+// The inner walk takes over keys that are held for the ordinary one, and its contact is already on the skill button.
 void CompleteInnerWalk(const YamlNode& node, const SwipeholdConfigItem* walk, SpellConfigItem* spell) {
   SwipeholdConfigItem& inner = spell->inner_swipehold;
   if (!WritesAny(node, {QStringLiteral("point")})) {
@@ -102,7 +102,7 @@ LoadResult KeymapReader::Read(const YamlNode& root) {
                                        .arg(TopFields().join(QStringLiteral(", ")), Describe(root)));
   }
   if (diagnostics_->ErrorCount() > 0) {
-    result.config = DefaultConfig();  // nothing is half-loaded
+    result.config = DefaultConfig();  // no file is loaded in part
   } else {
     Store(&items_, &result);
   }
@@ -139,7 +139,7 @@ void KeymapReader::ReportDuplicates(const YamlNode& node) {
   QSet<QString> names;
   for (const YamlNode& key : node.keys) {
     if (names.contains(key.text)) {
-      diagnostics_->Error(key.span, QStringLiteral("'%1' is written a second time").arg(Shown(key.text)));
+      diagnostics_->Error(key.span, QStringLiteral("'%1' occurs twice").arg(Shown(key.text)));
     }
     names += key.text;
   }
@@ -149,7 +149,7 @@ void KeymapReader::ReportDuplicates(const YamlNode& node) {
 void KeymapReader::ReadFormat(const YamlNode& root) {
   const YamlNode* format = FindValue(root, kFormatField);
   if (format == nullptr) {
-    diagnostics_->Error(root.span, QStringLiteral("a keymap without 'format: %1'").arg(kFormat));
+    diagnostics_->Error(root.span, QStringLiteral("the keymap has no 'format: %1'").arg(kFormat));
   } else if (NumberOf(*format) != kFormat) {
     diagnostics_->Error(format->span,
                         QStringLiteral("'format': expected %1, got %2").arg(kFormat).arg(Describe(*format)));
@@ -168,7 +168,7 @@ void KeymapReader::ReadText(const QString& field, const YamlNode& node, QString*
 }
 
 void KeymapReader::ReadSettings(const RecordTable& table, const YamlNode& node, const RecordRef& record) {
-  if (IsNull(node)) return;  // every field is a comment
+  if (IsNull(node)) return;  // all fields are commented out
   if (node.kind == YamlNode::Kind::kMapping) {
     records_.Read(table, node, {}, record);
   } else {
@@ -191,7 +191,7 @@ void KeymapReader::ReadItems(const YamlNode& node) {
 void KeymapReader::ReadItem(const YamlNode& node) {
   const int errors_before = diagnostics_->ErrorCount();
   const RecordTable* table = ReadType(node);
-  if (table == nullptr) return;  // without a type there is nothing to read the other fields by
+  if (table == nullptr) return;  // without a type the other fields have no meaning
   SourcedItem sourced{table->create(), table, &node, {}, false};
   records_.Read(*table, node, {kTypeField, kLabelField}, sourced.item.get());
   if (const YamlNode* label = FindValue(node, kLabelField)) ReadLabel(*label, &sourced.label);
@@ -207,7 +207,7 @@ const RecordTable* KeymapReader::ReadType(const YamlNode& node) {
   }
   const YamlNode* type = FindValue(node, kTypeField);
   if (type == nullptr) {
-    diagnostics_->Error(node.span, QStringLiteral("an item without 'type'"));
+    diagnostics_->Error(node.span, QStringLiteral("the item has no 'type'"));
     return nullptr;
   }
   const auto text = TextOf(*type);

@@ -1,4 +1,4 @@
-// The document of a keymap file into a config.
+// Converts the document of a keymap file to a config.
 #ifndef KEYMAPMANAGER_KEYMAP_READER_H_
 #define KEYMAPMANAGER_KEYMAP_READER_H_
 
@@ -19,8 +19,8 @@ class KeymapReader {
  public:
   explicit KeymapReader(DiagnosticList* diagnostics) : diagnostics_(diagnostics), records_(diagnostics) {}
 
-  // Reads the whole document and reports all that is wrong with it. The result has no diagnostics of its own, and no
-  // items when there was an error.
+  // Reads the whole document and reports all its errors. The result has no diagnostics of its own, and no items if
+  // there was an error.
   LoadResult Read(const YamlNode& root);
 
  private:

@@ -13,7 +13,7 @@ namespace tavikeymapmanager {
 
 namespace {
 
-// Short spellings: a schema is written as text, not as statements.
+// Short names, so that the schema reads like text.
 QString Q(const char* text) { return QString::fromUtf8(text); }
 QJsonObject OfType(const char* type) { return {{Q("type"), Q(type)}}; }
 QJsonObject Reference(const QString& name) { return {{Q("$ref"), Q("#/definitions/") + name}}; }
@@ -43,7 +43,7 @@ QJsonObject OneField(const char* name, const QJsonObject& value) {
 
 QJsonObject PairIn(const Range& range) { return ListOfExactly(InRange("number", range), 2); }
 
-// For regular expressions as JSON Schema has them.
+// In the syntax of regular expressions of JSON Schema.
 QString Escaped(const QString& text) {
   QString escaped;
   for (const QChar character : text) {
@@ -53,7 +53,7 @@ QString Escaped(const QString& text) {
   return escaped;
 }
 
-// Names of keyboard and mouse, other spellings and numbers included.
+// Names of keyboard and mouse, including aliases and numbers.
 QString ButtonPattern() {
   QStringList names;
   for (const QString& name : AllKeyNames()) {
@@ -106,7 +106,7 @@ QJsonObject ValueSchema(const Field& field) {
   return {};
 }
 
-// What a record has where a file writes nothing; undefined where that is nothing that a file could write.
+// A field's default; undefined if a file cannot contain it.
 QJsonValue DefaultOf(const Field& field, const RecordRef& record) {
   const FieldTarget target = field.target(record);
   if (const auto* flag = std::get_if<bool*>(&target)) return **flag;
@@ -156,7 +156,7 @@ QJsonObject ItemSchema(const RecordTable& table) {
   return schema;
 }
 
-// Chooses the schema of an item by its type.
+// Selects the schema of an item by its type.
 QJsonObject AnyItemSchema() {
   QJsonArray choices;
   for (const QString& type : ItemTypes()) {
@@ -189,7 +189,7 @@ QJsonObject OrNull(const QJsonObject& schema) { return AnyOf({schema, OfType("nu
 
 QJsonObject FileSchema() {
   const QJsonObject format{{Q("const"), 1}, {Q("description"), Q("the version of the format")}};
-  const QJsonObject name{{Q("type"), Q("string")}, {Q("description"), Q("the keymap's name, for people")}};
+  const QJsonObject name{{Q("type"), Q("string")}, {Q("description"), Q("the keymap's name, for display")}};
   const QJsonObject package{{Q("type"), Q("string")},
                             {Q("description"), Q("the guest's app that the keymap is for, as Android names it")}};
   const QJsonObject properties{{Q("format"), format},

@@ -1,7 +1,8 @@
-// A list of actions that grows as time passes.
+// A list of actions with their times.
 #ifndef RECORD_ACTION_TRACK_H_
 #define RECORD_ACTION_TRACK_H_
 
+#include <memory>
 #include <utility>
 
 #include <QList>
@@ -11,7 +12,7 @@
 
 namespace taviinputmanager {
 
-// Each action's timing is the gap to the one before it, from the low 32 bits of both times.
+// Each action's timing is the time since the previous one, from the low 32 bits of both times.
 class ActionTrack {
  public:
   ActionTrack();
@@ -19,22 +20,23 @@ class ActionTrack {
   ActionTrack& operator=(const ActionTrack&) = delete;
   ~ActionTrack();
 
-  // Empty again, and the gap before the first action begins now.
+  // Clears the list; the time before the first action starts now.
   void Start();
-  // `action` as it is, but for its timing.
+  // Adds `action` unchanged, except its timing.
   void Add(RecordAction action);
+  void Add(std::unique_ptr<RecordAction> action);
   void Clear();
-  // What was recorded, which is the caller's from then on; empty again.
+  // Returns the recording, which the caller then owns; the list is empty afterwards.
   QList<RecordAction*> Take() { return std::exchange(actions_, {}); }
-  // Goes on as if the time since `pause_time`, milliseconds since the epoch, had not passed.
+  // Continues as if the time since `pause_time`, milliseconds since the epoch, had not passed.
   void SkipSince(qint64 pause_time);
 
   const QList<RecordAction*>& Actions() const { return actions_; }
 
  private:
-  qint64 last_time_;              // of the last action or of the start, milliseconds since the epoch
+  qint64 last_time_;              // time of the last action or of the start, milliseconds since the epoch
   QList<RecordAction*> actions_;  // owned
-  SharedTexts texts_;             // a long recording has few words
+  SharedTexts texts_;             // a long recording has few different words
 };
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// From lines for the guest to actions of a record.
+// Converts lines for the guest to actions of a record.
 #ifndef RECORD_COMMAND_TRANSLATION_H_
 #define RECORD_COMMAND_TRANSLATION_H_
 
@@ -10,10 +10,10 @@ namespace taviinputmanager {
 
 struct RecordAction;
 
-// All take a line without its newline, fill all fields of `action` but its timing, and return false for a line that no
-// record holds. Touch coordinates become fractions of the display of the moment; they are read as ints.
+// All of them take a line without its newline, set all fields of `action` except its timing, and return false for a
+// line that is not recorded. Touch coordinates, which are read as ints, become fractions of the current display.
 bool TranslateEventCommand(const QString& command, RecordAction* action);
-// The same of a line that guest_command has put together, whose numbers have one form: no text is made of it.
+// The same for a line from guest_command, whose numbers have only one form: it is not converted to a text.
 bool TranslateEventLine(QLatin1String line, RecordAction* action);
 bool TranslateTextCommand(const QString& command, RecordAction* action);
 

@@ -1,4 +1,4 @@
-// Keeping a file as it is while it is replayed.
+// Protects a file from changes while it is replayed.
 #ifndef RECORD_FILE_HOLD_H_
 #define RECORD_FILE_HOLD_H_
 
@@ -8,13 +8,13 @@ class QString;
 
 namespace taviinputmanager {
 
-// An open file of the system.
+// An open file of the operating system.
 using FileHandle = qintptr;
 constexpr FileHandle kNoFile = -1;
 
-// Opens a file for reading in a way that keeps writers and deletion away as far as the platform goes: on Windows nobody
-// can open it for writing or delete it; elsewhere it carries a shared lock, which those heed who ask for locks. kNoFile
-// when it cannot be opened.
+// Opens a file for reading and prevents writing and deletion as far as the platform supports it: on Windows nobody can
+// open it for writing or delete it; elsewhere it has a shared lock, which only programs that use locks respect. kNoFile
+// if it cannot be opened.
 FileHandle HoldFile(const QString& path);
 void ReleaseFile(FileHandle file);
 

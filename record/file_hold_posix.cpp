@@ -12,7 +12,7 @@ namespace taviinputmanager {
 FileHandle HoldFile(const QString& path) {
   const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return kNoFile;
-  flock(file, LOCK_SH | LOCK_NB);  // someone else's exclusive lock does not keep a replay from its record
+  flock(file, LOCK_SH | LOCK_NB);  // an exclusive lock of another program does not prevent a replay
   return file;
 }
 

@@ -17,7 +17,7 @@ namespace taviinputmanager {
 namespace {
 
 constexpr qint64 kChunkBytes = 256 * 1024;
-constexpr int kCopyLetters = 6;  // at random, of the name of a copy
+constexpr int kCopyLetters = 6;  // random letters in the name of a copy
 
 QString CopyNameStart(const QString& file) { return file + QLatin1String(".tavi-copy-"); }
 
@@ -27,7 +27,7 @@ bool WriteAll(QFileDevice* file, const FileContent& content) {
   return content(file) && file->flush() && SyncFile(*file);
 }
 
-// Somebody else may write the file at the same time: what is longer then is not what was to be written.
+// Another program may write the file at the same time: excess content is then not ours.
 Written WriteInPlace(const QString& path, const FileContent& content) {
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return Written::kRefused;
@@ -38,7 +38,7 @@ FileContent ContentOf(const QByteArray& bytes) {
   return [bytes](QIODevice* target) { return target->write(bytes) == bytes.size(); };
 }
 
-// Of what can be read again.
+// For files that can be read again.
 FileContent ContentOf(QIODevice* source) {
   return [source](QIODevice* target) {
     QByteArray chunk;
@@ -50,13 +50,13 @@ FileContent ContentOf(QIODevice* source) {
   };
 }
 
-// A file that is write-protected or held by someone refuses here, as it would refuse to be written in place. Opening it
-// so changes nothing.
+// Opening fails for a file that is write-protected or held by another program, like writing it in place would. Opening
+// it in this mode changes nothing.
 bool CanBeOpenedForWriting(const QString& path) {
   return QFile(path).open(QIODevice::Append | QIODevice::ExistingOnly);
 }
 
-// A file has no name before it is whole, where the system knows such files; asking for the name gives it one.
+// On systems with unnamed files, the file has no name until it is complete; asking for the name creates one.
 Written WriteCopy(QTemporaryFile* copy, const FileContent& content) {
   if (!copy->open()) return Written::kRefused;
   ClaimFile(*copy);
@@ -67,7 +67,7 @@ Written WriteCopy(QTemporaryFile* copy, const FileContent& content) {
   return Written::kWhole;
 }
 
-// Copies that stayed when their programs died; not those of somebody who is writing the same file now.
+// Removes copies left by programs that were killed, but not those of programs that are writing the same file now.
 void RemoveLeftCopies(const QString& path) {
   const QFileInfo file(path);
   const QDir folder = file.absoluteDir();
@@ -79,12 +79,12 @@ void RemoveLeftCopies(const QString& path) {
   }
 }
 
-// The last way to a whole file: it becomes another one then. Where even that is barred, the copy stays beside it.
+// The last resort: the file is replaced by another one. If even that fails, the copy stays beside it.
 void MoveToItsPlace(std::unique_ptr<QTemporaryFile> copy, const QString& path) {
   const QString name = copy->fileName();
   copy->setPermissions(QFile::permissions(path));
   copy->setAutoRemove(false);
-  copy.reset();  // an open file cannot be moved everywhere
+  copy.reset();  // some systems do not move open files
   if (MoveOver(name, path)) SyncName(path);
 }
 
@@ -106,9 +106,10 @@ bool WriteOver(const QString& path, const FileContent& content) {
 bool MakeFile(const QString& path, const FileContent& content) {
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return WriteInPlace(path, content) != Written::kRefused;
-  // A part is no content: without a commit it is dropped. (QSaveFile by itself takes a short write for a whole one.)
+  // A partial write is an error: without a commit it is dropped. (QSaveFile alone takes a short write for a complete
+  // one.)
   if (!content(&file) || !file.flush()) return true;
-  // Only the move tells that there can be no such name.
+  // Only the rename shows whether the name is possible.
   if (!file.commit()) return WriteInPlace(path, content) != Written::kRefused;
   const QString made = QFileInfo(path).canonicalFilePath();
   SyncName(made);

@@ -10,27 +10,28 @@ class QString;
 
 namespace taviinputmanager {
 
-// Writes the content of a file. False when it cannot be written to its end. Asked again, it writes the same.
+// Writes the content of a file. Returns false if it cannot be written completely. If called again, it writes the same
+// content.
 using FileContent = std::function<bool(QIODevice* target)>;
 
-// Makes this the content of the file. A new file is made out of sight and moved to its place. One that is there
-// stays the same file, for whoever holds it open, and is written over; whatever happens meanwhile, to the program or to
-// the machine, the file is whole, or a whole copy is beside it:
+// Replaces the content of a file. A new file is created under another name and moved to its target. An existing file
+// remains the same file, for programs that have it open, and is overwritten; whatever happens to the program or the
+// machine meanwhile, either the file is complete, or a complete copy is beside it:
 //
 //   copy complete, on the disk    named "FILE.tavi-copy-" and six letters, for its owner alone
 //   file cut, written             only the copy is whole
 //   file on the disk              copy removed, and with it those that programs left which died here
 //
 // Every call has a copy of its own, so that several processes and threads can write the same file: one of them is last.
-// Of a link, all this holds for the file behind it. A full disk leaves what was there. Where no copy can be made, as in
-// a folder that is write-protected, and for what is no plain file, it is written in place alone.
+// A link is followed to its target. On a full disk, the existing file stays unchanged. If no copy can be made, for
+// example in a write-protected folder, and for targets that are not plain files, the target is only written in place.
 //
-// The content may be made from files, this one among them: where the file is cut, the content has been asked already,
-// and the copy is what is written. Where there is no copy, it is in memory then. What fails in making it leaves what
-// was there, as a full disk does.
+// The content may be read from other files, or from this one: when the file is truncated, the content has been produced
+// already, and the copy is what is written. Without a copy, it is in memory then. An error in producing it leaves the
+// existing file unchanged, like a full disk.
 //
-// False, and nothing changed, when the file cannot be opened for writing. What becomes of the writing itself is not
-// told.
+// Returns false and changes nothing if the file cannot be opened for writing. Errors of the writing itself are not
+// reported.
 bool ReplaceFile(const QString& path, const FileContent& content);
 bool ReplaceFile(const QString& path, const QByteArray& bytes);
 

@@ -1,4 +1,4 @@
-// Files on the disk itself, and not only in the system's memory.
+// Makes sure that files are on the disk, not only in memory.
 #ifndef RECORD_FILE_SYNC_H_
 #define RECORD_FILE_SYNC_H_
 
@@ -7,19 +7,20 @@ class QString;
 
 namespace taviinputmanager {
 
-// Puts the content of a file that is open for writing onto the disk. False when the disk did not take it; a file that
-// is on no disk, such as a pipe, has nothing to put there.
+// Flushes the content of a file that is open for writing to the disk. False if the disk did not accept it; for a file
+// that is not on a disk, such as a pipe, it does nothing.
 bool SyncFile(const QFileDevice& file);
-// The same for the name of a file, which is in its folder's content. Nothing on Windows, where the system does it.
+// The same for the name of a file, which belongs to the content of its folder. Does nothing on Windows, where the
+// system does it.
 void SyncName(const QString& path);
 
-// Keeps the file from RemoveUnclaimed, in all processes, for as long as it is open: at the latest until the process
-// ends, however it does.
+// Protects the file from RemoveUnclaimed, in all processes, as long as it is open: at the latest until the process
+// ends, in whatever way.
 void ClaimFile(const QFileDevice& file);
-// Removes a file that nobody claims. Leaves one of which that cannot be told.
+// Removes a file that no process claims. Leaves a file for which that is unknown.
 void RemoveUnclaimed(const QString& path);
 
-// Gives a file another name, in place of a file that has it. False, and nothing changed, where that cannot be.
+// Renames a file, replacing a file with that name. Returns false and changes nothing if that fails.
 bool MoveOver(const QString& from, const QString& to);
 
 }  // namespace taviinputmanager

@@ -16,7 +16,7 @@ bool SyncFile(const QFileDevice& file) { return fsync(file.handle()) == 0 || err
 void SyncName(const QString& path) {
   const QByteArray name = QFile::encodeName(QFileInfo(path).absolutePath());
   const int folder = open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) return;  // one that may be written but not read
+  if (folder < 0) return;  // a file may be writable but not readable
   fsync(folder);
   close(folder);
 }

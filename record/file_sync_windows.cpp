@@ -9,12 +9,12 @@
 namespace taviinputmanager {
 namespace {
 
-// `native` lives as long as the pointer.
+// `native` must exist as long as the pointer is used.
 const wchar_t* Wide(const QString& native) { return reinterpret_cast<const wchar_t*>(native.utf16()); }
 
 }  // namespace
 
-// By a handle of its own, which reaches what was written through any.
+// Through a handle of its own, which flushes what was written through any handle.
 bool SyncFile(const QFileDevice& file) {
   const QString native = QDir::toNativeSeparators(file.fileName());
   const HANDLE handle = CreateFileW(Wide(native), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
@@ -27,7 +27,7 @@ bool SyncFile(const QFileDevice& file) {
 
 void SyncName(const QString& /*path*/) {}
 
-// A file that is open can be deleted only where all who have it open allow it, and ours do not.
+// An open file can be deleted only if all its handles allow it, and ours do not.
 void ClaimFile(const QFileDevice& /*file*/) {}
 
 void RemoveUnclaimed(const QString& path) { DeleteFileW(Wide(QDir::toNativeSeparators(path))); }

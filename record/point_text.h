@@ -1,4 +1,4 @@
-// A point as record files hold it: "(0.25,0.5)".
+// A point in the format of record files: "(0.25,0.5)".
 #ifndef RECORD_POINT_TEXT_H_
 #define RECORD_POINT_TEXT_H_
 
@@ -11,10 +11,10 @@ class LineBuffer;
 
 // Fractions of the display (of the host's window in captured macros), six significant digits, no blanks.
 QString WritePoint(const QPointF& point);
-// The same, behind what stands in `text`.
+// Appends it to `text`.
 void WritePoint(const QPointF& point, LineBuffer* text);
 
-// What is no point, or none of two numbers, gives the null point. A number that cannot be read is 0.
+// Text that is not a point of two numbers gives the null point. A number that cannot be parsed is 0.
 QPointF ReadPoint(const QString& text);
 
 }  // namespace taviinputmanager

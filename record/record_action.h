@@ -6,9 +6,9 @@
 
 namespace taviinputmanager {
 
-// What happened, and how long after the step before it. An action without a type ends a replay.
+// What happened, and how long after the previous step. An action without a type ends a replay.
 struct RecordAction {
-  int timing = 0;  // milliseconds at normal speed; of the first action, since the start
+  int timing = 0;  // milliseconds at normal speed; for the first action, since the start
   QString type;    // the family; see record_format.h
   QString data;    // what to do
   QString extra1;

@@ -1,4 +1,4 @@
-// What a replay walks: a sequence of actions that knows its repeats, its pauses and its speed.
+// A sequence of actions with its repeats, its pauses and its speed, as a replay plays it.
 #ifndef RECORD_RECORD_ACTIONS_H_
 #define RECORD_RECORD_ACTIONS_H_
 
@@ -8,12 +8,12 @@ namespace taviinputmanager {
 
 struct RecordAction;
 
-// The base of both shapes of a record. First starts over and gives the first action, Next each further one; both give
-// the milliseconds to wait before it, and false when there is none. A pause comes as an action of type "timer".
+// The base class of both kinds of record. First starts again and returns the first action, Next each further one; both
+// set the milliseconds to wait before it, and return false if there is none. A pause is an action of type "timer".
 //
-// Pauses and timings are divided by the speed and truncated, one by one: no rest is carried on.
+// Pauses and timings are divided by the speed and truncated, one by one: remainders are not carried over.
 //
-// Threads: made on the main thread, then used by one replay on that one's thread.
+// Threads: created on the main thread, then used by one replay on its thread.
 class RecordActions {
  public:
   RecordActions() = default;
@@ -25,19 +25,19 @@ class RecordActions {
   virtual bool Next(RecordAction* action, int* delay);
   // Whether there is nothing to play at all.
   virtual bool IsEmpty() const { return false; }
-  // After a false: whether that was the end. Else an item had nothing to play, and Next goes on behind it.
+  // After a false: whether that was the end. Otherwise an item had nothing to play, and Next continues after it.
   virtual bool IsThrough() const { return true; }
 
-  // The pause between this repeat and the next; false when it was given already, or when there is none. Other fields of
-  // the action than its type stay.
+  // The pause between this repeat and the next; false if it was given already, or if there is none. Only the type of
+  // the action is set.
   bool RepeatDelay(RecordAction* action, int* delay);
-  // Milliseconds at normal speed to milliseconds at `speed`.
+  // Converts milliseconds at normal speed to milliseconds at `speed`.
   int AtSpeed(int ms) const;
 
-  int repeat_index = 1;      // the repeat that is playing, from 1
-  int delay_issued_for = 0;  // the repeat after which a pause was given last
+  int repeat_index = 1;      // the current repeat, from 1
+  int delay_issued_for = 0;  // the repeat after which the last pause was given
   int action_index = 0;
-  double speed = 1.0;  // of this level and all above it; 0 and below play at normal speed
+  double speed = 1.0;  // of this level multiplied by all above it; 0 and below mean normal speed
   MergeParam control;
 };
 

@@ -42,22 +42,22 @@ void TakeWide(const QJsonValue& value, Wide* field) {
   if (value.isDouble()) *field = TruncateTo<Wide>(value.toDouble());
 }
 
-// The way of files as they are written; what is left is the library's.
+// Reads files in the usual format; the library reads all others.
 bool ReadOrdinary(const QString& path, RecordReader::Keep keep, RecordContents* contents) {
   QFile file(path);
   if (!OpenPlainFile(&file)) return false;
   return RecordReader(&file, keep).Read(contents);
 }
 
-// The data of the first action, however deep; empty where there is none.
+// The data of the first action, at any depth; empty if there is none.
 QString FirstActionData(const RecordActions* actions) {
   while (const auto* merged = dynamic_cast<const MergeRecordActions*>(actions)) actions = merged->items.first().get();
   const auto* single = static_cast<const SingleRecordActions*>(actions);
   return single && !single->IsEmpty() ? single->actions.first()->data : QString();
 }
 
-// The text that the start marker is in: the data of the first action, however deep. Looks on for ever where the first
-// list has none.
+// The text that contains the start marker: the data of the first action, at any depth. Loops forever if the first list
+// has none.
 QString FirstActionData(QJsonObject json) {
   QString data;
   while (data.isEmpty()) {
@@ -142,7 +142,7 @@ std::shared_ptr<SingleRecordActions> RecordFileUtils::ReadSingleRecordActions(co
   const auto single = std::make_shared<SingleRecordActions>();
   const QJsonArray array = json.value(kActions).toArray();
   single->actions.reserve(array.size());
-  QSet<QString> types;  // so that equal ones share one text
+  QSet<QString> types;  // so that equal texts are shared
   for (const QJsonValue& element : array) {
     auto* action = new RecordAction;
     single->actions.append(action);
@@ -159,7 +159,7 @@ std::shared_ptr<MergeRecordActions> RecordFileUtils::ReadMergeRecordActions(cons
   const auto merged = std::make_shared<MergeRecordActions>();
   for (const QJsonValue& element : array) {
     const std::shared_ptr<RecordActions> item = ReadRecordActions(element.toObject());
-    if (!item) return nullptr;  // one bad item fails the whole file
+    if (!item) return nullptr;  // one invalid item makes the whole file fail
     merged->items.append(item);
   }
   ReadControl(json, merged);
@@ -185,7 +185,7 @@ void RecordFileUtils::ReadControlParam(const QJsonObject& json, MergeParam* para
 void RecordFileUtils::ReadRecordInfo(const QJsonObject& json, RecordInfo* info) {
   if (!info) return;
   Take(json.value(kPackageName), &info->package_name);
-  // A size is stored even when the file has none.
+  // A size is stored even if the file has none.
   info->resolution = QSize(json.value(kResolutionX).toInt(), json.value(kResolutionY).toInt());
   TakeWide(json.value(kCreateTime), &info->create_time);
   TakeWide(json.value(kTotalRunningTime), &info->total_running_time);

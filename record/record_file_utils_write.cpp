@@ -11,6 +11,7 @@
 #include "core/clock.h"
 #include "core/display_geometry.h"
 #include "core/numbers.h"
+#include "qt/json_text.h"
 #include "record/file_replacement.h"
 #include "record/json/json_output.h"
 #include "record/json/merged_writer.h"
@@ -29,14 +30,14 @@ namespace {
 
 enum SaveResult : int { kSaved = 0, kNothingWorthSaving = 1, kOpenFailed = 2 };
 
-// A recording that holds nothing but its start and fingers that go up is not worth a file.
+// A recording that contains nothing but its start and releases is not saved.
 bool IsWorthSaving(const RecordAction* action) {
   if (action->type == kTypeVControl) return action->extra1 == QLatin1String("1");
   if (action->type == kTypeTouch) return !action->data.contains(kRelease) && !action->data.contains(kReset);
   return true;
 }
 
-// Milliseconds that an item takes, for display: its repeats, the pauses between them, and the gap behind it.
+// The duration of an item in milliseconds, for display: its repeats, the pauses between them, and the gap after it.
 int RunningTime(const RecordInfo& info, const MergeParam& param, bool is_last) {
   int time = static_cast<int>(static_cast<quint32>(info.total_running_time));
   if (param.repeat_times > 1) {
@@ -47,10 +48,10 @@ int RunningTime(const RecordInfo& info, const MergeParam& param, bool is_last) {
   return Truncate(1.0 / (param.speed_ratio > 0 ? param.speed_ratio : 1.0) * time);
 }
 
-// What a merged record says of the whole: the names of its first item, and the time of all.
+// The header of a merged record: the names of its first item, and the duration of all.
 class MergedHeader {
  public:
-  explicit MergedHeader(int item_count) : item_count_(item_count) {}
+  explicit MergedHeader(qsizetype item_count) : item_count_(item_count) {}
 
   void Add(const QJsonObject& header, const MergeParam& param) {
     RecordInfo info;
@@ -66,13 +67,13 @@ class MergedHeader {
   }
 
  private:
-  const int item_count_;
-  int count_ = 0;
+  const qsizetype item_count_;
+  qsizetype count_ = 0;
   int total_ = 0;
   RecordInfo result_;
 };
 
-// The way of files as this library writes them. Nothing where one of them is not, or changes meanwhile.
+// For files in this library's format. Nothing if one of them has another, or changes meanwhile.
 std::optional<bool> MergeByCopying(const QString& file, const QVector<MergeParam>& params) {
   MergedHeader header(params.size());
   MergedWriter writer;
@@ -99,10 +100,10 @@ bool MergeByLibrary(const QString& file, const QVector<MergeParam>& params) {
     items.append(QJsonObject{{kControl, utils->WriteControlParam(param)}, {list, source.value(list)}});
   }
   const QJsonDocument document(QJsonObject{{kInfo, header.Json()}, {kMergedActions, items}});
-  return ReplaceFile(file, document.toJson());
+  return ReplaceFile(file, qt::JsonText(document));
 }
 
-// The same two ways.
+// The same two cases.
 bool StampByCopying(const QString& path, const QByteArray& create_time) {
   RecordSource source(path);
   if (!source.Find(FileLayout::Writer::kPoco) || !source.Places().create_time) return false;
@@ -162,7 +163,7 @@ int RecordFileUtils::SaveRecord(const QString& package_name, const QString& file
   info.resolution = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   info.create_time = Clock::NowMs();
   QJsonObject header = WriteRecordInfo(info);
-  header.insert(kTotalRunningTime, total);  // signed: below 0 when the clock was set back meanwhile
+  header.insert(kTotalRunningTime, total);  // signed: negative if the clock was set back meanwhile
   const auto content = [&](QIODevice* target) { return WriteRecord(header, actions, target); };
   return ReplaceFile(file, content) ? kSaved : kOpenFailed;
 }

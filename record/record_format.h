@@ -1,4 +1,4 @@
-// The words of a record file. Whoever writes one and whoever reads one take them from here.
+// The words of a record file, for the code that writes records and the code that reads them.
 #ifndef RECORD_RECORD_FORMAT_H_
 #define RECORD_RECORD_FORMAT_H_
 
@@ -6,10 +6,10 @@
 
 namespace taviinputmanager::record_format {
 
-// Of the document, and of an item of a merged record.
+// Keys of the document, and of an item of a merged record.
 constexpr QLatin1String kInfo = Latin1("info");
 constexpr QLatin1String kActions = Latin1("actions");
-constexpr QLatin1String kMergedActions = Latin1("merged_actions");  // not looked at where there are actions too
+constexpr QLatin1String kMergedActions = Latin1("merged_actions");  // ignored if there are actions too
 constexpr QLatin1String kControl = Latin1("control");
 
 // Of the header.
@@ -33,7 +33,7 @@ constexpr QLatin1String kRepeatDelay = Latin1("repeat_delay");
 constexpr QLatin1String kSpeedRatio = Latin1("speed_ratio");
 constexpr QLatin1String kTillNextItemDelay = Latin1("till_next_item_delay");
 
-// Of the start marker: the data of the first action, a JSON text of its own.
+// Of the start marker: the data of the first action, which is a JSON text itself.
 constexpr QLatin1String kCmd = Latin1("cmd");
 constexpr QLatin1String kDetectApp = Latin1("detect_app");
 constexpr QLatin1String kParams = Latin1("params");
@@ -47,11 +47,11 @@ constexpr QLatin1String kTypeKeyboard = Latin1("keyboard");
 constexpr QLatin1String kTypeMouse = Latin1("mouse");
 constexpr QLatin1String kTypeJoystick = Latin1("joystick");
 constexpr QLatin1String kTypeInputMethod = Latin1("input_method");
-// These two are in no file.
-constexpr QLatin1String kTypeTimer = Latin1("timer");         // a pause that an iterator makes up
+// These two are not in files.
+constexpr QLatin1String kTypeTimer = Latin1("timer");         // a pause that an iterator inserts
 constexpr QLatin1String kTypeRawInput = Latin1("raw_input");  // an instruction of a captured macro
 
-// The words of an action's data. Arguments follow behind colons.
+// The words of an action's data. Arguments follow after colons.
 constexpr QLatin1String kPressRel = Latin1("press_rel");
 constexpr QLatin1String kPressMultiRel = Latin1("press_multi_rel");
 constexpr QLatin1String kRelease = Latin1("release");

@@ -16,9 +16,9 @@ class RecordMacroInstructionStore {
  public:
   static RecordMacroInstructionStore* GetInstance();
 
-  // The macro of this name is empty from now on; others stay until one is stored.
+  // The macro with this name becomes empty; others stay until one is stored.
   void StartInstruction(const QString& name);
-  // Forgets all macros, and keeps these instructions with a "sleep:<ms>" before each.
+  // Removes all macros, and stores these instructions with a "sleep:<ms>" before each.
   void StoreInstruction(const QString& name, const QList<RecordAction*>& actions);
   // Empty for an unknown name.
   QStringList GetInstruction(const QString& name) const;

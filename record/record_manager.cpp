@@ -20,7 +20,7 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-// What the host finds the right app by when the record is played.
+// Identifies the app to the host when the record is played.
 QString DetectAppMarker(const QString& package, const QString& app) {
   const QJsonObject params{{kPackage, package}, {kApp, app}};
   const QJsonDocument marker(QJsonObject{{kCmd, QString(kDetectApp)}, {kParams, params}});
@@ -37,7 +37,7 @@ void RecordManager::StartRecord(const QString& package, const QString& app) {
     const std::lock_guard<std::mutex> lock(mutex_);
     status_ = RecordStatus::Recording;
     actions_.Start();
-    actions_.Add({0, kTypeVControl, marker, {}, {}});  // ahead of all that another thread may add
+    actions_.Add({0, kTypeVControl, marker, {}, {}});  // before anything that another thread may add
   }
   if (callbacks_) callbacks_->started();
 }
@@ -64,7 +64,7 @@ void RecordManager::ResumeRecord() {
 
 void RecordManager::StopRecord(const QString& package_name, const QString& filename) {
   Leave(RecordStatus::Stopped);
-  const QList<RecordAction*> actions = actions_.Take();  // saving asks the host, which may start the next recording
+  const QList<RecordAction*> actions = actions_.Take();  // saving calls the host, which may start the next recording
   const int result = RecordFileUtils::GetInstance()->SaveRecord(package_name, filename, actions);
   qDeleteAll(actions);
   if (callbacks_) callbacks_->stopped(filename, result);
@@ -75,31 +75,31 @@ void RecordManager::AddVControlCommand(const QString& data, const QString& extra
 }
 
 void RecordManager::AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2) {
-  Add({0, type, data, extra1, extra2});
+  Add(Action(new RecordAction{0, type, data, extra1, extra2}));
 }
 
-void RecordManager::Add(RecordAction action) {
-  if (action.data.isEmpty()) return;
+void RecordManager::Add(Action action) {
+  if (action->data.isEmpty()) return;
   const std::lock_guard<std::mutex> lock(mutex_);
   if (GetStatus() == RecordStatus::Recording) actions_.Add(std::move(action));
 }
 
 void RecordManager::OnEventCommand(const QString& command) {
   if (macro_recording_ || command.isEmpty()) return;
-  RecordAction action;
-  if (TranslateEventCommand(command, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateEventCommand(command, action.get())) Add(std::move(action));
 }
 
 void RecordManager::OnEventLine(QLatin1String line) {
   if (macro_recording_ || line.isEmpty()) return;
-  RecordAction action;
-  if (TranslateEventLine(line, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateEventLine(line, action.get())) Add(std::move(action));
 }
 
 void RecordManager::OnTextCommand(const QString& command) {
   if (command.isEmpty()) return;
-  RecordAction action;
-  if (TranslateTextCommand(command, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateTextCommand(command, action.get())) Add(std::move(action));
 }
 
 void RecordManager::StartRecordMacroInstruction(const QString& name) {
@@ -115,7 +115,7 @@ void RecordManager::StopRecordMacroInstruction(const QString& name) {
   RecordMacroInstructionStore::GetInstance()->StoreInstruction(name, macro_actions_.Actions());
 }
 
-// A line is recorded without its end.
+// A line is recorded without its line end.
 
 void OfferEventLine(const LineBuffer& line) {
   if (IsLineRecorded()) RecordManager::GetInstance()->OnEventLine(line.WithoutEnd());

@@ -1,4 +1,4 @@
-// The capture of a macro: host events to lines of the macro language.
+// The capture of a macro: converts host events to the macro language.
 #include <cmath>
 
 #include <QInputMethodEvent>
@@ -21,7 +21,7 @@ using tavikeymapmanager::getMacroConfigKeyCode;
 
 namespace {
 
-constexpr int kKeptMove = 10;  // one move in so many, from the first on: a long drag does not flood the macro
+constexpr int kKeptMove = 10;  // every tenth move, from the first on, so that a long drag does not flood the macro
 
 QString Instruction(const char* word, int argument) {
   return QLatin1String(word) + QLatin1Char(':') + QString::number(argument);
@@ -64,7 +64,7 @@ void RecordManager::AddMacroMove(const QPoint& window_position) {
   const WindowGeometry window = DisplayGeometry::GetInstance()->GetWindowGeometry();
   const double x = static_cast<double>(window_position.x()) / window.width;
   const double y = static_cast<double>(window_position.y()) / window.height;
-  if (!std::isfinite(x) || !std::isfinite(y)) return;  // a window without size has no fractions
+  if (!std::isfinite(x) || !std::isfinite(y)) return;  // a window without a size has no fractions
   AddMacroAction(QLatin1String("vmouse_move:") + WritePoint(QPointF(x, y)));
 }
 

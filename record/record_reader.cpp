@@ -36,7 +36,7 @@ bool IsKey(std::string_view key, QLatin1String word) {
   return key == std::string_view(word.data(), static_cast<std::size_t>(word.size()));
 }
 
-// Of the text fields by their places in the table.
+// The text fields, by their position in the table.
 std::size_t FieldOf(std::string_view key) {
   if (IsKey(key, kTiming)) return kTimingField;
   const auto* const field = std::find_if(std::begin(kTextFields), std::end(kTextFields),
@@ -44,7 +44,7 @@ std::size_t FieldOf(std::string_view key) {
   return field == std::end(kTextFields) ? kNoField : static_cast<std::size_t>(field - kTextFields);
 }
 
-// All else that is a value is a number: the library knows more of those than JSON does.
+// Every other value is a number: the library accepts more forms of them than JSON.
 bool IsNumberAhead(char mark) { return std::string_view("\"{[tfn").find(mark) == std::string_view::npos; }
 
 }  // namespace
@@ -75,7 +75,7 @@ bool RecordReader::TakeLevel(Level* level) {
   return scanner_.TakeObject([&](std::string_view key) { return TakeMember(key, level); });
 }
 
-// Of a key that is there twice, the library alone can tell which one counts.
+// If a key occurs twice, only the library knows which one counts.
 bool RecordReader::TakeMember(std::string_view key, Level* level) {
   if (IsKey(key, kInfo)) return !level->info && scanner_.TakeWhole(&level->info.emplace());
   if (keep_ == Keep::kNothing) return scanner_.Skip();
@@ -118,7 +118,7 @@ bool RecordReader::TakeAction(RecordAction* action) {
   });
 }
 
-// A value of another type leaves its field.
+// A value of another type leaves its field unchanged.
 
 bool RecordReader::TakeInt(int* field) {
   if (!IsNumberAhead(scanner_.NextMark())) return scanner_.Skip();

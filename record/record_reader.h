@@ -1,4 +1,4 @@
-// An ordinary record file, read piece by piece.
+// Reads record files in the usual format incrementally.
 #ifndef RECORD_RECORD_READER_H_
 #define RECORD_RECORD_READER_H_
 
@@ -16,24 +16,24 @@ class RecordActions;
 class SingleRecordActions;
 struct RecordAction;
 
-// What a record file holds.
+// The content of a record file.
 struct RecordContents {
-  QJsonObject info;                        // empty where there is none
-  std::shared_ptr<RecordActions> actions;  // null where there is no list, or where none was asked for
+  QJsonObject info;                        // empty if there is none
+  std::shared_ptr<RecordActions> actions;  // null if there is no list, or if none was requested
 };
 
-// Reads a document as RecordFileUtils does from a tree of it, without the tree. It is passed once, to its end, whatever
-// is kept of it: where something is broken or odd, nothing is read.
+// Gives the same result as RecordFileUtils from a tree of the document, without building the tree. It reads the
+// document once, to its end, whatever is kept of it: if any part is invalid or unusual, nothing is read.
 class RecordReader {
  public:
-  // Of each list of actions.
+  // Called for each list of actions.
   enum class Keep { kNothing, kFirst, kAll };
 
-  // From where `file` stands.
+  // Reads from the current position of `file`.
   RecordReader(QIODevice* file, Keep keep, int window_bytes = JsonWindow::kUsualBytes)
       : scanner_(file, window_bytes), keep_(keep) {}
 
-  // False, and `contents` of no use, where the library has to read the file.
+  // False, with useless `contents`, if the library must read the file.
   bool Read(RecordContents* contents);
 
  private:

@@ -1,4 +1,4 @@
-// Where a replay stands in its record.
+// The position of a replay in its record.
 #ifndef RECORD_REPLAY_CONTEXT_H_
 #define RECORD_REPLAY_CONTEXT_H_
 
@@ -15,22 +15,22 @@ class RecordActions;
 struct ReplayContext {
   std::shared_ptr<RecordActions> actions;
   RecordInfo info;
-  RecordAction current_action;  // due next; one without a type is none
+  RecordAction current_action;  // the action due next; one without a type means none
   double speed_ratio = 1.0;     // not read: the speed is in `actions`
   int next_delay = 0;           // milliseconds from now to current_action
 
-  // Sets the speed of the whole record, on top of what its own control says.
+  // Sets the speed of the whole record, multiplied by the one of its own control.
   void ApplySpeed(double ratio);
-  // Moves to the first action, and to the next one.
+  // Move to the first action, and to the next one.
   void First();
   void Next();
-  // Copies the action that is due next. False when there is none, or no place to copy it to.
+  // Copies the action that is due next. False if there is none, or if `action` is null.
   bool CurrentAction(RecordAction* out) const;
-  // Takes time that has passed, in milliseconds, off the delay; 0 is its floor.
+  // Subtracts elapsed time, in milliseconds, from the delay; at least 0 remains.
   void ReduceDelay(int elapsed);
 
  private:
-  // To the next action behind items of a merged record that have none.
+  // Moves to the next action after items of a merged record without actions.
   void SkipWhatIsEmpty();
 };
 

@@ -9,6 +9,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_command.h"
 #include "core/input_status_manager.h"
+#include "qt/numbers.h"
 #include "record/point_text.h"
 #include "record/record_format.h"
 #include "slots/macro_slot_manager.h"
@@ -21,23 +22,23 @@ namespace {
 
 constexpr unsigned kDisturbances = 3;  // display pixels: 0, 1 or 2
 
-// In display pixels of the moment. The null point, which is also the top left corner, is no point.
+// In pixels of the current display. The null point, which is also the top left corner, is not a point.
 QPointF DisplayPoint(const QString& text) { return DisplayGeometry::GetInstance()->RelativeToDisplay(ReadPoint(text)); }
 
-// Both coordinates up, or both down. 0 is a floor; there is no ceiling.
+// Both coordinates rounded up, or both down. The minimum is 0; there is no maximum.
 QPointF Disturbed(const QPointF& point) {
   const int direction = std::rand() % 2 != 0 ? 1 : -1;
   const auto move = [direction](qreal v) {
     const auto pixels = static_cast<int>(QRandomGenerator::global()->generate() % kDisturbances);
     return std::max<qreal>(0, v + direction * pixels);
   };
-  const qreal x = move(point.x());  // x is drawn first
+  const qreal x = move(point.x());  // the random value of x comes first
   return {x, move(point.y())};
 }
 
 bool HasMoreThan(const QString& data, QLatin1String word) { return data.startsWith(word) && data.size() > word.size(); }
 
-// Whether there is exactly one argument, which goes to `argument`.
+// Whether there is exactly one argument, which is stored in `argument`.
 bool OneArgument(const QString& data, QString* argument) {
   const QStringList parts = data.split(QLatin1Char(':'));
   if (parts.size() != 2) return false;
@@ -71,7 +72,7 @@ void ReplayEventHandler::OnKeyboardAction(const QString& data, const QString& /*
   if (!is_press && !data.startsWith(kKeyboardRelease)) return;
   QString argument;
   if (!OneArgument(data, &argument)) return;
-  const int code = argument.toInt();
+  const int code = qt::ToInt(argument);
   CodeSet& held = InputStatusManager::GetInstance()->ReplayHeldKeys();
   if (is_press) {
     held.Add(code);
@@ -91,7 +92,7 @@ void ReplayEventHandler::OnTouchAction(const QString& data, const QString& extra
   if (data.startsWith(kPressMultiRel)) return MultiPress(data, extra1);
   if (data == kReleaseMulti) return MultiRelease(extra1);
   if (data != kReset) return;
-  pressed_slots_.clear();  // the pool and the map stay: later presses find their old slots
+  pressed_slots_.clear();  // the pool and the map stay: later presses get their previous slots
   SendToReplay(guest_command::SlotReleaseAll());
 }
 
@@ -101,14 +102,14 @@ void ReplayEventHandler::Press(const QString& data, const QString& slot_text, bo
   QPointF place = DisplayPoint(argument);
   if (emulation_mode) place = Disturbed(place);
   if (place.isNull()) return;
-  const int id = MapSlot(slot_text.toInt());
+  const int id = MapSlot(qt::ToInt(slot_text));
   const QString command = guest_command::SlotPress(id, place);
   pressed_slots_.insert(id, command);
   SendToReplay(command);
 }
 
 void ReplayEventHandler::Release(const QString& slot_text) {
-  const int original = slot_text.toInt();
+  const int original = qt::ToInt(slot_text);
   const int id = MapSlot(original);
   pressed_slots_.remove(id);
   UnmapSlot(original, id);
@@ -122,7 +123,7 @@ void ReplayEventHandler::MultiPress(const QString& data, const QString& slot_tex
   QStringList groups;
   for (int i = 0; i < ids.size(); ++i) {
     const QPointF place = DisplayPoint(points.at(i + 1));
-    const int id = MapSlot(ids.at(i).toInt());
+    const int id = MapSlot(qt::ToInt(ids.at(i)));
     if (place.isNull()) continue;  // its slot stays mapped
     groups.append(guest_command::ContactGroup(id, place));
     pressed_multi_slots_.insert(id, groups.last());
@@ -134,7 +135,7 @@ void ReplayEventHandler::MultiPress(const QString& data, const QString& slot_tex
 void ReplayEventHandler::MultiRelease(const QString& slot_texts) {
   if (slot_texts.isEmpty()) return;
   for (const QString& slot_text : slot_texts.split(QLatin1Char(':'))) {
-    const int original = slot_text.toInt();
+    const int original = qt::ToInt(slot_text);
     const int id = MapSlot(original);
     pressed_multi_slots_.remove(id);
     UnmapSlot(original, id);
@@ -144,7 +145,7 @@ void ReplayEventHandler::MultiRelease(const QString& slot_texts) {
 
 void ReplayEventHandler::OnInputMethodAction(const QString& data, const QString& /*extra1*/,
                                              const QString& /*extra2*/) {
-  // Whatever stands between the word and the text counts as the colon.
+  // Anything between the word and the text counts as the colon.
   if (HasMoreThan(data, kTextInject)) return SendText(guest_command::Text(data.mid(kTextInject.size() + 1)));
   if (HasMoreThan(data, kTextControl)) SendText(guest_command::TextControl(data.mid(kTextControl.size() + 1)));
 }
@@ -161,7 +162,7 @@ void ReplayEventHandler::Reset() {
 }
 
 void ReplayEventHandler::ResumeHeldInput() {
-  // Copies: the host may restart a replay from inside a send, which forgets all this.
+  // Copies: the host may restart a replay during a call, which clears all this.
   const QMap<int, QString> slots = pressed_slots_;
   const QStringList multi_slots = pressed_multi_slots_.values();
   const CodeSet keys = replayed_keys_;

@@ -11,9 +11,9 @@
 
 namespace taviinputmanager {
 
-// Lines are made anew, with the display of the moment and with fingers of the macro pool, and go to the replay display.
-// What cannot be read is dropped in silence. Remembers what is held down, so that a replay that was paused can press it
-// again. One for all replays: equal slots of two records are one finger.
+// Lines are created for the current display and with slots of the macro pool, and go to the replay display. Data that
+// cannot be parsed is dropped silently. Remembers what is held down, so that a paused replay can press it again. All
+// replays share one handler: equal slots of two records are one contact.
 //
 // Threads: main thread.
 class ReplayEventHandler : public EventHandler {
@@ -25,14 +25,14 @@ class ReplayEventHandler : public EventHandler {
   // The arguments of an action, by its type.
   void OnMouseAction(const QString& data, const QString& extra1, const QString& extra2);
   void OnKeyboardAction(const QString& data, const QString& extra1, const QString& extra2);
-  // `emulation_mode`: single presses are moved by up to 2 display pixels, as a hand would.
+  // `emulation_mode`: single presses are moved by up to 2 display pixels, like those of a human hand.
   void OnTouchAction(const QString& data, const QString& extra1, const QString& extra2, bool emulation_mode);
   void OnInputMethodAction(const QString& data, const QString& extra1, const QString& extra2);
   void OnJoystickAction(const QString& data, const QString& extra1, const QString& extra2);
 
-  // Forgets everything and sends nothing. Slots that are held stay taken in the pool until that one is reset.
+  // Clears everything and sends nothing. Held slots stay taken in the pool until the pool is reset.
   void Reset();
-  // Presses again what is held down.
+  // Presses what is held down again.
   void ResumeHeldInput();
 
  private:
@@ -44,11 +44,11 @@ class ReplayEventHandler : public EventHandler {
   void MultiRelease(const QString& slot_texts);
 
   void SendToReplay(const QString& command);
-  // A slot of a record to the one that plays it, which is taken from the pool; itself when the pool has none.
+  // Maps a slot of a record to the one that plays it, which is taken from the pool; the same slot if the pool has none.
   int MapSlot(int id);
   void UnmapSlot(int original, int id);
 
-  QMap<int, QString> pressed_slots_;        // by slot of the guest: the line that holds it down
+  QMap<int, QString> pressed_slots_;        // by slot of the guest: the line that pressed it
   QMap<int, QString> pressed_multi_slots_;  // by slot of the guest: its part of such a line
   CodeSet replayed_keys_;                   // guest key codes
   QMap<int, int> slot_map_;                 // slots of records to slots of the guest

@@ -47,7 +47,7 @@ void ReplayManager::Play(int unused, int task_id, const QString& filename, const
   connect(worker, &ReplayWorker::ReplayPaused, this, &ReplayManager::OnReplayPaused, Qt::QueuedConnection);
   run->Start();
 
-  // One handler serves all replays: those that run already lose what they hold.
+  // All replays share one handler: those that are already running lose what they hold.
   ReplayEventHandler::GetInstance()->Reset();
 }
 

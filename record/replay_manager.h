@@ -1,4 +1,4 @@
-// Plays record files back.
+// Plays record files.
 #ifndef RECORD_REPLAY_MANAGER_H_
 #define RECORD_REPLAY_MANAGER_H_
 
@@ -14,27 +14,27 @@ namespace taviinputmanager {
 
 struct InputReplayerCallbacks;
 
-// Each replay has a worker on a thread of its own, which keeps its time. The manager holds no list of them: a request
-// goes to all, and each worker looks whether it is named. Two replays of one task and file react together. What falls
-// due is performed here, so that replayed lines leave from the thread that live input leaves from.
+// Each replay has a worker for its timing, on a thread of its own. The manager keeps no list of them: a request goes to
+// all, and each worker checks whether it is meant. Two replays of one task and file react together. Actions that are
+// due are performed here, so that replayed lines come from the same thread as those of live input.
 //
-// Threads: main thread, but for the requests, which may also come from the callbacks of a replay, on its thread: those
-// are performed on the main thread as soon as it comes to them, in their order.
+// Threads: main thread, except the requests, which may also come from the callbacks of a replay, on its thread: they
+// are queued to the main thread, in order.
 class ReplayManager : public QObject {
   Q_OBJECT
 
  public:
   static ReplayManager* GetInstance();
 
-  // For the replays that are started from now on.
+  // For replays that are started from now on.
   void SetCallbacks(InputReplayerCallbacks* callbacks) { callbacks_ = callbacks; }
 
   // ---- Requests ----
-  // The arguments are those of the exports. A file that cannot be loaded starts nothing, and nobody is told.
+  // The arguments are those of the exports. If a file cannot be loaded, nothing starts and nothing is reported.
   void StartReplay(int unused, int task_id, const QString& unused_name, const QString& filename, ReplayParam param);
   void PauseReplay(int task_id, const QString& filename);
   void ResumeReplay(int task_id, const QString& filename);
-  // From the beginning, at the speed of the start: `param` is not read.
+  // From the beginning, at the speed of the start: `param` is not used.
   void RestartReplay(int task_id, const QString& filename, ReplayParam param);
   void StopReplay(int task_id, const QString& filename, bool stop_by_user);
   void StopAllReplay();
@@ -59,9 +59,9 @@ class ReplayManager : public QObject {
   void Play(int unused, int task_id, const QString& filename, const ReplayParam& param);
   void HoldRecord(const QString& filename);
 
-  ReplayRequestQueue requests_;                  // performed on the thread that this object was made on
-  InputReplayerCallbacks* callbacks_ = nullptr;  // the host's; null is allowed
-  // By path. A second replay of a file takes the entry of the first; that one's handle stays open.
+  ReplayRequestQueue requests_;                  // performed on the thread that created this object
+  InputReplayerCallbacks* callbacks_ = nullptr;  // owned by the host; may be null
+  // By path. A second replay of a file replaces the entry of the first, whose handle stays open.
   QMap<QString, FileHandle> open_files_;
 };
 

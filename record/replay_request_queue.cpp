@@ -19,7 +19,7 @@ void ReplayRequestQueue::Perform(Request request) {
 
 void ReplayRequestQueue::customEvent(QEvent* /*event*/) { TakeFirst()(); }
 
-// There is one for each event.
+// There is one request for each event.
 ReplayRequestQueue::Request ReplayRequestQueue::TakeFirst() {
   const std::lock_guard<std::mutex> lock(mutex_);
   Request first = std::move(waiting_.front());

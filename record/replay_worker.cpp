@@ -37,14 +37,14 @@ void ReplayWorker::PlayFromFirst() {
 
 void ReplayWorker::ScheduleNext() {
   if (context_.current_action.type.isEmpty()) return Finish();
-  // A record can hold a negative gap, from a clock that was set back; a timer takes none.
+  // A record can contain a negative timing, from a clock that was set back; a timer accepts none.
   timer_->start(std::max(0, context_.next_delay));
   last_start_time_ = Clock::NowMs();
 }
 
 void ReplayWorker::Finish() {
   timer_->stop();
-  // On this thread, beside whatever the main thread does: what the two share is guarded where it is.
+  // On this thread, in parallel to the main thread: shared data has its own guards.
   InputStatusManager::GetInstance()->ResetInputStatus(kResetMacro, 0);
   if (param_.callbacks) param_.callbacks->finished(param_.task_id, param_.filename, param_.param);
 }
@@ -61,9 +61,9 @@ void ReplayWorker::TimerOutTime() {
 }
 
 void ReplayWorker::Pause(int task_id, QString filename) {
-  if (!timer_) return;  // not started: there is no delay to keep the rest of
+  if (!timer_) return;  // not started: there is no remaining delay to store
   if (context_.current_action.type.isEmpty() || !IsNamed(task_id, filename)) return;
-  // A second pause takes the same time off again.
+  // A second pause subtracts the same time again.
   context_.ReduceDelay(LowDistance(last_start_time_, Clock::NowMs()));
   timer_->stop();
   Q_EMIT ReplayPaused(param_.task_id, param_.filename);

@@ -1,4 +1,4 @@
-// Keeps the time of one replay.
+// The timing of one replay.
 #ifndef RECORD_REPLAY_WORKER_H_
 #define RECORD_REPLAY_WORKER_H_
 
@@ -14,29 +14,29 @@ namespace taviinputmanager {
 
 struct InputReplayerCallbacks;
 
-// What a replay is started with.
+// The parameters of a replay.
 struct ReplayWorkerParam {
   int task_id = 0;
-  int unused = 0;  // the first argument of StartReplay; kept, and read by nothing
+  int unused = 0;  // the first argument of StartReplay; stored, but not used
   QString filename;
   ReplayParam param;
-  InputReplayerCallbacks* callbacks = nullptr;  // the host's; null is allowed
+  InputReplayerCallbacks* callbacks = nullptr;  // owned by the host; may be null
 };
 
-// Walks a record and tells when each action is due. It performs none, so that a slow one does not shift its timer.
+// Walks a record and signals when each action is due. It performs none, so that a slow one does not shift its timer.
 //
 //            timing of a     timing of b
 //   started ------------- a ------------- b (last) finished ...... stays, until it is restarted or stopped
 //                             Pause ... Resume
 //                             | the rest of the delay is kept
 //
-// Each delay counts from the moment at which the timeout before it was handled; nothing is caught up. No state is
-// stored: a worker without a current action has finished, one whose timer stands still is paused.
+// Each delay starts when the previous timeout was handled; lost time is not made up for. There is no stored state: a
+// worker without a current action has finished, one whose timer is stopped is paused.
 //
-// Requests go to all workers; one that names another task or file is not for this one. Before Start, all but Restart
-// find nothing to do; neither does a Pause when the record has run out.
+// Requests go to all workers; a worker ignores those with another task or file. Before Start, all but Restart have no
+// effect; neither has Pause when the record is over.
 //
-// Threads: made on the main thread; its slots run on the replay's own, and so do the host's callbacks, and the input
+// Threads: created on the main thread; its slots run on the replay's own, and so do the host's callbacks, and the input
 // reset at the natural end.
 class ReplayWorker : public QObject {
   Q_OBJECT
@@ -58,7 +58,7 @@ class ReplayWorker : public QObject {
   void Stop(int task_id, QString filename, bool stop_by_user);
   // From the beginning, at the speed of the start.
   void Restart(int task_id, QString filename);
-  // Stops whatever its names are.
+  // Stops regardless of its names.
   void ForceStop();
   void TimerOutTime();
 
@@ -72,8 +72,8 @@ class ReplayWorker : public QObject {
   void End(bool stop_by_user);
   void Tell(Callback InputReplayerCallbacks::*member) const;
 
-  qint64 last_start_time_ = 0;  // of the timer, milliseconds since the epoch
-  QTimer* timer_ = nullptr;     // a child; null until it is first needed
+  qint64 last_start_time_ = 0;  // start time of the timer, milliseconds since the epoch
+  QTimer* timer_ = nullptr;     // a child; null until first needed
   ReplayContext context_;
   ReplayWorkerParam param_;
 };

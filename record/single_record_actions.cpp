@@ -16,7 +16,7 @@ bool SingleRecordActions::Next(RecordAction* action, int* delay) {
   ++action_index;
   if (FetchCurrent(action, delay)) return true;
   if (repeat_index >= control.repeat_times) return false;
-  if (RepeatDelay(action, delay)) return true;  // the index stays behind the end, so the next call comes here again
+  if (RepeatDelay(action, delay)) return true;  // the index stays past the end, so that the next call comes here again
   ++repeat_index;
   action_index = 0;
   return FetchCurrent(action, delay);

@@ -1,4 +1,4 @@
-// A record of one recording.
+// A record of a single recording.
 #ifndef RECORD_SINGLE_RECORD_ACTIONS_H_
 #define RECORD_SINGLE_RECORD_ACTIONS_H_
 

@@ -1,4 +1,4 @@
-// Starts runs of rapid taps, whatever it is that is tapped.
+// Starts runs of rapid taps, for all simulators that have them.
 #ifndef SIMULATORS_BUNCH_TAP_RUN_H_
 #define SIMULATORS_BUNCH_TAP_RUN_H_
 
@@ -7,11 +7,11 @@
 
 namespace taviinputmanager {
 
-// A friend of the simulators that have such runs: the workers answer to their slots, which are private. Each run has a
-// thread of its own, takes `worker`, and is over when that says so.
+// A friend of these simulators, because the workers are connected to their private slots. Each run has a thread of its
+// own and takes ownership of `worker`; it is over when the worker reports its end.
 class BunchTapRun {
  public:
-  // Goes on until the simulator's StopBunchTap names the worker's key.
+  // Runs until the simulator's StopBunchTap names the worker's key.
   template <typename Simulator, typename Worker>
   static void StartContinue(Simulator* simulator, Worker* worker) {
     auto* run = new WorkerThread(worker);

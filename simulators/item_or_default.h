@@ -1,10 +1,10 @@
-// The item that a run is made from.
+// The item that a run copies.
 #ifndef SIMULATORS_ITEM_OR_DEFAULT_H_
 #define SIMULATORS_ITEM_OR_DEFAULT_H_
 
 namespace taviinputmanager {
 
-// What a run copies, so that it outlives its keymap; a run without an item is one of a default-constructed item.
+// A run copies its item, so that it can outlive the keymap; without an item, it uses a default-constructed one.
 template <typename Item>
 const Item& ItemOrDefault(const Item* item) {
   static const Item default_item;

@@ -6,8 +6,8 @@
 
 namespace taviinputmanager {
 
-// Runs `function` at the first call and does nothing at any other. A worker tells its end again to a stop that was on
-// its way when the run ended; what its owner does then is done once a run.
+// Calls `function` the first time and does nothing afterwards. A worker reports its end again to a stop that was queued
+// when the run ended; its owner must react only once per run.
 template <typename Function>
 auto Once(Function function) {
   return [function = std::move(function), done = false](auto... arguments) mutable {

@@ -14,10 +14,10 @@ void OneOffOffset::Start(bool enabled) {
 
 void OneOffOffset::OnMovement(const RelativeCounts& counts, const QPointF& sensitivity, double threshold,
                               double length) {
-  if (!swipe_pending_ || counts.IsZero()) return;  // taken already, or no direction to take it in
+  if (!swipe_pending_ || counts.IsZero()) return;  // already applied, or without a direction
   const QPointF way = counts.Scaled(sensitivity);
   const double travel = std::sqrt(way.y() * way.y() + way.x() * way.x());
-  if (!(threshold <= travel)) return;  // too short yet to be a real movement
+  if (!(threshold <= travel)) return;  // too short to be a real movement
   offset_ = DisplayGeometry::ScaleToLength(counts.ToPoint(), length);
   swipe_pending_ = false;
 }

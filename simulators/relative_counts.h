@@ -1,4 +1,4 @@
-// Relative mouse counts, summed up.
+// A sum of relative mouse counts.
 #ifndef SIMULATORS_RELATIVE_COUNTS_H_
 #define SIMULATORS_RELATIVE_COUNTS_H_
 
@@ -9,7 +9,7 @@
 
 namespace taviinputmanager {
 
-// A sum that leaves the range of an int runs on modulo 2^32.
+// A sum that leaves the range of an int wraps modulo 2^32.
 struct RelativeCounts {
   int x = 0;
   int y = 0;
@@ -20,7 +20,7 @@ struct RelativeCounts {
   }
   bool IsZero() const { return x == 0 && y == 0; }
   QPoint ToPoint() const { return {x, y}; }
-  // In display pixels, with `sensitivity` in pixels a count; the second is rounded.
+  // In display pixels, with `sensitivity` in pixels per count; the second is rounded.
   QPointF Scaled(const QPointF& sensitivity) const { return {x * sensitivity.x(), y * sensitivity.y()}; }
   QPoint ToPixels(const QPointF& sensitivity) const { return {Round(x * sensitivity.x()), Round(y * sensitivity.y())}; }
 };

@@ -1,4 +1,4 @@
-// Has the main thread empty something of its own before it looks at it again.
+// A request to the main thread to clear data before its next use.
 #ifndef SLOTS_CLEAR_REQUEST_H_
 #define SLOTS_CLEAR_REQUEST_H_
 
@@ -6,13 +6,13 @@
 
 namespace taviinputmanager {
 
-// The end of a replay, on its thread, empties what only the main thread reads and writes. As the main thread takes the
-// request at its next look, nobody sees that it was not done at once, and no look needs a lock.
+// A replay ends on its own thread, and clears data that only the main thread uses. The main thread takes the request at
+// its next access, so the delay is not visible, and no access needs a lock.
 class ClearRequest {
  public:
   // Any thread.
   void Make() { is_made_.store(true, std::memory_order_release); }
-  // Main thread: whether one was made since the last look. Costs a load where none was.
+  // Main thread: whether a request was made since the last check. Costs only a load if there was none.
   bool Take() {
     return is_made_.load(std::memory_order_relaxed) && is_made_.exchange(false, std::memory_order_acquire);
   }

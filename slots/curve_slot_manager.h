@@ -1,4 +1,4 @@
-// The finger that follows a curve.
+// The contact that follows a curve.
 #ifndef SLOTS_CURVE_SLOT_MANAGER_H_
 #define SLOTS_CURVE_SLOT_MANAGER_H_
 
@@ -16,7 +16,7 @@ class CurveSlotManager : public SlotManager {
   LineBuffer PressLine() override;
   void Reset() override;
 
-  // Both in fractions of the display. A point of (0, 0) means that the finger is up.
+  // Both are fractions of the display. A point of (0, 0) means that the contact is up.
   void SetOrigin(const QPointF& origin) { origin_ = origin; }
   void SetOffset(double dx, double dy);
 

@@ -9,8 +9,8 @@ namespace taviinputmanager {
 // Direction numbers.
 enum Direction : int { kDirectionUp = 1, kDirectionDown = 2, kDirectionLeft = 3, kDirectionRight = 4 };
 
-// One word an axis. kPositive is right or down, kNegative left or up; both bits mean that both keys are held, and such
-// an axis stands still.
+// One word for each axis. kPositive is right or down, kNegative left or up; both bits mean that both keys are held, and
+// such an axis does not move.
 struct DirectionFlags {
   static constexpr quint32 kPositive = 1;
   static constexpr quint32 kNegative = 16;
@@ -21,7 +21,7 @@ struct DirectionFlags {
 
   bool IsAny() const { return x != 0 || y != 0; }
 
-  // Numbers other than the four leave everything as it is.
+  // Other numbers than these four change nothing.
   void Set(int direction, bool pressed) {
     switch (direction) {
       case kDirectionUp: return SetBit(&y, kNegative, pressed);
@@ -32,7 +32,7 @@ struct DirectionFlags {
     }
   }
 
-  // 1, -1, or 0 for an axis that no key, or both keys, hold.
+  // 1, -1, or 0 for an axis for which no key or both keys are held.
   static int Sign(quint32 word) { return word == kPositive ? 1 : word == kNegative ? -1 : 0; }
 
  private:

@@ -1,4 +1,4 @@
-// The finger that turns the view by direction keys.
+// The contact that turns the view with direction keys.
 #ifndef SLOTS_EYE_SLOT_MANAGER_H_
 #define SLOTS_EYE_SLOT_MANAGER_H_
 
@@ -11,15 +11,15 @@ class EyeSlotManager : public PositionSlotManager {
  public:
   static EyeSlotManager* GetInstance();
 
-  // Also forgets the keys and the home.
+  // Also resets the keys and the home position.
   void Reset() override;
 
   bool HasDirection() const { return directions_.IsAny(); }
   void SetDirectionKey(int direction, bool pressed) { directions_.Set(direction, pressed); }
-  // Moves the position by `step` pixels along each axis that one key alone holds.
+  // Moves the position by `step` pixels along each axis for which only one key is held.
   void Step(int step);
 
-  QPoint home;  // pixels: where the finger starts from
+  QPoint home;  // pixels: the start position of the contact
 
  private:
   EyeSlotManager();

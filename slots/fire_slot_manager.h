@@ -1,4 +1,4 @@
-// The finger on a shooter's fire button.
+// The contact on a shooter's fire button.
 #ifndef SLOTS_FIRE_SLOT_MANAGER_H_
 #define SLOTS_FIRE_SLOT_MANAGER_H_
 

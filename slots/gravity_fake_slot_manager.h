@@ -9,12 +9,12 @@
 
 namespace taviinputmanager {
 
-// Has the shape of a slot manager and no slot: nothing of it touches the guest's screen. Main thread only.
+// Has the interface of a slot manager but no slot: it sends nothing to the guest's screen. Main thread only.
 class GravityFakeSlotManager {
  public:
   static GravityFakeSlotManager* GetInstance();
 
-  // Forgets keys and tilt.
+  // Resets keys and tilt.
   virtual void Reset();
   virtual ~GravityFakeSlotManager();
   // Whether there is a tilt.
@@ -24,7 +24,7 @@ class GravityFakeSlotManager {
 
   bool HasDirection() const { return directions_.IsAny(); }
   void SetDirectionKey(int direction, bool pressed) { directions_.Set(direction, pressed); }
-  // Changes the tilt by `step` along each axis that one key alone holds.
+  // Changes the tilt by `step` along each axis for which only one key is held.
   void Step(double step);
   const QPointF& GetOffset() const { return offset_; }
   void ClearOffset() { offset_ = QPointF(); }

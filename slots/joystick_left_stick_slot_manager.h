@@ -1,4 +1,4 @@
-// The finger that a gamepad's left stick walks with.
+// The contact for walking with a gamepad's left stick.
 #ifndef SLOTS_JOYSTICK_LEFT_STICK_SLOT_MANAGER_H_
 #define SLOTS_JOYSTICK_LEFT_STICK_SLOT_MANAGER_H_
 

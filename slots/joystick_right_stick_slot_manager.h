@@ -1,4 +1,4 @@
-// The finger that a gamepad's right stick turns the view with.
+// The contact for turning the view with a gamepad's right stick.
 #ifndef SLOTS_JOYSTICK_RIGHT_STICK_SLOT_MANAGER_H_
 #define SLOTS_JOYSTICK_RIGHT_STICK_SLOT_MANAGER_H_
 

@@ -1,4 +1,4 @@
-// What running macros hold down, beyond fingers.
+// What running macros hold down, except contacts.
 #ifndef SLOTS_MACRO_HELD_INPUT_H_
 #define SLOTS_MACRO_HELD_INPUT_H_
 
@@ -10,15 +10,15 @@
 
 namespace taviinputmanager {
 
-// Stands beside the slot managers because the sweep clears it. Main thread, but for RequestClear.
+// In this folder because the sweep clears it. Main thread, except RequestClear.
 class MacroHeldInput {
  public:
-  // Cleared first where that was requested, so ask for it at each use.
+  // Clears it first if that was requested, so call this for each use.
   static MacroHeldInput* GetInstance();
 
-  // Forgets keys, mouse and gamepad buttons; the buttons of virtual pointers stay.
+  // Clears keys, mouse and gamepad buttons; the buttons of virtual pointers stay.
   void Clear();
-  // Any thread: does so before the main thread looks again.
+  // Any thread: clears before the next use on the main thread.
   static void RequestClear();
 
   CodeSet keys;

@@ -1,4 +1,4 @@
-// The pool of fingers for macros, pinches by key, replays and virtual pointers.
+// The pool of contacts for macros, pinches by key, replays and virtual pointers.
 #ifndef SLOTS_MACRO_SLOT_MANAGER_H_
 #define SLOTS_MACRO_SLOT_MANAGER_H_
 
@@ -6,8 +6,8 @@
 
 namespace taviinputmanager {
 
-// Keeps a book apart from MultPointSlotManager's over the same slots: a macro and touch input are not meant to run at
-// once.
+// Shares its slots with MultPointSlotManager but has separate records: macros and touch input are not meant to run at
+// the same time.
 class MacroSlotManager : public PointPoolSlotManager {
  public:
   static MacroSlotManager* GetInstance() {

@@ -1,4 +1,4 @@
-// The finger of the left mouse button, and of the view while the mouse is captured.
+// The contact of the left mouse button, and of the view while the mouse is captured.
 #ifndef SLOTS_MOUSE_SLOT_MANAGER_H_
 #define SLOTS_MOUSE_SLOT_MANAGER_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// The singleton is the real mouse. Each virtual pointer of a macro has an object of its own, on a slot drawn from the
+// The singleton is for the real mouse. Each virtual pointer of a macro has an object of its own, with a slot from the
 // macro pool.
 class MouseSlotManager : public PositionSlotManager {
  public:

@@ -1,4 +1,4 @@
-// The finger of a walk towards a right click.
+// The contact of a walk towards a right click.
 #ifndef SLOTS_MOUSE_SWIPEHOLD_SLOT_MANAGER_H_
 #define SLOTS_MOUSE_SWIPEHOLD_SLOT_MANAGER_H_
 
@@ -10,15 +10,15 @@ class MouseSwipeholdSlotManager : public PositionSlotManager {
  public:
   static MouseSwipeholdSlotManager* GetInstance();
 
-  // Milliseconds from the last touch to now, both counted from the start of the day: the difference jumps at midnight.
+  // Milliseconds since the last touch, both times counted from the start of the day: the difference jumps at midnight.
   int ElapsedSinceLastMove() const;
-  // Takes the present time as the last touch and returns it.
+  // Sets the last touch to the current time and returns it.
   int TouchLastMove();
 
  private:
   MouseSwipeholdSlotManager();
 
-  int last_move_time_ = 0;  // milliseconds since the start of the day; a reset leaves it
+  int last_move_time_ = 0;  // milliseconds since the start of the day; a reset does not change it
 };
 
 }  // namespace taviinputmanager

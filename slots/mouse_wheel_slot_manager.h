@@ -1,4 +1,4 @@
-// The finger that a turn of the wheel scrolls with.
+// The contact for scrolling with the wheel.
 #ifndef SLOTS_MOUSE_WHEEL_SLOT_MANAGER_H_
 #define SLOTS_MOUSE_WHEEL_SLOT_MANAGER_H_
 

@@ -1,4 +1,4 @@
-// The pool of fingers for touch input of the host.
+// The pool of contacts for touch input of the host.
 #ifndef SLOTS_MULT_POINT_SLOT_MANAGER_H_
 #define SLOTS_MULT_POINT_SLOT_MANAGER_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// Keeps a book apart from MacroSlotManager's over the same slots.
+// Shares its slots with MacroSlotManager but has separate records.
 class MultPointSlotManager : public PointPoolSlotManager {
  public:
   static MultPointSlotManager* GetInstance() {

@@ -25,7 +25,7 @@ void MultipointSlotManager::Reset() {
 bool MultipointSlotManager::PressAt(double x, double y) {
   Entry* entry = FindPoint(x, y);
   if (!entry) entry = FindFree();
-  if (!entry) return false;  // every finger of the pool is down
+  if (!entry) return false;  // every contact of the pool is down
   *entry = {x, y, true};
   Select(entry);
   return true;

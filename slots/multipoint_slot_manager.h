@@ -1,4 +1,4 @@
-// The pool of fingers for taps.
+// The pool of contacts for taps.
 #ifndef SLOTS_MULTIPOINT_SLOT_MANAGER_H_
 #define SLOTS_MULTIPOINT_SLOT_MANAGER_H_
 
@@ -8,9 +8,9 @@
 
 namespace taviinputmanager {
 
-// A finger is known by where it is, not by who asked for it: press and release are paired by comparing points, exactly.
-// Points are fractions of the display. The slot touched last is the one that the commands speak of; -1 before that.
-class MultipointSlotManager : public SlotManager {
+// A contact is identified by its position, not by who requested it: press and release are paired by comparing points,
+// exactly. Points are fractions of the display. Commands are about the slot used last; -1 before that.
+class MultipointSlotManager final : public SlotManager {
  public:
   static MultipointSlotManager* GetInstance() {
     static MultipointSlotManager instance;
@@ -19,18 +19,18 @@ class MultipointSlotManager : public SlotManager {
 
   bool HasTouch() const override;
   LineBuffer PressLine() override;
-  // Frees every slot. Points stay, so that a tap at an old point gets its old slot back.
+  // Frees every slot. Points stay, so that a tap at a previous point gets its previous slot.
   void Reset() override;
 
-  // After each of these, and only when it returns true, the caller sends UpdateLine.
+  // After each of these, the caller sends UpdateLine, but only if it returned true.
 
-  // The slot that has this point, in use or not; else the first free one. False when all are in use.
+  // Takes the slot that has this point, in use or not; otherwise the first free one. False if all are in use.
   bool PressAt(double x, double y);
-  // Puts a point into a given slot. False for a slot of another's.
+  // Sets the point of a given slot. False for a slot of another pool.
   bool SetSlot(int id, double x, double y);
-  // Frees the slot that has this point, in use or not. False when none has it.
+  // Frees the slot that has this point, in use or not. False if none has it.
   bool ReleaseAt(double x, double y);
-  // Frees a given slot. False for a slot of another's.
+  // Frees a given slot. False for a slot of another pool.
   bool ReleaseSlot(int id);
 
  private:
@@ -48,7 +48,7 @@ class MultipointSlotManager : public SlotManager {
   bool IsDown(int id) const override;
   Entry* FindPoint(double x, double y);
   Entry* FindFree();
-  // Null for a slot that is not of this pool.
+  // Null for a slot of another pool.
   Entry* EntryOf(int id);
   const Entry* EntryOf(int id) const;
   void Select(const Entry* entry);

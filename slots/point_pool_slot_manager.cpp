@@ -3,7 +3,7 @@
 namespace taviinputmanager {
 namespace {
 
-// Stands in the entry of a slot that is taken by number.
+// The entry of a slot that is taken by number.
 constexpr QPointF kPlaceholder(1.0, 1.0);
 
 }  // namespace

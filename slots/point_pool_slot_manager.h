@@ -1,4 +1,4 @@
-// A pool of eight fingers that are plain entries in a book: its users build the commands.
+// A pool of eight contacts that only records points: its users build the commands.
 #ifndef SLOTS_POINT_POOL_SLOT_MANAGER_H_
 #define SLOTS_POINT_POOL_SLOT_MANAGER_H_
 
@@ -12,10 +12,10 @@
 
 namespace taviinputmanager {
 
-// Points are compared as QPointF compares them, which is fuzzy. A null point means that the entry is free, so a contact
-// at exactly (0, 0) does not hold its slot.
+// Points are compared like QPointF compares them, which is fuzzy. A null point means that the entry is free, so a
+// contact at exactly (0, 0) does not keep its slot.
 //
-// Main thread, but for Reset.
+// Main thread, except Reset.
 class PointPoolSlotManager : public SlotManager {
  public:
   static constexpr int kSlotCount = 8;
@@ -26,18 +26,18 @@ class PointPoolSlotManager : public SlotManager {
   // Frees every slot. Any thread.
   void Reset() override { reset_.Make(); }
 
-  // The slot that holds `point`, or a free one, which then holds it; kNoSlot when there is none.
+  // The slot that has `point`, or a free one, which then has it; kNoSlot if there is none.
   int Allocate(const QPointF& point);
-  // The first free slot, which stays free; kNoSlot when there is none.
+  // The first free slot, which stays free; kNoSlot if there is none.
   int FindFree() const;
-  // Takes a slot for a user who does not keep its point here.
+  // Takes a slot for a user who does not record its point here.
   void Reserve(int id);
   void SetPoint(int id, const QPointF& point);
   void Free(int id);
-  // Frees the slot that holds `point` and returns it, or kNoSlot.
+  // Frees the slot that has `point` and returns it, or kNoSlot.
   int FreeAt(const QPointF& point);
   bool Contains(const QPointF& point) const;
-  // The slots taken.
+  // The number of slots taken.
   QSet<int> ActiveSlots() const;
 
  protected:
@@ -48,9 +48,9 @@ class PointPoolSlotManager : public SlotManager {
 
   using Points = std::array<QPointF, kSlotCount>;  // entry i is slot kFirstSlot + i
 
-  // -1 for a point that no entry holds.
+  // -1 for a point that no entry has.
   int IndexOf(const QPointF& point) const;
-  // After a reset that was asked for. The only way to the points.
+  // Applies a requested reset first. The only access to the points.
   Points& Book() const;
 
   mutable ClearRequest reset_;

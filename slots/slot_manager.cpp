@@ -12,14 +12,17 @@ SlotManager::~SlotManager() = default;
 LineBuffer SlotManager::UpdateLine() {
   const int id = slot_id_;
   if (id == kNoSlot) return {};
-  if (!HasTouch()) return ReleaseLine();
+  return HasTouch() ? CheckedPressLine(id) : ReleaseLine();
+}
+
+LineBuffer SlotManager::CheckedPressLine(int id) {
   LineBuffer line = PressLine();
   if (!IsDown(id)) line.Clear();
   return line;
 }
 
 LineBuffer SlotManager::PressLineAt(int x, int y) const {
-  const int id = slot_id_;  // asking the host may select another one
+  const int id = slot_id_;  // the call to the host may select another one
   if (id == kNoSlot) return {};
   display_->WindowToTouch(x, y);
   if (x == kNoPosition || y == kNoPosition) return {};
@@ -32,7 +35,7 @@ LineBuffer SlotManager::RelativePressLineAt(double x, double y) const {
   int touch_x = kNoPosition;
   int touch_y = kNoPosition;
   display_->RelativeToTouch(touch_x, touch_y, x, y);
-  if (touch_x == kNoPosition || touch_y == kNoPosition) return {};  // no display to be on
+  if (touch_x == kNoPosition || touch_y == kNoPosition) return {};  // there is no display
   return guest_command::SlotPress(id, touch_x, touch_y);
 }
 

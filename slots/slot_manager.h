@@ -1,4 +1,4 @@
-// A finger on the guest's screen: one of its numbered touch slots, and where it is.
+// A contact on the guest's screen: one of its numbered touch slots, and its position.
 #ifndef SLOTS_SLOT_MANAGER_H_
 #define SLOTS_SLOT_MANAGER_H_
 
@@ -12,8 +12,8 @@ class DisplayGeometry;
 
 // Builds lines and sends nothing: the caller sends. An empty line means that there is nothing to send.
 //
-// Main thread only. The manager is the sole record of whether its contact is down; nothing asks the guest. Each fixed
-// slot has one owner at a time; a second user of a slot moves the same contact.
+// Main thread only. The manager is the only record of whether its contact is down; the guest cannot be asked. Each
+// fixed slot has one owner at a time; a second user of a slot moves the same contact.
 class SlotManager {
  public:
   // No contact; every command is empty.
@@ -23,15 +23,15 @@ class SlotManager {
   SlotManager& operator=(const SlotManager&) = delete;
   virtual ~SlotManager();
 
-  // Whether the contact should be down at present.
+  // Whether the contact should currently be down.
   virtual bool HasTouch() const = 0;
-  // Press, or move, to the stored position.
+  // Presses or moves to the stored position.
   virtual LineBuffer PressLine() = 0;
-  // Forgets the contact. The guest's finger stays as it is until a release is sent.
+  // Clears the contact. The guest's contact stays as it is until a release is sent.
   virtual void Reset() = 0;
 
-  // What brings the guest in line with this manager: a press or a release. Empty where the host, asked for its display
-  // on the way, lifted the finger.
+  // The line that makes the guest match this manager: a press or a release. Empty if the host, when asked for its
+  // display, released the contact.
   LineBuffer UpdateLine();
   // In window pixels.
   LineBuffer PressLineAt(int x, int y) const;
@@ -39,7 +39,7 @@ class SlotManager {
   LineBuffer RelativePressLineAt(double x, double y) const;
   LineBuffer ReleaseLine() const;
 
-  // The same, for those who keep a command.
+  // The same, for callers that keep the command.
   QString BuildPressCommand() { return PressLine(); }
   QString BuildUpdateCommand() { return UpdateLine(); }
   QString BuildPressCommandAt(int x, int y) const { return PressLineAt(x, y); }
@@ -57,6 +57,9 @@ class SlotManager {
   void SetSlotId(int slot_id) { slot_id_ = slot_id; }
 
  private:
+  // Empty if contact `id` is up by then.
+  LineBuffer CheckedPressLine(int id);
+
   int slot_id_;
   const DisplayGeometry* display_;  // the singleton
 };

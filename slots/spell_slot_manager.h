@@ -1,4 +1,4 @@
-// The finger that casts. Its slot is shared with the inner walk, which aims the same cast.
+// The contact of a cast. Its slot is shared with the inner walk, which aims the same cast.
 #ifndef SLOTS_SPELL_SLOT_MANAGER_H_
 #define SLOTS_SPELL_SLOT_MANAGER_H_
 

@@ -10,12 +10,13 @@ namespace taviinputmanager {
 namespace {
 
 constexpr int kWalkSlot = 2;
-constexpr int kInnerWalkSlot = 6;  // the cast's
+constexpr int kInnerWalkSlot = 6;  // the slot of casts
 constexpr double kDiagonal = 0.70710678118;
 
 bool IsOneKey(quint32 word) { return DirectionFlags::Sign(word) != 0; }
 
-// `sign` times `reach` away from `from`. A keymap's radius may be any number, so the sum is made in doubles.
+// At a distance of `sign` times `reach` from `from`. A keymap's radius may be any number, so the sum is computed in
+// doubles.
 int Offset(int from, int sign, int reach) { return Truncate(from + sign * static_cast<double>(reach)); }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The finger of a walk by four keys, and the stick that it moves on.
+// The contact of a walk with four keys, and its stick.
 #ifndef SLOTS_SWIPEHOLD_SLOT_MANAGER_H_
 #define SLOTS_SWIPEHOLD_SLOT_MANAGER_H_
 
@@ -11,36 +11,37 @@
 
 namespace taviinputmanager {
 
-// Instance 0 walks; 1 is the inner walk of a cast, on the cast's own slot; 2 and up have no slot and compute the points
-// of virtual sticks.
+// Instance 0 is for walks; 1 for the inner walk of a cast, on the cast's own slot; 2 and up have no slot and compute
+// the points of virtual sticks.
 class SwipeholdSlotManager : public SlotManager {
  public:
-  // Any index but 0, 1 and 2 shares one object, which takes on the index asked for last.
+  // All indexes except 0, 1 and 2 share one object, which has the index that was requested last.
   static SwipeholdSlotManager* GetInstance(int index);
 
   bool HasTouch() const override { return directions_.IsAny(); }
   LineBuffer PressLine() override;
-  // Forgets the keys. Centre, radii and the order in which keys went down stay.
+  // Clears the keys. Centre, radii and the order of the key presses stay.
   void Reset() override;
 
   void SetDirectionKey(int direction, bool pressed);
-  // Places the stick, at the first key of a walk. The centre is a fraction of the display, the radius one of its width
-  // on both axes.
+  // Sets the stick's geometry, at the first key of a walk. The centre is a fraction of the display, the radius a
+  // fraction of its width on both axes.
   void Configure(const QPointF& relative_center, double relative_radius, bool just_use_last);
-  // Both radii become `factor` times what Configure gave them.
+  // Both radii become `factor` times their values from Configure.
   void SetRadiusFactor(double factor);
 
-  // Where the keys held now put the finger, in pixels.
+  // The target of the held keys, in pixels.
   QPoint GetTargetPoint() const;
   const QPoint& GetCenter() const { return center_; }
   int GetRadius() const { return radius_; }
   quint32 GetDirectionX() const { return directions_.x; }
   quint32 GetDirectionY() const { return directions_.y; }
-  // One key alone counts: the other axis is free.
+  // Only one key counts: the other axis is not held.
   bool IsSingleAxis() const;
   // Keys are held, and they cancel each other.
   bool IsTargetAtCenter() const;
-  // The directions that make up the words on each axis whose word differs from the present one, up, down, left, right.
+  // The directions in the words on each axis whose word differs from the current one, in the order up, down, left,
+  // right.
   QList<int> DiffDirections(quint32 x_flags, quint32 y_flags) const;
 
  private:
@@ -48,10 +49,10 @@ class SwipeholdSlotManager : public SlotManager {
 
   int index_;
   DirectionFlags directions_;
-  DirectionFlags last_directions_;  // the key pressed last on each axis; no release clears it
+  DirectionFlags last_directions_;  // the key pressed last on each axis; a release does not clear it
   int radius_ = 0;                  // pixels
   int diagonal_radius_ = 0;
-  int base_radius_ = 0;  // before the factor of the radius switch
+  int base_radius_ = 0;  // without the factor of the radius switch
   int base_diagonal_radius_ = 0;
   QPoint center_;  // pixels
   bool just_use_last_ = false;

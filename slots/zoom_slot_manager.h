@@ -1,4 +1,4 @@
-// Whether a pinch by key is under way.
+// Whether a pinch by key is in progress.
 #ifndef SLOTS_ZOOM_SLOT_MANAGER_H_
 #define SLOTS_ZOOM_SLOT_MANAGER_H_
 
@@ -15,7 +15,7 @@ class ZoomSlotManager {
   virtual ~ZoomSlotManager() = default;
   virtual void Reset() { busy = false; }
 
-  bool busy = false;  // no other pinch starts; stays set where the pool had no two slots
+  bool busy = false;  // no other pinch starts; stays set if the pool did not have two slots
 
  private:
   ZoomSlotManager() = default;

@@ -1,6 +1,6 @@
-"""Completion of `tavi` for shells, made of its pages of help."""
+"""Completion of `tavi` for shells, generated from its help pages."""
 
-# What the names of files end in, by command and the word that stands for the name in its usage or options.
+# The endings of file names, by command and by the placeholder for the name in its usage or options.
 KEYMAPS, RECORDS, PICTURES = ("yaml", "yml"), ("json",), ("png", "jpg", "jpeg", "webp", "bmp")
 FILES = {
     "KEYMAP": KEYMAPS,
@@ -21,7 +21,7 @@ FILES = {
     "--background": PICTURES,
     "--input": (),  # any
 }
-# What to offer for other values, by the word that stands for them.
+# The choices for other values, by their placeholder.
 WORDS = {
     "WxH": "1280x720 1920x1080 2560x1440",
     "SYSTEM": "linux android",
@@ -31,7 +31,7 @@ MADE = "# Made by tools/make_command_files.py of what tavi --help says."
 
 
 def endings(command, option, value):
-    """What the name of a file ends in, () for any; None where no file is meant."""
+    """The endings of a file name, () for any; None if the value is not a file."""
     for key in (option, f"{command} {value}", value):
         if key in FILES:
             return FILES[key]
@@ -39,7 +39,7 @@ def endings(command, option, value):
 
 
 def operand(page):
-    """What stands behind the options of a command: the ending of its files, or None."""
+    """The arguments after a command's options: the endings of its files, or None."""
     words = page.usage[0].replace("[", " ").replace("]", " ").replace("...", " ").split()
     known = [endings(page.command, "", word) for word in words if word in ("KEYMAP", "SCRIPT", "FILE")]
     return tuple(ending for found in known for ending in found or ()) if known else None
@@ -188,7 +188,7 @@ def zsh_arguments(page):
     again = "*" if "[OPTIONS]]..." in page.usage[0] else ""  # once for each file
     lines = [f"      '{again}{option.name}[{zsh_quoted(option.text)}]{zsh_value(page.command, option)}'"
              for option in page.options]
-    lines.append("      '--help[tells about the command]'")
+    lines.append("      '--help[shows the help page]'")
     if operand(page) is not None:
         lines.append(f"      '*:file:{zsh_files(operand(page))}'")
     return f"    '{page.command}')\n      _arguments \\\n  " + " \\\n  ".join(lines) + " ;;\n"
@@ -200,10 +200,10 @@ def zsh_described(words):
 
 def zsh(pages):
     first = [(name, page.summary) for name, page in pages.pages.items() if " " not in name]
-    first += [(group, "works with records") for group in pages.groups] + [("help", "tells about a command")]
+    first += [(group, "works with records") for group in pages.groups] + [("help", "shows the help page of a command")]
     out = f"#compdef tavi\n{MADE}\n\n_tavi() {{\n  local command=$words[2]\n  if (( CURRENT == 2 )); then\n"
     out += f"    local -a commands=({zsh_described(first)})\n"
-    out += "    _describe command commands\n    _arguments '--help[tells about commands]' '--version[tells the version]'\n"
+    out += "    _describe command commands\n    _arguments '--help[lists the commands]' '--version[prints the version]'\n"
     out += "    return\n  fi\n"
     out += f"  if [[ $command == help ]]; then\n    local -a commands=({zsh_described(first[:-1])})\n"
     out += "    (( CURRENT == 3 )) && _describe command commands\n    return\n  fi\n"
@@ -256,7 +256,7 @@ def fish_condition(pages, name):
 def fish(pages):
     out = f"{MADE}\ncomplete -c tavi -f\n"
     none = "__fish_use_subcommand"
-    out += fish_line(none, "-l help", "tells about commands") + fish_line(none, "-l version", "tells the version")
+    out += fish_line(none, "-l help", "lists the commands") + fish_line(none, "-l version", "prints the version")
     for name, page in pages.pages.items():
         if " " not in name:
             out += fish_line(none, f"-a {name}", page.summary)
@@ -266,12 +266,12 @@ def fish(pages):
         condition = f"__fish_seen_subcommand_from {group}; and not __fish_seen_subcommand_from {' '.join(words)}"
         for word in words:
             out += fish_line(condition, f"-a {word}", pages.pages[f"{group} {word}"].summary)
-    out += fish_line(none, "-a help", "tells about a command")
+    out += fish_line(none, "-a help", "shows the help page of a command")
     out += f"complete -c tavi -n '__fish_seen_subcommand_from help' -a {fish_quoted(' '.join(first_words(pages)))}\n"
     for name, page in pages.pages.items():
         condition = fish_condition(pages, name)
         out += "".join(fish_option(condition, name, option) for option in page.options)
-        out += fish_line(condition, "-l help", "tells about the command")
+        out += fish_line(condition, "-l help", "shows the help page")
         found = operand(page)
         if found:
             out += fish_line(condition, f"-k -x -a {fish_quoted('(' + fish_files(found) + ')')}", "file")

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Line coverage by room, and every line that no test reached.
+"""Line coverage by folder, and every line that no test runs.
 
     coverage_by_room.py GCOVR_JSON LEAST_PERCENT      exits with 1 below it
 """

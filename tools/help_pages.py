@@ -1,4 +1,4 @@
-"""What `tavi --help` and its pages say, as data: for what is made of them, and for tests."""
+"""The help pages of `tavi` as data, for the files generated from them and for tests."""
 import os
 import re
 import subprocess
@@ -8,12 +8,12 @@ from dataclasses import dataclass
 @dataclass
 class Option:
     name: str   # with its dashes
-    value: str  # the word for its value; "" for one that takes none
-    text: str   # what it is for, in one line
+    value: str  # the placeholder for its value; "" for a flag
+    text: str   # its description, on one line
 
 
 class Page:
-    """One page of help. Its paragraphs are parted by empty lines; indented lines are lists or literal."""
+    """One help page. Empty lines separate its paragraphs; indented lines are lists or literal."""
 
     OPTION = re.compile(r"^  (--?[a-z-]+)(?:, -[a-z])?(?: ([A-Za-z]+))?(?:  +(.*))?$")
 
@@ -27,7 +27,7 @@ class Page:
 
     @property
     def usage(self):
-        """The lines behind "Usage: "."""
+        """The lines after "Usage: "."""
         return re.search(r"^Usage: (.+(?:\n       .+)*)", self.text, re.M).group(1).split("\n       ")
 
     @property
@@ -52,7 +52,7 @@ class Page:
 
     @property
     def example(self):
-        """For a shell: all that stands behind the word."""
+        """For a shell: everything after the word."""
         return self.text.split("\n\nExample: ", 1)[1]
 
 

@@ -5,13 +5,15 @@
 #   tools/install-dependencies.sh [GROUP...]      without a word: build
 #   tools/install-dependencies.sh names GROUP...  installs nothing, and prints the packages' names
 #
-# Groups: arm64 arm64-libraries build test qt6 docs packaging lint bench plot guest guest-programs windows coverage valgrind fuzz mutants
+# Groups: arm64 arm64-libraries build test qt6 clang docs packaging lint bench plot guest guest-programs windows coverage
+# valgrind fuzz mutants
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
   libyaml-dev libsdl2-dev libevdev-dev)
 test=(groff-base libgtest-dev libxcb-xfixes0-dev libxcb-xtest0-dev python3 python3-jsonschema python3-yaml xvfb)
 qt6=(qt6-base-dev)
+clang=(clang)
 docs=(doxygen)
 packaging=(autopkgtest debhelper debootstrap dpkg-dev lintian)
 lint=(clang-format-14 clang-tidy-14)
@@ -39,6 +41,7 @@ for group in "${@:-build}"; do
     build) packages+=("${build[@]}") ;;
     test) packages+=("${test[@]}") ;;
     qt6) packages+=("${qt6[@]}") ;;
+    clang) packages+=("${clang[@]}") ;;
     docs) packages+=("${docs[@]}") ;;
     packaging) packages+=("${packaging[@]}") ;;
     lint) packages+=("${lint[@]}") ;;

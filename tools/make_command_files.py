@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes what is written beside the pages of help anew: the manual page and the completion of shells.
+"""Generates the files from the help pages: the manual page and the completion of shells.
 
     tools/make_command_files.py TAVI
 
-TAVI is the program. To be run when a command or an option has changed; a test tells when it was forgotten.
+TAVI is the program. Run it when a command or an option has changed; a test fails if you forget it.
 """
 import sys
 from pathlib import Path

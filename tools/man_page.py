@@ -1,4 +1,4 @@
-"""The manual page of `tavi`, made of its pages of help."""
+"""The manual page of `tavi`, generated from its help pages."""
 import re
 
 HEAD = r'''.\" Made by tools/make_command_files.py of what tavi --help says.
@@ -53,7 +53,7 @@ def term_of(line):
 
 
 def indented(lines):
-    """A list, where words stand in two columns; else literal."""
+    """A list if the words are in two columns, otherwise literal."""
     if not any(re.match(r"^  \S.*?  +\S", line) for line in lines):
         return literal([line.strip() for line in lines])
     out = []

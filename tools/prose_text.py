@@ -1,4 +1,4 @@
-"""The prose of a file of this tree: what a reader reads of it, without the code."""
+"""The prose of a file of this tree: the text for its readers, without the code."""
 import re
 from typing import NamedTuple
 
@@ -8,6 +8,8 @@ LIST_MARK = re.compile(r"^\s*(?:[-*]|\d+\.) ")
 TABLE_RULE = re.compile(r"^\|[-| ]+\|$")
 COMMENT = re.compile(r"^(?P<code>(?:[^\"'/]|/(?!/)|\"(?:[^\"\\]|\\.)*\"|'(?:[^'\\]|\\.)*')*)//(?P<text>.*)$")
 RULE = re.compile(r"-{4}")
+HASH_COMMENT = re.compile(r"^\s*#(?:!.*| ?(.*))$")
+DOCSTRING = re.compile(r'"""(.*?)"""', re.DOTALL)
 LITERAL = re.compile(r'R"\((.*?)\)"|"((?:[^"\\\n]|\\.)*)"', re.DOTALL)
 
 
@@ -65,7 +67,7 @@ def comment_passages(text):
 
 
 def literal_passages(text):
-    """The texts of a program's source: string literals of several words, those side by side as one."""
+    """The texts in a program's source: string literals of several words; adjacent literals are one text."""
     code = "\n".join("" if line.lstrip().startswith(("#include", "//")) else line for line in text.split("\n"))
     end, start, parts = 0, 0, []
     for found in [*LITERAL.finditer(code), None]:
@@ -81,13 +83,32 @@ def literal_passages(text):
             end = found.end()
 
 
+def hash_passages(text):
+    """The comments of a script and of CMake, and the docstrings of Python."""
+    for found in DOCSTRING.finditer(text):
+        yield Passage(text.count("\n", 0, found.start()) + 1, joined(found[1].split("\n")), False)
+    start, lines = 0, []
+    for number, line in enumerate([*text.splitlines(), ""], 1):
+        found = HASH_COMMENT.match(line)
+        if lines and not (found and found[1]):
+            yield Passage(start, joined(lines), False)
+            lines.clear()
+        if found and found[1]:
+            start = start if lines else number
+            lines.append(found[1])
+
+
+KINDS = {".md": [markdown_passages], ".h": [comment_passages], ".cpp": [comment_passages, literal_passages],
+         ".py": [hash_passages], ".sh": [hash_passages], ".cmake": [hash_passages], ".txt": [hash_passages],
+         ".yaml": [hash_passages], "": [hash_passages]}
+
+
 def passages(path):
     text = path.read_text(encoding="utf-8")
-    kinds = {".md": markdown_passages, ".h": comment_passages, ".cpp": literal_passages}
-    return list(kinds[path.suffix](text))
+    return [passage for kind in KINDS[path.suffix] for passage in kind(text)]
 
 
-# Before a small letter a full stop is one of an abbreviation.
+# A full stop before a lower-case letter belongs to an abbreviation.
 SENTENCE_END = re.compile(r"(?<=[\w`)\"*\]][.!?]) +(?=[A-Z0-9`\"*\[(])")
 WORD = re.compile(r"\w+")
 LINK = re.compile(r"\[[^]]*\]\([^)]*\)")

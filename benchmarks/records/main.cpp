@@ -1,9 +1,10 @@
-// What a long record costs, beside a bare parse of the same bytes in the same run.
+// Measures the cost of a long record, and of just parsing the same bytes in the same run.
 //
-//   tavi_bench_records [ACTIONS]    records so many actions (1000000), saves, loads, walks, replays, merges and stamps
+//   tavi_bench_records [ACTIONS]    records this many actions (1000000), saves, loads, walks, replays, merges and
+//   stamps
 //                                   them, and prints the figures as JSON
 //
-// Memory is what the system has given to the program: the most of it during a call, beyond what stays.
+// Memory is what the system has given to the program: the maximum during a call, minus what stays allocated.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -33,10 +34,10 @@ namespace taviinputmanager::bench {
 namespace {
 
 constexpr int kDefaultActions = 1000000;
-constexpr int kRepetitions = 3;  // the least counts
+constexpr int kRepetitions = 3;  // the minimum counts
 constexpr double kMebibyte = 1024.0 * 1024.0;
 
-// Of the processor, so that what else the machine does falls out.
+// Processor time, so that other load on the machine does not count.
 double SecondsOf(const std::function<void()>& work) {
   const std::clock_t start = std::clock();
   work();
@@ -49,13 +50,13 @@ double LeastSecondsOf(const std::function<void()>& work) {
   return least;
 }
 
-// Bytes in use, those of large blocks of their own included.
+// Bytes in use, including large blocks with a mapping of their own.
 double HeapInUse() {
   const struct mallinfo2 info = mallinfo2();
   return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-// Of this program, as "VmRSS" and "VmHWM" tell: what it has of the memory, and the most that it has had.
+// The program's resident memory, from "VmRSS" and "VmHWM": the current amount and the maximum.
 double MebibytesOf(const char* name) {
   QFile status(QStringLiteral("/proc/self/status"));
   if (!status.open(QIODevice::ReadOnly)) return 0;
@@ -64,19 +65,19 @@ double MebibytesOf(const char* name) {
   return lines.mid(start, lines.indexOf("kB", start) - start).trimmed().toDouble() / 1024;
 }
 
-// What `work` needs for a while, beyond what is in use after it.
+// The memory that `work` needs temporarily, beyond what is in use after it.
 double PassingMebibytesOf(const std::function<void()>& work) {
   malloc_trim(0);
   QFile most(QStringLiteral("/proc/self/clear_refs"));
-  if (most.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) most.write("5");  // the most begins anew
+  if (most.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) most.write("5");  // resets the maximum
   const double before = MebibytesOf("VmRSS");
   work();
   const double most_used = MebibytesOf("VmHWM");
-  malloc_trim(0);  // what is free is given back
+  malloc_trim(0);  // returns free memory to the system
   return most_used - std::max(before, MebibytesOf("VmRSS"));
 }
 
-// Taps: a press at a place of its own, and its release a little later.
+// Taps: a press at a unique point, and its release a little later.
 void RecordTaps(int count) {
   auto* clock = static_cast<tavi::VirtualEventDispatcher*>(QCoreApplication::eventDispatcher());
   StartRecord(QString(), QString());
@@ -181,7 +182,7 @@ class Run {
     TellBesideParse("start", start);
     Tell("replay_s", least);
   }
-  // `start` becomes the least of itself, unless it is 0, and what the call alone took.
+  // `start` becomes the minimum of itself, unless it is 0, and the time of this call.
   double ReplayOnce(double* start) {
     auto* clock = static_cast<tavi::VirtualEventDispatcher*>(QCoreApplication::eventDispatcher());
     lines_sent = 0;
@@ -193,7 +194,7 @@ class Run {
         clock->Advance(kStepMs);
       }
     });
-    Expect(lines_sent >= actions_ - 1, "the replay loses actions");  // the start marker is no line
+    Expect(lines_sent >= actions_ - 1, "the replay loses actions");  // the start marker is not a line
     StopAllReplay();
     clock->Settle();
     return seconds;

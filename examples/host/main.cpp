@@ -1,5 +1,5 @@
-// A host in forty lines: loads a keymap, clicks the key F, and prints what the guest is sent.
-// A real host has a window, feeds the events of its guest view to OnQtInputEvent, and sends the lines to the guest.
+// A host in forty lines: loads a keymap, clicks the key F, and prints the lines for the guest. A real host has a
+// window, feeds the events of its guest view to OnQtInputEvent, and sends the lines to the guest.
 #include <cstdio>
 #include <taviinputmanager/taviinputmanager.h>
 

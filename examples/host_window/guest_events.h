@@ -1,5 +1,5 @@
-// Events of the view, as the library is told them: with places in the guest's pixels. The two Qts read and make them
-// otherwise, so there is a file for each.
+// Creates the view's events for the library, with positions in the guest's pixels. The two Qts read and create events
+// differently, so there is a file for each.
 #ifndef EXAMPLES_HOST_WINDOW_GUEST_EVENTS_H_
 #define EXAMPLES_HOST_WINDOW_GUEST_EVENTS_H_
 
@@ -8,18 +8,18 @@
 #include <QMouseEvent>
 #include <QTouchEvent>
 
-using PlaceMap = std::function<QPointF(const QPointF&)>;  // from the view's pixels to the guest's
+using PlaceMap = std::function<QPointF(const QPointF&)>;  // converts the view's pixels to the guest's
 
-// Where the event is in the view.
+// The event's position in the view.
 QPointF PlaceOf(const QMouseEvent& event);
 
 QMouseEvent MouseForGuest(QEvent::Type type, const QMouseEvent& event, const PlaceMap& to_guest);
 
-// The library goes by which fingers are there. Qt lists one that goes up once more, and then says nothing for as long
-// as the others rest: those that go up are left out.
+// The library compares which contacts are there. Qt lists a lifted one once more, and then sends nothing while the
+// others do not move: so lifted ones are left out.
 QTouchEvent TouchForGuest(const QTouchEvent& event, const PlaceMap& to_guest);
 
-// No finger is left.
+// No contact is left.
 QTouchEvent TouchEnd();
 
 #endif  // EXAMPLES_HOST_WINDOW_GUEST_EVENTS_H_

@@ -12,7 +12,7 @@ QMouseEvent MouseForGuest(QEvent::Type type, const QMouseEvent& event, const Pla
           event.modifiers()};
 }
 
-// A point that a program makes has no device, and the library reads its place in the scene: Qt lets nobody set another.
+// A point that a program creates has no device, so the library reads its scene position: Qt lets programs set no other.
 QTouchEvent TouchForGuest(const QTouchEvent& event, const PlaceMap& to_guest) {
   QList<QEventPoint> points;
   for (const QEventPoint& point : event.points()) {

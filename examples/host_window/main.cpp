@@ -1,4 +1,4 @@
-// A host with a window. It prints what the guest is sent.
+// A host with a window. It prints the lines for the guest.
 //
 //   host_window KEYMAP
 #include <cstdio>

@@ -24,7 +24,7 @@ struct KeptDevice {
   input_event rest[DeviceKeeper::kMostRestEvents];
 };
 
-// A message carries the rest events, and beside them the descriptor.
+// A message contains the rest events, with the descriptor as ancillary data.
 struct Message {
   Message(void* bytes, size_t size) : part{bytes, size} {
     header.msg_iov = &part;
@@ -38,8 +38,8 @@ struct Message {
   alignas(cmsghdr) char control[CMSG_SPACE(sizeof(int))] = {};
 };
 
-// From here to the end of the namespace: in the forked process, whose program may have had threads. Nothing but calls
-// that are safe in a signal's handler; no memory of the heap.
+// From here to the end of the namespace: code of the forked process, whose parent may have threads. It uses only
+// async-signal-safe calls and no heap memory.
 
 void CloseFrom(int first) {
   rlimit limit{};
@@ -47,16 +47,16 @@ void CloseFrom(int first) {
   for (int file = first; static_cast<rlim_t>(file) < limit.rlim_cur; ++file) close(file);
 }
 
-// The socket is the one descriptor that stays, as the first of all.
+// The socket is the only descriptor that stays, as the first.
 void LeaveProgram(int socket) {
   dup2(socket, 0);
   if (syscall(SYS_close_range, 1U, ~0U, 0U) != 0) CloseFrom(1);  // kernels before 5.9 do not know it
   setsid();
   prctl(PR_SET_NAME, kProcessName);
-  if (chdir("/") != 0) return;  // a mount that is held a little longer, no more
+  if (chdir("/") != 0) return;  // at worst, a mount stays busy a little longer
 }
 
-// False when the program is gone, or has closed its end.
+// False if the program has exited, or has closed its end.
 bool Receive(KeptDevice* device) {
   Message message(device->rest, sizeof(device->rest));
   ssize_t size = 0;
@@ -95,7 +95,7 @@ DeviceKeeper::~DeviceKeeper() {
   }
 }
 
-// No signal reaches the new process before it has settled, and none after.
+// Signals are blocked until the new process is set up, and all are ignored afterwards.
 std::string DeviceKeeper::Start() {
   int sockets[2];
   if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets) != 0) {

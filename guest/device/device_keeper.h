@@ -1,7 +1,8 @@
-// A small process of its own that holds devices for a program, and lifts what is down on them when that program ends.
+// A small process of its own that keeps devices open for a program, and lifts what is down on them when the program
+// ends.
 //
-// When a program is killed the kernel takes its devices away, but some compositors never tell their clients that the
-// fingers on them are gone. So they are lifted first, and the devices go when readers have seen it.
+// When a program is killed, the kernel removes its devices, but some compositors never report to their clients that the
+// fingers on them are gone. So they are lifted first, and the devices are removed once readers have seen it.
 //
 //   program        makes a device -- sends it ------- works ------------- killed, or ends the keeper
 //   keeper    forked ------------------- holds it -------------------------------- lifts -- 100 ms -- ends
@@ -16,25 +17,25 @@
 
 namespace taviguest {
 
-// Not bound to a thread; the program may have threads. The keeper is a session of its own and takes no signal but
-// SIGKILL; of the program's descriptors it has those that it is sent. When the keeper is killed, the program keeps its
-// devices, and goes on without one.
+// Not bound to a thread; the program may have threads. The keeper is a session of its own and reacts to no signal but
+// SIGKILL; of the program's descriptors it has only those that are sent to it. If the keeper is killed, the program
+// keeps its devices and continues without it.
 class DeviceKeeper {
  public:
   DeviceKeeper() = default;
   DeviceKeeper(const DeviceKeeper&) = delete;
   DeviceKeeper& operator=(const DeviceKeeper&) = delete;
-  // Has everything lifted, and waits until the keeper is gone.
+  // Has everything lifted, and waits until the keeper has exited.
   ~DeviceKeeper();
 
-  // What went wrong, for people, or nothing.
+  // Returns the error, for display, or an empty string.
   std::string Start();
 
-  // Gives it a device to hold, too, and what lifts all that may be down on it; at most kMostRestEvents, and at most
-  // kMostDevices devices. What went wrong, for people, or nothing.
+  // Gives the keeper another device, and the events that lift everything that may be down on it; at most
+  // kMostRestEvents events and kMostDevices devices. Returns the error, for display, or an empty string.
   std::string Keep(int device, const std::vector<input_event>& rest) const;
 
-  // Of the process; 0 before Start.
+  // Of the keeper's process; 0 before Start.
   pid_t process() const { return process_; }
 
   static constexpr size_t kMostRestEvents = 320;

@@ -5,8 +5,8 @@
 
 namespace taviguest {
 
-// Where a device of the guest is: the word of its kind ("screen"), its node ("/dev/input/event5"; the directory in /sys
-// while there is no node), and the name that the kernel knows it by ("tavi screen").
+// Where a device of the guest is: the word for its kind ("screen"), its node ("/dev/input/event5", or its directory in
+// /sys while there is no node), and its name in the kernel ("tavi screen").
 struct DevicePlace {
   std::string word;
   std::string node;

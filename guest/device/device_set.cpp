@@ -16,7 +16,7 @@ constexpr std::chrono::milliseconds kUntilReadersFindIt(300);
 
 void WaitForReaders() { std::this_thread::sleep_for(kUntilReadersFindIt); }
 
-// `error` is one of errno.
+// `error` is an errno value.
 std::string WhyNoDevices(int error) {
   const std::string reason = std::strerror(error);
   switch (error) {
@@ -24,8 +24,8 @@ std::string WhyNoDevices(int error) {
     case ENODEV:
     case ENXIO: return "there is no /dev/uinput here; \"modprobe uinput\" as root may bring it";
     case EACCES:
-    case EPERM: return "/dev/uinput is not for this user (" + reason + ")";
-    default: return "/dev/uinput makes no device: " + reason;
+    case EPERM: return "this user cannot open /dev/uinput (" + reason + ")";
+    default: return "/dev/uinput cannot create a device: " + reason;
   }
 }
 
@@ -67,7 +67,7 @@ std::string DeviceSet::Make(KernelDevice device) {
 std::string DeviceSet::MakeMissing(const KernelEvents& events) {
   bool is_any_new = false;
   for (const KernelEvent& event : events) {
-    if (devices_.count(event.device) > 0) continue;
+    if (event.type != EV_SYN || devices_.count(event.device) > 0) continue;  // each frame has one
     const std::string error = Make(event.device);
     if (!error.empty()) return error;
     is_any_new = true;
@@ -88,7 +88,7 @@ DevicePlace DeviceSet::PlaceOf(KernelDevice device) const {
   return {word, devices_.at(device).Node(), options_.name + ' ' + word};
 }
 
-// A frame ends in its report.
+// A frame ends with its report.
 std::string DeviceSet::Write(const KernelEvents& events) {
   std::string problem = MakeMissing(events);
   if (!problem.empty()) return problem;
@@ -98,7 +98,7 @@ std::string DeviceSet::Write(const KernelEvents& events) {
     if (event.type != EV_SYN) continue;
     const int error = devices_.at(event.device).Write(frame_);
     frame_.clear();
-    if (error != 0) return std::string("the kernel takes no events: ") + std::strerror(error);
+    if (error != 0) return std::string("the kernel accepts no events: ") + std::strerror(error);
   }
   return {};
 }

@@ -1,4 +1,4 @@
-// The devices that lines are played on, in the kernel.
+// The kernel devices on which lines are played.
 #ifndef GUEST_DEVICE_DEVICE_SET_H_
 #define GUEST_DEVICE_DEVICE_SET_H_
 
@@ -16,24 +16,24 @@ namespace taviguest {
 
 struct DevicePlace;
 
-// Not bound to a thread. The devices are there until the object or the process ends, whichever way; what is held then
-// is lifted first.
+// Not bound to a thread. The devices exist until the object or the process ends, in whatever way; what is held then is
+// lifted first.
 class DeviceSet {
  public:
   explicit DeviceSet(const GuestOptions& options) : options_(options) {}
 
-  // Makes the devices that are there from the start, and returns when readers can have found them. What went wrong, for
-  // people; empty when all devices are there.
+  // Creates the initial devices, and returns when readers can have found them. Returns the error, for display; empty if
+  // all devices exist.
   std::string Open();
 
-  // Screen, keyboard, pointer, gamepad, touchpad, as far as they are there.
+  // Screen, keyboard, pointer, gamepad, touchpad, as far as they exist.
   std::vector<DevicePlace> Places() const;
 
-  // To be told of devices that Write makes.
+  // Is called for devices that Write creates.
   void SetWatcher(std::function<void(const DevicePlace&)> watcher) { watcher_ = std::move(watcher); }
 
-  // Makes the devices that `events` need and that are not there yet, and waits for their readers, as Open does. Each
-  // frame is one write(). What went wrong, or empty.
+  // Creates the devices that `events` need and that do not exist yet, and waits for their readers, like Open. Each
+  // frame is one write(). Returns the error, or an empty string.
   std::string Write(const KernelEvents& events);
 
  private:
@@ -43,10 +43,10 @@ class DeviceSet {
   DevicePlace PlaceOf(KernelDevice device) const;
 
   const GuestOptions options_;
-  DeviceKeeper keeper_;  // outlives the program's own hold on the devices
+  DeviceKeeper keeper_;  // keeps the devices open when the program ends
   std::map<KernelDevice, UinputDevice> devices_;
   std::function<void(const DevicePlace&)> watcher_;
-  std::vector<input_event> frame_;  // kept for its memory
+  std::vector<input_event> frame_;  // kept to reuse its memory
 };
 
 }  // namespace taviguest

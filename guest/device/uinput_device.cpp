@@ -17,7 +17,7 @@ constexpr char kDevices[] = "/sys/devices/virtual/input/";
 constexpr char kNodes[] = "/dev/input/";
 constexpr char kNodeStart[] = "event";
 
-// Says yes to each of the kernel's calls that succeeds, until one does not.
+// Returns true for each successful kernel call, until one fails.
 class Setup {
  public:
   explicit Setup(int file) : file_(file) {}

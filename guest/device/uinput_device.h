@@ -1,4 +1,4 @@
-// One input device in the kernel, made through /dev/uinput.
+// One input device in the kernel, created through /dev/uinput.
 #ifndef GUEST_DEVICE_UINPUT_DEVICE_H_
 #define GUEST_DEVICE_UINPUT_DEVICE_H_
 
@@ -10,7 +10,7 @@
 
 namespace taviguest {
 
-// Not bound to a thread. The device is there from Create on until nobody holds its descriptor any more.
+// Not bound to a thread. The device exists from Create until its descriptor is closed everywhere.
 class UinputDevice {
  public:
   UinputDevice() = default;
@@ -18,13 +18,13 @@ class UinputDevice {
   UinputDevice& operator=(const UinputDevice&) = delete;
   ~UinputDevice();
 
-  // One of errno, or 0 when the device is there.
+  // An errno value, or 0 if the device exists.
   int Create(const DeviceDescription& description, const std::string& name);
 
-  // "/dev/input/event5"; the directory of the device in /sys while it has no such node.
+  // "/dev/input/event5"; the device's directory in /sys while it has no such node.
   std::string Node() const;
 
-  // As one write(). One of errno, or 0.
+  // As one write(). Returns an errno value, or 0.
   int Write(const std::vector<input_event>& events) const;
 
   int file() const { return file_; }
@@ -33,7 +33,7 @@ class UinputDevice {
   int file_ = -1;
 };
 
-// As the kernel takes it. It stamps the time itself.
+// In the kernel's format. The kernel sets the time itself.
 input_event InputEventOf(const KernelEvent& event);
 
 }  // namespace taviguest

@@ -14,16 +14,16 @@ namespace {
 constexpr int kMantissaBits = std::numeric_limits<double>::digits;
 constexpr int kLowestExponent = std::numeric_limits<double>::min_exponent - kMantissaBits;  // of the last bit of all
 
-// No double and no middle of two needs more digits: behind these it only matters whether there is anything.
+// No double, and no midpoint of two, needs more digits: after these it only matters whether any is not 0.
 constexpr size_t kMostDigits = 800;
 
-// Nothing with its first digit beyond these is a double other than 0 and infinity.
+// A number whose first digit is beyond these is 0 or infinity as a double.
 constexpr int kHighestPower = 310;
 constexpr int kLowestPower = -345;
 
 constexpr int kWordBits = 32;
 
-// A whole number of any size, from its low word to its high one. The high one is not 0.
+// A whole number of any size, from its lowest word to its highest, which is not 0.
 class BigNumber {
  public:
   void MultiplyAndAdd(uint32_t factor, uint32_t summand) {
@@ -36,7 +36,7 @@ class BigNumber {
     if (carry != 0) words_.push_back(static_cast<uint32_t>(carry));
   }
 
-  // The remainder.
+  // Returns the remainder.
   uint32_t Divide(uint32_t divisor) {
     uint64_t rest = 0;
     for (size_t i = words_.size(); i-- > 0;) {
@@ -73,7 +73,7 @@ class BigNumber {
   std::vector<uint32_t> words_;
 };
 
-// `number`, and a little more when `has_rest`, times two to the power of `exponent`.
+// `number`, and a little more if `has_rest`, times 2 to the power of `exponent`.
 double Round(const BigNumber& number, bool has_rest, int exponent) {
   const int dropped = std::max(number.CountBits() - kMantissaBits, kLowestExponent - exponent);
   uint64_t mantissa = 0;
@@ -92,7 +92,7 @@ double Round(const BigNumber& number, bool has_rest, int exponent) {
 double NearestDouble(std::string_view digits, int exponent) {
   digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
   if (digits.empty()) return 0;
-  const int64_t power = static_cast<int64_t>(digits.size()) + exponent;  // of the place before the first digit
+  const int64_t power = static_cast<int64_t>(digits.size()) + exponent;  // of the digit before the first
   if (power > kHighestPower) return std::numeric_limits<double>::infinity();
   if (power < kLowestPower) return 0;
   bool has_rest = digits.substr(0, kMostDigits).size() < digits.size() &&
@@ -102,7 +102,7 @@ double NearestDouble(std::string_view digits, int exponent) {
   BigNumber number;
   for (const char digit : digits) number.MultiplyAndAdd(10, static_cast<uint32_t>(digit - '0'));
   for (; tens > 0; --tens) number.MultiplyAndAdd(10, 0);
-  // A word for eight divisions, which take 27 bits, and two for the mantissa.
+  // One word for eight divisions, which need 27 bits, and two for the mantissa.
   const int words = -tens / 8 + 3;
   number.ShiftUpByWords(words);
   for (; tens < 0; ++tens) has_rest = number.Divide(10) != 0 || has_rest;

@@ -1,4 +1,4 @@
-// Places on the guest's touch surface, in touch coordinates.
+// Positions on the guest's touch surface, in touch coordinates.
 #ifndef GUEST_LINE_GEOMETRY_H_
 #define GUEST_LINE_GEOMETRY_H_
 
@@ -16,7 +16,7 @@ struct Size {
   int height = 0;
 };
 
-// The nearest place of the surface: positions up to and beyond its edge may come.
+// The nearest position on the surface: positions at and beyond its edge may arrive.
 inline Point PlaceOnSurface(const Point& place, const Size& surface) {
   return {std::clamp(place.x, 0, surface.width - 1), std::clamp(place.y, 0, surface.height - 1)};
 }

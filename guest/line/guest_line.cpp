@@ -13,8 +13,8 @@ namespace {
 
 constexpr double kHighest = 0x7FFFFFFF;
 
-// What stands behind a line's name: "i" a whole number, "d" a number, "0" and "1" these numbers themselves, "t" a text
-// to the end of the line, "+" for "the fields before it, any number of times".
+// The fields after a line's name: "i" a whole number, "d" a number, "0" and "1" these numbers themselves, "t" a text to
+// the end of the line, "+" for "the fields before it, any number of times".
 struct LineForm {
   std::string_view name;
   Kind kind;

@@ -1,4 +1,4 @@
-// The lines that the guest is sent, taken apart.
+// Parses the lines that the guest gets.
 #ifndef GUEST_LINE_GUEST_LINE_H_
 #define GUEST_LINE_GUEST_LINE_H_
 
@@ -11,17 +11,17 @@
 namespace taviguest {
 
 struct GuestLine {
-  // With the numbers that each carries. Positions are touch coordinates; those of a replay have fractions.
+  // With the numbers of each. Positions are touch coordinates; those of a replay have fractions.
   enum class Kind {
     kUnknown,         // not understood; no numbers
     kSlotPress,       // slot, tracking id, 1, 1, x, y
     kSlotRelease,     // slot
     kSlotReleaseAll,  // none
-    kMultiPress,      // slot, tracking id, x, y; again for each contact
-    kMultiRelease,    // slot; again for each contact
+    kMultiPress,      // slot, tracking id, x, y; repeated for each contact
+    kMultiRelease,    // slot; repeated for each contact
     kKeyPress,        // guest key code, 1
     kKeyRelease,      // guest key code, 0
-    kMouseMove,       // x, y: the place of the pointer, in spite of the line's name
+    kMouseMove,       // x, y: the absolute position of the pointer, despite the line's name
     kWheel,           // x, y, amount, 0
     kWheelWithDelta,  // x, y, amount with fraction, 0
     kText,            // none; text
@@ -38,9 +38,9 @@ struct GuestLine {
     kTouchpadRelease  // none
   };
 
-  // Whole, and inside what an int holds.
+  // Whole numbers in the range of int.
   int Integer(size_t index) const { return static_cast<int>(Bounded(index)); }
-  // The position of two numbers, the first at `index`.
+  // The position from two numbers, the first at `index`.
   Point PointAt(size_t index) const;
   double Bounded(size_t index) const;
 
@@ -49,17 +49,18 @@ struct GuestLine {
   std::string text;
 };
 
-// Takes a line without display prefix and line end, valid UTF-8. A line with a field too many, too few, of the wrong
-// kind or with another constant than its own is not understood. Texts are taken whole, colons and line ends included.
+// Parses a line without display prefix and line end, in valid UTF-8. A line with too many or too few fields, with one
+// of the wrong kind, or with a wrong constant is not understood. Texts are taken unchanged, colons and line ends
+// included.
 GuestLine ParseGuestLine(std::string_view line);
 
-// An event line is "<display>:" and then the line itself.
+// An event line is "<display>:" followed by the line itself.
 struct AddressedLine {
   int display = 0;
   std::string_view line;
 };
 
-// An empty line for a text without display prefix. The result looks into `event`.
+// Returns an empty line for a text line without display prefix. The result refers to the text of `event`.
 AddressedLine SplitDisplay(std::string_view event);
 
 }  // namespace taviguest

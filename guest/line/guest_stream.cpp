@@ -6,7 +6,7 @@ namespace taviguest {
 
 namespace {
 
-constexpr std::string_view kTextStart = "TEXT";  // of TEXT_CONTROL, too
+constexpr std::string_view kTextStart = "TEXT";  // also that of TEXT_CONTROL
 constexpr size_t kShownBytes = 40;               // of a line that is too long
 constexpr size_t kNone = std::string_view::npos;
 
@@ -38,7 +38,7 @@ std::optional<SentLine> GuestStream::Next() {
   return std::nullopt;
 }
 
-// What kind of line it is, and so its end, shows with its first bytes only.
+// The first bytes of a line determine its kind, and so its end.
 size_t GuestStream::FindEnd(char end) {
   const std::string_view unread = Unread();
   const size_t found = unread.find(end, searched_);
@@ -63,7 +63,7 @@ bool GuestStream::SkipRest() {
   return true;
 }
 
-// Bytes that are done with leave in large pieces, or each line would move all behind it.
+// Consumed bytes are removed in large chunks, otherwise each line would move all bytes after it.
 void GuestStream::Drop(size_t count) {
   read_ += count;
   if (read_ < bytes_.size() && read_ < kMostLineBytes) return;

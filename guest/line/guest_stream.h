@@ -1,4 +1,4 @@
-// Cuts what a host sends into lines.
+// Splits the stream of a host into lines.
 #ifndef GUEST_LINE_GUEST_STREAM_H_
 #define GUEST_LINE_GUEST_STREAM_H_
 
@@ -11,39 +11,39 @@ namespace taviguest {
 struct SentLine {
   bool is_text = false;  // a text line, without display
   std::string line;      // without its end; valid UTF-8
-  bool is_cut = false;  // it was too long: `line` is only its beginning, for telling of it, and the rest is passed over
+  bool is_cut = false;   // it was too long: `line` is only its beginning, for the message, and the rest is ignored
 };
 
-// A line by itself, as a host's send functions get it: with its end or without.
+// A single line, as a host's send functions get it: with or without its end.
 SentLine LineByItself(std::string_view bytes);
 
-// Event lines, which start with a display's number, end in a newline; text lines, which start with their name, end in a
-// NUL and may have newlines inside. So both can come on one stream. Empty lines are passed over. No more is kept of a
-// line than kMostLineBytes, and no byte is looked at twice for its end.
+// Event lines, which start with a display's number, end with a newline; text lines, which start with their name, end
+// with a NUL and may contain newlines. So both can be in one stream. Empty lines are ignored. At most kMostLineBytes of
+// a line are stored, and no byte is searched twice.
 class GuestStream {
  public:
   static constexpr size_t kMostLineBytes = 64 * 1024;
 
   void Append(std::string_view bytes) { bytes_ += bytes; }
 
-  // The next line that is complete, or too long already.
+  // The next line that is complete, or already too long.
   std::optional<SentLine> Next();
-  // When nothing more comes: what is left, though its end is missing. A text loses a newline at its end: that is of the
-  // file that it stood in.
+  // At the end of the stream: the rest, although its end is missing. A text line loses a newline at its end, which
+  // belongs to the file that contains it.
   std::optional<SentLine> Last();
 
  private:
-  // Where the line ends that `rest` begins with; npos while the end is missing.
+  // The end of the line at the start of `rest`; npos while it is missing.
   size_t FindEnd(char end);
-  // Passes over the rest of a line that was too long; false while there is more to come of it.
+  // Skips the rest of a line that was too long; false while the rest is incomplete.
   bool SkipRest();
   SentLine Cut(bool is_text);
   std::string_view Unread() const { return std::string_view(bytes_).substr(read_); }
   void Drop(size_t count);
 
   std::string bytes_;
-  size_t read_ = 0;               // so many of `bytes_` are done with
-  size_t searched_ = 0;           // so many of those behind them hold no end
+  size_t read_ = 0;               // number of consumed bytes at the start of `bytes_`
+  size_t searched_ = 0;           // number of bytes after them that contain no line end
   std::optional<char> skips_to_;  // the end of a line that was too long
 };
 

@@ -13,8 +13,8 @@ namespace taviguest {
 namespace {
 
 constexpr char32_t kMinusSign = 0x2212;
-constexpr int kHighestExponent = 1'000'000;  // beyond any double, and far from what an int holds
-constexpr size_t kMostPlainDigits = 9;       // which an int holds, whatever they are
+constexpr int kHighestExponent = 1'000'000;  // beyond any double, and far from the limits of an int
+constexpr size_t kMostPlainDigits = 9;       // fit an int in any case
 
 bool IsBlank(char32_t character) {
   switch (character) {
@@ -31,7 +31,7 @@ bool IsBlank(char32_t character) {
   }
 }
 
-// The text without the blanks around it.
+// The text without surrounding blanks.
 std::string_view Trimmed(std::string_view text) {
   while (!text.empty()) {
     const Utf8Character first = FirstCharacter(text);
@@ -49,7 +49,7 @@ std::string_view Trimmed(std::string_view text) {
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// Takes what stands in front, and tells whether it was there.
+// Removes a prefix, and returns whether it was there.
 bool Take(std::string_view start, std::string_view* text) {
   if (text->substr(0, start.size()) != start) return false;
   text->remove_prefix(start.size());
@@ -64,15 +64,14 @@ bool TakeMinus(std::string_view* text) {
   return Take("-", text);
 }
 
-// Whether the number is negative; a plus may stand in place of no sign.
+// Whether the number is negative; a plus sign is allowed.
 bool TakeSign(std::string_view* text) {
   if (TakeMinus(text)) return true;
   Take("+", text);
   return false;
 }
 
-// What nearly every field is: a few digits and nothing else. It is on the way of each touch, so that the frame is not
-// looked for.
+// Handles nearly every field: just a few digits. It is on the path of each touch, so it skips the general parsing.
 std::optional<int> PlainNumber(std::string_view text) {
   if (text.empty() || text.size() > kMostPlainDigits || !std::all_of(text.begin(), text.end(), IsDigit)) return {};
   int number = 0;
@@ -88,7 +87,7 @@ std::string TakeDigits(std::string_view* text) {
   return digits;
 }
 
-// Of a number with an exponent the whole of it; 0 where there is none, and nothing for a letter without a number.
+// The exponent of a number; 0 if there is none, and nothing for an "e" without a number.
 std::optional<int> TakeExponent(std::string_view* text) {
   if (!Take("e", text) && !Take("E", text)) return 0;
   const bool is_negative = TakeSign(text);
@@ -128,8 +127,8 @@ std::optional<double> ReadNumber(std::string_view text) {
   return is_negative ? -number : number;
 }
 
-// Away from zero below zero, then back: so halves go up on both sides.
-// NOLINTBEGIN(bugprone-incorrect-roundings): that is how hosts round
+// Rounds away from zero below zero, then back, so that halves go up on both sides.
+// NOLINTBEGIN(bugprone-incorrect-roundings): this is how hosts round
 int RoundToInt(double number) {
   if (number >= 0) return static_cast<int>(number + 0.5);
   const int below = static_cast<int>(number - 1);

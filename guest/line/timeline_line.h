@@ -1,4 +1,4 @@
-// Lines of a timeline, as `tavi simulate` prints it.
+// Lines of a timeline, in the format of `tavi simulate`.
 #ifndef GUEST_LINE_TIMELINE_LINE_H_
 #define GUEST_LINE_TIMELINE_LINE_H_
 
@@ -11,8 +11,8 @@ namespace taviguest {
 
 struct TimedLine {
   int ms = 0;            // since the timeline's start
-  bool is_call = false;  // of the host, which the guest does not see
-  SentLine sent;         // of the guest
+  bool is_call = false;  // a host callback, which the guest does not get
+  SentLine sent;         // a line for the guest
 };
 
 // Nothing for a line that does not start with its time.

@@ -9,12 +9,12 @@ constexpr std::string_view kReplacementBytes = "\xEF\xBF\xBD";
 constexpr char32_t kReplacement = 0xFFFD;
 constexpr Utf8Character kNoCharacter{kReplacement, 1};
 
-// A character's first byte tells how many follow; each of those carries six bits.
+// A character's first byte gives the number of following bytes, each of which has six bits.
 struct Form {
   unsigned char mask;
   unsigned char lead;
   size_t bytes;
-  char32_t least;  // a smaller code has a shorter form, and must use it
+  char32_t least;  // a smaller code has a shorter form, which is required
 };
 
 constexpr Form kForms[] = {
@@ -27,7 +27,7 @@ constexpr int kBitsOfFollower = 6;
 
 bool IsFollower(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-// How many bytes in front are characters by themselves. Event lines are nothing else.
+// How many bytes at the start are ASCII. Event lines are nothing else.
 size_t PlainBytes(std::string_view text) {
   size_t count = 0;
   while (count < text.size() && (static_cast<unsigned char>(text[count]) & 0x80U) == 0) ++count;

@@ -9,13 +9,13 @@ namespace taviguest {
 
 struct Utf8Character {
   char32_t code = 0;
-  size_t bytes = 0;  // that it takes
+  size_t bytes = 0;  // length in bytes
 };
 
-// What `text` begins with, which is not empty. A byte that begins no character is a U+FFFD of one byte.
+// The first character of `text`, which must not be empty. An invalid byte is U+FFFD, with a length of one byte.
 Utf8Character FirstCharacter(std::string_view text);
 
-// The text with a U+FFFD for each such byte, and without a byte order mark in front.
+// The text with U+FFFD for each such byte, and without a byte order mark at the start.
 std::string ValidUtf8(std::string_view text);
 
 }  // namespace taviguest

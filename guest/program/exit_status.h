@@ -5,10 +5,10 @@ namespace taviguest {
 
 // Exit statuses of the program.
 constexpr int kExitDone = 0;
-constexpr int kExitProblem = 1;  // a line was not played, or not all could be read or written
-constexpr int kExitUsage = 2;    // the command line, or what it names, cannot be used
+constexpr int kExitProblem = 1;  // a line was not played, or input or output failed
+constexpr int kExitUsage = 2;    // the command line, or a file that it names, cannot be used
 
-// Of a program that ended because of a signal.
+// For a program that was ended by a signal.
 constexpr int ExitStatusOfSignal(int number) { return 128 + number; }
 
 }  // namespace taviguest

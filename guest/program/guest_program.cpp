@@ -28,7 +28,7 @@ constexpr char kBusy[] = "busy: another front end is connected\n";
 
 enum class ReadResult { kMore, kEnd, kFailed };
 
-// The program while it runs. One thread, which waits in poll() or for the time of a timeline's line.
+// The running program. It has one thread, which waits in poll() or for the time of a timeline's line.
 class Program {
  public:
   Program(const std::string& name, const ProgramOptions& options)
@@ -41,8 +41,8 @@ class Program {
   }
 
  private:
-  // The devices are there before a named pipe has a writer or a socket a front end, so that whoever reads them can be,
-  // too.
+  // The devices are created before a named pipe has a writer or a socket a front end, so that their readers can find
+  // them first.
   bool OpenDevices() {
     if (options_.is_dry_run) return true;
     const std::string error = devices_.Open();
@@ -58,7 +58,7 @@ class Program {
 
   void PrintPlace(const DevicePlace& place) { output_.Print(place.word + ' ' + place.node + '\n'); }
 
-  // One file from its beginning to its end.
+  // Plays one file from its beginning to its end.
   int PlayInput() {
     const bool is_named = !options_.input.empty();
     const int file = is_named ? open(options_.input.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK) : STDIN_FILENO;
@@ -88,7 +88,7 @@ class Program {
     return result;
   }
 
-  // One front end after the other, until a signal comes.
+  // Serves one front end after the other, until a signal arrives.
   int Serve() {
     Listener listener;
     const std::string error = listener.Open(*options_.listen);
@@ -107,7 +107,7 @@ class Program {
     return kExitDone;
   }
 
-  // A second front end is not let wait: what it sends meanwhile would be played when it is long over.
+  // A second front end is refused instead of queued: its lines would be outdated when they are played.
   void Admit(int newcomer, int* connection) {
     if (newcomer < 0) return;
     if (*connection < 0) {
@@ -118,7 +118,7 @@ class Program {
     close(newcomer);
   }
 
-  // What there is of a line without its end is no line: it may have been cut off anywhere.
+  // A rest without a line end is not a line: it may have been truncated anywhere.
   void Leave(int* connection) {
     close(*connection);
     *connection = -1;
@@ -132,7 +132,7 @@ class Program {
     start_ = Clock::now();
   }
 
-  // A dry run of a file prints what its lines say, and no more; front ends and signals end in the midst of things.
+  // A dry run of a file only prints its lines; front ends and signals may end in the middle of a gesture.
   void Finish() {
     if (!options_.is_dry_run || options_.listen || signals_.Wait(0) != 0) player_->LiftAll();
     output_.Flush();
@@ -153,7 +153,7 @@ class Program {
     return {};
   }
 
-  // Until there is something to read from one of the two, -1 being none; false when a signal has come.
+  // Waits until one of the two descriptors is readable, -1 being none; false if a signal arrived.
   bool WaitFor(int file, int other) {
     pollfd polled[] = {{signals_.file(), POLLIN, 0}, {file, POLLIN, 0}, {other, POLLIN, 0}};
     while (signals_.Wait(0) == 0) {
@@ -167,7 +167,7 @@ class Program {
     return poll(&polled, 1, 0) > 0;
   }
 
-  // Each line is played as soon as it is there, so nothing may wait for more to come.
+  // Each line is played as soon as it is complete, so the read must not wait for more.
   ReadResult ReadSome(int file) {
     char buffer[4096];
     const ssize_t count = read(file, buffer, sizeof(buffer));
@@ -188,7 +188,7 @@ class Program {
     player_->PlayTimed(line, [this](int ms) { return options_.is_dry_run || WaitUntil(ms); });
   }
 
-  // False when a signal comes first.
+  // False if a signal arrives first.
   bool WaitUntil(int ms) {
     const auto due = start_ + std::chrono::milliseconds(ms);
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(due - Clock::now()).count();

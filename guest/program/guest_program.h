@@ -8,19 +8,19 @@
 
 namespace taviguest {
 
-// What is told of one of the two.
+// The differences between the two programs.
 struct ProgramPage {
-  const char* name;          // as it is called
-  const char* devices;       // which it makes, and when: an end of a sentence, in lines of help
-  const char* more_options;  // that only this one has, in lines of help
+  const char* name;          // the program's name
+  const char* devices;       // the devices that it creates, and when: the end of a sentence in the help
+  const char* more_options;  // options that only this program has, as lines of help
   const char* example;
 };
 
-// From "Usage: " on.
+// The help page from "Usage: " on.
 std::string HelpPage(const ProgramPage& page);
 
-// Plays lines until they end, or until a signal ends the program; the result is its exit status. `name` stands in front
-// of what it tells. Threads: main, before there are others; it takes signals.
+// Plays lines until they end, or until a signal ends the program; returns the exit status. `name` precedes its
+// messages. Threads: main, before any other thread exists; it handles signals.
 int RunGuestProgram(const std::string& name, const ProgramOptions& options);
 
 }  // namespace taviguest

@@ -1,4 +1,4 @@
-// Where a guest can be reached.
+// The address of a guest.
 #ifndef GUEST_PROGRAM_LISTEN_ADDRESS_H_
 #define GUEST_PROGRAM_LISTEN_ADDRESS_H_
 
@@ -9,11 +9,11 @@
 namespace taviguest {
 
 struct ListenAddress {
-  std::string path;  // of a socket file; empty: a port
-  int port = 0;      // of the loopback; 0: any that is free
+  std::string path;  // of a socket file; empty for a port
+  int port = 0;      // on the loopback interface; 0: any free one
 };
 
-// Socket files have shorter paths than others.
+// Paths of socket files have a shorter limit than others.
 constexpr size_t kMostPathBytes = 107;
 
 // "tcp:PORT" with a port from 0 to 65535, "unix:PATH"; nothing for anything else.

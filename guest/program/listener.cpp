@@ -14,7 +14,7 @@ namespace taviguest {
 namespace {
 
 constexpr mode_t kForOwnerAlone = S_IRUSR | S_IWUSR;
-constexpr int kWaiting = 4;  // front ends that are not yet told whether they may
+constexpr int kWaiting = 4;  // connections that wait for the answer whether they are accepted
 
 std::string Reason() { return std::strerror(errno); }
 
@@ -47,12 +47,12 @@ bool IsAnyoneListening(const std::string& path) {
   return !is_refused;
 }
 
-// What a program that was killed has left behind makes room; what went wrong, or nothing.
+// Removes the socket file of a program that was killed; returns the error, or an empty string.
 std::string MakeRoom(const std::string& path) {
   struct stat there {};
   if (lstat(path.c_str(), &there) != 0) return {};
-  if (!S_ISSOCK(there.st_mode)) return path + " is there already, and is no socket";
-  if (there.st_uid != geteuid()) return path + " is there already, and is another user's";
+  if (!S_ISSOCK(there.st_mode)) return path + " already exists and is not a socket";
+  if (there.st_uid != geteuid()) return path + " already exists and belongs to another user";
   if (IsAnyoneListening(path)) return path + ": another program listens there";
   return unlink(path.c_str()) == 0 ? std::string() : path + " cannot be replaced: " + Reason();
 }
@@ -71,7 +71,7 @@ std::string Listener::Open(const ListenAddress& address) {
   return address.path.empty() ? OpenPort(address.port) : OpenPath(address.path);
 }
 
-// A port of a program that has just ended may be taken again at once.
+// The port of a program that has just ended can be reused at once.
 std::string Listener::OpenPort(int port) {
   file_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
   const int is_on = 1;
@@ -84,7 +84,7 @@ std::string Listener::OpenPort(int port) {
   return {};
 }
 
-// The mode is the socket's before its file is there, so that there is no moment without it.
+// The mode applies before the file exists, so that it is never wider.
 std::string Listener::OpenPath(const std::string& path) {
   const std::string problem = MakeRoom(path);
   if (!problem.empty()) return problem;
@@ -92,7 +92,7 @@ std::string Listener::OpenPath(const std::string& path) {
   fchmod(file_, kForOwnerAlone);
   if (!Bind(file_, AddressOf(path))) return path + " cannot be listened on: " + Reason();
   struct stat made {};
-  if (lstat(path.c_str(), &made) != 0) return path + " is gone again: " + Reason();
+  if (lstat(path.c_str(), &made) != 0) return path + " was removed: " + Reason();
   path_ = path;
   device_ = made.st_dev;
   inode_ = made.st_ino;

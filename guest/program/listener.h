@@ -1,4 +1,4 @@
-// A socket that front ends connect to.
+// A socket for front ends.
 #ifndef GUEST_PROGRAM_LISTENER_H_
 #define GUEST_PROGRAM_LISTENER_H_
 
@@ -9,8 +9,8 @@
 
 namespace taviguest {
 
-// Not bound to a thread. A socket file is for its owner alone (0600), and is removed with the object, unless another
-// has taken its place.
+// Not bound to a thread. A socket file is only accessible to its owner (0600), and is removed with the object, unless
+// another program has replaced it.
 class Listener {
  public:
   Listener() = default;
@@ -18,9 +18,9 @@ class Listener {
   Listener& operator=(const Listener&) = delete;
   ~Listener();
 
-  // A port is one of this machine's loopback, which no other machine reaches. A socket file that is there already is
-  // replaced when it is this user's and nobody listens any more; nothing else is. What went wrong, for people, or
-  // nothing.
+  // A port is on the loopback interface, which no other machine can reach. An existing socket file is replaced if it
+  // belongs to this user and no program listens on it; any other file is an error. Returns the error, for display, or
+  // an empty string.
   std::string Open(const ListenAddress& address);
 
   // Becomes readable when a front end connects.
@@ -29,7 +29,7 @@ class Listener {
   // "tcp:127.0.0.1:5555", "unix:/run/user/1000/guest".
   const std::string& place() const { return place_; }
 
-  // The connection, which does not block; -1 when the front end is gone again.
+  // The connection, which does not block; -1 if the front end has disconnected already.
   int Accept() const;
 
  private:
@@ -38,8 +38,8 @@ class Listener {
 
   int file_ = -1;
   std::string place_;
-  std::string path_;  // of the file that is ours; empty: none
-  dev_t device_ = 0;  // which that is
+  std::string path_;  // our socket file; empty: none
+  dev_t device_ = 0;  // identifies that file
   ino_t inode_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// The program tavi-guest: the guest's side alone, for phones, containers and other machines.
+// The program tavi-guest: only the guest, for phones, containers and other machines.
 #include "guest/program/exit_status.h"
 #include "guest/program/guest_program.h"
 #include "guest/program/output.h"

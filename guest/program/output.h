@@ -1,4 +1,4 @@
-// What the program says.
+// The output of the program.
 #ifndef GUEST_PROGRAM_OUTPUT_H_
 #define GUEST_PROGRAM_OUTPUT_H_
 
@@ -10,22 +10,23 @@ namespace taviguest {
 // Threads: main.
 class Output {
  public:
-  // `program` as it is called, which stands in front of what it tells.
+  // `program` is the program's name, which precedes its messages.
   explicit Output(std::string program) : program_(std::move(program)) {}
 
   void Print(std::string_view text);  // to standard output
-  // Each is a line on standard error; the second one is of a file, whose name stands in front in the program's place.
+  // Each prints a line to standard error; the second is about a file, whose name precedes the message instead of the
+  // program's.
   void Tell(const std::string& text) const;
   static void TellOf(const std::string& file, const std::string& text);
 
   void Flush();
-  // The exit status in place of `status` when not all of standard output could be written, which is told; not when its
-  // reader is just gone.
+  // The exit status instead of `status` if not all of standard output could be written, which is reported, unless its
+  // reader has just exited.
   int Finish(int status);
 
  private:
   const std::string program_;
-  int error_ = 0;  // the first that writing met
+  int error_ = 0;  // the first error of a write
 };
 
 }  // namespace taviguest

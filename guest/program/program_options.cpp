@@ -8,7 +8,7 @@ namespace taviguest {
 
 namespace {
 
-// Each takes the option's value; what is wrong with that ("a number, not"), or nothing.
+// Each reads the option's value and returns the error ("a number, not"), or an empty string.
 using Taker = const char* (*)(const std::string& value, ProgramOptions* options);
 
 const char* TakeInput(const std::string& value, ProgramOptions* options) {
@@ -94,7 +94,7 @@ const Option* Find(const Option (&options)[N], std::string_view name) {
 
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
-// Takes the words from the left, until one is wrong.
+// Reads the words from left to right, up to the first error.
 class WordReader {
  public:
   explicit WordReader(const std::vector<std::string>& words) : words_(words) {}
@@ -102,14 +102,14 @@ class WordReader {
   ProgramOptions Read() {
     while (next_ < words_.size() && result_.error.empty()) TakeWord(words_[next_++]);
     if (result_.error.empty() && result_.listen && !result_.input.empty()) {
-      result_.error = "lines come by --input or by --listen, not by both";
+      result_.error = "use --input or --listen, not both";
     }
     return result_;
   }
 
  private:
   void TakeWord(const std::string& word) {
-    if (word.size() < 2 || word[0] != '-') return Fail(Quoted(word) + " is no option");
+    if (word.size() < 2 || word[0] != '-') return Fail(Quoted(word) + " is not an option");
     const size_t equals = word.find('=');
     const std::string name = word.substr(0, equals);
     if (const ValueOption* option = Find(kValueOptions, name)) return TakeValue(*option, word, equals);

@@ -1,4 +1,4 @@
-// The words behind the program's name.
+// The arguments of the program.
 #ifndef GUEST_PROGRAM_PROGRAM_OPTIONS_H_
 #define GUEST_PROGRAM_PROGRAM_OPTIONS_H_
 
@@ -13,15 +13,15 @@ namespace taviguest {
 
 struct ProgramOptions {
   GuestOptions guest;
-  std::string input;                    // a file; empty: standard input, unless `listen` is there
-  std::optional<ListenAddress> listen;  // for front ends
+  std::string input;                    // a file; empty: standard input, unless `listen` is set
+  std::optional<ListenAddress> listen;  // of the socket for front ends
   bool is_timeline = false;             // the lines are those of a timeline
   bool is_dry_run = false;
   bool is_help = false;
-  std::string error;  // what is wrong with the words, for people; empty when nothing is
+  std::string error;  // the error, for display; empty if there is none
 };
 
-// "--name VALUE" and "--name=VALUE"; of an option that is given twice the last counts.
+// "--name VALUE" or "--name=VALUE"; if an option is repeated, the last value counts.
 ProgramOptions ReadProgramOptions(const std::vector<std::string>& words);
 
 }  // namespace taviguest

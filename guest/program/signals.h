@@ -1,4 +1,4 @@
-// Being interrupted (Ctrl+C), told to end, and losing the terminal, as something that can be waited for.
+// Interruption (Ctrl+C), termination and hangup as events to wait for.
 #ifndef GUEST_PROGRAM_SIGNALS_H_
 #define GUEST_PROGRAM_SIGNALS_H_
 
@@ -6,9 +6,9 @@
 
 namespace taviguest {
 
-// One at a time, and made while the process has no other threads, which would take the signals otherwise. From then on
-// these signals end nothing; with the object their old ways come back. A program that was started with one of them
-// ignored goes on ignoring it.
+// Only one may exist at a time, and it must be created while the process has no other threads, which would receive the
+// signals otherwise. From then on these signals do not end the program; destruction restores the previous handling. A
+// signal that was ignored at the start stays ignored.
 class Signals {
  public:
   Signals();
@@ -16,10 +16,10 @@ class Signals {
   Signals& operator=(const Signals&) = delete;
   ~Signals();
 
-  // Becomes readable when one has come.
+  // Becomes readable when a signal has arrived.
   int file() const { return file_; }
 
-  // The first that came, by its number; waits so long for one, 0 being for none. 0: none came.
+  // The number of the first signal that arrived; waits up to this long, 0 not at all. 0: none arrived.
   int Wait(int ms);
 
  private:

@@ -1,7 +1,6 @@
-// For the static programs alone, which are built without exceptions and have to be small: what the standard library
-// does where it would throw is to end the program. Its own ways bring the machinery of exceptions along, a hundred
-// kilobytes that nothing here can use; that goes for its copies of the string's functions, too, so there are some of
-// our own.
+// Only for the static programs, which are built without exceptions and must be small: where the standard library would
+// throw, the program is ended. The library's own functions would add its exception code, a hundred kilobytes without
+// any use here; the same is true for its instances of std::string's functions, so they are instantiated here.
 #include <cstdlib>
 #include <new>
 #include <string>

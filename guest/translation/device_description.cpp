@@ -15,7 +15,7 @@ namespace {
 constexpr int kFirstKey = KEY_ESC;
 constexpr int kLastKey = KEY_MICMUTE;
 
-// Libinput takes no screen that does not tell its size; what size it is matters to nobody.
+// Libinput rejects a screen without a size; the value does not matter.
 constexpr int kScreenResolution = 10;
 
 bool IsOnKeyboard(int code, const GuestOptions& options) {

@@ -1,4 +1,4 @@
-// What each device tells the kernel that it has.
+// The capabilities that each device reports to the kernel.
 #ifndef GUEST_TRANSLATION_DEVICE_DESCRIPTION_H_
 #define GUEST_TRANSLATION_DEVICE_DESCRIPTION_H_
 
@@ -12,33 +12,33 @@ namespace taviguest {
 struct AbsoluteAxis {
   int code;
   int minimum;
-  int maximum;         // itself included
-  int resolution = 0;  // units a millimetre; 0: not told
+  int maximum;         // inclusive
+  int resolution = 0;  // units per millimetre; 0: not reported
 };
 
 struct DeviceDescription {
   std::vector<int> properties;
-  std::vector<int> keys;  // buttons are keys
+  std::vector<int> keys;  // including buttons
   std::vector<int> relative_axes;
   std::vector<AbsoluteAxis> absolute_axes;
 };
 
 DeviceDescription DescribeDevice(KernelDevice device, const GuestOptions& options);
 
-// "screen", "keyboard": what the program calls a device. In the kernel it is "tavi screen".
+// "screen", "keyboard": the device's name in messages. In the kernel it is "tavi screen".
 const char* WordOfDevice(KernelDevice device);
 
 // Slots of the screen, 0 to 25.
 constexpr int kSlotCount = 26;
 
-// Tracking ids of the screen are 0 to this; the other one says that the finger of the slot went up.
+// Tracking ids of the screen are 0 to this; the other value means that the contact of the slot was released.
 constexpr int kLastTrackingId = 65535;
 constexpr int kNoTrackingId = -1;
 
-// The kernel drops what a device has not told of.
+// The kernel drops events that a device has not announced.
 bool HasKey(KernelDevice device, int code, const GuestOptions& options);
 
-// Everything up and at rest, as one frame, whatever the device does: fingers and keys up, sticks centred.
+// One frame that releases everything on a device of any kind: contacts and keys up, sticks centred.
 KernelEvents RestFrame(KernelDevice device, const GuestOptions& options);
 
 }  // namespace taviguest

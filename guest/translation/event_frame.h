@@ -1,4 +1,4 @@
-// Gathers what happens to one device at one moment.
+// Collects the events of one device at one moment.
 #ifndef GUEST_TRANSLATION_EVENT_FRAME_H_
 #define GUEST_TRANSLATION_EVENT_FRAME_H_
 
@@ -11,14 +11,14 @@ class EventFrame {
   explicit EventFrame(KernelDevice device) : device_(device) { events_.reserve(kUsualEvents); }
 
   EventFrame& Axis(int code, int value);
-  EventFrame& Turn(int code, int steps);  // a relative axis; no steps are no event
+  EventFrame& Turn(int code, int steps);  // a relative axis; 0 steps are no event
   EventFrame& Key(int code, bool down);
 
-  // With the report that ends a frame; nothing for a frame in which nothing happened. The next frame begins.
+  // The frame with its final report; empty if nothing happened. The next frame begins.
   KernelEvents Close();
 
  private:
-  static constexpr size_t kUsualEvents = 8;  // a finger's, the touch's and the report
+  static constexpr size_t kUsualEvents = 8;  // the events of a contact, the touch button and the report
 
   EventFrame& Add(int type, int code, int value);
 

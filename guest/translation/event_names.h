@@ -1,4 +1,4 @@
-// What the kernel's headers call types and codes of input events.
+// The names of types and codes of input events in the kernel's headers.
 #ifndef GUEST_TRANSLATION_EVENT_NAMES_H_
 #define GUEST_TRANSLATION_EVENT_NAMES_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviguest {
 
-// "EV_KEY", "KEY_A". What no device of the guest sends, and what has no name there, stands as its number.
+// "EV_KEY", "KEY_A". A code that no device of the guest sends, or that has no name, is given as a number.
 std::string EventTypeText(int type);
 std::string EventCodeText(int type, int code);
 

@@ -1,4 +1,4 @@
-// Which axis of the gamepad each number of a line moves. The axes are those that drivers of the usual gamepads have.
+// The axes of the gamepad that the numbers of a line move. They are those of the drivers of common gamepads.
 #ifndef GUEST_TRANSLATION_GAMEPAD_AXES_H_
 #define GUEST_TRANSLATION_GAMEPAD_AXES_H_
 
@@ -15,7 +15,7 @@ struct GamepadAxis {
   AbsoluteAxis axis;
 };
 
-constexpr int kStickLimit = 1000000;  // each way, as in the lines
+constexpr int kStickLimit = 1000000;  // in each direction, as in the lines
 
 constexpr GamepadAxis kGamepadAxes[] = {
     {GuestLine::Kind::kLeftStick, 0, {ABS_X, -kStickLimit, kStickLimit}},

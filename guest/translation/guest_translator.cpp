@@ -16,18 +16,18 @@ using Kind = GuestLine::Kind;
 namespace {
 
 constexpr double kAmountOfNotch = 100;
-constexpr double kMostNotches = 1000;  // of one line; nobody turns further
-constexpr int kPartsOfNotch = 120;     // the kernel's unit of fine wheels
+constexpr double kMostNotches = 1000;  // per line; nobody scrolls further
+constexpr int kPartsOfNotch = 120;     // the kernel's unit of high-resolution wheels
 
-// A line with a number in its last field has the pointer's place where the amount should be, and is one notch.
+// A line with a number in its last field has the pointer's position in place of the amount, and is one notch.
 double NotchesOf(const GuestLine& line) {
   const double amount = line.numbers[2];
   if (line.numbers[3] != 0) return amount < 0 ? -1 : 1;
   return std::clamp(amount / kAmountOfNotch, -kMostNotches, kMostNotches);
 }
 
-// A scan code of the host that the library has no guest code for reaches the guest as it is. Those above the keyboard's
-// codes can be told from them.
+// A host's scan code that the library has no guest code for is sent unchanged. Codes above those of keyboards can be
+// recognized.
 int KeyboardCodeOf(int guest_code) { return guest_code < BTN_MISC ? guest_code : KeyOfExtendedScanCode(guest_code); }
 
 KernelEvents LetGoOfTouchpad() {
@@ -40,7 +40,7 @@ KernelEvents LetGoOfTouchpad() {
 
 }  // namespace
 
-// Android's cursor stands in the middle at first.
+// Android's cursor is initially in the middle.
 GuestTranslator::GuestTranslator(const GuestOptions& options)
     : options_(options), contacts_(options), pointer_{options.surface.width / 2, options.surface.height / 2} {}
 
@@ -99,7 +99,7 @@ KernelEvents GuestTranslator::MovePointer(const Point& place) {
   return frame.Turn(REL_X, point.x - from.x).Turn(REL_Y, point.y - from.y).Close();
 }
 
-// The wheel turns where the pointer is, so that goes there first. Coarse steps are sent as fine ones complete them.
+// The wheel scrolls at the pointer, so the pointer is moved first. Coarse steps are sent when fine ones complete them.
 KernelEvents GuestTranslator::TurnWheel(const GuestLine& line) {
   const int parts = RoundToInt(NotchesOf(line) * kPartsOfNotch);
   wheel_rest_ += parts;

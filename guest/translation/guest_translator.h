@@ -1,4 +1,4 @@
-// What the kernel's devices do for each line that the guest is sent.
+// Converts the guest's lines to events of the kernel's devices.
 #ifndef GUEST_TRANSLATION_GUEST_TRANSLATOR_H_
 #define GUEST_TRANSLATION_GUEST_TRANSLATOR_H_
 
@@ -12,15 +12,16 @@
 
 namespace taviguest {
 
-// Not bound to a thread. It remembers what is down, so that it says everything once: a key that is down does not go
-// down again, a slot that is up does not go up.
+// Not bound to a thread. It remembers what is down, so that it sends every change once: a key that is down is not
+// pressed again, a slot that is up is not released.
 class GuestTranslator {
  public:
   explicit GuestTranslator(const GuestOptions& options);
 
   Translation Translate(const GuestLine& line);
 
-  // Lifts fingers, keys and buttons that are down, and brings the gamepad's axes to rest. Nothing for what is so.
+  // Releases contacts, keys and buttons that are down, and centres the gamepad's axes. Sends nothing for what is at
+  // rest already.
   KernelEvents LiftAll();
 
  private:
@@ -40,8 +41,8 @@ class GuestTranslator {
   std::set<std::pair<KernelDevice, int>> held_;
   std::set<int> axes_off_rest_;  // of the gamepad
   bool is_touchpad_used_ = false;
-  Point pointer_;       // of a relative mouse: where it was sent last
-  int wheel_rest_ = 0;  // of a notch, in its 120th parts
+  Point pointer_;       // of a relative mouse: its last target
+  int wheel_rest_ = 0;  // in 120ths of a notch
 };
 
 }  // namespace taviguest

@@ -1,4 +1,4 @@
-// One input event as the kernel knows it, and the device that it is of.
+// An input event of the kernel, with its device.
 #ifndef GUEST_TRANSLATION_KERNEL_EVENT_H_
 #define GUEST_TRANSLATION_KERNEL_EVENT_H_
 
@@ -21,12 +21,12 @@ struct KernelEvent {
   int value = 0;
 };
 
-// In order of writing. The events of one moment end in a SYN_REPORT of their device.
+// In writing order. The events of one moment end with a SYN_REPORT of their device.
 using KernelEvents = std::vector<KernelEvent>;
 
 void Append(KernelEvents more, KernelEvents* events);
 
-// "screen EV_ABS ABS_MT_SLOT 11". A code that the kernel has no name for stands as its number.
+// "screen EV_ABS ABS_MT_SLOT 11". A code without a name in the kernel is given as a number.
 std::string KernelEventText(const KernelEvent& event);
 
 }  // namespace taviguest

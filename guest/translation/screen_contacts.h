@@ -1,29 +1,29 @@
-// The fingers on the screen, as a multi-touch device with slots (protocol type B) reports them.
+// The contacts on the screen, as a multi-touch device with slots (protocol type B).
 #ifndef GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 #define GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 
-#include <set>
+#include <bitset>
 #include <string>
 
 #include "guest/line/guest_options.h"
+#include "guest/translation/device_description.h"
 #include "guest/translation/event_frame.h"
 
 namespace taviguest {
 
 struct GuestLine;
 
-// Not bound to a thread. A tracking id is sent for a finger that comes down and not for one that moves, whatever id its
-// line has. A finger that is up cannot go up again: no event.
+// Not bound to a thread. A tracking id is sent for a contact that is pressed and not for one that moves, whatever id
+// its line has. Releasing a contact that is up sends no event.
 class ScreenContacts {
  public:
   explicit ScreenContacts(const GuestOptions& options);
 
-  // One frame for the line, which is one of the slots. What of the line could not be played, for people: it names a
-  // slot or a tracking id that there is not, or is one finger too many. The other contacts of the line are reported all
-  // the same.
+  // One frame for the line, which must be about slots. Returns what could not be played, for display: a slot or a
+  // tracking id that does not exist, or one contact too many. The other contacts of the line are sent all the same.
   std::string Report(const GuestLine& line, KernelEvents* events);
 
-  // One frame in which all fingers go up; nothing when none is down.
+  // One frame that releases all contacts; empty if none is down.
   KernelEvents LiftAll();
 
  private:
@@ -37,9 +37,9 @@ class ScreenContacts {
 
   const Size surface_;
   const size_t most_fingers_;
-  std::set<int> down_;     // slots
-  std::set<int> refused_;  // slots that the line has down, and there was no room for them; that was told
-  std::string problem_;    // of the line that is being reported
+  std::bitset<kSlotCount> down_;     // slots
+  std::bitset<kSlotCount> refused_;  // slots that the line pressed without a free place; already reported
+  std::string problem_;              // of the current line
 };
 
 }  // namespace taviguest

@@ -1,4 +1,4 @@
-// Texts, typed on the keyboard.
+// Types texts on the keyboard.
 #ifndef GUEST_TRANSLATION_TEXT_TYPING_H_
 #define GUEST_TRANSLATION_TEXT_TYPING_H_
 
@@ -9,8 +9,8 @@
 
 namespace taviguest {
 
-// Each character is a click of its key, with Shift or Control around it where it needs one. Characters that the
-// keyboard does not have are named as the problem, and the others are typed. `text` is valid UTF-8.
+// Each character is a click of its key, with Shift or Control around it if needed. Characters that the keyboard does
+// not have are returned as the problem, and the others are typed. `text` is valid UTF-8.
 Translation TypeText(std::string_view text, const GuestOptions& options);
 
 // "ENTER", "BACKSPACE".

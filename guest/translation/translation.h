@@ -7,10 +7,10 @@
 
 namespace taviguest {
 
-// What the devices do for a line.
+// The result of a line for the devices.
 struct Translation {
   KernelEvents events;
-  std::string problem;  // what of the line could not be played, for people; empty: nothing
+  std::string problem;  // the part of the line that could not be played, for display; empty: none
 };
 
 }  // namespace taviguest

@@ -30,7 +30,7 @@ constexpr LayoutKey kLayout[] = {
 };
 
 constexpr char32_t kLastLetterControl = 26;  // Control and Z
-constexpr char32_t kLetterOfControl = 0x60;  // what lies between a control character and its small letter
+constexpr char32_t kLetterOfControl = 0x60;  // difference between a control character and its lower-case letter
 
 std::optional<TypedKey> KeyInLayout(char32_t character) {
   for (const LayoutKey& key : kLayout) {

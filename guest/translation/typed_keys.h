@@ -1,4 +1,4 @@
-// The keys that type a text on a keyboard of the US layout.
+// The keys that type a text on a US keyboard.
 #ifndef GUEST_TRANSLATION_TYPED_KEYS_H_
 #define GUEST_TRANSLATION_TYPED_KEYS_H_
 
@@ -7,18 +7,18 @@
 namespace taviguest {
 
 struct TypedKey {
-  int code;          // of Linux
-  int modifier = 0;  // the code of the key that is held meanwhile; 0: none
+  int code;          // the Linux code
+  int modifier = 0;  // the code of the key that is held with it; 0: none
 };
 
 // Printable ASCII; newline and carriage return are Enter, tab, backspace and delete their keys; other control
-// characters below 27 are letters with Control held, which is how a host types them. Nothing else can be typed.
+// characters below 27 are letters with Control, as a host types them. No other character can be typed.
 std::optional<TypedKey> KeyThatTypes(char32_t character);
 
-// Whether the key puts a character of its own into a text: letters, digits, signs and the blank.
+// Whether the key types a character: letters, digits, punctuation and the space.
 bool IsCharacterKey(int code);
 
-// That character, or the one with Shift; 0: the key has none.
+// Its character, without or with Shift; 0: the key has none.
 char CharacterOfKey(int code, bool is_shifted);
 
 }  // namespace taviguest

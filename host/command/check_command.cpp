@@ -31,7 +31,8 @@ bool TellAbout(const QString& name, const tavikeymapmanager::LoadResult& result)
 bool CheckFile(const QString& file) {
   if (file != QLatin1String(kStandardStream)) return TellAbout(file, tavikeymapmanager::ReadKeymapFile(file));
   const QString name = QStringLiteral("<stdin>");
-  const QByteArray input = ReadStandardInput(tavikeymapmanager::kMostKeymapBytes + 1);  // enough to see that it is long
+  const QByteArray input =
+      ReadStandardInput(tavikeymapmanager::kMostKeymapBytes + 1);  // enough to show that it is long
   return TellAbout(name, tavikeymapmanager::ReadKeymapText(input, name));
 }
 

@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// `tavi check`: what is wrong with keymap files.
+// `tavi check`: reports the diagnostics of keymap files.
 Subcommand CheckCommand();
 
 }  // namespace tavi

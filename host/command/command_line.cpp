@@ -20,7 +20,7 @@ const OptionRule* FindRule(const QVector<OptionRule>& rules, const QString& name
   return nullptr;
 }
 
-// Takes the words of one command line from the left.
+// Reads the words of one command line from left to right.
 class ArgumentReader {
  public:
   ArgumentReader(const QStringList& words, const QVector<OptionRule>& rules) : words_(words), rules_(rules) {}

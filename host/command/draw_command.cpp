@@ -55,7 +55,7 @@ struct DrawOptions {
   QString joystick_keymap;  // empty: none
   QString output;
   Format format = Format::kNone;
-  QSize size;          // empty: that of the background
+  QSize size;          // empty: the size of the background
   QString background;  // empty: none
 };
 
@@ -66,7 +66,7 @@ Format FormatOf(const QString& name) {
   return suffix == QLatin1String("png") ? Format::kPng : Format::kNone;
 }
 
-// Returns what is wrong, or nothing.
+// Returns the error, or an empty string.
 QString ReadOptions(const ParsedArguments& parsed, DrawOptions* options) {
   if (!parsed.error.isEmpty()) return parsed.error;
   if (parsed.positional.size() != 1) return QStringLiteral("one keymap is needed");
@@ -82,7 +82,7 @@ QString ReadOptions(const ParsedArguments& parsed, DrawOptions* options) {
   return TakeSize(parsed.Find(kSize), &options->size);
 }
 
-// Adds the keymap's marks and takes its name where there is none yet.
+// Adds the keymap's marks. Uses its name if the picture has none yet.
 bool AddKeymap(const QString& path, KeymapDrawing* drawing) {
   const tavikeymapmanager::LoadResult keymap = tavikeymapmanager::ReadKeymapFile(path);
   PrintError(FormatDiagnostics(keymap));

@@ -1,4 +1,4 @@
-// What the options --guest, --allow-remote and --size have in common for commands that play lines somewhere.
+// The options --guest, --allow-remote and --size, for commands that send lines to guests.
 //
 // Threads: main.
 #ifndef HOST_COMMAND_GUEST_OPTION_H_
@@ -14,11 +14,10 @@
 
 namespace tavi {
 
-// --size as it was given last. --guest stood for it before there were targets, and still does where its value is a size
-// or "view".
+// The last --size. Older command lines give it as --guest, so a --guest value that is a size or "view" counts as well.
 std::optional<GivenArgument> FindSize(const ParsedArguments& arguments);
 
-// The targets of each --guest, in their order. Returns what is wrong, or nothing.
+// The targets of each --guest, in order. Returns the error, or an empty string.
 QString TakeTargets(const ParsedArguments& arguments, QVector<TargetAddress>* targets);
 
 }  // namespace tavi

@@ -30,7 +30,7 @@ const char* Help() {
   return page.c_str();
 }
 
-// As they stood, but for what the program's own options need no more: an option and its value are two words.
+// The original arguments without the program's own options. An option and its value are two arguments.
 std::vector<std::string> WordsOf(const ParsedArguments& arguments, const QVector<OptionRule>& rules) {
   std::vector<std::string> words;
   const auto add = [&words](const QString& word) { words.push_back(QFile::encodeName(word).toStdString()); };

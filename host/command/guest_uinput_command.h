@@ -5,8 +5,8 @@
 
 namespace tavi {
 
-// `tavi guest-uinput`: a guest that plays its lines on input devices of the Linux kernel. Where the kernel is
-// another one it is there to say so.
+// `tavi guest-uinput`: a guest that plays its lines on input devices of the Linux kernel. On other systems the command
+// only reports that it needs one.
 Subcommand GuestUinputCommand();
 
 }  // namespace tavi

@@ -14,10 +14,10 @@ namespace {
 
 struct QtNameRow {
   const char* name;
-  const char* qt_name;  // behind "Key_"
+  const char* qt_name;  // after "Key_"
 };
 
-// The keys that Qt calls otherwise; the rest has the same name there, without spaces.
+// The keys with another name in Qt. All others have the same name there, without spaces.
 constexpr QtNameRow kQtNames[] = {
     {"Equals", "Equal"},
     {"Left Bracket", "BracketLeft"},
@@ -54,7 +54,7 @@ QString QtNameOf(QString name) {
   return name.remove(QLatin1Char(' '));
 }
 
-// Empty for a key that Qt does not know.
+// Empty for a key that Qt does not have.
 QString QtKeyOf(const QString& name) {
   const QString qt_key = QStringLiteral("Key_") + QtNameOf(name);
   bool is_known = false;
@@ -73,7 +73,7 @@ KeyRow KeyboardRow(const km::ConfigKey& key) {
   return row;
 }
 
-// Buttons have the codes that Qt gives them, and the wheel's directions codes of their own.
+// Buttons have Qt's codes, the wheel's directions codes of their own.
 KeyRow MouseRow(const km::ConfigKey& key) {
   KeyRow row;
   row.mouse_code = key.scancode;

@@ -1,4 +1,4 @@
-// Every key that a keymap can name, with the codes that it has elsewhere.
+// Every key that a keymap can name, with its codes elsewhere.
 #ifndef HOST_COMMAND_KEY_ROWS_H_
 #define HOST_COMMAND_KEY_ROWS_H_
 
@@ -8,21 +8,21 @@
 
 namespace tavi {
 
-// 0, or an empty text, where the key has no such code.
+// 0, or an empty text, if the key has no such code.
 struct KeyRow {
-  QString name;         // as a keymap writes it
-  QStringList aliases;  // other spellings that a keymap may use
-  QString device;       // "keyboard", "mouse" or "joystick", as a keymap's record holds it
+  QString name;         // in a keymap
+  QStringList aliases;  // other spellings in a keymap
+  QString device;       // the device of the key's record: "keyboard", "mouse" or "joystick"
   int scancode = 0;     // Windows, set 1, the extended bit as 0x100
   int virtual_key = 0;  // Windows
   int linux_code = 0;   // evdev
   int x11_code = 0;     // of a native event under X11
   int mouse_code = 0;   // Qt::MouseButton, 548 or 549
-  QString qt_key;       // of Qt::Key or Qt::MouseButton, where a US layout is set
-  QString pad_text;     // the host's name of a gamepad's button or stick
+  QString qt_key;       // of Qt::Key or Qt::MouseButton, on a US layout
+  QString pad_text;     // the host's name of a gamepad button or stick
 };
 
-// Keyboard, mouse and wheel, then the usual names of gamepads.
+// Keyboard, mouse and wheel, then the usual gamepad names.
 QVector<KeyRow> AllKeyRows();
 
 }  // namespace tavi

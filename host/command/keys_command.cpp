@@ -64,7 +64,7 @@ Cells CellsOf(const KeyRow& row) {
           TextOrDash(row.qt_key)};
 }
 
-// The columns as wide as their widest cells, two spaces apart.
+// Each column is as wide as its widest cell; two spaces separate them.
 QString TableText(const QVector<Cells>& table) {
   QVector<int> widths(table.first().size());
   for (const Cells& cells : table) {
@@ -87,7 +87,7 @@ QString KeyTable(const QVector<KeyRow>& rows, bool are_gamepads) {
   return TableText(table);
 }
 
-// Codes that a key does not have are left out.
+// Omits codes that a key does not have.
 QJsonObject ObjectOf(const KeyRow& row) {
   QJsonObject object{{"name", row.name}, {"device", row.device}};
   if (!row.aliases.isEmpty()) object["aliases"] = QJsonArray::fromStringList(row.aliases);

@@ -1,5 +1,6 @@
 #include "host/command/play_command.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <memory>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "host/play/control_socket.h"
 #include "host/play/control_words.h"
 #include "host/play/device_folder.h"
+#include "host/play/epoll_dispatcher.h"
 #include "host/play/play_control.h"
 #include "host/play/play_session.h"
 #include "host/play/rights_advice.h"
@@ -35,48 +37,49 @@ constexpr char kHelp[] =
     "       tavi play --list [--device DEVICE]...\n"
     "       tavi play --control WORDS [--name NAME]\n"
     "\n"
-    "Plays without a window: takes this computer's keyboards, mice and gamepads, and\n"
-    "plays what the keymap makes of them on a touch screen, a keyboard and a pointer of\n"
-    "the same computer, for a full-screen Android container or any program with touch.\n"
-    "While the mapping is on, no other program gets the keys. A keymap that is saved\n"
-    "meanwhile is read again at once. Each change of the state is told in a line.\n"
+    "Plays without a window: takes this computer's keyboards, mice and gamepads, applies the\n"
+    "keymap to their input, and plays the result on a touch screen, a keyboard and a pointer\n"
+    "that it makes on the same computer, for a full-screen Android container or any program\n"
+    "with touch. While the mapping is on, no other program gets the keys. When you save the\n"
+    "keymap, it is reloaded at once. Each change of the state is printed as a line.\n"
     "\n"
-    "  --joystick FILE  the keymap of gamepads, which is read again as well; without it, a\n"
-    "                   gamepad reaches the guest as one\n"
-    "  --device DEVICE  only this device, by its name or its file; again for each further one\n"
-    "                   (all keyboards and mice)\n"
-    "  --guest TARGET   send the guest's lines there, and make no devices here; again for\n"
-    "                   each further one: exec:COMMAND, unix:PATH, tcp:HOST:PORT, uinput\n"
-    "  --allow-remote   let tcp: be another machine; what is typed can be read on the way\n"
-    "  --size WxH       the guest's touch screen in pixels, each side from 1 to 16384 (this\n"
-    "                   computer's screen, where it is known, else 1280x720)\n"
-    "  --rotation DEG   what its display is turned by: 0, 90, 180, 270 (0)\n"
-    "  --speed X        pixels that the pointer goes for a count of the mouse, any number\n"
+    "  --joystick FILE  the gamepad keymap, also reloaded when you save it; without it,\n"
+    "                   gamepads pass through to the guest\n"
+    "  --device DEVICE  take only this device, by its name or its file; repeat it for\n"
+    "                   several devices (all keyboards and mice)\n"
+    "  --guest TARGET   send the lines to this guest, and make no devices here:\n"
+    "                   exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput; repeat it for\n"
+    "                   several guests\n"
+    "  --allow-remote   let tcp: connect to other machines, although anyone on the network\n"
+    "                   path can read what you type\n"
+    "  --size WxH       the guest's touch screen in pixels, each side from 1 to 16384 (the\n"
+    "                   size of this computer's screen, or 1280x720 if that is unknown)\n"
+    "  --rotation DEG   the rotation of the guest's display: 0, 90, 180, 270 (0)\n"
+    "  --speed X        how many pixels the pointer moves per count of the mouse, any number\n"
     "                   above 0 (1)\n"
     "  --pause-key KEY  the key that gives the devices back, and takes them again (F12)\n"
     "  --panic-key KEY  the key that lifts every finger and key of the guest, ends replays\n"
     "                   and macros, and gives the devices back (Ctrl+Alt+Backspace)\n"
-    "  --paused         begin with the mapping off\n"
+    "  --paused         start with the mapping off\n"
     "  --keymaps FOLDER\n"
-    "                   keymaps of apps, told apart by their field \"package\"; without\n"
+    "                   keymaps of apps, identified by their field \"package\"; without\n"
     "                   KEYMAP, that of the app that was played last\n"
-    "  --name NAME      the name that --control finds it by, a word of letters, digits, -\n"
+    "  --name NAME      the name of this player for --control, a word of letters, digits, -\n"
     "                   and _ (play)\n"
-    "  --control WORDS  ask the one that plays for something: keymap FILE, app NAME, reset,\n"
-    "                   rotation DEG, size WxH, text on|off, pause, resume, record FILE,\n"
-    "                   replay FILE, stop, state, quit\n"
-    "  --list           what devices there are, which would be taken, and why not the others\n"
+    "  --control WORDS  send a command to the player that is running: keymap FILE, app NAME,\n"
+    "                   reset, rotation DEG, size WxH, text on|off, pause, resume,\n"
+    "                   record FILE, replay FILE, stop, state, quit\n"
+    "  --list           list the devices: which would be taken, and why not the others\n"
     "\n"
-    "KEY is a key as keymaps call it, if wanted behind Ctrl+, Alt+, Shift+ or Meta+. Such a\n"
-    "key is heard always, whatever the keymap says. docs/play.md tells the way from nothing\n"
-    "to a first tap.\n"
+    "KEY is a key as keymaps name it, optionally after Ctrl+, Alt+, Shift+ or Meta+. These\n"
+    "keys always work, whatever the keymap says. docs/play.md leads you to a first tap.\n"
     "\n"
-    "Told to end by a signal (Ctrl+C, SIGTERM, SIGHUP), it lifts what is down, gives the\n"
+    "When a signal ends it (Ctrl+C, SIGTERM, SIGHUP), it lifts what is down, gives the\n"
     "devices back and saves the recording.\n"
     "\n"
-    "Exit status: 0 when it was told to quit, or the answer to --control was \"ok\", 1 when\n"
-    "it could not play or the answer was an error, 2 for a wrong command line or a keymap\n"
-    "that cannot be used, 128 and the signal's number after a signal.\n"
+    "Exit status: 0 when it was told to quit or the answer to --control was \"ok\", 1 when it\n"
+    "could not play or the answer was an error, 2 for a wrong command line or a keymap that\n"
+    "cannot be used, 128 plus the signal's number after a signal.\n"
     "\n"
     "Example: tavi play examples/keymaps/shooter.yaml\n";
 
@@ -95,12 +98,12 @@ const QString kControl = QStringLiteral("--control");
 const QString kList = QStringLiteral("--list");
 
 constexpr QSize kUsualSize(1280, 720);
-// Ten seconds without a turn of the event loop: longer than the longest record takes to be read.
+// Ten seconds without an iteration of the event loop: longer than reading the longest record takes.
 constexpr int kLookMs = 1000;
 constexpr int kPatience = 10;
 
 struct PlayOptions {
-  QString keymap;           // empty: that of the last app
+  QString keymap;           // empty: the one of the last app
   QString joystick_keymap;  // empty: none
   QString keymaps;          // a folder; empty: none
   QVector<TargetAddress> targets;
@@ -117,7 +120,7 @@ void Tell(const QString& text) {
   }
 }
 
-// ---- The command line. Each of these returns what is wrong, or nothing.
+// ---- The command line. Each function returns the error, or an empty string.
 
 QString ReadKey(const QString& option, const ParsedArguments& arguments, const char* usual, KeyCombination* key) {
   const QString problem = ParseKeyCombination(arguments.options.value(option, QLatin1String(usual)), key);
@@ -128,7 +131,7 @@ QString ReadKeys(const ParsedArguments& arguments, PlaySettings* settings) {
   QString problem = ReadKey(kPauseKey, arguments, "F12", &settings->pause_key);
   if (problem.isEmpty()) problem = ReadKey(kPanicKey, arguments, "Ctrl+Alt+Backspace", &settings->panic_key);
   const bool is_one_key = settings->pause_key.scancode == settings->panic_key.scancode;
-  if (problem.isEmpty() && is_one_key) return QStringLiteral("%1 and %2 are one key").arg(kPauseKey, kPanicKey);
+  if (problem.isEmpty() && is_one_key) return QStringLiteral("%1 and %2 use the same key").arg(kPauseKey, kPanicKey);
   return problem;
 }
 
@@ -212,14 +215,14 @@ int ListDevices(const PlayOptions& options) {
   DeviceFolder folder;
   const std::vector<PlayDevices::Listed> list = PlayDevices::List(&folder, options.settings.devices);
   for (const PlayDevices::Listed& entry : list) Print(RowOf(entry));
-  FlushOutput();  // the words about it come behind it
+  FlushOutput();  // before the messages about it
   if (list.empty()) Tell(QStringLiteral("there are no devices in %1").arg(QLatin1String(DeviceFolder::kUsualFolder)));
   const QString advice = RightsAdvice(UnreadableIn(list), options.targets.isEmpty());
   Tell(advice);
   return list.empty() || !advice.isEmpty() ? kExitProblem : kExitDone;
 }
 
-// ---- Asking the one that plays
+// ---- Commands for the running player
 
 int AskForControl(const PlayOptions& options) {
   const ControlAnswer answer = AskPlayer(options.socket, WithAbsoluteFile(options.control));
@@ -239,7 +242,7 @@ void ChooseSize(PlayOptions* options) {
   const QSize screen = options->targets.empty() ? ScreenSize() : QSize();
   options->settings.size = screen.isEmpty() ? kUsualSize : screen;
   const QString size = QStringLiteral("%1x%2").arg(options->settings.size.width()).arg(options->settings.size.height());
-  Tell(screen.isEmpty() ? QStringLiteral("the touch screen is %1; --size takes another size").arg(size)
+  Tell(screen.isEmpty() ? QStringLiteral("the touch screen is %1; --size sets another size").arg(size)
                         : QStringLiteral("the touch screen is %1, as this computer's screen").arg(size));
 }
 
@@ -248,38 +251,39 @@ std::unique_ptr<GuestOutlet> MakeOutlet(const PlayOptions& options) {
   return std::make_unique<TargetsOutlet>(options.targets, Tell);
 }
 
-// While it lives, a signal that tells the program to end has it end in order.
+void ExitLater(int status) {
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
+void ExitBySignal(int number) { ExitLater(ExitStatusOfSignal(number)); }
+
+// While it exists, a signal that ends the program makes it quit the event loop and clean up.
 class InterruptionWatch {
  public:
-  InterruptionWatch() {
-    SetInterruptionTaker([](int number) {
-      QMetaObject::invokeMethod(
-          QCoreApplication::instance(), [number] { QCoreApplication::exit(ExitStatusOfSignal(number)); },
-          Qt::QueuedConnection);
-    });
-  }
+  InterruptionWatch() { SetInterruptionTaker(ExitBySignal); }
   ~InterruptionWatch() { SetInterruptionTaker({}); }
   InterruptionWatch(const InterruptionWatch&) = delete;
   InterruptionWatch& operator=(const InterruptionWatch&) = delete;
 };
 
-// What went wrong with the keymaps, or nothing.
+// Returns the error, or an empty string.
 QString LoadKeymaps(const PlayOptions& options, const AppKeymaps* apps, PlaySession* session, PlayControl* control) {
   QString problem;
   if (!options.keymap.isEmpty()) {
     problem = session->LoadKeymap(options.keymap);
   } else if (!apps->LastApp().isEmpty()) {
     const QString forgotten = control->UseApp(apps->LastApp());
-    if (!forgotten.isEmpty()) Tell(forgotten);  // its keymap may be gone; another is a word away
+    if (!forgotten.isEmpty()) Tell(forgotten);  // its keymap may be gone; --control can choose another
   } else {
-    Tell(QStringLiteral("no app was played yet: \"tavi play --control 'app NAME'\" names one of %1")
+    Tell(QStringLiteral("no app was played yet; choose one with \"tavi play --control 'app NAME'\": %1")
              .arg(apps->Apps().join(QStringLiteral(", "))));
   }
   if (!problem.isEmpty() || options.joystick_keymap.isEmpty()) return problem;
   return session->LoadJoystickKeymap(options.joystick_keymap);
 }
 
-// Whoever cannot open anything is told before anything is made.
+// Missing permissions are reported before any device is made.
 bool IsAnythingMissing(const PlayOptions& options) {
   DeviceFolder folder;
   const std::vector<PlayDevices::Listed> list = PlayDevices::List(&folder, options.settings.devices);
@@ -290,12 +294,12 @@ bool IsAnythingMissing(const PlayOptions& options) {
   return !advice.isEmpty();
 }
 
-// False where another one plays under this name. One that cannot be spoken to plays all the same.
+// False if another player has this name. Without a usable socket, the player runs all the same.
 bool Listen(const QString& name, ControlSocket* socket) {
   const QString problem = socket->Listen(name);
   if (problem.isEmpty()) return true;
   const bool is_taken = ControlSocket::HasPlace();
-  Tell(is_taken ? QStringLiteral("%1; --name takes another name").arg(problem)
+  Tell(is_taken ? QStringLiteral("%1; --name sets another name").arg(problem)
                 : QStringLiteral("--control will not work: %1").arg(problem));
   return !is_taken;
 }
@@ -305,31 +309,37 @@ void TellState(const QString& state) {
   FlushOutput();
 }
 
-// The kernel gives the devices back when the process ends, and the guest's keeper lifts what is down.
-void EndAtOnce() {
-  Tell(
-      QStringLiteral("it does not get to its devices any more, as with a macro without an end; it ends to give them "
-                     "back"));
-  std::_Exit(kExitProblem);
+// When the process ends, the kernel releases the devices, and the guest's keeper lifts what is down.
+void EndAtOnce(int status) {
+  Tell(QStringLiteral("input is no longer handled, as with an endless macro; exiting to give the devices back"));
+  std::_Exit(status);
 }
 
-// The exit status of a player that came to its end.
+// Runs the event loop under a watchdog, which has less patience once a signal has asked the program to end.
+int RunWatched() {
+  std::atomic<int> bitten_status{kExitProblem};
+  Watchdog watchdog(kLookMs, kPatience, [&bitten_status] { EndAtOnce(bitten_status); });
+  SetInterruptionTaker([&](int number) {
+    bitten_status = ExitStatusOfSignal(number);
+    watchdog.Hurry();
+    ExitBySignal(number);
+  });
+  const int status = QCoreApplication::exec();
+  SetInterruptionTaker(ExitBySignal);
+  return status;
+}
+
+// Returns the exit status.
 int PlayToTheEnd(PlaySession* session, PlayControl* control) {
   session->ReadGamepads();
-  const int status = [] {
-    const Watchdog watchdog(kLookMs, kPatience, EndAtOnce);
-    return QCoreApplication::exec();
-  }();
+  const int status = RunWatched();
   session->End();
   const QString problem = control->Records()->SaveAtEnd();
   Tell(problem);
   return status == kExitDone && !problem.isEmpty() ? kExitProblem : status;
 }
 
-void Quit() {
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
-}
+void Quit() { ExitLater(kExitDone); }
 
 int PlayOn(PlayOptions options) {
   if (IsAnythingMissing(options)) return kExitProblem;
@@ -362,14 +372,14 @@ int Run(const Invocation& invocation) {
   const QString problem = ReadOptions(ParseArguments(invocation.arguments, OptionsOf(kHelp)), &options);
   if (!problem.isEmpty()) return FailUsage(kName, problem);
   GoOnWithoutReader();
-  SetCleanUp({});  // signals have a thread of their own, which begins before all others
+  SetCleanUp({});  // signals have a thread of their own, which must start before all others
   DoWithoutWindowSystem();
   if (!options.control.isEmpty() || options.is_list) {
     const QCoreApplication application(invocation.argc, invocation.argv);
     return options.is_list ? ListDevices(options) : AskForControl(options);
   }
-  qputenv("QT_NO_GLIB", "1");                                           // Qt's own event loop takes less time for a key
-  const QGuiApplication application(invocation.argc, invocation.argv);  // the library asks it for the pointer
+  QCoreApplication::setEventDispatcher(new EpollDispatcher);
+  const QGuiApplication application(invocation.argc, invocation.argv);  // the library reads the pointer from it
   return PlayOn(options);
 }
 

@@ -5,8 +5,8 @@
 
 namespace tavi {
 
-// `tavi play`: plays from this machine's devices, without a window. A build without it has the word all the same, to
-// say so.
+// `tavi play`: plays from this machine's devices, without a window. In a build without support, the command only
+// reports that.
 Subcommand PlayCommand();
 
 }  // namespace tavi

@@ -41,7 +41,7 @@ QByteArray Draw(const QString& name, const RecordFile& record) {
   return DrawRecord({QFileInfo(name).fileName(), info, FollowContacts(record.root)});
 }
 
-// Returns what is wrong with the command line, or nothing.
+// Returns the error in the command line, or an empty string.
 QString ProblemOf(const ParsedArguments& parsed) {
   if (!parsed.error.isEmpty()) return parsed.error;
   if (parsed.positional.size() != 1) return QStringLiteral("one record is needed");

@@ -29,7 +29,7 @@ constexpr char kHelp[] =
     "\n"
     "Example: tavi record info examples/records/walk.json\n";
 
-constexpr int kDeepestIndent = 20;  // columns; levels below that are seldom and only told of
+constexpr int kDeepestIndent = 20;  // columns; deeper levels are rare and only mentioned
 
 QString Line(const char* name, const QString& value) {
   return QStringLiteral("  %1%2\n").arg(QLatin1String(name), -14).arg(value);
@@ -72,7 +72,7 @@ QString KindText(const RecordPart& root) {
   return depth > 1 ? text + QStringLiteral(", %1 levels").arg(depth) : text;
 }
 
-// How a list is played, as far as it is not simply played once.
+// How a list is played, unless it is simply played once.
 QString ControlText(const MergeParam& control) {
   QString text;
   if (control.repeat_times > 1) text += QStringLiteral(", %1 times").arg(control.repeat_times);
@@ -106,7 +106,7 @@ QString PlayingText(const WalkResult& walk) {
   }
 }
 
-// The library would look for the marker for ever where the first action has no data.
+// If the first action has no data, the library would search for the marker endlessly.
 QString AppText(const QString& name, const RecordPart& root) {
   const RecordAction* first = FirstAction(root);
   QString app;

@@ -9,7 +9,7 @@ namespace tavi {
 
 struct RecordFile;
 
-// All that there is to tell about a record that can be played, as lines of text.
+// The description of a playable record, as lines of text.
 QString DescribeRecord(const QString& name, const RecordFile& record);
 
 // `tavi record info`

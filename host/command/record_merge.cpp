@@ -43,7 +43,7 @@ const QString kTimes = QStringLiteral("--times");
 const QString kDelay = QStringLiteral("--delay");
 const QString kGap = QStringLiteral("--gap");
 
-// Returns what is wrong, or nothing.
+// Returns the error, or an empty string.
 QString TakeOption(const GivenArgument& given, MergeOrder* order) {
   if (given.option == kOutput) {
     order->target = given.value;
@@ -65,7 +65,7 @@ bool AreRecordsUsable(const QVector<MergeParam>& records) {
   return all;
 }
 
-// Returns what went wrong, or nothing.
+// Returns the error, or an empty string.
 QString Merge(const MergeOrder& order) {
   WholeFile file(order.target);
   if (!file.Problem().isEmpty()) return file.Problem();

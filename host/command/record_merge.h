@@ -12,11 +12,11 @@ namespace tavi {
 
 struct MergeOrder {
   QString target;
-  QVector<MergeParam> records;  // in the order of playing
-  QString problem;              // what is wrong with the command line; empty when nothing is
+  QVector<MergeParam> records;  // in playing order
+  QString problem;              // the error in the command line; empty if there is none
 };
 
-// "-o TARGET FILE [--times N] [--delay MS] [--speed X] [--gap MS] FILE ...": what stands behind a file is about it.
+// "-o TARGET FILE [--times N] [--delay MS] [--speed X] [--gap MS] FILE ...": options after a file apply to it.
 MergeOrder ReadMergeOrder(const QStringList& arguments);
 
 // `tavi record merge`

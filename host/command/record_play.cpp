@@ -63,17 +63,17 @@ constexpr QSize kDefaultGuest(1280, 720);
 constexpr int kDisplay = 1;
 constexpr int kTask = 1;
 constexpr int kStartLimitMs = 5000;   // a replay starts at once, or never
-constexpr int kAnswerLimitMs = 5000;  // for guests
+constexpr int kAnswerLimitMs = 5000;  // the targets
 
 struct PlayOptions {
   QString file;
   taviinputmanager::ReplayParam param;
-  QSize guest;  // empty: as large as when the record was made
+  QSize guest;  // empty: the size that the record was made with
   bool is_live = false;
   QVector<TargetAddress> targets;
 };
 
-// Returns what is wrong, or nothing.
+// Returns the error, or an empty string.
 QString ReadOptions(const ParsedArguments& parsed, PlayOptions* options) {
   if (!parsed.error.isEmpty()) return parsed.error;
   if (parsed.positional.size() != 1) return QStringLiteral("one record is needed");
@@ -94,8 +94,7 @@ QSize GuestSize(const PlayOptions& options) {
   return info.resolution.isEmpty() ? kDefaultGuest : info.resolution;
 }
 
-// The plain functions that the library tells of the replay. Of all but the host's own commands it tells on a thread of
-// the replay's own, unless time is virtual.
+// The callbacks of the replay. All but the host commands are called on a thread of the replay, unless time is virtual.
 struct ReplayFunctions {
   static void Say(const QString& text) { SimulatedHost::GetInstance()->Say(text); }
   static void Started(int /*task*/, const QString& /*file*/) {
@@ -104,7 +103,7 @@ struct ReplayFunctions {
   }
   static void Finished(int /*task*/, const QString& /*file*/, taviinputmanager::ReplayParam /*param*/) {
     Say(QStringLiteral("replay finished"));
-    // Behind the lines that are on their way to the main thread still.
+    // After the lines that are still queued for the main thread.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
   }
@@ -132,7 +131,7 @@ struct ReplayFunctions {
 
 std::atomic<bool> ReplayFunctions::has_started{false};
 
-// The guests of the replay. A thread of the replay's may send to them as long as the program lives.
+// The targets of the replay. A replay's thread may send to them as long as the program runs.
 GuestTargets* Targets() {
   static GuestTargets targets;
   return &targets;
@@ -143,7 +142,7 @@ QByteArray BytesOf(const TimelineEntry& entry) {
   return entry.text.toUtf8() + (entry.source == TimelineEntry::Source::kText ? '\0' : '\n');
 }
 
-// One call a line: lines of two threads do not mix.
+// One call per line, so that lines of two threads do not mix.
 void TellEntry(const TimelineEntry& entry) {
   if (entry.source != TimelineEntry::Source::kCallback) {
     const QByteArray bytes = BytesOf(entry);
@@ -152,7 +151,8 @@ void TellEntry(const TimelineEntry& entry) {
   Print(FormatLine(entry));
 }
 
-// While it lives, the guests get what is played; they have nothing down after it, also when a signal ends the program.
+// While it exists, the targets get what is played; afterwards nothing is down in them, also if a signal ends the
+// program.
 class GuestsInUse {
  public:
   GuestsInUse(const QVector<TargetAddress>& addresses, const QSize& surface) : has_guests_(!addresses.isEmpty()) {
@@ -174,7 +174,7 @@ class GuestsInUse {
   GuestsInUse(const GuestsInUse&) = delete;
   GuestsInUse& operator=(const GuestsInUse&) = delete;
 
-  // Until each guest is connected or has failed to. A status other than kExitDone: the program is to end.
+  // Waits until each target is connected or has failed to. The program exits with any status other than kExitDone.
   int WaitForAnswers() {
     if (Targets()->HaveAllAnswered()) return kExitDone;
     QObject context;
@@ -201,7 +201,7 @@ void StartHost(const QSize& guest) {
   host->display = host->touch = QRect(QPoint(0, 0), guest);
   const auto* clock = qobject_cast<taviinputmanager::VirtualTime*>(QCoreApplication::eventDispatcher());
   host->Start([clock] { return clock ? clock->NowMs() : QDateTime::currentMSecsSinceEpoch(); });
-  taviinputmanager::UpdateDisplayId(kDisplay);  // where the end of a replay lifts its fingers
+  taviinputmanager::UpdateDisplayId(kDisplay);  // where the fingers are lifted at the end of a replay
   QCoreApplication::sendPostedEvents();
   host->StartTimeline();
   host->listener = TellEntry;
@@ -212,7 +212,7 @@ int Replay(const PlayOptions& options) {
   taviinputmanager::InitializeReplayCallbacks(&table);
   taviinputmanager::UpdateReplayDisplayId(kDisplay);
   taviinputmanager::StartReplay(0, kTask, QString(), options.file, options.param);
-  // The file may have gone since it was looked at.
+  // The file may have been deleted since it was checked.
   QTimer::singleShot(kStartLimitMs, QCoreApplication::instance(), [] {
     if (!ReplayFunctions::has_started) QCoreApplication::exit(kExitProblem);
   });
@@ -227,13 +227,13 @@ int Run(const Invocation& invocation) {
   const QString problem = ReadOptions(parsed, &options);
   if (!problem.isEmpty()) return FailUsage(kCommand, problem);
   if (!IsRecordUsable(options.file, ReadRecordFile(options.file))) return kExitUsage;
-  DoWithoutWindowSystem();  // neither clock needs one
+  DoWithoutWindowSystem();  // neither clock needs a window system
   if (!options.targets.isEmpty()) {
     GoOnWithoutReader();
-    SetCleanUp({});  // signals have a thread of their own, which begins before others
+    SetCleanUp({});  // signals have a thread of their own, which must start before others
   }
   if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
-  if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // lines are seen as they fall due
+  if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // each line is visible when it is due
   const QGuiApplication application(invocation.argc, invocation.argv);
   const QSize surface = GuestSize(options);
   GuestsInUse guests(options.targets, surface);

@@ -12,7 +12,7 @@ namespace {
 
 int last_outcome = kRecordSaved;
 
-// Returns what went wrong, or nothing.
+// Returns the error, or an empty string.
 QString Save(const QString& package, const QString& file) {
   WholeFile whole(file);
   if (!whole.Problem().isEmpty()) return QStringLiteral("cannot be written: ") + whole.Problem();

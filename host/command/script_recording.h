@@ -1,4 +1,4 @@
-// A record of what a script makes of a keymap.
+// A record of what a script and a keymap produce.
 #ifndef HOST_COMMAND_SCRIPT_RECORDING_H_
 #define HOST_COMMAND_SCRIPT_RECORDING_H_
 
@@ -6,10 +6,11 @@
 
 namespace tavi {
 
-// From here on what goes to `display` is recorded, as an app of the name `package`. Main thread; the host was started.
+// From now on the lines for `display` are recorded, with the app name `package`. Main thread; the host must have been
+// started.
 void StartScriptRecording(const QString& package, int display);
 
-// Writes the record. Returns the program's exit status; tells standard error when there is no file.
+// Writes the record. Returns the program's exit status; prints an error if it could not be written.
 int SaveScriptRecording(const QString& package, const QString& file);
 
 }  // namespace tavi

@@ -75,7 +75,7 @@ bool IsLoad(const ScriptCommand& command) {
   return command.kind == ScriptCommand::Kind::kKeymap || command.kind == ScriptCommand::Kind::kJoymap;
 }
 
-// The files that a script names are looked for from its own folder.
+// Files named in a script are relative to its folder.
 void ResolveFiles(const QString& script_name, Script* script) {
   if (script_name == QLatin1String(kStandardStream)) return;
   const QDir folder = QFileInfo(script_name).dir();
@@ -98,8 +98,8 @@ std::optional<Script> ReadScript(const QString& name) {
   return script;
 }
 
-// The keymaps that are played with. Each is read once and told of before, since the library reports nothing about them;
-// what is played is what was told of, whatever becomes of the file meanwhile.
+// The keymaps of the simulation. Each is read once, and its diagnostics are printed first, because the library reports
+// none. The simulation uses what was read, whatever happens to the file meanwhile.
 class ReadKeymaps {
  public:
   // Returns whether it can be used.
@@ -109,7 +109,7 @@ class ReadKeymaps {
     PrintError(FormatDiagnostics(source.LastRead()));
     return !source.LastRead().HasErrors();
   }
-  // The same of all that a script loads, which from now on loads what was read.
+  // The same for all files that a script loads. From now on the script loads what was read.
   bool Read(Script* script) {
     bool all = true;
     for (ScriptCommand& command : script->commands) {
@@ -135,9 +135,9 @@ void TakeTimeline(SimulatedHost* host, TimelineChart* chart) {
 struct SimulateOptions {
   QString keymap;
   QString script;
-  std::optional<QString> svg;      // where to draw the timeline
-  std::optional<QString> record;   // where to save one
-  std::optional<QString> package;  // in place of the player's own
+  std::optional<QString> svg;      // the picture to draw, if any
+  std::optional<QString> record;   // the record to save, if any
+  std::optional<QString> package;  // instead of the player's
 };
 
 int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
@@ -148,7 +148,7 @@ int DrawChart(const SimulateOptions& options, const TimelineChart& chart) {
 }
 
 int Play(const Invocation& invocation, const SimulateOptions& options, const QString& keymap, const Script& script) {
-  DoWithoutWindowSystem();  // the clock serves none
+  DoWithoutWindowSystem();  // virtual time needs no window system
   auto* clock = new VirtualEventDispatcher;
   QCoreApplication::setEventDispatcher(clock);
   const QGuiApplication application(invocation.argc, invocation.argv);
@@ -159,7 +159,7 @@ int Play(const Invocation& invocation, const SimulateOptions& options, const QSt
   player.LoadKeymap(keymap);
   clock->Settle();
   host->StartTimeline();
-  const QString package = player.package;  // a script may change the player's
+  const QString package = player.package;  // a script may change the player's rotation
   if (options.record) StartScriptRecording(package, player.display);
   const qint64 start_ms = clock->NowMs();
   TimelineChart chart;
@@ -179,7 +179,7 @@ std::optional<QString> OptionOf(const ParsedArguments& arguments, const QString&
   return arguments.options[name];
 }
 
-// Returns what is wrong with the names of the files to write, or nothing. Standard output is the timeline's.
+// Returns the error in the names of the output files, or an empty string. Standard output is reserved for the timeline.
 QString ProblemOf(const SimulateOptions& options) {
   if (options.svg && options.svg->isEmpty()) return QStringLiteral("the name of the picture is empty");
   if (options.record && options.record->isEmpty()) return QStringLiteral("the name of the record is empty");

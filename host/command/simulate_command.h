@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// `tavi simulate`: a script of input played on a clock of its own.
+// `tavi simulate`: runs a script of input on virtual time.
 Subcommand SimulateCommand();
 
 }  // namespace tavi

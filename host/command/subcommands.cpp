@@ -31,7 +31,7 @@ const QVector<Subcommand>& Subcommands() {
   return all;
 }
 
-// Commands of two words with the first one in common.
+// Commands of two words that share the first.
 struct Group {
   const char* name;
   const char* about;
@@ -61,7 +61,7 @@ const Subcommand* FindSubcommand(const QString& name) {
   return nullptr;
 }
 
-// A line for each command whose name begins so.
+// A line for each command whose name starts like this.
 QString CommandList(const QString& prefix) {
   QString list = QStringLiteral("\nCommands:\n");
   for (const Subcommand& subcommand : Subcommands()) {
@@ -110,7 +110,7 @@ int PrintPage(const Subcommand& subcommand) {
 
 int RunSubcommand(const Subcommand& subcommand, const Invocation& invocation) {
   if (ParseArguments(invocation.arguments, {}).help) return PrintPage(subcommand);
-  // The commands tell what is wrong with a keymap where it belongs; the loader need not do so again.
+  // The commands report a keymap's diagnostics themselves; the loader must not repeat them.
   QLoggingCategory::setFilterRules(QStringLiteral("tavi.keymap.warning=false"));
   return subcommand.run(invocation);
 }

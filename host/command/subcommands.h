@@ -1,4 +1,4 @@
-// What the program can do, by the word behind its name.
+// The subcommands of the program.
 #ifndef HOST_COMMAND_SUBCOMMANDS_H_
 #define HOST_COMMAND_SUBCOMMANDS_H_
 
@@ -6,21 +6,21 @@
 
 namespace tavi {
 
-// The start of the program as a subcommand sees it. An application object needs the first two, which outlive it.
+// The start of the program as a subcommand sees it. An application object needs `argc` and `argv`, which outlive it.
 struct Invocation {
   int& argc;
   char** argv = nullptr;
-  QStringList arguments;  // behind the subcommand
+  QStringList arguments;  // after the subcommand
 };
 
 struct Subcommand {
-  const char* name;     // "check"; of a group two words, "record play"
+  const char* name;     // "check"; two words in a group: "record play"
   const char* summary;  // one line
-  const char* help;     // the page from "Usage: " on, an example for the shell at its end
+  const char* help;     // the help page from "Usage: " on, with a shell example at the end
   int (*run)(const Invocation& invocation);
 };
 
-// Finds the subcommand and runs it; the result is the program's exit status.
+// Finds the subcommand and runs it; returns the program's exit status.
 int RunProgram(int& argc, char** argv);
 
 }  // namespace tavi

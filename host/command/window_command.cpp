@@ -141,7 +141,7 @@ struct WindowOptions {
   int after_ms = kDefaultAfterMs;
 };
 
-// Each of these returns what is wrong, or nothing.
+// Each of these returns the error, or an empty string.
 QString ReadKey(const QString& option, const ParsedArguments& arguments, const char* usual, KeyCombination* key) {
   const QString name = arguments.options.value(option, QLatin1String(usual));
   const QString problem = ParseKeyCombination(name, key);
@@ -159,7 +159,7 @@ QString ReadKeys(const ParsedArguments& arguments, WindowOptions* options) {
   for (int i = 0; i < keys.size(); ++i) {
     for (int j = 0; j < i; ++j) {
       if (keys[i].second == keys[j].second)
-        return QStringLiteral("%1 and %2 are one key").arg(keys[j].first, keys[i].first);
+        return QStringLiteral("%1 and %2 use the same key").arg(keys[j].first, keys[i].first);
     }
   }
   return {};
@@ -243,7 +243,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
 
 void Tell(const QString& text) { PrintError(QStringLiteral("tavi window: %1\n").arg(text)); }
 
-// Returns whether all that there was has its place.
+// Returns whether everything could be saved.
 bool Leave(MainWindow* window) {
   const QStringList news = window->LeaveWithoutAsking();
   for (const QString& text : news) Tell(text);
@@ -259,7 +259,7 @@ void SavePictureAndLeave(MainWindow* window, const QString& file) {
   QCoreApplication::exit(is_all_saved ? written : kExitProblem);
 }
 
-// While it lives, a signal that tells the program to end has it end in order.
+// While it exists, a signal that ends the program makes it quit the event loop and clean up.
 class InterruptionWatch {
  public:
   explicit InterruptionWatch(MainWindow* window) {
@@ -279,7 +279,7 @@ class InterruptionWatch {
   }
 };
 
-// Whatever way the window goes, the guests that it sent lines to have nothing down after it.
+// However the window ends, nothing is down afterwards in the guests that got its lines.
 class TargetsInUse {
  public:
   TargetsInUse() = default;
@@ -297,10 +297,10 @@ void StartRecords(const WindowOptions& options, RecordBar* records) {
   if (!options.replay.isEmpty() && records->OpenRecord(options.replay)) records->TogglePlaying();
 }
 
-// `news` is what the person is to know of the start.
+// `news` are messages for the user about the start.
 int ShowWindow(const WindowOptions& options, const QStringList& news, WindowMemory* memory) {
   theme::Apply(qApp, options.look);
-  const TargetsInUse targets;  // longer than the window, which lifts what is down at its end
+  const TargetsInUse targets;  // outlives the window, which releases what is down at its end
   MainWindow window;
   memory->Restore(&window);
   if (options.guest_size) window.Display()->SetSize(*options.guest_size);
@@ -335,7 +335,7 @@ int ShowWindow(const WindowOptions& options, const QStringList& news, WindowMemo
   for (const TargetAddress& target : options.targets) window.Targets()->Add(target);
   StartRecords(options, window.Records());
   window.ReadGamepads();
-  window.ClearLog();  // what the guest was sent by way of a beginning is no news
+  window.ClearLog();  // the resets that a guest gets first are no news
   window.show();
   if (!news.isEmpty()) window.Tell(news.join(QStringLiteral("; ")), true);
   if (options.shows_events) window.ShowEvents();
@@ -353,7 +353,7 @@ int ShowWindow(const WindowOptions& options, const QStringList& news, WindowMemo
 
 using KeptOptions = QMap<QString, QString>;
 
-// The command line with what was kept of the options that it leaves open.
+// The command line, with stored values for the options that it omits.
 ParsedArguments Completed(ParsedArguments arguments, const KeptOptions& kept) {
   const bool has_keymap = !arguments.positional.isEmpty();
   for (auto option = kept.begin(); option != kept.end(); ++option) {
@@ -371,11 +371,11 @@ QString ProblemWith(const ParsedArguments& given, const KeptOptions& kept) {
 }
 
 QString NewsOf(const QString& option, const KeptOptions& kept, const QString& problem) {
-  return QStringLiteral("%1 %2 of last time is not used: %3").arg(option, kept[option], problem);
+  return QStringLiteral("%1 %2 from the last session is ignored: %3").arg(option, kept[option], problem);
 }
 
-// What was kept and makes sense beside the command line. An option that does not is left out, and told in `news`; where
-// no single one is to blame, each that does not go with those before it.
+// The stored options that do not conflict with the command line. An option that does is left out and reported in
+// `news`; if no single option is the cause, each one that conflicts with those before it.
 KeptOptions UsableOf(const ParsedArguments& given, const KeptOptions& kept, QStringList* news) {
   const QString problem = ProblemWith(given, kept);
   if (problem.isEmpty()) return kept;
@@ -397,7 +397,7 @@ KeptOptions UsableOf(const ParsedArguments& given, const KeptOptions& kept, QStr
   return usable;
 }
 
-// What the command line leaves open is as it was last time.
+// What the command line leaves open is restored from the last session.
 WindowOptions Remember(const ParsedArguments& given, const WindowMemory& memory, QStringList* news) {
   ParsedArguments arguments = Completed(given, UsableOf(given, memory.Options(), news));
   if (arguments.positional.isEmpty() && !memory.Keymap().isEmpty()) arguments.positional += memory.Keymap();
@@ -414,10 +414,10 @@ int Run(const Invocation& invocation) {
     return kExitUsage;
   }
   GoOnWithoutReader();
-  SetCleanUp({});  // signals have a thread of their own, which begins before the window system's
+  SetCleanUp({});  // signals have a thread of their own, which must start before those of the window system
   qt::FollowScreens();
   QApplication application(invocation.argc, invocation.argv);
-  // The application has taken out what is Qt's own, such as -platform.
+  // QApplication has already removed Qt's own options, such as -platform.
   const ParsedArguments arguments = ParseArguments(QApplication::arguments().mid(2), OptionsOf(kHelp));
   WindowOptions options;
   const QString problem = ReadOptions(arguments, &options);

@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// `tavi window`: keymaps tried out in a window.
+// `tavi window`: tries keymaps in a window.
 Subcommand WindowCommand();
 
 }  // namespace tavi

@@ -16,16 +16,16 @@ using Shape = ItemHandle::Shape;
 
 namespace {
 
-constexpr double kLeastSize = 0.005;  // of a radius or area: one can still grip it
-constexpr double kMostArea = 2;       // areas reach beyond the display
-const QPointF kFirstArea(60, 40);     // where the corner of an area that has no size yet is gripped
+constexpr double kLeastSize = 0.005;  // of a radius or area: smaller ones cannot be gripped
+constexpr double kMostArea = 2;       // areas may extend beyond the display
+const QPointF kFirstArea(60, 40);     // position of the grip of an area that has no size yet
 
 enum class Unit { kWidth, kHeight };
 
 struct HandleRow {
   const char* field;
   Shape shape;
-  const char* origin;  // the field that it is measured from, or null
+  const char* origin;  // the field with the origin, or null
   Unit unit;           // of a radius
 };
 
@@ -102,7 +102,7 @@ HandleValue ValueAt(const ItemHandle& handle, const QPointF& place, const QSizeF
   };
   HandleValue value;
   switch (handle.shape) {
-    // A point at [0, 0] would be none.
+    // A point at [0, 0] would mean that there is none.
     case Shape::kPoint: value.pair = pair(1, 0.001, 1); break;
     case Shape::kOffset: value.pair = pair(1, -1, 1); break;
     case Shape::kArea: value.pair = pair(2, kLeastSize, kMostArea); break;
@@ -115,7 +115,7 @@ HandleValue ValueAt(const ItemHandle& handle, const QPointF& place, const QSizeF
 
 QPointF NudgedPoint(const QPointF& point, const QPoint& steps, const QSize& guest) {
   const auto nudged = [](double at, int step, int size) {
-    if (step == 0) return at;  // as its author wrote it
+    if (step == 0) return at;  // as in the file
     return qBound(0, qRound(at * size) + step, size) / static_cast<double>(size);
   };
   return {nudged(point.x(), steps.x(), guest.width()), nudged(point.y(), steps.y(), guest.height())};

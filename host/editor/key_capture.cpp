@@ -12,7 +12,7 @@ namespace {
 const QString kPad = QStringLiteral("Pad ");
 const QString kMouse = QStringLiteral("Mouse ");
 
-// A chord is made of two keys of the keyboard, or of two buttons of a gamepad; nothing for other pairs.
+// A chord consists of two keyboard keys or of two gamepad buttons; nothing for other pairs.
 QString ChordOf(const QString& first, const QString& second) {
   const bool is_pad = first.startsWith(kPad);
   if (is_pad != second.startsWith(kPad) || first.startsWith(kMouse) || second.startsWith(kMouse)) return {};

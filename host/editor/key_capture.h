@@ -7,13 +7,14 @@ class QKeyEvent;
 
 namespace tavi {
 
-// Makes the binding of what a person presses: one key, or a chord when a second one is pressed while the first is held.
-// A key alone is taken when it comes up, since it may yet become a chord.
+// Turns what the user presses into a binding: one key, or a chord if a second one is pressed while the first is held. A
+// single key is complete when it is released, since it may still become a chord.
 class KeyCapture {
  public:
   explicit KeyCapture(bool takes_chords = false) : takes_chords_(takes_chords) {}
 
-  // Names as keymaps write them. Each gives the binding once it is complete, else nothing; the rest is left out.
+  // Key names as in keymaps. Each call returns the binding once it is complete, otherwise nothing; further input is
+  // ignored.
   QString Press(const QString& name);
   QString Release(const QString& name);
 
@@ -22,7 +23,7 @@ class KeyCapture {
   QString held_;
 };
 
-// The names of what is pressed; empty for what no keymap can name.
+// The names of what was pressed; empty for what no keymap can name.
 QString NameOfKeyEvent(const QKeyEvent& event);
 QString NameOfMouseButton(int button);
 // `text` is the host's name of the button.

@@ -19,7 +19,7 @@ using Form = FieldValue::Form;
 namespace {
 
 constexpr char kNewKeymap[] = "format: 1\n\nitems: []\n";
-constexpr double kAside = 0.03;  // from an item to its copy, fraction of the display
+constexpr double kAside = 0.03;  // offset of a copy from its original, fraction of the display
 const QString kType = QStringLiteral("type");
 const QString kLabel = QStringLiteral("label");
 const QString kPoint = QStringLiteral("point");
@@ -30,14 +30,14 @@ const QString kWheel = QStringLiteral("wheel");
 
 std::optional<QByteArray> ReadBytes(const QString& path) { return ReadPlainFile(path, km::kMostKeymapBytes); }
 
-// There is one.
+// The block must exist.
 const km::Diagnostic& FirstError(const km::LoadResult& keymap) {
   return *std::find_if(keymap.diagnostics.begin(), keymap.diagnostics.end(), [](const km::Diagnostic& diagnostic) {
     return diagnostic.severity == km::Diagnostic::Severity::kError;
   });
 }
 
-// The error with its place in the part; what comes to light behind the part has its place in the file.
+// The error with its position in the part; an error after the part has its position in the file.
 QString PlacedError(const km::Diagnostic& error, const PartWritten& written, int lines_of_part) {
   const QByteArray front = written.text.left(written.begin);
   const int line = error.line - front.count('\n');
@@ -50,7 +50,7 @@ QString PlacedError(const km::Diagnostic& error, const PartWritten& written, int
 
 QByteArray Slice(const QByteArray& text, const km::TextRange& range) { return text.mid(range.begin, range.Length()); }
 
-// What a record says, without its comments and spaces.
+// The content of a record, without its comments and spaces.
 QByteArray Content(const km::RecordOutline& record, const QByteArray& text, const QStringList& without = {}) {
   QByteArray content;
   for (const km::FieldOutline& field : record.fields) {
@@ -65,7 +65,7 @@ QVector<QByteArray> ItemContents(const KeymapOutline& outline, const QByteArray&
   return contents;
 }
 
-// "0.5, 0.25", in brackets or without
+// "0.5, 0.25", with or without brackets
 std::optional<QPointF> PairOf(const QString& text) {
   static const QRegularExpression form(
       QStringLiteral("\\A\\s*\\[?\\s*([-+.0-9eE]+)\\s*[,;\\s]\\s*([-+.0-9eE]+)\\s*\\]?\\s*\\z"));
@@ -83,7 +83,7 @@ bool IsKeyCode(const QString& text) {
 
 }  // namespace
 
-// A step on the way back.
+// An undo step.
 class KeymapDocument::Edit : public QUndoCommand {
  public:
   Edit(KeymapDocument* document, const TextChange& change, const QString& name, int gesture)
@@ -92,7 +92,7 @@ class KeymapDocument::Edit : public QUndoCommand {
   void redo() override { document_->Take(change_.AppliedTo(document_->text_)); }
   void undo() override { document_->Take(change_.RevertedFrom(document_->text_)); }
 
-  int id() const override { return 1; }  // any two edits may belong together
+  int id() const override { return 1; }  // any two edits may be merged
   bool mergeWith(const QUndoCommand* next) override {
     const auto* edit = static_cast<const Edit*>(next);
     if (gesture_ == 0 || edit->gesture_ != gesture_) return false;
@@ -114,7 +114,7 @@ KeymapDocument::KeymapDocument(QObject* parent) : QObject(parent), types_(km::De
 }
 
 KeymapDocument::~KeymapDocument() {
-  undo_.disconnect(this);  // at its end it tells of a change
+  undo_.disconnect(this);  // its end signals a change
 }
 
 // ---- Files
@@ -269,7 +269,8 @@ QString KeymapDocument::Source(const KeymapPart& part) const {
 QString KeymapDocument::SetSource(const KeymapPart& part, const QString& source) {
   if (part.IsNone() || source == Source(part)) return {};
   const bool is_item = part.item >= 0;
-  if (is_item && source.trimmed().isEmpty()) return QStringLiteral("Nothing is left of the item; Delete takes it out.");
+  if (is_item && source.trimmed().isEmpty())
+    return QStringLiteral("Nothing is left of the item; use Delete to remove it.");
   const QByteArray lines = source.trimmed().isEmpty() ? QByteArray() : Present().InLines(source);
   const PartWritten written = is_item ? Present().WithSource(part.item, lines) : Present().WithBlock(part.block, lines);
   const km::LoadResult keymap = km::ReadKeymapText(written.text, path_);
@@ -286,7 +287,7 @@ QString KeymapDocument::Push(const QByteArray& after, const QString& name, Effec
   if (keymap.HasErrors()) return FirstError(keymap).message;
   const std::optional<KeymapOutline> outline = km::OutlineKeymap(after);
   if (!outline || !LeavesOthers(*outline, after, effect, item)) {
-    return QStringLiteral("This cannot be written without touching other parts of the file. Edit the file itself.");
+    return QStringLiteral("This edit would change other parts of the file. Edit the file itself.");
   }
   undo_.push(new Edit(this, ChangeBetween(text_, after), name, gesture));
   return {};

@@ -22,14 +22,14 @@ struct KeymapPart {
   bool operator==(const KeymapPart& other) const { return item == other.item && block == other.block; }
 
   int item = -1;  // its index, or -1
-  QString block;  // of the keymap itself: "settings" or "wheel"
+  QString block;  // a block of the keymap: "settings" or "wheel"
 };
 
-// A keymap file that is being edited: its text, what the loader makes of it, and the way back.
+// A keymap file in the editor: its text, the keymap that it contains, and the undo stack.
 //
-// Every edit changes the text where it has to and nowhere else, and is read by the ordinary loader before it counts:
-// one whose result would not load is refused. Edits go by the index of an item in the file, which is that of
-// KeymapConfig::items; each returns what is wrong, in words for people, or nothing.
+// An edit changes only the part of the text that it must, and the ordinary loader reads the result before the edit is
+// applied: if the result would not load, the edit is refused. Edits identify an item by its index in the file, which is
+// its index in KeymapConfig::items. Each returns the error for the user, or an empty string.
 //
 // Main thread.
 class KeymapDocument : public QObject {
@@ -39,69 +39,68 @@ class KeymapDocument : public QObject {
   explicit KeymapDocument(QObject* parent = nullptr);
   ~KeymapDocument() override;
 
-  // Takes the file at `path` in; the way back ends here. A file with errors is taken in as well, for looking.
-  // False when there is no such file to read: the document is then empty.
+  // Loads the file at `path` and clears the undo stack. A file with errors is loaded as well, but only for display.
+  // Returns false if there is no readable file; the document is then empty.
   bool Open(const QString& path);
-  // The same of what has just been read from it.
+  // The same for text that was just read from it.
   void Open(const QString& path, const QByteArray& text);
-  // A keymap without items, which has no file yet.
+  // A keymap without items and without a file.
   void New();
 
   const QString& Path() const { return path_; }  // empty: no file yet
   const QByteArray& Text() const { return text_; }
-  const QByteArray& TextOnDisk() const { return text_on_disk_; }  // as it was last read or written here
+  const QByteArray& TextOnDisk() const { return text_on_disk_; }  // as last read or written here
   const tavikeymapmanager::LoadResult& Keymap() const { return keymap_; }
   const tavikeymapmanager::KeymapOutline& Outline() const { return outline_; }
   QUndoStack* UndoStack() { return &undo_; }
   bool IsModified() const { return !undo_.isClean(); }
-  // Why nothing can be edited; empty: it can.
+  // Why the keymap cannot be edited; empty if it can.
   QString Refusal() const;
 
   int ItemCount() const { return outline_.items.size(); }
   tavikeymapmanager::ConfigItem* Item(int item) const { return keymap_.config->items[item]; }
   // The table of the item's type.
   const tavikeymapmanager::ItemTypeInfo& TypeOf(int item) const;
-  // A field as the file writes it; empty when it does not.
+  // The text of a field in the file; empty if it is absent.
   QString WrittenText(int item, const QString& field) const;
 
-  // Writes a field, `label` among them; an empty text takes it out of the file, so that the default counts. What is
-  // written is what the field's kind asks for, and a key goes by its name.
+  // Writes a field; `label` is one of them. An empty text removes it from the file, so that the default applies. The
+  // text is converted to the field's kind, and keys are written by name.
   QString SetField(int item, const QString& field, const QString& text);
-  // Edits of one `gesture` are one step on the way back; 0 is a step of its own.
+  // Edits with the same `gesture` are one undo step; an edit with 0 is a step of its own.
   QString SetPair(int item, const QString& field, const QPointF& pair, int gesture = 0);
   QString SetNumber(int item, const QString& field, double number, int gesture = 0);
-  // The new item is the last one.
+  // The new item becomes the last one.
   QString Add(const QString& type, const QPointF& point);
   QString Remove(int item);
-  // The new one comes right behind, a little aside.
+  // The copy comes right after the original, slightly offset.
   QString Duplicate(int item);
 
-  // The part as the file writes it, comments included, with "\n" at the ends of lines. Empty: it is not written.
+  // The part as in the file, with its comments and "
+  // " line ends; empty if it is absent.
   QString Source(const KeymapPart& part) const;
-  // Writes it anew as it stands there; an empty text takes a block out. What is wrong comes with its line and column
-  // in `source`.
+  // Replaces the part; an empty text removes a block. The error has its line and column in `source`.
   QString SetSource(const KeymapPart& part, const QString& source);
 
-  // Makes the text the content of the file at `path`, which is the document's file from then on. Where that fails, the
-  // file stays as it was.
+  // Writes the text to the file at `path`, which becomes the document's file. On failure the file stays as it was.
   QString Save(const QString& path);
-  // Somebody else has written the document's file since it was read or saved here.
+  // Another program has changed the document's file since it was read or saved here.
   bool IsFileChanged() const;
 
  Q_SIGNALS:
-  // The text is another one.
+  // The text has changed.
   void Changed();
 
  private:
   class Edit;
   friend class Edit;
 
-  // What an edit does to the list of items; kLeaves is one of the blocks beside it.
+  // What an edit does to the list of items; kLeaves for an edit of a block.
   enum class Effect { kChanges, kAdds, kRemoves, kLeaves };
 
   void Take(const QByteArray& text);
   QString Push(const QByteArray& after, const QString& name, Effect effect, int item, int gesture = 0);
-  // Whether all items but the edited one, and what stands beside the items, are as they were.
+  // Whether all items except the edited one, and everything beside the items, are unchanged.
   bool LeavesOthers(const tavikeymapmanager::KeymapOutline& outline, const QByteArray& after, Effect effect,
                     int item) const;
   QStringList FieldOrder(int item) const;
@@ -112,7 +111,7 @@ class KeymapDocument : public QObject {
   const QVector<tavikeymapmanager::ItemTypeInfo> types_;
   QString path_;
   QByteArray text_;
-  QByteArray text_on_disk_;  // as it was last read or written here
+  QByteArray text_on_disk_;  // as last read or written here
   tavikeymapmanager::LoadResult keymap_;
   tavikeymapmanager::KeymapOutline outline_;
   QUndoStack undo_;

@@ -39,7 +39,7 @@ QByteArray KeymapText::Replaced(const TextRange& range, const QByteArray& by) co
   return QByteArray(text_).replace(range.begin, range.Length(), by);
 }
 
-// Where nothing is written yet, the place is right behind the colon, or behind the space that follows it.
+// An absent value goes right after the colon, or after the space that follows it.
 QByteArray KeymapText::WithValue(const TextRange& place, const QByteArray& written) const {
   const bool needs_space = place.Length() == 0 && text_[place.begin - 1] == ':';
   return Replaced(place, needs_space ? ' ' + written : written);
@@ -51,7 +51,7 @@ bool KeymapText::HasQuotedNames(const tavikeymapmanager::RecordOutline& record) 
 
 bool KeymapText::IsFirstOnLine(int position) const { return lines_.SkipSpaces(lines_.Begin(position)) == position; }
 
-// As many spaces as stand in front of `position`, whatever else is there.
+// As many spaces as there are characters before `position` on its line.
 QByteArray KeymapText::IndentationOf(int position) const {
   const int begin = lines_.Begin(position);
   return IsFirstOnLine(position) ? text_.mid(begin, position - begin) : QByteArray(position - begin, ' ');
@@ -80,7 +80,7 @@ QByteArray KeymapText::WithPair(int item, const QString& name, const QPointF& pa
   }
   QByteArray text = text_;
   const double numbers[] = {pair.x(), pair.y()};
-  for (const int i : {1, 0}) {  // from behind, so that the first place stays right
+  for (const int i : {1, 0}) {  // from the end, so that earlier positions stay valid
     const TextRange& place = field->entries[i];
     const QByteArray written = NumberText(numbers[i]);
     if (NumberText(Slice(place).toDouble()) != written) text.replace(place.begin, place.Length(), written);
@@ -116,7 +116,7 @@ QByteArray KeymapText::WithoutField(int item, const QString& name) const {
   if (field == nullptr) return text_;
   const int index = static_cast<int>(field - outline.fields.constData());
   if (outline.in_braces) return WithoutFieldInBraces(outline, index);
-  // The first one shares its line with the dash, and the next one moves up to it.
+  // The first field shares its line with the dash, and the next one moves up to it.
   if (index == 0) return Replaced({field->name_range.begin, outline.fields.value(1).name_range.begin}, {});
   return Replaced({lines_.Begin(field->name_range.begin), lines_.Next(field->value.end)}, {});
 }
@@ -225,7 +225,7 @@ QByteArray KeymapText::EntryInBlock(const QVector<NamedValue>& fields) const {
   return indentation + entry;
 }
 
-// Into a file whose list is empty or not written.
+// For a file whose list is empty or absent.
 QByteArray KeymapText::FirstItem(const QVector<NamedValue>& fields) const {
   const bool is_json = HasQuotedNames(outline_.file);
   const FieldOutline* list = outline_.file.Find(kItems);
@@ -255,7 +255,7 @@ QByteArray KeymapText::SeparatorBehind(const ItemOutline& item) const {
   return ',' + lines_.Break() + IndentationOf(item.range.begin);
 }
 
-// Behind the item's line where it has one to itself: what is said there stays with the first one.
+// After the item's line if it has a line of its own: a comment there stays with the first one.
 QByteArray KeymapText::WithCopyInBrackets(const ItemOutline& item) const {
   const int end_of_line = lines_.End(item.range.end);
   const int comma = lines_.SkipComments(item.range.end);

@@ -15,12 +15,12 @@
 
 namespace tavi {
 
-// A value to be written.
+// A value to write.
 struct FieldValue {
   enum class Form {
-    kText,    // text that stays text
+    kText,    // a string
     kPlain,   // a number, true or false, a word
-    kSource,  // as a file writes it, alike in YAML and JSON: "[0.5, 0.5]"
+    kSource,  // a list, in the same form in YAML and JSON: "[0.5, 0.5]"
   };
 
   QString text;
@@ -32,46 +32,47 @@ struct NamedValue {
   FieldValue value;
 };
 
-// A text, and where in it a part begins that was written anew.
+// A text, and the start of the part in it that was rewritten.
 struct PartWritten {
   QByteArray text;
   int begin = 0;  // bytes from the start
 };
 
-// The text of a keymap file, and what it would be with one thing changed. All else stays as it is, byte for byte:
-// order, comments, line breaks, a byte order mark. New parts are written in the style of their neighbours: in lines of
-// their own or in braces, names in quotes where the file is JSON.
+// The text of a keymap file, and its text after one change. Everything else stays the same, byte for byte: order,
+// comments, line breaks, a byte order mark. New parts follow the style of their neighbours: on lines of their own or in
+// braces, with quoted names if the file is JSON.
 //
-// Items go by their index in the file. The caller makes sure that they exist, and that the result is a keymap.
+// Items are identified by their index in the file. The caller makes sure that they exist, and that the result is a
+// keymap.
 class KeymapText {
  public:
   // `outline` is that of `text`.
   KeymapText(const QByteArray& text, const tavikeymapmanager::KeymapOutline& outline);
 
-  // A new field stands behind those that `order` has in front of it.
+  // A new field goes after those that precede it in `order`.
   QByteArray WithField(int item, const QString& name, const FieldValue& value, const QStringList& order) const;
-  // Of two numbers, in a list that the item writes: only one that differs is written anew.
+  // Two numbers, in a list of the item; only those that differ are rewritten.
   QByteArray WithPair(int item, const QString& name, const QPointF& pair, const QStringList& order) const;
   QByteArray WithoutField(int item, const QString& name) const;
 
-  // The item goes with its comments: those in it and behind its lines, and those right above it unless other items
-  // stand right below, which they are about as well.
+  // Removes the item with its comments: those in it and after its lines, and those right above it, unless other items
+  // directly below are covered by them as well.
   QByteArray WithoutItem(int item) const;
-  // Behind the last one.
+  // After the last item.
   QByteArray WithItem(const QVector<NamedValue>& fields) const;
-  // The same item a second time, behind the first one.
+  // A copy of the item, after the original.
   QByteArray WithCopy(int item) const;
 
-  // What a person edits as text. Of an item its lines, from the dash to the comments behind them; in brackets, what
-  // stands between the commas.
+  // The text of a part that the user edits. For an item these are its lines from the dash to the comments after them;
+  // in brackets, the text between the commas.
   tavikeymapmanager::TextRange PlaceOf(int item) const;
   PartWritten WithSource(int item, const QByteArray& source) const;
-  // The same of a field of the keymap itself, its name included. Nothing when it is not written.
+  // The same for a field of the keymap, including its name. Nothing if it is absent.
   std::optional<tavikeymapmanager::TextRange> PlaceOfBlock(const QString& name) const;
-  // A new one stands in front of the items; an empty source takes it out.
+  // A new block goes before the items; an empty source removes it.
   PartWritten WithBlock(const QString& name, const QByteArray& source) const;
 
-  // In the line breaks of this file.
+  // Uses the line breaks of this file.
   QByteArray InLines(const QString& source) const;
 
  private:
@@ -95,21 +96,21 @@ class KeymapText {
   QByteArray WithoutItemInBrackets(int item) const;
   QByteArray WithCopyInBrackets(const ItemOutline& item) const;
 
-  // The lines of an entry of a block list, the comments behind its fields included, from the dash to the last
-  // character.
+  // The lines of an entry of a block list, from the dash to the last character, including the comments after its
+  // fields.
   TextRange LinesOf(const ItemOutline& item) const;
-  // The end of the line at `position`, or of the comments right below it that are indented by `deep` or more.
+  // The end of the line at `position`, or of the comments directly below it that are indented by at least `deep`.
   int EndWithComments(int position, int deep) const;
   PartWritten WithNewBlock(const QByteArray& source) const;
-  // Where the comments right above the item begin.
+  // The start of the comments directly above the item.
   int CommentsAbove(const ItemOutline& item) const;
   bool HasBlankAbove(const ItemOutline& item) const;
-  // Widens lines that are to go, so that no two blank lines meet.
+  // Extends a range of lines to be removed, so that no two blank lines remain.
   TextRange WithBlank(TextRange lines) const;
 
   QByteArray EntryInBlock(const QVector<NamedValue>& fields) const;
   QByteArray FirstItem(const QVector<NamedValue>& fields) const;
-  // What stands in front of an entry in brackets that comes behind this one.
+  // The text before an entry in brackets that follows this one.
   QByteArray SeparatorBehind(const ItemOutline& item) const;
 
   const QByteArray text_;

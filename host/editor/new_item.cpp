@@ -11,7 +11,7 @@ using Form = FieldValue::Form;
 
 namespace {
 
-// The key of a kind of item that usually has this one.
+// The key that is customary for a kind of item.
 struct UsualKey {
   const QString& type;
   const char* key;
@@ -42,7 +42,7 @@ QString FirstFree(const Names& names, const QSet<QString>& used) {
   for (const char* name : names) {
     if (!used.contains(QLatin1String(name))) return QLatin1String(name);
   }
-  return QLatin1String(names[0]);  // bound twice, which is told
+  return QLatin1String(names[0]);  // a key that is bound twice gets a diagnostic
 }
 
 QString KeyOf(const QString& type, const QSet<QString>& used, bool is_gamepad) {
@@ -66,7 +66,7 @@ QVector<NamedValue> DirectionsOf(const QSet<QString>& used) {
   return fields;
 }
 
-// How an item gets its keys, and what it needs to do something.
+// How an item gets its keys, and the fields that it needs to have an effect.
 struct NewItemRow {
   enum class Keys { kNone, kOne, kDirections };
 

@@ -10,17 +10,17 @@
 
 namespace tavi {
 
-// Item types that belong together, as a menu offers them.
+// A group of related item types, as in a menu.
 struct ItemTypeGroup {
-  QString name;  // for people
+  QString name;  // for display
   QStringList types;
 };
 
 // Every type once.
 QVector<ItemTypeGroup> ItemTypeGroups();
 
-// The fields of a new item that does something at `point`, with keys that are not in `used_keys` (names) where there
-// are such keys. `is_gamepad`: keys of a gamepad.
+// The fields of a new item that has an effect at `point`, with keys that are not in `used_keys` (names) as long as
+// there are such keys. `is_gamepad`: gamepad buttons.
 QVector<NamedValue> FieldsOfNewItem(const QString& type, const QPointF& point, const QSet<QString>& used_keys,
                                     bool is_gamepad);
 

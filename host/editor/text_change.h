@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// What makes one text of another: the bytes of one place replaced by others.
+// The difference between two texts, as one replaced range of bytes.
 struct TextChange {
   bool IsEmpty() const { return removed.isEmpty() && inserted.isEmpty(); }
 
@@ -17,7 +17,7 @@ struct TextChange {
   QByteArray inserted;
 };
 
-// The shortest change of one place.
+// The shortest such change.
 TextChange ChangeBetween(const QByteArray& before, const QByteArray& after);
 
 }  // namespace tavi

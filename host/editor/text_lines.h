@@ -5,26 +5,26 @@
 
 namespace tavi {
 
-// The lines of a text, with whatever line breaks it has. All positions are bytes from its start.
+// The lines of a text, with any line breaks. All positions are bytes from its start.
 class TextLines {
  public:
   explicit TextLines(const QByteArray& text);
 
   const QByteArray& Break() const { return break_; }  // of the first line; "\n" in a text of one line
 
-  // Of the line that `position` is on.
+  // For the line that `position` is on.
   int Begin(int position) const;
-  int End(int position) const;   // where its line break stands
-  int Next(int position) const;  // behind its line break
-  int Above(int begin) const;    // where the line above the one that begins there begins; there is one
+  int End(int position) const;   // start of its line break
+  int Next(int position) const;  // after its line break
+  int Above(int begin) const;    // start of the line above the one that begins there; there must be one
 
-  // Of the line that begins at `begin`.
+  // For the line that begins at `begin`.
   bool IsBlank(int begin) const;
   bool IsComment(int begin) const;
-  int Indentation(int begin) const;  // how many spaces are in front
+  int Indentation(int begin) const;  // number of spaces at its start
 
   int SkipSpaces(int position) const;
-  // White space and comments, over as many lines as there are.
+  // Skips white space and comments, over as many lines as there are.
   int SkipComments(int position) const;
 
  private:

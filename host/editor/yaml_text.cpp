@@ -10,7 +10,8 @@ constexpr int kDigits = 4;
 
 bool IsWhole(const QRegularExpression& form, const QString& text) { return form.match(text).hasMatch(); }
 
-// A letter in front, so that it is no number; then nothing that means anything to YAML, in brackets or outside.
+// Starts with a letter, so that it is not a number; then only characters without a meaning in YAML, in brackets or
+// outside.
 bool IsPlainText(const QString& text) {
   static const QRegularExpression form(
       QStringLiteral("\\A\\p{L}(?:[\\p{L}\\p{N} _.()/+'!?*&%-]*[\\p{L}\\p{N}_.()/+!?%-])?\\z"));

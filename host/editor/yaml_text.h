@@ -1,4 +1,4 @@
-// Values as a keymap file writes them.
+// Values in the syntax of a keymap file.
 #ifndef HOST_EDITOR_YAML_TEXT_H_
 #define HOST_EDITOR_YAML_TEXT_H_
 
@@ -7,23 +7,23 @@
 
 namespace tavi {
 
-// At most four digits behind the point, and no zeros at the end: "0.5", "1", "-0.0625".
+// At most four digits after the point, without trailing zeros: "0.5", "1", "-0.0625".
 QByteArray NumberText(double value);
 
 // "[0.5, 0.25]"
 QByteArray PairText(double x, double y);
 
 enum class Quotes {
-  kAsNeeded,  // none where the text can do without
+  kAsNeeded,  // only if necessary
   kSingle,
-  kDouble  // always, as JSON wants it
+  kDouble  // always, as in JSON
 };
 
-// A scalar that YAML reads as the text `text`, on one line, at any place of a file.
+// A scalar that YAML reads as the string `text`, on one line, anywhere in a file.
 QByteArray TextScalar(const QString& text, Quotes quotes);
 
-// A scalar that YAML reads as what `text` looks like: a number, true, a word. What cannot stand without quotes, or
-// could not in JSON when `quotes` asks for them, becomes a text.
+// A scalar that YAML reads as what `text` looks like: a number, true, a word. A text that needs quotes, or that JSON
+// would need them for if `quotes` asks for them, becomes a string.
 QByteArray PlainScalar(const QString& text, Quotes quotes);
 
 }  // namespace tavi

@@ -10,22 +10,22 @@ namespace tavi {
 
 class Gamepads;
 
-// Reads the gamepads of this computer through SDL: those that are connected, and those that come and go meanwhile.
-// SDL's window and sound are not used. In a build without SDL there are no gamepads.
+// Reads this computer's gamepads through SDL, including those that are connected or disconnected later. SDL's window
+// and sound are not used. A build without SDL has no gamepads.
 //
-// Gamepads that SDL does not know can be described to it in the environment variable SDL_GAMECONTROLLERCONFIG.
+// Gamepads that SDL does not know can be described in the environment variable SDL_GAMECONTROLLERCONFIG.
 //
-// One at a time. Main thread.
+// Only one may exist at a time. Main thread.
 class GamepadPoll : public QObject {
   Q_OBJECT
 
  public:
-  // Whether a gamepad is to be read; by its device's file.
+  // Whether to read a gamepad, by its device file.
   using Choice = std::function<bool(const QString& path)>;
 
-  // `pads` outlives the poll. Without `choice` all are read.
+  // `pads` outlives the poll. Without `choice` all gamepads are read.
   explicit GamepadPoll(Gamepads* pads, Choice choice = {}, QObject* parent = nullptr);
-  // Takes the gamepads out again.
+  // Removes its gamepads from `pads`.
   ~GamepadPoll() override;
 
   // Whether the program was built with SDL.

@@ -1,4 +1,4 @@
-#define SDL_MAIN_HANDLED  // the program's main function is its own
+#define SDL_MAIN_HANDLED  // SDL must not replace main
 
 #include <SDL.h>
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kReadMs = 8;
 constexpr int kReadWithoutPadsMs = 500;
-constexpr double kMostOfAxis = 32767;  // the other way it is one more
+constexpr double kMostOfAxis = 32767;  // SDL's vertical axes grow downwards, from -32768 to 32767
 
 PadFamily FamilyOf(SDL_GameControllerType type) {
   switch (type) {
@@ -45,7 +45,7 @@ GamepadPoll::GamepadPoll(Gamepads* pads, Choice choice, QObject* parent)
     : QObject(parent), pads_(pads), choice_(std::move(choice)) {
   SDL_SetMainReady();
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  // SDL has no window here and would not know which is in front; Gamepads is told.
+  // SDL has no window here and cannot know whether one is active; Gamepads does.
   SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
   is_open_ = SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) == 0;
   if (!is_open_) return;
@@ -80,12 +80,12 @@ void GamepadPoll::ReadEvents() {
       case SDL_CONTROLLERAXISMOTION:
         pads_->SetAxis(event.caxis.which, AxisOf(event.caxis), std::max(-1.0, event.caxis.value / kMostOfAxis));
         break;
-      default: break;  // the same again as a joystick that nobody knows the buttons of
+      default: break;  // the same device again as a joystick, without known buttons
     }
   }
 }
 
-// Without any gamepad it is enough to look for one now and then.
+// Without a gamepad, it is enough to poll for one now and then.
 void GamepadPoll::SetPace() {
   const bool has_pads = pads_->Count() > 0;
   reading_.start(has_pads ? kReadMs : kReadWithoutPadsMs, Qt::PreciseTimer, this);
@@ -99,7 +99,7 @@ void GamepadPoll::SetPace() {
 void GamepadPoll::Open(int device_index) {
   if (choice_ && !choice_(QString::fromUtf8(SDL_JoystickPathForIndex(device_index)))) return;
   SDL_GameController* controller = SDL_GameControllerOpen(device_index);
-  if (!controller) return;  // gone again, or another program's alone
+  if (!controller) return;  // disconnected again, or grabbed by another program
   const int id = SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(controller));
   pads_->Add(id, NameOf(controller), FamilyOf(SDL_GameControllerGetType(controller)));
   SetPace();

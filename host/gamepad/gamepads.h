@@ -11,7 +11,7 @@
 
 namespace tavi {
 
-// The gamepads that are connected, and what the library was told of each. Whoever reads the devices fills it in:
+// The connected gamepads, and the values that the library got for each. The code that reads the devices fills it:
 // GamepadPoll for real ones.
 //
 // Main thread.
@@ -21,30 +21,30 @@ class Gamepads : public QObject {
  public:
   explicit Gamepads(PadInput::Sink sink, QObject* parent = nullptr);
 
-  // `id` and the names of buttons and axes are those of PadInput; events of gamepads that are not here are left out.
+  // `id` and the names of buttons and axes are those of PadInput; events of unknown gamepads are ignored.
   void Add(int id, const QString& name, PadFamily family);
-  // Lets go of all that the gamepad held.
+  // Releases all that the gamepad holds.
   void Remove(int id);
   void SetButton(int id, const QString& button, bool down);
   void SetAxis(int id, const QString& axis, double value);
-  // To be called every kStickMs milliseconds.
+  // Call it every kStickMs milliseconds.
   void SendSticks();
 
-  // While the window is not in use, gamepads are not either.
+  // While the window is inactive, gamepads are ignored.
   void SetListening(bool listening);
   void ReleaseAll();
 
   QList<int> Ids() const;
   int Count() const { return static_cast<int>(pads_.size()); }
-  // The gamepad that was used last, or that came last; null without any. Valid until the next change.
+  // The gamepad that was last used or, if none was, last connected; null if there is none. Valid until the next change.
   const PadInput* LastUsed() const;
   QString LastUsedName() const;
 
-  // A view turned by a right stick moves by a step each time.
+  // The interval at which the right stick turns the view by a step.
   static constexpr int kStickMs = 16;
 
  Q_SIGNALS:
-  // A gamepad came or went, or is used.
+  // A gamepad was connected, disconnected or used.
   void Changed();
 
  private:

@@ -16,8 +16,8 @@ namespace {
 constexpr int kLeft = 0;
 constexpr int kRight = 1;
 
-// Kinds of gamepad, by what the library calls their buttons: letters and arrows, or the numbers that those of a
-// PlayStation have.
+// Kinds of gamepad, by the library's names for their buttons: letters and arrows, or the numbers of a PlayStation
+// gamepad.
 constexpr int kLetters = 1;
 constexpr int kPlayStationNumbers = 2;
 
@@ -28,7 +28,7 @@ const QString kRightTrigger = QStringLiteral("righttrigger");
 
 struct NameRow {
   const char* button;    // SDL's name
-  const char16_t* text;  // the library's
+  const char16_t* text;  // the library's name
 };
 
 constexpr NameRow kNames[] = {
@@ -56,7 +56,7 @@ constexpr NameRow kNames[] = {
     {"paddle4", u"Paddle4"},
 };
 
-// Buttons that the library knows of a PlayStation alone, by number.
+// Buttons that the library knows only on a PlayStation gamepad, by number.
 constexpr NameRow kPlayStationNames[] = {
     {"guide", u"12"},
     {"touchpad", u"13"},
@@ -87,7 +87,7 @@ constexpr AxisRow kAxes[] = {
     {"righty", kRight, false},
 };
 
-// Empty where the table has no such button.
+// Empty if the table has no such button.
 template <size_t N>
 QString TextIn(const NameRow (&rows)[N], const QString& button) {
   for (const NameRow& row : rows) {
@@ -148,7 +148,7 @@ bool PadInput::IsTold(const QString& button) const {
 void PadInput::Tell(const QString& button) {
   const Press press = PressOf(button);
   if (!listening_ || press.text.isEmpty() || IsTold(button)) return;
-  // A release of either end of the cross sets its whole axis to rest, so it must not come behind the other's press.
+  // Releasing either end of an axis of the hat centres the axis, so it must not come after the other end's press.
   TakeBack(OppositeOf(button));
   told_.append(press);
   taviinputmanager::JoystickButtonEvent event(JoystickEvent::ButtonPress, press.text, 0, press.device);

@@ -1,8 +1,8 @@
-// From one gamepad's buttons, triggers and sticks to the events that the library takes.
+// Converts one gamepad's buttons, triggers and sticks to events of the library.
 //
-// Buttons and axes come by the names that SDL has for them, which mean the same place on every gamepad:
-// "leftshoulder", "dpup", "righttrigger". All gamepads call their buttons by letters, so that one keymap serves them
-// all. The two buttons that have no letter are called by their numbers, under a second device.
+// Buttons and axes have SDL's names, which mean the same position on every gamepad: "leftshoulder", "dpup",
+// "righttrigger". All gamepads use letters for their buttons, so that one keymap serves them all. The two buttons
+// without a letter use their numbers, under a second device.
 #ifndef HOST_GAMEPAD_PAD_INPUT_H_
 #define HOST_GAMEPAD_PAD_INPUT_H_
 
@@ -19,56 +19,57 @@ class QEvent;
 namespace tavi {
 
 enum class PadFamily {
-  kLettered,     // of the Xbox kind, and all that follow it
+  kLettered,     // an Xbox gamepad, or one with its layout
   kPlayStation,  // has a touchpad that is a button
 };
 
-// Sticks nearer to their rest than this, of 1, are at rest: gamepads that were used for some time stop short of it.
-// The way from here to the edge counts as the whole.
+// A stick whose deflection, from 0 to 1, is smaller than this is at rest: worn gamepads do not return to the centre.
+// The range from here to the edge is scaled to the full range.
 constexpr double kStickDeadZone = 0.15;
-// A left stick that moved by no more than this has not moved: each movement costs the library time.
+// A movement of the left stick up to this size is ignored, because each movement costs the library time.
 constexpr double kStickStep = 0.01;
-// A trigger, 0 to 1, is a button that goes down above the one and up below the other.
+// A trigger, 0 to 1, is a button that is pressed above the first value and released below the second.
 constexpr double kTriggerDown = 0.4;
 constexpr double kTriggerUp = 0.25;
 
-// What a stick at `raw`, each axis -1 to 1, stands for: within the unit circle, and null when it is at rest.
+// The position of a stick from `raw`, each axis -1 to 1: within the unit circle, and null at rest.
 QPointF StickValue(const QPointF& raw);
 
-// What the library's GetJoystickType gets for a device that a PadInput speaks of, and for any other.
+// GetJoystickType's result for a device of a PadInput, and for any other.
 int KindOfDevice(int device);
 
-// One gamepad. It remembers what the library was told, and takes it back when it must.
+// One gamepad. It remembers what the library was sent, and releases it when necessary.
 //
 // Main thread.
 class PadInput {
  public:
   using Sink = std::function<void(QEvent*)>;
 
-  // `id` is below 1,000,000 and no other gamepad's. `sink` gets button and axis events of the library, the sink's for
-  // the time of the call.
+  // `id` is below 1,000,000 and unique. `sink` gets button and axis events for the library; they are valid during the
+  // call.
   PadInput(int id, PadFamily family, Sink sink);
 
-  // A button or axis that has no meaning here is left out.
+  // A button or axis without a meaning here is ignored.
   void SetButton(const QString& button, bool down);
-  // `value` is -1 (left, up) to 1, of a trigger 0 to 1. Sticks are told by SendSticks, triggers at once.
+  // `value` is -1 (left, up) to 1; for a trigger 0 to 1. Stick positions are sent by SendSticks, triggers at once.
   void SetAxis(const QString& axis, double value);
-  // Call this at a steady pace: the left stick is told when it has moved; the right one each time while it is out of
-  // its rest, since to the library it is a speed, and each event a step.
+  // Call this at a steady rate. It sends the left stick if it has moved; the right one each time while it is deflected,
+  // because for the library each event of it is one step of a movement.
   void SendSticks();
 
-  // Lets go of all that was told, what was pressed last first. What is held on then counts again from its next press.
+  // Releases all that was pressed, in reverse order. A button that is still held takes effect again with its next
+  // press.
   void ReleaseAll();
-  // While off, nothing is told and what was told stays. When it is on again, what was let go meanwhile is let go.
+  // While off, nothing is sent and what was sent stays. On switching on again, what was released meanwhile is released.
   void SetListening(bool listening);
 
-  // The names of the buttons that the library takes to be down, in the order of their presses.
+  // The names of the buttons that are down for the library, in the order of their presses.
   QStringList Pressed() const;
-  // As last told: 0 left, 1 right.
+  // As last sent: 0 left, 1 right.
   QPointF Stick(int stick) const { return told_sticks_[stick]; }
 
  private:
-  // What the library was told to be down.
+  // A button that is down for the library.
   struct Press {
     QString button;  // SDL's name
     QString text;    // the library's

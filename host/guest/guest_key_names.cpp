@@ -12,7 +12,7 @@ struct NamedCode {
   const char* name;
 };
 
-// Codes that no key of a keyboard stands for.
+// Codes without a keyboard key.
 constexpr NamedCode kOwnNames[] = {
     {139, "Menu"},         {158, "Back"},         {272, "Mouse Left"},   {273, "Mouse Right"},
     {274, "Mouse Middle"}, {277, "Mouse Side 2"}, {278, "Mouse Side 1"}, {279, "Mouse Side 3"},
@@ -24,7 +24,7 @@ QString NameOfGuestKey(int code) {
   for (const NamedCode& own : kOwnNames) {
     if (own.code == code) return QLatin1String(own.name);
   }
-  // A scan code that the library has no guest code for reaches the guest as it is.
+  // A scan code that the library has no guest code for is sent unchanged.
   const int scancode = tavikeymapmanager::ScanCodeOfLinuxKey(code);
   const auto key = tavikeymapmanager::KeyFromName(QStringLiteral("Scan %1").arg(scancode != 0 ? scancode : code));
   return key ? tavikeymapmanager::NameOfKey(*key) : QStringLiteral("Key %1").arg(code);

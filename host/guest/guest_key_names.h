@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// What people call a key of the guest: the name of the key or mouse button that stands for it, or "Key 200".
+// A display name for a key of the guest: the name of the key or mouse button that produces it, or "Key 200".
 QString NameOfGuestKey(int code);
 
 }  // namespace tavi

@@ -1,5 +1,5 @@
-// The lines that the guest is sent, taken apart. This is the guest's side of them, for windows and checks that show
-// what a guest would make of its input.
+// Parses the lines that the guest gets with the guest's own parser, for windows and checks that show what a guest does
+// with its input.
 #ifndef HOST_GUEST_GUEST_LINE_H_
 #define HOST_GUEST_GUEST_LINE_H_
 
@@ -8,41 +8,18 @@
 #include <QString>
 #include <QVector>
 
+#include "guest/line/guest_line.h"
 #include "host/guest/rounding.h"
 
 namespace tavi {
 
+// Like taviguest::GuestLine, which documents the numbers of each kind.
 struct GuestLine {
-  // With the numbers that each carries. Positions are touch coordinates; those of a replay have fractions.
-  enum class Kind {
-    kUnknown,         // not understood; no numbers
-    kSlotPress,       // slot, tracking id, 1, 1, x, y
-    kSlotRelease,     // slot
-    kSlotReleaseAll,  // none
-    kMultiPress,      // slot, tracking id, x, y; again for each contact
-    kMultiRelease,    // slot; again for each contact
-    kKeyPress,        // guest key code, 1
-    kKeyRelease,      // guest key code, 0
-    kMouseMove,       // x, y: the place of the pointer, in spite of the line's name
-    kWheel,           // x, y, amount, 0
-    kWheelWithDelta,  // x, y, amount with fraction, 0
-    kText,            // none; text
-    kTextControl,     // none; text: the control's name
-    kLeftStick,       // x, y in millionths
-    kRightStick,      // x, y in millionths
-    kLeftTrigger,     // value
-    kRightTrigger,    // value
-    kGamepadButton,   // code, value
-    kHatX,            // -1 left, 1 right
-    kHatY,            // -1 up, 1 down
-    kTouchpadTouch,   // x, y
-    kTouchpadPress,   // none
-    kTouchpadRelease  // none
-  };
+  using Kind = taviguest::GuestLine::Kind;
 
-  // Whole, and inside what an int holds.
+  // Whole numbers in the range of int.
   int Integer(int index) const { return static_cast<int>(Bounded(index)); }
-  // The position of two numbers, the first at `index`.
+  // The position from two numbers, the first at `index`.
   QPoint PointAt(int index) const { return Rounded(QPointF(Bounded(index), Bounded(index + 1))); }
   double Bounded(int index) const { return qBound(-kHighest, numbers.at(index), kHighest); }
 
@@ -53,17 +30,17 @@ struct GuestLine {
   QString text;
 };
 
-// Takes a line without display prefix and line end. A line with a field too many, too few, of the wrong kind or with
-// another constant than its own is not understood. Texts are taken whole, colons and line ends included.
+// Parses a line without display prefix and line end. A line with too many or too few fields, with one of the wrong
+// kind, or with a wrong constant is not understood. Texts are taken unchanged, colons and line ends included.
 GuestLine ParseGuestLine(const QString& line);
 
-// An event line is "<display>:" and then the line itself.
+// An event line is "<display>:" followed by the line itself.
 struct AddressedLine {
   int display = 0;
   QString line;
 };
 
-// An empty line for a text without display prefix.
+// Returns an empty line for a text line without display prefix.
 AddressedLine SplitDisplay(const QString& event);
 
 }  // namespace tavi

@@ -23,7 +23,7 @@ void SetHeld(QSet<int>* held, int code, bool down) {
   }
 }
 
-// A character outside the basic plane takes two units.
+// A character outside the basic multilingual plane is two units.
 void RemoveLastCharacter(QString* text) {
   const int size = text->size();
   const bool is_pair = size > 1 && text->at(size - 1).isLowSurrogate() && text->at(size - 2).isHighSurrogate();
@@ -83,7 +83,7 @@ bool GuestModel::PressContacts(const GuestLine& line) {
   return all;
 }
 
-// A finger that is up already is not a fault: a reset sweeps all slots.
+// Releasing a contact that is not down is no error: a reset sweeps all slots.
 bool GuestModel::ReleaseContacts(const GuestLine& line) {
   bool all = true;
   for (int i = 0; i < line.numbers.size(); ++i) {

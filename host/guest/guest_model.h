@@ -1,4 +1,4 @@
-// What one display of the guest has down, shown and typed, made from the lines that it is sent.
+// The state of one display of the guest, computed from its lines: what is down, what is shown, what was typed.
 #ifndef HOST_GUEST_GUEST_MODEL_H_
 #define HOST_GUEST_GUEST_MODEL_H_
 
@@ -20,14 +20,14 @@ struct GuestContact {
 };
 
 struct GuestGamepad {
-  bool used = false;   // a line of it has come
+  bool used = false;   // a line about it has arrived
   QPointF left_stick;  // -1 (left, up) to 1
   QPointF right_stick;
   int left_trigger = 0;
   int right_trigger = 0;
   QPoint hat;  // -1 (left, up), 0 or 1
   QSet<int> buttons;
-  std::optional<QPoint> touchpad;  // where it is touched, touch coordinates
+  std::optional<QPoint> touchpad;  // touch coordinates of the position where it was touched
   bool touchpad_pressed = false;
 };
 
@@ -42,11 +42,11 @@ struct GuestState {
   QSet<int> held_keys;               // guest key codes; mouse buttons are keys
   std::optional<QPoint> pointer;     // touch coordinates
   GuestWheelTurn wheel;
-  QString text;  // as a focused text field would hold it
+  QString text;  // as a focused text field would contain it
   GuestGamepad gamepad;
 };
 
-// A guest has 26 slots, 0 to 25, for the fingers on its screen.
+// A guest has 26 slots, 0 to 25, for the contacts on its screen.
 constexpr int kGuestSlotCount = 26;
 
 // Not bound to a thread.
@@ -54,11 +54,11 @@ class GuestModel {
  public:
   explicit GuestModel(int display) : display_(display) {}
 
-  // Each takes a line without its end and tells whether it was understood. A line for another display is understood and
-  // changes nothing; texts go to whatever display has the focus, which is this one.
+  // Each applies a line without its end and returns whether it was understood. A line for another display is understood
+  // and changes nothing; text lines go to the display that has the focus, which is this one.
   bool ApplyEvent(const QString& event);
   bool ApplyText(const QString& line);
-  // A line of either kind that was taken apart, and is for this display.
+  // A parsed line of either kind, which must be for this display.
   bool Apply(const GuestLine& line);
 
   const GuestState& state() const { return state_; }

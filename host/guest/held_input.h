@@ -1,4 +1,4 @@
-// What a guest has down, on all of its displays, and the lines that lift it.
+// What a guest holds down, on all of its displays, and the lines that release it.
 #ifndef HOST_GUEST_HELD_INPUT_H_
 #define HOST_GUEST_HELD_INPUT_H_
 
@@ -10,17 +10,17 @@
 
 namespace tavi {
 
-// The event lines, without display and end, that lift what is down in `state` and centre its gamepad; in ascending
-// order of slots and codes.
+// The event lines, without display prefix and line end, that release what is down in `state` and centre its gamepad; in
+// ascending order of slots and codes.
 QStringList LiftLines(const GuestState& state);
 
 // Not bound to a thread.
 class HeldInput {
  public:
-  // An event line that is sent to `display`.
+  // An event line that was sent to `display`.
   void Take(int display, const GuestLine& line);
 
-  // Nothing is down on a display that was not heard of.
+  // Nothing is down on an unknown display.
   const GuestState& StateOf(int display) const;
   // By display.
   const std::map<int, GuestModel>& Displays() const { return displays_; }

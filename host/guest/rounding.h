@@ -1,4 +1,4 @@
-// From doubles to ints, the same on every Qt.
+// Conversion from double to int, the same on every Qt.
 #ifndef HOST_GUEST_ROUNDING_H_
 #define HOST_GUEST_ROUNDING_H_
 
@@ -7,8 +7,8 @@
 
 namespace tavi {
 
-// To the nearest, halves upwards: -0.5 gives 0, -1.5 gives -1. So did qRound of Qt 5; that of Qt 6, and with it
-// QPointF::toPoint, turns halves away from zero. `v` fits an int.
+// Rounds to nearest, halves up: -0.5 gives 0, -1.5 gives -1. This is qRound of Qt 5; that of Qt 6, and with it
+// QPointF::toPoint, rounds halves away from zero. `v` must fit an int.
 inline int Rounded(double v) {
   if (v >= 0) return static_cast<int>(v + 0.5);
   const int below = static_cast<int>(v - 1);

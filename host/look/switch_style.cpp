@@ -53,7 +53,7 @@ void SwitchStyle::drawControl(ControlElement element, const QStyleOption* option
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
-// On the edge of what it is around, which may be that of the window.
+// Drawn inside the edge of the widget, which may be the edge of the window.
 int SwitchStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin) return 0;
   return QProxyStyle::pixelMetric(metric, option, widget);

@@ -5,9 +5,8 @@
 
 namespace tavi {
 
-// Widgets as Fusion draws them, but for the buttons of tool bars: one that is switched on is filled, one that the
-// pointer rests on, or that has the keys, has a rim. So a switch that was just turned off looks off. The frame around
-// what has the keys is such a rim, too.
+// Draws widgets like Fusion, except tool bar buttons: a checked button is filled, a hovered or focused one has a frame.
+// A switch that was just turned off therefore looks off. The focus frame is drawn in the same way.
 class SwitchStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ constexpr int kHueStep = 137;
 constexpr int kFirstHue = 28;
 
 constexpr int kLogTextHeight = 12;
-constexpr int kMiddle = 128;  // of lightness
+constexpr int kMiddle = 128;  // lightness
 
 const char* const kNames[] = {"desktop", "light", "dark"};
 
@@ -129,7 +129,7 @@ bool ParseLook(const QString& name, Look* look) {
   return false;
 }
 
-// The desktop's palette is looked at before it is replaced.
+// The desktop's palette must be read before it is replaced.
 void Apply(QApplication* application, Look look) {
   const bool is_light = IsDesktopLight() ? look != Look::kDark : look == Look::kLight;
   current = is_light ? &Light() : &Dark();

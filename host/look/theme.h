@@ -1,4 +1,4 @@
-// The colours of the window, in one place: a dark set and a light one.
+// The colours of the window, in one place: a dark theme and a light one.
 //
 // Main thread.
 #ifndef HOST_LOOK_THEME_H_
@@ -16,9 +16,9 @@ class QObject;
 
 namespace tavi::theme {
 
-// Every text colour can be read on every ground, and `on_lit` on every lit colour: at least 4.5 to 1.
+// Every text colour is legible on every background, and `on_lit` on every lit colour: the contrast is at least 4.5:1.
 struct ColorSet {
-  // Grounds.
+  // Backgrounds.
   QColor backdrop;    // around the guest view
   QColor guest;       // its middle
   QColor guest_edge;  // its corners
@@ -26,12 +26,12 @@ struct ColorSet {
   QColor panel_line;
   QColor button;
   QColor base;   // of lists and fields
-  QColor plate;  // of keys over the guest, which lets little through
+  QColor plate;  // of keys over the guest, nearly opaque
 
   // Texts.
   QColor text;
   QColor faint_text;
-  QColor label;  // of items over the guest: fainter than key names, and legible on a picture
+  QColor label;  // of items over the guest: fainter than key names, but legible on a picture
   QColor tap;
   QColor walk;
   QColor view;
@@ -40,9 +40,9 @@ struct ColorSet {
   QColor error;
   QColor warning;
 
-  QColor on_lit;     // text where one of the colours above is the ground
-  QColor switch_on;  // ground of a switch that is on, with `text` on it
-  QColor selection;  // ground, with `selected_text` on it
+  QColor on_lit;     // text on one of the colours above
+  QColor switch_on;  // background of a checked switch, with `text` on it
+  QColor selection;  // background, with `selected_text` on it
   QColor selected_text;
   QColor grid;
   int finger_saturation;  // of SlotColor
@@ -55,24 +55,24 @@ struct ColorSet {
 
 const ColorSet& Dark();
 const ColorSet& Light();
-// The set in use; dark until Apply says otherwise.
+// The colours in use; dark until Apply is called.
 const ColorSet& Colors();
 
 enum class Look { kDesktop, kLight, kDark };
 
 // "desktop", "light", "dark"
 QString NameOf(Look look);
-// False for a name that is none of these.
+// False for any other name.
 bool ParseLook(const QString& name, Look* look);
 
-// Gives all widgets these colours; those of the desktop are as light as its palette was at the program's start.
+// Applies these colours to all widgets. kDesktop follows the lightness of the desktop's palette at the program's start.
 void Apply(QApplication* application, Look look);
 Look CurrentLook();
 
-// Calls `take` now and whenever other colours come, for as long as `owner` lives: for what keeps a colour.
+// Calls `take` now and whenever the colours change, as long as `owner` exists: for objects that store a colour.
 void Follow(QObject* owner, const std::function<void()>& take);
 
-// The colour of a finger by its slot, so that one finger keeps its colour.
+// The colour of a contact by its slot, so that each contact keeps its colour.
 QColor SlotColor(int slot);
 
 QFont MonospaceFont();

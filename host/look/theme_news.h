@@ -5,7 +5,7 @@
 
 namespace tavi::theme {
 
-// Tells that the colours are others; theme::Follow listens. Main thread.
+// Signals that the colours have changed; theme::Follow listens. Main thread.
 class ThemeNews : public QObject {
   Q_OBJECT
 

@@ -1,4 +1,4 @@
-// Where instances of one user find each other.
+// How instances of one user find each other.
 #ifndef HOST_MIRROR_MIRROR_ADDRESS_H_
 #define HOST_MIRROR_MIRROR_ADDRESS_H_
 
@@ -8,12 +8,12 @@ class QLocalSocket;
 
 namespace tavi {
 
-// What is wrong with a name to listen under, or nothing: it is a word of letters, digits, "-" and "_". So it leads to
-// no file but those that are made for it.
+// The error in a name to listen under, or an empty string: a name is a word of letters, digits, "-" and "_", so that it
+// can refer to no file other than its socket.
 QString MirrorNameProblem(const QString& name);
 
-// What a local socket connects to for this name. Sockets lie in a folder that only the user can enter, which is made on
-// demand; empty where there can be none.
+// The address of the local socket with this name. Sockets are in a folder that only the user can enter, which is
+// created on demand; empty if there can be none.
 QString MirrorAddressOf(const QString& name);
 
 // Whether the other end of a connection is a program of this user.

@@ -17,7 +17,7 @@ namespace {
 constexpr mode_t kMineAlone = 0700;
 constexpr mode_t kOthers = 0077;
 
-// False where a folder of that name is someone else's, or is none.
+// False if the name belongs to another user or is not a folder.
 bool MakeMine(const QByteArray& folder) {
   if (mkdir(folder.constData(), kMineAlone) != 0 && errno != EEXIST) return false;
   struct stat status {};

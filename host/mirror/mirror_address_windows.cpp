@@ -4,12 +4,12 @@
 
 namespace tavi {
 
-// Pipes have names and no files.
+// Pipes have names but no files.
 QString MirrorAddressOf(const QString& name) {
   return QStringLiteral("tavi-%1-%2").arg(qEnvironmentVariable("USERNAME"), name);
 }
 
-// A pipe lets its owner in and nobody else.
+// A pipe admits its owner and nobody else.
 bool IsOfThisUser(const QLocalSocket& /*socket*/) { return true; }
 
 }  // namespace tavi

@@ -10,8 +10,8 @@ class QLocalSocket;
 
 namespace tavi {
 
-// Takes the connections of other programs of the same user, and of nobody else. Where the system has no room for one
-// more, those who wait are taken when it has.
+// Accepts connections from other programs of the same user, and from nobody else. While the system has no resources for
+// another connection, connections wait.
 //
 // Main thread.
 class MirrorListener : public QObject {
@@ -19,19 +19,20 @@ class MirrorListener : public QObject {
 
  public:
   explicit MirrorListener(QObject* parent = nullptr);
-  // Nothing is left behind for others to find.
+  // Removes the socket.
   ~MirrorListener() override;
 
-  // Listens under a name until the end, once. Returns what is wrong, or nothing. What a crashed instance left behind is
-  // replaced; a name that is in use is not taken, and what is no socket of this user's is not touched.
+  // Listens under a name until destruction; may be called once. Returns the error, or an empty string. A socket left by
+  // a crashed instance is replaced; a name that is in use is refused, and a file that is not a socket of this user is
+  // not touched.
   QString Listen(const QString& name);
 
  Q_SIGNALS:
-  // The socket is the receiver's to delete.
+  // The receiver must delete the socket.
   void Connected(QLocalSocket* socket);
 
  private:
-  class Entrance;  // of the platform
+  class Entrance;  // platform specific
 
   std::unique_ptr<Entrance> entrance_;
 };

@@ -21,11 +21,11 @@ namespace tavi {
 
 namespace {
 
-constexpr int kWaiting = 16;  // connections that the system holds until they are taken
-constexpr int kRestMs = 500;  // before the next try, where the system has no room
+constexpr int kWaiting = 16;  // connections that the system queues until they are accepted
+constexpr int kRestMs = 500;  // delay before the next attempt when the system has no resources
 constexpr int kNewSocket = SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK;
 
-// Closed at its end.
+// Closed on destruction.
 class Descriptor {
  public:
   explicit Descriptor(int file) : file_(file) {}
@@ -53,24 +53,24 @@ bool FillAddress(const QByteArray& path, sockaddr_un* address) {
 
 const sockaddr* Plain(const sockaddr_un& address) { return reinterpret_cast<const sockaddr*>(&address); }
 
-// Whether a program listens there still; a socket whose program is gone refuses.
+// Whether a program still listens there; a socket without a program refuses.
 bool IsAlive(const sockaddr_un& address) {
   const Descriptor probe(socket(AF_UNIX, kNewSocket, 0));
   return connect(probe.Get(), Plain(address), sizeof(address)) == 0 || errno != ECONNREFUSED;
 }
 
-// Returns why the address cannot be taken, or nothing.
+// Returns why the address cannot be used, or an empty string.
 QString ClearAddress(const sockaddr_un& address, const QString& name) {
   struct stat status {};
   if (lstat(address.sun_path, &status) != 0) return errno == ENOENT ? QString() : Problem();
   if (!S_ISSOCK(status.st_mode) || status.st_uid != geteuid()) {
-    return QStringLiteral("%1 is no socket of this user").arg(QFile::decodeName(address.sun_path));
+    return QStringLiteral("%1 is not a socket of this user").arg(QFile::decodeName(address.sun_path));
   }
   if (IsAlive(address)) return QStringLiteral("another instance listens as %1").arg(name);
   return unlink(address.sun_path) == 0 ? QString() : Problem();
 }
 
-// Whoever only looked whether someone listens has gone again.
+// A program that only checked whether someone listens has disconnected already.
 bool HasGone(int file) {
   char byte = 0;
   return recv(file, &byte, sizeof(byte), MSG_PEEK | MSG_DONTWAIT) == 0;
@@ -80,7 +80,7 @@ bool IsShortage(int error) { return error == EMFILE || error == ENFILE || error 
 
 }  // namespace
 
-// A listening socket, and the file by which it is found.
+// A listening socket and its file.
 class MirrorListener::Entrance {
  public:
   explicit Entrance(MirrorListener* owner) : owner_(owner), socket_(socket(AF_UNIX, kNewSocket, 0)) {}
@@ -93,7 +93,7 @@ class MirrorListener::Entrance {
   Entrance(const Entrance&) = delete;
   Entrance& operator=(const Entrance&) = delete;
 
-  // Of two instances that start at once, one waits for the other.
+  // If two instances start at once, one waits for the other.
   QString Open(const QString& path, const QString& name) {
     if (!FillAddress(QFile::encodeName(path), &address_)) return qt_error_string(ENAMETOOLONG);
     const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
@@ -132,7 +132,7 @@ class MirrorListener::Entrance {
     }
   }
 
-  // Who waits would be told of again and again meanwhile.
+  // A waiting connection would be signalled repeatedly meanwhile.
   void Rest() {
     notifier_->setEnabled(false);
     QTimer::singleShot(kRestMs, notifier_.get(), [this] { notifier_->setEnabled(true); });
@@ -154,7 +154,7 @@ QString MirrorListener::Listen(const QString& name) {
   QString problem = MirrorNameProblem(name);
   if (!problem.isEmpty()) return problem;
   const QString path = MirrorAddressOf(name);
-  if (path.isEmpty()) return QStringLiteral("there is no folder of the user's own for it (XDG_RUNTIME_DIR)");
+  if (path.isEmpty()) return QStringLiteral("there is no private folder for the socket (XDG_RUNTIME_DIR)");
   entrance_ = std::make_unique<Entrance>(this);
   problem = entrance_->Open(path, name);
   if (!problem.isEmpty()) entrance_.reset();

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kProbeMs = 200;
 
-// Two programs may listen to pipes of one name.
+// Two programs may listen on pipes with the same name.
 bool IsInUse(const QString& address) {
   QLocalSocket probe;
   probe.connectToServer(address);
@@ -19,7 +19,7 @@ bool IsInUse(const QString& address) {
 
 }  // namespace
 
-// A pipe goes with its program, and lets its owner in alone.
+// A pipe is removed with its program, and admits only its owner.
 class MirrorListener::Entrance {
  public:
   explicit Entrance(MirrorListener* owner) {

@@ -7,7 +7,7 @@ namespace tavi {
 
 namespace {
 
-// The stream writes a flag of a byte, the line's length in bytes, and the line in units of two bytes.
+// The stream contains a flag byte, the line's length in bytes, and the line in units of two bytes.
 constexpr int kFlagBytes = 1;
 constexpr int kHeaderBytes = kFlagBytes + 4;
 constexpr quint32 kUnitBytes = 2;

@@ -1,4 +1,4 @@
-// What one instance tells another of its input.
+// The messages between instances about their input.
 #ifndef HOST_MIRROR_MIRROR_MESSAGE_H_
 #define HOST_MIRROR_MIRROR_MESSAGE_H_
 
@@ -9,17 +9,17 @@ class QIODevice;
 
 namespace tavi {
 
-// A line with its newline, and without a display: each instance puts it on its own.
+// A line with its newline but without a display prefix: each instance adds its own.
 struct MirrorMessage {
-  bool is_text = false;  // a line of text, as against one of touch, keys and the like
+  bool is_text = false;  // a text line, not an event line
   QString line;
 };
 
 constexpr auto kMirrorStreamVersion = QDataStream::Qt_5_15;
 
-// No line has so many characters; who sends one is no instance of ours.
+// No line has this many characters; a program that sends one is not an instance.
 constexpr int kTooLongMirrorLine = 64 * 1024;
-// Holds any message.
+// Large enough for any message.
 constexpr qint64 kMirrorBufferBytes = 5 + 2 * qint64{kTooLongMirrorLine};
 
 inline QDataStream& operator<<(QDataStream& stream, const MirrorMessage& message) {
@@ -29,8 +29,8 @@ inline QDataStream& operator>>(QDataStream& stream, MirrorMessage& message) {
   return stream >> message.is_text >> message.line;
 }
 
-// Takes the next message that is there whole. It is waited for by its length alone, so what has come of it is not
-// looked at again and again.
+// Takes the next complete message. Only its length is read before it is complete, so the data that has arrived is not
+// parsed repeatedly.
 enum class MirrorReading { kMessage, kIncomplete, kBroken };
 MirrorReading ReadMirrorMessage(QIODevice* device, MirrorMessage* message);
 

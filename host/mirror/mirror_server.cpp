@@ -12,7 +12,7 @@
 
 namespace tavi {
 
-// One other instance. What it holds down is let go when it goes.
+// One connected instance. What it holds down is released when it disconnects.
 class MirrorServer::Source {
  public:
   Source(QLocalSocket* socket, int display) : socket_(socket), display_(display), model_(display) {
@@ -26,7 +26,7 @@ class MirrorServer::Source {
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
-  // False when what came is no message.
+  // False if the data is not a message.
   bool TakeMessages() {
     for (;;) {
       MirrorMessage message;
@@ -71,7 +71,7 @@ MirrorServer::~MirrorServer() = default;
 QString MirrorServer::Listen(const QString& name) { return listener_.Listen(name); }
 
 void MirrorServer::TakeConnection(QLocalSocket* socket) {
-  socket->setParent(this);  // it goes at the latest when this does
+  socket->setParent(this);  // deleted with this object at the latest
   sources_.push_back(std::make_unique<Source>(socket, display_));
   Source* source = sources_.back().get();
   connect(socket, &QLocalSocket::disconnected, this, [this, source] { Forget(source); });

@@ -13,8 +13,8 @@ class QLocalSocket;
 
 namespace tavi {
 
-// Takes the lines of other instances and gives them to this one's guest, as they are: places are touch coordinates, so
-// guests of one size are meant. Who sends what no instance would is shut out.
+// Accepts the lines of other instances and sends them to this one's guest unchanged: positions are touch coordinates,
+// so the guests should have the same size. A sender that violates the protocol is disconnected.
 //
 // Main thread.
 class MirrorServer : public QObject {
@@ -25,11 +25,11 @@ class MirrorServer : public QObject {
   explicit MirrorServer(int display);
   ~MirrorServer() override;
 
-  // Listens under a name until the end. Returns what is wrong, or nothing.
+  // Listens under a name until destruction. Returns the error, or an empty string.
   QString Listen(const QString& name);
 
  Q_SIGNALS:
-  // How many others send to this one.
+  // The number of instances that send to this one.
   void SourcesChanged(int count);
 
  private:

@@ -10,23 +10,23 @@ namespace tavi {
 
 namespace {
 
-// A target that takes nothing any more must not make this instance grow without end.
+// A target that stops reading must not make this instance's memory grow without limit.
 constexpr qint64 kMaxWaitingBytes = 1 << 20;
 
-const QString kGone = QStringLiteral("it went away");
+const QString kGone = QStringLiteral("it disconnected");
 
 QString ProblemOf(const QLocalSocket& socket) {
   switch (socket.error()) {
     case QLocalSocket::PeerClosedError: return kGone;
     case QLocalSocket::ServerNotFoundError:
-    case QLocalSocket::ConnectionRefusedError: return QStringLiteral("no instance listens as that");
+    case QLocalSocket::ConnectionRefusedError: return QStringLiteral("no instance listens under that name");
     default: return socket.errorString();
   }
 }
 
 }  // namespace
 
-// The plain functions that the library is given.
+// The callbacks for the library.
 struct MirrorFunctions {
   static void SyncEvent(const QString& command, const QVector<QString>& targets) { Carry(false, command, targets); }
   static void SyncText(const QString& command, const QVector<QString>& targets) { Carry(true, command, targets); }
@@ -62,7 +62,7 @@ void MirrorTargets::Add(const QString& name) {
   auto* socket = new QLocalSocket;
   sockets_[name].reset(socket);
   connect(socket, &QLocalSocket::connected, this, [this, name, socket] {
-    if (!IsOfThisUser(*socket)) return Drop(name, QStringLiteral("another user listens as that"));
+    if (!IsOfThisUser(*socket)) return Drop(name, QStringLiteral("another user listens under that name"));
     taviinputmanager::StartSync(name, QString(), QString());
     Q_EMIT Reached(name);
   });
@@ -84,7 +84,7 @@ QStringList MirrorTargets::Names() const {
 }
 
 void MirrorTargets::Drop(const QString& name, const QString& problem) {
-  if (sockets_.count(name) == 0) return;  // a socket tells its end in two ways
+  if (sockets_.count(name) == 0) return;  // a socket signals its end in two ways
   Remove(name);
   Q_EMIT Lost(name, problem);
 }
@@ -99,7 +99,7 @@ void MirrorTargets::Carry(const MirrorMessage& message, const QVector<QString>& 
     QDataStream stream(socket);
     stream.setVersion(kMirrorStreamVersion);
     stream << message;
-    if (socket->bytesToWrite() > kMaxWaitingBytes) Drop(name, QStringLiteral("it takes no more lines"));
+    if (socket->bytesToWrite() > kMaxWaitingBytes) Drop(name, QStringLiteral("it stopped reading lines"));
   }
 }
 

@@ -15,12 +15,12 @@ namespace tavi {
 
 struct MirrorMessage;
 
-// Carries the lines of this instance to others, each known by the name that it listens under. One that cannot be
-// reached, or that goes away, is reported and dropped; the rest go on.
+// Sends the lines of this instance to others, each identified by the name that it listens under. An instance that
+// cannot be reached or that disconnects is reported and dropped; the others continue.
 //
-// The library's mirror functions are plain functions, so there is one in a process.
+// The library's mirror functions are plain functions, so there is one instance of this class in a process.
 //
-// Threads: main. Lines of a replay's end come on another thread, and are taken over to it.
+// Threads: main. Lines at the end of a replay come on another thread, and are queued to the main thread.
 class MirrorTargets : public QObject {
   Q_OBJECT
 
@@ -29,11 +29,11 @@ class MirrorTargets : public QObject {
 
   void Add(const QString& name);
   void Remove(const QString& name);
-  // Those that are reached or still tried.
+  // The targets that are connected or being tried.
   QStringList Names() const;
 
-  // While one lives, nothing is carried: lines that came from another instance are not passed on, so that two that
-  // mirror each other do not play for ever.
+  // While one exists, nothing is sent: lines that came from another instance are not passed on, so that two instances
+  // that mirror each other do not loop.
   class Pause {
    public:
     Pause() { ++GetInstance()->pauses_; }
@@ -45,7 +45,7 @@ class MirrorTargets : public QObject {
  Q_SIGNALS:
   void Reached(const QString& name);
   void Lost(const QString& name, const QString& problem);
-  // A line of so many characters was carried nowhere.
+  // A line of this many characters was too long and was sent nowhere.
   void TooLong(int characters);
 
  private:
@@ -57,7 +57,7 @@ class MirrorTargets : public QObject {
   void Carry(const MirrorMessage& message, const QVector<QString>& targets);
   void Drop(const QString& name, const QString& problem);
 
-  // deleteLater, since a socket may be in the middle of a signal.
+  // deleteLater, because a socket may be emitting a signal.
   struct DeleteLater {
     void operator()(QLocalSocket* socket) const;
   };

@@ -16,12 +16,12 @@ struct KeyCap {
   bool is_down = false;
 };
 
-// Both in the painter's present font.
+// Both use the painter's current font.
 QSizeF KeyCapSize(const QPainter& painter, const QString& text);
-// Returns the plate's place.
+// Returns the plate's rectangle.
 QRectF PaintKeyCap(QPainter* painter, const KeyCap& cap, const QPointF& center);
 
-// Text that stays legible on whatever is behind it, its middle at `center`.
+// Text centred at `center` that stays legible on any background.
 void PaintOutlinedText(QPainter* painter, const QString& text, const QPointF& center, const QColor& color);
 
 }  // namespace tavi

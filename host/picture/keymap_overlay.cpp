@@ -15,16 +15,16 @@ using Shape = OverlayMark::Shape;
 
 namespace {
 
-constexpr double kTextHeight = 0.022;  // of the view's height
+constexpr double kTextHeight = 0.022;  // relative to the view's height
 constexpr int kSmallestText = 9;       // pixels
 constexpr int kLargestText = 18;
-constexpr double kLabelSize = 0.85;  // of the size of key names
+constexpr double kLabelSize = 0.85;  // relative to the size of key names
 constexpr double kListMargin = 10;
 constexpr double kListGap = 4;
 constexpr double kKeyGap = 2;         // between two keys of one item
-constexpr int kMostSteps = 14;        // that keys give way to others
-constexpr double kStepOfText = 0.8;   // one such step, of the height of the text
-constexpr double kKeysOnStick = 0.7;  // where a stick's keys stand, of its radius
+constexpr int kMostSteps = 14;        // by which keys avoid others
+constexpr double kStepOfText = 0.8;   // one such step, relative to the height of the text
+constexpr double kKeysOnStick = 0.7;  // distance of a stick's keys from its centre, relative to its radius
 
 QFont SizedFont(QFont font, int pixels, bool bold) {
   font.setPixelSize(pixels);
@@ -37,7 +37,7 @@ QColor Faint(QColor color, int alpha) {
   return color;
 }
 
-// Paints the marks of one view. All places are in the painter's units.
+// Paints the marks of one view. All positions are in the painter's units.
 class MarkPainter {
  public:
   MarkPainter(QPainter* painter, const QSizeF& view, const QRectF& covered)
@@ -48,7 +48,7 @@ class MarkPainter {
         label_font_(SizedFont(painter->font(), qRound(text_height_ * kLabelSize), false)),
         taken_{covered} {}
 
-  // What may lie under the keys of other marks comes first.
+  // Marks that may be below the keys of others come first.
   void PaintArea(const OverlayMark& mark) {
     const QColor color = ColorOf(mark.family);
     const QPointF center = Place(mark.point);
@@ -59,7 +59,7 @@ class MarkPainter {
     if (mark.path.size() > 1) PaintPath(mark, center);
   }
 
-  // Four keys around their point. Buttons give way to them.
+  // Four keys around their point. Buttons move out of their way.
   void PaintDirections(const OverlayMark& mark) {
     const QPointF center = Place(mark.point);
     painter_->setFont(key_font_);
@@ -75,7 +75,7 @@ class MarkPainter {
     PaintLabel(mark.label, center);
   }
 
-  // The keys one below the other, their middle on the point, and the label below them.
+  // The keys stacked, centred on the point, with the label below.
   void PaintButton(const OverlayMark& mark) {
     if (mark.keys.isEmpty()) return PaintLabel(mark.label, Place(mark.point));
     painter_->setFont(key_font_);
@@ -92,7 +92,7 @@ class MarkPainter {
     PaintLabel(mark.label, {center.x(), middle - height / 2 + LabelDrop()});
   }
 
-  // Items without a place, one a line, in a corner where they cover none of the others.
+  // Items without a point, one per line, in a corner where they cover none of the others.
   void PaintList(const QVector<OverlayMark>& marks) {
     const QRectF list = PlaceList(ListSize(marks));
     double top = list.top();
@@ -176,8 +176,8 @@ class MarkPainter {
     return widest;
   }
 
-  // The nearest place above or below `point` where keys of that size and their label cover nothing; `point` itself when
-  // there is none near.
+  // The nearest position above or below `point` where keys of that size and their label cover nothing; `point` itself
+  // if there is none nearby.
   QPointF MakeRoom(const OverlayMark& mark, const QPointF& point, const QSizeF& keys) const {
     for (int step = 0; step <= kMostSteps; ++step) {
       for (const int way : {1, -1}) {
@@ -196,7 +196,7 @@ class MarkPainter {
                         [&place](const QRectF& other) { return place.intersects(other); });
   }
 
-  // From the point to the keys that gave way, below what is there already.
+  // From the point to the keys that were moved, below what is already drawn.
   void PaintLeader(const OverlayMark& mark, const QPointF& point, const QPointF& center) {
     QRegion open(QRectF(QPointF(), view_).toAlignedRect());
     for (const QRectF& taken : taken_) open -= taken.toAlignedRect();

@@ -15,9 +15,9 @@ namespace tavi {
 
 namespace {
 
-// The shorter side of a view at which keys and letters have the size that the window gives them.
+// The shorter side of a view at which keys and letters have the same size as in the window.
 constexpr double kUsualSide = 720;
-constexpr int kGridLines = 10;  // each way
+constexpr int kGridLines = 10;  // in each direction
 
 void PaintBackground(QPainter* painter, const QImage& background, const QSizeF& view) {
   if (!background.isNull()) {

@@ -1,5 +1,5 @@
-// A keymap as a picture: each key where it acts on the guest's screen, and a list of those that act nowhere, as the
-// window shows them.
+// A keymap as a picture: each key at the point where it acts on the guest's screen, and a list of those without a
+// point, as in the window.
 #ifndef HOST_PICTURE_KEYMAP_PICTURE_H_
 #define HOST_PICTURE_KEYMAP_PICTURE_H_
 
@@ -16,13 +16,13 @@ namespace tavi {
 struct KeymapDrawing {
   QString title;
   QVector<OverlayMark> marks;
-  QSize size;         // of the picture in pixels; letters and keys grow with its shorter side
-  QImage background;  // stretched over all of it; null: a plain guest screen
+  QSize size;         // of the picture in pixels; letters and keys scale with its shorter side
+  QImage background;  // stretched to the picture's size; null: a plain guest screen
 };
 
-// Each needs an application object, for its fonts. Main thread.
+// Each needs an application object for its fonts. Main thread.
 QByteArray DrawKeymapAsSvg(const KeymapDrawing& drawing);
-// Empty where there is not memory enough for its pixels.
+// Empty if there is not enough memory for its pixels.
 QByteArray DrawKeymapAsPng(const KeymapDrawing& drawing);
 
 }  // namespace tavi

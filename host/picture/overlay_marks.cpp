@@ -55,7 +55,7 @@ void AddDirections(const Item& item, OverlayMark* mark) {
                            NameOrNothing(item.key_left)};
 }
 
-// "0,0;0,0.04" as a keymap's record holds it
+// "0,0;0,0.04", in the format of a keymap's record
 QVector<QPointF> PathOf(const km::CurveConfigItem& item) {
   if (item.curve_straight) return {item.curve_start, item.curve_end};
   QVector<QPointF> path;
@@ -65,7 +65,7 @@ QVector<QPointF> PathOf(const km::CurveConfigItem& item) {
   return path;
 }
 
-// The fields that a class has beyond the base's.
+// The fields that a class adds to the base.
 void AddShape(const km::ConfigItem& item, OverlayMark* mark) {
   if (const auto* walk = dynamic_cast<const km::SwipeholdConfigItem*>(&item)) {
     AddDirections(*walk, mark);
@@ -85,7 +85,7 @@ void AddShape(const km::ConfigItem& item, OverlayMark* mark) {
   }
 }
 
-// Where a fire button or a spell touches in place of its own point.
+// The point that a fire button or a spell touches in addition to its own.
 template <typename Item>
 bool TakeAlternative(const km::ConfigItem& item, OverlayMark* mark) {
   const auto* cast = dynamic_cast<const Item*>(&item);

@@ -1,4 +1,4 @@
-// What a keymap puts on the guest's screen, as data: where each item acts and by which keys.
+// The overlay of a keymap as data: the point and the keys of each item.
 #ifndef HOST_PICTURE_OVERLAY_MARKS_H_
 #define HOST_PICTURE_OVERLAY_MARKS_H_
 
@@ -15,7 +15,7 @@ struct LoadResult;
 
 namespace tavi {
 
-// Points and sizes are fractions of the display, x of its width and y of its height, unless a field says otherwise.
+// Points and sizes are fractions of the display, x of its width and y of its height, unless stated otherwise.
 struct OverlayMark {
   enum class Shape {
     kButton,     // keys at a point
@@ -23,29 +23,29 @@ struct OverlayMark {
   };
   enum class Family { kTap, kWalk, kView, kCast, kMacro };
 
-  // Whether it has a place on the screen; others are told in a list.
+  // Whether it has a point on the screen; others are shown in a list.
   bool HasPlace() const { return !point.isNull(); }
 
   Shape shape = Shape::kButton;
   Family family = Family::kTap;
   QPointF point;
-  QStringList keys;       // of a button, any of them; of directions: up, right, down, left, empty where there is none
-  QString label;          // what the author calls the item, or its type
-  double radius = 0;      // of the stick, fraction of the display's WIDTH; 0: none
+  QStringList keys;       // of a button, any of them; of directions: up, right, down, left, empty if there is none
+  QString label;          // the item's label, or its type
+  double radius = 0;      // of the stick, as a fraction of the display's WIDTH; 0: none
   QSizeF range;           // of the view area around the point; empty: none
   QVector<QPointF> path;  // of a curve, offsets from the point
 };
 
-// How an item of this type is told apart.
+// How items of this type are drawn.
 OverlayMark::Family FamilyOf(const QString& type);
 
-// In the order of the items, those on one point with one shape and label joined.
+// In the order of the items. Marks with the same point, shape and label are merged.
 QVector<OverlayMark> MarksOf(const tavikeymapmanager::LoadResult& keymap);
 
-// Where an item is marked; a null point when it has no place.
+// The position of an item's mark; a null point if it has none.
 QPointF PlaceOf(const tavikeymapmanager::ConfigItem& item);
 
-// The marks of two keymaps that are in use together, joined in the same way.
+// The marks of two keymaps that are in use together, merged in the same way.
 QVector<OverlayMark> MergeMarks(QVector<OverlayMark> marks, const QVector<OverlayMark>& others);
 
 }  // namespace tavi

@@ -11,7 +11,7 @@ namespace tavi {
 
 namespace {
 
-// What goes wrong there is told at the end of the program.
+// Errors there are reported at the end of the program.
 int WriteToOutput(const QByteArray& picture) {
   MakeOutputBinary();
   PrintBytes(picture);
@@ -31,7 +31,7 @@ int WritePicture(const QString& command, const QString& name, const QByteArray& 
 QString SvgNameProblem(const QString& option, const QString& name) {
   static const QStringList others = {"png", "jpg", "jpeg", "gif", "bmp", "webp", "tif", "tiff", "pdf", "ps", "eps"};
   if (!others.contains(QFileInfo(name).suffix().toLower())) return {};
-  return QStringLiteral("%1 draws SVG only and needs a name that ends in .svg, not \"%2\"").arg(option, name);
+  return QStringLiteral("%1 draws only SVG and needs a name that ends in .svg, not \"%2\"").arg(option, name);
 }
 
 }  // namespace tavi

@@ -6,12 +6,12 @@
 
 namespace tavi {
 
-// Writes all of a picture or nothing: a file that was there before stays where that fails or is interrupted. "-" is
-// standard output. Says what went wrong as `command` ("draw"); returns the exit status.
+// Writes the whole picture or nothing: an existing file stays unchanged on failure or interruption. "-" is standard
+// output. Prints errors as `command` ("draw"); returns the exit status.
 int WritePicture(const QString& command, const QString& name, const QByteArray& picture);
 
-// What is wrong with a name that `option` gives to a picture, where SVG alone is drawn; or nothing. A name without a
-// suffix, or with one that is of no other kind of picture, is its author's choice.
+// The error in the name that `option` gives to a picture, for commands that draw only SVG; or an empty string. A name
+// without a suffix, or with one that belongs to no other kind of picture, is accepted.
 QString SvgNameProblem(const QString& option, const QString& name);
 
 }  // namespace tavi

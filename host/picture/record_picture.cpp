@@ -13,7 +13,7 @@ namespace tavi {
 
 namespace {
 
-// User units, which a viewer shows as pixels.
+// User units; a viewer shows them as pixels.
 constexpr double kMargin = 24;
 constexpr double kHeader = 58;
 constexpr double kLineHeight = 20;
@@ -118,14 +118,14 @@ class PictureWriter {
                    {"stroke", "#bdc1c6"}});
   }
 
-  // Ways first, so that no mark is crossed out, and numbers last.
+  // Paths first, so that they cross out no mark, and numbers last.
   void WriteContacts() {
     for (const ContactPath& path : Paths().contacts) WriteWay(path);
     for (const ContactPath& path : Paths().contacts) WriteMarks(path);
     WriteLabels();
   }
 
-  // A line for each stretch of one colour; the next begins where it ends.
+  // A line for each stretch of one colour; the next starts at its end.
   void WriteWay(const ContactPath& path) {
     QStringList corners{CornerText(path.points.first())};
     for (int i = 1; i < path.points.size(); ++i) {
@@ -166,7 +166,7 @@ class PictureWriter {
                      {"stroke-width", "2"}});
   }
 
-  // The numbers of all contacts that begin at one place, on white so that they are read above lines.
+  // The numbers of all contacts that start at one point, on white so that they are legible over lines.
   void WriteLabels() {
     QMap<QPair<int, int>, QVector<int>> cells;
     const auto& contacts = Paths().contacts;
@@ -194,9 +194,9 @@ class PictureWriter {
     for (auto it = Paths().not_drawn.begin(); it != Paths().not_drawn.end(); ++it) {
       others += QStringLiteral("%1 %2").arg(it.value()).arg(it.key());
     }
-    if (!others.isEmpty()) notes += QStringLiteral("not drawn: ") + others.join(QStringLiteral(", "));
+    if (!others.isEmpty()) notes += QStringLiteral("not shown: ") + others.join(QStringLiteral(", "));
     if (Paths().walk.end == WalkResult::End::kLimit) {
-      notes += QStringLiteral("drawn are the first %1 steps; the record goes on").arg(kMostDrawnSteps);
+      notes += QStringLiteral("only the first %1 steps are shown").arg(kMostDrawnSteps);
     }
     return notes;
   }
@@ -229,9 +229,9 @@ class PictureWriter {
   void WriteSigns(double y) {
     const double middle = y - 4;
     WriteDot({kMargin + kUpRadius, middle}, kInk);
-    Text(kMargin + 26, y, QStringLiteral("a finger goes down, with its number"), {{"fill", kInk}});
+    Text(kMargin + 26, y, QStringLiteral("a finger is put down, with its number"), {{"fill", kInk}});
     WriteRing({kMargin + 290, middle}, kInk);
-    Text(kMargin + 306, y, QStringLiteral("it goes up; no ring: still down at the end"), {{"fill", kInk}});
+    Text(kMargin + 306, y, QStringLiteral("it is lifted; no ring: still down at the end"), {{"fill", kInk}});
   }
 
   QString PartText(int index) const {

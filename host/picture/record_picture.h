@@ -1,5 +1,4 @@
-// A record as a picture: a page of SVG that needs nothing but a viewer of it, and no scripts, fonts or pointers over
-// it.
+// A record as a picture: a page of SVG that needs only a viewer, with no scripts, fonts or hover effects.
 #ifndef HOST_PICTURE_RECORD_PICTURE_H_
 #define HOST_PICTURE_RECORD_PICTURE_H_
 
@@ -17,7 +16,7 @@ struct RecordDrawing {
   RecordPaths paths;
 };
 
-// UTF-8. The display in the shape that the header tells, the way of each finger in the colours of time, and a legend.
+// UTF-8. Shows the display in the header's aspect ratio, the path of each finger coloured by time, and a legend.
 QByteArray DrawRecord(const RecordDrawing& drawing);
 
 }  // namespace tavi

@@ -14,10 +14,10 @@ namespace tavi {
 
 namespace {
 
-constexpr int kDotsPerInch = 96;  // of a user unit
+constexpr int kDotsPerInch = 96;  // relative to a user unit
 constexpr double kMillimetresPerInch = 25.4;
 
-// Two digits behind the point, as far as they are needed: the corners of small letters are close together.
+// At most two decimals: the corners of small letters are close together.
 QString Coordinate(double value) {
   QString text = QString::number(value, 'f', 2);
   while (text.endsWith(QLatin1Char('0'))) text.chop(1);
@@ -101,7 +101,7 @@ class SvgPaintEngine : public QPaintEngine {
     WriteElement(path, {{"fill", color.name()}, {"fill-opacity", Opacity(color)}, {"fill-rule", FillRuleOf(path)}});
   }
 
-  // Its width grows with the painter's units.
+  // Its width scales with the painter's units.
   void WriteStroke(const QPainterPath& path) {
     const QPen pen = state->pen();
     const QColor color = pen.color();
@@ -131,7 +131,7 @@ class SvgPaintEngine : public QPaintEngine {
     return lengths.isEmpty() ? QStringLiteral("none") : lengths.join(QLatin1Char(' '));
   }
 
-  // A clip is an element of its own that others name.
+  // A clip is an element of its own that others refer to.
   void TakeClip() {
     clip_.clear();
     if (!painter()->hasClipping()) return;
@@ -142,7 +142,7 @@ class SvgPaintEngine : public QPaintEngine {
   }
 
   SvgWriter* writer_;
-  QString clip_;  // the name of the clip in use; empty: none
+  QString clip_;  // the name of the current clip; empty: none
   int clip_count_ = 0;
 };
 

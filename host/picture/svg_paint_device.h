@@ -10,10 +10,10 @@ namespace tavi {
 
 class SvgWriter;
 
-// What a QPainter draws on this becomes elements of a page of SVG. Letters become outlines, so that they look the same
-// wherever the page is shown; brushes are plain colours, images are inside of the page.
+// Converts what a QPainter draws on it to elements of an SVG page. Letters become outlines, so that they look the same
+// in every viewer; brushes are plain colours, images are embedded.
 //
-// Main thread. The writer is the caller's and outlives the device.
+// Main thread. The caller owns the writer, which outlives the device.
 class SvgPaintDevice : public QPaintDevice {
  public:
   SvgPaintDevice(const QSize& size, SvgWriter* writer);

@@ -6,9 +6,9 @@ namespace tavi {
 
 namespace {
 
-// What no XML may hold becomes the sign for "no such character".
+// Characters that XML does not allow are replaced by U+FFFD.
 QString Printable(const QString& text) {
-  std::u32string characters = text.toStdU32String();  // halves of a pair that stand alone are replaced here
+  std::u32string characters = text.toStdU32String();  // unpaired surrogates are replaced here
   for (char32_t& character : characters) {
     const bool is_bad = character < ' ' || character == 0xFFFE || character == 0xFFFF;
     if (is_bad) character = QChar(QChar::ReplacementCharacter).unicode();

@@ -12,8 +12,8 @@
 
 namespace tavi {
 
-// Writes a page of SVG that needs nothing but a viewer of it: no scripts, no styles, no other files. Sizes and places
-// are user units, which a viewer shows as pixels.
+// Writes an SVG page that needs only a viewer: no scripts, no styles, no other files. Sizes and positions are in user
+// units, which a viewer shows as pixels.
 //
 // Not bound to a thread.
 class SvgWriter {
@@ -22,20 +22,21 @@ class SvgWriter {
 
   SvgWriter(const QSizeF& size, const QString& title);
 
-  // An element with others inside, up to Close. More attributes may follow it at once.
+  // Opens an element, up to Close. More attributes may follow directly.
   void Open(const char* name, AttributeList attributes);
   void Attribute(const char* name, const QString& value) { xml_.writeAttribute(QLatin1String(name), value); }
   void Close() { xml_.writeEndElement(); }
   void Empty(const char* name, AttributeList attributes);
-  // One that holds a text alone, such as a "title", which viewers show beside the pointer.
+  // An element that contains only text, such as a "title", which viewers show as a tooltip.
   void TextElement(const char* name, const QString& text);
-  // Text in the viewer's own letters, at the left end of its base line. Characters that no XML may hold are replaced.
+  // Text in the viewer's own font, starting at its baseline's left end. Characters that XML does not allow are
+  // replaced.
   void Text(const QPointF& place, const QString& text, AttributeList attributes = {});
 
-  // The whole page, UTF-8. Nothing can be written after it.
+  // The whole page, UTF-8. Nothing may be written after it.
   QByteArray Finish();
 
-  // With one digit behind the point.
+  // With one decimal.
   static QString Number(double value) { return QString::number(value, 'f', 1); }
 
  private:

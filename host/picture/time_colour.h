@@ -5,10 +5,10 @@
 
 namespace tavi {
 
-// From dark blue at the start over red to orange at the end, all of them dark enough for white paper.
+// From dark blue at the start through red to orange at the end, all dark enough for white paper.
 constexpr int kTimeColours = 64;
 
-// Which of the colours a moment has; the last one in a record that takes no time at all is the first.
+// The index of a moment's colour. In a record without duration it is the first.
 int TimeColourIndex(qint64 ms, qint64 total_ms);
 
 // "#1b2a8c"

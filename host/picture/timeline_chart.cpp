@@ -33,7 +33,7 @@ QString NumberText(const char* name, int number) {
   return QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(number);
 }
 
-// Of the commands that are no input of a player.
+// For the commands that are not input of a player.
 QString SettingText(const ScriptCommand& command) {
   switch (command.kind) {
     case Input::kReset: return command.flag ? QStringLiteral("reset full") : QStringLiteral("reset");
@@ -53,7 +53,7 @@ QString SettingText(const ScriptCommand& command) {
   }
 }
 
-// A lane of marks, and what one says.
+// The lane and the text of a mark.
 struct MarkPlace {
   QString lane;  // empty: none
   QString text;
@@ -134,7 +134,7 @@ void TimelineChart::AddTouchInput(qint64 ms, const ScriptCommand& command) {
 void TimelineChart::AddEntry(const TimelineEntry& entry) {
   end_ms_ = std::max(end_ms_, entry.ms);
   if (entry.source == TimelineEntry::Source::kCallback) {
-    // That a device was used is told at every event.
+    // Every event reports that its device was used.
     const bool is_usual = entry.text.startsWith(QLatin1String("mapped "));
     if (!is_usual) LaneOf(Group::kHost, QStringLiteral("host"))->marks.append({entry.ms, entry.text});
     return;
@@ -188,7 +188,7 @@ void TimelineChart::AddTouchLine(qint64 ms, const QString& prefix, const GuestLi
   }
 }
 
-// A finger that is down already moves.
+// A contact that is already down moves.
 void TimelineChart::PutFinger(qint64 ms, const QString& prefix, int slot, const QPointF& point) {
   ChartLane* lane = LaneOf(Group::kGuest, prefix + NumberText("finger", slot));
   lane->slot = slot;
@@ -203,7 +203,7 @@ void TimelineChart::Finish(qint64 ms) {
   for (ChartLane& lane : lanes_) {
     if (IsOpen(lane)) lane.bars.last().end_ms = end_ms_;
   }
-  // One that is only ever let go of says nothing.
+  // Lanes that contain only releases are omitted.
   lanes_.erase(std::remove_if(lanes_.begin(), lanes_.end(),
                               [](const ChartLane& lane) { return lane.bars.isEmpty() && lane.marks.isEmpty(); }),
                lanes_.end());
@@ -220,7 +220,7 @@ ChartLane* TimelineChart::LaneOf(Group group, const QString& name) {
   return &lanes_.last();
 }
 
-// What is down already goes on.
+// What is already down continues.
 void TimelineChart::StartBar(ChartLane* lane, qint64 ms, const QString& text) {
   if (IsOpen(*lane)) return;
   lane->bars.append({ms, ms, true, text});

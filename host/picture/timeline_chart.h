@@ -1,5 +1,5 @@
-// What a script did and what came of it, sorted into lanes along one axis of time: one lane for each key, finger and
-// whatever else there is, with bars for what lasts and marks for what does not.
+// The commands of a script and their results, sorted into lanes along one time axis: one lane for each key, contact and
+// so on, with bars for states and marks for moments.
 #ifndef HOST_PICTURE_TIMELINE_CHART_H_
 #define HOST_PICTURE_TIMELINE_CHART_H_
 
@@ -17,8 +17,8 @@ struct TimelineEntry;
 struct ChartBar {
   qint64 start_ms = 0;
   qint64 end_ms = 0;
-  bool is_open = true;  // not ended yet; at last: still down at the end
-  QString text;         // where a finger goes down, and, when it moves, where it is at last
+  bool is_open = true;  // not ended yet; in a finished chart: still down at the end
+  QString text;         // where a contact is put down and, if it moves, its last position
 };
 
 struct ChartMark {
@@ -35,23 +35,23 @@ struct ChartLane {
 
   Group group = Group::kInput;
   QString name;
-  int slot = -1;  // of a finger
+  int slot = -1;  // for a contact
   QVector<ChartBar> bars;
   QVector<ChartMark> marks;
 };
 
-// Lanes stand in the order in which they come up; who shows them sorts them by group. Not bound to a thread.
+// Lanes are in the order of their first entry; the drawing code sorts them by group. Not bound to a thread.
 class TimelineChart {
  public:
-  // In the order of time, a command before the entries that come of it.
+  // Call in order of time, a command before the entries that it causes.
   void AddInput(qint64 ms, const ScriptCommand& command);
   void AddEntry(const TimelineEntry& entry);
-  // Ends all that is open, once, when nothing more comes.
+  // Ends all open bars; call once, when there are no more entries.
   void Finish(qint64 ms);
 
   const QVector<ChartLane>& lanes() const { return lanes_; }
   qint64 end_ms() const { return end_ms_; }
-  int input_count() const { return input_count_; }  // waits aside
+  int input_count() const { return input_count_; }  // waits are handled separately
   int line_count() const { return line_count_; }    // for the guest
 
  private:

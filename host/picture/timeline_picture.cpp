@@ -16,22 +16,22 @@ using Group = ChartLane::Group;
 
 namespace {
 
-// User units, which a viewer shows as pixels.
+// User units; a viewer shows them as pixels.
 constexpr double kMargin = 24;
 constexpr double kHeader = 66;
 constexpr double kNames = 150;     // left of the axis
 constexpr double kAxis = 1000;     // its length
-constexpr double kOverhang = 110;  // for what is written behind the last bar
+constexpr double kOverhang = 110;  // for the text after the last bar
 constexpr double kLane = 24;
 constexpr double kGroupGap = 26;
 constexpr double kBar = 14;
-constexpr double kLetter = 6.4;  // width of one in small print, on the safe side
+constexpr double kLetter = 6.4;  // width of a character in small print, at most
 constexpr double kSmallestTickStep = 1.5;
 constexpr double kSmallestBarStep = 4;
 constexpr double kNarrowestBar = 2.5;
 constexpr int kLongestName = 21;
 constexpr int kMostTicks = 12;
-constexpr int kLongTimeMs = 10000;  // from here on the axis counts in seconds
+constexpr int kLongTimeMs = 10000;  // from here on the axis is in seconds
 
 constexpr char kInk[] = "#202124";
 constexpr char kSoftInk[] = "#5f6368";
@@ -57,7 +57,7 @@ QString ColourOf(const ChartLane& lane) {
   return lane.group == Group::kGuest ? QLatin1String(kGuestInk) : QLatin1String(kHostInk);
 }
 
-// 1, 2 or 5 times a power of ten, so that there are kMostTicks of them at most.
+// 1, 2 or 5 times a power of ten, so that there are at most kMostTicks.
 qint64 TickStep(qint64 total_ms) {
   qint64 power = 1;
   for (;;) {
@@ -104,8 +104,7 @@ class TimelineWriter {
   }
 
  private:
-  // Sorts the lanes by group, fingers in front and by number, and leaves out those that are too many; returns the size
-  // of the page.
+  // Sorts the lanes by group, contacts first and by number, and drops the excess ones; returns the size of the page.
   QSizeF TakeLanes() {
     for (const ChartLane& lane : chart_.lanes()) lanes_.append(&lane);
     const auto key = [](const ChartLane* lane) {
@@ -164,7 +163,7 @@ class TimelineWriter {
     WriteMarks(lane, middle);
   }
 
-  // Those that begin too close together to be told apart are drawn as one.
+  // Bars that start too close together to be distinguished are drawn as one.
   void WriteBars(const ChartLane& lane, double middle) {
     for (int i = 0; i < lane.bars.size();) {
       int last = i;
@@ -182,7 +181,7 @@ class TimelineWriter {
     int last;
   };
 
-  // Text stands inside where it fits, else behind, up to `limit`.
+  // Text is inside if it fits, otherwise after the bar, up to `limit`.
   void WriteBar(const ChartLane& lane, const Range& range, double middle, double limit) {
     const ChartBar& first = lane.bars[range.first];
     const ChartBar& last = lane.bars[range.last];
@@ -215,10 +214,10 @@ class TimelineWriter {
     svg_.Text(place, text, {{"font-size", "11"}, {"fill", colour}});
   }
 
-  // Ticks: white on bars, which they are the moves of. Each has its text where there is room up to the next.
+  // Ticks, white on bars, for their moves. Each has its text if there is room before the next.
   void WriteMarks(const ChartLane& lane, double middle) {
     QString ticks;
-    double behind = 0;  // the last tick, and what is written there
+    double behind = 0;  // the last tick, and its text
     double text_end = 0;
     for (int i = 0; i < lane.marks.size(); ++i) {
       const double x = Place(lane.marks[i].ms);
@@ -235,7 +234,7 @@ class TimelineWriter {
                         {"fill", "none"}});
   }
 
-  // Returns where the text written last ends.
+  // Returns the end of the text that was written last.
   double WriteMarkText(const ChartLane& lane, int index, const QPointF& place, double text_end) {
     QString text = lane.marks[index].text;
     if (text.isEmpty() || place.x() < text_end) return text_end;

@@ -8,11 +8,11 @@ namespace tavi {
 
 class TimelineChart;
 
-// At most as many lanes are drawn; of those that are left out, the picture tells how many.
+// The maximum number of lanes; the picture says how many are left out.
 constexpr int kMostLanes = 60;
 
-// A page of SVG, UTF-8: the axis of time, and below it the lanes of a chart that is finished, input first. Its size is
-// bounded: things that are closer than one can see are drawn as one.
+// An SVG page, UTF-8: the time axis, and below it the lanes of a finished chart, input first. Its size is bounded:
+// marks too close to be distinguished are drawn as one.
 QByteArray DrawTimeline(const TimelineChart& chart, const QString& title);
 
 }  // namespace tavi

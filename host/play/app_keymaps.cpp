@@ -29,7 +29,7 @@ std::vector<AppKeymap> ReadFolder(const QString& folder) {
   return keymaps;
 }
 
-// A key of settings has no slashes.
+// A settings key must not contain slashes.
 QString KeyOf(const QString& folder) {
   return QStringLiteral("last_app/") + QString::fromLatin1(QUrl::toPercentEncoding(folder));
 }
@@ -48,8 +48,9 @@ QString AppKeymaps::Find(const QString& app, QString* problem) const {
     if (keymap.app == app) return keymap.path;
   }
   const QStringList apps = Apps();
-  const QString known = apps.isEmpty() ? QStringLiteral("none there has a package")
-                                       : QStringLiteral("there are some for %1").arg(apps.join(QStringLiteral(", ")));
+  const QString known = apps.isEmpty()
+                            ? QStringLiteral("no keymap there has a package")
+                            : QStringLiteral("there are keymaps for %1").arg(apps.join(QStringLiteral(", ")));
   *problem = QStringLiteral("no keymap in %1 has the package %2; %3").arg(folder_, app, known);
   return {};
 }

@@ -6,26 +6,26 @@
 
 namespace tavi {
 
-// A folder with a keymap for each app: the keymap's `package` says whose it is. The app that was played last is
-// remembered for each folder.
+// A folder with a keymap for each app, identified by the keymap's `package`. For each folder, the app that was played
+// last is remembered.
 //
 // Main thread.
 class AppKeymaps {
  public:
-  // `memory` is the file that it is remembered in; empty: it is not.
+  // `memory` is the file that remembers the app; empty: it is not remembered.
   AppKeymaps(const QString& folder, const QString& memory);
 
   // ~/.config/tavi/play.ini.
   static QString UsualMemory();
 
-  // The keymap of an app, the first one by name; the folder is read anew. Empty, and `problem` says why, for people,
-  // where there is none.
+  // The keymap of an app, the first one by name; reads the folder again. Empty if there is none; `problem` is then the
+  // reason, for display.
   QString Find(const QString& app, QString* problem) const;
   // The apps that have a keymap, in the order of their files.
   QStringList Apps() const;
 
   QString LastApp() const;
-  // What went wrong, or nothing.
+  // Returns the error, or an empty string.
   QString Remember(const QString& app) const;
 
  private:

@@ -10,13 +10,13 @@ namespace tavi {
 
 namespace {
 
-constexpr int kLongestLine = 8192;  // bytes, longer than any name of a file
+constexpr int kLongestLine = 8192;  // bytes, longer than any file name
 constexpr int kConnectMs = 2000;
-constexpr int kAnswerMs = 20000;  // a long record is read meanwhile
+constexpr int kAnswerMs = 20000;  // reading a long record takes a while
 const QString kOk = QStringLiteral("ok");
 const QString kError = QStringLiteral("error");
 
-// Instances that lines are mirrored to listen in the same folder.
+// Windows that listen for mirrored lines use the same folder.
 QString SocketNameOf(const QString& name) { return QStringLiteral("control-%1").arg(name); }
 
 QByteArray OneLine(const QString& text) {
@@ -38,23 +38,23 @@ ControlSocket::ControlSocket(Handler handler, QObject* parent) : QObject(parent)
 QString ControlSocket::Listen(const QString& name) { return listener_.Listen(SocketNameOf(name)); }
 
 void ControlSocket::TakeConnection(QLocalSocket* socket) {
-  socket->setParent(this);  // it goes at the latest when this does
+  socket->setParent(this);  // deleted with this object at the latest
   connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
   connect(socket, &QLocalSocket::readyRead, this, [this, socket] { TakeLines(socket); });
   TakeLines(socket);
 }
 
-// The answer is out before the handler's next step, which may be the program's end.
+// The answer is sent before the handler's next step, which may end the program.
 void ControlSocket::TakeLines(QLocalSocket* socket) {
   while (socket->canReadLine()) {
     const QByteArray bytes = socket->readLine(kLongestLine);
-    if (!bytes.endsWith('\n')) return socket->abort();  // the end of a line too long would be read as a command
+    if (!bytes.endsWith('\n')) return socket->abort();  // the end of an overlong line would be read as a command
     const QString line = QString::fromUtf8(bytes).trimmed();
     if (line.isEmpty()) continue;
     socket->write(LineOf(handler_(line)));
     socket->flush();
   }
-  if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // no line of ours
+  if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // not a line of ours
 }
 
 ControlAnswer AskPlayer(const QString& name, const QString& line) {
@@ -62,7 +62,7 @@ ControlAnswer AskPlayer(const QString& name, const QString& line) {
   QLocalSocket socket;
   socket.connectToServer(address);
   if (address.isEmpty() || !socket.waitForConnected(kConnectMs)) {
-    return {false, QStringLiteral("no \"tavi play\" of yours runs under the name \"%1\"").arg(name)};
+    return {false, QStringLiteral("you have no \"tavi play\" running under the name \"%1\"").arg(name)};
   }
   if (!IsOfThisUser(socket)) return {false, QStringLiteral("another user listens there")};
   socket.write(OneLine(line));

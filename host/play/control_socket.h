@@ -1,5 +1,5 @@
-// The way from a script to a player at work: a socket in the user's own folder. A line of words goes in, one line comes
-// back, "ok", "ok ANSWER" or "error WHY".
+// The connection from a script to a running player: a socket in a private folder of the user. A command line is sent,
+// and one line is returned: "ok", "ok ANSWER" or "error WHY".
 #ifndef HOST_PLAY_CONTROL_SOCKET_H_
 #define HOST_PLAY_CONTROL_SOCKET_H_
 
@@ -16,7 +16,7 @@ namespace tavi {
 
 struct ControlAnswer {
   bool is_ok = true;
-  QString text;  // what was asked for, or why not; may be empty when it is ok
+  QString text;  // the answer, or the error; may be empty after "ok"
 };
 
 // Main thread.
@@ -26,14 +26,14 @@ class ControlSocket : public QObject {
  public:
   static constexpr char kUsualName[] = "play";
 
-  // Whether there is a folder of the user's own for it.
+  // Whether the user has a private folder for it.
   static bool HasPlace();
 
   using Handler = std::function<ControlAnswer(const QString& line)>;
-  // `handler` is called for each line; the lines of its answer go out as one.
+  // `handler` is called for each line; the lines of its answer are joined to one.
   explicit ControlSocket(Handler handler, QObject* parent = nullptr);
 
-  // Listens under a name until the end. Returns what is wrong, or nothing.
+  // Listens under a name until destruction. Returns the error, or an empty string.
   QString Listen(const QString& name);
 
  private:
@@ -44,7 +44,7 @@ class ControlSocket : public QObject {
   MirrorListener listener_;
 };
 
-// Asks the player that listens under this name, and waits for its answer.
+// Sends a command to the player that listens under this name, and waits for its answer.
 ControlAnswer AskPlayer(const QString& name, const QString& line);
 
 }  // namespace tavi

@@ -20,7 +20,7 @@ struct VerbRow {
   const char* word;
   Verb verb;
   Argument argument;
-  const char* expected;  // behind the word
+  const char* expected;  // after the word
 };
 
 constexpr VerbRow kVerbs[] = {
@@ -43,7 +43,7 @@ constexpr int kLongestSide = 16384;
 
 struct Split {
   QString word;
-  QString rest;  // a file's name may hold blanks
+  QString rest;  // a file name may contain blanks
 };
 
 Split SplitLine(const QString& line) {

@@ -1,4 +1,4 @@
-// What a script may ask of a player at work: a line of words.
+// The commands for a running player, one per line.
 #ifndef HOST_PLAY_CONTROL_WORDS_H_
 #define HOST_PLAY_CONTROL_WORDS_H_
 
@@ -29,12 +29,12 @@ struct ControlWords {
   int rotation = 0;  // degrees
   QSize size;
   bool is_on = false;
-  QString problem;  // what is wrong with the line, for people; empty when nothing is
+  QString problem;  // the error in the line, for display; empty if there is none
 };
 
 ControlWords ParseControlWords(const QString& line);
 
-// The same line with its file's name made absolute: who reads it may be in another folder.
+// The same line with an absolute file name: the player may run in another folder.
 QString WithAbsoluteFile(const QString& line);
 
 }  // namespace tavi

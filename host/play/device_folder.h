@@ -16,7 +16,7 @@ class DeviceFolder : public DeviceSource {
 
   QStringList Paths() const override;
   std::unique_ptr<PhysicalDevice> Open(const QString& path, QString* problem) override;
-  // Also when the rights of one change: udev sets them a moment after it is there.
+  // Also when the permissions of a device change: udev sets them a moment after it appears.
   void Watch(std::function<void()> changed) override;
 
  private:

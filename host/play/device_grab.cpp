@@ -16,7 +16,7 @@ void DeviceGrab::Update() {
   if (is_wanted_ && state_ != State::kHeld) state_ = Try();
 }
 
-// Looked at twice: a key may go down between the look and the grab.
+// Checked twice: a key may be pressed between the check and the grab.
 DeviceGrab::State DeviceGrab::Try() {
   problem_.clear();
   if (device_->IsAnyKeyDown()) return State::kWaiting;

@@ -13,21 +13,21 @@ class PhysicalDevice;
 //     \----- wanted, nothing is down ---------------------------->/
 //   any  --- not wanted ---> free
 //
-// A grab is never taken while a key is down: the others would not hear that it comes up, and to them it would be down
-// for as long as the grab lasts. Where another program has the device, it is refused, and tried again by Update.
+// A device is never grabbed while a key is down: other readers would not see its release, and for them it would be down
+// as long as the grab lasts. If another program has grabbed the device, the grab is refused, and Update retries it.
 class DeviceGrab {
  public:
   enum class State { kFree, kWaiting, kRefused, kHeld };
 
-  // `device` outlives this.
+  // `device` outlives this object.
   explicit DeviceGrab(PhysicalDevice* device) : device_(device) {}
 
   void SetWanted(bool wanted);
-  // To be called behind each frame of the device, and now and then.
+  // Call it after each frame of the device, and from time to time.
   void Update();
 
   State GetState() const { return state_; }
-  // Why it was refused, for people; empty in every other state.
+  // Why it was refused, for display; empty in every other state.
   const QString& Problem() const { return problem_; }
 
  private:

@@ -11,7 +11,7 @@ DeviceNotifier::DeviceNotifier(PlayDevices* devices, int file, const QString& pa
 
 bool DeviceNotifier::event(QEvent* event) {
   if (event->type() != QEvent::SockAct) return QSocketNotifier::event(event);
-  const QString path = path_;  // lives on where this does not
+  const QString path = path_;  // remains valid if this object is deleted
   devices_->Read(path);
   return true;
 }

@@ -8,13 +8,13 @@ namespace tavi {
 
 class PlayDevices;
 
-// Has a device read when it has something to say. It does so from the notifier's event: the two signals that Qt makes
-// of it are a good part of the way from a key to its touch.
+// Has a device read when data is available. It reads in the notifier's event: the two signals that Qt makes of it take
+// a considerable part of the time from a key to its touch.
 //
-// Main thread. It may be deleted by what it has read.
+// Main thread. The read may delete this object.
 class DeviceNotifier : public QSocketNotifier {
  public:
-  // `devices` outlives this. `file` is that of the device at `path`.
+  // `devices` outlives this object. `file` is the descriptor of the device at `path`.
   DeviceNotifier(PlayDevices* devices, int file, const QString& path);
 
  protected:

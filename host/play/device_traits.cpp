@@ -6,11 +6,11 @@ namespace tavi {
 
 namespace {
 
-// "screen" and so on follow.
+// "screen" and so on are appended.
 const QString kGuestPrefix = QStringLiteral("tavi ");
 
 bool IsSameFile(const QString& a, const QString& b) {
-  const QString canonical = QFileInfo(a).canonicalFilePath();  // of links such as those of /dev/input/by-id
+  const QString canonical = QFileInfo(a).canonicalFilePath();  // the targets of links such as those in /dev/input/by-id
   return a == b || (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
 }
 
@@ -23,7 +23,7 @@ bool IsWanted(const DeviceTraits& traits, const QStringList& wanted) {
 }
 
 QString WhyOther(const DeviceTraits& traits) {
-  if (traits.has_places) return QStringLiteral("it tells places in place of ways");
+  if (traits.has_places) return QStringLiteral("it reports positions instead of movement");
   return QStringLiteral("neither a keyboard nor a mouse");
 }
 

@@ -1,5 +1,6 @@
 #include "host/play/event_feeder.h"
 
+#include <algorithm>
 #include <linux/input.h>
 
 #include <QKeyEvent>
@@ -19,15 +20,15 @@ using taviinputmanager::InputStatus;
 
 namespace {
 
-constexpr int kNotch = 120;  // of Qt, and of a wheel with high resolution
-constexpr int kRepeat = 2;   // the value of a key that the kernel repeats
+constexpr int kNotch = 120;  // of Qt, and of a high-resolution wheel
+constexpr int kRepeat = 2;   // the value of a key repeat from the kernel
 
 struct ButtonRow {
   int code;
   Qt::MouseButton button;
 };
 
-// As Qt numbers them under X11 and Wayland, so that a keymap is one for the window and for this.
+// With Qt's numbers under X11 and Wayland, so that one keymap works in the window and here.
 constexpr ButtonRow kButtons[] = {
     {BTN_LEFT, Qt::LeftButton},   {BTN_RIGHT, Qt::RightButton},   {BTN_MIDDLE, Qt::MiddleButton},
     {BTN_SIDE, Qt::BackButton},   {BTN_EXTRA, Qt::ForwardButton}, {BTN_FORWARD, Qt::ExtraButton3},
@@ -57,7 +58,7 @@ bool IsViewSteered() {
   return status == static_cast<int>(InputStatus::Staring) || status == static_cast<int>(InputStatus::Observing);
 }
 
-// As a window system tells it, which is what keys are compared by that are kept for the program.
+// As a window system reports it, because reserved keys are compared by that.
 QKeyEvent WindowSystemEvent(int code, bool is_down, Qt::KeyboardModifiers modifiers) {
   return {is_down ? QEvent::KeyPress : QEvent::KeyRelease,
           0,
@@ -96,33 +97,33 @@ void EventFeeder::Take(int device, const InputFrame& frame, bool is_fed) {
   if (is_fed) Turn(motion.wheel);
 }
 
-// A key that is down on two keyboards is one key, down until it is up on both.
+// A key that is down on two keyboards is one key, which is down until it is released on both.
 bool EventFeeder::TakeKey(int device, const DeviceEvent& event, bool is_fed) {
-  if (event.value != 0) {
-    Key* key = &keys_[event.code];
-    const bool is_news = key->devices.insert(device).second && key->devices.size() == 1;
-    return !is_news || Press(event.code, key, is_fed);
+  std::vector<int>& devices = keys_[event.code].devices;
+  const auto found = std::find(devices.begin(), devices.end(), device);
+  const bool is_down = event.value != 0;
+  if (is_down == (found != devices.end())) return true;
+  if (is_down) {
+    devices.push_back(device);
+    return devices.size() > 1 || Press(event.code, is_fed);
   }
-  const auto key = keys_.find(event.code);
-  if (key == keys_.end() || key->second.devices.erase(device) == 0 || !key->second.devices.empty()) return true;
-  const bool was_told = key->second.is_told;
-  keys_.erase(key);
-  Release(event.code, was_told);
+  devices.erase(found);
+  if (devices.empty()) Release(event.code);
   return true;
 }
 
-bool EventFeeder::Press(int code, Key* key, bool is_fed) {
+bool EventFeeder::Press(int code, bool is_fed) {
   QKeyEvent event = WindowSystemEvent(code, true, Modifiers());
   if (ButtonOf(code) == Qt::NoButton && reserved_->Take(&event)) return false;
-  key->is_told = is_fed;
+  keys_[code].is_told = is_fed;
   if (is_fed) Tell(code, true);
   return true;
 }
 
-void EventFeeder::Release(int code, bool was_told) {
+void EventFeeder::Release(int code) {
   QKeyEvent event = WindowSystemEvent(code, false, Modifiers());
   if (ButtonOf(code) == Qt::NoButton) reserved_->Take(&event);
-  if (was_told) Tell(code, false);
+  if (std::exchange(keys_[code].is_told, false)) Tell(code, false);
 }
 
 void EventFeeder::Tell(int code, bool is_down) {
@@ -157,8 +158,8 @@ void EventFeeder::Move(const Motion& motion) {
   InputPort::GetInstance()->Send(&event);
 }
 
-// To an item on the wheel each event is a notch, so that parts of one are added up. What is left of a turn counts for
-// nothing when the wheel goes the other way.
+// For an item on the wheel each event is a notch, so parts of a notch are added up. A remainder is discarded when the
+// wheel turns the other way.
 void EventFeeder::Turn(int parts) {
   if (parts == 0) return;
   if ((parts > 0) != (turned_ > 0)) turned_ = 0;
@@ -173,14 +174,12 @@ void EventFeeder::Turn(int parts) {
 
 void EventFeeder::Forget(int device) {
   InputFrame releases;
-  for (const auto& [code, key] : keys_) {
-    if (key.devices.count(device) != 0) releases.push_back({EV_KEY, code, 0});
-  }
+  for (int code = 0; code < KEY_CNT; ++code) releases.push_back({EV_KEY, code, 0});
   Take(device, releases, true);
 }
 
 void EventFeeder::LetGo() {
-  for (auto& [code, key] : keys_) key.is_told = false;
+  for (Key& key : keys_) key.is_told = false;
   turned_ = 0;
 }
 
@@ -190,8 +189,8 @@ QPointF EventFeeder::Pointer() const {
   return {qMin(place_.x() * size.width(), size.width() - 1.0), qMin(place_.y() * size.height(), size.height() - 1.0)};
 }
 
-// By the US layout, which is the guest's own: there is no window system that would know another. A key is no text while
-// others make it a command.
+// In the US layout, which the guest uses: there is no window system that would know another. A key is not text while a
+// modifier makes it a command.
 QString EventFeeder::TextOf(int code) const {
   if (!LiveHost::GetInstance()->HasTextField()) return {};
   const Qt::KeyboardModifiers modifiers = Modifiers();
@@ -203,7 +202,7 @@ QString EventFeeder::TextOf(int code) const {
 Qt::KeyboardModifiers EventFeeder::Modifiers() const {
   Qt::KeyboardModifiers modifiers;
   for (const ModifierRow& row : kModifiers) {
-    if (keys_.count(row.code) != 0) modifiers |= row.modifier;
+    if (IsDown(row.code)) modifiers |= row.modifier;
   }
   return modifiers;
 }
@@ -211,13 +210,12 @@ Qt::KeyboardModifiers EventFeeder::Modifiers() const {
 Qt::MouseButtons EventFeeder::Buttons() const {
   Qt::MouseButtons buttons;
   for (const ButtonRow& row : kButtons) {
-    const auto key = keys_.find(row.code);
-    if (key != keys_.end() && key->second.is_told) buttons |= row.button;
+    if (keys_[row.code].is_told) buttons |= row.button;
   }
   return buttons;
 }
 
-// Names of keys are looked up for it, once for each key.
+// Looked up once for each key, because finding the name takes a while.
 const NativeKey& EventFeeder::NativeOf(int code) {
   auto native = natives_.find(code);
   if (native == natives_.end()) {

@@ -6,24 +6,24 @@
 
 namespace tavi {
 
-// Where the lines for the guest go while somebody plays. Main thread, but for Send.
+// The receiver of the guest's lines while a user plays. Main thread, except Send.
 class GuestOutlet {
  public:
   virtual ~GuestOutlet() = default;
 
-  // The guest's touch surface from here on. Where that cannot be changed, it lifts what is down and begins anew. What
-  // went wrong, for people, or nothing.
+  // The guest's touch surface from now on. If it cannot be changed, releases what is down and creates the devices
+  // again. Returns the error, for display, or an empty string; after an error the old guest stays.
   virtual QString Open(const QSize& surface) = 0;
 
-  // A line as the library's send functions get it. Any thread.
+  // A line in the form of the library's send functions. Any thread.
   virtual void Send(const char* data, int length) = 0;
 
-  // Lifts what is down, gamepads included.
+  // Releases what is down, gamepads included.
   virtual void LiftAll() = 0;
-  // The same, and ends. Lines go nowhere afterwards.
+  // The same, and ends. Later lines go nowhere.
   virtual void Close() = 0;
 
-  // What there is to tell about it in a state line; empty for nothing.
+  // The text about it in a state line; may be empty.
   virtual QString State() const = 0;
 };
 

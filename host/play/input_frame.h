@@ -1,4 +1,4 @@
-// What a device of the kernel reports, without the kernel: so that tests can say it too.
+// The reports of a kernel device, without the kernel, so that tests can create them too.
 #ifndef HOST_PLAY_INPUT_FRAME_H_
 #define HOST_PLAY_INPUT_FRAME_H_
 
@@ -6,14 +6,14 @@
 
 namespace tavi {
 
-// An event as linux/input.h has it, without its time.
+// An event as in linux/input.h, without its time.
 struct DeviceEvent {
   int type;  // EV_...
   int code;
   int value;
 };
 
-// What happened at one moment: the events up to a SYN_REPORT, which is left out.
+// Everything that happened at one moment: the events before a SYN_REPORT, which is not included.
 using InputFrame = std::vector<DeviceEvent>;
 
 }  // namespace tavi

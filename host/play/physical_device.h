@@ -1,5 +1,5 @@
-// A device that a player has in hand, and where devices come from. Real ones are EvdevDevice and DeviceFolder; tests
-// have their own.
+// A device of the player, and the source of devices. The real ones are EvdevDevice and DeviceFolder; tests have their
+// own.
 #ifndef HOST_PLAY_PHYSICAL_DEVICE_H_
 #define HOST_PLAY_PHYSICAL_DEVICE_H_
 
@@ -22,15 +22,15 @@ class PhysicalDevice {
   virtual ~PhysicalDevice() = default;
 
   virtual const DeviceTraits& Traits() const = 0;
-  // Becomes readable when there is something to read; -1: never.
+  // Becomes readable when there is data; -1: never.
   virtual int File() const = 0;
 
-  // Hands over what came since the last time, each frame as soon as it is whole. False when the device is gone.
+  // Passes on everything since the last call, each frame when it is complete. False if the device was disconnected.
   virtual bool Read(const FrameTaker& take) = 0;
 
-  // Whether a key or button is down right now, as the kernel says.
+  // Whether a key or button is currently down, according to the kernel.
   virtual bool IsAnyKeyDown() const = 0;
-  // From here on no other reader gets its events. What went wrong, for people, or nothing.
+  // From now on no other reader gets its events. Returns the error, for display, or an empty string.
   virtual QString Grab() = 0;
   virtual void Ungrab() = 0;
 };
@@ -40,11 +40,11 @@ class DeviceSource {
  public:
   virtual ~DeviceSource() = default;
 
-  // All that there are, in a fixed order.
+  // The paths of all devices, in a fixed order.
   virtual QStringList Paths() const = 0;
-  // Null, and `problem` says why, for people, when it cannot be opened.
+  // Null if it cannot be opened; `problem` is then the reason, for display.
   virtual std::unique_ptr<PhysicalDevice> Open(const QString& path, QString* problem) = 0;
-  // `changed` is called when devices may have come or gone, or may be opened now.
+  // `changed` is called when devices may have appeared or disappeared, or may have become accessible.
   virtual void Watch(std::function<void()> changed) = 0;
 };
 

@@ -15,16 +15,16 @@ namespace tavi {
 class PlaySession;
 struct ControlWords;
 
-// Does what a script asks a player for. Main thread.
+// Executes the commands of a script for a player. Main thread.
 class PlayControl {
  public:
-  // `session` outlives this. `apps` may be null: then there are no keymaps of apps. `quit` ends the program once the
-  // answer is out.
+  // `session` outlives this object. `apps` may be null: then there are no keymaps of apps. `quit` ends the program once
+  // the answer is sent.
   PlayControl(PlaySession* session, const AppKeymaps* apps, std::function<void()> quit);
 
   ControlAnswer Do(const QString& line);
 
-  // The keymap of an app. What went wrong, for people, or nothing.
+  // Loads the keymap of an app. Returns the error, for display, or an empty string.
   QString UseApp(const QString& app);
   PlayRecords* Records() { return &records_; }
 
@@ -35,7 +35,7 @@ class PlayControl {
   const AppKeymaps* const apps_;
   const std::function<void()> quit_;
   PlayRecords records_;
-  QString app_;  // as it was named last
+  QString app_;  // as last requested
 };
 
 }  // namespace tavi

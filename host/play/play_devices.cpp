@@ -8,7 +8,7 @@ namespace tavi {
 
 namespace {
 
-constexpr int kRetryMs = 500;  // for a device that another program has
+constexpr int kRetryMs = 500;  // interval for a device that another program has grabbed
 
 QString Quoted(const DeviceTraits& traits) { return QStringLiteral("\"%1\" (%2)").arg(traits.name, traits.path); }
 
@@ -38,7 +38,7 @@ std::vector<PlayDevices::Listed> PlayDevices::List(DeviceSource* source, const Q
 }
 
 void PlayDevices::Start() {
-  source_->Watch([this] { Look(); });  // before the look, so that none is missed
+  source_->Watch([this] { Look(); });  // before the scan, so that no device is missed
   Look();
 }
 
@@ -64,7 +64,7 @@ int PlayDevices::CountOf(DeviceGrab::State state) const {
   return count;
 }
 
-// A path that went may come back as another device.
+// The path may since belong to another device.
 void PlayDevices::Look() {
   const QStringList paths = source_->Paths();
   const QSet<QString> there(paths.begin(), paths.end());
@@ -79,7 +79,8 @@ void PlayDevices::Look() {
   }
 }
 
-// What cannot be opened is looked at again at the next change: udev sets the rights of a new device after a moment.
+// A device that cannot be opened is retried at the next change: udev sets the permissions of a new device after a
+// moment.
 void PlayDevices::TryToTake(const QString& path) {
   QString problem;
   std::unique_ptr<PhysicalDevice> device = source_->Open(path, &problem);
@@ -108,7 +109,7 @@ void PlayDevices::Take(std::unique_ptr<PhysicalDevice> device) {
   Q_EMIT Changed();
 }
 
-// A reader of a frame may have another one of the devices given back, and may not take one away.
+// The reader of a frame may cause another device to be released, but must not remove one.
 void PlayDevices::Read(const QString& path) {
   const auto found = devices_.find(path);
   if (found == devices_.end()) return;
@@ -126,7 +127,7 @@ void PlayDevices::Remove(const QString& path) {
   const Device& device = node.mapped();
   if (device.notifier) device.notifier->setEnabled(false);
   Q_EMIT Gone(device.id);
-  Q_EMIT Told(QStringLiteral("%1 is gone").arg(Quoted(device.device->Traits())));
+  Q_EMIT Told(QStringLiteral("%1 was disconnected").arg(Quoted(device.device->Traits())));
   Q_EMIT Changed();
 }
 
@@ -141,8 +142,7 @@ void PlayDevices::TellRefusal(Device* device) {
   const bool is_refused = device->grab->GetState() == DeviceGrab::State::kRefused;
   if (is_refused) retrying_.start();
   if (!is_refused || std::exchange(device->is_refusal_told, true)) return;
-  Q_EMIT Told(
-      QStringLiteral("%1 is not played with: %2").arg(Quoted(device->device->Traits()), device->grab->Problem()));
+  Q_EMIT Told(QStringLiteral("%1 is not used: %2").arg(Quoted(device->device->Traits()), device->grab->Problem()));
 }
 
 void PlayDevices::Retry() {

@@ -19,38 +19,37 @@ namespace tavi {
 
 class DeviceNotifier;
 
-// The keyboards and mice that are played with: those that are there, and those that come and go meanwhile. They are
-// read all the time, so that the keys that the player needs in any case are heard; they are grabbed while that is
-// wanted.
+// The player's keyboards and mice, including those that are connected or disconnected later. They are always read, so
+// that reserved keys work at any time; they are grabbed while that is wanted.
 //
 // Main thread.
 class PlayDevices : public QObject {
   Q_OBJECT
 
  public:
-  // What became of a path that was looked at.
+  // The result of examining a path.
   struct Listed {
     DeviceTraits traits;
-    QString problem;  // why it cannot be opened; then of the traits only the path is known
+    QString problem;  // why it cannot be opened; then only the path of the traits is known
     QString refusal;  // why it is not taken
   };
 
-  // `wanted` are names or paths; without any, all keyboards and mice are taken. `source` outlives this.
+  // `wanted` are names or paths; if empty, all keyboards and mice are taken. `source` outlives this object.
   PlayDevices(DeviceSource* source, const QStringList& wanted, QObject* parent = nullptr);
   ~PlayDevices() override;
 
-  // All devices of a source, and whether each would be taken. Nothing is kept.
+  // All devices of a source, and whether each would be taken. Keeps none open.
   static std::vector<Listed> List(DeviceSource* source, const QStringList& wanted);
 
-  // Gets what a device reports, which is faster than a signal. `device` is its own for as long as the program runs;
-  // while it is not grabbed, others hear the same. To be set before Start.
+  // Receives what devices report; it is faster than a signal. `device` identifies the device as long as the program
+  // runs; while it is not grabbed, other programs get the same events. Set it before Start.
   using Taker = std::function<void(int device, const InputFrame& frame, bool is_grabbed)>;
   void SetTaker(Taker taker) { taker_ = std::move(taker); }
 
-  // Opens what is there, and follows what comes and goes from here on.
+  // Opens the existing devices, and follows changes from now on.
   void Start();
   void SetGrabWanted(bool wanted);
-  // Takes what a device has to say. Devices with a file are read as it comes.
+  // Reads the available data of a device. Devices with a descriptor are read automatically.
   void Read(const QString& path);
 
   int Count() const { return static_cast<int>(devices_.size()); }
@@ -59,11 +58,11 @@ class PlayDevices : public QObject {
   int CountOf(DeviceGrab::State state) const;
 
  Q_SIGNALS:
-  // It is gone, with whatever was down on it.
+  // It was disconnected; what was down on it is released.
   void Gone(int device);
-  // A device came or went, or a grab changed.
+  // A device was connected or disconnected, or a grab changed.
   void Changed();
-  // News for people: what came and went, what is refused and why.
+  // Messages for the user: what was connected or disconnected, what was refused and why.
   void Told(const QString& text);
 
  private:
@@ -90,7 +89,7 @@ class PlayDevices : public QObject {
   bool is_grab_wanted_ = false;
   int next_id_ = 1;
   std::map<QString, Device> devices_;  // by path
-  QSet<QString> passed_over_;          // paths that were looked at and are not taken
+  QSet<QString> passed_over_;          // paths that were examined and not taken
   std::map<QString, QString> told_;    // problems, by path
   QTimer retrying_;
 };

@@ -5,17 +5,17 @@
 
 namespace tavi {
 
-// Records while somebody plays without a window: each has its file from the start. What goes wrong is returned, for
-// people; empty when nothing does. Main thread.
+// Recording and replay without a window: each record has a file from the start. Functions return the error, for
+// display, or an empty string. Main thread.
 class PlayRecords {
  public:
-  // Records what the guest gets until Stop, into a file that is tried at once. `app` is found in the record again.
+  // Records what the guest gets until Stop, to a file that is checked at once. `app` is stored in the record.
   QString Record(const QString& file, const QString& app);
-  // Plays a record in place of the one before.
+  // Replays a record; ends the previous replay.
   QString Replay(const QString& file);
-  // Ends the replay and saves the recording, as far as there are any.
+  // Ends the replay, and ends and saves the recording, if there are any.
   QString Stop();
-  // Saves a recording that runs still. What went wrong, or nothing.
+  // Saves a running recording. Returns the error, or an empty string.
   QString SaveAtEnd();
 
  private:

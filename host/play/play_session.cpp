@@ -30,7 +30,7 @@ QString CountText(int count, const QString& what) {
 
 QString ViewText() {
   switch (static_cast<InputStatus>(LiveHost::GetInstance()->InputStatus())) {
-    case InputStatus::Staring: return QStringLiteral("the mouse steers the view");
+    case InputStatus::Staring: return QStringLiteral("the mouse turns the view");
     case InputStatus::Observing: return QStringLiteral("the mouse looks around");
     default: return {};
   }
@@ -46,8 +46,8 @@ QString RecordText() {
   }
 }
 
-// Why another keymap does not take the place of the one in use. One that is saved with errors is read all the same:
-// what it was before stays in use.
+// Why another keymap does not replace the one in use. A file that is saved with errors is loaded all the same: its
+// previous state stays in use.
 QString RefusalOf(const QString& path, const KeymapSource& in_use) {
   if (path == in_use.Path()) return {};
   const tavikeymapmanager::LoadResult read = tavikeymapmanager::ReadKeymapFile(path);
@@ -82,9 +82,9 @@ PlaySession::PlaySession(DeviceSource* source, GuestOutlet* outlet, const PlaySe
   connect(&watch_, &KeymapWatch::Changed, this, [this] { LoadKeymap(mapping_.Keymap().Path()); });
   connect(&joystick_watch_, &KeymapWatch::Changed, this,
           [this] { LoadJoystickKeymap(mapping_.JoystickKeymap().Path()); });
-  // What is in use stays, but nobody is to be caught in its view control.
+  // The keymap stays in use, but view control ends: the player must be able to reach the desktop.
   connect(&watch_, &KeymapWatch::Vanished, this, [this] {
-    Q_EMIT Told(QStringLiteral("%1 is gone; it stays in use as it was read last").arg(mapping_.Keymap().Path()));
+    Q_EMIT Told(QStringLiteral("%1 was deleted; it stays in use as it was last read").arg(mapping_.Keymap().Path()));
     Reset();
   });
 }
@@ -105,7 +105,7 @@ QString PlaySession::Start() {
   devices_.Start();
   devices_.SetGrabWanted(!settings_.is_paused);
   if (devices_.Count() == 0) {
-    Q_EMIT Told(QStringLiteral("no keyboard and no mouse to play with yet; --list tells what there is"));
+    Q_EMIT Told(QStringLiteral("no keyboard and no mouse to play with yet; --list shows the devices"));
   }
   return {};
 }
@@ -124,8 +124,8 @@ void PlaySession::StartLibrary() {
   mapping_.ReadJoystick(QString());
 }
 
-// The library asks how far the pointer of the window system is from the view's corner. Ours is no window system's, so
-// the corner is put where that comes out.
+// The library uses the distance of the window system's pointer from the view's corner. Our pointer is not the window
+// system's, so the corner is set to give the right distance.
 QPoint PlaySession::Corner() const { return QCursor::pos() - feeder_.Pointer().toPoint(); }
 
 void PlaySession::ReadGamepads() {
@@ -139,7 +139,7 @@ void PlaySession::ReadGamepads() {
 QString PlaySession::LoadKeymap(const QString& path) {
   const QString refusal = RefusalOf(path, mapping_.Keymap());
   if (!refusal.isEmpty()) return refusal;
-  watch_.Watch(path);  // from before it is read, so that no change is missed
+  watch_.Watch(path);  // before it is read, so that no change is missed
   mapping_.Read(path);
   feeder_.LetGo();
   TellFindings(mapping_.Keymap());
@@ -165,11 +165,11 @@ void PlaySession::TellFindings(const KeymapSource& source) {
       findings += FormatDiagnostic(finding);
     }
   }
-  if (source.KeepsEarlierState()) findings += QStringLiteral("The keymap stays in use as it was before.");
+  if (source.KeepsEarlierState()) findings += QStringLiteral("The previous version of the keymap stays in use.");
   for (const QString& finding : qAsConst(findings)) Q_EMIT Told(finding);
 }
 
-// Fingers go up under the size that they went down under.
+// Contacts must be released at the size at which they were pressed.
 QString PlaySession::SetSize(const QSize& size) {
   mapping_.LetGoOfEverything();
   feeder_.LetGo();
@@ -220,7 +220,7 @@ void PlaySession::End() {
   mapping_.LetGoOfEverything();
   outlet_->Close();
   LiveHost::GetInstance()->SetLineSink({});
-  LiveHost::GetInstance()->Start({});  // nobody asks for our pointer any more
+  LiveHost::GetInstance()->Start({});  // nobody reads our pointer anymore
 }
 
 void PlaySession::TakeFrame(int device, const InputFrame& frame, bool is_grabbed) {

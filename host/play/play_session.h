@@ -23,17 +23,17 @@ class GamepadPoll;
 struct PlaySettings {
   QSize size{1280, 720};  // the guest's touch surface
   int rotation = 0;       // of its display, in degrees
-  double speed = 1;       // of the pointer, in pixels of the display for a count of the mouse
+  double speed = 1;       // of the pointer, in pixels of the display per count of the mouse
   QStringList devices;    // names or paths; empty: all keyboards and mice
   KeyCombination pause_key;
   KeyCombination panic_key;
-  bool is_paused = false;  // begin so
+  bool is_paused = false;  // initially
 };
 
-// Play without a window: from the devices of this machine by the library to a guest.
+// Play without a window: from the devices of this machine through the library to a guest.
 //
-// While the mapping is on, the devices are grabbed and the library gets what they report. While it is paused, they are
-// everybody's, and only the two keys are heard. However it ends, what is down is lifted first.
+// While the mapping is on, the devices are grabbed and the library gets their events. While it is paused, all programs
+// get them, and only the two reserved keys are handled here. However the session ends, what is down is released first.
 //
 // The library has one host in a process, so there is one session. Main thread.
 class PlaySession : public QObject {
@@ -44,37 +44,38 @@ class PlaySession : public QObject {
   PlaySession(DeviceSource* source, GuestOutlet* outlet, const PlaySettings& settings);
   ~PlaySession() override;
 
-  // Makes the guest and takes the devices. What went wrong, for people, or nothing. To be called once, before all else.
+  // Creates the guest and takes the devices. Returns the error, for display, or an empty string. Must be called once,
+  // before anything else.
   QString Start();
-  // Reads the gamepads of this machine from here on, but for those of guests.
+  // Reads the gamepads of this machine from now on, except those of guests.
   void ReadGamepads();
 
-  // Each of these returns what went wrong, for people, or nothing. A keymap with errors is not taken, but one that is
-  // in use and gets errors stays as it was.
+  // Each of these returns the error, for display, or an empty string. A keymap with errors is refused, but one that is
+  // in use and gets errors stays in use as it was.
   QString LoadKeymap(const QString& path);
   QString LoadJoystickKeymap(const QString& path);
   QString SetSize(const QSize& size);
   void SetRotation(int degrees);
-  // Whether a text field of the guest has the focus, so that keys are typed there. Lifts everything that is down.
+  // Whether a text field of the guest has the focus, so that keys are typed there. Releases everything that is down.
   void SetTextField(bool focused);
 
   void SetPaused(bool paused);
-  // Lifts everything that is down, as a reset of the library does.
+  // Releases everything that is down, like a reset of the library.
   void Reset();
-  // Lifts everything, ends macros and replays, and gives the devices back.
+  // Releases everything, ends macros and replays, and gives the devices back.
   void Panic();
-  // The last of all: lifts everything, gives the devices back, and ends the guest.
+  // Must be called last: releases everything, gives the devices back, and ends the guest.
   void End();
 
   PlayDevices* Devices() { return &devices_; }
   // "mapping on, shooter.yaml (24 items), 1280x720, 1 keyboard, 1 mouse, no gamepad".
   QString State() const;
-  // Passes a sentence on to Told.
+  // Emits Told.
   void Tell(const QString& text) { Q_EMIT Told(text); }
 
  Q_SIGNALS:
   void StateChanged(const QString& state);
-  // For people: findings about keymaps, devices that come and go.
+  // For the user: diagnostics of keymaps, changes of devices.
   void Told(const QString& text);
 
  private:

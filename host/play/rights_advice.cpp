@@ -1,5 +1,6 @@
 #include "host/play/rights_advice.h"
 
+#include <algorithm>
 #include <grp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,28 +12,24 @@ namespace {
 
 constexpr char kUinput[] = "/dev/uinput";
 
-// The number of the group; nothing where there is no such group.
+// The number of the group; nothing if it does not exist.
 bool FindGroup(const char* name, gid_t* number) {
   const group* entry = getgrnam(name);
   if (entry) *number = entry->gr_gid;
   return entry != nullptr;
 }
 
-// Of this process: what a user was added to since counts from the next login on.
+// Of this process: a group that the user was added to takes effect at the next login.
 bool IsMember(gid_t group) {
-  const int count = getgroups(0, nullptr);
-  if (count < 0) return false;
-  std::vector<gid_t> groups(static_cast<std::size_t>(count));
-  getgroups(count, groups.data());
-  for (const gid_t mine : groups) {
-    if (mine == group) return true;
-  }
-  return getegid() == group;
+  std::vector<gid_t> groups(static_cast<std::size_t>(std::max(getgroups(0, nullptr), 0)));
+  const int count = getgroups(static_cast<int>(groups.size()), groups.data());
+  groups.resize(static_cast<std::size_t>(std::max(count, 0)));
+  return getegid() == group || std::find(groups.begin(), groups.end(), group) != groups.end();
 }
 
 bool IsUinputThere() { return access(kUinput, F_OK) == 0; }
 
-// The rule is at work.
+// The udev rule is in effect.
 bool IsUinputOfGroup() {
   gid_t group = 0;
   struct stat status {};
@@ -42,19 +39,19 @@ bool IsUinputOfGroup() {
 
 QString UinputProblem() {
   if (access(kUinput, W_OK) == 0) return {};
-  return QStringLiteral("%1 may not be written to, which the touch screen is made through").arg(QLatin1String(kUinput));
+  return QStringLiteral("%1 is not writable; it is needed to create the touch screen").arg(QLatin1String(kUinput));
 }
 
 QString DevicesProblem(const QStringList& unreadable) {
   if (unreadable.isEmpty()) return {};
-  return QStringLiteral("%1 may not be read").arg(unreadable.join(QStringLiteral(", ")));
+  return QStringLiteral("%1 is not readable").arg(unreadable.join(QStringLiteral(", ")));
 }
 
-// `lacks_uinput`: in the group, that is the rule's.
+// `lacks_uinput`: the group has no access, as the rule would give it.
 QString WayOut(bool lacks_uinput) {
   gid_t group = 0;
   if (!FindGroup(kDeviceGroup, &group)) {
-    return QStringLiteral("There is no group \"input\" here that could be given the rights. As root it works at once.");
+    return QStringLiteral("There is no group \"input\" here that could get access. It works at once as root.");
   }
   QStringList steps;
   if (!IsMember(group)) {

@@ -6,11 +6,11 @@
 
 namespace tavi {
 
-// The group that may read input devices, and that the rule of udev in the Debian package lets make some.
+// The group that can read input devices, and that the udev rule of the Debian package lets create some.
 constexpr char kDeviceGroup[] = "input";
 
-// What a user lacks who wants to play, with the commands that give it, for people; empty where nothing is missing.
-// `unreadable` are devices that cannot be opened because of their rights, `needs_uinput` whether devices are made here.
+// The permissions that a player lacks, with the commands that grant them, for display; empty if nothing is missing.
+// `unreadable` are devices that cannot be opened for lack of permissions; `needs_uinput`: devices are created here.
 QString RightsAdvice(const QStringList& unreadable, bool needs_uinput);
 
 }  // namespace tavi

@@ -13,7 +13,7 @@ QString FirstLine(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readLine()).trimmed() : QString();
 }
 
-// "1920x1080", and "1920,1080" of the console.
+// "1920x1080", and "1920,1080" for the console.
 QSize SizeOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("^(\\d+)[x,](\\d+)"));
   const QRegularExpressionMatch match = form.match(text);

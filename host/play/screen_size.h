@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-// The screen of this machine, as the kernel knows it: the first one that is on, at the size that it prefers, or else
-// the console's. Empty where there is none. `system` is where the kernel tells of devices, another folder in tests.
+// The screen of this machine, as the kernel knows it: the first one that is on, at its preferred size, otherwise the
+// console's. Empty if there is none. `system` is the folder of the kernel's device information, another one in tests.
 QSize ScreenSize(const QString& system = QStringLiteral("/sys"));
 
 }  // namespace tavi

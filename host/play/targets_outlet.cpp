@@ -16,7 +16,7 @@ QString WordOf(TargetStatus::State state) {
     case TargetStatus::State::kOff: return QStringLiteral("off");
     case TargetStatus::State::kConnecting: return QStringLiteral("connecting");
     case TargetStatus::State::kConnected: return QStringLiteral("connected");
-    case TargetStatus::State::kLagging: return QStringLiteral("takes too little");
+    case TargetStatus::State::kLagging: return QStringLiteral("reads too slowly");
     case TargetStatus::State::kFailed: return QStringLiteral("not reached");
     case TargetStatus::State::kEnded: return QStringLiteral("ended");
   }

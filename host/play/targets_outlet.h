@@ -11,17 +11,17 @@
 
 namespace tavi {
 
-// Has the host's targets carry the lines to guests elsewhere: another program, a phone, another machine.
+// Sends the lines through the host's targets to guests elsewhere: another program, a phone, another machine.
 class TargetsOutlet : public GuestOutlet {
  public:
-  // `tell` gets the news of the targets, for people.
+  // `tell` gets messages about the targets, for display.
   TargetsOutlet(QVector<TargetAddress> addresses, std::function<void(const QString&)> tell);
   ~TargetsOutlet() override;
   TargetsOutlet(const TargetsOutlet&) = delete;
   TargetsOutlet& operator=(const TargetsOutlet&) = delete;
 
   QString Open(const QSize& surface) override;
-  // The targets get each line from the host itself.
+  // The targets get each line from the host directly.
   void Send(const char* /*data*/, int /*length*/) override {}
   void LiftAll() override;
   void Close() override;

@@ -8,7 +8,7 @@ namespace tavi {
 Watchdog::Watchdog(int look_ms, int patience, std::function<void()> bite)
     : look_ms_(look_ms), patience_(patience), bite_(std::move(bite)) {
   QObject::connect(&pulse_, &QTimer::timeout, [this] { has_pulse_ = true; });
-  pulse_.start(look_ms / 2);  // at least one falls between two looks
+  pulse_.start(look_ms / 2);  // at least one falls between two checks
   thread_ = std::thread([this] { Watch(); });
 }
 
@@ -25,7 +25,7 @@ void Watchdog::Watch() {
   int still = 0;
   while (WaitForTheNextLook()) {
     still = has_pulse_.exchange(false) ? 0 : still + 1;
-    if (still == patience_) return bite_();
+    if (still >= patience_) return bite_();
   }
 }
 

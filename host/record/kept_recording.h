@@ -5,22 +5,22 @@
 
 namespace tavi {
 
-// A recording that has ended, in a file of its own until it has its place. The library forgets a recording once it was
-// told to save it, wherever that was to and whatever came of it, so it is saved here first.
+// A finished recording in a file of its own until its final file is written. The library discards a recording once it
+// has been told to save it, whatever the target and the result, so it is saved here first.
 //
 // Main thread.
 class KeptRecording {
  public:
-  // Makes room for a recording, where there is most of it.
+  // Chooses a folder for the recording, on the disk with the most space.
   KeptRecording();
-  // What was neither saved nor dropped stays where it is, for the person to find.
+  // A recording that was neither saved nor discarded stays there, for the user to find.
   ~KeptRecording() = default;
   KeptRecording(const KeptRecording&) = delete;
   KeptRecording& operator=(const KeptRecording&) = delete;
 
-  // Where the library is to save it; empty where there is no room at all.
+  // Where the library must save it; empty if there is no space at all.
   const QString& File() const { return file_; }
-  // Puts it into its place; after that it is kept no more. Returns what went wrong, as the system says it, or nothing.
+  // Moves it to its final file; it is no longer kept then. Returns the system's error, or an empty string.
   QString SaveTo(const QString& target);
   void Drop();
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "host/record/record_file.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -12,15 +13,15 @@ using Kind = RecordTouch::Kind;
 
 namespace {
 
-const QString kNoPoint = QStringLiteral("data: \"%1\" is no point such as (0.5,0.25); dropped");
-const QString kNoCoordinate = QStringLiteral("data: a coordinate of \"%1\" is no number and reads as 0");
-const QString kCorner = QStringLiteral("data: (0,0) counts as no point; dropped");
-const QString kUnknownData = QStringLiteral("data: \"%1\" is no command of this type; dropped");
-const QString kNoNumber = QStringLiteral("%1: \"%2\" is no whole number and reads as 0");
+const QString kNoPoint = QStringLiteral("data: \"%1\" is not a point such as (0.5,0.25); dropped");
+const QString kNoCoordinate = QStringLiteral("data: a coordinate of \"%1\" is not a number and reads as 0");
+const QString kCorner = QStringLiteral("data: (0,0) is not a valid point; dropped");
+const QString kUnknownData = QStringLiteral("data: \"%1\" is not a command of this type; dropped");
+const QString kNoNumber = QStringLiteral("%1: \"%2\" is not a whole number and reads as 0");
 
 bool IsWholeNumber(const QString& text) {
   bool is_number = false;
-  text.toInt(&is_number);
+  qt::ToInt(text, &is_number);
   return is_number;
 }
 
@@ -30,7 +31,8 @@ struct PointText {
   QString problem;
 };
 
-// "(0.5,0.25)", as a replay reads it: a coordinate that is no number is 0, and the corner (0,0) is no point.
+// "(0.5,0.25)", with the rules of a replay: a coordinate that is not a number is 0, and the corner (0,0) is not a
+// point.
 PointText ReadPoint(const QString& text) {
   const QStringList parts = text.split(QLatin1Char(','));
   if (!text.startsWith(QLatin1Char('(')) || !text.endsWith(QLatin1Char(')')) || parts.size() != 2) {
@@ -43,7 +45,7 @@ PointText ReadPoint(const QString& text) {
   return {point, false, is_x && is_y ? QString() : kNoCoordinate.arg(text)};
 }
 
-// "word:argument"; nothing for another number of colons.
+// "word:argument"; nothing for any other number of colons.
 std::optional<QString> OnlyArgument(const QString& data) {
   const QStringList parts = data.split(QLatin1Char(':'));
   if (parts.size() != 2) return std::nullopt;
@@ -62,7 +64,7 @@ RecordTouch ReadPress(const RecordAction& action) {
   const PointText point = ReadPoint(*text);
   if (point.is_dropped) return Dropped(point.problem);
   const QString problem = point.problem.isEmpty() ? SlotProblem(action.extra1) : point.problem;
-  return {Kind::kPress, {{action.extra1.toInt(), point.point}}, problem};
+  return {Kind::kPress, {{qt::ToInt(action.extra1), point.point}}, problem};
 }
 
 RecordTouch ReadMultiPress(const RecordAction& action) {
@@ -75,7 +77,7 @@ RecordTouch ReadMultiPress(const RecordAction& action) {
   RecordTouch touch{Kind::kPress, {}, {}};
   for (int i = 0; i < points.size(); ++i) {
     const PointText point = ReadPoint(points[i]);
-    if (!point.is_dropped) touch.contacts.append(RecordContact{numbers[i].toInt(), point.point});
+    if (!point.is_dropped) touch.contacts.append(RecordContact{qt::ToInt(numbers[i]), point.point});
     if (touch.problem.isEmpty()) touch.problem = point.problem.isEmpty() ? SlotProblem(numbers[i]) : point.problem;
   }
   return touch;
@@ -85,7 +87,7 @@ RecordTouch ReadMultiRelease(const RecordAction& action) {
   if (action.extra1.isEmpty()) return Dropped(QStringLiteral("extra1: no slots; dropped"));
   RecordTouch touch{Kind::kRelease, {}, {}};
   for (const QString& number : action.extra1.split(QLatin1Char(':'))) {
-    touch.contacts.append(RecordContact{number.toInt(), {}});
+    touch.contacts.append(RecordContact{qt::ToInt(number), {}});
     if (touch.problem.isEmpty()) touch.problem = SlotProblem(number);
   }
   return touch;
@@ -118,7 +120,7 @@ QString JoystickProblem(const RecordAction& action) {
   return action.data.isEmpty() ? QStringLiteral("data: empty; dropped") : QString();
 }
 
-// What it means is between the host and itself.
+// Its meaning is up to the host.
 QString HostCommandProblem(const RecordAction& /*action*/) { return {}; }
 
 struct ActionType {
@@ -136,7 +138,7 @@ constexpr ActionType kTypes[] = {
 RecordTouch ReadTouch(const RecordAction& action) {
   if (action.data.startsWith(QLatin1String("press_rel"))) return ReadPress(action);
   if (action.data == QLatin1String("release")) {
-    return {Kind::kRelease, {{action.extra1.toInt(), {}}}, SlotProblem(action.extra1)};
+    return {Kind::kRelease, {{qt::ToInt(action.extra1), {}}}, SlotProblem(action.extra1)};
   }
   if (action.data.startsWith(QLatin1String("press_multi_rel"))) return ReadMultiPress(action);
   if (action.data == QLatin1String("release_multi")) return ReadMultiRelease(action);

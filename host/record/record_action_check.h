@@ -1,4 +1,4 @@
-// What a replay makes of single actions, seen from outside.
+// How a replay interprets single actions, seen from outside.
 #ifndef HOST_RECORD_RECORD_ACTION_CHECK_H_
 #define HOST_RECORD_RECORD_ACTION_CHECK_H_
 
@@ -12,21 +12,21 @@ struct RecordAction;
 
 struct RecordContact {
   int slot = 0;   // the file's own number
-  QPointF point;  // fractions of the display; of no meaning when the finger goes up
+  QPointF point;  // fractions of the display; meaningless for a release
 };
 
-// A touch action taken apart.
+// A parsed touch action.
 struct RecordTouch {
   enum class Kind { kDropped, kPress, kRelease, kReset };
 
   Kind kind = Kind::kDropped;
-  QVector<RecordContact> contacts;  // of a press or release: those that take part in it
-  QString problem;                  // what is wrong, by the name of its key; empty when nothing is
+  QVector<RecordContact> contacts;  // the contacts of a press or release
+  QString problem;                  // the diagnostic, with the name of its key; empty if there is none
 };
 
 RecordTouch ReadTouch(const RecordAction& action);
 
-// "data: ...": what a replay drops of the action, or reads as something else; empty when all is well.
+// "data: ...": what a replay drops of the action, or reads differently; empty if nothing.
 QString ActionProblem(const RecordAction& action);
 
 }  // namespace tavi

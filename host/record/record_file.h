@@ -1,5 +1,5 @@
-// Record files as the program shows, walks and draws them: read with the rules of a replay, and with a word on
-// everything that a replay would drop in silence.
+// Record files as the program shows, walks and draws them: read with the rules of a replay, and with a diagnostic for
+// everything that a replay would drop silently.
 #ifndef HOST_RECORD_RECORD_FILE_H_
 #define HOST_RECORD_RECORD_FILE_H_
 
@@ -13,24 +13,24 @@
 namespace tavi {
 
 struct RecordAction {
-  int timing = 0;  // milliseconds since the action before, at normal speed
-  QString type;    // an action without one ends the replay
+  int timing = 0;  // milliseconds since the previous action, at normal speed
+  QString type;    // an action without a type ends the replay
   QString data;
   QString extra1;
   QString extra2;
 };
 
-// A list of actions, or of parts that are played one after the other.
+// A list of actions, or of parts that are played in turn.
 struct RecordPart {
   MergeParam control;
   bool is_merged = false;
-  std::vector<RecordAction> actions;  // of a list of actions
-  std::vector<RecordPart> parts;      // of a merged list
+  std::vector<RecordAction> actions;  // for a list of actions
+  std::vector<RecordPart> parts;      // for a merged list
 };
 
 struct RecordFinding {
-  bool is_error = false;  // the file cannot be played; otherwise a part of it does not do what it says
-  int line = 0;           // of JSON that is broken, from 1; else 0
+  bool is_error = false;  // the file cannot be played; otherwise a part of it does not work as written
+  int line = 0;           // of invalid JSON, from 1; otherwise 0
   int column = 0;         // in characters, from 1
   QString path;           // "merged_actions[1].actions[3].timing"; empty for the whole file
   QString message;
@@ -39,26 +39,26 @@ struct RecordFinding {
 struct RecordFile {
   bool HasErrors() const;
 
-  RecordPart root;  // of a file with errors, of no use
+  RecordPart root;  // unusable if the file has errors
   QVector<RecordFinding> findings;
 };
 
-// Records beyond this are refused: reading takes some ten times their size in memory. Two days of play are shorter.
+// Larger records are refused: reading needs some ten times their size in memory. Two days of play are smaller.
 constexpr qint64 kMostRecordBytes = qint64{512} << 20;
 
-// Why a file is not even looked into: it is a folder, a pipe or a device, or too long. Empty: it can be read, if it is
-// there. The library itself takes everything, and waits for a pipe.
+// Why a file is not even opened: it is a folder, a pipe or a device, or too long. Empty: it can be read if it exists.
+// The library itself accepts any file, and waits for a pipe.
 QString RecordRefusal(const QString& name);
 
 RecordFile ReadRecordFile(const QString& name);
 
-// The findings, a line each with the file's name in front; beyond a screenful, how many more there are.
+// The diagnostics, one per line after the file's name; after a screenful, the number of further ones.
 QString FormatFindings(const QString& name, const RecordFile& record);
 
-// Tells standard error about the file. False when it cannot be played.
+// Prints the diagnostics of the file to standard error. False if it cannot be played.
 bool IsRecordUsable(const QString& name, const RecordFile& record);
 
-// The action that a replay begins with, however deep; null when the first list is empty.
+// The first action of a replay, at any depth; null if the first list is empty.
 const RecordAction* FirstAction(const RecordPart& part);
 
 }  // namespace tavi

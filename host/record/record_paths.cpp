@@ -9,9 +9,9 @@ namespace tavi {
 
 namespace {
 
-constexpr double kFarthest = 10;  // displays away from the corner: nothing of it would be seen
+constexpr double kFarthest = 10;  // displays away from the corner; nothing would be visible
 
-// False also for what is no number.
+// Also false if it is not a number.
 bool IsNear(const QPointF& point) { return std::abs(point.x()) <= kFarthest && std::abs(point.y()) <= kFarthest; }
 
 class ContactFollower {
@@ -36,7 +36,7 @@ class ContactFollower {
     }
   }
 
-  // A part begins where the step before it ended; the pause behind it is not its own.
+  // A part starts at the end of the previous step; the pause after it is not its own.
   void ExtendPart(const WalkStep& step) {
     if (step.part != part_) {
       part_ = step.part;
@@ -70,7 +70,7 @@ class ContactFollower {
   }
 
   void Lift(int slot) {
-    if (!down_.contains(slot)) return;  // a reset or a release of what is up already
+    if (!down_.contains(slot)) return;  // a reset, or a release of a contact that is not down
     ContactPath& path = paths_.contacts[down_.take(slot)];
     path.is_up = true;
     path.up_ms = ms_;

@@ -1,4 +1,4 @@
-// The ways that a record's fingers take.
+// The paths of a record's fingers.
 #ifndef HOST_RECORD_RECORD_PATHS_H_
 #define HOST_RECORD_RECORD_PATHS_H_
 
@@ -16,11 +16,11 @@ struct PathPoint {
   QPointF point;  // fractions of the display
 };
 
-// One finger from going down to going up.
+// One finger from press to release.
 struct ContactPath {
   QVector<PathPoint> points;  // at least one
-  bool is_up = false;         // it went up
-  qint64 up_ms = 0;           // then
+  bool is_up = false;         // it was lifted
+  qint64 up_ms = 0;           // its time, if so
 };
 
 // One part of a merged record.
@@ -31,13 +31,13 @@ struct PartSpan {
 };
 
 struct RecordPaths {
-  QVector<ContactPath> contacts;    // in the order of going down
-  QVector<PartSpan> parts;          // of a merged record, in the order of playing
-  QMap<QString, qint64> not_drawn;  // actions of other types, repeats counted
+  QVector<ContactPath> contacts;    // in order of presses
+  QVector<PartSpan> parts;          // for a merged record, in playing order
+  QMap<QString, qint64> not_drawn;  // the number of actions of other types, including repeats
   WalkResult walk;
 };
 
-// More than these would be neither seen nor opened by a viewer; ten minutes of moves at a good mouse's pace are fewer.
+// More points would be neither visible nor manageable for a viewer; ten minutes of movement of a good mouse have fewer.
 constexpr qint64 kMostDrawnSteps = 100000;
 
 RecordPaths FollowContacts(const RecordPart& root);

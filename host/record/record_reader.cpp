@@ -53,14 +53,14 @@ QString WithArticle(const QJsonValue& value) {
   }
 }
 
-// Where a byte of a text stands, in lines and characters.
+// The line and character of a byte in a text.
 void FindPlace(const QByteArray& bytes, int offset, RecordFinding* finding) {
   const QByteArray before = bytes.left(offset);
   finding->line = before.count('\n') + 1;
   finding->column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
 }
 
-// Reads one file. Every function that takes a path gets the place of what it reads within the file.
+// Reads one file. The `path` of each function is the position within the file of what it reads.
 class RecordReader {
  public:
   RecordFile Read(const QString& name) {
@@ -104,14 +104,14 @@ class RecordReader {
   void ReadDocument(const QJsonObject& root) {
     CheckInfo(root);
     if (!root.contains(kActions) && !root.contains(kMergedActions)) {
-      Error({}, QStringLiteral("not a record: there is neither \"actions\" nor \"merged_actions\""));
+      Error({}, QStringLiteral("not a record: it has neither \"actions\" nor \"merged_actions\""));
       return;
     }
     WarnOfOtherKeys(root, {}, {kInfo, kActions, kMergedActions, kControl});
     ReadPart(root, {}, &record_.root);
     const RecordAction* first = FirstAction(record_.root);
     if (record_.HasErrors() || (first && !first->data.isEmpty())) return;
-    Warn({}, QStringLiteral("the first action has no data; a host that asks for the app of this file will hang"));
+    Warn({}, QStringLiteral("the first action has no data; a host that reads the app of this file will hang"));
   }
 
   void CheckInfo(const QJsonObject& root) {
@@ -127,7 +127,7 @@ class RecordReader {
     }
   }
 
-  // The values themselves are the library's to read.
+  // The library reads the values itself.
   void CheckInfoFields(const QJsonObject& info) {
     QString text;
     int number = 0;
@@ -140,13 +140,13 @@ class RecordReader {
     WarnOfOtherKeys(info, kInfo, {kPackage, kWidth, kHeight, kCreated, kTotal});
   }
 
-  // A list of actions wins over a merged one beside it.
+  // A list of actions takes precedence over a merged one beside it.
   void ReadPart(const QJsonObject& json, const QString& path, RecordPart* part) {
     ReadControl(json, path, &part->control);
     part->is_merged = !json.contains(kActions);
     if (part->is_merged) return ReadParts(json.value(kMergedActions), Join(path, kMergedActions), part);
     if (json.contains(kMergedActions)) {
-      Warn(Join(path, kMergedActions), QStringLiteral("not read, since there is \"actions\" beside it"));
+      Warn(Join(path, kMergedActions), QStringLiteral("ignored because there is \"actions\" beside it"));
     }
     ReadActions(json.value(kActions), Join(path, kActions), part);
   }
@@ -168,7 +168,7 @@ class RecordReader {
   void ReadItem(const QJsonValue& value, const QString& path, RecordPart* part) {
     const QJsonObject item = value.toObject();
     if (!item.contains(kActions) && !item.contains(kMergedActions)) {
-      Error(path, QStringLiteral("there is neither \"actions\" nor \"merged_actions\""));
+      Error(path, QStringLiteral("it has neither \"actions\" nor \"merged_actions\""));
       return;
     }
     WarnOfOtherKeys(item, path, {kActions, kMergedActions, kControl});
@@ -195,7 +195,7 @@ class RecordReader {
     Take(json, path, kExtra1, &action.extra1);
     Take(json, path, kExtra2, &action.extra2);
     WarnOfOtherKeys(json, path, {kTiming, kType, kData, kExtra1, kExtra2});
-    if (action.timing < 0) Warn(Join(path, kTiming), QStringLiteral("below 0 waits as 0 does"));
+    if (action.timing < 0) Warn(Join(path, kTiming), QStringLiteral("a value below 0 waits like 0"));
     const QString problem = ActionProblem(action);
     if (!problem.isEmpty()) Warn(path, problem);
     return action;
@@ -219,7 +219,7 @@ class RecordReader {
     if (!(param->speed_ratio > 0)) Warn(Join(place, kSpeed), QStringLiteral("not above 0; plays at speed 1"));
   }
 
-  // Each leaves the field as it is where the value is of another kind.
+  // Each leaves the field unchanged if the value is of another kind.
   void Take(const QJsonObject& json, const QString& path, QLatin1String key, QString* field) {
     const QJsonValue value = json.value(key);
     if (value.isString()) *field = value.toString();
@@ -244,14 +244,14 @@ class RecordReader {
 
   void WarnOfKind(const QString& path, QLatin1String key, const QJsonValue& value, const QString& kind) {
     if (value.isUndefined()) return;
-    Warn(Join(path, key), QStringLiteral("%1 where %2 belongs; not read").arg(WithArticle(value), kind));
+    Warn(Join(path, key), QStringLiteral("%1 where %2 belongs; ignored").arg(WithArticle(value), kind));
   }
 
   void WarnOfOtherKeys(const QJsonObject& json, const QString& path, std::initializer_list<QLatin1String> known) {
     for (auto it = json.begin(); it != json.end(); ++it) {
       bool is_known = false;
       for (const QLatin1String key : known) is_known = is_known || it.key() == key;
-      if (!is_known) Warn(Join(path, it.key()), QStringLiteral("not read: no such key here"));
+      if (!is_known) Warn(Join(path, it.key()), QStringLiteral("ignored: there is no such key here"));
     }
   }
 
@@ -260,7 +260,7 @@ class RecordReader {
 
 }  // namespace
 
-// A pipe keeps its reader waiting and could be read once only, while the library reads the file again.
+// A pipe blocks its reader and can be read only once, but the library reads the file again.
 QString RecordRefusal(const QString& name) {
   const QString problem = NoFileProblem(name);
   if (!problem.isEmpty() || QFileInfo(name).size() <= kMostRecordBytes) return problem;

@@ -11,7 +11,7 @@ using End = WalkResult::End;
 
 namespace {
 
-// Each delay by itself loses its fraction, as in a replay; what is no number counts as none.
+// Each delay is truncated by itself, as in a replay; a value that is not a number counts as none.
 int AtSpeed(int ms, double speed) {
   const double delay = 1.0 / (speed > 0 ? speed : 1.0) * ms;
   if (!(delay > 0)) return 0;
@@ -22,7 +22,7 @@ bool HasActions(const RecordPart& part) {
   return !part.actions.empty() || std::any_of(part.parts.begin(), part.parts.end(), HasActions);
 }
 
-// Functions that step tell whether to go on.
+// Functions that take a step return whether to continue.
 class Walker {
  public:
   Walker(const std::function<void(const WalkStep&)>& visit, qint64 most_steps)
@@ -34,7 +34,7 @@ class Walker {
   }
 
  private:
-  // A list in which there is nothing to play is not repeated either.
+  // A list without anything to play is not repeated either.
   bool WalkList(const RecordPart& list, double speed, bool is_root) {
     if (!HasActions(list)) return true;
     for (int repeat = 1;; ++repeat) {
@@ -62,7 +62,7 @@ class Walker {
   }
 
   bool Act(const RecordAction& action, int delay_ms) {
-    if (action.type.isEmpty()) return Stop(End::kNoType);  // at once, without its delay
+    if (action.type.isEmpty()) return Stop(End::kNoType);  // immediately, without its delay
     if (!Step(delay_ms, &action)) return false;
     ++result_.actions;
     return true;

@@ -1,4 +1,4 @@
-// A record from its first action to its last, as a replay goes through it.
+// Walks a record from its first action to its last, as a replay does.
 #ifndef HOST_RECORD_RECORD_WALK_H_
 #define HOST_RECORD_RECORD_WALK_H_
 
@@ -13,26 +13,26 @@ struct RecordPart;
 
 struct WalkStep {
   qint64 at_ms = 0;                      // since the start
-  int part = 0;                          // which one of a merged record's own parts; 0 in a single record
+  int part = 0;                          // the index of a merged record's part; 0 in a single record
   const RecordAction* action = nullptr;  // null for a pause between repeats or parts, which ends at this time
 };
 
 struct WalkResult {
   enum class End {
     kComplete,
-    kNoType,  // at an action without type
-    kLimit    // after as many steps as were asked for
+    kNoType,  // at an action without a type
+    kLimit    // after the maximum number of steps
   };
 
   qint64 total_ms = 0;  // until the last step
-  qint64 actions = 0;   // repeats counted
+  qint64 actions = 0;   // including repeats
   End end = End::kComplete;
 };
 
-// Repeats of repeats make a short file go on for years; nobody looks at more steps than these.
+// Nested repeats can make a short file play for years; nobody examines more steps than this.
 constexpr qint64 kLongestWalk = 1000000;
 
-// Calls `visit` for each step in order, for `most_steps` of them. `speed` is the replay's own, above 0.
+// Calls `visit` for each step in order, for at most `most_steps`. `speed` is the replay's own, above 0.
 WalkResult WalkRecord(const RecordPart& root, double speed, const std::function<void(const WalkStep&)>& visit,
                       qint64 most_steps = kLongestWalk);
 

@@ -4,10 +4,10 @@
 
 namespace tavi {
 
-// Its header is read by reading the whole.
+// Reading the header requires reading the whole file.
 QString WrittenRecordProblem(const QString& file, RecordInfo* info) {
   if (taviinputmanager::GetRecordInfo(file, info)) return {};
-  return QStringLiteral("it came out short; the disk may be full");
+  return QStringLiteral("it was truncated; the disk may be full");
 }
 
 }  // namespace tavi

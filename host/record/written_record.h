@@ -1,5 +1,5 @@
-// What became of a record that the library was told to write. The library reports success also where the disk took a
-// part of it only, so the file itself is looked at.
+// Checks a record that the library was told to write. The library reports success even if the disk took only part of
+// it, so the file itself is checked.
 #ifndef HOST_RECORD_WRITTEN_RECORD_H_
 #define HOST_RECORD_WRITTEN_RECORD_H_
 
@@ -9,10 +9,11 @@
 
 namespace tavi {
 
-// What the library tells at the end of a recording.
+// The library's message at the end of a recording.
 enum RecordOutcome : int { kRecordSaved = 0, kNothingToSave = 1, kRecordRefused = 2 };
 
-// What is wrong with the record that the library has just written into this file, or nothing. `info` gets its header.
+// The error in the record that the library has just written to this file, or an empty string. `info` receives its
+// header.
 QString WrittenRecordProblem(const QString& file, RecordInfo* info);
 
 }  // namespace tavi

@@ -6,15 +6,15 @@
 
 namespace tavi {
 
-// How the guest's screen is turned in the window. Lines hold places of the touch surface, which does not turn; people
-// see the display, which does.
+// How the guest's screen is rotated in the window. Lines contain positions on the touch surface, which is not rotated;
+// the user sees the display, which is.
 //
-// To the library a quarter and three quarters are turned, and half a turn is as none.
+// To the library 90 and 270 degrees are rotated, and 180 is the same as 0.
 struct GuestGeometry {
   bool IsTurned() const { return rotation == 90 || rotation == 270; }
   QSize DisplaySize() const { return IsTurned() ? touch_surface.transposed() : touch_surface; }
 
-  // Where on the display a place of the touch surface is seen, in fractions of its width and height.
+  // The position on the display of a touch surface position, in fractions of the display's width and height.
   QPointF FractionOf(const QPointF& touch) const {
     const double a = touch.x() / qMax(1, touch_surface.width());
     const double b = touch.y() / qMax(1, touch_surface.height());

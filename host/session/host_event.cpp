@@ -23,7 +23,7 @@ using Kind = HostEvent::Kind;
 
 namespace {
 
-constexpr int kDigits = 3;  // of fractions: finer than a pixel of most guests
+constexpr int kDigits = 3;  // decimals of fractions: finer than a pixel of most guests
 
 QPointF FractionOf(const QPointF& place) {
   const QSize view = LiveHost::GetInstance()->ViewSize();
@@ -42,7 +42,7 @@ HostEvent DescribeKey(const QKeyEvent& event) {
   result.kind = is_press ? Kind::kPress : Kind::kRelease;
   result.repeats = event.isAutoRepeat();
   result.text = EdgeText(is_press) + (result.repeats ? QStringLiteral(", repeated") : QString());
-  if (event.nativeScanCode() == 0) return result;  // a text alone
+  if (event.nativeScanCode() == 0) return result;  // text only
   const int scancode = static_cast<int>(event.nativeScanCode());
   result.code = QStringLiteral("scan %1").arg(scancode);
   result.key = km::CreateConfigKey(km::keywords::kDeviceKeyboard, static_cast<int>(event.nativeVirtualKey()), scancode);
@@ -145,14 +145,14 @@ HostEvent DescribeMovement(int dx, int dy) {
   HostEvent result;
   result.kind = Kind::kMove;
   result.text = QStringLiteral("move by %1, %2").arg(dx).arg(dy);
-  result.key.device = km::keywords::kDeviceMouse;  // tells it from moves of a free pointer
+  result.key.device = km::keywords::kDeviceMouse;  // distinguishes it from moves of a free pointer
   return result;
 }
 
 HostEvent DescribeLettingGo() {
   HostEvent event;
   event.kind = Kind::kLetGo;
-  event.text = QStringLiteral("let go");
+  event.text = QStringLiteral("release all");
   return event;
 }
 

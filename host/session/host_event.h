@@ -1,4 +1,4 @@
-// An event of the host as people read it.
+// Host events in readable form.
 #ifndef HOST_SESSION_HOST_EVENT_H_
 #define HOST_SESSION_HOST_EVENT_H_
 
@@ -16,26 +16,26 @@ namespace tavi {
 struct HostEvent {
   enum class Kind { kPress, kRelease, kMove, kTurn, kTouch, kStick, kText, kLetGo, kOther };
 
-  // Of many that follow each other only the last says something: a pointer on its way, a key that repeats.
+  // In a run of these only the last one matters: a moving pointer, a repeating key.
   bool IsRepeatOf(const HostEvent& before) const;
 
   Kind kind = Kind::kOther;
   QString text;                      // "press", "move 0.42, 0.36"
-  QString code;                      // the native code; empty where there is none
-  tavikeymapmanager::ConfigKey key;  // what a keymap's items are compared with; not set where no key is meant
+  QString code;                      // the native code; empty if there is none
+  tavikeymapmanager::ConfigKey key;  // the key that items of a keymap are matched against; unset if the event has none
   std::optional<QPointF> place;      // fractions of the display
   bool repeats = false;              // a held key
 };
 
-// Of an event as the library gets it: places are pixels of LiveHost::ViewSize.
+// From an event as the library gets it: positions are pixels of LiveHost::ViewSize.
 HostEvent DescribeEvent(const QEvent& event);
 HostEvent DescribeJoystickEvent(const QEvent& event);
-// Counts of a mouse that steers the view.
+// Counts of a captured mouse.
 HostEvent DescribeMovement(int dx, int dy);
-// What is down is lifted because of something else than an event.
+// What is down is released for another reason than an event.
 HostEvent DescribeLettingGo();
 
-// What of it a keymap's item would have: "key: W", "point: [0.42, 0.36]", both, or nothing.
+// The part of it that an item of a keymap can use: "key: W", "point: [0.42, 0.36]", both, or nothing.
 QString KeymapFields(const HostEvent& event);
 
 }  // namespace tavi

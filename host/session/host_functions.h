@@ -1,5 +1,4 @@
-// What hosts that write down what the library tells them have in common: the plain functions that the library is given
-// are the same, but for the answers to its questions.
+// The common part of hosts that log the library's calls: they use the same callbacks, except those that return a value.
 #ifndef HOST_SESSION_HOST_FUNCTIONS_H_
 #define HOST_SESSION_HOST_FUNCTIONS_H_
 
@@ -10,15 +9,15 @@
 
 namespace tavi {
 
-// The functions that tell. `Host` has GetInstance(), Add(source, text) and IsHeard(), whether anybody gets what is
-// added, and is called on whatever thread the library tells on. Where nobody does, no words are made, which would be
-// the dearest part of an event's way. A host's own functions derive from this, add the answers, and replace what it
-// wants to do more about.
+// The callbacks without a result. `Host` has GetInstance(), Add(source, text) and IsHeard(), which says whether anybody
+// gets the added entries. They are called on the library's thread of the call. If nobody listens, no text is made,
+// because that would be the most expensive part of handling an event. A host derives its callbacks from this, adds
+// those with a result, and replaces those that it does more in.
 template <typename Host>
 struct TellingFunctions {
   using Source = TimelineEntry::Source;
 
-  // `words` makes the text.
+  // `words` creates the text.
   template <typename Words>
   static void Tell(Source source, const Words& words) {
     if (Host::GetInstance()->IsHeard()) Host::GetInstance()->Add(source, words());
@@ -61,7 +60,7 @@ struct TellingFunctions {
   }
 };
 
-// The library's table of all of a host's functions.
+// The table of all callbacks of a host.
 template <typename Functions>
 taviinputmanager::InputManagerCallbacks CallbacksOf() {
   taviinputmanager::InputManagerCallbacks table;
@@ -84,7 +83,7 @@ taviinputmanager::InputManagerCallbacks CallbacksOf() {
   return table;
 }
 
-// Installs the send functions, and initialises the library with a table that outlives it.
+// Installs the send functions, and initializes the library with a static table.
 template <typename Functions>
 void InitializeLibrary(taviinputmanager::InputManagerCallbacks* table) {
   taviinputmanager::SetInputEventSendFunc(reinterpret_cast<void*>(Functions::SendEvent));

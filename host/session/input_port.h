@@ -11,7 +11,7 @@ class QEvent;
 
 namespace tavi {
 
-// The one way from the window into the library, so that what goes in can be told together with what comes out.
+// The single path from the window to the library, so that input can be logged together with its results.
 //
 // Main thread.
 class InputPort : public QObject {
@@ -20,30 +20,32 @@ class InputPort : public QObject {
  public:
   static InputPort* GetInstance();
 
-  // Events of the view, of gamepads, and counts of a mouse that is captured. A touch whose fingers were lifted
-  // meanwhile goes no further: it counts again from the next one on.
+  // Events of the view, of gamepads, and counts of a captured mouse. A touch whose contacts were released meanwhile is
+  // not passed on until the next touch begins.
   void Send(QEvent* event);
   void SendJoystick(QEvent* event);
   void SendRelative(int dx, int dy);
 
-  // Lifts all input of the display that is played on, touches among it, which the library's own reset leaves down.
+  // Releases all input of the current display, including touches, which the library's own reset leaves down.
   void LetGo();
-  // The same by something that has it lifted besides.
+  // The same through a function that releases more.
   void LetGoBy(const std::function<void()>& change);
 
  Q_SIGNALS:
-  // An event is about to be handed over, or input to be lifted. What the library sends until Ended it sends because of
-  // it.
+  // An event is about to be passed to the library, or input to be released. The lines that the library sends until
+  // Ended are its result.
   void Began(const tavi::HostEvent& event);
   void Ended();
 
  private:
   InputPort() = default;
 
-  bool IsHeard() const;
+  // Notes that Began is connected: checking at each event would be a large part of its cost.
+  void connectNotify(const QMetaMethod& signal) override;
   void LiftTouches();
 
-  bool is_touched_ = false;  // the library has fingers of a touch
+  bool is_heard_ = false;    // Began was ever connected; otherwise events are not described, which is expensive
+  bool is_touched_ = false;  // the library has contacts of a touch that are down
 };
 
 }  // namespace tavi

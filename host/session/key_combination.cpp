@@ -38,7 +38,7 @@ Qt::KeyboardModifiers ModifierOf(const QString& name) {
 QString UnknownKey(const QString& name) {
   const QString nearest = km::NearestKeyName(name);
   const QString hint = nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
-  return QStringLiteral("no key of the keyboard is called \"%1\"%2").arg(name, hint);
+  return QStringLiteral("\"%1\" is not a key of the keyboard%2").arg(name, hint);
 }
 
 }  // namespace
@@ -68,7 +68,7 @@ QString ParseKeyCombination(const QString& text, KeyCombination* combination) {
   for (const QString& part : parts) {
     const Qt::KeyboardModifiers modifier = ModifierOf(part);
     if (modifier == Qt::NoModifier) {
-      return QStringLiteral("no modifier is called \"%1\"; there are Ctrl, Alt, Shift and Meta").arg(part);
+      return QStringLiteral("\"%1\" is not a modifier; use Ctrl, Alt, Shift or Meta").arg(part);
     }
     result.modifiers |= modifier;
   }

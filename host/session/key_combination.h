@@ -9,29 +9,29 @@ class QKeyEvent;
 
 namespace tavi {
 
-// A key of the keyboard and the modifiers that go with it, for what the window keeps for itself: "Ctrl+Alt+Backspace".
+// A key of the keyboard and its modifiers, which the window reserves for itself: "Ctrl+Alt+Backspace".
 struct KeyCombination {
-  // Whether the event is of this key while the modifiers are held. Further modifiers do not matter: a player who runs
-  // holds one.
+  // Whether the event is one of this key while the modifiers are held. Further modifiers do not matter: a running
+  // player holds one.
   bool Matches(const QKeyEvent& event) const;
   bool IsKeyOf(const QKeyEvent& event) const;
 
-  QString name;      // as it was written, for people
+  QString name;      // as the user wrote it, for display
   int scancode = 0;  // Windows scan code, the extended bit as 0x100
   Qt::KeyboardModifiers modifiers = Qt::NoModifier;
 };
 
-// What a modifier is called, and the keys that are it, by their scan codes.
+// The name of a modifier and the scan codes of its keys.
 struct ModifierKeys {
   QString name;
   QVector<int> scancodes;
 };
 
-// Those that go with the key, in the order of their names in a combination.
+// The modifiers of the combination, in the order of their names.
 QVector<ModifierKeys> ModifiersOf(const KeyCombination& combination);
 
-// Reads modifiers (Ctrl, Alt, Shift, Meta) and a key as keymaps call it, joined by "+". Returns what is wrong, or
-// nothing.
+// Parses modifiers (Ctrl, Alt, Shift, Meta) and a key name as in keymaps, joined by "+". Returns the error, or an empty
+// string.
 QString ParseKeyCombination(const QString& text, KeyCombination* combination);
 
 }  // namespace tavi

@@ -48,7 +48,7 @@ QString KeyMatcher::MatchKey(const HostEvent& event) {
   return keymap_.Describe(item);
 }
 
-// Pairs of buttons are keys of their own, called "LB+A"; the one that is pressed last is the last.
+// A chord of buttons is a key of its own, named "LB+A"; the button that is pressed last comes last.
 QString KeyMatcher::MatchPad(const HostEvent& event) {
   const QString& name = event.key.text;
   if (event.kind == Kind::kRelease) held_buttons_.removeAll(name);

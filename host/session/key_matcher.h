@@ -14,16 +14,16 @@ struct LoadResult;
 
 namespace tavi {
 
-// Tells which item of the keymaps an event is for, by the rules of the library: a chord before a key alone, and the
-// release of a chord to the item that its press was for.
+// Finds the item of the keymaps that an event is for, by the rules of the library: a chord takes precedence over a
+// single key, and the release of a chord goes to the item that got its press.
 //
 // Main thread.
 class KeyMatcher {
  public:
-  // The keymaps in use, of which null is none. They are not owned, and must live until the next call.
+  // The keymaps in use; either may be null. They are not owned, and must exist until the next call.
   void SetKeymaps(const tavikeymapmanager::LoadResult* keymap, const tavikeymapmanager::LoadResult* joystick);
 
-  // "Jump, line 12"; empty where no item answers. Each event is to be told once, in order.
+  // "Jump, line 12"; empty if no item matches. Call it once for each event, in order.
   QString Match(const HostEvent& event);
 
  private:
@@ -38,9 +38,9 @@ class KeyMatcher {
 
   Source keymap_;
   Source joystick_;
-  tavikeymapmanager::ConfigKey armed_;                       // held, and no item's: a chord may follow
-  QHash<int, const tavikeymapmanager::ConfigItem*> chords_;  // that are held, by the scan code of their second key
-  QStringList held_buttons_;                                 // of gamepads, as the library calls them
+  tavikeymapmanager::ConfigKey armed_;                       // held without an item: a chord may follow
+  QHash<int, const tavikeymapmanager::ConfigItem*> chords_;  // held chords, by the scan code of their second key
+  QStringList held_buttons_;                                 // of gamepads, by the library's names
 };
 
 }  // namespace tavi

@@ -55,7 +55,7 @@ void KeyRepeatFilter::Flush() {
   if (release) sink_(release.get());
 }
 
-// Where the window was busy for longer than the wait, the press may lie unread: one more round of the event loop.
+// If the window was busy for longer than the wait, the press may still be unread: one more iteration of the event loop.
 void KeyRepeatFilter::timerEvent(QTimerEvent* event) {
   if (event->timerId() != waiting_.timerId()) return QObject::timerEvent(event);
   if (is_last_pass_) return Flush();

@@ -11,12 +11,12 @@ class QKeyEvent;
 
 namespace tavi {
 
-// Tells a key that is let go from one that only repeats.
+// Distinguishes the release of a key from a key repeat.
 //
-// X11 repeats a held key as a release and a press of one and the same time. Qt marks them as repeats only when it finds
-// both in its queue at once, and a fast server makes it miss most of them: a walking character would stumble. So a
-// release waits here for a moment, and when a press of its key and time follows, the release is dropped and the press
-// marked as a repeat. Everything else passes at once, the waiting release in front of it.
+// X11 reports the repeat of a held key as a release and a press with the same timestamp. Qt marks them as repeats only
+// if it finds both in its queue at once, and with a fast server it misses most of them: a walking character would
+// stumble. So this filter holds a release back for a moment; if a press of the same key and time follows, the release
+// is dropped and the press marked as a repeat. Everything else passes at once, after the waiting release.
 //
 // Main thread.
 class KeyRepeatFilter : public QObject {
@@ -28,9 +28,9 @@ class KeyRepeatFilter : public QObject {
   explicit KeyRepeatFilter(Sink sink, QObject* parent = nullptr);
   ~KeyRepeatFilter() override;
 
-  // The event is the caller's.
+  // The caller owns the event.
   void Take(const QKeyEvent& event);
-  // Passes the release on that waits, if any: for other events that must not overtake it.
+  // Passes on the waiting release, if any: for other events that must not overtake it.
   void Flush();
 
  protected:

@@ -1,4 +1,4 @@
-// What there is to tell people about a keymap file that was read.
+// The description of a keymap file for the user.
 #ifndef HOST_SESSION_KEYMAP_REPORT_H_
 #define HOST_SESSION_KEYMAP_REPORT_H_
 
@@ -10,7 +10,7 @@ struct LoadResult;
 
 namespace tavi {
 
-// All findings, a line each.
+// All diagnostics, one per line.
 QString FormatDiagnostics(const tavikeymapmanager::LoadResult& result);
 
 // "no items", "1 item", "12 items"

@@ -40,7 +40,7 @@ const QByteArray& KeymapSource::TextInUse() const { return InUse().text; }
 
 const QByteArray& KeymapSource::LastText() const { return read_->text; }
 
-// Where no copy can be made, the file itself has to do.
+// If no copy can be made, the file itself is used.
 QString KeymapSource::PathForUse() {
   if (path_.isEmpty() || path_ == km::keywords::kSystemKeymap) return path_;
   if (!copies_) copies_ = std::make_unique<QTemporaryDir>();

@@ -14,8 +14,7 @@ struct LoadResult;
 
 namespace tavi {
 
-// A keymap file and the last state of it that could be used: while its author is in the middle of a change, players
-// play on.
+// A keymap file and its last usable state: while its author is in the middle of a change, the game continues with that.
 //
 // Main thread.
 class KeymapSource {
@@ -25,24 +24,24 @@ class KeymapSource {
   KeymapSource(const KeymapSource&) = delete;
   KeymapSource& operator=(const KeymapSource&) = delete;
 
-  // Reads the file; an empty path is no keymap. Another path forgets what was there before.
+  // Reads the file; an empty path is no keymap. Another path discards the previous state.
   void Read(const QString& path);
-  // The same of a text that is to be that file's.
+  // The same for a text that replaces the content of the file.
   void ReadText(const QString& path, const QByteArray& text);
 
   const QString& Path() const { return path_; }
-  // The file as it was last read. Valid until it is read again.
+  // The file as last read. Valid until the next read.
   const tavikeymapmanager::LoadResult& LastRead() const { return *read_; }
 
-  // The file cannot be used as it is, but as it was before.
+  // The file cannot be used in its current state, but an earlier state is in use.
   bool KeepsEarlierState() const;
-  // What is in use: the file's last state without errors, or an empty keymap where there was none.
+  // The keymap in use: the last state without errors, or an empty keymap if there was none.
   const tavikeymapmanager::LoadResult& InUse() const;
   // The texts of these two states.
   const QByteArray& TextInUse() const;
   const QByteArray& LastText() const;
 
-  // A file for the library to load what is in use from: a copy, since the file itself may be another one by now.
+  // A file from which the library can load the keymap in use: a copy, because the original may have changed.
   QString PathForUse();
 
  private:

@@ -17,7 +17,7 @@ KeymapWatch::KeymapWatch(QObject* parent) : QObject(parent) {
   settling_.setInterval(kSettleMs);
   connect(&settling_, &QTimer::timeout, this, &KeymapWatch::Settle);
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, [this] { settling_.start(); });
-  // A file that was replaced is not watched any more; its folder tells of the new one.
+  // A file that was replaced is no longer watched; its folder reports the new one.
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
     if (!watcher_.files().contains(path_)) settling_.start();
   });

@@ -8,22 +8,22 @@
 
 namespace tavi {
 
-// Tells when a file has been saved, also by editors that put a new file in its place.
+// Signals that a file was saved, also by editors that replace it by a new file.
 class KeymapWatch : public QObject {
   Q_OBJECT
 
  public:
   explicit KeymapWatch(QObject* parent = nullptr);
 
-  // One file at a time; an empty path ends the watch.
+  // Watches one file at a time; an empty path ends the watch.
   void Watch(const QString& path);
-  // Whether there was such a file when it was last looked for.
+  // Whether the file existed at the last check.
   bool IsThere() const { return is_there_; }
 
  Q_SIGNALS:
   // A moment after the last of several changes.
   void Changed();
-  // The same when there is no such file any more.
+  // The same if the file no longer exists.
   void Vanished();
 
  private:

@@ -20,11 +20,11 @@ quint64 Pack(const QSize& size) {
 
 }  // namespace
 
-// The plain functions that the library is given.
+// The callbacks for the library.
 struct LiveHostFunctions : TellingFunctions<LiveHost> {
   static LiveHost* Host() { return LiveHost::GetInstance(); }
 
-  // Targets first: what is shown may take its time.
+  // Targets first: drawing may take a while.
   static void SendEvent(const char* data, int length) {
     Host()->SendLine(data, length);
     TellingFunctions::SendEvent(data, length);
@@ -39,7 +39,7 @@ struct LiveHostFunctions : TellingFunctions<LiveHost> {
   static bool IsTextInputActive() { return Host()->HasTextField(); }
   static int GetJoystickType(int device) { return KindOfDevice(device); }
   static bool IsEscapeBackEnabled() { return true; }
-  // Aims and macros ask how far the pointer is from its corner.
+  // Aims and macros need the pointer's distance from its corner.
   static QRect GetDisplayRect() {
     const WindowGeometry view = Host()->ViewGeometry();
     return {{view.x, view.y}, Host()->Geometry().DisplaySize()};
@@ -66,7 +66,7 @@ LiveHost::LiveHost() : table_(CallbacksOf<LiveHostFunctions>()), guest_size_(Pac
 
 void LiveHost::Start(Corner corner) {
   corner_ = std::move(corner);
-  if (clock_.isValid()) return;  // the library is initialised once
+  if (clock_.isValid()) return;  // the library is initialized once
   clock_.start();
   InitializeLibrary<LiveHostFunctions>(&table_);
 }
@@ -98,9 +98,8 @@ void LiveHost::SendLine(const char* data, int length) {
   targets_.Send(data, length);
 }
 
-bool LiveHost::IsHeard() const {
-  static const QMetaMethod entry_added = QMetaMethod::fromSignal(&LiveHost::EntryAdded);
-  return isSignalConnected(entry_added);
+void LiveHost::connectNotify(const QMetaMethod& signal) {
+  if (signal == QMetaMethod::fromSignal(&LiveHost::EntryAdded)) is_heard_ = true;
 }
 
 void LiveHost::Add(Source source, const QString& text) {

@@ -1,4 +1,4 @@
-// The library's host while somebody plays: answers its questions about the guest view and passes on what it says.
+// The library's host while a user plays: provides the data about the guest view and passes on the library's calls.
 #ifndef HOST_SESSION_LIVE_HOST_H_
 #define HOST_SESSION_LIVE_HOST_H_
 
@@ -20,56 +20,56 @@ namespace tavi {
 
 // The library's callbacks are plain functions, so there is one host in a process.
 //
-// Threads: main, but what the library says and asks may come on any: signals are emitted on the main thread always.
+// Threads: main. The library may call the host on any thread, but signals are always emitted on the main thread.
 class LiveHost : public QObject {
   Q_OBJECT
 
  public:
-  // Input goes to this display of the guest, and it is the one that is shown.
+  // Input goes to this display of the guest, which is the one shown.
   static constexpr int kDisplay = 1;
-  // Where records are played when they have a view of their own.
+  // The display of records that have a view of their own.
   static constexpr int kReplayDisplay = 2;
 
   static LiveHost* GetInstance();
 
-  // The corner of a view of this size, in pixels of ViewSize: such that the pointer less the corner is the pointer's
-  // place in the view.
+  // The corner of a view of this size, in pixels of ViewSize: the pointer minus the corner is the pointer's position in
+  // the view.
   using Corner = std::function<QPoint(const QSize& view_size)>;
 
-  // Gets each line as the library's send functions do, inside of their call and on their thread, before all others: for
-  // a guest in this process, where a line has arrived when the call returns. An empty function takes it back. To be set
-  // while no line can come.
+  // Gets each line synchronously from the library's send functions, on their thread, before all others: for a guest in
+  // this process, where a line has arrived when the call returns. An empty function removes it. Set it only while no
+  // line can arrive.
   using LineSink = std::function<void(const char* data, int length)>;
   void SetLineSink(LineSink sink) { line_sink_ = std::move(sink); }
 
-  // Installs the send functions and initialises the library, once. Without `corner` the view is at (0, 0).
+  // Installs the send functions and initializes the library, once. Without `corner` the view is at (0, 0).
   void Start(Corner corner);
   bool HasStarted() const { return clock_.isValid(); }
 
   // The guest's touch surface, which is not rotated.
   void SetGuestSize(const QSize& size);
   QSize GuestSize() const;
-  // What the display is turned by, in degrees.
+  // The rotation of the display, in degrees.
   void SetRotation(int degrees) { rotation_ = degrees; }
   GuestGeometry Geometry() const { return {GuestSize(), rotation_}; }
 
-  // How many pixels of the view there are for one of the guest's display: hosts count them in many ways.
+  // How many pixels of the view there are for one of the guest's display: front ends differ in this.
   void SetPixelRatio(double ratio) { pixel_ratio_ = ratio; }
   double PixelRatio() const { return pixel_ratio_; }
-  // The view as the library is told of it; the places of events are pixels of this.
+  // The view's size as reported to the library; positions of events are pixels of this.
   QSize ViewSize() const { return (QSizeF(Geometry().DisplaySize()) * pixel_ratio_).toSize(); }
 
-  // Whether the guest has a text field focused, so that keys are typed.
+  // Whether a text field of the guest has the focus, so that keys are typed.
   void SetTextField(bool focused);
   bool HasTextField() const { return text_field_; }
 
-  // Where the lines go besides. To be closed before the application object goes.
+  // The targets that also get the lines. They must be closed before the application object is destroyed.
   GuestTargets* Targets() { return &targets_; }
 
   // Milliseconds since Start.
   qint64 ElapsedMs() const { return clock_.elapsed(); }
 
-  // An InputStatus, as last told.
+  // The last reported InputStatus.
   int InputStatus() const { return status_; }
 
  Q_SIGNALS:
@@ -77,7 +77,7 @@ class LiveHost : public QObject {
   void EntryAdded(const tavi::TimelineEntry& entry);
   void InputStatusChanged(int status, const QString& key);
   void TextFieldChanged(bool focused);
-  // The tilt of the guest's gravity sensor, each at most 40 either way.
+  // The tilt of the guest's gravity sensor, each at most 40 in each direction.
   void GravityChanged(double x, double y, double z);
 
  private:
@@ -88,8 +88,10 @@ class LiveHost : public QObject {
   LiveHost();
 
   void SendLine(const char* data, int length);
-  // Whether anybody listens to EntryAdded.
-  bool IsHeard() const;
+  // Whether EntryAdded was ever connected. Checking at each line whether it still is would be a large part of the
+  // line's cost, and disconnections are notified under locks of Qt, where nothing may be called.
+  bool IsHeard() const { return is_heard_; }
+  void connectNotify(const QMetaMethod& signal) override;
   void Add(TimelineEntry::Source source, const QString& text);
   void SetInputStatus(int status, const QString& key);
   void SetGravity(double x, double y, double z);
@@ -102,7 +104,8 @@ class LiveHost : public QObject {
   GuestTargets targets_;
   bool text_field_ = false;
   int status_ = 0;
-  std::atomic<quint64> guest_size_;  // width << 32 | height; also asked for on threads of the library
+  std::atomic<bool> is_heard_{false};
+  std::atomic<quint64> guest_size_;  // width << 32 | height; also read on threads of the library
   std::atomic<int> rotation_{0};     // the same
   double pixel_ratio_ = 1;
 };

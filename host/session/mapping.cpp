@@ -23,7 +23,7 @@ void Mapping::Read(const QString& path) {
 }
 
 void Mapping::ReadJoystick(const QString& path) {
-  pads_->ReleaseAll();  // while the items that they were pressed by are alive
+  pads_->ReleaseAll();  // while the items whose keys are down still exist
   joystick_keymap_.Read(path);
   if (!paused_ && !joystick_keymap_.KeepsEarlierState()) LoadJoystick();
   Q_EMIT Changed();
@@ -34,12 +34,12 @@ void Mapping::SetPaused(bool paused) {
   pads_->ReleaseAll();
   paused_ = paused;
   LoadJoystick();
-  Load();  // lets go, too
+  Load();  // also releases what is down
   PassInputOn();
   Q_EMIT Changed();
 }
 
-// The system's keymap takes nothing and passes all on.
+// The system keymap has no items and passes everything through.
 void Mapping::Load() {
   const QString path = paused_ ? km::keywords::kSystemKeymap : keymap_.PathForUse();
   InputPort::GetInstance()->LetGoBy(
@@ -53,19 +53,19 @@ void Mapping::LoadJoystick() {
       [&] { taviinputmanager::OnLoadJoystickConfigAndInfo(is_plain ? km::keywords::kSystemKeymap : path, 0); });
 }
 
-// A display that is forced to be transparent gets keys where a text field should get letters.
+// A display that is set to pass keys through gets keys when a text field should get letters.
 void Mapping::PassInputOn() {
   const bool is_forced = paused_ && !LiveHost::GetInstance()->HasTextField();
   taviinputmanager::UpdateDisplayForceTransparent(LiveHost::kDisplay, is_forced);
 }
 
-// A change of the display, even to the same, ends more than a full reset: macros that go on by themselves, and what a
-// macro said about holding input.
+// Setting the display, even to the same one, ends more than a full reset: endless macros, and the hold_switch of a
+// macro.
 void Mapping::LetGoOfEverything() {
   Replayer::GetInstance()->Stop();
   pads_->ReleaseAll();
   InputPort::GetInstance()->LetGoBy([] { taviinputmanager::UpdateDisplayId(LiveHost::kDisplay); });
-  LiveHost::GetInstance()->Targets()->LiftAll();  // what a reset leaves alone, such as a gamepad's keys
+  LiveHost::GetInstance()->Targets()->LiftAll();  // what a reset does not release, such as a gamepad's keys
 }
 
 }  // namespace tavi

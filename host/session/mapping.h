@@ -9,23 +9,23 @@ namespace tavi {
 
 class Gamepads;
 
-// The keymaps that the library is given, and whether they are in use.
+// The keymaps of the library, and whether they are applied.
 //
-// While the mapping is paused everything reaches the guest as what it is: keys as keys, the left button as a finger,
-// moves, other buttons and the wheel as those of a mouse, gamepads as gamepads. What was down is let go at each switch.
+// While the mapping is paused everything passes through to the guest: keys as keys, the left button as a finger, moves,
+// other buttons and the wheel as those of a mouse, gamepads as gamepads. Each switch releases what is down.
 //
 // Main thread.
 class Mapping : public QObject {
   Q_OBJECT
 
  public:
-  // `pads` are let go at each switch, and are not owned.
+  // `pads` are released at each switch, and are not owned.
   explicit Mapping(Gamepads* pads, QObject* parent = nullptr);
 
-  // Reads a keymap, and puts it to use unless the mapping is paused. One that cannot be used leaves an earlier state of
-  // the same file in use. An empty path is no keymap.
+  // Loads a keymap, and applies it unless the mapping is paused. If it cannot be used, an earlier state of the same
+  // file stays in use. An empty path is no keymap.
   void Read(const QString& path);
-  // The same of the keymap of gamepads.
+  // The same for the gamepad keymap.
   void ReadJoystick(const QString& path);
 
   const KeymapSource& Keymap() const { return keymap_; }
@@ -35,11 +35,11 @@ class Mapping : public QObject {
   void SetPaused(bool paused);
   void TogglePause() { SetPaused(!paused_); }
 
-  // Lifts every finger and key, ends macros and replays, and gives the mouse back.
+  // Releases every finger and key, ends macros and replays, and releases the mouse.
   void LetGoOfEverything();
 
  Q_SIGNALS:
-  // The mapping is paused or goes on, or another keymap is in use.
+  // The mapping was paused or resumed, or another keymap is in use.
   void Changed();
 
  private:

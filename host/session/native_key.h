@@ -1,4 +1,4 @@
-// The codes of a key as the library wants them, from the event of whatever window system there is.
+// The codes of a key for the library, from an event of any window system.
 #ifndef HOST_SESSION_NATIVE_KEY_H_
 #define HOST_SESSION_NATIVE_KEY_H_
 
@@ -9,12 +9,12 @@ class QKeyEvent;
 namespace tavi {
 
 struct NativeKey {
-  quint32 scancode = 0;     // Windows scan code, the extended bit as 0x100; 0: no key of a keyboard
+  quint32 scancode = 0;     // Windows scan code, the extended bit as 0x100; 0: not a keyboard key
   quint32 virtual_key = 0;  // Windows virtual key code; never 0 for a key that has a scan code
 };
 
 NativeKey NativeKeyOf(const QKeyEvent& event);
-// The first of the two alone, which takes no search.
+// Only the scan code, which needs no search.
 quint32 ScanCodeOf(const QKeyEvent& event);
 
 }  // namespace tavi

@@ -8,10 +8,10 @@ namespace tavi {
 
 namespace {
 
-// The library asks only whether a virtual key is known.
+// The library only checks whether a virtual key is known.
 constexpr quint32 kSomeVirtualKey = 0xFF;
 
-// What X11 calls a virtual key is a character of the layout, so the code is that of the key's place.
+// On X11 a virtual key is a character of the layout, so the code is that of the key's position.
 quint32 VirtualKeyOf(int scancode) {
   const auto key = tavikeymapmanager::KeyFromName(QStringLiteral("Scan %1").arg(scancode));
   const bool is_known = key && key->virtual_key > 0 && key->virtual_key != tavikeymapmanager::kUnsetCode;

@@ -7,7 +7,7 @@ namespace tavi {
 
 using taviinputmanager::RecordStatus;
 
-// The plain functions that the library is given.
+// The callbacks for the library.
 struct RecorderFunctions {
   static void Started() { Recorder::GetInstance()->TakeRunning(true); }
   static void Paused() { Recorder::GetInstance()->TakeRunning(false); }
@@ -37,11 +37,11 @@ void Recorder::Pause() { taviinputmanager::PauseRecord(); }
 
 void Recorder::Resume() { taviinputmanager::ResumeRecord(); }
 
-// The file itself tells whether it is whole.
+// The file itself shows whether it is complete.
 QString Recorder::End() {
   if (Status() == RecordStatus::Stopped) return {};
   auto kept = std::make_unique<KeptRecording>();
-  if (kept->File().isEmpty()) return QStringLiteral("The recording goes on: no disk has room for it");
+  if (kept->File().isEmpty()) return QStringLiteral("The recording continues: no disk has space for it");
   taviinputmanager::StopRecord(QString(), kept->File());
   const bool is_empty = result_ == kNothingToSave;
   const bool is_kept = !is_empty && WrittenRecordProblem(kept->File(), &info_).isEmpty();
@@ -51,8 +51,8 @@ QString Recorder::End() {
     kept->Drop();
   }
   Q_EMIT Changed();
-  if (is_empty) return QStringLiteral("Nothing was recorded that the guest would notice");
-  return is_kept ? QString() : QStringLiteral("The recording is lost: no disk has room for it");
+  if (is_empty) return QStringLiteral("Nothing was recorded that has an effect in the guest");
+  return is_kept ? QString() : QStringLiteral("The recording is lost: no disk has space for it");
 }
 
 QString Recorder::Save(const QString& file) {
@@ -65,7 +65,7 @@ QString Recorder::Save(const QString& file) {
   return {};
 }
 
-// No file can be opened under an empty name.
+// A file with an empty name cannot be opened.
 void Recorder::Discard() {
   if (Status() != RecordStatus::Stopped) taviinputmanager::StopRecord(QString(), QString());
   if (kept_) kept_->Drop();

@@ -12,7 +12,7 @@
 
 namespace tavi {
 
-// The library's recording, as something that a window can show.
+// The library's recording, in a form that a window can show.
 //
 // The library's callbacks are plain functions, so there is one recorder in a process. Main thread.
 class Recorder : public QObject {
@@ -21,14 +21,14 @@ class Recorder : public QObject {
  public:
   static Recorder* GetInstance();
 
-  // Forgets what was recorded before. `app` is found in the record again.
+  // Discards what was recorded before. `app` is stored in the record.
   void Start(const QString& app);
   void Pause();
   void Resume();
-  // Ends the recording, which is kept until it is saved or discarded. Returns what is wrong where nothing is kept;
-  // where there is no room at all, it goes on.
+  // Ends the recording, which is kept until it is saved or discarded. Returns the error if nothing is kept; if there is
+  // no disk space at all, the recording continues.
   QString End();
-  // Saves what was kept. Returns what went wrong, for people, or nothing; then it is kept still.
+  // Saves the kept recording. Returns the error for the user, or an empty string; after an error it is still kept.
   QString Save(const QString& file);
   // Ends it without a file.
   void Discard();
@@ -36,9 +36,9 @@ class Recorder : public QObject {
   taviinputmanager::RecordStatus Status() const;
   // The recording runs or is paused, or has ended and is kept.
   bool HasRecording() const;
-  // Where it is kept; empty when none is.
+  // Where it is kept; empty if none is.
   QString KeptFile() const;
-  // Milliseconds that were recorded so far, pauses left out.
+  // The recorded time so far in milliseconds, without pauses.
   qint64 RecordedMs() const;
 
  Q_SIGNALS:
@@ -53,11 +53,11 @@ class Recorder : public QObject {
   void TakeRunning(bool running);
   void TakeStopped(int result);
 
-  QElapsedTimer running_;  // since the start or the last resume; not valid otherwise
+  QElapsedTimer running_;  // since the start or the last resume; otherwise not valid
   qint64 before_ms_ = 0;   // up to the last pause
-  int result_ = 0;         // of the last recording, as the library tells it
+  int result_ = 0;         // of the last recording, as reported by the library
   std::unique_ptr<KeptRecording> kept_;
-  RecordInfo info_;  // of what is kept
+  RecordInfo info_;  // of the kept recording
 };
 
 }  // namespace tavi

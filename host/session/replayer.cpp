@@ -14,9 +14,9 @@ constexpr int kRefusedAfterMs = 1000;  // a replay that has not started by then 
 
 }  // namespace
 
-// The plain functions that the library is given.
+// The callbacks for the library.
 struct ReplayerFunctions {
-  // On the main thread, later where the caller is on another.
+  // Runs on the main thread; queued if the caller is on another.
   template <typename Take>
   static void OnMain(int task_id, const QString& file, Take take) {
     Replayer* replayer = Replayer::GetInstance();
@@ -39,7 +39,7 @@ struct ReplayerFunctions {
   static void Finished(int task_id, const QString& file, ReplayParam /*param*/) {
     OnMain(task_id, file, [](Replayer* replayer) { replayer->TakeFinished(); });
   }
-  // Commands of hosts are not for a window that has no apps to start.
+  // Host commands mean nothing to a window without apps to start.
   static void VControl(const QString& /*data*/, const QString& /*extra1*/, const QString& /*extra2*/, int /*task_id*/,
                        const QString& /*file*/) {}
 
@@ -65,7 +65,7 @@ void Replayer::Open(const QString& file, const RecordInfo& info) {
 
 void Replayer::Play(ReplayParam param) {
   if (file_.isEmpty() || (state_ != State::kNone && state_ != State::kFinished)) return;
-  Stop();  // a replay that has finished stays until then, and keeps its speed
+  Stop();  // a finished replay stays until then, and keeps its speed
   param_ = param;
   ++task_id_;
   has_finished_early_ = false;
@@ -109,7 +109,7 @@ void Replayer::TakeStarted() {
 }
 
 void Replayer::TakeFinished() {
-  has_finished_early_ = true;  // unless a start comes first, which forgets it
+  has_finished_early_ = true;  // unless the replay is started first, which resets it
   TakeState(State::kFinished);
 }
 

@@ -9,11 +9,11 @@
 
 namespace tavi {
 
-// One replay of one record, as something that a window can show.
+// One replay of one record, in a form that a window can show.
 //
 // The library's callbacks are plain functions, so there is one replayer in a process.
 //
-// Threads: main. What the library says on a replay's thread is taken over to it.
+// Threads: main. What the library reports on a replay's thread is queued to it.
 class Replayer : public QObject {
   Q_OBJECT
 
@@ -22,26 +22,26 @@ class Replayer : public QObject {
 
   static Replayer* GetInstance();
 
-  // Takes a record to play, whose header is `info`, and ends the replay before.
+  // Opens a record, whose header is `info`, for replay and ends the previous replay.
   void Open(const QString& file, const RecordInfo& info);
   const QString& File() const { return file_; }
 
-  // Each for a record that was opened; without effect where it makes no sense.
+  // For an opened record; without effect in other states.
   void Play(taviinputmanager::ReplayParam param);
   void Pause();
   void Resume();
   void Restart();
-  // What the replay holds down is let go.
+  // What the replay holds down is released.
   void Stop();
 
   State GetState() const { return state_; }
-  // Milliseconds of the whole, at the speed that it is played with, and how many of them have passed.
+  // The total duration at the current speed and the elapsed time, in milliseconds.
   qint64 TotalMs() const;
   qint64 PlayedMs() const;
 
  Q_SIGNALS:
   void Changed();
-  // The library did not take the file.
+  // The library did not accept the file.
   void Refused(const QString& file);
 
  private:
@@ -57,11 +57,11 @@ class Replayer : public QObject {
 
   QString file_;
   RecordInfo info_;
-  int task_id_ = 0;  // a new one for each start, so that nothing of the replay before is taken for this one's
+  int task_id_ = 0;  // changes at each start, so that no report of an earlier replay is taken for one of this replay
   taviinputmanager::ReplayParam param_;
   State state_ = State::kNone;
   bool has_finished_early_ = false;  // a record without actions finishes before it has started
-  QElapsedTimer playing_;            // since the start or the last resume; not valid otherwise
+  QElapsedTimer playing_;            // since the start or the last resume; otherwise not valid
   qint64 before_ms_ = 0;             // up to the last pause
 };
 

@@ -26,7 +26,7 @@ km::ConfigKey KeyOf(int scancode) {
 
 // Alone, or as a part of a chord.
 bool AnswersTo(const km::ConfigItem& item, const km::ConfigKey& key) {
-  if (dynamic_cast<const km::TipConfigItem*>(&item) != nullptr) return false;  // a label answers to no key
+  if (dynamic_cast<const km::TipConfigItem*>(&item) != nullptr) return false;  // a label has no key
   const auto* composable = dynamic_cast<const km::ComposableConfigItem*>(&item);
   return item.IsKeyMatch(key) || (composable != nullptr && km::IsSameKey(composable->first_key, key));
 }
@@ -37,7 +37,7 @@ bool HasItemFor(const km::KeymapConfig& config, const QVector<int>& scancodes) {
   });
 }
 
-// Whoever plays with these items may hold all the modifiers at one time; without any they need nothing.
+// A player with these items may hold all the modifiers at once; a combination without modifiers needs none.
 bool MayBeHeld(const QVector<ModifierKeys>& modifiers, const km::KeymapConfig& config) {
   return std::all_of(modifiers.begin(), modifiers.end(),
                      [&](const ModifierKeys& keys) { return HasItemFor(config, keys.scancodes); });
@@ -50,7 +50,7 @@ QString MessageAbout(const QString& keeper, const KeyCombination& combination, c
                                       : QStringLiteral("does not get its key while %1 of this keymap %2 down")
                                             .arg(held.join(QStringLiteral(" and ")),
                                                  held.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"));
-  return QStringLiteral("%1 keeps %2 for itself, so this item %3; %4 takes another key")
+  return QStringLiteral("%1 keeps %2 for itself, so this item %3; %4 sets another key")
       .arg(keeper, combination.name, when, QLatin1String(option));
 }
 
@@ -79,11 +79,12 @@ QString ReservedKeys::NameOf(int id) const {
 QStringList ReservedKeys::NewsOf(km::KeymapConfig* config) const {
   QStringList news;
   for (const Entry& entry : entries_) {
-    if (entry.combination.modifiers != Qt::NoModifier) continue;  // without them it is the keymap's
+    if (entry.combination.modifiers != Qt::NoModifier)
+      continue;  // without its modifiers, the key belongs to the keymap
     km::ConfigKey key = KeyOf(entry.combination.scancode);
     km::ConfigKey none;
     if (!km::isConfigKeyMatch(config, &key, &none)) continue;
-    news += QStringLiteral("%1 is a key of this keymap that %2 keeps for itself; %3 takes another key")
+    news += QStringLiteral("%1 is a key of this keymap that %2 keeps for itself; %3 sets another key")
                 .arg(entry.combination.name, keeper_, QLatin1String(entry.option));
   }
   return news;
@@ -122,13 +123,13 @@ bool ReservedKeys::TakePress(const QKeyEvent& event) {
     const bool repeats =
         entry.is_down || event.isAutoRepeat() || (event.timestamp() != 0 && event.timestamp() == entry.released_at);
     entry.is_down = true;
-    if (!repeats) std::function<void()>(entry.action)();  // a copy: the action may reserve anew
+    if (!repeats) std::function<void()>(entry.action)();  // a copy: the action may change the reserved keys
     return true;
   }
   return false;
 }
 
-// The press was nobody's, so that the release is nobody's too.
+// Nobody got the press, so nobody gets the release.
 bool ReservedKeys::TakeRelease(const QKeyEvent& event) {
   for (Entry& entry : entries_) {
     if (!entry.is_down || !entry.combination.IsKeyOf(event)) continue;

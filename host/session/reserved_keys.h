@@ -20,33 +20,33 @@ struct LoadResult;
 
 namespace tavi {
 
-// Keys that the program keeps for itself. In a window they are taken from all events of the application before any
-// widget sees them, so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
+// Keys that the program reserves for itself. In a window they are filtered from all events of the application before
+// any widget sees them, so that neither a keymap nor a text field nor a dialog gets them, whatever has the focus.
 //
 // A press acts once, however long the key is held. Main thread.
 class ReservedKeys : public QObject {
   Q_OBJECT
 
  public:
-  // `keeper` is who keeps them, as findings name it.
+  // `keeper` is who reserves them, as diagnostics name it.
   explicit ReservedKeys(const QString& keeper = QStringLiteral("the window"), QObject* parent = nullptr);
   ~ReservedKeys() override;
 
-  // `action` is called at each press, from now on, in place of what was called before for the same `id`.
-  // `option` of the command line takes another key.
+  // Reserves a key for `id`. From now on `action` is called at each press, in place of an earlier one for the same
+  // `id`. `option` is the command line option that sets another key.
   void Reserve(int id, const KeyCombination& combination, const char* option, std::function<void()> action);
 
-  // The key as it was written; empty when none was reserved for `id`.
+  // The key as the user wrote it; empty if none is reserved for `id`.
   QString NameOf(int id) const;
 
-  // What a person is told of those that an item of the keymap answers to, which will never get them.
+  // A message about the reserved keys that items of the keymap use and will never get.
   QStringList NewsOf(tavikeymapmanager::KeymapConfig* config) const;
-  // A warning for each item of the keymap that one of them is taken from, in the order of the items. A key that is the
-  // window's with modifiers alone is taken from an item where a player may come to hold them: where they are keys of
-  // this keymap as well.
+  // A warning for each item of the keymap that loses a key to one of them, in the order of the items. A key that is
+  // reserved only with modifiers is lost to an item if a player may hold the modifiers: if they are keys of this keymap
+  // as well.
   QVector<tavikeymapmanager::Diagnostic> FindingsIn(const tavikeymapmanager::LoadResult& keymap) const;
 
-  // Whether an event is such a key's, in which case it has acted: for a host whose keys come by no window.
+  // Whether an event belongs to such a key, in which case the key has acted: for a host whose keys come from no window.
   bool Take(QEvent* event);
 
  protected:
@@ -59,7 +59,8 @@ class ReservedKeys : public QObject {
     const char* option;
     std::function<void()> action;
     bool is_down = false;
-    unsigned long released_at = 0;  // the window system's time; a key that repeats is let go and pressed at one time
+    unsigned long released_at =
+        0;  // the window system's timestamp; a repeat is a release and a press with the same one
   };
 
   bool TakePress(const QKeyEvent& event);

@@ -1,4 +1,4 @@
-// What the library said, with the time.
+// A call of the library, with its time.
 #ifndef HOST_SESSION_TIMELINE_ENTRY_H_
 #define HOST_SESSION_TIMELINE_ENTRY_H_
 
@@ -16,7 +16,8 @@ struct TimelineEntry {
 
 // "8ms 1:KBDRL:158:0", "8ms text TEXT:a", "8ms ! status 2 F".
 QString FormatEntry(const TimelineEntry& entry);
-// As it is printed, with its end. Always one line: a line end inside of a text is written "\n".
+// As it is printed, with its line end. Always one line: a line end within a text is written as "
+// ".
 QString FormatLine(const TimelineEntry& entry);
 
 }  // namespace tavi

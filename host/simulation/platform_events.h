@@ -1,4 +1,4 @@
-// What a platform tells windows, on virtual time.
+// What a platform sends to windows, on virtual time.
 #ifndef HOST_SIMULATION_PLATFORM_EVENTS_H_
 #define HOST_SIMULATION_PLATFORM_EVENTS_H_
 
@@ -10,9 +10,8 @@ namespace tavi {
 
 class VirtualEventDispatcher;
 
-// Windows of the platform "offscreen" are told that they are exposed, active or resized by the event dispatcher that
-// the platform brings along, and by nobody else. An application on virtual time has another one. So the platform's is
-// taken from an application that is made for this and gone at once:
+// On the platform "offscreen", windows are exposed, activated and resized only by the event dispatcher of the platform.
+// An application on virtual time has another dispatcher, so the platform's is taken from a temporary application:
 //
 //   const PlatformEvents events;  // no application is there yet
 //   auto* time = new VirtualEventDispatcher;
@@ -28,11 +27,12 @@ class PlatformEvents {
   PlatformEvents(const PlatformEvents&) = delete;
   PlatformEvents& operator=(const PlatformEvents&) = delete;
 
-  // They are delivered with the posted events.
+  // They are delivered with the posted events, and behind those that are there, as Qt's own dispatchers do: what is
+  // posted before a dialog opens comes before the dialog is active.
   void DeliverBy(VirtualEventDispatcher* time) const;
 
  private:
-  std::unique_ptr<QAbstractEventDispatcher> dispatcher_;  // the platform's; null on Qt 5, which does without
+  std::unique_ptr<QAbstractEventDispatcher> dispatcher_;  // of the platform
 };
 
 }  // namespace tavi

@@ -11,7 +11,7 @@ using Kind = ScriptCommand::Kind;
 
 namespace {
 
-// The words of one command behind its verb; each operation takes some of them, and says what it misses.
+// The words of one command after its verb; each operation takes some of them, or sets the error.
 class Words {
  public:
   explicit Words(const QString& text) : rest_(text) {}
@@ -35,7 +35,7 @@ class Words {
     rest_.clear();
     return rest;
   }
-  // As it stands behind the verb, blanks included.
+  // The text after the verb, including blanks.
   QString TakeRaw() { return std::exchange(rest_, QString()); }
   bool IsEmpty() const { return rest_.trimmed().isEmpty(); }
 
@@ -43,7 +43,7 @@ class Words {
   QString rest_;
 };
 
-// Each reader fills the command from the words, and returns what is wrong, or nothing.
+// Each reader fills the command from the words and returns the error, or an empty string.
 using Problem = QString;
 using Reader = Problem (*)(Words* words, ScriptCommand* command);
 
@@ -116,7 +116,7 @@ Problem ReadKey(Words* words, ScriptCommand* command) {
   if (!key || key->device != tavikeymapmanager::keywords::kDeviceKeyboard) {
     const QString nearest = tavikeymapmanager::NearestKeyName(name);
     const QString hint = nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
-    return QStringLiteral("\"%1\" is no key of a keyboard%2").arg(name, hint);
+    return QStringLiteral("\"%1\" is not a key of a keyboard%2").arg(name, hint);
   }
   command->key = *key;
   return {};
@@ -173,7 +173,7 @@ struct Verb {
   Reader read;
 };
 
-// A verb of two words stands before one that its first word is.
+// A verb of two words comes before a verb that is its first word.
 const Verb kVerbs[] = {
     {"down", Kind::kKeyDown, ReadKey},
     {"repeat", Kind::kKeyRepeat, ReadKey},

@@ -1,6 +1,7 @@
-// Scripts of input: one notation for simulations, examples, tests and reports.
+// Scripts of input: one notation for simulations, examples, tests and bug reports.
 //
-// One command a line, or several between semicolons; `#` starts a comment. docs/scripts.md tells each command.
+// One command per line, or several separated by semicolons; `#` starts a comment. docs/scripts.md documents each
+// command.
 #ifndef HOST_SIMULATION_SCRIPT_H_
 #define HOST_SIMULATION_SCRIPT_H_
 
@@ -43,7 +44,7 @@ struct ScriptCommand {
     kDisplay,     // number
     kKeymap,      // text, a path
     kJoymap,      // text, a path
-    kPackage,     // text, the app that the next keymap is loaded for
+    kPackage,     // text, the app of the next keymap to load
     kBack,        // number, the display
     kWindow,      // size, of the guest view in pixels
     kGuest,       // size, of the guest's display
@@ -55,7 +56,7 @@ struct ScriptCommand {
   };
 
   Kind kind = Kind::kWait;
-  int line = 1;  // where it stands, from 1
+  int line = 1;  // its line, from 1
   int column = 1;
   tavikeymapmanager::ConfigKey key;
   QString text;
@@ -74,7 +75,7 @@ struct ScriptError {
 
 struct Script {
   QVector<ScriptCommand> commands;
-  QVector<ScriptError> errors;  // every one of them, in order; a script with errors is not to be played
+  QVector<ScriptError> errors;  // all errors, in order; a script with errors must not be played
 };
 
 Script ParseScript(const QString& text);

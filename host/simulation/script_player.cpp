@@ -119,7 +119,7 @@ void ScriptPlayer::SendKey(QEvent::Type type, const ConfigKey& key, bool repeat)
   taviinputmanager::OnQtInputEvent(&event);
 }
 
-// Types with a text field focused for as long as that takes.
+// Gives a text field the focus while it types.
 void ScriptPlayer::TypeText(const QString& text) {
   const bool was_focused = std::exchange(host_->text_input, true);
   for (const QChar character : text) {

@@ -1,4 +1,4 @@
-// Plays scripts on the virtual clock: each command becomes the events that a window would have handed over.
+// Plays scripts on virtual time: each command becomes the events that a window would send.
 #ifndef HOST_SIMULATION_SCRIPT_PLAYER_H_
 #define HOST_SIMULATION_SCRIPT_PLAYER_H_
 
@@ -14,18 +14,18 @@ namespace tavi {
 class SimulatedHost;
 class VirtualEventDispatcher;
 
-// Main thread. Dispatcher and host are the caller's and outlive the player; the host was started.
+// Main thread. The caller owns dispatcher and host, which outlive the player; the host must have been started.
 class ScriptPlayer {
  public:
   ScriptPlayer(VirtualEventDispatcher* clock, SimulatedHost* host);
 
-  // Runs all commands. Time moves only in waits and where the library blocks.
+  // Runs all commands. Time passes only in waits and while the library blocks.
   void Play(const QVector<ScriptCommand>& commands);
   void Play(const ScriptCommand& command);
-  // The same of a command that is no wait, without letting posted events run: for a call from inside a callback.
+  // Runs a command other than a wait, without processing posted events: for calls from within a callback.
   void Feed(const ScriptCommand& command);
 
-  // Loads a keymap as a host does when an app comes to the front.
+  // Loads a keymap as a host does when an app comes to the foreground.
   void LoadKeymap(const QString& path);
 
   int display = 1;

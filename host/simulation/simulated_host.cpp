@@ -7,7 +7,7 @@ namespace tavi {
 using taviinputmanager::WindowGeometry;
 using Source = TimelineEntry::Source;
 
-// The plain functions that the library is given.
+// The callbacks for the library.
 struct HostFunctions : TellingFunctions<SimulatedHost> {
   static SimulatedHost* Host() { return SimulatedHost::GetInstance(); }
 

@@ -1,4 +1,4 @@
-// A host without a window: answers the library's questions and writes down all that it says, with the time.
+// A host without a window: provides the data that the library asks for, and logs all its calls with their times.
 #ifndef HOST_SIMULATION_SIMULATED_HOST_H_
 #define HOST_SIMULATION_SIMULATED_HOST_H_
 
@@ -18,24 +18,24 @@ class SimulatedHost {
  public:
   static SimulatedHost* GetInstance();
 
-  // Installs the send functions and initialises the library with `table`. `now` gives the time in ms.
+  // Installs the send functions and initializes the library with `table`. `now` returns the time in ms.
   void Start(std::function<qint64()> now);
-  // The next entries count from now.
+  // The times of the following entries count from now.
   void StartTimeline();
-  // What was said since the last call.
+  // The calls since the last TakeTimeline.
   QVector<TimelineEntry> TakeTimeline();
-  // Writes down what the library told by another table than ours. As for the calls of ours, any thread where there is a
-  // listener.
+  // Logs a call that came through another table. Like the callbacks of this class, it may be called on any thread if
+  // there is a listener.
   void Say(const QString& text) { Add(TimelineEntry::Source::kCallback, text); }
 
-  // Gets each entry as it comes, on the thread that it comes on; there is no timeline to take then. Real replays need
-  // one: they end on a thread of their own.
+  // Gets each entry when it is made, on the thread that made it; then there is no timeline to take. Needed for real
+  // replays, which end on a thread of their own.
   std::function<void(const TimelineEntry&)> listener;
 
-  // Runs behind each entry that is written down, still inside the library's call.
+  // Runs after each entry is logged, still inside the library's call.
   std::function<void(const TimelineEntry&)> interruption;
 
-  // What the host answers.
+  // What the host reports.
   taviinputmanager::WindowGeometry window{0, 0, 1280, 720};
   QRect display{0, 0, 1280, 720};
   QRect touch{0, 0, 1280, 720};

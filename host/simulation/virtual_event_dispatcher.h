@@ -1,21 +1,20 @@
-// Virtual time for a whole program: timers, pauses and the clock without any waiting.
+// Virtual time for a whole program: timers, pauses and the clock, without any waiting.
 #ifndef HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 #define HOST_SIMULATION_VIRTUAL_EVENT_DISPATCHER_H_
 
 #include <atomic>
 #include <condition_variable>
 #include <functional>
-#include <map>
 #include <mutex>
 #include <utility>
 
-#include "qt/event_dispatcher.h"
+#include "host/system/timed_dispatcher.h"
 #include "taviinputmanager/virtual_time.h"
 
 namespace tavi {
 
-// The event dispatcher of a program that runs on virtual time. It is installed before the application object is made,
-// which then owns it:
+// The event dispatcher of a program on virtual time. Install it before creating the application object, which then owns
+// it:
 //
 //   auto* time = new VirtualEventDispatcher;
 //   QCoreApplication::setEventDispatcher(time);
@@ -23,22 +22,20 @@ namespace tavi {
 //   ...
 //   time->Advance(100);               // what takes 100 ms is done when it returns
 //
-// The clock stands still but for Advance, Sleep and event loops that have nothing left to do at the present moment:
-// these go on to the next timer instead of waiting for it, and wait for other threads when there is no timer either.
+// Time passes only in Advance, in Sleep, and in event loops that have nothing left to do at the current time: these
+// skip to the next timer instead of waiting for it, and wait for other threads if there is no timer either.
 //
-// Order, the same at every run:
+// The order is the same in every run:
 // - Before each timer all posted events and deferred deletes are delivered, until nothing is left.
-// - Timers fire by due time, equal ones by the time of their last start or timeout. On a timeout, before it is told,
-//   the due time moves on by the interval, and if it is past even then, to one interval from now. A timer does not fire
-//   inside its own handler.
-// - A pass is all that is due at one moment. A timer of 0 ms fires once a pass (one started in a pass, in the next),
-//   and a pass that fired nothing else takes 1 ms.
+// - Timers fire in the order of TimedDispatcher.
+// - A pass is everything that is due at one moment. A timer of 0 ms fires once per pass (if started in a pass, in the
+//   next one), and a pass that fired nothing else takes 1 ms.
 //
-// Sockets are not served, and windows are told nothing by their platform but through PlatformEvents.
+// Sockets are not served, and the platform sends nothing to windows except through PlatformEvents.
 //
-// Threads: the main thread; wakeUp, interrupt and NowMs may be called on any, so that other threads can post to the
-// main thread as ever.
-class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanager::VirtualTime {
+// Threads: the main thread; wakeUp, interrupt and NowMs may be called on any thread, so that other threads can post to
+// the main thread as usual.
+class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::VirtualTime {
   Q_OBJECT
   Q_INTERFACES(taviinputmanager::VirtualTime)
 
@@ -47,21 +44,20 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
 
   explicit VirtualEventDispatcher(qint64 start_ms = kDefaultStartMs);
 
-  // Lets `ms` milliseconds pass: fires every timer that falls due on the way or at the end of it, and returns at that
-  // moment with nothing left to deliver. Timers of 0 ms get no pass of their own at the very end: that belongs to the
-  // next millisecond, so that two steps do what one of their sum does. Where a handler sleeps beyond the end, the time
-  // is later, and what fell due after the end is left to the next call.
+  // Advances the time by `ms` milliseconds: fires every timer that is due on the way or at the end, and returns at that
+  // time with nothing left to deliver. Timers of 0 ms get no pass of their own at the very end: it belongs to the next
+  // millisecond, so that two steps do the same as one of their sum. If a handler sleeps beyond the end, the time is
+  // later, and timers due after the end are left to the next call.
   void Advance(int ms);
   // Delivers posted events and deferred deletes until nothing is left. Takes no time and fires no timer.
   void Settle();
-  // `deliver` is called wherever posted events are delivered. What it delivers may post more.
+  // `deliver` is called whenever posted events are delivered. What it delivers may post more.
   void AlsoDeliver(std::function<void()> deliver) { also_deliver_ = std::move(deliver); }
   void SetPointer(const QPoint& pointer) { pointer_ = pointer; }
 
   // VirtualTime.
   qint64 NowMs() const override { return now_ms_.load(); }
-  // Fires the timers marked with kWorkerTimerProperty that fall due on the way or at the end of it, and delivers
-  // nothing.
+  // Fires the timers marked with kWorkerTimerProperty that are due on the way or at the end, and delivers nothing.
   void Sleep(unsigned long ms) override;
   QPoint Pointer() const override { return pointer_; }
 
@@ -69,11 +65,6 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
   void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
   void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
-  void registerTimer(int id, Interval interval_ms, Qt::TimerType type, QObject* object) override;
-  bool unregisterTimer(int id) override;
-  bool unregisterTimers(QObject* object) override;
-  QList<TimerInfo> registeredTimers(QObject* object) const override;
-  int remainingTime(int id) override;
 #ifdef Q_OS_WIN
   bool registerEventNotifier(QWinEventNotifier* /*notifier*/) override { return false; }
   void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) override {}
@@ -82,31 +73,22 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
   void interrupt() override;
 
  private:
-  struct Timer {
-    int id = 0;
-    Interval interval_ms = 0;
-    Qt::TimerType type = Qt::CoarseTimer;
-    QObject* object = nullptr;
-    qint64 due_ms = 0;
-    quint64 order = 0;  // of all starts and timeouts
-    bool in_handler = false;
-  };
   enum class Scope { kAll, kWorkers };
 
+  static bool IsAny(const Timer& /*timer*/) { return true; }
+  static bool IsWorkers(const Timer& timer);
   bool HasPosted() const override { return posted_.load(); }
+  qint64 Now() const override { return now_ms_.load(); }
   void RunUntil(qint64 end_ms, Scope scope);
   bool RunPass(qint64 limit_ms, Scope scope);
   bool RunNextPass();
-  Timer* Earliest(qint64 limit_ms, Scope scope, quint64 idle_before);
-  void Fire(Timer* timer, qint64 pass_ms);
+  Timer* EarliestOf(Scope scope, qint64 limit_ms, quint64 idle_before);
   void WaitForOtherThreads();
 
   std::atomic<qint64> now_ms_;
   QPoint pointer_;
   std::function<void()> also_deliver_ = [] {};
-  std::map<int, Timer> timers_;  // by id
-  quint64 next_order_ = 1;
-  int loop_depth_ = 0;  // event loops under way
+  int loop_depth_ = 0;  // nested event loops
 
   std::atomic<bool> interrupted_{false};
   std::atomic<bool> posted_{false};  // set under `wake_mutex_`

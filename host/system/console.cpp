@@ -11,10 +11,10 @@ namespace tavi {
 
 namespace {
 
-std::atomic<int> output_error{0};  // the first that writing to standard output met; a replay may write on its thread
+std::atomic<int> output_error{0};  // the first error of writing to standard output; a replay may write on its thread
 
-// Nobody reads what is still to come, so that there is nothing to go on for: as it is where the system itself ends the
-// writer.
+// Nobody reads the rest of the output, so there is no reason to continue; on most systems the write itself ends the
+// program.
 void TakeOutputError(int error) {
   if (error == EPIPE) std::_Exit(kExitProblem);
   int none = 0;
@@ -47,7 +47,7 @@ void PrintError(const QString& text) {
   std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
 }
 
-// A pipe gives what is in it so far; only nothing at all is its end.
+// A read from a pipe returns what is in it so far; only an empty read is its end.
 QByteArray ReadStandardInput(qint64 most) {
   QByteArray content;
   QFile input;

@@ -1,6 +1,6 @@
-// The standard streams, as the commands use them, and how the program ends.
+// The standard streams for the commands, and the end of the program.
 //
-// Threads: main, but what prints may be called on any.
+// Threads: main, but the functions that print may be called on any.
 #ifndef HOST_SYSTEM_CONSOLE_H_
 #define HOST_SYSTEM_CONSOLE_H_
 
@@ -11,23 +11,23 @@ namespace tavi {
 
 // Exit statuses of the program.
 constexpr int kExitDone = 0;
-constexpr int kExitProblem = 1;  // the work was done and found something wrong, or could not be finished
-constexpr int kExitUsage = 2;    // the command line, or what it names, cannot be used
+constexpr int kExitProblem = 1;  // the command did its work and found something wrong, or could not finish
+constexpr int kExitUsage = 2;    // the command line, or a file that it names, cannot be used
 
-// The name that stands for standard input or output in the place of a file's.
+// The file name that means standard input or output.
 constexpr char kStandardStream[] = "-";
 
 void Print(const QString& text);           // to standard output, as UTF-8
 void PrintBytes(const QByteArray& bytes);  // to standard output
 void PrintError(const QString& text);      // to standard error
 
-// What went wrong with standard output up to here, or nothing. Where nobody reads it any more, each of these ends the
-// program without a word.
+// The first error of writing to standard output, or an empty string. If nobody reads it anymore, each of these
+// functions ends the program silently.
 QString FlushOutput();
-// The exit status in place of `status` when not all of standard output could be written, which is told.
+// The exit status instead of `status` if not all of standard output could be written, which is reported.
 int FinishOutput(int status);
 
-// What there is on standard input, but no more than so many bytes.
+// Reads standard input, up to this many bytes.
 QByteArray ReadStandardInput(qint64 most);
 
 }  // namespace tavi

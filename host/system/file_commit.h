@@ -1,5 +1,4 @@
-// The last steps of writing a file, which each system takes in its own way. Each returns what the system says went
-// wrong, or nothing.
+// The last steps of writing a file, which differ between systems. Each returns the system's error, or an empty string.
 //
 // Not bound to a thread.
 #ifndef HOST_SYSTEM_FILE_COMMIT_H_
@@ -11,17 +10,17 @@ class QFile;
 
 namespace tavi {
 
-// Has what was written brought to the disk. What is no file on a disk has nothing to be brought anywhere.
+// Flushes what was written to the disk. Does nothing for anything but a file on a disk.
 QString FlushToDisk(QFile* file);
 
-// Makes sure that an open file can be written up to this size, and changes nothing that is in it.
+// Makes sure that an open file can grow to this size, without changing its content.
 QString ReserveRoom(QFile* file, qint64 bytes);
 
-// Puts `from` in the place of `to`, at once, in the same folder or beside it; the folder is brought to the disk as
+// Atomically replaces `to` by `from`, which is in the same folder or next to it; the folder is flushed to the disk as
 // well.
 QString MoveOver(const QString& from, const QString& to);
 
-// Gives `file` the permissions of `model`, and its owner as far as that is allowed.
+// Gives `file` the permissions of `model` and, as far as allowed, its owner.
 void TakeOwnership(const QString& model, const QString& file);
 
 }  // namespace tavi

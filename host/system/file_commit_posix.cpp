@@ -14,14 +14,14 @@ namespace tavi {
 namespace {
 
 constexpr mode_t kAllPermissions = 07777;
-constexpr mode_t kPlainPermissions = 0777;  // without those that lend the owner's rights
+constexpr mode_t kPlainPermissions = 0777;  // without setuid and setgid
 
 QString Problem(int error) { return qt_error_string(error); }
 
-// Pipes, devices and some file systems know no such thing.
+// Pipes, devices and some file systems do not support it.
 bool IsUnsupported(int error) { return error == EINVAL || error == ENOTSUP || error == EROFS; }
 
-// A folder that cannot be opened is no reason to call a file lost that is in its place.
+// If the folder cannot be opened, the file is in place nevertheless.
 void FlushFolder(const QString& folder) {
   const int file = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (file < 0) return;
@@ -36,7 +36,7 @@ QString FlushToDisk(QFile* file) {
   return Problem(errno);
 }
 
-// Where the file system cannot reserve, the C library writes a byte into each block that is new.
+// If the file system cannot reserve space, the C library writes a byte to each new block.
 QString ReserveRoom(QFile* file, qint64 bytes) {
   const qint64 before = file->size();
   if (bytes <= before) return {};
@@ -52,7 +52,7 @@ QString MoveOver(const QString& from, const QString& to) {
   return {};
 }
 
-// The owner first: a change of owner takes permissions away. Root alone may make it another's.
+// The owner first, because changing the owner removes permissions. Only root may give a file to another user.
 void TakeOwnership(const QString& model, const QString& file) {
   struct stat of_model {};
   if (stat(QFile::encodeName(model).constData(), &of_model) != 0) return;

@@ -8,12 +8,12 @@
 
 namespace tavi {
 
-// Why what is there under this name is no file: "it is a folder", or "not a plain file" for a pipe or a device. Empty
-// for a file, and where there is nothing.
+// Why this name is not a file: "it is a folder", or "not a plain file" for a pipe or a device. Empty for a file, and if
+// nothing exists.
 QString NoFileProblem(const QString& name);
 
-// The content of a file of at most so many bytes, at once: nothing where there is none, where it cannot be read or is
-// longer, and of pipes and devices, which may keep their reader waiting or have no end.
+// The content of a file of at most this many bytes, without blocking: nothing if it does not exist, cannot be read or
+// is longer, and for pipes and devices, which may block their reader or be endless.
 std::optional<QByteArray> ReadPlainFile(const QString& name, qint64 most);
 
 }  // namespace tavi

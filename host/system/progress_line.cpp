@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::chrono::seconds kStep(1);
 
-// To the line's start, and what is on it away.
+// Moves to the line's start and clears the line.
 const QString kEraseLine = QStringLiteral("\r\x1B[K");
 
 }  // namespace

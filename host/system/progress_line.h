@@ -9,15 +9,15 @@
 
 namespace tavi {
 
-// A line on the terminal that tells what takes so long, and for how long it has. Work of less than a second is not
-// told, and nothing is written where nobody reads it.
+// A line on the terminal that says what takes so long, and how long it has taken. Nothing is shown for work of less
+// than a second, and nothing is written if standard error is not a terminal.
 //
-// Threads: it is used on one; a thread of its own writes.
+// Threads: used on one thread; a thread of its own writes.
 class ProgressLine {
  public:
   // "reading day.json"
   explicit ProgressLine(const QString& what);
-  // The line goes.
+  // Removes the line.
   ~ProgressLine();
   ProgressLine(const ProgressLine&) = delete;
   ProgressLine& operator=(const ProgressLine&) = delete;

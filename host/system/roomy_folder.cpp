@@ -12,7 +12,7 @@ namespace {
 
 constexpr qint64 kPlentyBytes = qint64{256} << 20;
 
-// What lasts longest comes first: the last one is memory on many systems.
+// The most permanent one first: on many systems the last one is in memory.
 QStringList Candidates() {
   QStringList folders;
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);

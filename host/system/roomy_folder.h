@@ -5,8 +5,8 @@
 
 namespace tavi {
 
-// A folder of the user's own for what has no place yet and must not be lost: the first that is on a disk with plenty of
-// room, or else the one with the most. Empty where nothing can be written at all. Main thread.
+// A folder of the user for data that has no file yet and must not be lost: the first on a disk with plenty of space,
+// otherwise the one with the most. Empty if nothing can be written at all. Main thread.
 QString RoomyFolder();
 
 }  // namespace tavi

@@ -6,34 +6,34 @@
 
 namespace tavi {
 
-// Whether standard error is read by a person right now.
+// Whether standard error is a terminal with a user.
 bool IsErrorTerminal();
 
-// A reader of the program's output that is gone ends the program, quietly and by the signal, as it ends others. What
-// was loaded with the program may have blocked that signal. To be called first: threads and programs that are started
-// later take it over.
+// When nobody reads the program's output anymore, the write ends the program silently by the signal, as it does for
+// other programs. A library may have blocked that signal while loading. Call it first: threads and programs that are
+// started later inherit the setting.
 void EndWithReader();
 
-// From here on it does not: for programs whose output is not what they are for.
+// From now on it does not end the program: for programs whose main purpose is not their output.
 void GoOnWithoutReader();
 
-// What is to be done before the program ends when it is interrupted (Ctrl+C) or told to end. `clean_up` is called on a
-// thread of its own while the others run on, and then the program ends as it would have. One at a time; an empty
-// function takes it back, and waits for one that is at work.
+// Sets what to do before the program ends by an interruption (Ctrl+C) or a termination signal. `clean_up` is called on
+// a thread of its own while the others continue, and then the program ends as it would have. There is one at a time; an
+// empty function removes it, and waits for one that is running.
 //
-// To be called first while the program has no other threads, which would take the interruption otherwise. A program
+// The first call must come before the program has other threads, which would receive the signals otherwise. A program
 // that was started with interruptions ignored is not interrupted.
 void SetCleanUp(std::function<void()> clean_up);
 
-// From here on an interruption, being told to end and the end of the terminal do not end the program: `take` is called
-// with the signal's number, on a thread of its own, and what is to follow is its business. It takes the place of a
-// clean-up. An empty function gives that back. To be called first while the program has no other threads.
+// From now on interruptions, termination signals and hangups do not end the program: `take` is called with the signal's
+// number, on a thread of its own, and decides what to do. It replaces a clean-up. An empty function restores the
+// default. The first call must come before the program has other threads.
 void SetInterruptionTaker(std::function<void(int number)> take);
 
-// The exit status of a program that ended because of a signal.
+// The exit status of a program that was ended by a signal.
 constexpr int ExitStatusOfSignal(int number) { return 128 + number; }
 
-// From here on what is written to standard output arrives as it is.
+// From now on standard output is written unchanged.
 void MakeOutputBinary();
 
 }  // namespace tavi

@@ -12,7 +12,7 @@ namespace tavi {
 namespace {
 
 struct Reactions {
-  std::mutex mutex;  // of both, held while one runs
+  std::mutex mutex;  // of both, locked while one runs
   std::function<void()> clean_up;
   std::function<void(int)> take;
 };
@@ -43,7 +43,7 @@ void Unblock(int number) {
   pthread_sigmask(SIG_UNBLOCK, &only, nullptr);
 }
 
-// Ends the program by the signal itself, so that whoever started it knows.
+// Ends the program by the signal itself, so that its parent process sees it.
 void EndBySignal(int number) {
   std::signal(number, SIG_DFL);
   Unblock(number);
@@ -66,11 +66,11 @@ void WaitForSignals(sigset_t signals) {
 
 void StartWaiting() {
   const sigset_t signals = SignalsToTake();
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);  // threads that are started from here on inherit it
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);  // threads that are started later inherit it
   std::thread(WaitForSignals, signals).detach();
 }
 
-// With a thread that waits for signals from the first time on.
+// The first call starts a thread that waits for signals.
 template <typename Reaction>
 void SetReaction(Reaction Reactions::*which, Reaction reaction) {
   std::call_once(waits, StartWaiting);

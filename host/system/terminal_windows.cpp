@@ -12,20 +12,20 @@ namespace tavi {
 
 namespace {
 
-std::once_flag listens;  // to the console's events
+std::once_flag listens;  // for the console's events
 std::mutex reactions_mutex;
 std::function<void()> clean_up_reaction;
 std::function<void(int)> take_reaction;
 
-// As programs of other systems would be told.
+// As the corresponding POSIX signals.
 int SignalOf(DWORD kind) { return kind == CTRL_C_EVENT || kind == CTRL_BREAK_EVENT ? SIGINT : SIGTERM; }
 
-// The program is ended as soon as this returns, unless it was Ctrl+C; who took the event ends it sooner.
+// After any event but Ctrl+C the system ends the program as soon as this returns; the handler may end it earlier.
 void WaitForTheEnd(DWORD kind) {
   if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) Sleep(INFINITE);
 }
 
-// On a thread that the system starts. Passing it on ends the program.
+// Runs on a thread that the system starts. Returning FALSE ends the program.
 BOOL WINAPI TakeInterrupt(DWORD kind) {
   {
     const std::lock_guard<std::mutex> lock(reactions_mutex);
@@ -48,7 +48,7 @@ void SetReaction(Reaction* which, Reaction reaction) {
 
 }  // namespace
 
-void EndWithReader() {}  // there is no such signal: a write fails
+void EndWithReader() {}  // Windows has no such signal: the write fails
 
 void GoOnWithoutReader() {}
 

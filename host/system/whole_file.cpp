@@ -16,10 +16,10 @@ namespace tavi {
 
 namespace {
 
-constexpr int kMostLinks = 40;  // one behind the other, as systems have it
+constexpr int kMostLinks = 40;  // in sequence, the limit of most systems
 constexpr qint64 kPieceBytes = 1 << 16;
 
-// The file itself, which may not be there yet. What a name such as /dev/stdout leads to may have no name of its own.
+// The file itself, which may not exist yet. The target of a name such as /dev/stdout may have no name of its own.
 QString BehindLinks(const QString& name) {
   QFileInfo info(name);
   if (info.exists()) return info.isFile() ? info.canonicalFilePath() : info.absoluteFilePath();
@@ -27,7 +27,8 @@ QString BehindLinks(const QString& name) {
   return info.absoluteFilePath();
 }
 
-// Without a buffer, so that what goes wrong is told at once. A disk that takes a part says why with the next one.
+// Unbuffered, so that errors are reported at once. A disk that accepts part of a write reports the error at the next
+// one.
 constexpr QIODevice::OpenMode kForWriting = QIODevice::WriteOnly | QIODevice::Unbuffered;
 
 QString Write(const QByteArray& bytes, QFile* file) {
@@ -49,7 +50,7 @@ QString CopyContent(QFile* from, QFile* to) {
   return problem;
 }
 
-// Content that is too long goes last, so that a full disk is met before anything is changed.
+// The excess content is written last, so that a full disk is detected before anything changes.
 QString WriteOverFile(QFile* from, const QString& place) {
   QFile file(place);
   if (!file.open(kForWriting | QIODevice::ReadOnly)) return file.errorString();
@@ -59,7 +60,7 @@ QString WriteOverFile(QFile* from, const QString& place) {
   return problem.isEmpty() ? FlushToDisk(&file) : problem;
 }
 
-// A device or a pipe has no content before.
+// A device or a pipe has no previous content.
 QString WriteToDevice(QFile* from, const QString& place) {
   QFile device(place);
   if (!device.open(kForWriting)) return device.errorString();
@@ -73,7 +74,7 @@ QString WriteOver(const QString& from_name, const QString& place) {
   return QFileInfo(place).isFile() ? WriteOverFile(&from, place) : WriteToDevice(&from, place);
 }
 
-// `make` writes the content, and returns what goes wrong.
+// `make` writes the content and returns the error.
 QString MakeWholeFile(const QString& target, const std::function<QString(QFile*)>& make) {
   WholeFile whole(target);
   if (!whole.Problem().isEmpty()) return whole.Problem();
@@ -99,7 +100,7 @@ WholeFile::~WholeFile() {
   SetCleanUp({});
 }
 
-// As the system would say it to whoever opens the file for writing.
+// The error that opening the file for writing would give.
 void WholeFile::FindPlace() {
   const QFileInfo info(target_);
   if (info.isDir()) {
@@ -132,13 +133,13 @@ bool WholeFile::Keep() {
   return problem_.isEmpty();
 }
 
-// A file that something else is mounted on, for one, cannot be moved to.
+// For example, a file that is a mount point cannot be replaced.
 QString WholeFile::Place() {
   if (!is_beside_) return WriteOver(working_name_, target_);
   QFile made(working_name_);
   if (!made.open(QIODevice::ReadWrite)) return made.errorString();
   const QString problem = FlushToDisk(&made);
-  made.close();  // some systems do not move what is open
+  made.close();  // some systems do not move open files
   if (!problem.isEmpty()) return problem;
   const bool is_replacing = QFileInfo::exists(target_);
   if (is_replacing) TakeOwnership(target_, working_name_);

@@ -1,4 +1,4 @@
-// The one place where the program writes files: records, pictures, keymaps and copies of them.
+// The only place where the program writes files: records, pictures, keymaps and copies of them.
 #ifndef HOST_SYSTEM_WHOLE_FILE_H_
 #define HOST_SYSTEM_WHOLE_FILE_H_
 
@@ -12,14 +12,14 @@ class QTemporaryDir;
 
 namespace tavi {
 
-// A file that is made whole or not at all, also when the program is interrupted meanwhile: it is made in a folder of
-// its own beside its place, and moved there when it is on the disk. Owner and permissions of a file that was there
-// stay, and a link goes on to point at its file.
+// A file that is written completely or not at all, even if the program is interrupted: it is written in a folder of its
+// own next to its target, and moved there once it is on the disk. The owner and permissions of an existing file stay,
+// and a link still points at its file.
 //
-// Where no folder can be made beside it, and for what is no plain file, it is made in the folder of temporary files and
-// written over what is there, once there is room for the whole.
+// If no such folder can be created, and for targets that are not plain files, it is written in the folder of temporary
+// files and then copied over the target, once there is enough space for all of it.
 //
-// One at a time. Main thread.
+// Only one may exist at a time. Main thread.
 class WholeFile {
  public:
   explicit WholeFile(const QString& target);
@@ -27,12 +27,12 @@ class WholeFile {
   WholeFile(const WholeFile&) = delete;
   WholeFile& operator=(const WholeFile&) = delete;
 
-  // Where to make it. Nothing is there yet.
+  // Where to write it. Nothing exists there yet.
   const QString& WorkingName() const { return working_name_; }
-  // Brings it to its place. False, and what was there before stays, when that cannot be.
+  // Moves it to its target. On failure it returns false and the target is unchanged.
   bool Keep();
-  // Why it cannot be kept, as the system says it ("No space left on device"); before that, why it never could be.
-  // Empty: nothing is known to be wrong.
+  // The system's error ("No space left on device") of Keep; before that, the reason why it can only fail. Empty: no
+  // error is known.
   const QString& Problem() const { return problem_; }
 
  private:
@@ -40,19 +40,19 @@ class WholeFile {
   QString MakeFolder();
   QString Place();
 
-  QString target_;  // behind all links
+  QString target_;  // with all links resolved
   QString working_name_;
   QString problem_;
-  bool is_beside_ = false;  // it is made in the folder of its target's
+  bool is_beside_ = false;  // it is written next to its target
   std::unique_ptr<QTemporaryDir> folder_;
 };
 
-// Makes these bytes the content of a file, or changes nothing. Each of these returns what went wrong, as the system
-// says it, or nothing.
+// Makes these bytes the content of a file, or changes nothing. Each of these returns the system's error, or an empty
+// string.
 QString WriteWholeFile(const QString& target, const QByteArray& bytes);
 // The same with the content of another file.
 QString CopyWholeFile(const QString& from, const QString& target);
-// Whether a file of this name could be written as things are; nothing is changed.
+// Whether a file with this name can currently be written; changes nothing.
 QString TryWholeFile(const QString& target);
 
 }  // namespace tavi

@@ -5,22 +5,22 @@
 
 namespace tavi {
 
-// Whether there is anything to open a window on. Without, making the application object would end the program with a
-// crash. `arguments` are those of the program, in which Qt may be told what to use.
+// Whether a window can be opened. Without a window system, creating the application object would crash the program.
+// `arguments` are the program's, which may select Qt's platform.
 bool HasWindowSystem(const QStringList& arguments);
 
-// Before the application object is made: it gets along without a window system, whatever the environment asks for, and
-// does not tell of a session that has no folder for its sockets, since it opens none.
+// Call it before creating the application object, which then works without a window system, whatever the environment
+// says, and does not complain about a session without a folder for its sockets, because it opens none.
 void DoWithoutWindowSystem();
 
-// What windows are on, as far as it matters to who holds a pointer.
+// The window systems that differ in how a program can hold the pointer.
 enum class WindowSystem {
   kXWayland,  // an X server that is itself a client of Wayland
   kWayland,
   kOther,
 };
 
-// Of the application, which is made already.
+// Of the application, which must exist.
 WindowSystem CurrentWindowSystem();
 
 // `platform` is Qt's name; the other two are the values of XDG_SESSION_TYPE and WAYLAND_DISPLAY.

@@ -10,12 +10,12 @@ namespace tavi {
 
 class TargetLink;
 
-// Why commands cannot be started on this system, or nothing.
+// Why commands cannot be started on this system, or an empty string.
 QString CommandLinkProblem();
 
-// A link to `/bin/sh -c command`. Its standard input is a socket, so that it neither blocks this program nor ends it.
-// It passes over Ctrl+C and the end of the terminal, which are this program's affair: the last lines still reach it,
-// and then the end of its input ends it. What it writes on its standard output and error is told.
+// A link to `/bin/sh -c command`. Its standard input is a socket, so that it can neither block nor end this program.
+// The command ignores Ctrl+C and hangups, which only concern this program: it still gets the last lines, and exits when
+// its input ends. Its standard output and error are reported.
 std::unique_ptr<TargetLink> MakeCommandLink(const QString& command);
 
 }  // namespace tavi

@@ -13,9 +13,9 @@ namespace tavi {
 
 namespace {
 
-constexpr int kLongestSaid = 2000;  // of a line that is told; what has no end is told in parts
+constexpr int kLongestSaid = 2000;  // of a reported line; longer ones are reported in parts
 
-// Starts with its standard input at one end of a pair of sockets.
+// Starts the command with one end of a socket pair as its standard input.
 class Command : public QProcess {
  public:
   void SetInput(int file) { input_ = file; }
@@ -28,7 +28,8 @@ class Command : public QProcess {
     std::signal(SIGPIPE, SIG_DFL);
     sigset_t none;
     sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);  // this program waits for signals on a thread, and blocks them in others
+    sigprocmask(SIG_SETMASK, &none,
+                nullptr);  // this program waits for signals on a thread, and blocks them on the others
   }
 
  private:
@@ -39,14 +40,14 @@ class CommandLink : public SocketLink<QLocalSocket> {
  public:
   explicit CommandLink(QString command) : command_(std::move(command)) {
     process_.setProcessChannelMode(QProcess::MergedChannels);
-    process_.setInputChannelMode(QProcess::ForwardedInputChannel);  // no pipe of its own
+    process_.setInputChannelMode(QProcess::ForwardedInputChannel);  // no pipe to its standard input
     connect(&process_, &QProcess::readyRead, this, &CommandLink::TellSaid);
     connect(&process_, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             [this](int status, QProcess::ExitStatus how) { TakeEnd(status, how); });
     connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
       if (error == QProcess::FailedToStart) End(process_.errorString());
     });
-    // The end of the process tells why; where it goes on without its input, this does.
+    // The end of the process gives the reason; if it continues without its input, this does.
     disconnect(&socket_, &QLocalSocket::disconnected, this, nullptr);
     disconnect(&socket_, &QLocalSocket::errorOccurred, this, nullptr);
     connect(&socket_, &QLocalSocket::disconnected, this, [this] {
@@ -78,7 +79,7 @@ class CommandLink : public SocketLink<QLocalSocket> {
 
   void Finish(int limit_ms) override {
     is_finishing_ = true;
-    socket_.abort();  // what is in the socket stays for the command to read
+    socket_.abort();  // the command can still read what is in the socket
     if (process_.state() == QProcess::NotRunning) return;
     terminate_.start(limit_ms);
     kill_.start(2 * limit_ms);
@@ -92,7 +93,7 @@ class CommandLink : public SocketLink<QLocalSocket> {
   QString Problem() const override { return socket_.errorString(); }
 
  private:
-  static constexpr int kEndMs = 500;  // a command that ends has its input closed first
+  static constexpr int kEndMs = 500;  // a command that exits closes its input first
 
   void TellSaid() {
     while (process_.canReadLine() || process_.bytesAvailable() > kLongestSaid) {

@@ -3,7 +3,7 @@
 
 namespace tavi {
 
-QString CommandLinkProblem() { return QStringLiteral("commands are started by /bin/sh, which this system lacks"); }
+QString CommandLinkProblem() { return QStringLiteral("commands need /bin/sh, which this system lacks"); }
 
 std::unique_ptr<TargetLink> MakeCommandLink(const QString& /*command*/) { return nullptr; }
 

@@ -25,10 +25,10 @@ GuestTarget::~GuestTarget() = default;
 
 void GuestTarget::Connect() {
   link_.reset(make_link_().release());
-  link_->setParent(this);  // one that waits to be deleted goes at the latest when this does
+  link_->setParent(this);  // deleted with this object at the latest
   connect(link_.get(), &TargetLink::Connected, this, &GuestTarget::TakeConnection);
   connect(link_.get(), &TargetLink::RoomMade, this, &GuestTarget::Pump);
-  // Queued: the link may end inside of a line that is handed to it.
+  // Queued: the link may end while a line is passed to it.
   connect(
       link_.get(), &TargetLink::Ended, this,
       [this, link = link_.get()](const QString& reason) {
@@ -49,7 +49,7 @@ void GuestTarget::TakeConnection() {
   Enqueue(gestures_.LiftEverything());
 }
 
-// Of a target that is tried again and again, the first failure alone is told.
+// Of a series of failed attempts, only the first is reported.
 void GuestTarget::TakeEnd(const QString& reason) {
   const bool was_reached = IsReached();
   const bool is_news = was_reached || !has_answered_;
@@ -104,7 +104,7 @@ void GuestTarget::TakeEmptiness() {
   if (state_ == State::kOff) return Leave();
   if (state_ != State::kLagging) return;
   SetState(State::kConnected);
-  Q_EMIT Message(QStringLiteral("Lines go to %1 again; %2 passed it by").arg(name_).arg(passed_by_), false);
+  Q_EMIT Message(QStringLiteral("Lines go to %1 again; %2 were dropped").arg(name_).arg(passed_by_), false);
 }
 
 void GuestTarget::DropWaiting() {
@@ -112,12 +112,12 @@ void GuestTarget::DropWaiting() {
   waiting_bytes_ = 0;
 }
 
-// Lifts among what is dropped are lost with it, so all that was ever down is lifted.
+// Releases among the dropped lines are lost as well, so everything that was ever down is released.
 void GuestTarget::StartLagging() {
   passed_by_ = static_cast<int>(waiting_.size()) + 1;
   DropWaiting();
   SetState(State::kLagging);
-  Q_EMIT Message(QStringLiteral("%1 takes too little: lines pass it by until it has caught up").arg(name_), true);
+  Q_EMIT Message(QStringLiteral("%1 reads too slowly: lines are dropped until it has caught up").arg(name_), true);
   Enqueue(gestures_.LiftEverything());
 }
 

@@ -18,7 +18,7 @@
 
 namespace tavi {
 
-// One target: its connection, made again when it ends, and the lines that wait for it.
+// One target: its connection, which is made again when it ends, and its queue of lines.
 //
 //   connecting --> connected <--> lagging          off: from anywhere, and back to connecting
 //      |  ^            |            |
@@ -32,23 +32,23 @@ class GuestTarget : public QObject {
  public:
   using LinkMaker = std::function<std::unique_ptr<TargetLink>()>;
 
-  // `name` is for people.
+  // `name` is for display.
   GuestTarget(QString name, LinkMaker make_link);
   ~GuestTarget() override;
 
-  // Begins to connect. Commands and sockets of this machine are there when it returns, as a rule.
+  // Starts to connect. Commands and local sockets are usually connected when it returns.
   void Connect();
 
-  // A line to be told; `before` is what the host has down without it.
+  // A line for the target; `before` is what the host held down before it.
   void Offer(const OutgoingLine& line, const HeldInput& before);
-  // Lifts what it has down.
+  // Releases what the target holds down.
   void Lift();
 
   void Switch(bool on);
   void TryAgain();
 
-  // For the end of all. The first waits until the lines that wait were taken, at most so long, and tells whether any do
-  // still; the second ends the connection, and the third waits for its end.
+  // For the end of all targets. The first waits at most this long until the queued lines have been read, and returns
+  // whether any are left; the second ends the connection, and the third waits for its end.
   bool WaitUntilTaken(int limit_ms);
   void Leave();
   void WaitForEnd(int limit_ms);
@@ -61,7 +61,7 @@ class GuestTarget : public QObject {
   void Message(const QString& text, bool is_problem);
 
  private:
-  // deleteLater, since a link may be in the middle of a signal.
+  // deleteLater, because a link may be emitting a signal.
   struct DeleteLater {
     void operator()(TargetLink* link) const;
   };
@@ -79,18 +79,18 @@ class GuestTarget : public QObject {
 
   const QString name_;
   const LinkMaker make_link_;
-  std::unique_ptr<TargetLink, DeleteLater> link_;  // null: not even tried
-  std::unique_ptr<TargetLink, DeleteLater> left_;  // the one before, on its way to its end
+  std::unique_ptr<TargetLink, DeleteLater> link_;  // null: not tried yet
+  std::unique_ptr<TargetLink, DeleteLater> left_;  // the previous connection, which is ending
   State state_ = State::kConnecting;
   QString reason_;
   bool has_answered_ = false;
   bool is_pumping_ = false;
   std::deque<QByteArray> waiting_;
   int waiting_bytes_ = 0;
-  int passed_by_ = 0;  // lines, since it lags
+  int passed_by_ = 0;  // the number of lines since it lags
   TargetGestures gestures_;
   QTimer retry_;
-  QTimer leave_;  // for the last lines of one that was switched off
+  QTimer leave_;  // for the last lines of a target that was switched off
   RetryPause pause_;
   QElapsedTimer clock_;
   qint64 connected_at_ms_ = 0;

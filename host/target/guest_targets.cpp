@@ -50,7 +50,7 @@ void GuestTargets::Add(const TargetAddress& address) {
   targets_.back()->Connect();
 }
 
-// The inbox is what keeps the order of lines of several threads.
+// The inbox keeps the lines of several threads in order.
 void GuestTargets::Send(const char* data, int length) {
   if (!has_targets_ || length < 1) return;
   {
@@ -64,7 +64,7 @@ void GuestTargets::Send(const char* data, int length) {
   }
 }
 
-// A line that is sent from inside of this waits for its turn.
+// A line that is sent while this runs waits for its turn.
 void GuestTargets::TakeInbox() {
   if (is_distributing_) return;
   is_distributing_ = true;
@@ -94,7 +94,7 @@ void GuestTargets::LiftAll() {
   for (const auto& target : targets_) target->Lift();
 }
 
-// In turns, so that those that take their lines are not kept from it by one that does not.
+// In turns, so that a slow target does not keep lines from the others.
 void GuestTargets::WaitUntilTaken() {
   const QDeadlineTimer limit(kFlushMs);
   for (bool is_taken = false; !is_taken && !limit.hasExpired();) {

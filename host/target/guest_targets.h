@@ -1,4 +1,4 @@
-// Where a host's lines go when somebody is to play with them.
+// Sends a host's lines to guests.
 //
 //   const ParsedTarget parsed = ParseTarget(text, false);
 //   if (!parsed.problem.isEmpty()) return Fail(parsed.problem);
@@ -29,70 +29,70 @@ namespace tavi {
 class GuestTarget;
 class HeldInput;
 
-// Carries lines to any number of targets, each on its own: one that lags, refuses or ends takes nothing from the
-// others, and none is ever waited for.
+// Sends lines to any number of targets, independently: one that lags, refuses or disconnects does not affect the
+// others, and no call waits for one.
 //
-// What a target gets is a stream of whole lines in the order of the calls of Send, with one exception, so that it never
-// plays the rest of a gesture whose beginning it missed. While a target is not connected, or lags, lines pass it by.
-// When it is back, what it was left with is lifted first; and a finger, key or button that is down by then stays
-// up there until it is pressed anew.
+// A target gets a stream of whole lines in the order of the calls of Send, except that it never gets the rest of a
+// gesture whose beginning it missed. While a target is disconnected or lags, its lines are dropped. When it is back,
+// what it still holds down is released first, and a contact, key or button that the host holds at that time stays up
+// there until it is pressed again.
 //
-// Threads: main, but for Send. Signals come on the main thread, also from inside of a call of this class.
+// Threads: main, except Send. Signals are emitted on the main thread, possibly during a call of this class.
 class GuestTargets : public QObject {
   Q_OBJECT
 
  public:
-  // Of one target, beside what the system keeps (some kB). When more would wait, all that waits is dropped, and the
-  // target counts as lagging until it has taken the lift of what it has down.
+  // The queue of one target, in addition to the system's buffers (some kB). If it overflows, it is dropped, and the
+  // target counts as lagging until it has read the release of what it holds down.
   static constexpr int kMostWaitingBytes = 128 * 1024;
-  // A longer one goes to no target, since guests cut it; Message tells.
+  // A longer line goes to no target, because guests truncate it; Message reports it.
   static constexpr int kMostLineBytes = 64 * 1024;
-  // What Close and Switch give targets to take their last lines, in milliseconds; and commands to end after that.
+  // How long Close and Switch give targets to read their last lines, in milliseconds; and how long commands then get to
+  // exit.
   static constexpr int kFlushMs = 500;
   static constexpr int kEndMs = 1000;
 
   explicit GuestTargets(QObject* parent = nullptr);
-  // As Close.
+  // Like Close.
   ~GuestTargets() override;
 
-  // The touch surface of the guest, of which devices of the kernel have to know. To be set before the first Add.
+  // The guest's touch surface, whose size kernel devices need. Set it before the first Add.
   void SetSurface(const QSize& surface) { surface_ = surface; }
 
-  // Begins to connect: commands and sockets of this machine are there when it returns, as a rule. The same target again
-  // is another one.
+  // Starts to connect: commands and local sockets are usually connected when it returns. Adding the same target again
+  // adds another one.
   void Add(const TargetAddress& address);
 
-  // A line as the library's send functions get it: `length` counts the newline of an event line, the NUL of a text
-  // line. Any thread; the order of lines is that of the calls. Lines of the main thread leave inside the call, as far
-  // as the target takes them; those of other threads as soon as the main thread comes to it.
+  // A line in the form of the library's send functions: `length` counts the newline of an event line and the NUL of a
+  // text line. Any thread; lines keep the order of the calls. Lines of the main thread are sent during the call, as far
+  // as the target accepts them; those of other threads as soon as the main thread gets to them.
   void Send(const char* data, int length);
 
-  // Lifts what each target has down, gamepads included, which a reset of the library leaves alone. What is still held
-  // stays up there until it is pressed anew.
+  // Releases what each target holds down, including gamepads, which a reset of the library does not release. What the
+  // host still holds stays up there until it is pressed again.
   void LiftAll();
 
-  // Lifts what each target has down, waits until it was taken, at most kFlushMs for all of them, has commands end, at
-  // most kEndMs for all, and forgets the targets. Without targets it does nothing; later lines go nowhere.
+  // Releases what each target holds down, waits until the lines were read, at most kFlushMs for all targets, ends
+  // commands, at most kEndMs for all, and removes the targets. Does nothing without targets; later lines go nowhere.
   void Close();
 
   // Targets are numbered from 0 in the order in which they were added.
   int Count() const { return static_cast<int>(targets_.size()); }
   TargetStatus StatusOf(int target) const;
-  // Whether each target has been reached or has failed once, or is off.
+  // Whether each target has been connected or has failed once, or is off.
   bool HaveAllAnswered() const;
 
-  // Off: lifts what it has down, and ends the connection when that was taken, after kFlushMs at the latest. On: tries
-  // it at once.
+  // Off: releases what it holds down, and ends the connection once the lines have been read, after kFlushMs at the
+  // latest. On: connects at once.
   void Switch(int target, bool on);
-  // Tries a target that failed or ended at once, in place of after the pause: 1 s, twice as long after each further
-  // failure, at most 30 s; 1 s again after a connection of 10 s. One that is connected is ended, lifted, and tried
-  // anew.
+  // Retries a failed or disconnected target now instead of after the delay: 1 s, doubled after each further failure, at
+  // most 30 s; 1 s again after a connection of 10 s. A connected target is disconnected, released, and connected again.
   void TryAgain(int target);
 
  Q_SIGNALS:
-  // Its state is another one. Lines a second and waiting bytes are asked for as one likes.
+  // The target's state has changed. Poll its line rate and queue size as often as you like.
   void Changed(int target);
-  // For people: what has become of a target, what a command wrote on its standard output and error, line by line.
+  // For display: what happened to a target, and what a command wrote to its standard output and error, line by line.
   void Message(const QString& text, bool is_problem);
 
  private:
@@ -103,11 +103,11 @@ class GuestTargets : public QObject {
 
   QSize surface_{1280, 720};
   std::vector<std::unique_ptr<GuestTarget>> targets_;
-  std::unique_ptr<HeldInput> sent_;  // what the host has down, whatever targets were told
+  std::unique_ptr<HeldInput> sent_;  // what the host holds down, regardless of what targets got
   bool is_distributing_ = false;
   std::atomic<bool> has_targets_{false};
   std::mutex inbox_lock_;
-  std::vector<QByteArray> inbox_;  // guarded by inbox_lock_; lines that no target was offered yet
+  std::vector<QByteArray> inbox_;  // guarded by inbox_lock_; lines that no target got yet
 };
 
 }  // namespace tavi

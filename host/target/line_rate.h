@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// How many lines went out in the last whole second of a clock that counts milliseconds and never goes back.
+// The number of lines in the last whole second of a monotonic clock in milliseconds.
 class LineRate {
  public:
   void Count(qint64 now_ms) {
@@ -27,9 +27,9 @@ class LineRate {
     second_ = second;
   }
 
-  qint64 second_ = 0;  // that `count_` is of
+  qint64 second_ = 0;  // the second of `count_`
   int count_ = 0;
-  int last_count_ = 0;  // of the second before
+  int last_count_ = 0;  // the previous second's
 };
 
 }  // namespace tavi

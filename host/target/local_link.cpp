@@ -19,10 +19,10 @@ void LocalLink::WaitForEnd(int limit_ms) {
 
 QString LocalLink::Problem() const {
   switch (socket_.error()) {
-    case QLocalSocket::PeerClosedError: return QStringLiteral("it went away");
+    case QLocalSocket::PeerClosedError: return QStringLiteral("it disconnected");
     case QLocalSocket::ServerNotFoundError: return QStringLiteral("there is no such socket");
     case QLocalSocket::ConnectionRefusedError: return QStringLiteral("nobody listens there");
-    case QLocalSocket::SocketAccessError: return QStringLiteral("it is not for this user");
+    case QLocalSocket::SocketAccessError: return QStringLiteral("this user has no access");
     default: return socket_.errorString();
   }
 }

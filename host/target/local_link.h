@@ -7,7 +7,7 @@
 
 namespace tavi {
 
-// A connection to whoever listens on a socket file.
+// A connection to the program that listens on a socket file.
 class LocalLink : public SocketLink<QLocalSocket> {
  public:
   explicit LocalLink(QString path);

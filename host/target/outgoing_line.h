@@ -7,13 +7,13 @@
 
 namespace tavi {
 
-// A line on its way to targets.
+// A queued line for targets.
 struct OutgoingLine {
-  // Of what the library's send functions get, end included.
+  // From the data of the library's send functions, with its end.
   explicit OutgoingLine(const QByteArray& bytes);
 
   QByteArray bytes;
-  bool is_text = false;  // of no display, and with no more than its bytes
+  bool is_text = false;  // without a display prefix, and with nothing but its bytes
   int display = 0;
   GuestLine line;
 };

@@ -7,7 +7,7 @@
 
 namespace tavi {
 
-// How long to wait before a target is tried again: 1 s, and twice as long after each further failure, at most 30 s.
+// How long to wait before a target is retried: 1 s, doubled after each further failure, at most 30 s.
 class RetryPause {
  public:
   int NextMs() {
@@ -15,7 +15,7 @@ class RetryPause {
     next_ms_ = std::min(2 * next_ms_, kLongestMs);
     return pause_ms;
   }
-  // After a connection that lasted for `connected_ms`; one that ends at once is as good as none.
+  // After a connection of `connected_ms`; a very short one counts as a failure.
   void TakeConnection(qint64 connected_ms) {
     if (connected_ms >= kSteadyMs) Reset();
   }

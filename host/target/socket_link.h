@@ -8,9 +8,9 @@
 
 namespace tavi {
 
-// What links over sockets have in common. `Socket` is QLocalSocket or QTcpSocket, which are alike without a common
-// base. What the other end writes is passed over: there is no answer in the protocol, and bytes that nobody read would
-// make the system throw away the last lines with the connection.
+// The common part of links over sockets. `Socket` is QLocalSocket or QTcpSocket, which have the same functions without
+// a common base class. What the other end writes is discarded: the protocol has no answers, and with unread bytes the
+// system would discard the last lines when the connection is closed.
 template <typename Socket>
 class SocketLink : public TargetLink {
  public:
@@ -19,11 +19,11 @@ class SocketLink : public TargetLink {
     connect(&socket_, &Socket::bytesWritten, this, [this] {
       if (HasRoom()) Q_EMIT RoomMade();
     });
-    connect(&socket_, &Socket::disconnected, this, [this] { End(QStringLiteral("it went away")); });
+    connect(&socket_, &Socket::disconnected, this, [this] { End(QStringLiteral("it disconnected")); });
     connect(&socket_, &Socket::errorOccurred, this, [this] { End(Problem()); });
     cut_.setSingleShot(true);
     connect(&cut_, &QTimer::timeout, this, [this] {
-      End(QStringLiteral("it took no more lines"));
+      End(QStringLiteral("it stopped reading lines"));
       socket_.abort();
     });
   }
@@ -44,12 +44,12 @@ class SocketLink : public TargetLink {
   }
 
  protected:
-  // Why it ended, from the socket's error.
+  // Why the connection ended, from the socket's error.
   virtual QString Problem() const = 0;
 
   void CutAfter(int limit_ms) { cut_.start(limit_ms); }
 
-  // A socket tells its end in two ways.
+  // A socket signals its end in two ways.
   void End(const QString& reason) {
     if (has_ended_) return;
     has_ended_ = true;

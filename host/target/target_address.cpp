@@ -21,16 +21,16 @@ bool IsThisMachine(const QString& host) {
   return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
 }
 
-// Each fills `address` from what stands behind the first colon, and returns what is wrong, or nothing.
+// Each fills `address` from the text after the first colon, and returns the error, or an empty string.
 QString TakeCommand(const QString& rest, TargetAddress* address) {
   address->kind = Kind::kCommand;
   address->place = rest.trimmed();
-  return address->place.isEmpty() ? QStringLiteral("a command is missing behind exec:") : CommandLinkProblem();
+  return address->place.isEmpty() ? QStringLiteral("exec: needs a command") : CommandLinkProblem();
 }
 
 QString TakeSocketFile(const QString& rest, TargetAddress* address) {
   address->kind = Kind::kSocketFile;
-  if (rest.isEmpty()) return QStringLiteral("a path is missing behind unix:");
+  if (rest.isEmpty()) return QStringLiteral("unix: needs a path");
   address->place = QFileInfo(rest).absoluteFilePath();
   return {};
 }
@@ -49,7 +49,7 @@ QString TakeTcp(const QString& rest, TargetAddress* address) {
   }
   if (address->may_be_remote || IsThisMachine(address->place)) return {};
   return QStringLiteral(
-             "%1 is another machine, and anybody on the way there can read what is typed; --allow-remote "
+             "%1 is another machine, and anyone on the network path can read what you type; --allow-remote "
              "allows it")
       .arg(address->place);
 }

@@ -1,4 +1,4 @@
-// Where the lines for the guest go, as a person writes it.
+// Where the lines for the guest go, in the format of the command line.
 #ifndef HOST_TARGET_TARGET_ADDRESS_H_
 #define HOST_TARGET_TARGET_ADDRESS_H_
 
@@ -9,25 +9,25 @@ namespace tavi {
 struct TargetAddress {
   enum class Kind {
     kCommand,     // exec:COMMAND    the standard input of what /bin/sh makes of COMMAND
-    kSocketFile,  // unix:PATH       whoever listens on this socket file
-    kTcp,         // tcp:HOST:PORT   whoever listens there; tcp:[::1]:PORT for addresses with colons
+    kSocketFile,  // unix:PATH       the program that listens on this socket file
+    kTcp,         // tcp:HOST:PORT   the program that listens there; tcp:[::1]:PORT for addresses with colons
     kUinput,      // uinput          input devices of this machine's kernel
   };
 
   Kind kind = Kind::kUinput;
-  QString text;   // as it was written
+  QString text;   // as the user wrote it
   QString place;  // the command, the absolute path, the host; empty for kUinput
   quint16 port = 0;
-  bool may_be_remote = false;  // false: what answers on another machine is left at once
+  bool may_be_remote = false;  // false: a connection to another machine is closed at once
 };
 
 struct ParsedTarget {
   TargetAddress address;
-  QString problem;  // for people; empty when `address` is one
+  QString problem;  // for display; empty if `address` is valid
 };
 
-// A host that is not this machine is a problem unless `allow_remote`: anybody on the way could read and change what is
-// typed. So is a kind of target that this build cannot make.
+// A host on another machine is an error unless `allow_remote`, because anyone on the network path could read and change
+// what is typed. So is a kind of target that this build does not support.
 ParsedTarget ParseTarget(const QString& text, bool allow_remote);
 
 }  // namespace tavi

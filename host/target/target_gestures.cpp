@@ -47,7 +47,7 @@ QByteArray WithoutMissed(const OutgoingLine& sent, const GuestState& before, con
   }
 }
 
-// Whether the line can put anything down, or push anything out of its middle.
+// Whether the line can press anything, or deflect anything from its centre.
 bool CanHold(const GuestLine& line) {
   switch (line.kind) {
     case Kind::kSlotRelease:

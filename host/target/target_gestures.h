@@ -9,24 +9,25 @@
 
 namespace tavi {
 
-// What one target has down, as far as it was told, and so which lines it can make sense of.
+// What one target holds down, according to the lines that it got, and so which lines make sense to it.
 //
 // Not bound to a thread.
 class TargetGestures {
  public:
-  // What is to be told of a line, end included: without the fingers that are down already (`before` the line, in the
-  // host) and whose press the target never got; empty when nothing is left of it. A release is always told.
+  // The part of a line, with its end, that the target should get: without the contacts that are down already (`before`
+  // the line, in the host) and whose press the target never got; empty if nothing remains. Releases are always
+  // included.
   QByteArray Tell(const OutgoingLine& sent, const HeldInput& before);
 
-  // The lines, end included, that lift what the target has down. From then on it has nothing down.
+  // The lines, with their ends, that release what the target holds down. Afterwards nothing is down.
   QVector<QByteArray> Lift();
 
-  // The same for a target of which nobody knows what it missed: lifts all that it was ever told of.
+  // The same for a target that missed an unknown number of lines: releases everything that was ever pressed.
   QVector<QByteArray> LiftEverything();
 
  private:
   HeldInput down_;
-  HeldInput ever_;  // all that was down once, as if it was never lifted
+  HeldInput ever_;  // everything that was ever down, as if it had never been released
 };
 
 }  // namespace tavi

@@ -7,36 +7,36 @@
 
 namespace tavi {
 
-// One connection to a target, from the first try to its end. It keeps at most one line that was not taken yet.
+// One connection to a target, from the attempt to its end. It holds at most one line that was not accepted yet.
 //
-// Main thread. Signals may come from inside of any call.
+// Main thread. Signals may be emitted during any call.
 class TargetLink : public QObject {
   Q_OBJECT
 
  public:
-  // Begins to connect: Connected or Ended follow.
+  // Starts to connect: Connected or Ended follows.
   virtual void Open() = 0;
 
-  // Hands a line over; only while HasRoom.
+  // Sends a line; only while HasRoom.
   virtual void Write(const QByteArray& line) = 0;
-  // Whether all that was handed over was taken.
+  // Whether all sent lines were accepted.
   virtual bool HasRoom() const = 0;
-  // Bytes that were handed over and not taken.
+  // Bytes that were sent but not accepted.
   virtual qint64 WaitingBytes() const = 0;
-  // Waits until all that was handed over is taken; false when `limit_ms` have passed, or when the link has ended.
+  // Waits until everything is accepted; false if `limit_ms` have passed, or if the link has ended.
   virtual bool WaitForRoom(int limit_ms) = 0;
 
-  // No more lines come, and what was not taken by now is dropped: the target sees the end of the stream. Ended follows,
-  // after `limit_ms` at the latest: what does not end by itself is made to.
+  // Ends the connection: no more lines follow, and what was not accepted by now is dropped, so that the target sees the
+  // end of the stream. Ended follows, after `limit_ms` at the latest: what does not end by itself is terminated.
   virtual void Finish(int limit_ms) = 0;
-  // Waits for that, after Finish.
+  // After Finish, waits for the end.
   virtual void WaitForEnd(int limit_ms) = 0;
 
  Q_SIGNALS:
   void Connected();
-  // The target takes more.
+  // The target accepts more.
   void RoomMade();
-  // Nothing comes after that. `reason` is for people, and tells what the target did: "refused the connection".
+  // Nothing follows after it. `reason` is for display, with the target as its subject: "refused the connection".
   void Ended(const QString& reason);
   // A line that the target wrote.
   void Said(const QString& line);

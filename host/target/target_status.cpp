@@ -16,11 +16,11 @@ QString BytesText(int bytes) {
 QString ConnectedText(const TargetStatus& status) {
   const QString lines = status.lines_per_second == 1 ? QStringLiteral("line") : QStringLiteral("lines");
   QString text = QStringLiteral("connected, %1 %2/s").arg(status.lines_per_second).arg(lines);
-  if (status.waiting_bytes > 0) text += QStringLiteral(", %1 wait").arg(BytesText(status.waiting_bytes));
+  if (status.waiting_bytes > 0) text += QStringLiteral(", %1 queued").arg(BytesText(status.waiting_bytes));
   return text;
 }
 
-// Rounded up: nobody is told of "0 s" for a second.
+// Rounded up, so that nobody reads "0 s".
 QString RetryText(const TargetStatus& status) {
   const int seconds = (status.retry_ms + kSecondMs - 1) / kSecondMs;
   return QStringLiteral("%1; next try in %2 s").arg(status.reason).arg(seconds);
@@ -34,7 +34,8 @@ QString DescribeStatus(const TargetStatus& status) {
     case State::kConnecting: return QStringLiteral("connecting");
     case State::kConnected: return ConnectedText(status);
     case State::kLagging:
-      return QStringLiteral("takes too little: lines pass it by while %1 wait").arg(BytesText(status.waiting_bytes));
+      return QStringLiteral("reads too slowly: lines are dropped while %1 are queued")
+          .arg(BytesText(status.waiting_bytes));
     case State::kFailed:
     case State::kEnded: return RetryText(status);
   }

@@ -1,4 +1,4 @@
-// How a target is, for whoever shows it.
+// The state of a target, for display.
 #ifndef HOST_TARGET_TARGET_STATUS_H_
 #define HOST_TARGET_TARGET_STATUS_H_
 
@@ -11,20 +11,20 @@ struct TargetStatus {
     kOff,         // switched off; it gets nothing until it is switched on
     kConnecting,  // tried for the first time, or again
     kConnected,   // it gets the lines
-    kLagging,     // it took too little for too long: it gets nothing until it has taken all that waits
-    kFailed,      // it could not be reached; tried again after a pause
-    kEnded,       // it was connected and went away; tried again after a pause
+    kLagging,     // it read too slowly for too long: it gets nothing until it has read all that is queued
+    kFailed,      // it could not be reached; retried after a delay
+    kEnded,       // it was connected and disconnected; retried after a delay
   };
 
-  QString name;  // the target as it was written, such as "unix:/run/guest"
+  QString name;  // the target as the user wrote it, such as "unix:/run/guest"
   State state = State::kConnecting;
   QString reason;            // why, for kFailed and kEnded
-  int retry_ms = 0;          // for kFailed and kEnded: until it is tried again; 0 otherwise
-  int lines_per_second = 0;  // handed over in the last whole second
-  int waiting_bytes = 0;     // handed to nobody yet
+  int retry_ms = 0;          // for kFailed and kEnded: time until the next attempt; 0 otherwise
+  int lines_per_second = 0;  // sent in the last whole second
+  int waiting_bytes = 0;     // queued
 };
 
-// "connected, 38 lines/s", "connected, 0 lines/s, 512 bytes wait", "refused the connection; next try in 4 s".
+// "connected, 38 lines/s", "connected, 0 lines/s, 512 bytes queued", "refused the connection; next try in 4 s".
 QString DescribeStatus(const TargetStatus& status);
 
 }  // namespace tavi

@@ -7,7 +7,7 @@ namespace tavi {
 
 namespace {
 
-// What waits in the system is out of reach, and late when it is taken: enough for some hundred lines.
+// What is in the system's buffer cannot be dropped, and is late when it is read: it holds some hundred lines.
 constexpr int kSystemBytes = 16 * 1024;
 
 }  // namespace
@@ -43,9 +43,9 @@ void TcpLink::WaitForEnd(int limit_ms) {
 
 QString TcpLink::Problem() const {
   switch (socket_.error()) {
-    case QAbstractSocket::RemoteHostClosedError: return QStringLiteral("it went away");
+    case QAbstractSocket::RemoteHostClosedError: return QStringLiteral("it disconnected");
     case QAbstractSocket::ConnectionRefusedError: return QStringLiteral("it refused the connection");
-    case QAbstractSocket::HostNotFoundError: return QStringLiteral("there is no machine of that name");
+    case QAbstractSocket::HostNotFoundError: return QStringLiteral("there is no machine with that name");
     default: return socket_.errorString();
   }
 }

@@ -10,7 +10,7 @@ namespace tavi {
 // A connection over TCP.
 class TcpLink : public SocketLink<QTcpSocket> {
  public:
-  // Unless `may_be_remote`, what a name leads to on another machine is left before it gets a line.
+  // Unless `may_be_remote`, a name that resolves to another machine is disconnected before it gets a line.
   TcpLink(QString host, quint16 port, bool may_be_remote);
 
   void Open() override;

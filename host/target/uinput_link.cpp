@@ -11,9 +11,9 @@ namespace tavi {
 
 namespace {
 
-// Devices of the kernel, which take every line at once.
+// Kernel devices, which accept every line at once.
 //
-// Making them takes 0.3 s, which a thread of its own waits for; until it is done, nothing else touches the guest.
+// Making them takes 0.3 s, which a thread of its own waits for; until then, nothing else touches the guest.
 class UinputLink : public TargetLink {
  public:
   explicit UinputLink(const QSize& surface) : guest_(OptionsOf(surface)) {}
@@ -36,7 +36,7 @@ class UinputLink : public TargetLink {
   qint64 WaitingBytes() const override { return 0; }
   bool WaitForRoom(int /*limit_ms*/) override { return is_open_; }
 
-  // The devices go with this object.
+  // The devices are destroyed with this object.
   void Finish(int /*limit_ms*/) override {
     if (is_open_) guest_.LiftAll();
     Q_EMIT Ended(QString());
@@ -47,7 +47,7 @@ class UinputLink : public TargetLink {
   static taviguest::GuestOptions OptionsOf(const QSize& surface) {
     taviguest::GuestOptions options;
     options.surface = {surface.width(), surface.height()};
-    options.has_gamepad = true;  // made later, it would hold up the line that needs it
+    options.has_gamepad = true;  // made later, it would delay the line that needs it
     return options;
   }
 

@@ -11,10 +11,10 @@ namespace tavi {
 
 class TargetLink;
 
-// Why this build cannot make such devices, or nothing.
+// Why this build does not support such devices, or an empty string.
 QString UinputLinkProblem();
 
-// A link to devices with a touch surface of this size. Making them takes a while, in which nothing waits.
+// A link to devices with a touch surface of this size. Making them takes a while; nothing is blocked meanwhile.
 std::unique_ptr<TargetLink> MakeUinputLink(const QSize& surface);
 
 }  // namespace tavi

@@ -11,28 +11,28 @@ class QWidget;
 
 namespace tavi {
 
-// Puts docks away while a window is too small to show them beside the guest's screen, whose keys would not be told
-// apart otherwise, and brings them back when there is room again. A dock that a person opens in a small window stays.
-// The strip below the screen goes the same way.
+// Hides docks while a window is too small to show them beside a guest's screen whose keys can be told apart, and shows
+// them again when there is room. A dock that the user opens in a small window stays. The strip below the screen is
+// handled in the same way.
 //
 // Main thread.
 class DockFolder : public QObject {
   Q_OBJECT
 
  public:
-  // What the guest's screen needs beside docks, in pixels of the window.
+  // The size that the guest's screen needs beside docks, in pixels of the window.
   static constexpr int kLeastViewWidth = 680;
-  static constexpr int kLeastViewHeight = 384;  // of a screen of 16:9 that is as wide as above
+  static constexpr int kLeastViewHeight = 384;  // for a 16:9 screen of the width above
 
   explicit DockFolder(QMainWindow* window);
 
-  // The dock is the window's.
+  // The window owns the dock.
   void Add(QDockWidget* dock);
-  // Shows the strip below the guest's screen while there is room for both; not owned.
+  // Shows the strip below the guest's screen while there is room for both. Not owned.
   void SetStrip(QWidget* strip);
-  // Whether the dock is shown, or would be if there were room.
+  // Whether the dock is shown, or would be if there was room.
   bool IsWanted(const QDockWidget* dock) const;
-  // Shows a dock, as soon as there is room, or puts it away.
+  // Shows a dock as soon as there is room, or hides it.
   void SetWanted(QDockWidget* dock, bool wanted);
 
  protected:
@@ -42,7 +42,7 @@ class DockFolder : public QObject {
   struct Entry {
     QDockWidget* dock;
     bool is_crowded = false;  // the window is too small for it
-    bool is_folded = false;   // put away because of that
+    bool is_folded = false;   // hidden because of that
   };
 
   bool IsCrowded(const QDockWidget* dock) const;

@@ -20,7 +20,7 @@ ListDocks::ListDocks(QMainWindow* window, const Mapping* mapping)
   event_dock_ = Add(window, QStringLiteral("events"), new EventViewer(new EventLog(mapping)), Qt::BottomDockWidgetArea);
   event_dock_->setWindowTitle(QStringLiteral("Events of the host"));
   EventsShown()->setText(QStringLiteral("Events"));
-  EventsShown()->setToolTip(QStringLiteral("Show each event, what it matched and what went out because of it"));
+  EventsShown()->setToolTip(QStringLiteral("Show each event, what it matched and the lines that it produced"));
   event_dock_->hide();
 }
 

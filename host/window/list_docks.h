@@ -15,22 +15,22 @@ class DockFolder;
 class LineLog;
 class Mapping;
 
-// The docks with the lines for the guest and the events of the host, which a player shows and hides.
+// The docks with the lines for the guest and the host events, which the user shows and hides.
 //
 // Main thread.
 class ListDocks : public QObject {
   Q_OBJECT
 
  public:
-  // `mapping` tells what events match, and outlives the docks.
+  // `mapping` says what events match, and outlives the docks.
   ListDocks(QMainWindow* window, const Mapping* mapping);
 
   LineLog* Log() const { return log_; }
   QDockWidget* LogDock() const { return log_dock_; }
   QDockWidget* EventDock() const { return event_dock_; }
-  // Puts them away while the window is small.
+  // Hides them while the window is small.
   DockFolder* Folder() const { return folder_; }
-  // Each shows its dock and puts it away.
+  // Each of them shows and hides its dock.
   QAction* LogShown() const;
   QAction* EventsShown() const;
 

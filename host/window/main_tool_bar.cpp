@@ -20,7 +20,7 @@ MainToolBar::MainToolBar(const Parts& parts, QWidget* parent) : QToolBar(QString
   addSeparator();
   AddGuestButtons();
   ReachByTab(this);
-  toggleViewAction()->setVisible(false);  // it stays
+  toggleViewAction()->setVisible(false);  // always shown
 }
 
 void MainToolBar::AddKeymapButtons(const Parts& parts) {
@@ -38,7 +38,7 @@ void MainToolBar::AddSwitches(const Parts& parts) {
   overlay_ = AddSwitch(QStringLiteral("Keys"), QStringLiteral("Show the keymap over the guest"), true);
   connect(overlay_, &QAction::toggled, this, &MainToolBar::OverlayToggled);
   QAction* text = AddSwitch(QStringLiteral("Text field"),
-                            QStringLiteral("As if the guest had a text field focused: keys are typed"), false);
+                            QStringLiteral("Act as if a text field of the guest had the focus: keys are typed"), false);
   connect(text, &QAction::toggled, this, [](bool on) { LiveHost::GetInstance()->SetTextField(on); });
   addAction(parts.log);
   addAction(parts.events);
@@ -47,13 +47,13 @@ void MainToolBar::AddSwitches(const Parts& parts) {
 void MainToolBar::AddGuestButtons() {
   QAction* back = AddButton(QStringLiteral("Back"), QStringLiteral("Click the guest's back key"));
   connect(back, &QAction::triggered, this, [] { taviinputmanager::doBackAction(LiveHost::kDisplay); });
-  let_go_ = AddButton(QStringLiteral("Let go"), QString());
+  let_go_ = AddButton(QStringLiteral("Release all"), QString());
   addSeparator();
   AddMenuButton(QStringLiteral("Look"), new LookMenu(this));
 }
 
 void MainToolBar::TellPauseKey(const QString& name) {
-  mapping_on_->setToolTip(QStringLiteral("Off: keys and buttons reach the guest as what they are (%1)").arg(name));
+  mapping_on_->setToolTip(QStringLiteral("Off: keys and buttons pass through to the guest (%1)").arg(name));
 }
 
 void MainToolBar::TellPanicKey(const QString& name) {

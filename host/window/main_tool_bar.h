@@ -8,13 +8,13 @@ class QMenu;
 
 namespace tavi {
 
-// The upper row of buttons: keymaps, what is mapped and shown, what the guest is told. A click at them takes no
-// focus, so that the keys stay the guest's.
+// The upper row of buttons: keymaps, mapping, display options, and the back key. Clicking them moves no focus, so that
+// the keys still go to the guest.
 class MainToolBar : public QToolBar {
   Q_OBJECT
 
  public:
-  // What other parts of the window bring along; not owned.
+  // Actions of other parts of the window; not owned.
   struct Parts {
     QMenu* guest;
     QAction* edit;
@@ -24,13 +24,13 @@ class MainToolBar : public QToolBar {
 
   explicit MainToolBar(const Parts& parts, QWidget* parent = nullptr);
 
-  // On while the mapping is.
+  // Checked while the mapping is on.
   QAction* MappingOn() const { return mapping_on_; }
   QAction* LetGo() const { return let_go_; }
   // Shows the keymap over the guest.
   QAction* Overlay() const { return overlay_; }
 
-  // The keys that do the same, by their names.
+  // The names of the keys that do the same.
   void TellPauseKey(const QString& name);
   void TellPanicKey(const QString& name);
 

@@ -53,7 +53,7 @@ KeyCombination KeyOf(const char* name) {
   return key;
 }
 
-// The parts of a title, of which any may be missing, and the program.
+// The parts of a title, any of which may be missing, and the program's name.
 QString TitleOf(QStringList parts) {
   parts.removeAll(QString());
   parts += QStringLiteral("tavi");
@@ -109,7 +109,7 @@ MainWindow::MainWindow()
   connect(&keymap_, &ShownKeymap::FileChanged, this, [this] {
     if (!editor_->TakeFileChange()) LoadKeymap(keymap_.Path());
   });
-  // What is in use stays, but nobody is to be caught in its view control.
+  // The keymap in use stays, but view control ends: the user must be able to reach the desktop.
   connect(&keymap_, &ShownKeymap::FileVanished, this, [] { taviinputmanager::OnResetInputStatus(true, 0); });
   for (const ShownKeymap* keymap : {&keymap_, &joystick_keymap_}) {
     connect(keymap, &ShownKeymap::FileVanished, this, [this, keymap] { TellVanished(*keymap); });
@@ -123,13 +123,13 @@ MainWindow::MainWindow()
   taviinputmanager::UpdateReplayDisplayId(LiveHost::kDisplay);
   LoadJoystickKeymap(QString());
   display_->SetSize(host->GuestSize());
-  // What a guest without any contact is sent by way of a beginning is no news.
+  // The resets that a guest without contacts gets first are no news.
   connect(host, &LiveHost::EntryAdded, lists_->Log(), &LineLog::Add);
   view_->setFocus();
 }
 
 MainWindow::~MainWindow() {
-  view_->clearFocus();  // lets go of what is held while all that hears of it is there
+  view_->clearFocus();  // releases what is held while those who observe it still exist
 }
 
 QWidget* MainWindow::MakeCentre() {
@@ -199,7 +199,7 @@ void MainWindow::ClearLog() { lists_->Log()->Clear(); }
 
 void MainWindow::PauseMapping() { tools_->MappingOn()->setChecked(false); }
 
-// A dock that is asked for is shown in a small window, too.
+// A dock that the user asks for is shown in a small window, too.
 void MainWindow::ShowEvents() { lists_->EventDock()->show(); }
 
 void MainWindow::MakeEditor() {
@@ -232,7 +232,7 @@ void MainWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) status_->TellAgain();
 }
 
-// Edits and a recording that were never saved are asked for. What is down is lifted while it is recorded still.
+// Asks about unsaved edits and an unsaved recording. What is down is released while the recording still runs.
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!editor_->MayLeave()) return event->ignore();
   mapping_.LetGoOfEverything();
@@ -266,7 +266,7 @@ QString MainWindow::AskForKeymap(const QString& title, const ShownKeymap& before
   return path;
 }
 
-// Watched from before it is read, so that no change is missed.
+// Watched before it is read, so that no change is missed.
 void MainWindow::LoadKeymap(const QString& path) {
   keymap_.Watch(path);
   mapping_.Read(path);
@@ -277,15 +277,15 @@ void MainWindow::LoadKeymap(const QString& path) {
   ShowKeymaps();
   for (const QString& news : reserved_keys_.NewsOf(in_use.config.get())) Tell(news, true);
   editor_->Open(path, mapping_.Keymap().LastText());
-  ShowTitle();  // of what is edited from now on
+  ShowTitle();  // in the editor's version from now on
 }
 
 void MainWindow::TellVanished(const ShownKeymap& keymap) {
-  Tell(QStringLiteral("%1 is gone; the keymap stays in use as it was read last").arg(keymap.FileName()), true);
+  Tell(QStringLiteral("%1 was deleted; the keymap stays in use as it was last read").arg(keymap.FileName()), true);
   ShowKeymaps();
 }
 
-// What is edited is shown at once, and used when the editing is over.
+// Edits are shown at once, and used when editing ends.
 void MainWindow::ShowEdited() {
   KeymapDocument* document = editor_->Document();
   if (keymap_.Path() != document->Path()) keymap_.Watch(document->Path());
@@ -299,7 +299,7 @@ void MainWindow::ShowEdited() {
 
 void MainWindow::ShowTitle() {
   const bool is_modified = editor_->Document()->IsModified();
-  setWindowModified(false);  // a title without a place for it must not find it on
+  setWindowModified(false);  // a title without a placeholder must not find it in a name
   setWindowTitle(TitleOf({name_, mirrors_->TitlePart()}) + (is_modified ? QStringLiteral("[*]") : QString()));
   setWindowModified(is_modified);
 }
@@ -325,14 +325,13 @@ void MainWindow::LoadJoystickKeymap(const QString& path) {
   ShowKeymaps();
 }
 
-// What there is to do where nothing is on the screen.
+// What to do when the screen is empty.
 QString MainWindow::Hint() const {
   const KeymapDocument* document = editor_->Document();
   const bool can_begin = document->ItemCount() == 0 && document->Refusal().isEmpty();
-  if (editor_->IsOn() && can_begin)
-    return QStringLiteral("No items yet. Click with the right button where the first one is to be.");
+  if (editor_->IsOn() && can_begin) return QStringLiteral("No items yet. Right-click where you want the first one.");
   if (editor_->IsOn() || !keymap_.Path().isEmpty()) return {};
-  return QStringLiteral("No keymap. The left mouse button is a finger; Open\u2026 takes a keymap.");
+  return QStringLiteral("No keymap. The left mouse button is a finger; Open\u2026 loads a keymap.");
 }
 
 void MainWindow::ShowKeymaps() {

@@ -37,7 +37,7 @@ class ReplayDock;
 class StatusLine;
 class TargetButton;
 
-// The window of `tavi window`: the guest view with the keymap over it, what the guest has down, and the lines it got.
+// The window of `tavi window`: the guest view with the overlay, what is down in the guest, and the lines.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -45,17 +45,17 @@ class MainWindow : public QMainWindow {
   MainWindow();
   ~MainWindow() override;
 
-  // Puts the keymap at `path` to use and tells what is wrong with it; an empty path is no keymap.
+  // Loads the keymap at `path` and shows its diagnostics; an empty path is no keymap.
   void LoadKeymap(const QString& path);
-  // The same of the keymap of gamepads. Without one, gamepads reach the guest as they are.
+  // The same for the gamepad keymap. Without one, gamepads pass through to the guest.
   void LoadJoystickKeymap(const QString& path);
-  // Each asks for a file, and loads it.
+  // Each asks for a file and loads it.
   void OpenKeymap();
   void OpenJoystickKeymap();
-  // From now on the gamepads of this computer are the guest's while the window is in use.
+  // From now on this computer's gamepads control the guest while the window is active.
   void ReadGamepads();
-  // The keys that let go of everything, that pause the mapping and let it go on, and that lead to the controls. Few
-  // keyboards lack the ones that are taken by themselves, and hardly a game uses them.
+  // Sets the keys that release everything, that pause and resume the mapping, and that focus the controls. Most
+  // keyboards have the default ones, and hardly any game uses them.
   static constexpr char kPanicKey[] = "Ctrl+Alt+Backspace";
   static constexpr char kPauseKey[] = "F12";
   static constexpr char kControlsKey[] = "Ctrl+Alt+Enter";
@@ -64,12 +64,12 @@ class MainWindow : public QMainWindow {
   void SetControlsKey(const KeyCombination& key);
 
   void PauseMapping();
-  // Lifts what is down, and saves a recording or puts it aside, as it does with edits. Returns what a person is to know
-  // of, such as where these are.
+  // Releases what is down, and saves a recording and edits, elsewhere if necessary. Returns messages for the user, such
+  // as where these are.
   QStringList LeaveWithoutAsking();
-  // Tells the person at the bottom for a while; `is_problem`: something went wrong.
+  // Shows a message in the status bar for a while; `is_problem`: an error.
   void Tell(const QString& text, bool is_problem);
-  // Empties the list of the lines for the guest.
+  // Clears the list of the lines for the guest.
   void ClearLog();
 
   GuestView* View() const { return view_; }
@@ -82,20 +82,20 @@ class MainWindow : public QMainWindow {
   QAction* EventsShown() const { return lists_->EventsShown(); }
   void ShowEvents();
   KeymapEditor* Editor() const { return editor_; }
-  // The gamepads that the library is told of.
+  // The gamepads that the library knows.
   Gamepads* Pads() { return &pads_; }
   // The keymaps in use.
   Mapping* Keymaps() { return &mapping_; }
   MainToolBar* Tools() const { return tools_; }
-  // Puts docks away while the window is small.
+  // Hides docks while the window is small.
   DockFolder* Docks() const { return lists_->Folder(); }
-  // Those that the player shows and hides; which ones are shown is remembered.
+  // The docks that the user shows and hides; their visibility is remembered.
   QVector<QDockWidget*> RememberedDocks() const { return {lists_->LogDock(), lists_->EventDock()}; }
   QString JoystickKeymapPath() const { return joystick_keymap_.Path(); }
   QString PauseKeyName() const;
   QString PanicKeyName() const;
   QString ControlsKeyName() const;
-  // Shows those parts only that are in use, after the layout of another window was taken over.
+  // Shows only the parts that are in use, after the layout of another window was restored.
   void ShowPartsInUse();
 
  protected:
@@ -128,8 +128,8 @@ class MainWindow : public QMainWindow {
   GuestPanel* panel_;
   QAction* full_screen_;
   KeymapEditor* editor_ = nullptr;
-  KeymapSource edited_;  // the keymap as the editor has it
-  QString name_;         // of the keymap, for people
+  KeymapSource edited_;  // the editor's version of the keymap
+  QString name_;         // of the keymap, for display
   ShownKeymap keymap_;
   ShownKeymap joystick_keymap_;
   ListDocks* lists_ = nullptr;

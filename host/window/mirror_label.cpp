@@ -9,7 +9,7 @@ namespace tavi {
 namespace {
 
 QString SourcesText(int count, const QString& name) {
-  if (count == 0) return QStringLiteral("No instance sends lines to %1 any more").arg(name);
+  if (count == 0) return QStringLiteral("No instance sends lines to %1 anymore").arg(name);
   if (count == 1) return QStringLiteral("One instance sends its lines to %1").arg(name);
   return QStringLiteral("%1 instances send their lines to %2").arg(count).arg(name);
 }
@@ -17,15 +17,15 @@ QString SourcesText(int count, const QString& name) {
 }  // namespace
 
 MirrorLabel::MirrorLabel(QWidget* parent) : QLabel(parent) {
-  setToolTip(QStringLiteral("The instances that get the same lines, and how many send theirs"));
+  setToolTip(QStringLiteral("The instances that get the same lines, and how many send theirs here"));
   const MirrorTargets* targets = MirrorTargets::GetInstance();
   connect(targets, &MirrorTargets::Reached, this, [this](const QString& name) {
     ShowMirrors();
-    Q_EMIT Message(QStringLiteral("Lines go to %1, too").arg(name), false);
+    Q_EMIT Message(QStringLiteral("Lines also go to %1").arg(name), false);
   });
   connect(targets, &MirrorTargets::Lost, this, [this](const QString& name, const QString& problem) {
     ShowMirrors();
-    Q_EMIT Message(QStringLiteral("No more lines go to %1: %2").arg(name, problem), true);
+    Q_EMIT Message(QStringLiteral("Lines no longer go to %1: %2").arg(name, problem), true);
   });
   connect(targets, &MirrorTargets::TooLong, this, [this](int characters) {
     Q_EMIT Message(QStringLiteral("A text of %1 characters is too long for other instances").arg(characters), true);

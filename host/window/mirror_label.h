@@ -11,7 +11,7 @@ namespace tavi {
 
 class MirrorServer;
 
-// Tells which instances get the lines of this one, and how many send theirs; hidden while there are none.
+// Shows which instances get this window's lines, and how many send theirs; hidden while there are none.
 //
 // Main thread.
 class MirrorLabel : public QLabel {
@@ -21,25 +21,25 @@ class MirrorLabel : public QLabel {
   explicit MirrorLabel(QWidget* parent = nullptr);
   ~MirrorLabel() override;
 
-  // Listens to another instance's lines under this name. Returns what is wrong, or nothing.
+  // Listens under this name to other instances' lines. Returns the error, or an empty string.
   QString ListenAs(const QString& name);
-  // Carries what the guest gets to the instances of these names.
+  // Sends the guest's lines to the instances with these names.
   void MirrorTo(const QStringList& names);
 
-  // What tells this window from others of the same keymap; empty while it is in touch with none.
+  // Distinguishes this window from others with the same keymap; empty without a connection.
   QString TitlePart() const;
 
  Q_SIGNALS:
-  // The title is another one.
+  // The title has changed.
   void Changed();
-  // For the person; `is_problem`: something went wrong.
+  // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);
 
  private:
   void ShowMirrors();
 
   std::unique_ptr<MirrorServer> server_;
-  QString listens_as_;  // empty: to nobody
+  QString listens_as_;  // empty: nobody
   int sources_ = 0;
 };
 

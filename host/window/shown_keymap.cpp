@@ -38,7 +38,7 @@ QString ShownKeymap::Contents() const {
   const QString name = path_.isEmpty() ? QStringLiteral("New keymap") : FileName();
   const QString contents = QStringLiteral("%1 \u00B7 %2").arg(name, item_count_);
   const bool is_gone = !path_.isEmpty() && !watch_->IsThere();
-  return is_gone ? contents + QStringLiteral(" \u00B7 the file is gone") : contents;
+  return is_gone ? contents + QStringLiteral(" \u00B7 the file was deleted") : contents;
 }
 
 }  // namespace tavi

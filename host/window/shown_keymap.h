@@ -15,31 +15,31 @@ class KeymapSource;
 class KeymapWatch;
 class ReservedKeys;
 
-// One keymap as a window shows it: what it puts on the screen, what is wrong with it, and whether its file is there.
+// One keymap as a window shows it: its overlay, its diagnostics, and whether its file exists.
 //
 // Main thread.
 class ShownKeymap : public QObject {
   Q_OBJECT
 
  public:
-  // `subject` is what the keymap is called in a sentence that begins with it; `prefix` stands before the numbers of its
-  // findings.
+  // `subject` is the keymap's name at the start of a sentence; `prefix` precedes the numbers of its diagnostics.
   ShownKeymap(const QString& subject, const QString& prefix, QObject* parent = nullptr);
 
-  // Tells of changes of this file from now on; an empty path is none. Before it is read, so that no change is missed.
+  // Signals changes of this file from now on; an empty path is none. Call it before reading the file, so that no change
+  // is missed.
   void Watch(const QString& path);
-  // Takes in what was read, and what the window's own keys take from it.
+  // Takes the result of a read, and the diagnostics about the window's own keys.
   void Take(const KeymapSource& source, const ReservedKeys& reserved_keys);
 
   const QString& Path() const { return path_; }  // empty: none
-  // The name of the file, for people.
+  // The name of the file, for display.
   QString FileName() const;
-  // The file and how much is in it, for people.
+  // The file and the number of its items, for display.
   QString Contents() const;
   const QVector<OverlayMark>& Marks() const { return marks_; }
-  // Those that have a place on the screen.
+  // The diagnostics that have a point on the screen.
   const QVector<PlacedFinding>& PlacedFindings() const { return findings_; }
-  // Tells what is wrong. The window's layout owns it.
+  // Shows the diagnostics. The window's layout owns it.
   DiagnosticsPanel* Panel() const { return panel_; }
 
  Q_SIGNALS:
@@ -51,7 +51,7 @@ class ShownKeymap : public QObject {
   DiagnosticsPanel* panel_;
   KeymapWatch* watch_;
   QString path_;
-  QString item_count_;  // for people
+  QString item_count_;  // for display
   QVector<OverlayMark> marks_;
   QVector<PlacedFinding> findings_;
 };

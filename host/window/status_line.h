@@ -14,21 +14,20 @@ class MirrorLabel;
 class TargetButton;
 struct StateWord;
 
-// The line at the bottom of a window: the keymaps, or for a while what a person is told; then the state of the mapping,
-// other instances, gamepads, the guests that get the lines, the guest's display.
+// The status bar of a window: the keymaps, or for a while a message; then the state of the mapping, other instances,
+// gamepads, the guests that get the lines, and the guest's display.
 //
 // Main thread.
 class StatusLine : public QObject {
   Q_OBJECT
 
  public:
-  // The labels and the button become the bar's.
+  // The bar takes ownership of the labels and the button.
   StatusLine(QStatusBar* bar, MirrorLabel* mirrors, TargetButton* targets, QLabel* display);
 
-  // `is_problem`: something went wrong.
+  // `is_problem`: an error.
   void Tell(const QString& text, bool is_problem);
-  // What was told before the window was shown is told once more: a message takes the place of those labels that are
-  // seen.
+  // Repeats a message from before the window was shown: a message replaces only labels that are visible.
   void TellAgain();
   void ShowKeymaps(const QString& contents, const QString& paths);
   void ShowPads(const Gamepads& pads);

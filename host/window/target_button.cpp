@@ -12,10 +12,10 @@ using State = TargetStatus::State;
 
 namespace {
 
-constexpr int kRefreshMs = 1000;  // of lines a second and of pauses
+constexpr int kRefreshMs = 1000;  // of the line rate and of delays
 constexpr int kLongestName = 40;  // of a target, in characters; commands may be of any length
 
-// Names in menus have keys of their own behind "&".
+// In menus, "&" marks a mnemonic.
 QString ShortName(const TargetStatus& status, const QFontMetrics& metrics) {
   QString name = metrics.elidedText(status.name, Qt::ElideMiddle, kLongestName * metrics.averageCharWidth());
   return name.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -41,7 +41,7 @@ TargetButton::TargetButton(GuestTargets* targets, QWidget* parent)
 
 void TargetButton::Add(const TargetAddress& address) { targets_->Add(address); }
 
-// One target is told in full, of several how many get their lines; the menu has each.
+// A single target is described in full; of several, the number of connected ones. The menu describes each.
 void TargetButton::ShowStates() {
   const int count = targets_->Count();
   setVisible(count > 0);

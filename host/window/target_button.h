@@ -12,21 +12,21 @@ namespace tavi {
 
 class GuestTargets;
 
-// Tells how the targets of this window's lines are, and has a menu to switch each off and on and to try it again;
-// hidden while there are none. A click leaves the keys the guest's; Tab comes by.
+// Shows the state of this window's targets, with a menu to turn each off and on and to retry it; hidden while there are
+// none. Clicking it leaves the focus with the guest; Tab reaches it.
 //
 // Main thread.
 class TargetButton : public QToolButton {
   Q_OBJECT
 
  public:
-  // `targets` are not owned, and outlive it.
+  // `targets` is not owned, and outlives the button.
   explicit TargetButton(GuestTargets* targets, QWidget* parent = nullptr);
 
   void Add(const TargetAddress& address);
 
  Q_SIGNALS:
-  // For the person; `is_problem`: something went wrong.
+  // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);
 
  private:

@@ -21,7 +21,7 @@ namespace tavi {
 namespace {
 
 constexpr QSize kFirstSize(1360, 760);
-constexpr QSize kFrame(8, 40);  // what a window system puts around a window, at most
+constexpr QSize kFrame(8, 40);  // of the frame that a window system adds, at most
 constexpr int kVersion = 1;     // of the docks and tool bars
 
 constexpr char kSize[] = "window/size";
@@ -38,7 +38,7 @@ QString AbsolutePath(const QString& path) { return path.isEmpty() ? path : QFile
 
 QSize RoomFor(const QWidget& window) { return window.screen()->availableSize() - kFrame; }
 
-// As the help of `tavi window` calls them, without the dashes.
+// As the help of `tavi window` names them, without the dashes.
 QMap<QString, QString> OptionsOf(const MainWindow& window) {
   const LiveHost* host = LiveHost::GetInstance();
   const QSize size = host->GuestSize();

@@ -14,31 +14,31 @@ namespace tavi {
 
 class MainWindow;
 
-// What a window remembers from one start to the next, in a file of the user's: its size, its docks, the keymap, and the
-// options that it was used with, as a command line writes them.
+// What a window remembers between sessions, in a file of the user: its size, its docks, the keymap, and the options in
+// the format of a command line.
 //
 // Main thread.
 class WindowMemory {
  public:
   // The file of this user.
   static QString UsualFile();
-  // As large as a window usually is at its first start, or as a screen with this much room allows.
+  // The usual size of a window at its first start, or as much as fits on a screen with this much room.
   static QSize FirstSize(const QSize& available);
 
-  // An empty name: nothing is remembered, and nothing is kept.
+  // With an empty name nothing is restored or stored.
   explicit WindowMemory(const QString& file);
   ~WindowMemory();
   WindowMemory(const WindowMemory&) = delete;
   WindowMemory& operator=(const WindowMemory&) = delete;
 
-  // Empty when there was none, or when it is gone.
+  // Empty if there was none, or if it was deleted.
   QString Keymap() const;
-  // Options with their values; files that are gone are left out.
+  // Options with their values; files that were deleted are left out.
   QMap<QString, QString> Options() const;
-  // Gives a window the size, the docks and the switches that the last one had, as far as the screen has room.
+  // Restores the size, the docks and the switches of the last window, as far as the screen has room.
   void Restore(MainWindow* window) const;
 
-  // Writes down how the window is left.
+  // Stores the window's current state.
   void Save(const MainWindow& window);
 
  private:

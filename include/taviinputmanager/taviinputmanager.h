@@ -34,7 +34,7 @@
 //   before the lines of the last action. The main thread may do anything meanwhile, including recording.
 // - On a replay's thread a host may call only the functions listed in the section Replay.
 // - GetTouchRect and GetDisplayRotation are also called on the thread of a zoom run.
-// - UpdateRecordTimestamp lets exceptions of its JSON parser through.
+// - UpdateRecordTimestamp does not catch the exceptions of its JSON parser.
 // - A host that loads a keymap, resets input or changes the display from inside one of its own functions may crash; see
 //   Re-entrancy.
 //
@@ -174,10 +174,10 @@ TAVI_EXPORT RecordStatus GetRecordStatus();
 TAVI_EXPORT void StartRecord(const QString& package, const QString& app);
 // Stops recording and saves the record to `filename` as UTF-8 JSON. The callback `stopped` reports the result. A record
 // of nothing but lifted contacts is not saved. An existing file is replaced entirely or not at all: a complete copy of
-// the new content, named `filename` plus ".tavi-copy-" and six letters, lies beside it until the new content is on the
-// disk. If the program or the machine dies before that, the copy remains until the next complete save of that file.
-// Where no copy can be made, as in a write-protected folder, the file is overwritten without one. UpdateRecordTimestamp
-// and MergeRecord write in the same way.
+// the new content, named `filename` plus ".tavi-copy-" and six letters, exists beside it until the new content is on
+// the disk. If the program or the machine crashes before that, the copy remains until the next complete save of that
+// file. Where no copy can be made, as in a write-protected folder, the file is overwritten without one.
+// UpdateRecordTimestamp and MergeRecord write in the same way.
 TAVI_EXPORT void StopRecord(const QString& package_name, const QString& filename);
 // Pauses the recording. What happens until ResumeRecord is not recorded, and its time is cut out.
 TAVI_EXPORT void PauseRecord();
@@ -187,7 +187,7 @@ TAVI_EXPORT void ResumeRecord();
 // "1" as `extra1` the record is saved even if it holds nothing else.
 TAVI_EXPORT void AddVControlCommand(const QString& data, const QString& extra1, const QString& extra2);
 // Sets the creation time in a record file to now. Everything else in it stays, including unknown keys. Any thread.
-// Throws what the JSON parser (Poco) throws.
+// Throws the exceptions of the JSON parser (Poco).
 TAVI_EXPORT void UpdateRecordTimestamp(const QString& filename);
 // Starts to capture host events as lines of the macro language under `name`. Event lines are not recorded meanwhile.
 TAVI_EXPORT void StartRecordMacroInstruction(QString name);

@@ -28,7 +28,7 @@ namespace taviinputmanager {
 // What the mouse currently does. See OnInputStatusChanged.
 enum class InputStatus : int {
   Normal = 0,      // the keymap has no Staring item
-  Staring = 1,     // relative mouse counts steer the view
+  Staring = 1,     // relative mouse counts turn the view
   StaringOff = 2,  // the keymap has a Staring item, which is off: the cursor is free
   Observing = 3,   // an Observe key is held while Staring is off
 };
@@ -43,7 +43,7 @@ enum class RecordStatus : int {
 // How a replay is played.
 struct ReplayParam {
   double speed_ratio = 1.0;     // 1 is normal speed, above 1 is faster
-  bool emulation_mode = false;  // positions vary a little, as a hand's would
+  bool emulation_mode = false;  // positions vary a little, like those of a human hand
 };
 
 // Sends event lines. `data` holds `length` bytes of UTF-8 including the final newline, followed by a NUL that `length`

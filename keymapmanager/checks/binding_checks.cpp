@@ -10,7 +10,7 @@ namespace {
 
 namespace kw = keywords;
 
-// The types that each device's events can start; a keyboard starts every other.
+// The types that events of each device can start; a keyboard starts every other type.
 const QStringList& WheelTypes() {
   static const QStringList types{kw::kTypeClick, kw::kTypeBunchClick, kw::kTypeStaring,          kw::kTypeMacro,
                                  kw::kTypeZoom,  kw::kTypeCurve,      kw::kTypeOperationRecorder};
@@ -28,7 +28,7 @@ bool IsWheel(const ConfigKey& key) {
   return key.device == kw::kDeviceMouse && (key.scancode == kWheelUpCode || key.scancode == kWheelDownCode);
 }
 
-// Key identity as a text.
+// The identity of a key as a text.
 QString IdOf(const ConfigKey& key) {
   if (!IsKeySet(key)) return {};
   const bool is_pad = key.device == kw::kDeviceJoystick;
@@ -74,7 +74,7 @@ void BindingChecks::Run() {
 
 void BindingChecks::Collect() {
   for (const SourcedItem& sourced : items_) {
-    if (sourced.item->type == kw::kTypeTip) continue;  // a label answers to no key
+    if (sourced.item->type == kw::kTypeTip) continue;  // a label has no key
     for (const Field& field : sourced.table->fields) {
       if (!IsKeyField(field)) continue;
       const Binding binding = BindingOf(sourced, field);
@@ -83,8 +83,8 @@ void BindingChecks::Collect() {
   }
 }
 
-// A file is loaded as the keymap of keyboard and mouse, or as that of the gamepad; keys of the other answer to nothing.
-// The device with more keys is the one that is meant; of as many, the first.
+// A file is loaded either as the keymap of keyboard and mouse, or as that of the gamepad; keys of the other device have
+// no effect. The device with more keys is the intended one; if equal, the first.
 void BindingChecks::CheckMixedDevices() {
   const auto is_pad = [](const Binding& binding) { return binding.key.device == kw::kDeviceJoystick; };
   const auto pads = std::count_if(bindings_.begin(), bindings_.end(), is_pad);
@@ -94,11 +94,11 @@ void BindingChecks::CheckMixedDevices() {
   const auto stray = std::find_if(bindings_.begin(), bindings_.end(),
                                   [&](const Binding& binding) { return is_pad(binding) != is_pads_keymap; });
   const QString message = is_pads_keymap ? QStringLiteral(
-                                               "'%1' does nothing in a gamepad's keymap; keyboard and mouse have a "
-                                               "keymap of their own")
+                                               "'%1' has no effect in a gamepad keymap; put it in the one for "
+                                               "keyboard and mouse")
                                          : QStringLiteral(
-                                               "'%1' does nothing in a keymap of keyboard and mouse; a gamepad has a "
-                                               "keymap of its own");
+                                               "'%1' has no effect in a keymap for keyboard and mouse; put it in the "
+                                               "gamepad keymap");
   diagnostics_->Warning(stray->span, message.arg(NameOf(*stray)));
 }
 
@@ -109,38 +109,39 @@ void BindingChecks::CheckTwice(const Binding& binding) {
     lines_.insert(id, binding.span.line);
     return;
   }
-  diagnostics_->Warning(binding.span, QStringLiteral("'%1' is bound a second time; it does what line %2 says")
-                                          .arg(NameOf(binding), QString::number(*found)));
+  diagnostics_->Warning(
+      binding.span,
+      QStringLiteral("'%1' is bound twice; line %2 takes precedence").arg(NameOf(binding), QString::number(*found)));
 }
 
-// The first key of a chord waits for the second only while nothing takes it.
+// The first key of a chord waits for the second only if no item uses it.
 void BindingChecks::CheckChord(const Binding& binding) {
   const bool is_keyboard = binding.first_key.device == kw::kDeviceKeyboard && binding.key.device == kw::kDeviceKeyboard;
   if (!is_keyboard) {
-    diagnostics_->Warning(binding.span, QStringLiteral("a chord answers to two keys of the keyboard only"));
+    diagnostics_->Warning(binding.span, QStringLiteral("a chord must consist of two keyboard keys"));
     return;
   }
   if (IsSameKey(binding.first_key, binding.key)) {
-    diagnostics_->Warning(binding.span, QStringLiteral("a chord has two different keys"));
+    diagnostics_->Warning(binding.span, QStringLiteral("the two keys of a chord must differ"));
     return;
   }
   Binding alone;
   alone.key = binding.first_key;
   const auto found = lines_.constFind(IdOf(alone));
   if (found == lines_.constEnd()) return;
-  diagnostics_->Warning(binding.span, QStringLiteral("this chord never answers: line %1 takes '%2' alone")
-                                          .arg(*found)
-                                          .arg(NameOfKey(binding.first_key)));
+  diagnostics_->Warning(
+      binding.span,
+      QStringLiteral("this chord never works: line %1 uses '%2' alone").arg(*found).arg(NameOfKey(binding.first_key)));
 }
 
 void BindingChecks::CheckDevice(const Binding& binding) {
   const QString& type = binding.type;
   if (binding.key.device == kw::kDeviceJoystick) {
     if (PadTypes().contains(type)) return;
-    diagnostics_->Warning(binding.span, QStringLiteral("a gamepad starts no %1").arg(type));
+    diagnostics_->Warning(binding.span, QStringLiteral("a gamepad cannot start %1 items").arg(type));
   } else if (IsWheel(binding.key)) {
     if (WheelTypes().contains(type)) return;
-    diagnostics_->Warning(binding.span, QStringLiteral("the wheel starts no %1").arg(type));
+    diagnostics_->Warning(binding.span, QStringLiteral("the wheel cannot start %1 items").arg(type));
   } else {
     CheckMouse(binding);
   }
@@ -151,12 +152,13 @@ void BindingChecks::CheckMouse(const Binding& binding) {
   const bool is_left = is_mouse && binding.key.scancode == Qt::LeftButton;
   const bool is_fire = binding.type == kw::kTypeFire;
   if (is_fire && !is_left) {
-    diagnostics_->Warning(binding.span, QStringLiteral("only 'Mouse Left' starts a Fire"));
+    diagnostics_->Warning(binding.span, QStringLiteral("only 'Mouse Left' can start a Fire"));
   } else if (is_left && !is_fire) {
-    diagnostics_->Warning(binding.span,
-                          QStringLiteral("'Mouse Left' starts no %1: it touches, or starts a Fire").arg(binding.type));
+    diagnostics_->Warning(
+        binding.span,
+        QStringLiteral("'Mouse Left' cannot start %1 items: it touches, or starts a Fire").arg(binding.type));
   } else if (binding.type == kw::kTypeRightWalk && !is_mouse) {
-    diagnostics_->Warning(binding.span, QStringLiteral("only a mouse button starts a RightWalk"));
+    diagnostics_->Warning(binding.span, QStringLiteral("only a mouse button can start a RightWalk"));
   }
 }
 

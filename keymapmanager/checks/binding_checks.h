@@ -1,4 +1,4 @@
-// Keys of items that cannot work: bound twice, or where nothing asks for them.
+// Item keys that cannot work: bound twice, or on a device that cannot start the item.
 #ifndef KEYMAPMANAGER_CHECKS_BINDING_CHECKS_H_
 #define KEYMAPMANAGER_CHECKS_BINDING_CHECKS_H_
 
@@ -10,7 +10,7 @@
 
 namespace tavikeymapmanager {
 
-// A key, or the two of a chord, and the field that writes it.
+// A key, or the two keys of a chord, and its field.
 struct Binding {
   QString type;  // of the item
   ConfigKey first_key;
@@ -34,7 +34,7 @@ class BindingChecks {
 
   const SourcedItems& items_;
   DiagnosticList* diagnostics_;  // not owned
-  QVector<Binding> bindings_;    // in the order of matching
+  QVector<Binding> bindings_;    // in matching order
   QHash<QString, int> lines_;    // where each key and chord is bound first
 };
 

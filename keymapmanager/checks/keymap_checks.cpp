@@ -30,7 +30,7 @@ bool IsVirtualJoystick(const QString& type) {
 void KeymapChecks::Run() {
   BindingChecks(items_, diagnostics_).Run();
   for (const SourcedItem& sourced : items_) {
-    if (sourced.is_good) CheckItem(sourced);  // of a broken item it is not known what it says
+    if (sourced.is_good) CheckItem(sourced);  // of an invalid item nothing is known
   }
   CheckVirtualJoystick();
 }
@@ -55,7 +55,7 @@ void KeymapChecks::CheckFire(const SourcedItem& sourced) {
   if (HasItem(kw::kTypeStaring)) return;
   diagnostics_->Warning(
       sourced.node->span,
-      QStringLiteral("a Fire item answers while view control is on, and no Staring item switches it on"));
+      QStringLiteral("a Fire item only works during view control, but no Staring item switches that on"));
 }
 
 void KeymapChecks::CheckSpellCancel(const SourcedItem& sourced) {
@@ -69,7 +69,7 @@ void KeymapChecks::CheckSpell(const SourcedItem& sourced, const SpellConfigItem&
   const bool needs_inner = spell.touch_location == kw::kLocationInnerSwipehold;
   if (needs_inner && !has_inner) {
     diagnostics_->Warning(sourced.SpanOf(QStringLiteral("touch_location")),
-                          QStringLiteral("nothing aims: there is no '%1'").arg(inner));
+                          QStringLiteral("nothing aims: '%1' is missing").arg(inner));
   }
   if (has_inner && !needs_inner) {
     diagnostics_->Warning(
@@ -79,7 +79,7 @@ void KeymapChecks::CheckSpell(const SourcedItem& sourced, const SpellConfigItem&
   const bool needs_walk = needs_inner || spell.touch_location == kw::kLocationSwipehold;
   if (needs_walk && !HasItem(kw::kTypeSwipehold)) {
     diagnostics_->Warning(sourced.SpanOf(QStringLiteral("touch_location")),
-                          QStringLiteral("the walk aims, and no Swipehold item walks"));
+                          QStringLiteral("the walk aims, but there is no Swipehold item"));
   }
   if (!needs_walk) CheckSpellAim(sourced, spell);
 }
@@ -92,16 +92,15 @@ void KeymapChecks::CheckSpellAim(const SourcedItem& sourced, const SpellConfigIt
                         QStringLiteral("the mouse cannot aim without 'circle_size' and 'swipe_radius' above 0"));
 }
 
-// A run of one tick touches and does not move, and the next follows at once.
+// A run of one tick touches without moving, and the next follows at once.
 void KeymapChecks::CheckRun(const SourcedItem& sourced, int duration_ms, int tick_ms) {
   if (duration_ms >= tick_ms) return;
-  diagnostics_->Warning(
-      sourced.SpanOf(QStringLiteral("duration_ms")),
-      QStringLiteral("this %1 taps without a pause and moves nothing: 'duration_ms' is %2, and has to "
-                     "be %3 or more")
-          .arg(sourced.item->type)
-          .arg(duration_ms)
-          .arg(tick_ms));
+  diagnostics_->Warning(sourced.SpanOf(QStringLiteral("duration_ms")),
+                        QStringLiteral("this %1 taps without a pause and moves nothing: 'duration_ms' is %2, but must "
+                                       "be %3 or more")
+                            .arg(sourced.item->type)
+                            .arg(duration_ms)
+                            .arg(tick_ms));
 }
 
 void KeymapChecks::CheckVirtualJoystick() {

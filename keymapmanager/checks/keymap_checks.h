@@ -1,4 +1,4 @@
-// What a file may well say and its author cannot have meant: warnings.
+// Warnings about keymaps that are valid but cannot be intended.
 #ifndef KEYMAPMANAGER_CHECKS_KEYMAP_CHECKS_H_
 #define KEYMAPMANAGER_CHECKS_KEYMAP_CHECKS_H_
 
@@ -10,7 +10,7 @@ namespace tavikeymapmanager {
 
 struct SpellConfigItem;
 
-// Looks at the items of one keymap, after all of them are read.
+// Checks the items of one keymap, after all of them have been read.
 class KeymapChecks {
  public:
   KeymapChecks(const SourcedItems& items, const WheelSettings& wheel, DiagnosticList* diagnostics)

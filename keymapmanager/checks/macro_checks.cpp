@@ -10,6 +10,7 @@
 #include "keymapmanager/fields/record_reader.h"
 #include "keymapmanager/nearest_word.h"
 #include "keymapmanager/yaml/yaml_scalar.h"
+#include "qt/numbers.h"
 
 namespace tavikeymapmanager {
 
@@ -25,7 +26,7 @@ QStringList AllWords() {
   return words;
 }
 
-// The row of a word with or without an argument; a word that only stands the other way round gives that row.
+// The row of a command word with or without an argument; if the word exists only in the other form, that row.
 const MacroWord* FindWord(const QString& word, bool has_argument) {
   const MacroWord* found = nullptr;
   for (const MacroWord& row : kMacroWords) {
@@ -38,13 +39,13 @@ const MacroWord* FindWord(const QString& word, bool has_argument) {
 
 bool IsInteger(const QString& text) {
   bool is_number = false;
-  text.toInt(&is_number);
+  qt::ToInt(text, &is_number);
   return is_number;
 }
 
-// The negative time of a pause; the timer behind it would never fire.
+// A negative pause; its timer would never fire.
 bool IsEndlessPause(MacroVerb verb, const QString& argument) {
-  return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && argument.toInt() < 0;
+  return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && qt::ToInt(argument) < 0;
 }
 
 bool HasBlank(const QString& text) {
@@ -57,7 +58,7 @@ bool IsNumber(const QString& text) {
   return is_number;
 }
 
-// The numbers of "(x,y)" that are not both 0; nothing for any other text.
+// The numbers of "(x,y)", unless both are 0; nothing for any other text.
 std::optional<QPointF> PointOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("\\A\\(([^,()]+),([^,()]+)\\)\\z"));
   const QRegularExpressionMatch match = form.match(text);
@@ -70,13 +71,13 @@ std::optional<QPointF> PointOf(const QString& text) {
 
 bool IsOnDisplay(const QPointF& point) { return point.x() >= 0 && point.x() <= 1 && point.y() >= 0 && point.y() <= 1; }
 
-// What is wrong with the point of a command; empty for a good one.
+// The error in the point of a command; empty if there is none.
 QString FaultOfPoint(const QString& text) {
   if (text == QLatin1String("mouse")) return {};
   const std::optional<QPointF> point = PointOf(text);
   if (!point) {
     const QString hint = HasBlank(text) ? QStringLiteral(", without blanks around it") : QString();
-    return QStringLiteral("'%1' is no point; a point is (x,y), not (0,0), or mouse%2").arg(Shown(text), hint);
+    return QStringLiteral("'%1' is not a point; a point is (x,y), not (0,0), or mouse%2").arg(Shown(text), hint);
   }
   if (IsOnDisplay(*point)) return {};
   return QStringLiteral("'%1' is outside the display: x and y are fractions from 0 to 1, not pixels").arg(Shown(text));
@@ -114,7 +115,7 @@ void MacroChecks::CheckCommand(const YamlNode& node) {
     return;
   }
   const QString form =
-      expected == 1 ? QStringLiteral("takes no argument") : QStringLiteral("takes one argument behind ':'");
+      expected == 1 ? QStringLiteral("takes no argument") : QStringLiteral("takes one argument after ':'");
   diagnostics_->Warning(node.span, QStringLiteral("'%1' %2").arg(word, form));
 }
 
@@ -129,10 +130,10 @@ void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, cons
   switch (row.argument) {
     case MacroArgument::kInteger:
       if (IsEndlessPause(row.verb, argument)) {
-        diagnostics_->Warning(node.span, QStringLiteral("'%1': a negative time stops the macro for ever").arg(word));
+        diagnostics_->Warning(node.span, QStringLiteral("'%1': a negative time stops the macro forever").arg(word));
       }
       if (IsInteger(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no whole number").arg(word, Shown(argument)));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is not a whole number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kIntegerOrWord:
       if (IsInteger(argument) || argument == QLatin1String(row.argument_word)) return;
@@ -141,7 +142,7 @@ void MacroChecks::CheckArgument(const YamlNode& node, const MacroWord& row, cons
       return;
     case MacroArgument::kNumber:
       if (IsNumber(argument)) return;
-      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is no number").arg(word, Shown(argument)));
+      diagnostics_->Warning(node.span, QStringLiteral("'%1': '%2' is not a number").arg(word, Shown(argument)));
       return;
     case MacroArgument::kPoint: CheckPoints(node, argument, false); return;
     case MacroArgument::kPoints: CheckPoints(node, argument, true); return;
@@ -166,7 +167,7 @@ void MacroChecks::CheckLoop(const YamlNode& node, const QString& word, const Mac
   }
   if (word == kStartLoop) {
     if (loop_.start != nullptr) {
-      diagnostics_->Warning(node.span, QStringLiteral("loops do not nest: this one ends the one before"));
+      diagnostics_->Warning(node.span, QStringLiteral("loops do not nest: this one ends the previous one"));
     }
     loop_ = Loop();
     loop_.start = &node;
@@ -184,7 +185,7 @@ void MacroChecks::CloseLoop(const YamlNode& node) {
     diagnostics_->Warning(loop_.start->span, QStringLiteral("a loop of fewer than two commands runs once"));
   } else if (loop_.is_endless && !loop_.has_pause) {
     diagnostics_->Warning(loop_.start->span,
-                          QStringLiteral("this loop never ends and stops all input: put a 'sleep' in it"));
+                          QStringLiteral("this loop never ends and blocks all input: put a 'sleep' in it"));
   }
   loop_ = Loop();
 }

@@ -1,4 +1,4 @@
-// What the macro language would skip in silence.
+// Checks for what the macro language would skip silently.
 #ifndef KEYMAPMANAGER_CHECKS_MACRO_CHECKS_H_
 #define KEYMAPMANAGER_CHECKS_MACRO_CHECKS_H_
 
@@ -14,16 +14,16 @@ class MacroChecks {
  public:
   explicit MacroChecks(DiagnosticList* diagnostics) : diagnostics_(diagnostics) {}
 
-  // The commands of a list field of an item that was read without errors.
+  // The commands in a list field of a valid item.
   void Check(const YamlNode& item, const QString& field);
 
  private:
-  // A loop that is open.
+  // An open loop.
   struct Loop {
     const YamlNode* start = nullptr;
     int commands = 0;
     bool has_pause = false;
-    bool is_endless = false;  // until the key comes up
+    bool is_endless = false;  // until the key is released
   };
 
   void CheckCommand(const YamlNode& node);

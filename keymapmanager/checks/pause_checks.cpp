@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kLongestPauseMs = 2000;
 
-// Sleeps between the steps of a slide. Both come from files, a minute and a thousand at most.
+// The sleeps between the steps of a slide. Both values come from files, at most a minute and a thousand.
 int SlideMs(int steps, int step_ms) { return std::max(0, steps - 1) * step_ms; }
 
 int PauseOfSpell(const SpellConfigItem& spell) {
@@ -32,7 +32,7 @@ int PauseOfLeftStickWalk(const JoystickLeftWalkConfigItem& walk) {
   return std::max(start, stop);
 }
 
-// The gap is slept through by the press that comes too early; with a rest on the centre there is no gap.
+// A press that comes too early sleeps for the rest of the gap; with a rest on the centre there is no gap.
 int PauseOfSwipehold(const SwipeholdConfigItem& walk) { return walk.hold_center_ms == 0 ? walk.press_gap_ms : 0; }
 
 // The longest time that a press or release of the item sleeps.
@@ -50,7 +50,7 @@ void PauseChecks::Check(const SourcedItem& sourced) {
   const int pause_ms = PauseOf(sourced.item.get());
   if (pause_ms <= kLongestPauseMs) return;
   diagnostics_->Warning(sourced.node->span,
-                        QStringLiteral("this %1 stops all input for %2 ms: its steps and delays add up")
+                        QStringLiteral("this %1 blocks all input for %2 ms: its steps and delays add up")
                             .arg(sourced.item->type)
                             .arg(pause_ms));
 }

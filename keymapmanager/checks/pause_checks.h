@@ -1,4 +1,4 @@
-// Items that hold up the program.
+// Warns of items that block the program.
 #ifndef KEYMAPMANAGER_CHECKS_PAUSE_CHECKS_H_
 #define KEYMAPMANAGER_CHECKS_PAUSE_CHECKS_H_
 
@@ -7,13 +7,13 @@
 
 namespace tavikeymapmanager {
 
-// Casts and walks sleep between their steps, and all input waits. Warns of an item that would do so for longer than
-// anybody can have meant: two seconds.
+// Casts and walks sleep between their steps, and all other input waits. Warns of an item that would block for longer
+// than anyone can intend: two seconds.
 class PauseChecks {
  public:
   explicit PauseChecks(DiagnosticList* diagnostics) : diagnostics_(diagnostics) {}
 
-  // An item that was read without errors.
+  // A valid item.
   void Check(const SourcedItem& sourced);
 
  private:

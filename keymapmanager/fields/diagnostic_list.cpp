@@ -7,7 +7,7 @@ namespace tavikeymapmanager {
 namespace {
 
 constexpr int kMostDiagnostics =
-    1000;  // no author reads on, and a broken file of full size would make 100 times as many
+    1000;  // no author reads more, and an invalid file of maximum size would produce 100 times as many
 
 bool IsBefore(const Diagnostic& a, const Diagnostic& b) {
   return a.line != b.line ? a.line < b.line : a.column < b.column;
@@ -27,7 +27,7 @@ void DiagnosticList::Warning(const YamlSpan& span, const QString& message) {
 bool DiagnosticList::IsFull() const { return diagnostics_.size() >= kMostDiagnostics; }
 
 void DiagnosticList::Add(Diagnostic::Severity severity, const YamlSpan& span, const QString& message) {
-  // An error after the last place still takes it, so that a file with errors never looks like one without.
+  // An error after the last place still replaces a warning, so that a file with errors never looks like one without.
   if (IsFull() && (severity == Diagnostic::Severity::kWarning || error_count_ > 1)) return;
   Diagnostic diagnostic;
   diagnostic.severity = severity;
@@ -45,7 +45,7 @@ QVector<Diagnostic> DiagnosticList::Sorted() const {
   std::stable_sort(sorted.begin(), sorted.end(), IsBefore);
   if (sorted.size() < kMostDiagnostics) return sorted;
   Diagnostic more = sorted.last();
-  more.message = QStringLiteral("a thousand are told; any others are left out");
+  more.message = QStringLiteral("only the first thousand are shown");
   sorted += more;
   return sorted;
 }

@@ -1,4 +1,4 @@
-// Where the reader's findings are gathered.
+// Collects the reader's diagnostics.
 #ifndef KEYMAPMANAGER_FIELDS_DIAGNOSTIC_LIST_H_
 #define KEYMAPMANAGER_FIELDS_DIAGNOSTIC_LIST_H_
 
@@ -17,13 +17,13 @@ class DiagnosticList {
   void Error(const YamlSpan& span, const QString& message);
   void Warning(const YamlSpan& span, const QString& message);
 
-  // To see whether a step found errors: compare before and after.
+  // To find out whether a step had errors: compare before and after.
   int ErrorCount() const { return error_count_; }
-  // No warning that is found from here on would be told.
+  // Further warnings would be dropped.
   bool IsFull() const;
-  // Nor any error: a reader may stop.
+  // Further errors would be dropped too: the reader may stop.
   bool HasEnough() const { return IsFull() && error_count_ > 0; }
-  // In the order of the file. A hopeless file ends with a word that there is more.
+  // In the order of the file. A list that is full ends with a note that there are more.
   QVector<Diagnostic> Sorted() const;
 
  private:

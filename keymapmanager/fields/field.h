@@ -1,7 +1,7 @@
-// The fields of records as data: what a file may write, what it means, and where in the record it goes.
+// The fields of records as data: their values in a file, their meaning, and their place in the record.
 //
-// One row of a table says everything that is known of a field. The reader, the check for unknown names, the help for
-// misspelt ones and the JSON Schema all read that row, so that a new field is a new row.
+// One row of a table contains everything about a field. The reader, the check for unknown names, the suggestions for
+// misspelt names and the JSON Schema all use that row, so that a new field is a new row.
 #ifndef KEYMAPMANAGER_FIELDS_FIELD_H_
 #define KEYMAPMANAGER_FIELDS_FIELD_H_
 
@@ -24,7 +24,7 @@
 
 namespace tavikeymapmanager {
 
-// Where the value lies in a record.
+// The place of the value in a record.
 struct PairTarget {
   double* x;
   double* y;
@@ -38,7 +38,7 @@ using FieldTarget = std::variant<bool*, int*, double*, QString*, QPointF*, QSize
 
 using RecordRef = std::variant<ConfigItem*, KeymapSettings*, WheelSettings*>;
 
-// The record as the class that declares a member of it. The reference holds an object of that class.
+// The record as the class that declares the member. The reference must refer to an object of that class.
 template <typename Record>
 Record& RecordAs(const RecordRef& record) {
   if constexpr (std::is_base_of_v<ConfigItem, Record>) {
@@ -52,7 +52,7 @@ struct Field : FieldInfo {
   std::function<FieldTarget(const RecordRef&)> target;
 };
 
-// Rows of tables, one function a kind.
+// Create the rows of tables, one function for each kind.
 template <typename Record, typename Value>
 Field MakeField(FieldKind kind, const char* name, Value Record::*member, const char* doc) {
   Field field;
@@ -89,7 +89,7 @@ Field Word(const char* name, QString Record::*member, const QStringList& words, 
   return field;
 }
 
-// A pair that the record keeps as a QPointF or QSizeF.
+// A pair that the record stores as a QPointF or QSizeF.
 template <typename Record, typename Value>
 Field Pair(const char* name, Value Record::*member, Range range, const char* doc) {
   Field field = MakeField(FieldKind::kPair, name, member, doc);
@@ -97,7 +97,7 @@ Field Pair(const char* name, Value Record::*member, Range range, const char* doc
   return field;
 }
 
-// A pair that the record keeps as two doubles.
+// A pair that the record stores as two doubles.
 template <typename Record>
 Field Pair(const char* name, double Record::*x, double Record::*y, Range range, const char* doc) {
   Field field;
@@ -126,11 +126,11 @@ inline Field Required(Field field) {
   return field;
 }
 
-// A record and its fields, in the order of the reference.
+// A record and its fields, in the order of docs/keymap.md.
 struct RecordTable {
-  const Field* Find(const QString& name) const {
+  const Field* Find(const QString& wanted) const {
     for (const Field& field : fields) {
-      if (field.name == name) return &field;
+      if (field.name == wanted) return &field;
     }
     return nullptr;
   }
@@ -138,8 +138,8 @@ struct RecordTable {
   QString name;  // an item's type; "settings", "wheel"
   QString doc;
   QVector<Field> fields;
-  QVector<QStringList> at_least_one;                    // groups of which a record must write at least one
-  std::function<std::unique_ptr<ConfigItem>()> create;  // a new item with its defaults; settings have none
+  QVector<QStringList> at_least_one;                    // groups of which a record must have at least one field
+  std::function<std::unique_ptr<ConfigItem>()> create;  // creates a new item with its defaults; settings have none
 };
 
 }  // namespace tavikeymapmanager

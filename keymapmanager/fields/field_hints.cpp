@@ -13,7 +13,7 @@ namespace tavikeymapmanager {
 namespace {
 
 constexpr int kMostTypesNamed = 3;
-constexpr double kLargestFraction = 2;  // ranges of fractions end here at the latest; what lies beyond is pixels
+constexpr double kLargestFraction = 2;  // the maximum of any range of fractions; larger values are pixels
 
 QStringList TypesWith(const QString& field) {
   QStringList types;
@@ -30,7 +30,7 @@ QString Joined(QStringList names) {
   return names.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
 }
 
-// Where a field of that exact name belongs; empty for a name that no place knows.
+// Where a field of that exact name belongs; empty for an unknown name.
 QString HomeOf(const QString& name) {
   for (const RecordTable* table : {&SettingsTable(), &WheelTable()}) {
     if (table->name == name) return QStringLiteral("; it belongs at the top of the file");
@@ -66,7 +66,7 @@ QString HintForNumber(const FieldInfo& field, const YamlNode& node) {
   if (node.kind != YamlNode::Kind::kScalar) return {};
   const QRegularExpressionMatch match = comma.match(node.text);
   if (match.hasMatch()) {
-    return QStringLiteral("; the decimal sign is a point: %1.%2").arg(match.captured(1), match.captured(2));
+    return QStringLiteral("; the decimal separator is a point: %1.%2").arg(match.captured(1), match.captured(2));
   }
   const auto number = NumberOf(node);
   const bool is_fraction = field.kind != FieldKind::kInteger && field.range.max <= kLargestFraction;
@@ -78,8 +78,8 @@ QString DescribePair(const YamlNode& node) {
   const std::vector<YamlNode>& numbers = node.children;
   const bool has_commas = numbers.size() == 3 || numbers.size() == 4;  // in one of the numbers, or in both
   if (node.kind != YamlNode::Kind::kSequence || !has_commas || !AreWholeNumbers(numbers)) return Describe(node);
-  if (numbers.size() == 3) return QStringLiteral("three numbers; the decimal sign is a point: 0.5");
-  return QStringLiteral("four numbers; the decimal sign is a point: [%1.%2, %3.%4]")
+  if (numbers.size() == 3) return QStringLiteral("three numbers; the decimal separator is a point: 0.5");
+  return QStringLiteral("four numbers; the decimal separator is a point: [%1.%2, %3.%4]")
       .arg(numbers[0].text, numbers[1].text, numbers[2].text, numbers[3].text);
 }
 

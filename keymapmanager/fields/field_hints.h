@@ -1,4 +1,4 @@
-// What the author of a wrong field or number most likely meant: ends of messages.
+// Suggests what the author of an invalid field or number probably meant: the ends of messages.
 #ifndef KEYMAPMANAGER_FIELDS_FIELD_HINTS_H_
 #define KEYMAPMANAGER_FIELDS_FIELD_HINTS_H_
 
@@ -10,14 +10,14 @@
 
 namespace tavikeymapmanager {
 
-// For a field that has no meaning at its place: where it has one, else the nearest of the fields `known` there. Empty
-// when nothing comes near.
+// For a field that is not valid here: where it is valid, otherwise the closest of the fields `known` here. Empty if
+// none is close.
 QString HintForField(const QString& name, const QStringList& known);
 
-// For a number that a field does not take: a decimal comma, or pixels in place of a fraction. Empty for others.
+// For a number that a field does not accept: a decimal comma, or pixels instead of a fraction. Empty for others.
 QString HintForNumber(const FieldInfo& field, const YamlNode& node);
 
-// What is written where [x, y] is expected; tells two numbers with decimal commas, which YAML reads as four.
+// What was found in place of [x, y]; detects two numbers with decimal commas, which YAML reads as four.
 QString DescribePair(const YamlNode& node);
 
 }  // namespace tavikeymapmanager

@@ -1,4 +1,4 @@
-// Keys that play a gamepad for a guest that expects one.
+// Items whose keys operate the virtual gamepad, for guests that expect one.
 #include "keymap/swipehold_config_item.h"
 #include "keymap/virtual_joystick_bunch_button_config_item.h"
 #include "keymap/virtual_joystick_button_config_item.h"

@@ -7,12 +7,12 @@
 
 namespace tavikeymapmanager {
 
-constexpr Range kFraction{0, 1};       // of the display's width or height
-constexpr Range kRadius{0.001, 1};     // a circle of no size has no directions
+constexpr Range kFraction{0, 1};       // relative to the display's width or height
+constexpr Range kRadius{0.001, 1};     // a circle without a size has no directions
 constexpr Range kOffset{-1, 1};        // between two points
-constexpr Range kTimeMs{0, 60000};     // a minute: anything longer is a slip of the pen
+constexpr Range kTimeMs{0, 60000};     // a minute: anything longer is a mistake
 constexpr Range kStepCount{1, 1000};   // of a slide
-constexpr Range kStepCount0{0, 1000};  // where 0 means that there is none
+constexpr Range kStepCount0{0, 1000};  // where 0 means none
 constexpr Range kSteering{-1000, 1000};
 
 template <typename Item>
@@ -33,7 +33,7 @@ inline Field PointField(const char* doc) {
   return Required(Pair("point", &ConfigItem::rel_x, &ConfigItem::rel_y, kFraction, doc));
 }
 
-// The point of an item that touches nothing: only overlays ask where it stands.
+// The point of an item that touches nothing: only overlays use it.
 inline Field OverlayPointField() {
   return Pair("point", &ConfigItem::rel_x, &ConfigItem::rel_y, kFraction, "where an overlay shows the key");
 }

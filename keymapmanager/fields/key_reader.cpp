@@ -12,7 +12,7 @@ namespace {
 
 const QString kChordSign = QStringLiteral(" + ");
 
-// The name of a key in a scalar. A digit is a number to YAML and a key to people.
+// The name of a key from a scalar. A digit is a number for YAML but a key for the author.
 QString KeyNameOf(const YamlNode& node) {
   if (const auto text = TextOf(node)) return *text;
   const auto number = NumberOf(node);
@@ -42,7 +42,7 @@ void KeyReader::ReadKey(const YamlNode& node, ConfigKey* key) {
   ConfigKey read;
   const QString name = KeyNameOf(node);
   if (name.contains(kChordSign) && !name.startsWith(kPadPrefix)) {
-    Fail(node, QStringLiteral("expected one key; a chord cannot stand here"));
+    Fail(node, QStringLiteral("expected one key, not a chord"));
     return;
   }
   if (ReadAny(node, &read) && !RefuseStick(node, read)) *key = read;
@@ -93,7 +93,7 @@ bool KeyReader::ReadName(const YamlNode& node, const QString& name, ConfigKey* k
 // One key of a chord.
 bool KeyReader::ReadButton(const YamlNode& node, const QString& name, ConfigKey* key) {
   if (!name.startsWith(kPadPrefix)) return ReadName(node, name, key);
-  return Fail(node, QStringLiteral("a pair of a gamepad's buttons is one key, written 'Pad A+B'"));
+  return Fail(node, QStringLiteral("a pair of gamepad buttons is one key, written 'Pad A+B'"));
 }
 
 bool KeyReader::ReadCode(const YamlNode& node, ConfigKey* key) {
@@ -119,7 +119,7 @@ bool KeyReader::ReadScan(const YamlNode& node, ConfigKey* key) {
 bool KeyReader::ReadPad(const YamlNode& node, ConfigKey* key) {
   const auto text = TextOf(node);
   if (!text || text->isEmpty()) {
-    return Fail(node, QStringLiteral("expected the host's name of a gamepad's button, got %1").arg(Describe(node)));
+    return Fail(node, QStringLiteral("expected the host's name of a gamepad button, got %1").arg(Describe(node)));
   }
   *key = JoystickKey(*text);
   return true;
@@ -128,18 +128,18 @@ bool KeyReader::ReadPad(const YamlNode& node, ConfigKey* key) {
 bool KeyReader::RefuseStick(const YamlNode& node, const ConfigKey& key) {
   if (!IsStick(key)) return false;
   const bool is_left = key.text == keywords::kLeftStick;
-  Fail(node, QStringLiteral("a stick is no button; only a %1 item answers to this one")
+  Fail(node, QStringLiteral("a stick is not a button; only a %1 item can use this one")
                  .arg(is_left ? keywords::kTypeLeftStickWalk : keywords::kTypeRightStickEye));
   return true;
 }
 
-// A gamepad's names are the host's, so that an unknown one may be right.
+// The host defines the names of a gamepad, so an unknown name may be correct.
 void KeyReader::WarnOfUnusualPad(const YamlNode& node, const ConfigKey& key) {
   for (const QString& part : key.text.split(QLatin1Char('+'))) {
     if (IsUsualPadText(part)) continue;
-    diagnostics_->Warning(node.span,
-                          QStringLiteral("no gamepad has a button '%1' as a rule%2; {pad: %1} names it all the same")
-                              .arg(part, DidYouMean(part, PadNames())));
+    diagnostics_->Warning(
+        node.span, QStringLiteral("'%1' is not a usual gamepad button%2; {pad: %1} is accepted without a warning")
+                       .arg(part, DidYouMean(part, PadNames())));
   }
 }
 

@@ -1,4 +1,4 @@
-// The values of key fields.
+// Reads the values of key fields.
 #ifndef KEYMAPMANAGER_FIELDS_KEY_READER_H_
 #define KEYMAPMANAGER_FIELDS_KEY_READER_H_
 
@@ -8,17 +8,17 @@
 
 namespace tavikeymapmanager {
 
-// A key is written by its name, as a digit, as {scan: 200} or as {pad: "the host's name"}. What cannot be read is
-// reported and leaves the key as it was.
+// A key is written as its name, as a digit, as {scan: 200} or as {pad: "the host's name"}. An invalid value is reported
+// and leaves the key unchanged.
 class KeyReader {
  public:
   explicit KeyReader(DiagnosticList* diagnostics) : diagnostics_(diagnostics) {}
 
-  // One key that is no stick.
+  // One key that is not a stick.
   void ReadKey(const YamlNode& node, ConfigKey* key);
   // The same, or a chord, which sets both keys.
   void ReadChord(const YamlNode& node, ConfigKey* first_key, ConfigKey* key);
-  // The one stick of that name.
+  // The only stick with that name.
   void ReadStick(const YamlNode& node, const QString& name, ConfigKey* key);
 
  private:

@@ -18,7 +18,7 @@ namespace {
 constexpr size_t kMatrixSize = 16;
 constexpr size_t kFewestPoints = 2;
 
-bool IsInRange(double value, const Range& range) { return value >= range.min && value <= range.max; }  // no NaN
+bool IsInRange(double value, const Range& range) { return value >= range.min && value <= range.max; }  // not NaN
 
 QString NumberText(double value) { return QString::number(value, 'g', QLocale::FloatingPointShortest); }
 
@@ -67,7 +67,7 @@ QString ExpectationOf(const Field& field) {
     case FieldKind::kFlag: return QStringLiteral("expected true or false");
     case FieldKind::kInteger: return QStringLiteral("expected a whole number ") + RangeText(field.range);
     case FieldKind::kNumber: return QStringLiteral("expected a number ") + RangeText(field.range);
-    case FieldKind::kPadButton: return QStringLiteral("expected the name of a gamepad's button");
+    case FieldKind::kPadButton: return QStringLiteral("expected the name of a gamepad button");
     case FieldKind::kWord: return QStringLiteral("expected one of ") + field.words.join(QStringLiteral(", "));
     case FieldKind::kPair: return QStringLiteral("expected [x, y], both ") + RangeText(field.range);
     case FieldKind::kKey:
@@ -134,7 +134,7 @@ void RecordReader::ReadField(const Field& field, const YamlNode& node, const Rec
     case FieldKind::kMatrix: is_good = ReadMatrix(field, node, std::get<QString*>(target)); break;
     case FieldKind::kWalk: is_good = ReadWalk(node, std::get<SwipeholdConfigItem*>(target)); break;
   }
-  if (is_good || diagnostics_->ErrorCount() != errors_before) return;  // told already, at a place within
+  if (is_good || diagnostics_->ErrorCount() != errors_before) return;  // reported already, at a position within it
   const QString got = field.kind == FieldKind::kPair ? DescribePair(node) : Describe(node);
   diagnostics_->Error(
       node.span,
@@ -164,7 +164,7 @@ bool RecordReader::ReadNumber(const Field& field, const YamlNode& node, double* 
 bool RecordReader::ReadWord(const Field& field, const YamlNode& node, QString* value) {
   const auto read = TextOf(node);
   if (!read) return false;
-  const int index = field.words.indexOf(*read);
+  const auto index = field.words.indexOf(*read);
   if (index >= 0) {
     *value = field.words[index];  // the shared constant
     return true;
@@ -201,10 +201,10 @@ bool RecordReader::ReadCommands(const Field& field, const YamlNode& node, QStrin
       continue;
     }
     const bool is_spaced = child.kind == YamlNode::Kind::kMapping;
-    diagnostics_->Error(child.span,
-                        QStringLiteral("'%1': expected a command, got %2%3")
-                            .arg(field.name, Describe(child),
-                                 is_spaced ? QStringLiteral("; no space behind the colon: 'sleep:20'") : QString()));
+    diagnostics_->Error(
+        child.span, QStringLiteral("'%1': expected a command, got %2%3")
+                        .arg(field.name, Describe(child),
+                             is_spaced ? QStringLiteral("; write no space after the colon: 'sleep:20'") : QString()));
   }
   *value = commands;
   return true;

@@ -1,4 +1,4 @@
-// Fields of a file into fields of records, by the tables.
+// Reads the fields of a file into the fields of records, by the tables.
 #ifndef KEYMAPMANAGER_FIELDS_RECORD_READER_H_
 #define KEYMAPMANAGER_FIELDS_RECORD_READER_H_
 
@@ -8,18 +8,18 @@
 
 namespace tavikeymapmanager {
 
-// The value of a field; null when the mapping has none of that name.
+// The value of a field; null if the mapping has no field with that name.
 const YamlNode* FindValue(const YamlNode& mapping, const QString& name);
 
-// "expected a number from 0 to 1": what a field takes, for messages.
+// "expected a number from 0 to 1": the values that a field accepts, for messages.
 QString ExpectationOf(const Field& field);
 
 class RecordReader {
  public:
   explicit RecordReader(DiagnosticList* diagnostics) : diagnostics_(diagnostics) {}
 
-  // Fills `record` from the mapping `node`. Fields in `also_known` are somebody else's. Reports every unknown, missing
-  // and wrong field; a wrong one leaves the record's value as it was.
+  // Fills `record` from the mapping `node`. Fields in `also_known` are read elsewhere. Reports every unknown, missing
+  // and invalid field; an invalid one leaves the record's value unchanged.
   void Read(const RecordTable& table, const YamlNode& node, const QStringList& also_known, const RecordRef& record);
 
  private:

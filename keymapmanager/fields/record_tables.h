@@ -1,4 +1,4 @@
-// Every record that a keymap file can write.
+// Every record that a keymap file can contain.
 #ifndef KEYMAPMANAGER_FIELDS_RECORD_TABLES_H_
 #define KEYMAPMANAGER_FIELDS_RECORD_TABLES_H_
 
@@ -12,13 +12,13 @@ namespace tavikeymapmanager {
 const RecordTable& SettingsTable();
 const RecordTable& WheelTable();
 
-// One for each item type, in the order of the reference.
+// One for each item type, in the order of docs/keymap.md.
 const QVector<RecordTable>& ItemTables();
 // The table of an item type; null for an unknown one.
 const RecordTable* FindItemTable(const QString& type);
 QStringList ItemTypes();
 
-// Parts of ItemTables, by what the items are about.
+// The parts of ItemTables, by topic.
 QVector<RecordTable> TouchItemTables();
 QVector<RecordTable> WalkItemTables();
 QVector<RecordTable> ViewItemTables();

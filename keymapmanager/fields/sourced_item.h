@@ -1,4 +1,4 @@
-// An item of a keymap with the place that it was read from.
+// An item of a keymap with its position in the file.
 #ifndef KEYMAPMANAGER_FIELDS_SOURCED_ITEM_H_
 #define KEYMAPMANAGER_FIELDS_SOURCED_ITEM_H_
 
@@ -12,7 +12,7 @@
 namespace tavikeymapmanager {
 
 struct SourcedItem {
-  // The place of a field that the file writes, else that of the item.
+  // The position of a field, or that of the item if the field is absent.
   const YamlSpan& SpanOf(const QString& field) const;
 
   std::unique_ptr<ConfigItem> item;

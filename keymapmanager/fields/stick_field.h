@@ -1,4 +1,4 @@
-// Items that a gamepad's stick drives: their key is that stick and need not be written.
+// Items for a gamepad's stick: their key is that stick and may be omitted.
 #ifndef KEYMAPMANAGER_FIELDS_STICK_FIELD_H_
 #define KEYMAPMANAGER_FIELDS_STICK_FIELD_H_
 

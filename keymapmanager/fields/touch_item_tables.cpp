@@ -1,4 +1,4 @@
-// Items that put fingers on fixed points: taps, curves, slides and pinches; and the labels.
+// Items that touch fixed points: taps, curves, slides and pinches; and the labels.
 #include "keymap/bunch_click_config_item.h"
 #include "keymap/curve_config_item.h"
 #include "keymap/tip_config_item.h"

@@ -1,4 +1,4 @@
-// Items that turn the view, and the fire button that borrows the mouse from them.
+// Items that turn the view, and the fire button that takes the mouse from them.
 #include "keymap/eye_config_item.h"
 #include "keymap/fire_config_item.h"
 #include "keymap/gravity_config_item.h"
@@ -17,7 +17,7 @@ namespace kw = keywords;
 
 constexpr Range kStaringPercent{1, 1000};
 constexpr Range kKeySpeed{0, 1000};
-constexpr Range kViewRange{0, 2};  // may reach beyond the display
+constexpr Range kViewRange{0, 2};  // may extend beyond the display
 
 const char kRangeModeDoc[] =
     "where the finger can move before it is lifted and put back on the centre: anywhere; within `range_size`, clipped "

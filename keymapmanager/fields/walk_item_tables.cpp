@@ -1,4 +1,4 @@
-// Items that walk: by four keys, by the right mouse button, by a gamepad's stick.
+// Items that walk: with four keys, with the right mouse button, with a gamepad's stick.
 #include "keymap/joystick_left_walk_config_item.h"
 #include "keymap/mouse_right_walk_config_item.h"
 #include "keymap/swipehold_config_item.h"

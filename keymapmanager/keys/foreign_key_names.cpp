@@ -7,7 +7,7 @@ namespace tavikeymapmanager {
 namespace {
 
 struct ForeignName {
-  const char* word;  // in small letters, without blanks, hyphens and underscores
+  const char* word;  // in lower case, without blanks, hyphens and underscores
   const char* name;
 };
 

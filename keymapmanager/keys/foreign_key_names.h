@@ -1,4 +1,4 @@
-// What keys are called elsewhere: in other programs, on keycaps, by people.
+// The names of keys in other programs, on keycaps and in everyday language.
 #ifndef KEYMAPMANAGER_KEYS_FOREIGN_KEY_NAMES_H_
 #define KEYMAPMANAGER_KEYS_FOREIGN_KEY_NAMES_H_
 
@@ -6,8 +6,8 @@
 
 namespace tavikeymapmanager {
 
-// Our name of the key that is called `word` elsewhere; of a pair of keys, the left one. Case, blanks, hyphens and
-// underscores do not count. Empty for a word that no row has. Any thread.
+// Our name of the key that is elsewhere named `word`; for a pair of keys, the left one. Case, blanks, hyphens and
+// underscores do not matter. Empty for an unknown word. Any thread.
 QString KeyNameFromElsewhere(const QString& word);
 
 }  // namespace tavikeymapmanager

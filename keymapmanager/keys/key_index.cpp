@@ -22,7 +22,7 @@ void KeyIndex::AddKeyboardKey(const KeyboardKeyRow& row) {
   const QString name = qt::Lasting(QString::fromLatin1(row.name));
   keyboard_names_[row.scancode] = name;
   virtual_keys_[row.scancode] = row.virtual_key;
-  // Two keys share a virtual key (Enter): the first is meant.
+  // Two keys share a virtual key (Enter): the first is used.
   if (!names_by_virtual_key_.contains(row.virtual_key)) names_by_virtual_key_.insert(row.virtual_key, name);
   names_ += name;
   keys_.insert(name, KeyboardKey(row.scancode));

@@ -1,9 +1,9 @@
-// The table of keys, indexed by code and by name. Made on first use, constant from then on: any thread.
+// The table of keys, indexed by code and by name. Created on first use and then constant: any thread.
 #ifndef KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 #define KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 
-#include <array>
 #include <optional>
+#include <utility>
 
 #include <QHash>
 #include <QString>
@@ -16,18 +16,23 @@ namespace tavikeymapmanager {
 
 class KeyIndex {
  public:
-  // Never destroyed, as its texts are never freed.
+  // Never destroyed, because its texts are never freed.
   static const KeyIndex& Get() {
     static const auto* const index = new KeyIndex;
     return *index;
   }
 
-  // The key of a name or alias, gamepads and `Scan 200` apart.
+  // The key with a name or alias, except gamepads and `Scan 200`.
   std::optional<ConfigKey> Find(const QString& name) const;
-  // The keyboard's key of a scan code from 0 to 511.
+  // Implements CreateConfigKey.
+  ConfigKey MakeKey(QString device, int virtual_key, int scancode) const {
+    const QString& text = TextOf(device, virtual_key, scancode);
+    return {std::move(device), text, virtual_key, scancode};
+  }
+  // The keyboard key with a scan code from 0 to 511.
   ConfigKey KeyboardKey(int scancode) const;
-  // The shared name of a key by its codes: the scan code, or, where that is unset, the virtual key. Empty for a
-  // gamepad's key and for codes that no key has.
+  // The shared name of a key by its codes: the scan code, or, if that is unset, the virtual key. Empty for a gamepad
+  // key and for unknown codes.
   const QString& TextOf(const QString& device, int virtual_key, int scancode) const {
     if (IsSameText(device, keywords::kDeviceKeyboard)) return KeyboardText(virtual_key, scancode);
     return MouseText(device, scancode);
@@ -45,11 +50,11 @@ class KeyIndex {
     return scancode == kUnsetCode ? TextOfVirtualKey(virtual_key) : no_name_;
   }
   const QString& TextOfVirtualKey(int virtual_key) const;
-  // Of a mouse's key or a wheel's; empty for other devices.
+  // Of a mouse button or wheel direction; empty for other devices.
   const QString& MouseText(const QString& device, int scancode) const;
 
-  std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` where the table has none
-  std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 where the table has none
+  QString keyboard_names_[kScancodeCount];  // by scan code; `Scan <code>` if it is not in the table
+  int virtual_keys_[kScancodeCount] = {};   // by scan code; 0 if it is not in the table
   QHash<int, QString> names_by_virtual_key_;
   QHash<int, QString> mouse_names_;
   QHash<QString, ConfigKey> keys_;

@@ -86,7 +86,7 @@ constexpr KeyboardKeyRow kKeyboardKeys[] = {
     {75, 0x64, "Numpad 4", nullptr},
     {76, 0x65, "Numpad 5", nullptr},
     {77, 0x66, "Numpad 6", nullptr},
-    {78, 0x6B, "Numpad Plus", nullptr},  // "+" stands between the keys of a chord
+    {78, 0x6B, "Numpad Plus", nullptr},  // "+" separates the keys of a chord
     {79, 0x61, "Numpad 1", nullptr},
     {80, 0x62, "Numpad 2", nullptr},
     {81, 0x63, "Numpad 3", nullptr},

@@ -23,7 +23,7 @@ struct MouseKeyRow {
 // A button, hat direction or stick of a gamepad.
 struct PadKeyRow {
   QString text;  // the host's name, which is the key's text
-  QString name;  // what stands behind `Pad `
+  QString name;  // the text after `Pad `
 };
 
 // Scan codes have nine bits.
@@ -39,7 +39,7 @@ struct RowRange {
   const Row* last;
 };
 
-// Each key once, scan codes without repetition.
+// Each key once, without duplicate scan codes.
 RowRange<KeyboardKeyRow> KeyboardKeys();
 // Without the extra buttons, whose names are numbered: `Mouse Side 1` is the first.
 RowRange<MouseKeyRow> MouseKeys();

@@ -1,4 +1,4 @@
-// A gamepad's names: what a file calls a button, and what the host does.
+// Names of gamepad buttons: in a file, and by the host.
 #ifndef KEYMAPMANAGER_KEYS_PAD_NAMES_H_
 #define KEYMAPMANAGER_KEYS_PAD_NAMES_H_
 
@@ -7,17 +7,17 @@
 
 namespace tavikeymapmanager {
 
-// Stands before a gamepad's names where keys of all devices are named.
+// Precedes the names of a gamepad if keys of all devices are named.
 inline const QString kPadPrefix = QStringLiteral("Pad ");
 
-// The host's name of one button: an arrow for `Up`; any name that is not in the table stands for itself.
+// The host's name of one button: an arrow for `Up`; a name that is not in the table is the host's.
 QString PadTextFromName(const QString& name);
 QString PadNameFromText(const QString& text);
 
 // The names of the table.
 QStringList PadNames();
-// Whether a host's name of one button is among those that gamepads have as a rule: the table's, and the numbers of
-// buttons on gamepads without lettering.
+// Whether a host's name of one button is a usual one: a name of the table, or a number of a button on a gamepad without
+// letters.
 bool IsUsualPadText(const QString& text);
 
 }  // namespace tavikeymapmanager

@@ -9,13 +9,13 @@ namespace {
 
 constexpr int kMaxDepth = 64;
 
-// What the most common mistakes look like to the parser, and what their author should look for.
+// The parser's messages for the most common mistakes, and what the author should look for.
 struct Hint {
   const char* problem;
   const char* hint;
 };
 constexpr Hint kHints[] = {
-    {"mapping values are not allowed in this context", "a text that holds ': ' needs quotes"},
+    {"mapping values are not allowed in this context", "a text that contains ': ' needs quotes"},
     {"found character that cannot start any token",
      "indent with spaces; a text that begins with @, ` or % needs quotes"},
     {"could not find expected ':'", "a field is written as name, ':' and a space"},
@@ -55,12 +55,13 @@ class Event {
   yaml_event_t event_{};
 };
 
-// Pulls events and builds the tree. Recursion goes no deeper than kMaxDepth.
+// Pulls events and builds the tree. The recursion is at most kMaxDepth deep.
 class Parser {
  public:
   Parser(const QByteArray& text, YamlError* error) : text_(text), error_(error) {
     yaml_parser_initialize(&parser_);
-    yaml_parser_set_input_string(&parser_, reinterpret_cast<const unsigned char*>(text.constData()), text.size());
+    yaml_parser_set_input_string(&parser_, reinterpret_cast<const unsigned char*>(text.constData()),
+                                 static_cast<size_t>(text.size()));
   }
   Parser(const Parser&) = delete;
   Parser& operator=(const Parser&) = delete;
@@ -91,7 +92,7 @@ bool Parser::ParseDocument(YamlNode* root) {
   Event content, document_end, next;
   if (!Next(&content) || !ParseNode(content, 1, root) || !Next(&document_end) || !Next(&next)) return false;
   if (next->type == YAML_STREAM_END_EVENT) return true;
-  return Fail(next.span(), QStringLiteral("a second document begins here; a keymap file holds one"));
+  return Fail(next.span(), QStringLiteral("a second document begins here; a keymap file contains only one"));
 }
 
 bool Parser::Next(Event* event) { return yaml_parser_parse(&parser_, event->get()) != 0 || FailAtProblem(); }
@@ -129,7 +130,7 @@ bool Parser::ParseChildren(yaml_event_type_t end, int depth, YamlNode* node) {
     if (!Next(&event)) return false;
     if (event->type == end) {
       node->in_brackets = event.begin() != event.end();
-      if (!node->in_brackets) {  // a block ends where the next thing begins: no place worth telling
+      if (!node->in_brackets) {  // a block ends where the next text begins, which is not a useful position
         if (!node->children.empty()) node->end = node->children.back().end;
         return true;
       }
@@ -181,10 +182,10 @@ bool Parser::FailAtProblem() {
   return Fail(SpanOf(parser_.problem_mark, parser_.problem_mark), message);
 }
 
-// The reader has no marks of its own: counts lines, and characters of UTF-8, up to a byte.
+// The reader has no marks: counts lines and UTF-8 characters up to a byte.
 YamlSpan Parser::SpanOfByte(size_t offset) const {
   YamlSpan span;
-  const auto end = text_.begin() + std::min<size_t>(offset, text_.size());
+  const auto end = text_.begin() + std::min(offset, static_cast<size_t>(text_.size()));
   for (auto byte = text_.begin(); byte != end; ++byte) {
     const bool is_continuation = (static_cast<unsigned char>(*byte) & 0xC0) == 0x80;
     if (*byte == '\n') {

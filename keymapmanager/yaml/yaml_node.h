@@ -1,4 +1,4 @@
-// A YAML document as a tree in which every node knows its place.
+// A YAML document as a tree in which every node has its position.
 #ifndef KEYMAPMANAGER_YAML_YAML_NODE_H_
 #define KEYMAPMANAGER_YAML_YAML_NODE_H_
 
@@ -14,7 +14,7 @@ namespace tavikeymapmanager {
 struct YamlSpan {
   int line = 1;
   int column = 1;
-  int end_line = 1;  // behind the last character
+  int end_line = 1;  // after the last character
   int end_column = 1;
 };
 
@@ -23,11 +23,11 @@ struct YamlNode {
 
   Kind kind = Kind::kScalar;
   YamlSpan span;
-  int begin = 0;                   // in the text, in characters from 0, a byte order mark left out
-  int end = 0;                     // behind the last character; of a block, that of its last child
-  bool in_brackets = false;        // a sequence or mapping of one line's style: [a, b], {a: b}
+  int begin = 0;                   // in the text, in characters from 0, without a byte order mark
+  int end = 0;                     // after the last character; for a block, that of its last child
+  bool in_brackets = false;        // a sequence or mapping in flow style: [a, b], {a: b}
   QString text;                    // of a scalar
-  bool quoted = false;             // a scalar in quotes or a block of text: never a number or a keyword of YAML
+  bool quoted = false;             // a quoted or block scalar: never a number or a YAML keyword
   std::vector<YamlNode> keys;      // of a mapping, all scalars; keys[i] names children[i]
   std::vector<YamlNode> children;  // of a sequence or mapping
 };
@@ -37,9 +37,9 @@ struct YamlError {
   QString message;
 };
 
-// Reads the one document of `text`; an empty document is a null scalar. On a syntax error gives nothing and fills
-// `error`. Refused beside what YAML refuses: aliases, tags, a second document, names of fields that are no scalars, and
-// nesting deeper than 64 levels, whose cost grows faster than its length.
+// Parses the only document of `text`; an empty document is a null scalar. On a syntax error returns nothing and sets
+// `error`. In addition to invalid YAML, it refuses aliases, tags, a second document, field names that are not scalars,
+// and nesting of more than 64 levels, because its cost grows faster than its length.
 std::optional<YamlNode> ParseYaml(const QByteArray& text, YamlError* error);
 
 }  // namespace tavikeymapmanager

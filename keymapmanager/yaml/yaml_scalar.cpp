@@ -55,7 +55,7 @@ ScalarType PlainTypeOf(const QString& text) {
   return IsFloat(text) ? ScalarType::kFloat : ScalarType::kText;
 }
 
-// In doubles: past 2^53 it is rounded, past all it is infinite, and no field reaches so far.
+// In doubles: larger values than 2^53 are rounded, huge ones are infinite, and no field accepts them.
 double DigitsToNumber(const QString& digits, int base) {
   double value = 0;
   for (const QChar digit : digits) value = value * base + QString(digit).toInt(nullptr, base);

@@ -1,4 +1,4 @@
-// What a scalar means: the core schema of YAML 1.2, in which `yes`, `On`, `010` and `1:30` are no special forms.
+// The value of a scalar in the core schema of YAML 1.2, in which `yes`, `On`, `010` and `1:30` have no special meaning.
 #ifndef KEYMAPMANAGER_YAML_YAML_SCALAR_H_
 #define KEYMAPMANAGER_YAML_YAML_SCALAR_H_
 
@@ -20,13 +20,13 @@ std::optional<double> NumberOf(const YamlNode& node);
 // The text of a node of type kText; nothing for any other.
 std::optional<QString> TextOf(const YamlNode& node);
 
-// A mapping without entries, or nothing at all where one may stand.
+// A mapping without entries, or no value at all if that is allowed.
 bool IsNull(const YamlNode& node);
 
-// A name or text of the file as messages show it: on one line, its end left out where it is long.
+// A name or text of the file in the form of messages: on one line, truncated if it is long.
 QString Shown(const QString& text);
 
-// "the number 12", "the text 'abc'", "a list": what stands there, for messages.
+// "the number 12", "the text 'abc'", "a list": a description of the node, for messages.
 QString Describe(const YamlNode& node);
 
 }  // namespace tavikeymapmanager

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kColumns = 4;  // of a level
 
-// A line's end, and the columns of as many levels as there can be.
+// A line end, and the indentation of the maximum number of levels.
 constexpr auto kLongestLineStart = [] {
   std::array<char, 1 + kColumns * JsonScanner::kMostLevels> line{'\n'};
   for (std::size_t column = 1; column < line.size(); ++column) line[column] = ' ';
@@ -63,7 +63,7 @@ bool FileLayout::TakeObject(int level) {
 template <typename Item>
 bool FileLayout::TakeItems(int level, char open, char close, Item item) {
   if (level == JsonScanner::kMostLevels || !scanner_.TakeByte(open) || !scanner_.Take(LineStart(level))) return false;
-  // Empty ones are written differently.
+  // Empty ones are written in another way.
   if (scanner_.Next() == close) return writer_ == Writer::kQt && scanner_.TakeByte(close);
   if (!scanner_.Take(LineStart(1).substr(1))) return false;
   while (item()) {

@@ -1,4 +1,4 @@
-// Files that are written as this library writes them, to the byte.
+// Recognizes files that are formatted exactly as this library writes them.
 #ifndef RECORD_JSON_FILE_LAYOUT_H_
 #define RECORD_JSON_FILE_LAYOUT_H_
 
@@ -11,35 +11,36 @@
 
 namespace taviinputmanager {
 
-// Bytes of a file, from the first one to behind the last one.
+// A range of bytes of a file; `end` is one past the last.
 struct ByteRange {
   qint64 begin = 0;
   qint64 end = 0;
 };
 
-// Where the parts of a record are, in a file that can be copied instead of being read and written.
+// The positions of the parts of a record, in a file that can be copied instead of being parsed and written.
 struct RecordPlaces {
-  QByteArray info;                          // the header; empty where there is none
+  QByteArray info;                          // the header; empty if there is none
   std::optional<ByteRange> actions;         // the value
   std::optional<ByteRange> merged_actions;  // the same
   std::optional<ByteRange> create_time;     // the same, in the header; a number
   qint64 end = 0;                           // of the document; blanks may follow
 };
 
-// Checks that a file is what a JSON library would write, were it to read it: then any part of it is too, at its level.
-// Each file that this library made passes; of the others most do not, and are to be read and written.
+// Checks that a file is exactly what a JSON library would write after reading it: then every part of it is, too, at its
+// level. Every file made by this library passes; most other files do not, and must be parsed and written.
 //
-// That is: four columns a level, each member and element on a line of its own, plain keys in ascending order, none
-// twice, and values in the one form that they have; of those that are not plain, the writer tells. 64 levels.
+// The format is: four columns per level, each member and element on a line of its own, plain keys in ascending order
+// without duplicates, and values in canonical form; for values that are not plain, the writer decides. At most 64
+// levels.
 class FileLayout {
  public:
-  // What writes the file anew: QJsonDocument::toJson, or the stringifier that UpdateRecordTimestamp uses.
+  // The writer: QJsonDocument::toJson, or the stringifier that UpdateRecordTimestamp uses.
   enum class Writer { kQt, kPoco };
 
   FileLayout(QIODevice* file, Writer writer, int window_bytes = JsonWindow::kUsualBytes)
       : scanner_(file, window_bytes), writer_(writer) {}
 
-  // False where the file is to be read and written.
+  // False if the file must be parsed and written.
   bool Find(RecordPlaces* places);
 
  private:

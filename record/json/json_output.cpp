@@ -22,7 +22,7 @@ void JsonOutput::AddText(const QString& text) {
   Add({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-// Nothing is added of a text that is not plain to its end.
+// Adds nothing of a text that is not plain throughout.
 bool JsonOutput::AddPlainText(const QString& text) {
   const std::size_t start = chunk_.size();
   chunk_.resize(start + static_cast<std::size_t>(text.size()) + 2);
@@ -40,7 +40,7 @@ bool JsonOutput::AddPlainText(const QString& text) {
 }
 
 void JsonOutput::AddInt(int number) {
-  char digits[std::numeric_limits<int>::digits10 + 2];  // a sign, and the digit that not all ints have
+  char digits[std::numeric_limits<int>::digits10 + 2];  // a sign, and the tenth digit
   const char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
   Add({digits, static_cast<std::size_t>(end - digits)});
 }

@@ -1,4 +1,4 @@
-// JSON on its way to a file.
+// Writes JSON to a file.
 #ifndef RECORD_JSON_JSON_OUTPUT_H_
 #define RECORD_JSON_JSON_OUTPUT_H_
 
@@ -10,16 +10,16 @@ class QString;
 
 namespace taviinputmanager {
 
-// Collects bytes and writes them in chunks. Texts and numbers are those that the JSON library writes.
+// Collects bytes and writes them in chunks. Texts and numbers have the form of the JSON library.
 class JsonOutput {
  public:
-  // `target` outlives this.
+  // `target` outlives this object.
   explicit JsonOutput(QIODevice* target) : target_(target) { chunk_.reserve(kChunkBytes); }
 
   void Add(std::string_view bytes);
   void AddText(const QString& text);
   void AddInt(int number);
-  // Writes what is left. Whether the device took all.
+  // Writes the rest. Returns whether the device accepted everything.
   bool Finish();
 
  private:

@@ -13,7 +13,7 @@
 namespace taviinputmanager {
 namespace {
 
-constexpr std::size_t kMostPlainDigits = 15;  // of which a double keeps each
+constexpr std::size_t kMostPlainDigits = 15;  // exact in a double
 
 bool IsBlank(char byte) { return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t'; }
 bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
@@ -28,7 +28,7 @@ bool IsPlainNumber(std::string_view number) {
          std::all_of(number.begin(), number.end(), IsDigit);
 }
 
-// Moves the window over what `is_of` takes. False where the source ends with it.
+// Moves the window past the characters that `is_of` accepts. False if the source ends with them.
 template <typename Of>
 bool MovePast(JsonWindow* window, Of is_of) {
   do {
@@ -41,7 +41,7 @@ bool MovePast(JsonWindow* window, Of is_of) {
   return false;
 }
 
-// The columns of the levels are most of a file: they are passed eight at a time.
+// Most of a file is indentation: it is skipped eight bytes at a time.
 const char* PastSpaces(const char* place, const char* end) {
   constexpr quint64 kSpaces = 0x2020202020202020;
   constexpr uint kWord = sizeof kSpaces;
@@ -53,7 +53,7 @@ const char* PastSpaces(const char* place, const char* end) {
   return place;
 }
 
-// A byte that is not plain, and what it escapes. Of any escape the byte behind the mark is enough to find the end.
+// A byte that is not plain, and its escape. For any escape, the byte after the backslash is enough to find the end.
 bool MovePastOdd(JsonWindow* window) {
   const std::size_t size = *window->Begin() == '\\' ? 2 : 1;
   if (!window->HasBytes(size)) return false;

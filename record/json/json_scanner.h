@@ -1,4 +1,4 @@
-// JSON as programs write it, read piece by piece.
+// Parses machine-written JSON incrementally.
 #ifndef RECORD_JSON_JSON_SCANNER_H_
 #define RECORD_JSON_JSON_SCANNER_H_
 
@@ -14,13 +14,14 @@ namespace taviinputmanager {
 // A text without its quotation marks, or a number.
 struct JsonToken {
   std::string_view bytes;  // until more is read
-  // A text that means itself: printable ASCII without an escape. Or a whole number of up to 15 digits in its one form.
+  // A text without escapes, in printable ASCII. Or a whole number of up to 15 digits in canonical form.
   bool is_plain = true;
 };
 
-// What a file says is what QJsonDocument reads in it. The scanner knows the ordinary part of that: the strict grammar,
-// plain keys, and 64 levels. An odd value in such a document it hands to the library alone; at all else it gives up,
-// which a false says: the whole document is the library's then. What it takes, the library takes too, and as the same.
+// The content of a file is defined by what QJsonDocument reads. The scanner supports the common part: the strict
+// grammar, plain keys, and 64 levels. It passes an unusual value in such a document to the library; in all other cases
+// it gives up and returns false: the library must then read the whole document. What the scanner accepts, the library
+// accepts too, with the same result.
 class JsonScanner {
  public:
   static constexpr int kMostLevels = 64;
@@ -30,7 +31,7 @@ class JsonScanner {
   JsonWindow* Window() { return &window_; }
 
   // ---- Byte by byte ----
-  // Not taken; 0 at the end.
+  // Does not consume it; 0 at the end.
   char Next() { return window_.HasByte() ? *window_.Begin() : '\0'; }
   bool TakeByte(char byte);
   bool Take(std::string_view exactly);
@@ -42,30 +43,30 @@ class JsonScanner {
   // ---- Past blanks ----
   char NextMark() { return window_.Begin() != window_.End() && *window_.Begin() > ' ' ? Next() : NextMarkPastBlanks(); }
   bool TakeMark(char mark) { return NextMark() == mark && TakeByte(mark); }
-  // Calls `member` with each key, which it has to look at before it takes the value.
+  // Calls `member` with each key, which must be used before its value is read.
   template <typename Member>
   bool TakeObject(Member member);
-  // Calls `element` to take each.
+  // Calls `element` to read each.
   template <typename Element>
   bool TakeList(Element element);
-  // A value that nobody asks for.
+  // Skips a value.
   bool Skip();
-  // An object as the library reads it.
+  // An object, as the library reads it.
   bool TakeWhole(QJsonObject* object);
-  // Whether nothing but blanks is left.
+  // Whether only blanks are left.
   bool IsAtEnd() { return NextMark() == '\0' && !window_.HasByte(); }
 
  private:
   char NextMarkPastBlanks();
   bool TakeKey(JsonToken* key);
-  // Behind the first mark, of a text that is not plain or not in the window to its end.
+  // After the opening quotation mark, for a text that is not plain or not completely in the window.
   bool TakeRestOfText(JsonToken* text);
   template <typename Item>
   bool TakeItems(char open, char close, Item item);
 
   JsonWindow window_;
   int level_ = 0;
-  std::string key_;  // the window may move on before it is looked at
+  std::string key_;  // the window may move before it is used
 };
 
 inline bool JsonScanner::TakeByte(char byte) {

@@ -8,7 +8,7 @@
 namespace taviinputmanager {
 namespace {
 
-constexpr std::size_t kMostHeld = std::size_t{1} << 29;  // bytes; twice that is a text of Qt still
+constexpr std::size_t kMostHeld = std::size_t{1} << 29;  // bytes; twice that still fits a Qt text
 
 }  // namespace
 
@@ -16,7 +16,7 @@ JsonWindow::JsonWindow(QIODevice* source, int bytes)
     : source_(source), bytes_(static_cast<std::size_t>(bytes)), next_(bytes_.data()), end_(next_) {}
 
 bool JsonWindow::Fill() {
-  // First the passed part goes, then what is new comes behind the rest.
+  // First the consumed part is removed, then new data is appended to the rest.
   const char* const kept = held_ ? held_ : next_;
   const auto kept_size = static_cast<std::size_t>(end_ - kept);
   if (kept_size > kMostHeld) return false;

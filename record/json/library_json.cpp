@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "qt/json_text.h"
+
 namespace taviinputmanager::library_json {
 namespace {
 
@@ -12,7 +14,7 @@ QByteArray BytesOf(std::string_view text) {
 
 }  // namespace
 
-// A document is a list or an object, so each value stands in a list of its own.
+// A document is a list or an object, so each value is put in a list of its own.
 
 QJsonValue Read(std::string_view value) { return QJsonDocument::fromJson('[' + BytesOf(value) + ']').array().at(0); }
 
@@ -21,7 +23,7 @@ QJsonValue ReadText(std::string_view text) {
 }
 
 QByteArray Write(const QJsonValue& value) {
-  const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+  const QByteArray list = qt::JsonText(QJsonDocument(QJsonArray{value}), QJsonDocument::Compact);
   return list.mid(1, list.size() - 2);
 }
 

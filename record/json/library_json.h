@@ -1,4 +1,4 @@
-// What the JSON library makes of single values.
+// How the JSON library reads and writes single values.
 #ifndef RECORD_JSON_LIBRARY_JSON_H_
 #define RECORD_JSON_LIBRARY_JSON_H_
 
@@ -9,13 +9,13 @@
 
 namespace taviinputmanager::library_json {
 
-// A value of a document; undefined where the library refuses it.
+// A value of a document; undefined if the library rejects it.
 QJsonValue Read(std::string_view value);
-// The same of a text without its quotation marks.
+// The same for a text without its quotation marks.
 QJsonValue ReadText(std::string_view text);
-// In one line.
+// On one line.
 QByteArray Write(const QJsonValue& value);
-// Whether that is what is written of it when it has been read.
+// Whether the library writes the value in this form after reading it.
 bool IsWrittenSo(std::string_view value);
 
 }  // namespace taviinputmanager::library_json

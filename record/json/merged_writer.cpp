@@ -4,6 +4,7 @@
 
 #include <QJsonDocument>
 
+#include "qt/json_text.h"
 #include "record/json/json_output.h"
 #include "record/record_format.h"
 
@@ -13,11 +14,11 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 
 namespace {
 
-constexpr int kColumnsToTheRight = 8;  // a list of a document is two levels deeper as that of an item
-// How the library writes the empty list of an item. No text can look like it: in those, a line's end is an escape.
+constexpr int kColumnsToTheRight = 8;  // a list of a document is indented by two more levels as the list of an item
+// How the library writes the empty list of an item. No text can look like it, because a line end in a text is escaped.
 constexpr std::string_view kEmptyList = "[\n            ]";
 
-// Actions win over items.
+// Actions take precedence over items.
 const ByteRange& ListOf(const RecordPlaces& places) {
   return places.actions ? *places.actions : *places.merged_actions;
 }
@@ -35,7 +36,8 @@ bool MergedWriter::Add(const QString& file, const QJsonObject& control) {
 }
 
 bool MergedWriter::Write(const QJsonObject& info, QIODevice* target) {
-  const std::string frame = QJsonDocument(QJsonObject{{kInfo, info}, {kMergedActions, items_}}).toJson().toStdString();
+  const QJsonDocument document(QJsonObject{{kInfo, info}, {kMergedActions, items_}});
+  const std::string frame = qt::JsonText(document).toStdString();
   std::string_view rest = frame;
   JsonOutput output(target);
   for (RecordSource& source : sources_) {

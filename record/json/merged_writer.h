@@ -1,4 +1,4 @@
-// A merged record of files whose lists are copied.
+// Writes a merged record by copying the lists of its files.
 #ifndef RECORD_JSON_MERGED_WRITER_H_
 #define RECORD_JSON_MERGED_WRITER_H_
 
@@ -13,17 +13,17 @@ class QIODevice;
 
 namespace taviinputmanager {
 
-// Writes the document {"info": ..., "merged_actions": [...]} as QJsonDocument::toJson does, without trees of the lists.
+// Writes the document {"info": ..., "merged_actions": [...]} like QJsonDocument::toJson, without building trees of the
+// lists.
 class MergedWriter {
  public:
-  // An item that is played by this control. False, and nothing added, where the library has to merge: the file is not
-  // laid out as it writes, or lacks what a record needs.
+  // Adds an item with this control. Returns false and adds nothing if the library must merge: the file does not have
+  // the library's format, or lacks a part of a record.
   bool Add(const QString& file, const QJsonObject& control);
   // The header of the item that was added last.
   QJsonObject LastInfo() const { return sources_.back().Info(); }
-  int Count() const { return items_.size(); }
 
-  // False when the device does not take all, or when a file has changed since it was added.
+  // False if the device does not accept everything, or if a file has changed since it was added.
   bool Write(const QJsonObject& info, QIODevice* target);
   bool HasChangedSource() const;
 

@@ -1,4 +1,4 @@
-// The letters that stand for themselves in a JSON text.
+// The characters of a JSON text that need no escape.
 #ifndef RECORD_JSON_PLAIN_BYTES_H_
 #define RECORD_JSON_PLAIN_BYTES_H_
 
@@ -6,7 +6,7 @@
 
 namespace taviinputmanager {
 
-// Printable ASCII without quotation mark and backslash.
+// Printable ASCII except quotation mark and backslash.
 constexpr std::array<bool, 256> MakePlainBytes() {
   std::array<bool, 256> table{};
   for (std::size_t byte = ' '; byte < 0x7f; ++byte) table[byte] = byte != '"' && byte != '\\';

@@ -7,8 +7,8 @@
 
 namespace taviinputmanager {
 
-// Opens a file for reading by large pieces. False for what cannot be read, and for a pipe or the like, which is not
-// even opened: what is read from it is gone.
+// Opens a file for reading in large chunks. False for what cannot be read, and for pipes and the like, which are not
+// even opened, because what is read from them is lost.
 inline bool OpenPlainFile(QFile* file) {
   return QFileInfo(*file).isFile() && file->open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }

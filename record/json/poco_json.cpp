@@ -13,9 +13,9 @@
 namespace taviinputmanager::poco_json {
 namespace {
 
-constexpr unsigned kIndent = 4;       // columns a level
-constexpr int kStepAsIndent = -1;     // of a nested level: the same
-constexpr std::size_t kDepth = 1024;  // levels that QJsonDocument reads; anything deeper is broken for all readers
+constexpr unsigned kIndent = 4;       // columns per level
+constexpr int kStepAsIndent = -1;     // for a nested level: the same
+constexpr std::size_t kDepth = 1024;  // levels that QJsonDocument reads; deeper documents are invalid for all readers
 
 Poco::Dynamic::Var Read(const std::string& document) {
   Poco::JSON::Parser parser(new Poco::JSON::ParseHandler(false));

@@ -1,4 +1,4 @@
-// A record file that others are made of.
+// A record file from which others are made.
 #ifndef RECORD_JSON_RECORD_SOURCE_H_
 #define RECORD_JSON_RECORD_SOURCE_H_
 
@@ -13,19 +13,19 @@ namespace taviinputmanager {
 
 class JsonOutput;
 
-// The file is read twice, since what it holds has to be known before a first byte is written: to find its parts, and to
-// copy them. In between it may change: then nothing that was copied is of use.
+// The file is read twice, because its content must be known before the first byte is written: to find its parts, and to
+// copy them. If it changes in between, everything that was copied is useless.
 class RecordSource {
  public:
   explicit RecordSource(const QString& path) : path_(path) {}
 
-  // False where the file has to be read by its library.
+  // False if the library must read the file.
   bool Find(FileLayout::Writer writer);
   const RecordPlaces& Places() const { return places_; }
   QJsonObject Info() const;
 
-  // Copies a part, all its lines but the first moved to the right. False when the file is not the one any more in which
-  // the part was found.
+  // Copies a part with additional indentation for all its lines but the first. False if the file is no longer the one
+  // in which the part was found.
   bool Copy(const ByteRange& part, int columns, JsonOutput* output);
   bool HasChanged() const { return has_changed_; }
 

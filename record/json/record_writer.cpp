@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "qt/json_text.h"
 #include "record/json/json_output.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -17,7 +18,7 @@ namespace {
 
 std::string_view ViewOf(const QByteArray& bytes) { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
 
-// Writes actions as elements of the document's list: keys in ascending order, four columns a level.
+// Writes actions as elements of the document's list: keys in ascending order, four columns per level.
 class ActionWriter {
  public:
   explicit ActionWriter(JsonOutput* output) : output_(output) {}
@@ -52,9 +53,9 @@ class ActionWriter {
 }  // namespace
 
 bool WriteRecord(const QJsonObject& info, const QList<RecordAction*>& actions, QIODevice* target) {
-  // The library writes what is around the actions. Theirs is the first list.
-  const QByteArray frame = QJsonDocument(QJsonObject{{kActions, QJsonArray()}, {kInfo, info}}).toJson();
-  const int place = frame.indexOf("[\n") + 2;
+  // The library writes everything around the actions. Their list is the first.
+  const QByteArray frame = qt::JsonText(QJsonDocument(QJsonObject{{kActions, QJsonArray()}, {kInfo, info}}));
+  const auto place = frame.indexOf("[\n") + 2;
 
   JsonOutput output(target);
   output.Add(ViewOf(frame.left(place)));

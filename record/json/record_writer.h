@@ -1,4 +1,4 @@
-// A record file as bytes, written piece by piece.
+// Writes a record file incrementally.
 #ifndef RECORD_JSON_RECORD_WRITER_H_
 #define RECORD_JSON_RECORD_WRITER_H_
 
@@ -11,8 +11,8 @@ namespace taviinputmanager {
 
 struct RecordAction;
 
-// Writes the document {"actions": [...], "info": {...}} as QJsonDocument::toJson does, without a tree of the actions.
-// False when the device does not take all.
+// Writes the document {"actions": [...], "info": {...}} like QJsonDocument::toJson, without building a tree of the
+// actions. False if the device does not accept everything.
 bool WriteRecord(const QJsonObject& info, const QList<RecordAction*>& actions, QIODevice* target);
 
 }  // namespace taviinputmanager

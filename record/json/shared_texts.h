@@ -1,4 +1,4 @@
-// One copy of a text for all who have it.
+// Shares one copy of equal texts.
 #ifndef RECORD_JSON_SHARED_TEXTS_H_
 #define RECORD_JSON_SHARED_TEXTS_H_
 
@@ -9,17 +9,19 @@
 
 namespace taviinputmanager {
 
-// The texts that came last, by a few of their letters: most actions have the type, the slot and the word of one a
-// little before. A record of any length and kind takes no more time or memory here than another.
+// The most recent texts, indexed by a few of their letters: most actions have the type, the slot and the word of a
+// recent one. Time and memory are bounded for records of any length and kind.
 class SharedTexts {
  public:
-  // ASCII as a text.
+  // ASCII, converted to a text.
   QString Of(std::string_view ascii);
   // The same text, shared with an equal one.
   QString Of(const QString& text);
+  // Makes it that one.
+  void Share(QString* text);
 
  private:
-  static constexpr std::size_t kMostShared = 16;  // letters; longer ones are hardly ever equal
+  static constexpr std::size_t kMostShared = 16;  // letters; longer texts are hardly ever equal
   static constexpr std::size_t kPlaces = 512;
 
   template <typename Text>

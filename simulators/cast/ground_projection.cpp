@@ -15,8 +15,8 @@ namespace {
 
 constexpr int kRows = 4;
 constexpr int kCells = kRows * kRows;
-constexpr double kForwardY = 0.8;           // normalised height of a point that lies straight ahead of the character
-constexpr double kReferenceWidth = 1280.0;  // of the display on which ground_scale holds, whatever the present one is
+constexpr double kForwardY = 0.8;           // normalized height of a point straight ahead of the character
+constexpr double kReferenceWidth = 1280.0;  // display width that ground_scale is defined for, whatever the actual one
 
 double Length(const QPointF& v) { return std::sqrt(v.x() * v.x() + v.y() * v.y()); }
 
@@ -75,7 +75,7 @@ QPoint ProjectOnGround(const SpellConfigItem& item, const QPoint& pointer, const
 
   // The aim in the frame of the forward direction. Lengths of 0 make the rest NaN, and the result (0, 0).
   const double reach = Length(forward);
-  const QPointF u(forward.x() / reach, forward.y() / reach);  // a QPointF may refuse to be divided by 0
+  const QPointF u(forward.x() / reach, forward.y() / reach);  // QPointF may assert on a division by 0
   const QPointF turned(aim.x() * u.y() - aim.y() * u.x(), aim.x() * u.x() + aim.y() * u.y());
   const double scale = Length(aim) * item.ground_scale * display.width() / kReferenceWidth;
   const double length = Length(turned);

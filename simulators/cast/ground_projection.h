@@ -1,8 +1,7 @@
-// Where a cast lands that is aimed at a point of the ground in a game seen in perspective.
+// The target of a cast that is aimed at a point on the ground, in a game with a perspective view.
 #ifndef SIMULATORS_CAST_GROUND_PROJECTION_H_
 #define SIMULATORS_CAST_GROUND_PROJECTION_H_
 
-#include <array>
 #include <optional>
 
 #include <QPoint>
@@ -16,28 +15,28 @@ struct SpellConfigItem;
 
 namespace taviinputmanager {
 
-// A view of the ground plane, from an item's view matrix. Pure; any thread.
+// The view of the ground plane, from an item's view matrix. Immutable; any thread.
 //
-// Forms that a point takes: display pixels; normalised, from -1 to 1 with y upwards; and on the ground, in the units of
+// A point has three forms: display pixels; normalized, from -1 to 1 with y upwards; and on the ground, in the units of
 // the game.
 class GroundView {
  public:
-  // `text` is 16 numbers joined by commas, column after column. Nothing when there are not exactly 16 parts; a part
-  // that is no number reads as 0.
+  // `text` contains 16 numbers separated by commas, in column-major order. Nothing if there are not exactly 16 parts; a
+  // part that is not a number reads as 0.
   static std::optional<GroundView> Parse(const QString& text);
 
-  // The ground point behind a normalised one; (0, 0) where the line of sight meets the ground nowhere or everywhere.
+  // The ground point of a normalized one; (0, 0) if the line of sight does not meet the ground in exactly one point.
   QPointF Solve(const QPointF& normalised) const;
 
  private:
-  std::array<double, 16> m_{};  // row after row
+  double m_[16] = {};  // row-major
 };
 
-// Display pixels to normalised ones.
+// Converts display pixels to normalized coordinates.
 QPointF Normalise(const QPoint& point, const QSize& display);
 
-// The target around `button` that casts to where `pointer` stands on the ground; all in display pixels. (0, 0) when the
-// item describes no view or the result cannot be told.
+// The target around `button` that casts to the ground point at `pointer`; all in display pixels. (0, 0) if the item has
+// no view or the result is undefined.
 QPoint ProjectOnGround(const tavikeymapmanager::SpellConfigItem& item, const QPoint& pointer, const QPoint& button,
                        const QSize& display);
 

@@ -63,7 +63,7 @@ QPoint CircleTarget(const SpellConfigItem& item, const QPoint& pointer, const QP
     mx = Truncate(dx * s + cx);
     my = Truncate(dy * s + cy);
   }
-  const double k = item.swipe_radius / ratio;  // no circle, no way: 0 times infinity rounds to 0
+  const double k = item.swipe_radius / ratio;  // no circle, no movement: 0 times infinity rounds to 0
   return Sum({Round((mx - cx) * k), Round((my - cy) * k)}, button);
 }
 

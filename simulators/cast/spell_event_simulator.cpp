@@ -25,14 +25,14 @@ namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
 
-constexpr int kFollowMs = 16;  // a frame of the guest
-constexpr int kInnerWalk = 1;  // index of the worker on the spell's own slot
+constexpr int kFollowMs = 16;  // one frame of the guest
+constexpr int kInnerWalk = 1;  // index of the worker for the spell's own slot
 
 bool IsJoystick(const ConfigKey* key) { return key->device == keywords::kDeviceJoystick; }
 
 bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring; }
 
-// By the trigger; one that is not known casts on release.
+// Chosen by the trigger; an unknown trigger casts on release.
 SpellSyncWorker* WorkerOf(const SpellConfigItem& item) {
   if (item.trigger == keywords::kTriggerOnPress) return SpellOnPressSyncWorker::GetInstance();
   if (item.trigger == keywords::kTriggerOnNext) return SpellOnNextSyncWorker::GetInstance();
@@ -58,7 +58,7 @@ void SpellEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
   auto* spell = dynamic_cast<SpellConfigItem*>(item);
   if (!spell) return;
   current_worker_ = WorkerOf(*spell);
-  current_worker_->Release(spell, IsJoystick(key));  // the timer runs on, and its ticks find nothing to do
+  current_worker_->Release(spell, IsJoystick(key));  // the timer keeps running, and its ticks do nothing
 }
 
 void SpellEventSimulator::PressSpell(SpellConfigItem* item, bool from_joystick) {
@@ -69,7 +69,7 @@ void SpellEventSimulator::PressSpell(SpellConfigItem* item, bool from_joystick) 
   if (FollowsPointer()) follow_timer_->start(kFollowMs);
 }
 
-// A second spell key ends a spell in aim.
+// A second spell key ends a spell that is being aimed.
 void SpellEventSimulator::FinishOtherKey(const SpellConfigItem& next) {
   if (!current_worker_) return;
   const SpellConfigItem* in_force = current_worker_->GetSpellItem();
@@ -150,7 +150,7 @@ void SpellEventSimulator::SubscribeSwipehold() {
   SwipeholdEventSimulator* walk = SwipeholdEventSimulator::GetInstance();
   connect(walk, &SwipeholdEventSimulator::sigSwipeholdTargetPointChanged, this,
           &SpellEventSimulator::OnSwipeholdTargetPointChanged, Qt::UniqueConnection);
-  // A walk already under way counts.
+  // A walk that is already in progress counts.
   walk->QueryPoint([this](QPointF point) { OnSwipeholdTargetPointChanged(point); });
 }
 
@@ -174,7 +174,7 @@ void SpellEventSimulator::EntrustToInnerSwipehold(SpellSyncWorker* worker, Spell
   walk->EntrustToInner();
 }
 
-// The item may be gone with its keymap by now: that it has an inner walk is known from the aim.
+// The item may have been deleted with its keymap, so the aim says whether it has an inner walk.
 void SpellEventSimulator::CancelEntrustToInnerSwipehold(SpellSyncWorker* worker, bool not_sync_data) {
   if (!inner_walkers_.remove(worker)) return;
   SwipeholdEventSimulator* walk = SwipeholdEventSimulator::GetInstance();

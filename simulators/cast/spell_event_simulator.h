@@ -23,8 +23,8 @@ namespace taviinputmanager {
 class JoystickAxisEvent;
 class SpellSyncWorker;
 
-// Serves the items "Spell" and "SpellCancel": picks the worker of an item's trigger and ties it to the pointer, the
-// relative counts, the stick and the walk.
+// Handles the items "Spell" and "SpellCancel": selects the worker for an item's trigger and connects it with the
+// pointer, the relative counts, the stick and the walk.
 class SpellEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -38,17 +38,17 @@ class SpellEventSimulator : public EventSimulator {
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
 
-  // While a cast is in progress, relative counts and the right stick come here and nowhere else.
+  // While a cast is in progress, relative counts and the right stick go only here.
   bool IsSpellActive() const;
   void OnRelativeInput(int dx, int dy);
   void OnJoystickAxis(JoystickAxisEvent* event);
-  // Whether a mouse event ends a cast that waits for it, and is used up by that.
+  // Whether a mouse event ends a cast that waits for it, and is consumed by that.
   bool OnMouseEvent(QMouseEvent* event);
   // Ends a cast in progress.
   void ForceStop();
 
  Q_SIGNALS:
-  // A key of type "SpellCancel" went down, which whoever fires may listen to as well.
+  // A key of type "SpellCancel" was pressed; fire keys react to it as well.
   void sigSpellCancelPressed(tavikeymapmanager::SpellCancelConfigItem& item);
 
  public Q_SLOTS:
@@ -64,9 +64,9 @@ class SpellEventSimulator : public EventSimulator {
   void PressSpell(tavikeymapmanager::SpellConfigItem* item, bool from_joystick);
   void PressCancel(tavikeymapmanager::SpellCancelConfigItem* item);
   void FinishOtherKey(const tavikeymapmanager::SpellConfigItem& next);
-  // Whether the item of the present worker aims with the pointer, outside view control.
+  // Whether the item of the current worker aims with the pointer, outside view control.
   bool FollowsPointer() const;
-  // The present worker, which is not that any more; may be null.
+  // Detaches the current worker and returns it; may be null.
   SpellSyncWorker* TakeWorker();
 
   void ConnectWorkersOnce();
@@ -76,12 +76,12 @@ class SpellEventSimulator : public EventSimulator {
   void EntrustToInnerSwipehold(SpellSyncWorker* worker, tavikeymapmanager::SpellConfigItem& item);
   void CancelEntrustToInnerSwipehold(SpellSyncWorker* worker, bool not_sync_data);
 
-  SpellSyncWorker* current_worker_ = nullptr;  // of the cast in progress or just ended; one of the four singletons
-  // What the walk was given for the latest aim; kept until the next.
+  SpellSyncWorker* current_worker_ = nullptr;  // of the current or last cast; one of the four singletons
+  // What the walk received for the latest aim; kept until the next.
   std::unique_ptr<tavikeymapmanager::SwipeholdConfigItem> inner_item_;
   QTimer* follow_timer_;
   bool is_connected_ = false;
-  QSet<SpellSyncWorker*> inner_walkers_;  // whose cast in force has an inner walk
+  QSet<SpellSyncWorker*> inner_walkers_;  // whose current cast has an inner walk
 };
 
 }  // namespace taviinputmanager

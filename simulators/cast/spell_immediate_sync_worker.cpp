@@ -12,7 +12,7 @@ SpellImmediateSyncWorker* SpellImmediateSyncWorker::GetInstance() {
 }
 
 void SpellImmediateSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
-  if (IsActive()) return;  // held already
+  if (IsActive()) return;  // already held
   StoreItem(*item);
   SetFromJoystick(from_joystick);
   const unsigned cast = CurrentCast();

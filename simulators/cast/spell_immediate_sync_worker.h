@@ -1,4 +1,4 @@
-// The cast that begins with its key and ends with it.
+// The cast that lasts as long as its key is held.
 #ifndef SIMULATORS_CAST_SPELL_IMMEDIATE_SYNC_WORKER_H_
 #define SIMULATORS_CAST_SPELL_IMMEDIATE_SYNC_WORKER_H_
 
@@ -8,7 +8,7 @@ namespace taviinputmanager {
 
 // key down -- finger on the button ........ key up -- lift
 //
-// Nothing aims but the walk: the finger stays on the button.
+// Only the walk aims: the contact stays on the button.
 class SpellImmediateSyncWorker : public SpellSyncWorker {
  public:
   static SpellImmediateSyncWorker* GetInstance();

@@ -27,7 +27,7 @@ void SpellOnNextSyncWorker::Release(SpellConfigItem* /*item*/, bool /*from_joyst
 bool SpellOnNextSyncWorker::OnMouseEvent(QMouseEvent* event) {
   const SpellConfigItem* in_force = GetSpellItem();
   if (!in_force || !in_force->mouse_click_casts || event->button() != Qt::LeftButton) return false;
-  if (event->type() == QEvent::MouseButtonPress) return true;  // the click's own touch is held back
+  if (event->type() == QEvent::MouseButtonPress) return true;  // the click must not touch as well
   if (event->type() != QEvent::MouseButtonRelease) return false;
   ChangeSpellState(kSpellFinished);
   LiftFinger();

@@ -1,4 +1,4 @@
-// The cast that aims from one press of its key to the next.
+// The cast that is aimed between two presses of its key.
 #ifndef SIMULATORS_CAST_SPELL_ON_NEXT_SYNC_WORKER_H_
 #define SIMULATORS_CAST_SPELL_ON_NEXT_SYNC_WORKER_H_
 

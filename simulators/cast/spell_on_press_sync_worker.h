@@ -1,4 +1,4 @@
-// The cast that happens at the press of its key.
+// The cast that is performed at the press of its key.
 #ifndef SIMULATORS_CAST_SPELL_ON_PRESS_SYNC_WORKER_H_
 #define SIMULATORS_CAST_SPELL_ON_PRESS_SYNC_WORKER_H_
 
@@ -8,9 +8,8 @@ namespace taviinputmanager {
 
 // mouse: key down -- swipe to the target -- lift
 // inner walk: key down -- tap on the button
-// walk: key down -- finger on the button -- the first direction told -- finger there -- lift; a walk tells its present
-// direction at once, and at rest that it has none.
-// Any other location does nothing and stays active.
+// walk: key down -- finger on the button -- the first direction reported -- finger there -- lift; a walk reports its
+// present direction at once, and at rest that it has none. Any other location does nothing and stays active.
 class SpellOnPressSyncWorker : public SpellSyncWorker {
  public:
   static SpellOnPressSyncWorker* GetInstance();
@@ -28,7 +27,7 @@ class SpellOnPressSyncWorker : public SpellSyncWorker {
  private:
   SpellOnPressSyncWorker() = default;
 
-  // The end of `cast`. False, and nothing, where it is over already.
+  // Ends `cast`. Returns false and does nothing if it is already over.
   bool End(unsigned cast);
 };
 

@@ -12,7 +12,7 @@ SpellOnReleaseSyncWorker* SpellOnReleaseSyncWorker::GetInstance() {
 }
 
 void SpellOnReleaseSyncWorker::Press(SpellConfigItem* item, bool from_joystick) {
-  if (IsActive()) return;  // held already
+  if (IsActive()) return;  // already held
   PressAndAim(item, from_joystick);
 }
 

@@ -13,7 +13,7 @@
 #include "simulators/walk/right_walk_sync_worker.h"
 #include "slots/spell_slot_manager.h"
 
-// A cast from press to lift. The ways of aiming are in the file beside this one.
+// A cast from press to release. The aiming is in spell_sync_worker_aim.cpp.
 
 namespace taviinputmanager {
 
@@ -78,12 +78,12 @@ void SpellSyncWorker::Cancel(SpellCancelConfigItem* item) {
     if (!IsCastOver(cast)) SwipeToCancel(in_force.get(), from, to);
   }
   if (IsCastOver(cast)) return;
-  DropItem();  // the state stays, and with it what the aim subscribed to
+  DropItem();  // the state stays, and with it the connections of the aim
   if (!from.isNull()) LiftAfter(item->cancel_delay_ms);
 }
 
 void SpellSyncWorker::LiftAfter(int delay_ms) {
-  if (cancel_timer_->isActive()) return;  // an earlier cancel lifts for both
+  if (cancel_timer_->isActive()) return;  // an earlier cancel releases for both
   if (delay_ms >= 1) {
     cancel_timer_->start(delay_ms);
   } else if (delay_ms == 0) {
@@ -126,7 +126,7 @@ void SpellSyncWorker::BeginAim(SpellConfigItem* pressed) {
   accumulated_ = RelativeCounts();
   spell_offset_.Start(spell_item_->offset_enabled);
   if (spell_item_->touch_location == keywords::kLocationSwipehold) {
-    Q_EMIT sigSubscribeSwipehold();  // the answer may cast at once, and the item is gone then
+    Q_EMIT sigSubscribeSwipehold();  // the host's answer may have cast at once, and the item is deleted then
   } else if (spell_item_->touch_location == keywords::kLocationInnerSwipehold) {
     Q_EMIT sigEntrustToInnerSwipehold(pressed ? *pressed : *spell_item_);
   }
@@ -189,12 +189,13 @@ void SpellSyncWorker::SwipeAlongCurve(const SpellConfigItem& item, const QPoint&
 
 void SpellSyncWorker::SwipeToCancel(const SpellConfigItem* item, const QPoint& from, const QPoint& to) {
   if (!item || item->swipe_steps < 1) return;
-  // By a step of one length, as a fire finger's swipe: half pixels may fall to the other side than in a cast's.
+  // With the rounding of a fire contact's swipe, where half pixels may be rounded to the other side than in a cast's.
   const double step_x = (static_cast<double>(to.x()) - from.x()) / item->swipe_steps;
   const double step_y = (static_cast<double>(to.y()) - from.y()) / item->swipe_steps;
   const unsigned cast = CurrentCast();
   for (qint64 i = 1; i <= item->swipe_steps; ++i) {
-    StepTo({Round(from.x() + i * step_x), Round(from.y() + i * step_y)}, item->swipe_step_ms, cast);
+    const auto done = static_cast<double>(i);
+    StepTo({Round(from.x() + done * step_x), Round(from.y() + done * step_y)}, item->swipe_step_ms, cast);
   }
 }
 

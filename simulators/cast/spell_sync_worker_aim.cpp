@@ -15,7 +15,7 @@
 #include "slots/spell_slot_manager.h"
 #include "taviinputmanager/joystick_event.h"
 
-// The ways of aiming: the pointer, relative counts, a stick and the walk.
+// Aiming with the pointer, with relative counts, with a stick and with the walk.
 
 namespace taviinputmanager {
 
@@ -25,9 +25,9 @@ namespace keywords = tavikeymapmanager::keywords;
 namespace {
 
 constexpr double kDegree = 0.017453292519943295;  // in radians
-constexpr double kStickStep = 0.125;              // of the button's radius
+constexpr double kStickStep = 0.125;              // relative to the button's radius
 constexpr int kStickStepMs = 8;
-// The whole circle is 16 steps wide. A way of many more, by a radius of next to nothing, would block for ever.
+// The whole circle is 16 steps wide. A movement of many more, caused by a tiny radius, would block almost endlessly.
 constexpr double kMostSteps = 1000;
 
 QSize DisplaySize() { return DisplayGeometry::GetInstance()->GetDisplayRect().size(); }
@@ -48,7 +48,7 @@ QPoint SpellSyncWorker::CalculateTargetPoint(const SpellConfigItem* item) {
   if (!item) return {};
   const QRect display = DisplayGeometry::GetInstance()->GetDisplayRect();
   const QPoint button = spell_aim::PressPoint(*item, display.size());
-  // The mouse is captured, or a walk aims: the pointer says nothing.
+  // While the mouse is captured, or a walk aims, the pointer has no meaning.
   if (InputStatusManager::GetInstance()->GetStatus() == InputStatus::Staring || spell_aim::IsAimedByWalk(*item)) {
     return button;
   }
@@ -102,7 +102,7 @@ void SpellSyncWorker::SlideTowards(const QPoint& target, double step, unsigned c
   if (!(step > 0 && length / step < kMostSteps)) return;
   const double angle = way.angle() * kDegree;
   const double cos = std::cos(angle);
-  const double sin = -std::sin(angle);  // angles turn upwards, pixels count downwards
+  const double sin = -std::sin(angle);  // angles increase upwards, pixels downwards
   for (double d = step; d < length; d += step) {
     StepTo(Sum(from, {Truncate(cos * d), Truncate(sin * d)}), kStickStepMs, cast);
   }

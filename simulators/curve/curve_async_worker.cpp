@@ -33,7 +33,7 @@ void CurveAsyncWorker::Process() {
 
 void CurveAsyncWorker::TimerOutTime() {
   if (count_ >= points_.Count()) {
-    Q_EMIT CurveFinished(false);  // the timer runs on
+    Q_EMIT CurveFinished(false);  // the timer keeps running
     return;
   }
   if (const auto point = points_.At(count_)) Q_EMIT CurvePointPressed(point->x(), point->y());
@@ -42,7 +42,7 @@ void CurveAsyncWorker::TimerOutTime() {
 }
 
 void CurveAsyncWorker::Stop(const QString& device, int scancode) {
-  if (HasKey(device, scancode)) Q_EMIT CurveFinished(true);  // the timer runs on
+  if (HasKey(device, scancode)) Q_EMIT CurveFinished(true);  // the timer keeps running
 }
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// Keeps the time of one run of a curve.
+// The timing of one run of a curve.
 #ifndef SIMULATORS_CURVE_CURVE_ASYNC_WORKER_H_
 #define SIMULATORS_CURVE_CURVE_ASYNC_WORKER_H_
 
@@ -14,14 +14,13 @@ namespace taviinputmanager {
 //   Process   first delay     8 ms           8 ms             8 ms
 //   ------------------ point 1 --- point 2 ... --- finished (false) --- finished (false) ...   Stop: finished (true)
 //
-// A bad entry presses nothing and takes its time like any other. Lives for one run, on a thread of its own, until that
-// run is quit; touches its own fields alone and reports by queued signals.
+// A bad entry presses nothing and takes its time like any other. Exists for one run, on a thread of its own, until that
+// run is quit; uses only its own fields and reports by queued signals.
 class CurveAsyncWorker : public QObject {
   Q_OBJECT
 
  public:
-  // Main thread: puts the origin of the curve's finger at the item's point. Takes a copy of `item`; null stands for a
-  // default item.
+  // Main thread: sets the origin of the curve's contact to the item's point. Copies `item`; null means a default item.
   explicit CurveAsyncWorker(const tavikeymapmanager::CurveConfigItem* item);
 
   // Any thread: the item's key never changes.
@@ -30,20 +29,20 @@ class CurveAsyncWorker : public QObject {
 
  public Q_SLOTS:
   void Process();
-  // Ends the run of this key, and no other's.
+  // Ends the run of this key, and no other.
   void Stop(const QString& device, int scancode);
   void TimerOutTime();
 
  Q_SIGNALS:
   // Offsets from the origin, as fractions of the display.
   void CurvePointPressed(double x, double y);
-  // False at the end of the list, and at each tick from then on until the run is quit. True at each stop.
+  // False at the end of the list, and at each further tick until the run is quit. True at each stop.
   void CurveFinished(bool forceStop);  // NOLINT(readability-identifier-naming)
 
  private:
   const tavikeymapmanager::CurveConfigItem item_;
   const CurvePoints points_;
-  QTimer* timer_ = nullptr;  // a child, made where the run is
+  QTimer* timer_ = nullptr;  // a child, created on the run's thread
   int count_ = 0;            // entries so far
 };
 

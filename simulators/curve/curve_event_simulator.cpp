@@ -42,7 +42,7 @@ void CurveEventSimulator::Release(ConfigItem* /*item*/, ConfigKey* key) {
     found = rest != workers_.end();
     workers_.erase(rest, workers_.end());
   }
-  if (!found) return OnCurveFinished();  // the run has ended, and left the finger down
+  if (!found) return OnCurveFinished();  // the run has ended, and left the contact down
   Q_EMIT StopCurve(key->device, key->scancode);
 }
 
@@ -51,7 +51,7 @@ void CurveEventSimulator::Reset() {
     const QMutexLocker lock(&mutex_);
     while (!workers_.isEmpty()) {
       const ConfigKey key = workers_.takeFirst()->GetKey();
-      Q_EMIT StopCurve(key.device, key.scancode);  // answered later: all its receivers are queued
+      Q_EMIT StopCurve(key.device, key.scancode);  // the stops come later: all receivers are queued
     }
   }
   OnCurveFinished();
@@ -66,13 +66,13 @@ void CurveEventSimulator::StartRun(const CurveConfigItem& item, bool lifts_at_en
     if (IsLive(worker)) OnCurvePointPressed(x, y);
   };
   connect(worker, &CurveAsyncWorker::CurvePointPressed, this, on_point, Qt::QueuedConnection);
-  // A main thread that was busy finds the end told more than once; worker and run are gone after the first.
+  // A busy main thread may find the end reported more than once; worker and run are deleted after the first.
   const auto on_finished = [this, worker, run, lifts_at_end, is_over = false](bool force_stop) mutable {
     if (!std::exchange(is_over, true)) return EndRun(worker, run, force_stop || lifts_at_end);
     if (force_stop || lifts_at_end) OnCurveFinished();
   };
   connect(worker, &CurveAsyncWorker::CurveFinished, this, on_finished, Qt::QueuedConnection);
-  // Also without an end that it told: the system may have no thread for it.
+  // Also called without a reported end: the system may have had no thread for the run.
   connect(
       worker, &QObject::destroyed, this, [this, worker] { TakeOffList(worker); }, Qt::DirectConnection);
   run->Start();

@@ -1,4 +1,4 @@
-// A finger that follows a stored curve.
+// A contact that follows a stored curve.
 #ifndef SIMULATORS_CURVE_CURVE_EVENT_SIMULATOR_H_
 #define SIMULATORS_CURVE_CURVE_EVENT_SIMULATOR_H_
 
@@ -16,10 +16,10 @@ namespace taviinputmanager {
 class CurveAsyncWorker;
 class WorkerThread;
 
-// One finger for all curves: a second curve takes it and its origin over from the first.
+// All curves share one contact: a second curve takes it and its origin over from the first.
 //
-// A run of a held key leaves the finger on the last point, for the release to lift. A run that a release or a reset
-// took off the list presses no further point, whatever is on its way from it, and its end lifts the finger.
+// A run of a held key leaves the contact on the last point, and the key's release releases it. A run that a release or
+// a reset removed from the list presses no further point, even if some are queued, and its end releases the contact.
 class CurveEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -28,9 +28,9 @@ class CurveEventSimulator : public EventSimulator {
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // One run of the curve for a wheel notch, which lifts the finger at its end. Nothing while any run is alive.
+  // One run of the curve for a wheel notch; its end releases the contact. Nothing while any run exists.
   virtual void Wheel(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
-  // Ends every run and lifts the finger.
+  // Ends every run and releases the contact.
   void Reset();
 
  Q_SIGNALS:
@@ -43,16 +43,16 @@ class CurveEventSimulator : public EventSimulator {
  private:
   CurveEventSimulator() = default;
 
-  // `lifts_at_end`: the natural end of the list lifts the finger too.
+  // `lifts_at_end`: the natural end of the list also releases the contact.
   void StartRun(const tavikeymapmanager::CurveConfigItem& item, bool lifts_at_end);
   void EndRun(CurveAsyncWorker* worker, WorkerThread* run, bool lifts);
-  // False when it was taken off already.
+  // False if it was removed already.
   bool TakeOffList(CurveAsyncWorker* worker);
   bool IsLive(CurveAsyncWorker* worker);
   bool HasRuns();
 
   QMutex mutex_;                      // guards workers_
-  QList<CurveAsyncWorker*> workers_;  // not owned; each is alive for as long as it stands here
+  QList<CurveAsyncWorker*> workers_;  // not owned; each exists as long as it is in this list
 };
 
 }  // namespace taviinputmanager

@@ -12,7 +12,7 @@ namespace {
 constexpr double kStepsPerDisplay = 50.0;
 constexpr int kDigits = 6;
 
-// Qt takes "nan" for a number; here it is none.
+// Qt accepts "nan" as a number; it is not one here.
 double NumberOf(const QString& text) {
   const double number = text.toDouble();
   return std::isnan(number) ? 0.0 : number;
@@ -43,7 +43,7 @@ std::optional<QPointF> CurvePoints::At(int index) const {
 }
 
 QPointF CurvePoints::StraightPoint(int index) const {
-  if (steps_ == 0) return {};  // no step to divide by: the entry is no number
+  if (steps_ == 0) return {};  // no step to divide by: the entry is not a number
   return {AsWritten(index * (span_.x() / steps_) + start_.x()), AsWritten(index * (span_.y() / steps_) + start_.y())};
 }
 

@@ -15,17 +15,17 @@ namespace taviinputmanager {
 
 // Offsets from the curve's origin, as fractions of the display.
 //
-// A straight curve has a point for every 2% of the display, with the six digits that a written one would have; its
-// points are worked out one by one, since nothing limits its length. One of less than 2% on both axes has a single
-// point, the origin. A written list of fewer than two entries has no points at all.
+// A straight curve has a point for every 2% of the display, with six digits like a written one; its points are computed
+// one by one, because its length is not limited. One of less than 2% on both axes has a single point, the origin. A
+// written list of fewer than two entries has no points at all.
 class CurvePoints {
  public:
   explicit CurvePoints(const tavikeymapmanager::CurveConfigItem& item);
 
   // Entries, good and bad.
   qint64 Count() const;
-  // `index` from 0 to Count() - 1. Nothing for an entry that is not two texts joined by a comma; a text that is not a
-  // number reads as 0.
+  // `index` from 0 to Count() - 1. Nothing for an entry that does not consist of two texts separated by a comma; a text
+  // that is not a number reads as 0.
   std::optional<QPointF> At(int index) const;
 
  private:

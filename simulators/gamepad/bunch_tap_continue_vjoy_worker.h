@@ -1,4 +1,4 @@
-// Presses a virtual gamepad's button rapidly for as long as a key is held.
+// Presses a virtual gamepad's button rapidly while a key is held.
 #ifndef SIMULATORS_GAMEPAD_BUNCH_TAP_CONTINUE_VJOY_WORKER_H_
 #define SIMULATORS_GAMEPAD_BUNCH_TAP_CONTINUE_VJOY_WORKER_H_
 
@@ -11,19 +11,19 @@ class BunchTapContinueVjoyWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  // Takes a copy of `item`; null stands for a default item.
+  // Copies `item`; null means a default item.
   explicit BunchTapContinueVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem* item);
 
  public Q_SLOTS:
   void Process();
-  // Every run hears of every key that comes up; only the item's own device and scan code, or kForceStop, end it.
+  // Every run gets the release of every key; only the item's own device and scan code, or kForceStop, end it.
   void Stop(const QString& device, const QString& text, int scancode);
   void TimerOutTime();
 
  Q_SIGNALS:
   void BunchTapPressed(const QString& map_text);
   void BunchTapReleased(const QString& map_text);
-  // Again at each further stop. The button may be up or down.
+  // Emitted again at each further stop. The button may be up or down.
   void BunchTapFinished(const QString& map_text);
 
  private:

@@ -7,12 +7,12 @@
 
 namespace taviinputmanager {
 
-// Its rhythm is fixed: the item's frequency plays no part.
+// Its timing is fixed: the item's frequency is not used.
 class BunchTapOneOffVjoyWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  // Takes a copy of `item`; null stands for a default item.
+  // Copies `item`; null means a default item.
   explicit BunchTapOneOffVjoyWorker(const tavikeymapmanager::VirtualJoystickBunchButtonConfigItem* item);
 
  public Q_SLOTS:
@@ -23,7 +23,7 @@ class BunchTapOneOffVjoyWorker : public BunchTapWorker {
  Q_SIGNALS:
   void OneOffBunchTapPressed(const QString& map_text);
   void OneOffBunchTapReleased(const QString& map_text);
-  // Again at each further stop and half tap. The button may be up or down.
+  // Emitted again at each further stop and half tap. The button may be up or down.
   void OneOffBunchTapFinished(const QString& map_text);
 
  private:

@@ -21,7 +21,7 @@ void VJoystickBunchButtonEventSimulator::Press(ConfigItem* item, ConfigKey* /*ke
   const auto* button = dynamic_cast<const VirtualJoystickBunchButtonConfigItem*>(item);
   if (!button) return;  // not such a button
   if (!button->bunch_enabled) return Tell(button->map_text, true);
-  if (button->bunch_mode != keywords::kBunchContinue) return;  // begins when the key comes up
+  if (button->bunch_mode != keywords::kBunchContinue) return;  // starts when the key is released
   BunchTapRun::StartContinue(this, new BunchTapContinueVjoyWorker(button));
 }
 

@@ -6,11 +6,11 @@
 
 namespace taviinputmanager {
 
-// Runs as rapid taps do: in mode "Continue" while the key is held, in any other mode a fixed number when it comes up.
-// An item that is not enabled is a plain button, whatever its mode.
+// Works like rapid taps: in mode "Continue" while the key is held, in any other mode a fixed number of times after its
+// release. An item that is not enabled is an ordinary button, whatever its mode.
 //
-// The gamepad does not listen to this simulator: presses are timed and told, and reach no button. Who listens must take
-// a second release, since the end of a run is one, also where the button is up.
+// The gamepad is not connected to this simulator: presses are timed and signalled, but reach no button. A receiver must
+// accept a second release, because the end of a run emits one even if the button is up.
 class VJoystickBunchButtonEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -19,8 +19,8 @@ class VJoystickBunchButtonEventSimulator : public EventSimulator {
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // Ends the runs of held keys; with `release_one_off` the one-off runs too. Else a run whose key comes up under
-  // another keymap would have no end.
+  // Ends the runs of held keys; with `release_one_off` the one-off runs too. Otherwise a run whose key is released
+  // under another keymap would never end.
   void Reset(bool release_one_off);
 
  Q_SIGNALS:

@@ -1,4 +1,4 @@
-// A key that is a button of the virtual gamepad.
+// A key that acts as a button of the virtual gamepad.
 #ifndef SIMULATORS_GAMEPAD_VJOYSTICK_BUTTON_EVENT_SIMULATOR_H_
 #define SIMULATORS_GAMEPAD_VJOYSTICK_BUTTON_EVENT_SIMULATOR_H_
 

@@ -16,7 +16,7 @@ class VStickLeftShiftButtonEventSimulator : public EventSimulator {
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
 
  Q_SIGNALS:
-  // `factor` is the item's, on a release too.
+  // `factor` is the item's, also for a release.
   void sigVStickLeftShiftButtonPressOrRelease(double factor, bool press);
 
  private:

@@ -1,4 +1,4 @@
-// Four keys that are the virtual gamepad's left stick.
+// Four keys that move the virtual gamepad's left stick.
 #ifndef SIMULATORS_GAMEPAD_VSTICK_LEFT_STICK_SIMULATOR_H_
 #define SIMULATORS_GAMEPAD_VSTICK_LEFT_STICK_SIMULATOR_H_
 
@@ -13,7 +13,7 @@ class VStickLeftStickSimulator : public VStickSimulator {
   static VStickLeftStickSimulator* GetInstance();
 
  Q_SIGNALS:
-  // In radii from the centre; (0, 0) when the stick is let go. Silent until the first press.
+  // In radii from the centre; (0, 0) when the stick is released. Nothing is emitted before the first press.
   void sigSwipeholdTargetPointChanged(QPointF& point);
 
  protected:

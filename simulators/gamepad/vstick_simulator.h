@@ -1,4 +1,4 @@
-// Four keys that are a stick of the virtual gamepad: what both sticks share.
+// Four keys that move a stick of the virtual gamepad: the common part of both sticks.
 #ifndef SIMULATORS_GAMEPAD_VSTICK_SIMULATOR_H_
 #define SIMULATORS_GAMEPAD_VSTICK_SIMULATOR_H_
 
@@ -6,11 +6,11 @@
 
 namespace taviinputmanager {
 
-// The whole machine of a walk, with its first slide, steps and rests, on a worker without a finger: no line is sent,
-// and what remains is where the stick is. So a stick needs no free slot.
+// Uses the complete state machine of a walk, with its first slide, steps and rests, on a worker without a contact: no
+// line is sent, only the position of the stick remains. So a stick needs no free slot.
 //
-// All items of one stick share its worker and its keys. A reset of input does not let go of them: a stick is let go by
-// its keys alone.
+// All items of one stick share its worker and its keys. A reset of input does not release them: only its keys release a
+// stick.
 class VStickSimulator : public SwipeholdEventSimulator {
   Q_OBJECT
 
@@ -19,16 +19,16 @@ class VStickSimulator : public SwipeholdEventSimulator {
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
 
  protected:
-  // `index` is that of the stick's worker.
+  // `index` is the index of the stick's worker.
   explicit VStickSimulator(int index) : index_(index) {}
 
-  // The stick is at `point`, in radii from its centre; (0, 0) when it is let go.
+  // The stick is at `point`, in radii from its centre; (0, 0) when it is released.
   virtual void Report(QPointF& point) = 0;
   int VirtualStickIndex() const override { return index_; }
 
  private:
   SwipeholdAsyncWorker* Worker() const;
-  // From the first call on, what the worker says is reported.
+  // From the first call on, the worker's signals are forwarded.
   void FollowWorker();
 
   const int index_;

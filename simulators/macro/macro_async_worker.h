@@ -1,4 +1,4 @@
-// What every worker of a macro key has.
+// The common base of the workers of a macro key.
 #ifndef SIMULATORS_MACRO_MACRO_ASYNC_WORKER_H_
 #define SIMULATORS_MACRO_MACRO_ASYNC_WORKER_H_
 
@@ -13,12 +13,12 @@ struct MacroConfigItem;
 
 namespace taviinputmanager {
 
-// Main thread, in spite of the name: the timer lets input in between commands.
+// Main thread, despite the name: the timer lets other input in between commands.
 class MacroAsyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
-  // `item` and `key` are the caller's and valid during the call.
+  // The caller owns `item` and `key`, which are valid during the call.
   virtual void Press(tavikeymapmanager::MacroConfigItem* item, tavikeymapmanager::ConfigKey* key) = 0;
   virtual void Release(tavikeymapmanager::MacroConfigItem* item, tavikeymapmanager::ConfigKey* key) = 0;
   virtual void OnTimer() = 0;

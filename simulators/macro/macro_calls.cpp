@@ -10,9 +10,9 @@
 namespace taviinputmanager {
 namespace {
 
-constexpr int kMostDepth = 32;         // some 10 kB of stack each, at the worst
-constexpr int kMostRestarts = 100000;  // a tenth of a second or so
-constexpr qint64 kMostMs = 10000;      // where the way to the next one blocks: a wheel notch takes 50 ms
+constexpr int kMostDepth = 32;         // some 10 kB of stack each, in the worst case
+constexpr int kMostRestarts = 100000;  // about a tenth of a second
+constexpr qint64 kMostMs = 10000;      // for cycles that block: a wheel notch takes 50 ms
 
 }  // namespace
 

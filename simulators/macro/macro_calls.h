@@ -1,4 +1,4 @@
-// The macros that are under way inside each other.
+// The macros that run nested inside each other.
 #ifndef SIMULATORS_MACRO_MACRO_CALLS_H_
 #define SIMULATORS_MACRO_MACRO_CALLS_H_
 
@@ -12,16 +12,16 @@ namespace taviinputmanager {
 
 class MacroSequentialTapAsyncWorker;
 
-// A command may inject input that presses or releases macros, and their lists run before the command behind it:
+// A command may inject input that presses or releases macros, and their lists run before the command after it:
 //
 //   F1 up  a1 - keyboard_press:F2 ------------------------------- a3
 //                  b1 - keyboard_release:F1 ------ b3
 //                          a1 - keyboard_press:F2             F1 again, from the top: a3 above is not reached
 //
-// The first few lists run inside each other on the thread's stack, as calls do. Deeper ones wait here until the command
-// that led to them has returned, and come before the one behind it: the order is the same, and a program may be as deep
-// as it likes. A program that comes back to itself without end is given up after so many releases or so much time that
-// no other one gets there.
+// The first few lists are nested on the thread's stack, like calls. Deeper ones are queued until the command that
+// started them has returned, and run before the command after it: the order is the same, and a program may be nested as
+// deep as it likes. A program that recurses endlessly is stopped after so many releases or so much time that no other
+// program reaches the limit.
 //
 // Main thread.
 class MacroCalls {
@@ -31,13 +31,13 @@ class MacroCalls {
     return &instance;
   }
 
-  // Runs the list of `worker` until it pauses or ends: at once, or behind the command under way.
+  // Runs the list of `worker` until it pauses or ends: at once, or after the current command.
   void Run(MacroSequentialTapAsyncWorker* worker);
-  // Whether the command under way has left lists to be run before the next.
+  // Whether the current command has queued lists that must run before the next command.
   bool HasWaiting() const { return calls_.size() > height_; }
-  // Runs these now. To be called before anything else happens to a macro.
+  // Runs them now. Must be called before anything else happens to a macro.
   void RunWaiting();
-  // Whether a release may replace the list in progress of `worker`; false to give up a program without end.
+  // Whether a release may replace the current list of `worker`; false stops an endless program.
   bool MayRestart(const MacroSequentialTapAsyncWorker* worker);
 
  private:
@@ -47,8 +47,8 @@ class MacroCalls {
   void RunDownTo(std::size_t height);
 
   std::vector<QPointer<MacroSequentialTapAsyncWorker>> calls_;  // the innermost last
-  std::size_t height_ = 0;                                      // of calls_ as the command under way began
-  int depth_ = 0;                                               // of the thread's stack, in lists
+  std::size_t height_ = 0;                                      // size of calls_ when the current command began
+  int depth_ = 0;                                               // lists on the thread's stack
   int restarts_ = 0;                                            // since the outermost list began
   qint64 first_restart_ms_ = 0;
 };

@@ -1,4 +1,4 @@
-// One command of a macro, read.
+// One parsed command of a macro.
 #ifndef SIMULATORS_MACRO_MACRO_COMMAND_H_
 #define SIMULATORS_MACRO_MACRO_COMMAND_H_
 
@@ -7,25 +7,26 @@
 #include <QString>
 
 #include "keymap/macro_words.h"
+#include "qt/numbers.h"
 #include "simulators/macro/macro_points.h"
 
 namespace taviinputmanager {
 
 struct MacroCommand {
   MacroCommand(tavikeymapmanager::MacroVerb its_verb, const QString& its_argument)
-      : verb(its_verb), argument(its_argument), integer(its_argument.toInt()) {}
+      : verb(its_verb), argument(its_argument), integer(qt::ToInt(its_argument)) {}
 
   tavikeymapmanager::MacroVerb verb;
-  QString argument;    // the text behind the ":"; empty for a command that takes none
-  int integer;         // the argument, base 10; what cannot be read is 0
-  MacroPoints points;  // the argument of a command that takes points
+  QString argument;    // the text after the ":"; empty for a command without argument
+  int integer;         // the argument, base 10; 0 if it cannot be parsed
+  MacroPoints points;  // the argument of a command with points
 
   int Integer() const { return integer; }
   double Number() const { return argument.toDouble(); }
 };
 
-// Nothing for a command that is skipped: an unknown word, or a word that takes an argument with none or with more than
-// one. Case matters, and no blank is trimmed.
+// Nothing for a command that is skipped: an unknown word, or one whose argument is missing or has several parts. Case
+// matters, and blanks are not trimmed.
 std::optional<MacroCommand> ParseMacroCommand(const QString& text);
 
 }  // namespace taviinputmanager

@@ -27,9 +27,9 @@ LineBuffer MacroCurve::BuildNextPress() {
   const int slot = slot_;
   const QString element = points_.at(index_++);
   const QPointF point = ReadMacroPoint(element);
-  if (point.isNull()) return {};  // no point: the finger rests
+  if (point.isNull()) return {};  // not a point: the contact rests
   const auto touch = MacroPointToTouch(point);
-  if (!touch || slot_ != slot) return {};  // no display, or one whose host ended the curve as it answered
+  if (!touch || slot_ != slot) return {};  // no display, or the host's answer ended the curve
   return guest_command::SlotMultiPress({{slot, touch->x(), touch->y()}});
 }
 

@@ -1,4 +1,4 @@
-// The finger that a macro draws a curve with.
+// The contact that a macro draws a curve with.
 #ifndef SIMULATORS_MACRO_MACRO_CURVE_H_
 #define SIMULATORS_MACRO_MACRO_CURVE_H_
 
@@ -9,7 +9,7 @@
 
 namespace taviinputmanager {
 
-// Builds commands and sends nothing; an empty command means that there is nothing to send. The finger is an entry of
+// Creates commands and sends nothing; an empty command means that there is nothing to send. The contact is an entry of
 // MacroSlotManager that is taken by number. Main thread only.
 //
 // A curve of three points; `default` is the default sleep of the macro's list:
@@ -18,21 +18,22 @@ namespace taviinputmanager {
 //   point 1 ------- point 2 ------ point 3 ----- up, next command
 //   until_release_cmd:             point 3, next command ... curve_release, release_all or the macro's end: up
 //
-// Sleeps that are not set are the default one. The two own sleeps and until_release_cmd serve one curve.
+// Sleeps that are not set have the default duration. The two sleeps and until_release_cmd apply to one curve.
 class MacroCurve {
  public:
   void SetFirstSleep(int ms) { first_sleep_ = ms; }
   void SetLastSleep(int ms);
-  // The last point is held.
+  // Holds the last point.
   void SetUntilRelease() { until_release_ = true; }
 
-  // Takes a finger for a list of points. False, and nothing changes, with a curve in progress or no finger left.
+  // Takes a contact for a list of points. Returns false and changes nothing if a curve is in progress or no contact is
+  // left.
   bool Start(const QString& list);
-  // Puts the finger down on the next point, or moves it there. Empty where that is no point.
+  // Presses the contact on the next point, or moves it there. Empty if that is not a point.
   LineBuffer BuildNextPress();
-  // Lifts the finger and forgets the curve. Empty without a curve.
+  // Releases the contact and resets the curve. Empty without a curve.
   LineBuffer BuildRelease();
-  // Forgets the curve and its settings; the finger stays down.
+  // Resets the curve and its settings; the contact stays down.
   void Clear() { *this = MacroCurve(); }
 
   bool HasNextPoint() const { return index_ < points_.size(); }
@@ -40,7 +41,7 @@ class MacroCurve {
   bool IsPlayedOut() const { return !HasNextPoint() && !points_.isEmpty() && !until_release_; }
   bool IsHeldAtEnd() const { return until_release_; }
 
-  // In ms; `fallback` where none is set.
+  // In ms; `fallback` if none is set.
   int GetFirstSleep(int fallback) const { return SleepOr(first_sleep_, fallback); }
   int GetLastSleep(int fallback) const { return SleepOr(last_sleep_, fallback); }
 

@@ -44,7 +44,7 @@ void MacroEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
 }
 
 void MacroEventSimulator::StopWorkers(bool all) {
-  // Taken out first: what a worker says at its end may lead back here.
+  // Removed first: a worker's last signals may lead back here.
   QMap<QString, MacroSequentialTapAsyncWorker*> kept;
   QMap<QString, MacroSequentialTapAsyncWorker*> ended;
   for (auto at = workers_.cbegin(); at != workers_.cend(); ++at) {

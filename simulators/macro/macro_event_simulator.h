@@ -15,21 +15,21 @@ namespace taviinputmanager {
 
 class MacroSequentialTapAsyncWorker;
 
-// Each macro key has a worker of its own, so that several macros run side by side. A worker is made at the first use of
-// its key and stays until a reset ends it.
+// Each macro key has a worker of its own, so that several macros can run at once. A worker is created at the first use
+// of its key and exists until a reset ends it.
 class MacroEventSimulator : public EventSimulator {
  public:
   static MacroEventSimulator* GetInstance();
 
-  // Nothing for an item that is no MacroConfigItem. A press of a macro that runs is dropped.
+  // Nothing for an item that is not a MacroConfigItem. A press of a running macro is dropped.
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // Never dropped, but for an OperationRecorderConfigItem whose macro runs.
+  // Never dropped, except for an OperationRecorderConfigItem whose macro is running.
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // The worker of the item's key, made at its first use; the simulator owns it, and a reset may end it. Null for an
-  // OperationRecorderConfigItem whose macro runs, and without an item.
+  // The worker of the item's key, created at its first use; the simulator owns it, and a reset may end it. Null for an
+  // OperationRecorderConfigItem whose macro is running, and without an item.
   MacroSequentialTapAsyncWorker* GetWorker(const tavikeymapmanager::MacroConfigItem* item);
-  // Ends the macros that have a loop until release, wherever they are in it; with `all` every macro. Sends what lifts
-  // their fingers.
+  // Ends the macros that have a loop until release, at any point; with `all` every macro. Sends the releases of their
+  // contacts.
   void StopWorkers(bool all);
 
  private:

@@ -16,21 +16,21 @@ using guest_command::Slots;
 
 namespace {
 
-// Where a finger goes.
+// The target position of a contact.
 struct Place {
   QPointF point;
   QPoint touch;
   bool is_mouse;
 };
 
-// All before the first finger is taken: asking the host may lead to another macro's taking one.
+// All positions before the first contact is taken: the call to the host may lead to another macro that takes one.
 QVarLengthArray<Place, MacroSlotManager::kSlotCount> PlacesOf(const MacroPoints& list) {
   QVarLengthArray<Place, MacroSlotManager::kSlotCount> places;
   for (const MacroPoint& element : list.elements) {
     const QPointF point = element.Now();
-    if (point.isNull()) continue;  // no point
+    if (point.isNull()) continue;  // not a point
     const auto touch = MacroPointToTouch(point);
-    if (touch) places.append({point, *touch, element.is_mouse});  // else there is no display
+    if (touch) places.append({point, *touch, element.is_mouse});  // otherwise there is no display
   }
   return places;
 }
@@ -44,23 +44,32 @@ auto CountOf(const QString& text, const QStringList& texts) {
 
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
-  // At the end each press lifts one finger that its point has. A loop may press for hours, and more fingers than the
-  // pool has cannot hold one point.
-  if (CountOf(list.text, pressed_points_) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
+  if (!tavikeymapmanager::IsSameText(list.text, full_points_)) Remember(list.text);
   Contacts contacts;
   for (const Place& place : PlacesOf(list)) {
     const int slot = pool->Allocate(place.point);
-    if (slot == SlotManager::kNoSlot) continue;  // all fingers of macros are down
+    if (slot == SlotManager::kNoSlot) continue;  // all contacts of macros are down
     contacts.append({slot, place.touch.x(), place.touch.y()});
     if (place.is_mouse) mouse_point_ = place.point;
   }
   return contacts.isEmpty() ? LineBuffer() : guest_command::SlotMultiPress(contacts);
 }
 
+// At the end, each press releases one contact that is at its point. A loop may press for hours, but never more contacts
+// than the pool has can be at one point.
+void MacroFingers::Remember(const QString& list) {
+  if (CountOf(list, pressed_points_) < MacroSlotManager::kSlotCount) {
+    pressed_points_.append(list);
+  } else {
+    full_points_ = list;
+  }
+}
+
 LineBuffer MacroFingers::Release(const MacroPoints& list) { return ReleaseElements(list.elements); }
 
 LineBuffer MacroFingers::ReleasePressed() {
   QVector<MacroPoint> pressed;
+  full_points_.clear();
   for (const QString& list : std::exchange(pressed_points_, {})) pressed.append(ParseMacroPoint(list));
   return ReleaseElements(pressed);
 }
@@ -69,7 +78,7 @@ LineBuffer MacroFingers::ReleaseElements(const QVector<MacroPoint>& elements) {
   Slots released;
   for (const MacroPoint& element : elements) {
     const QPointF point = TakeReleasePoint(element);
-    if (point.isNull()) continue;  // no point, or nothing was pressed at the pointer
+    if (point.isNull()) continue;  // not a point, or nothing was pressed at the pointer
     const int slot = MacroSlotManager::GetInstance()->FreeAt(point);
     if (slot != SlotManager::kNoSlot) released.append(slot);
   }
@@ -95,7 +104,7 @@ MacroFingers::Halves MacroFingers::Split(const MacroPoints& list) const {
   for (const MacroPoint& element : list.elements) {
     const bool is_held_mouse = element.is_mouse && !mouse_point_.isNull();
     const QPointF point = is_held_mouse ? mouse_point_ : element.Now();
-    if (point.isNull()) continue;  // no point
+    if (point.isNull()) continue;  // not a point
     const bool is_down = MacroSlotManager::GetInstance()->Contains(point);
     (is_down ? halves.release : halves.press) += element.element + QLatin1Char(kMacroPointSeparator);
   }

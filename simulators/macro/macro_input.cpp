@@ -25,7 +25,7 @@ namespace {
 constexpr int kWheelUpCode = 224;
 constexpr int kWheelDownCode = 225;
 constexpr int kNotch = 120;         // eighths of a degree
-constexpr qint64 kRealMouseId = 0;  // keys have no pointer, and go by it too
+constexpr qint64 kRealMouseId = 0;  // keys have no pointer, but use it too
 
 MacroHeldInput& Held() { return *MacroHeldInput::GetInstance(); }
 
@@ -115,10 +115,10 @@ void MacroInput::SetVmouseButton(int button, bool press) const {
 
 void MacroInput::MoveVmouse(const QString& element) {
   const QPointF point = ReadMacroPoint(element);
-  if (point.isNull()) return;  // no point
+  if (point.isNull()) return;  // not a point
   vmouse_point_ = DisplayGeometry::GetInstance()->RelativeToDisplay(point);
   for (const int button : {1, 2, 3}) {
-    if (Held().virtual_buttons.Contains(button)) SetVmouseButton(button, true);  // this is what moves it
+    if (Held().virtual_buttons.Contains(button)) SetVmouseButton(button, true);  // moves the virtual pointer
   }
 }
 

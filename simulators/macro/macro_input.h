@@ -1,4 +1,4 @@
-// The input that a macro makes as if it came from the host.
+// The input that a macro creates as if it came from the host.
 #ifndef SIMULATORS_MACRO_MACRO_INPUT_H_
 #define SIMULATORS_MACRO_MACRO_INPUT_H_
 
@@ -10,16 +10,16 @@ namespace taviinputmanager {
 
 struct MacroCommand;
 
-// Keys, buttons, wheels, text and the switches of the input layer. What is held is noted in MacroHeldInput, which all
-// macros share, so that a switch works from one macro to the next. Each has a virtual pointer of its own.
+// Keys, buttons, wheels, text and the switches of the input layer. What is held is recorded in MacroHeldInput, which
+// all macros share, so that a switch affects later macros too. Each macro has a virtual pointer of its own.
 //
-// Main thread only. An injected event runs through the handlers before the call returns, and may press or release other
-// items, this macro's key included.
+// Main thread only. The handlers process an injected event before the call returns, and it may press or release other
+// items, including this macro's key.
 class MacroInput {
  public:
   MacroInput();
 
-  // Nothing for a command that is not about such input.
+  // Nothing for a command that creates no such input.
   void Obey(const MacroCommand& command);
 
   // The name of the virtual pointer.
@@ -30,7 +30,7 @@ class MacroInput {
   void MoveVmouse(const QString& element);
 
   qint64 vmouse_id_;      // random; no two macros have the same
-  QPointF vmouse_point_;  // where it is, display pixels
+  QPointF vmouse_point_;  // its position, display pixels
 };
 
 }  // namespace taviinputmanager

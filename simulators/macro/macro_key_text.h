@@ -1,4 +1,4 @@
-// How macros call their keys.
+// The key identifiers of macros.
 #ifndef SIMULATORS_MACRO_MACRO_KEY_TEXT_H_
 #define SIMULATORS_MACRO_MACRO_KEY_TEXT_H_
 
@@ -8,7 +8,7 @@
 
 namespace taviinputmanager {
 
-// "keyboard59" for F1, by device and scan code; a joystick's keys go by their own names.
+// "keyboard59" for F1, from device and scan code; gamepad keys use their own names.
 inline QString MacroKeyText(const tavikeymapmanager::ConfigKey& key) {
   if (key.device == tavikeymapmanager::keywords::kDeviceJoystick) return key.text;
   return key.device + QString::number(key.scancode);

@@ -4,8 +4,8 @@
 
 namespace taviinputmanager {
 
-// There is one: a loop inside a loop takes its place. It outlives the list that opened it, so that a loop left open is
-// still there for the next list of its key. Indexes are of the list in progress.
+// There is only one: a loop inside a loop replaces it. It outlives the list that opened it, so that an unclosed loop
+// still exists for the next list of its key. Indexes refer to the current list.
 class MacroLoop {
  public:
   static constexpr int kUntilRelease = 0x7FFFFFFF;  // as a count
@@ -17,8 +17,8 @@ class MacroLoop {
     start_ = body;
   }
 
-  // At a stop_loop with the command `last` before it. True when the body runs again, from GetStart; else the loop is
-  // over. A body of one command, or of none, never runs again.
+  // At a stop_loop after the command `last`. Returns true if the body runs again, from GetStart; otherwise the loop is
+  // over. A body of one command or none never runs again.
   bool Repeats(int last) {
     ++done_;
     if (start_ >= 1 && last > start_ && count_ > done_) return true;
@@ -28,13 +28,13 @@ class MacroLoop {
 
   int GetStart() const { return start_; }
   bool IsUntilRelease() const { return count_ == kUntilRelease; }
-  // The next stop_loop is the last.
+  // The next stop_loop ends the loop.
   void EndSoon() { count_ = done_; }
 
  private:
   int count_ = 0;
-  int done_ = 0;   // times that the body ran
-  int start_ = 0;  // 0 when no loop is open
+  int done_ = 0;   // number of completed runs of the body
+  int start_ = 0;  // 0 if no loop is open
 };
 
 }  // namespace taviinputmanager

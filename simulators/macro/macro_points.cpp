@@ -10,7 +10,7 @@
 namespace taviinputmanager {
 namespace {
 
-// "inf", "nan", and a display of no size: a slot that holds such a point could not be found again.
+// "inf", "nan", and a display without a size: the slot of such a point could not be found again.
 QPointF FiniteOrNull(const QPointF& point) {
   return std::isfinite(point.x()) && std::isfinite(point.y()) ? point : QPointF();
 }

@@ -1,7 +1,7 @@
 // The points of the macro language.
 //
-// A list is one or more points joined by ";". A point is "(x,y)", two fractions of the display, or "mouse", the
-// pointer. What cannot be read is the null point, which everybody skips: (0, 0) cannot be named.
+// A list is one or more points separated by ";". A point is "(x,y)", two fractions of the display, or "mouse", the
+// pointer. Text that cannot be parsed is the null point, which is always skipped: (0, 0) cannot be used.
 #ifndef SIMULATORS_MACRO_MACRO_POINTS_H_
 #define SIMULATORS_MACRO_MACRO_POINTS_H_
 
@@ -17,17 +17,17 @@ namespace taviinputmanager {
 
 constexpr char kMacroPointSeparator = ';';
 
-// An element of a list, read: where it is, or that it is the pointer, wherever that is by then.
+// A parsed element of a list: a position, or the pointer, whose position is read when it is used.
 struct MacroPoint {
   QString element;
-  QPointF place;  // null where the element is no point, and for the pointer
+  QPointF place;  // null if the element is not a point, and for the pointer
   bool is_mouse = false;
 
-  // Fractions of the display, at present.
+  // The current position, as a fraction of the display.
   QPointF Now() const;
 };
 
-// A list, read once for all the times that it is obeyed. Copies share what was read.
+// A list that is parsed once and used many times. Copies share the result.
 struct MacroPoints {
   MacroPoints() = default;
   explicit MacroPoints(const QString& list);
@@ -35,16 +35,16 @@ struct MacroPoints {
   bool IsEmpty() const { return elements.isEmpty(); }
 
   QString text;
-  QVector<MacroPoint> elements;  // also those that are no points
+  QVector<MacroPoint> elements;  // including those that are not points
 };
 
-// Every element of a list, also those that are no points.
+// Every element of a list, including those that are not points.
 QStringList SplitMacroPoints(const QString& list);
 MacroPoint ParseMacroPoint(const QString& element);
 bool IsMouseWord(const QString& element);
-// Fractions of the display. "mouse" is where the pointer is now; null on a display of no size.
+// Fractions of the display. "mouse" is the pointer's current position; null on a display without a size.
 QPointF ReadMacroPoint(const QString& element);
-// Touch coordinates of fractions; nothing without a display.
+// Converts fractions to touch coordinates; nothing without a display.
 std::optional<QPoint> MacroPointToTouch(const QPointF& point);
 
 }  // namespace taviinputmanager

@@ -12,7 +12,7 @@ using tavikeymapmanager::MacroVerb;
 
 MacroProgram::MacroProgram(const QStringList& commands) : commands_(commands) {
   lines_.reserve(static_cast<std::size_t>(commands.size()));
-  QSet<QString> points;  // equal ones share a text, and are told to be equal at a glance
+  QSet<QString> points;  // equal lists share their text, so the comparison is fast
   for (const QString& text : commands) {
     lines_.push_back({text, ParseMacroCommand(text)});
     if (auto& command = lines_.back().command) command->points.text = *points.insert(command->points.text);

@@ -1,4 +1,4 @@
-// A list of commands, read once for all the times that it runs.
+// A list of commands, parsed once and run many times.
 #ifndef SIMULATORS_MACRO_MACRO_PROGRAM_H_
 #define SIMULATORS_MACRO_MACRO_PROGRAM_H_
 
@@ -12,7 +12,7 @@
 
 namespace taviinputmanager {
 
-// Reads nothing twice: a key that plays its macro again finds its list read. Never changes once made.
+// Parses no list twice: a key that runs its macro again finds its list parsed. Immutable.
 class MacroProgram {
  public:
   struct Line {
@@ -22,18 +22,18 @@ class MacroProgram {
 
   explicit MacroProgram(const QStringList& commands);
 
-  // Whether this was read from `commands` and these have not changed since.
+  // Whether this was parsed from `commands` and these have not changed since.
   bool IsOf(const QStringList& commands) const { return commands_.isSharedWith(commands); }
 
   int Size() const { return static_cast<int>(lines_.size()); }
   const Line& At(int index) const { return lines_[static_cast<std::size_t>(index)]; }
 
   bool HasLoopUntilRelease() const;
-  // Of the pauses that name their time, in ms.
+  // The sum of the pauses with a fixed duration, in ms.
   int TotalSleep() const;
 
  private:
-  QStringList commands_;  // shared with whoever gave it
+  QStringList commands_;  // shared with the caller
   std::vector<Line> lines_;
 };
 

@@ -8,6 +8,7 @@
 #include "keymap/keywords.h"
 #include "keymap/macro_config_item.h"
 #include "keymap/operation_recorder_config_item.h"
+#include "qt/numbers.h"
 #include "simulators/macro/macro_calls.h"
 #include "simulators/macro/macro_command.h"
 #include "simulators/macro/macro_key_text.h"
@@ -22,7 +23,7 @@ using tavikeymapmanager::OperationRecorderConfigItem;
 
 namespace {
 
-// While it lives, the worker is not deleted under its feet.
+// While it exists, the worker is not deleted.
 class CallScope {
  public:
   explicit CallScope(int* depth) : depth_(depth) { ++*depth_; }
@@ -49,7 +50,7 @@ void RequestScreenshot(const QString& text) {
 // A copy of the name: the host may press the next key before it reads it.
 void SwitchMouseLock(QString key_name) {  // NOLINT(performance-unnecessary-value-param)
   const InputManager* manager = InputManager::GetInstance();
-  // There the Staring item's key does it.
+  // There the key of the Staring item handles it.
   if (manager->isConfigHasSpeicalTypeKey(tavikeymapmanager::keywords::kTypeStaring)) return;
   const InputManagerCallbacks* callbacks = manager->GetCallbacks();
   if (callbacks && callbacks->OnMouseLockSwitch) callbacks->OnMouseLockSwitch(key_name);
@@ -76,7 +77,7 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
   if (program->HasLoopUntilRelease() || release->HasLoopUntilRelease()) has_until_release_ = true;
   const unsigned list = lists_.Current();
   TellOperationStarted(*item, *program);
-  if (lists_.IsOver(list)) return;  // the host let go of the key, whose release has a list of its own
+  if (lists_.IsOver(list)) return;  // the host released the key, whose release has a list of its own
   state_ = State::kPress;
   StopList();
   RunList(program);
@@ -84,13 +85,13 @@ void MacroSequentialTapAsyncWorker::Press(MacroConfigItem* item, ConfigKey* /*ke
 
 void MacroSequentialTapAsyncWorker::Release(MacroConfigItem* item, ConfigKey* /*key*/) {
   if (loop_.IsUntilRelease()) return loop_.EndSoon();
-  // A list that is over cannot come back to itself: whoever releases it then has an end of its own.
+  // A finished list cannot recurse: the code that releases it then ends itself.
   if (program_ && !MacroCalls::GetInstance()->MayRestart(this)) return;
   const CallScope scope(&depth_);
   key_name_ = item->key.text;
   state_ = State::kRelease;
   if (!item->release_commands.isEmpty()) {
-    curve_.Clear();  // its finger stays down
+    curve_.Clear();  // its contact stays down
     StopList();
     RunList(Read(&release_program_, item->release_commands));
   } else if (!program_) {
@@ -125,7 +126,7 @@ void MacroSequentialTapAsyncWorker::Discard() {
   if (depth_ == 0) {
     delete this;
   } else {
-    deleteLater();  // one of its commands is under way and will return here
+    deleteLater();  // one of its commands is running and will return here
   }
 }
 
@@ -152,7 +153,7 @@ void MacroSequentialTapAsyncWorker::RunList(const Program& program) {
 bool MacroSequentialTapAsyncWorker::Step() {
   const CallScope scope(&depth_);
   const MacroCalls* calls = MacroCalls::GetInstance();
-  Program running;  // kept while one of its commands is under way: that may replace the list
+  Program running;  // kept while one of its commands is running, which may replace the list
   while (!is_discarded_ && !calls->HasWaiting()) {
     if (!program_ || command_index_ >= program_->Size()) {
       StopList();
@@ -205,14 +206,14 @@ bool MacroSequentialTapAsyncWorker::Click(const MacroPoints& list) {
 }
 
 bool MacroSequentialTapAsyncWorker::DrawCurve(const QString& list) {
-  if (!curve_.Start(list)) return true;  // one is in progress, or all fingers of macros are down
+  if (!curve_.Start(list)) return true;  // a curve is in progress, or all contacts of macros are down
   SendEvent(curve_.BuildNextPress());
   return Pause(curve_.GetFirstSleep(default_sleep_));
 }
 
 void MacroSequentialTapAsyncWorker::ReleaseAll() {
   const LineBuffer release = MacroFingers::ReleaseAll();
-  if (release.isEmpty()) return;  // no finger was down; the settings of the next curve stay too
+  if (release.isEmpty()) return;  // no contact was down; the settings of the next curve stay too
   curve_.Clear();
   SendEvent(release);
 }
@@ -228,7 +229,7 @@ void MacroSequentialTapAsyncWorker::StartLoop(const MacroCommand& command) {
 }
 
 void MacroSequentialTapAsyncWorker::StopLoop() {
-  constexpr int kBack = 2;  // the index is past the stop_loop already
+  constexpr int kBack = 2;  // the index is already past the stop_loop
   if (loop_.Repeats(command_index_ - kBack)) command_index_ = loop_.GetStart();
 }
 
@@ -236,7 +237,7 @@ void MacroSequentialTapAsyncWorker::SetLastCurveSleep(const QString& argument) {
   if (argument == QLatin1String("until_release_cmd")) {
     curve_.SetUntilRelease();
   } else {
-    curve_.SetLastSleep(argument.toInt());
+    curve_.SetLastSleep(qt::ToInt(argument));
   }
 }
 

@@ -17,20 +17,20 @@
 
 namespace taviinputmanager {
 
-// Commands run one behind the other within one call, until one pauses; the timer goes on with the next.
+// Commands run in sequence within one call until one pauses; the timer continues with the next.
 //
 //   kIdle      never used .............. press
 //   kPress     press list running ...... end of the list; a release that has a list of its own cuts it short
 //   kRelease   release in force ........ end of the list
 //   kFinished  ......................... press
 //
-// A press of a running macro is dropped by the simulator. A release is always taken: in a loop until release it ends
-// that loop and nothing more, and the release list is not run.
+// The simulator drops a press of a running macro. A release is always handled: in a loop until release it ends that
+// loop and nothing more, and the release list is not run.
 //
-// A command may inject input which comes back here before it returns: the release of this macro's own key, or a reset
-// that discards this worker. All calls share one place in the list, so an inner run that pauses is carried on by the
-// outer one at once. MacroCalls keeps the calls, and gives up a list that releases itself without end. Lists are copied
-// (they share their text), and read once for all the times that they run; no item is kept beyond a call.
+// A command may inject input that comes back here before the command returns: the release of this macro's own key, or a
+// reset that discards this worker. All calls share one position in the list, so the outer call continues at once after
+// an inner run that pauses. MacroCalls keeps the calls, and stops a list that releases itself endlessly. Lists are
+// copied (they share their text) and parsed once; no item is kept after a call.
 //
 // Main thread. The simulator owns it.
 class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
@@ -43,16 +43,16 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   void Release(tavikeymapmanager::MacroConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void OnTimer() override;
 
-  // For MacroCalls: runs commands until one pauses, the list ends, or one leaves other lists to be run first. Only then
-  // true: it goes on behind them.
+  // For MacroCalls: runs commands until one pauses, the list ends, or one queues other lists to be run first. Only in
+  // the last case it returns true: it continues after them.
   bool Step();
 
   bool IsRunning() const { return state_ == State::kPress || state_ == State::kRelease; }
   // A list that this worker was pressed with has a loop until release.
   bool HasUntilRelease() const { return has_until_release_; }
 
-  // Ends the macro at once: lifts its curve and the points that it pressed one by one, and deletes itself, later where
-  // one of its commands is under way. To delete it without this sends nothing.
+  // Ends the macro at once: releases its curve and the points that it pressed one by one, and deletes itself; later, if
+  // one of its commands is running. Deleting it without this sends nothing.
   void Discard();
 
  private:
@@ -62,14 +62,14 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   using Program = std::shared_ptr<const MacroProgram>;
 
   void StopList();
-  // `commands`, read into `program` unless that is where they were read before.
+  // Parses `commands` into `program`, unless it was parsed from the same commands before.
   static const Program& Read(Program* program, const QStringList& commands);
   void RunList(const Program& program);
-  // False when execution pauses.
+  // False if execution pauses.
   bool Obey(const MacroCommand& command, const QString& text);
   bool Click(const MacroPoints& list);
   bool DrawCurve(const QString& list);
-  // Execution goes on after `ms`; with a negative time, never.
+  // Execution continues after `ms`; never with a negative value.
   bool Pause(int ms);
   void ReleaseAll();
   void Switch(const MacroPoints& list);
@@ -81,18 +81,18 @@ class MacroSequentialTapAsyncWorker : public MacroAsyncWorker {
   QString key_name_;       // the text of the key of the item last pressed or released
   Program press_program_;  // of the last press
   Program release_program_;
-  Program program_;        // the one in progress, or none
-  Turns lists_;            // one begins as a list does
+  Program program_;        // the current one, or none
+  Turns lists_;            // a new one when a list starts
   int command_index_ = 0;  // of the next command
   int default_sleep_ = kDefaultSleepMs;
   MacroLoop loop_;
   MacroCurve curve_;
   MacroFingers fingers_;
   MacroInput input_;
-  MacroPoints click_points_;  // of the click under way
+  MacroPoints click_points_;  // of the click in progress
   bool has_until_release_ = false;
   bool is_discarded_ = false;
-  int depth_ = 0;  // of calls that are under way inside each other
+  int depth_ = 0;  // of nested calls
 };
 
 }  // namespace taviinputmanager

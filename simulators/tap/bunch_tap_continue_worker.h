@@ -1,4 +1,4 @@
-// Taps on one point for as long as a key is held.
+// Taps on one point while a key is held.
 #ifndef SIMULATORS_TAP_BUNCH_TAP_CONTINUE_WORKER_H_
 #define SIMULATORS_TAP_BUNCH_TAP_CONTINUE_WORKER_H_
 
@@ -11,12 +11,12 @@ class BunchTapContinueWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  // Takes a copy of `item`; null stands for a default item.
+  // Copies `item`; null means a default item.
   explicit BunchTapContinueWorker(const tavikeymapmanager::BunchClickConfigItem* item);
 
  public Q_SLOTS:
   void Process();
-  // Every run hears of every key that comes up; only the item's own key, or kForceStop, ends it.
+  // Every run gets the release of every key; only the item's own key, or kForceStop, ends it.
   void Stop(const QString& device, const QString& text, int scancode);
   void TimerOutTime();
 
@@ -24,7 +24,7 @@ class BunchTapContinueWorker : public BunchTapWorker {
   // Fractions of the display.
   void BunchTapPressed(double x, double y);
   void BunchTapReleased(double x, double y);
-  // Again at each further stop. The finger may be up or down.
+  // Emitted again at each further stop. The contact may be up or down.
   void BunchTapFinished(double x, double y);
 
  private:

@@ -42,13 +42,13 @@ void BunchTapEventSimulator::Reset(bool release_one_off) {
 
 void BunchTapEventSimulator::OnBunchTapPressed(double x, double y) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
-  if (!pool->PressAt(x, y)) return;  // every finger of the pool is down; the next press of the run tries again
+  if (!pool->PressAt(x, y)) return;  // every contact of the pool is down; the next press of the run tries again
   SendEvent(pool->UpdateLine());
 }
 
 void BunchTapEventSimulator::OnBunchTapReleased(double x, double y) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
-  if (!pool->ReleaseAt(x, y)) return;  // no finger was ever put down at this point
+  if (!pool->ReleaseAt(x, y)) return;  // no contact was ever pressed at this point
   SendEvent(pool->UpdateLine());
 }
 

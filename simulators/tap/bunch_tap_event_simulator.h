@@ -7,11 +7,11 @@
 namespace taviinputmanager {
 
 // In mode "Continue" a press starts a run and the release ends it; in any other mode the release starts a run of a
-// fixed number of taps. The runs keep time on threads of their own; fingers are pressed and lifted here, on the main
+// fixed number of taps. The runs keep time on threads of their own; contacts are pressed and released here, on the main
 // thread.
 //
-// No list of runs is kept: each stop goes to all, with the key, and each run knows its own. A key pressed twice has two
-// runs, which one release ends.
+// There is no list of runs: each stop goes to all of them, with the key, and each run recognizes its own. A key that is
+// pressed twice has two runs, which one release ends.
 class BunchTapEventSimulator : public EventSimulator {
   Q_OBJECT
 

@@ -7,12 +7,12 @@
 
 namespace taviinputmanager {
 
-// Its rhythm is fixed: the item's frequency plays no part.
+// Its timing is fixed: the item's frequency is not used.
 class BunchTapOneOffWorker : public BunchTapWorker {
   Q_OBJECT
 
  public:
-  // Takes a copy of `item`; null stands for a default item.
+  // Copies `item`; null means a default item.
   explicit BunchTapOneOffWorker(const tavikeymapmanager::BunchClickConfigItem* item);
 
  public Q_SLOTS:
@@ -24,7 +24,7 @@ class BunchTapOneOffWorker : public BunchTapWorker {
   // Fractions of the display.
   void OneOffBunchTapPressed(double x, double y);
   void OneOffBunchTapReleased(double x, double y);
-  // Again at each further stop and half tap. The finger may be up or down.
+  // Emitted again at each further stop and half tap. The contact may be up or down.
   void OneOffBunchTapFinished(double x, double y);
 
  private:

@@ -1,4 +1,4 @@
-// A finger that is down for as long as its key is.
+// A contact that is down as long as its key.
 #ifndef SIMULATORS_TAP_TAP_EVENT_SIMULATOR_H_
 #define SIMULATORS_TAP_TAP_EVENT_SIMULATOR_H_
 
@@ -6,8 +6,8 @@
 
 namespace taviinputmanager {
 
-// Remembers nothing: press and release find each other through the item's point in the pool. Two items on one point
-// share a finger, and the first release lifts it.
+// Stateless: press and release find each other through the item's point in the pool. Two items on one point share a
+// contact, and the first release releases it.
 class TapEventSimulator : public EventSimulator {
  public:
   static TapEventSimulator* GetInstance() {

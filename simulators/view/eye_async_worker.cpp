@@ -15,8 +15,8 @@ using tavikeymapmanager::EyeConfigItem;
 namespace {
 
 constexpr int kTickMs = 8;
-constexpr double kStepAtFullSpeed = 8;  // pixels a tick at speed 100
-constexpr int kPadding = 5;             // pixels: a finger nearer to the display's edge than this lifts
+constexpr double kStepAtFullSpeed = 8;  // pixels per tick at speed 100
+constexpr int kPadding = 5;             // pixels: a contact closer than this to the display's edge is released
 
 bool IsBetween(int value, int low, int high) { return low <= value && value <= high; }
 
@@ -42,14 +42,14 @@ void EyeAsyncWorker::Update(const EyeConfigItem* item, const ConfigKey* key, boo
   if (finger_->HasDirection() == timer_.isActive()) return;  // a further key only changes the direction
   if (finger_->HasDirection()) return Start(*item);
   timer_.stop();
-  Clock::Sleep(kTickMs);  // the last step has its time too
+  Clock::Sleep(kTickMs);  // the last step takes its full time too
   if (!finger_->HasDirection()) LiftFinger();
 }
 
 void EyeAsyncWorker::Start(const EyeConfigItem& item) {
   timer_.start(kTickMs);
   display_ = DisplayGeometry::GetInstance()->GetDisplayRect().size();
-  if (!finger_->HasDirection()) return;  // the host let go of the key as it answered
+  if (!finger_->HasDirection()) return;  // the host released the key during its answer
   step_ = Round(item.speed * kStepAtFullSpeed / 100.0);
   finger_->home = {Truncate(display_.width() * item.rel_x), Truncate(display_.height() * item.rel_y)};
   finger_->position = finger_->home;

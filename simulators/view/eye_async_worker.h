@@ -1,4 +1,4 @@
-// The finger that turns the view while direction keys are held.
+// The contact that turns the view while direction keys are held.
 #ifndef SIMULATORS_VIEW_EYE_ASYNC_WORKER_H_
 #define SIMULATORS_VIEW_EYE_ASYNC_WORKER_H_
 
@@ -16,22 +16,22 @@ namespace taviinputmanager {
 
 class EyeSlotManager;
 
-// Drives slot 7.
+// Uses slot 7.
 //
 //   first key: press at home ---- 8 ms ---- step ---- 8 ms ---- step ...    last key up: 8 ms, lift
 //     a step past the window's padding: lift; the next tick steps on from home and presses there
 //
-// Main thread; it has no thread of its own. Reads the item during a call only.
+// Main thread; despite its name it has no thread of its own. Reads the item only during a call.
 class EyeAsyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   static EyeAsyncWorker* GetInstance();
 
-  // One of the item's four keys goes down or up. Nothing for null.
+  // Presses or releases one of the item's four keys. Does nothing for null.
   virtual void Press(const tavikeymapmanager::EyeConfigItem* item, const tavikeymapmanager::ConfigKey* key);
   virtual void Release(const tavikeymapmanager::EyeConfigItem* item, const tavikeymapmanager::ConfigKey* key);
-  // Forgets the keys and lifts the finger; the release is sent in any case.
+  // Resets the keys and releases the contact; the release is sent in any case.
   void Stop();
 
  public Q_SLOTS:
@@ -48,7 +48,7 @@ class EyeAsyncWorker : public EventHandler {
   EyeSlotManager* finger_;  // the singleton
   QTimer timer_;            // runs while a key is held
   QSize display_;           // at the first key, pixels
-  int step_ = 0;            // pixels a tick
+  int step_ = 0;            // pixels per tick
 };
 
 }  // namespace taviinputmanager

@@ -1,4 +1,4 @@
-// The view turned by four keys.
+// Four keys that turn the view.
 #ifndef SIMULATORS_VIEW_EYE_EVENT_SIMULATOR_H_
 #define SIMULATORS_VIEW_EYE_EVENT_SIMULATOR_H_
 

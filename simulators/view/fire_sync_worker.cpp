@@ -52,7 +52,7 @@ void FireSyncWorker::StartFire(const FireConfigItem& item) {
   accumulated_ = {};
   fire_offset_.Start(item.offset_enabled);
   const QPoint button = FirePressPoint(&item);
-  if (holds_.IsOver(turn)) return;  // the host let go of the key as it answered
+  if (holds_.IsOver(turn)) return;  // the host released the key during its answer
   FireSlotManager::GetInstance()->position = button;
   SendFinger();
   if (!item.relative_mode || holds_.IsOver(turn)) return;
@@ -70,9 +70,9 @@ void FireSyncWorker::CancelFire(const SpellCancelConfigItem& cancel) {
     const FireConfigItem item = *fire_item_;
     SwipeFireFinger(&item, finger->position, PixelOf(cancel.rel_x, cancel.rel_y));
   }
-  if (holds_.IsOver(turn)) return;  // let go of from inside the swipe
+  if (holds_.IsOver(turn)) return;  // released from within the swipe
   EndFire();
-  if (!was_down || cancel_timer_.isActive()) return;  // the time of an earlier cancel decides
+  if (!was_down || cancel_timer_.isActive()) return;  // the time of an earlier cancel applies
   if (cancel.cancel_delay_ms >= 1) cancel_timer_.start(cancel.cancel_delay_ms);
   if (cancel.cancel_delay_ms == 0) LiftFinger();
 }
@@ -105,7 +105,8 @@ void FireSyncWorker::SwipeFireFinger(const FireConfigItem* item, QPoint from, QP
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
   const unsigned turn = holds_.Current();
   for (qint64 i = 1; i <= steps && !holds_.IsOver(turn); ++i) {
-    FireSlotManager::GetInstance()->position = {Round(from.x() + i * step_x), Round(from.y() + i * step_y)};
+    const auto done = static_cast<double>(i);
+    FireSlotManager::GetInstance()->position = {Round(from.x() + done * step_x), Round(from.y() + done * step_y)};
     SendFinger();
   }
 }
@@ -114,7 +115,7 @@ void FireSyncWorker::OnFireRelativeInput(int dx, int dy) {
   if (!fire_item_) return;
   accumulated_.Add(dx, dy);
   const qint64 now = Clock::NowMs();
-  if (now - last_send_ms_ < fire_item_->move_interval_ms) return;  // the next send carries these counts too
+  if (now - last_send_ms_ < fire_item_->move_interval_ms) return;  // the next line includes these counts too
   last_send_ms_ = now;
   const unsigned turn = holds_.Current();
   const QPoint point = RelativePoint(FireConfigItem(*fire_item_));
@@ -133,7 +134,7 @@ QPoint FireSyncWorker::RelativePoint(const FireConfigItem& item) {
   const QPoint offset = fire_offset_.Get();
   const QPoint way = Sum(offset, accumulated_.ToPixels(sensitivity));
   if (item.range_mode == keywords::kFireRangeUnlimited) return Sum(start, way);
-  // The offset counts twice: inside the circle around the button, and as a move of that circle.
+  // The offset counts twice: inside the circle around the button, and as a displacement of that circle.
   return Sum(offset, DisplayGeometry::ClampToRadius(start, way, start, h * item.range_radius));
 }
 

@@ -1,4 +1,4 @@
-// The gravity sensor tilted by four keys.
+// Four keys that tilt the gravity sensor.
 #ifndef SIMULATORS_VIEW_GRAVITY_EVENT_SIMULATOR_H_
 #define SIMULATORS_VIEW_GRAVITY_EVENT_SIMULATOR_H_
 

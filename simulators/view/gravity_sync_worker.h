@@ -22,17 +22,17 @@ class GravityFakeSlotManager;
 //   any key up: tilt and offset are 0 at once, and build up again by the keys that stay
 //   last key up: and the ticks end
 //
-// Main thread. Reads the item during a call only.
+// Main thread. Reads the item only during a call.
 class GravitySyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   static GravitySyncWorker* GetInstance();
 
-  // One of the item's four keys goes down or up. Nothing for null.
+  // Presses or releases one of the item's four keys. Does nothing for null.
   virtual void Press(const tavikeymapmanager::GravityConfigItem* item, const tavikeymapmanager::ConfigKey* key);
   virtual void Release(const tavikeymapmanager::GravityConfigItem* item, const tavikeymapmanager::ConfigKey* key);
-  // Forgets the keys and lays the sensor flat; the host is told in any case.
+  // Resets the keys and lays the sensor flat; the host is called in any case.
   void Stop();
 
  public Q_SLOTS:
@@ -46,19 +46,19 @@ class GravitySyncWorker : public EventHandler {
 
     bool operator==(const Tilt& other) const { return x == other.x && y == other.y && z == other.z; }
   };
-  // No tilt of a keymap: what was sent last while nothing was.
+  // The tilt without a keymap: the value that was last sent without keys.
   static constexpr Tilt kNothingSent{-1.0, -1.0, -1.0};
 
   GravitySyncWorker();
 
-  // Forgets the tilt and tells the host so.
+  // Resets the tilt and reports that to the host.
   void LevelOut();
   static void SendTilt(const Tilt& tilt);
 
-  GravityFakeSlotManager* keys_;  // the singleton: keys held, and the offset that they have built up
+  GravityFakeSlotManager* keys_;  // the singleton: the held keys, and the offset that they have accumulated
   QTimer timer_;                  // runs while a key is held
-  double step_ = 0;               // on the offset, a tick
-  Tilt gravity_{0, 0, 0};         // in force; y is never changed
+  double step_ = 0;               // on the offset, per tick
+  Tilt gravity_{0, 0, 0};         // current; y never changes
   Tilt last_ = kNothingSent;      // sent last
 };
 

@@ -12,7 +12,7 @@ using tavikeymapmanager::ObserveConfigItem;
 
 namespace {
 
-constexpr int kLiftMs = 40;  // the guest's game needs the view finger gone for a while before it takes another one
+constexpr int kLiftMs = 40;  // games need the view contact to be up for a while before they accept another one
 
 }  // namespace
 
@@ -40,14 +40,14 @@ void ObserveSyncWorker::OnObservePress(const ConfigItem* item) {
   observe_centre_ = {Round(display.width() * observe->rel_x), Round(display.height() * observe->rel_y)};
   LiftFinger();
   Clock::Sleep(kLiftMs);
-  if (observe_item_) Q_EMIT sigSubscribeWmRelativeInputEvent();  // else the host let go of the key meanwhile
+  if (observe_item_) Q_EMIT sigSubscribeWmRelativeInputEvent();  // otherwise the host released the key meanwhile
 }
 
 void ObserveSyncWorker::OnObserveRelativeInput(int dx, int dy) {
   if (!observe_item_) return;
   accumulated_.Add(dx, dy);
   const qint64 now = Clock::NowMs();
-  if (now - last_send_ms_ < observe_item_->move_interval_ms) return;  // the next send carries these counts too
+  if (now - last_send_ms_ < observe_item_->move_interval_ms) return;  // the next line includes these counts too
   MouseSlotManager* finger = MouseSlotManager::GetInstance();
   if (finger->HasTouch()) {
     MoveFinger();

@@ -1,4 +1,4 @@
-// Looking around on a second point for as long as a key is held.
+// Looking around with a contact on another point while a key is held.
 #ifndef SIMULATORS_VIEW_OBSERVE_SYNC_WORKER_H_
 #define SIMULATORS_VIEW_OBSERVE_SYNC_WORKER_H_
 
@@ -13,32 +13,32 @@
 
 namespace taviinputmanager {
 
-// Drives MouseSlotManager's finger, which view control has otherwise. Each send moves it on from where it is; there is
-// no range. Counts of while it is up are spent by the first move after its press.
+// Uses MouseSlotManager's contact, which view control uses otherwise. Each line moves it on from its position; there is
+// no range. Counts that arrive while it is up are spent by the first move after its press.
 //
 //   key down             40 ms     counts                     counts        key up
 //   view finger lifts    (block)   press on the item's point  moves         lifts
 //
-// Works on a copy of the item: the release may come after its keymap is gone. Main thread.
+// Works on a copy of the item: the release may come after its keymap was deleted. Main thread.
 class ObserveSyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   static ObserveSyncWorker* GetInstance();
 
-  // Nothing for null, for items of other kinds, and while an item is in force. Blocks for 40 ms.
+  // Does nothing for null, for items of other kinds, and while an item is active. Blocks for 40 ms.
   void OnObservePress(const tavikeymapmanager::ConfigItem* item);
-  // Lifts the finger, item or not.
+  // Releases the contact, with or without an item.
   void OnObserveRelease();
-  // Counts of one host event; nothing while no item is in force.
+  // The counts of one host event; ignored while no item is active.
   void OnObserveRelativeInput(int dx, int dy);
 
  public Q_SLOTS:
-  // Nothing happens with time in this behaviour, so far: the timer never runs.
+  // This behaviour has no timing: the timer never runs.
   void ObserveTimerOutTime();
 
  Q_SIGNALS:
-  // Around a hold. Whoever has the relative counts hands them over to this worker.
+  // Emitted around a hold. The owner of the relative counts passes them to this worker.
   void sigSubscribeWmRelativeInputEvent();
   void sigUnSubscribeWmRelativeInputEvent();
 

@@ -1,4 +1,4 @@
-// The view turned by a gamepad's right stick.
+// A gamepad's right stick that turns the view.
 #ifndef SIMULATORS_VIEW_RIGHT_STICK_EYE_EVENT_SIMULATOR_H_
 #define SIMULATORS_VIEW_RIGHT_STICK_EYE_EVENT_SIMULATOR_H_
 
@@ -12,14 +12,14 @@ struct JoystickRightEyeConfigItem;
 
 namespace taviinputmanager {
 
-// Works by the stick; a press or release as of a key does nothing.
+// Works with the stick; a press or release of a key does nothing.
 class RightStickEyeEventSimulator : public EventSimulator {
  public:
   static RightStickEyeEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Nothing without an item.
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Does nothing without an item.
   void OnStick(tavikeymapmanager::JoystickRightEyeConfigItem* item, const QPointF& stick);
 
  private:

@@ -13,7 +13,7 @@ using tavikeymapmanager::JoystickRightEyeConfigItem;
 
 namespace {
 
-constexpr double kWayPerEvent = 0.005;  // of a full stick at sensitivity 1, in display widths
+constexpr double kWayPerEvent = 0.005;  // for a full deflection at sensitivity 1, in display widths
 
 }  // namespace
 
@@ -34,7 +34,7 @@ void RightStickEyeSyncWorker::OnStick(const JoystickRightEyeConfigItem* item, co
       MoveBy(stick);
     } else {
       LayOut(*item);
-      if (events_.IsOver(turn)) return;  // a newer event came from inside the host's answer
+      if (events_.IsOver(turn)) return;  // a newer event came during the host's answer
       finger_->position = range_.GetCentre();
     }
     range_.Apply(finger_, item->auto_reset, item->range_mode);
@@ -49,7 +49,7 @@ void RightStickEyeSyncWorker::LayOut(const JoystickRightEyeConfigItem& item) {
 }
 
 void RightStickEyeSyncWorker::MoveBy(const QPointF& stick) {
-  // The width serves both axes: a way on the stick is the same way on the screen in any direction.
+  // The width applies to both axes: the same deflection is the same distance on the screen in any direction.
   QPoint& position = finger_->position;
   position.rx() = AddSaturated(position.x(), Round(stick.x() * kWayPerEvent * stick_sensitivity_ * display_width_));
   position.ry() = AddSaturated(position.y(), Round(stick.y() * kWayPerEvent * stick_sensitivity_ * display_width_));

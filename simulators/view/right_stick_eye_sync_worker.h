@@ -1,4 +1,4 @@
-// The finger that turns the view by a gamepad's right stick.
+// The contact that turns the view with a gamepad's right stick.
 #ifndef SIMULATORS_VIEW_RIGHT_STICK_EYE_SYNC_WORKER_H_
 #define SIMULATORS_VIEW_RIGHT_STICK_EYE_SYNC_WORKER_H_
 
@@ -16,21 +16,21 @@ namespace taviinputmanager {
 
 class JoystickRightStickSlotManager;
 
-// Drives slot 9. The stick gives a speed: each event moves the finger on from where it is. The first event after a lift
-// presses it on the centre of its area, and one that leaves the area lifts it.
+// Uses slot 9. The stick sets a speed: each event moves the contact on from its position. The first event after a
+// release presses it at the centre of its area, and an event that leaves the area releases it.
 //
-// Main thread. Reads the item during a call only; the area and the speed are those of the last press.
+// Main thread. Reads the item only during a call; the area and the speed are those of the last press.
 class RightStickEyeSyncWorker : public EventHandler {
  public:
   static RightStickEyeSyncWorker* GetInstance();
 
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest, and lifts. Nothing without an item.
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest, and releases. Does nothing without an item.
   void OnStick(const tavikeymapmanager::JoystickRightEyeConfigItem* item, const QPointF& stick);
 
  private:
   RightStickEyeSyncWorker();
 
-  // Before the finger goes down.
+  // Before the contact is pressed.
   void LayOut(const tavikeymapmanager::JoystickRightEyeConfigItem& item);
   void MoveBy(const QPointF& stick);
 

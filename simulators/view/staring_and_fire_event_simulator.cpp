@@ -25,7 +25,9 @@ bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == Inpu
 
 }  // namespace
 
-StaringAndFireEventSimulator::StaringAndFireEventSimulator() = default;
+StaringAndFireEventSimulator::StaringAndFireEventSimulator() : staring_(StaringWmRelativeInputWorker::GetInstance()) {}
+
+StaringAndFireEventSimulator::~StaringAndFireEventSimulator() = default;
 
 void StaringAndFireEventSimulator::ConnectWorkers() {
   FireSyncWorker* fire = FireSyncWorker::GetInstance();
@@ -52,9 +54,9 @@ void StaringAndFireEventSimulator::ConnectWorkers() {
 
 void StaringAndFireEventSimulator::Press(ConfigItem* item, ConfigKey* key) {
   std::call_once(connected_, [this] { ConnectWorkers(); });
-  if (!item) return;  // its type is what is asked for
+  if (!item) return;  // its type is what matters
   if (item->type == keywords::kTypeFire) {
-    if (!IsStaring()) return;  // there is nothing to aim by
+    if (!IsStaring()) return;  // there is nothing to aim with
     FireSyncWorker::GetInstance()->OnFirePress(item);
   } else if (item->type == keywords::kTypeStaring) {
     ToggleStaring(item, key->text);
@@ -85,10 +87,10 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
     status->SetStatus(InputStatus::StaringOff, key_text);
   } else {
     const auto* staring = dynamic_cast<const StaringConfigItem*>(item);
-    staring_item_ = staring ? std::make_shared<const StaringConfigItem>(*staring) : nullptr;
+    staring_item_ = staring ? std::make_unique<const StaringConfigItem>(*staring) : nullptr;
     status->SetStatus(InputStatus::Staring, key_text);
-    if (IsStaring()) StaringWmRelativeInputWorker::GetInstance()->StartStaring(staring);
-    if (!IsStaring()) StopAutoReset();  // the host turned it off from inside
+    if (IsStaring()) staring_->StartStaring(staring);
+    if (!IsStaring()) StopAutoReset();  // the host turned it off during the call
   }
   LiftViewFinger();  // whatever it was down for
 }
@@ -96,12 +98,12 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
 void StaringAndFireEventSimulator::PressObserve(const ConfigItem* item, const QString& key_text) {
   InputStatusManager* status = InputStatusManager::GetInstance();
   switch (status->GetStatus()) {
-    case InputStatus::Staring: break;  // observing inside view control is no status of its own
+    case InputStatus::Staring: break;  // observing during view control has no status of its own
     case InputStatus::Normal:
     case InputStatus::StaringOff:
       has_observe_item_ = dynamic_cast<const ObserveConfigItem*>(item) != nullptr;
       status->SetStatus(InputStatus::Observing, key_text);
-      if (status->GetStatus() != InputStatus::Observing) return;  // the host let go of the key from inside
+      if (status->GetStatus() != InputStatus::Observing) return;  // the host released the key during the call
       break;
     default: return;  // a second observe key
   }
@@ -122,11 +124,10 @@ void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {
     case RelativeRoute::kStaring: break;
   }
   if (!staring_item_) return;
-  const auto item = staring_item_;  // view control may end from inside a send
-  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(item.get(), dx, dy);
+  staring_->OnStaringRelativeInput(staring_item_.get(), dx, dy);
 }
 
-void StaringAndFireEventSimulator::StopAutoReset() { StaringWmRelativeInputWorker::GetInstance()->StopAutoReset(); }
+void StaringAndFireEventSimulator::StopAutoReset() { staring_->StopAutoReset(); }
 
 void StaringAndFireEventSimulator::OnSpellCancelPressed(SpellCancelConfigItem& item) {
   ConfigKey key;

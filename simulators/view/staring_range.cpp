@@ -18,11 +18,11 @@ namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
 
-constexpr int kWindowRim = 5;         // pixels at each edge that a swipe keeps off
+constexpr int kWindowRim = 5;         // pixels at each edge that a swipe avoids
 constexpr double kPaddingNear = 0.1;  // of the display
 constexpr double kPaddingFar = 0.9;
 
-// Half of an extent that is given as a fraction, in whole pixels.
+// Half of a size that is given as a fraction, in whole pixels.
 int HalfExtent(int display, double fraction) { return Truncate(display * fraction) >> 1; }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The area that a view finger moves in, and what becomes of a finger that leaves it.
+// The area of a view contact, and what happens to a contact that leaves it.
 #ifndef SIMULATORS_VIEW_STARING_RANGE_H_
 #define SIMULATORS_VIEW_STARING_RANGE_H_
 
@@ -12,23 +12,23 @@ namespace taviinputmanager {
 
 class PositionSlotManager;
 
-// Everything is in display pixels, from the display as it was at Prepare. The mouse's view finger has an area, and the
-// view finger of a gamepad's right stick one of its own.
+// Everything is in display pixels, for the display at the time of Prepare. The mouse's view contact has an area, and
+// the view contact of a gamepad's right stick one of its own.
 class StaringRange {
  public:
-  // Lays the area out anew. `centre` and `size`, that of the user's own range, are fractions of the display.
+  // Computes the area again. `centre` and `size`, that of the user's own range, are fractions of the display.
   void Prepare(const QPointF& centre, const QSizeF& size);
 
-  // Where the finger goes down.
+  // Where the contact is pressed.
   const QPoint& GetCentre() const { return centre_; }
 
-  // With `auto_reset`, a finger outside the rectangle that `range_mode` names is taken off the display: the view turns
-  // without end by swipes from the centre to the edge. Without, it is moved back into the user's range and stays down,
-  // whatever the mode. The caller sends what has become of it.
+  // With `auto_reset`, a contact outside the rectangle of `range_mode` is removed from the display: the view turns
+  // without limit by swipes from the centre to the edge. Otherwise it is moved back into the user's range and stays
+  // down, whatever the mode. The caller sends the result.
   void Apply(PositionSlotManager* finger, bool auto_reset, const QString& range_mode) const;
 
  private:
-  // All four lie inside. A rectangle whose right is left of its left has no inside.
+  // All four are inside. A rectangle whose right is left of its left has no inside.
   struct Bounds {
     int left = 0;
     int top = 0;
@@ -41,9 +41,9 @@ class StaringRange {
 
   const Bounds& BoundsOf(const QString& range_mode) const;
 
-  Bounds user_range_;            // may reach beyond the display
-  Bounds user_range_in_window_;  // the same, cut to the window range
-  Bounds window_range_;          // the display without a thin rim
+  Bounds user_range_;            // may extend beyond the display
+  Bounds user_range_in_window_;  // the same, clipped to the window range
+  Bounds window_range_;          // the display without a thin border
   Bounds padded_range_;          // the display without a tenth on each side
   QPoint centre_;
 };

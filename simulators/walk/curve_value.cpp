@@ -11,9 +11,9 @@ namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
 
-constexpr double kTableReach = 5e7;  // the tables' index of a larger argument does not fit an int
+constexpr double kTableReach = 5e7;  // the table index of a larger argument does not fit an int
 
-bool IsInTables(double v) { return std::abs(v) <= kTableReach; }  // false for NaN too
+bool IsInTables(double v) { return std::abs(v) <= kTableReach; }  // also false for NaN
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// The curves that a keymap names.
+// The curves that a keymap can name.
 #ifndef SIMULATORS_WALK_CURVE_VALUE_H_
 #define SIMULATORS_WALK_CURVE_VALUE_H_
 
@@ -7,7 +7,7 @@
 namespace taviinputmanager {
 
 // The curve `name` at t * factor + offset; "X2" is t * factor * t + offset. 0 for any other name. Sine and cosine have
-// the precision of Qt's fast tables, and are 0 where an argument is too large for these.
+// the precision of Qt's fast tables, and are 0 if an argument is too large for them.
 double CurveValue(const QString& name, double t, double factor, double offset);
 
 }  // namespace taviinputmanager

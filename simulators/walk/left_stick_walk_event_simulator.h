@@ -1,4 +1,4 @@
-// Walking by a gamepad's left stick.
+// Walking with a gamepad's left stick.
 #ifndef SIMULATORS_WALK_LEFT_STICK_WALK_EVENT_SIMULATOR_H_
 #define SIMULATORS_WALK_LEFT_STICK_WALK_EVENT_SIMULATOR_H_
 
@@ -12,17 +12,17 @@ struct JoystickLeftWalkConfigItem;
 
 namespace taviinputmanager {
 
-// Works by the stick; a press or release as of a key does nothing.
+// Works with the stick; a press or release of a key does nothing.
 class LeftStickWalkEventSimulator : public EventSimulator {
  public:
   static LeftStickWalkEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Nothing without an item. Blocks for as long
-  // as the finger takes to the new point.
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Does nothing without an item. Blocks until
+  // the contact has arrived at the new point.
   void OnStick(tavikeymapmanager::JoystickLeftWalkConfigItem* item, const QPointF& stick);
-  // Lifts the finger; one that was down stays up until the stick has come to rest.
+  // Releases the contact; one that was down stays up until the stick has returned to rest.
   void StopWalk();
 
  private:

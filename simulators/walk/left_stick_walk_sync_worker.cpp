@@ -20,8 +20,8 @@ namespace {
 constexpr int kPressMs = 16;  // pause after the press, without smooth_start
 constexpr int kStepMs = 8;
 constexpr double kStepsPerRadius = 8;
-// The whole stick is 16 steps wide. More come only of a radius that shrank to next to nothing under a held stick, or of
-// a jump without sense; such a run would block for ever, and goes to its target at once.
+// The whole stick is 16 steps wide. More steps are only possible with a radius that shrank to almost nothing under a
+// held stick, or with an absurd jump; such a run would block almost endlessly, so the contact jumps to its target.
 constexpr double kMostSteps = 1000;
 
 // `from` moved by whole pixels.
@@ -45,13 +45,13 @@ void LeftStickWalkSyncWorker::OnStick(const JoystickLeftWalkConfigItem* item, co
   stick_item_ = *item;
   stop_timer_.stop();
   if (stick.isNull()) return OnRest();
-  if (!walk_enabled_) return;  // stopped by force: first the stick has to come to rest
+  if (!walk_enabled_) return;  // stopped by force: the stick must first return to rest
   const QSize display = DisplayGeometry::GetInstance()->GetDisplayRect().size();
   const QPoint centre(Truncate(display.width() * item->rel_x), Truncate(display.height() * item->rel_y));
   const bool is_fresh = !finger_->HasTouch();
   if (is_fresh && !events_.IsOver(turn)) PutDown(centre);
-  if (events_.IsOver(turn)) return;  // a newer event says where the stick is
-  // Both axes count in widths: the stick is round in pixels.
+  if (events_.IsOver(turn)) return;  // a newer event gives the stick's position
+  // Both axes are relative to the width: the stick is round in pixels.
   const QPoint target = Moved(centre, Truncate(item->walk_radius * stick.x() * display.width()),
                               Truncate(item->walk_radius * stick.y() * display.width()));
   DrawTo(target, is_fresh && item->smooth_start);
@@ -84,7 +84,7 @@ void LeftStickWalkSyncWorker::DrawTo(const QPoint& target, bool jumps) {
   const double length = line.length();
   const double angle = qDegreesToRadians(line.angle());
   const double cos = std::cos(angle);
-  const double sin = -std::sin(angle);  // angles turn upwards, pixels count downwards
+  const double sin = -std::sin(angle);  // angles increase upwards, pixels downwards
   const double step =
       DisplayGeometry::GetInstance()->GetDisplayRect().width() * stick_item_.walk_radius / kStepsPerRadius;
   const auto step_to = [&](const QPoint& position) {

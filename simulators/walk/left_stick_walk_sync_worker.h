@@ -1,4 +1,4 @@
-// The finger that walks a character by a gamepad's left stick.
+// The contact that walks a character with a gamepad's left stick.
 #ifndef SIMULATORS_WALK_LEFT_STICK_WALK_SYNC_WORKER_H_
 #define SIMULATORS_WALK_LEFT_STICK_WALK_SYNC_WORKER_H_
 
@@ -13,24 +13,24 @@ namespace taviinputmanager {
 
 class JoystickLeftStickSlotManager;
 
-// Drives slot 8. Every movement of the stick is drawn as a run of steps of an eighth of the radius, 8 ms apart, and
-// blocks the thread for as long.
+// Uses slot 8. Every movement of the stick becomes a run of steps of an eighth of the radius, 8 ms apart, and blocks
+// the thread for that time.
 //
 //   stick leaves its rest:  press on the centre -- 16 ms, or press_hold_ms and a jump -- step -- 8 ms -- ... -- target
 //   stick moves on:         step -- 8 ms -- ... -- target -- 8 ms
 //   stick comes to rest:    lift at once; or, with delayed_stop, lift after stop_delay_ms unless the stick leaves again
 //   StopWalk while down:    lift, and no step until the stick has come to rest
 //
-// Main thread. Keeps a copy of the item, so that the keymap may go before the stick's rest.
+// Main thread. Keeps a copy of the item, because the keymap may be deleted before the stick returns to rest.
 class LeftStickWalkSyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   static LeftStickWalkSyncWorker* GetInstance();
 
-  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Nothing without an item.
+  // `stick` is from -1 to 1 on each axis, y downwards; null means at rest. Does nothing without an item.
   void OnStick(const tavikeymapmanager::JoystickLeftWalkConfigItem* item, const QPointF& stick);
-  // Lifts the finger; the release is sent in any case.
+  // Releases the contact; the release is sent in any case.
   void StopWalk();
 
  public Q_SLOTS:
@@ -48,9 +48,9 @@ class LeftStickWalkSyncWorker : public EventHandler {
 
   JoystickLeftStickSlotManager* finger_;                      // the singleton
   tavikeymapmanager::JoystickLeftWalkConfigItem stick_item_;  // seen last
-  bool walk_enabled_ = true;                                  // false: waits for the stick's rest
+  bool walk_enabled_ = true;                                  // false: waits for the stick to return to rest
   Turns events_;                                              // a newer one ends a run of steps
-  QTimer stop_timer_;                                         // from the stick's rest to the lift
+  QTimer stop_timer_;                                         // from the stick's rest to the release
 };
 
 }  // namespace taviinputmanager

@@ -8,19 +8,19 @@ class QMouseEvent;
 
 namespace taviinputmanager {
 
-// Works by the mouse operations, which need the pointer; a press or release as of a key does nothing.
+// Works with mouse events, which have a pointer; a press or release of a key does nothing.
 class RightWalkEventSimulator : public EventSimulator {
  public:
   static RightWalkEventSimulator* GetInstance();
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // `event` is valid during the call; its position is read as pixels of the display.
+  // `event` is valid during the call; its position is in pixels of the display.
   void OnMousePress(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
   void OnMouseRelease(tavikeymapmanager::ConfigItem* item, QMouseEvent* event);
-  // Nothing while no walk is on.
+  // Does nothing without a walk.
   void OnMouseMove(QMouseEvent* event);
-  // Lifts the finger. Also what a reset of all input does.
+  // Releases the contact. A reset of all input does the same.
   void StopWalk();
 
  private:

@@ -19,7 +19,7 @@ using tavikeymapmanager::MouseRightWalkConfigItem;
 namespace {
 
 constexpr int kShortClickMs = 300;         // a press this long or longer is a hold
-constexpr double kWalkMsPerRadius = 1000;  // of a short click, before the item's own factor
+constexpr double kWalkMsPerRadius = 1000;  // of a short click, to be multiplied by the item's factor
 
 // From the character to the pointer, in fractions of the display.
 QPointF WayOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
@@ -31,8 +31,8 @@ QPoint RoundedCentre(const MouseRightWalkConfigItem& item, const QSize& display)
   return {Round(display.width() * item.rel_x), Round(display.height() * item.rel_y)};
 }
 
-// The point of the stick's edge that lies in the pointer's direction. Both axes count in widths: the stick is round in
-// pixels. A pointer exactly on the character has no direction, and the limits alone place the finger: at 1 where the
+// The point on the stick's edge in the pointer's direction. Both axes are relative to the width: the stick is round in
+// pixels. A pointer exactly on the character has no direction, so only the limits determine the position: 1 if the
 // display is too small for both.
 QPoint TargetOf(const MouseRightWalkConfigItem& item, const QMouseEvent* event, const QSize& display) {
   const QPointF way = WayOf(item, event, display);
@@ -63,10 +63,10 @@ void RightWalkSyncWorker::Press(const MouseRightWalkConfigItem* item, QMouseEven
     walk_item_ = *item;
     finger_->TouchLastMove();
   }
-  if (!walk_item_) return;  // no walk to steer
+  if (!walk_item_) return;  // there is no walk to move
   const unsigned turn = events_.Begin();
   const QSize display = DisplaySize();
-  if (display.isEmpty() || events_.IsOver(turn)) return;  // nowhere to walk, or a newer event says where
+  if (display.isEmpty() || events_.IsOver(turn)) return;  // nowhere to walk, or a newer event gives the position
   const QPoint target = TargetOf(*walk_item_, event, display);
   if (finger_->HasTouch()) return MoveFinger(target);
   if (item) SlideTo(*item, target, display);
@@ -94,7 +94,7 @@ void RightWalkSyncWorker::Release(const MouseRightWalkConfigItem* item, QMouseEv
   if (!item || !is_short_click) return StopWalk();
   const double distance = DistanceOf(*item, event);
   if (events_.IsOver(turn)) return;
-  if (!std::isfinite(distance)) return StopWalk();  // a stick or display of no size: no time follows from it
+  if (!std::isfinite(distance)) return StopWalk();  // a stick or display without a size: no duration follows from it
   if (distance <= 1.0) return StopWalk();           // the click was on the character
   continue_timer_.start(std::max(0, Truncate(distance * kWalkMsPerRadius * item->continue_factor)));
 }

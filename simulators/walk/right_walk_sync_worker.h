@@ -1,4 +1,4 @@
-// The finger that walks a character towards a right click.
+// The contact that walks a character towards a right click.
 #ifndef SIMULATORS_WALK_RIGHT_WALK_SYNC_WORKER_H_
 #define SIMULATORS_WALK_RIGHT_WALK_SYNC_WORKER_H_
 
@@ -16,7 +16,7 @@ namespace taviinputmanager {
 
 class MouseSwipeholdSlotManager;
 
-// Drives slot 4.
+// Uses slot 4.
 //
 //   press ---- slide from the stick's centre to the target, blocking ---- (held) ---- release
 //     moves while held: the target follows the pointer
@@ -24,21 +24,21 @@ class MouseSwipeholdSlotManager;
 //     released later, or inside the radius: the finger lifts at once
 //     pressed again while it walks on: the finger moves to the new target without lifting
 //
-// Main thread. Keeps a copy of the item, so that the keymap may go while a walk is on.
+// Main thread. Keeps a copy of the item, because the keymap may be deleted during a walk.
 class RightWalkSyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   static RightWalkSyncWorker* GetInstance();
 
-  // `item` null moves a finger that is down by the item of the last press, and puts none down. The event's position is
-  // read as pixels of the display, whatever the window's size.
+  // A null `item` moves a contact that is down with the item of the last press, and presses none. The event's position
+  // is in pixels of the display, whatever the window's size.
   virtual void Press(const tavikeymapmanager::MouseRightWalkConfigItem* item, QMouseEvent* event);
-  // `item` null lifts the finger.
+  // A null `item` releases the contact.
   virtual void Release(const tavikeymapmanager::MouseRightWalkConfigItem* item, QMouseEvent* event);
-  // Nothing while the finger is up.
+  // Does nothing while the contact is up.
   virtual void OnMouseMove(QMouseEvent* event);
-  // Lifts the finger; the release is sent in any case.
+  // Releases the contact; the release is sent in any case.
   virtual void StopWalk();
 
  public Q_SLOTS:
@@ -47,14 +47,14 @@ class RightWalkSyncWorker : public EventHandler {
  private:
   RightWalkSyncWorker();
 
-  // How far the character has to go, in radii of the stick.
+  // The distance to the character's target, in radii of the stick.
   static double DistanceOf(const tavikeymapmanager::MouseRightWalkConfigItem& item, const QMouseEvent* event);
   void SlideTo(const tavikeymapmanager::MouseRightWalkConfigItem& item, const QPoint& target, const QSize& display);
   void MoveFinger(const QPoint& position);
 
   MouseSwipeholdSlotManager* finger_;  // the singleton
-  QTimer continue_timer_;              // runs while a short click walks on; its timeout stops it
-  std::optional<tavikeymapmanager::MouseRightWalkConfigItem> walk_item_;  // of the walk in force
+  QTimer continue_timer_;              // runs while the character walks after a short click; its timeout stops it
+  std::optional<tavikeymapmanager::MouseRightWalkConfigItem> walk_item_;  // of the current walk
   Turns events_;                                                          // a newer one ends a slide
 };
 

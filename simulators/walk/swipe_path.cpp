@@ -11,7 +11,7 @@ namespace keywords = tavikeymapmanager::keywords;
 
 namespace {
 
-constexpr double kHeadPart = 5.0;  // of the base speed: a slide in big steps starts with a fifth of it
+constexpr double kHeadPart = 5.0;  // relative to the base speed: a slide with big steps starts with a fifth of it
 
 }  // namespace
 

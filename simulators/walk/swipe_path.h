@@ -7,16 +7,16 @@
 
 namespace taviinputmanager {
 
-// What each step of a slide adds to one axis, in pixels. Steps are taken from the front.
+// The movement on one axis in each step of a slide, in pixels. Steps are taken from the front.
 //
-// Kept as runs of equal steps, since a keymap may ask for any number of them:
+// Stored as runs of equal steps, because a keymap may set any number of them:
 //
 //   head, head ... head | middle | tail, tail ... tail
 //
-// or, for an axis without travel that is to tremble, +1, -1, +1, ...
+// or, for an axis without movement that should tremble, +1, -1, +1, ...
 class AxisSteps {
  public:
-  // Plans `count` steps over `delta` pixels; fewer than one is an empty plan. `mode` is a variable_mode of a walk.
+  // Plans `count` steps over `delta` pixels; fewer than one is an empty plan. `mode` is a walk's variable_mode.
   void Plan(int delta, int count, const QString& mode);
   void Clear();
 
@@ -36,8 +36,8 @@ class AxisSteps {
   int tail_step_ = 0;
 };
 
-// Positions are pixels. Rounding errors of the steps are not carried along: whoever plays the plan jumps from the last
-// step to the exact target.
+// Positions are pixels. Rounding errors of the steps are not carried over: the caller jumps from the last step to the
+// exact target.
 struct SwipePath {
   QPoint start;
   QPoint current;
@@ -45,9 +45,9 @@ struct SwipePath {
   QString mode;  // a variable_mode
   AxisSteps x_steps;
   AxisSteps y_steps;
-  int remaining = 0;  // steps, the jump at the end included
+  int remaining = 0;  // steps, including the final jump
 
-  // Plans the remaining steps from `current` to `target`; none when the target is where the slide began.
+  // Plans the remaining steps from `current` to `target`; none if the target is the start of the slide.
   void Rebuild();
   void Clear();
 

@@ -14,10 +14,10 @@ using tavikeymapmanager::SwipeholdConfigItem;
 
 namespace {
 
-// `span` over the N - 1 gaps between N steps, N other than 1.
+// `span` divided by the N - 1 gaps between N steps; N must not be 1.
 double PerStep(double span, int steps) { return span / (steps - 1.0); }
 
-// What single precision cannot hold is infinite.
+// Values beyond single precision are infinite.
 float ToSingle(double v) {
   if (std::abs(v) <= std::numeric_limits<float>::max()) return static_cast<float>(v);
   return std::numeric_limits<float>::infinity();
@@ -35,7 +35,7 @@ void SwipeWave::Start(const QPoint& wave_point) {
 void SwipeWave::Rewind() { wave_step_ = wave_round_ = 0; }
 
 std::optional<QPointF> SwipeWave::Tick(const SwipeholdConfigItem& item, const QPoint& center, int radius) {
-  if (item.compensate_steps == 1) return std::nullopt;  // one step has no gap to be spread over
+  if (item.compensate_steps == 1) return std::nullopt;  // one step has no gaps
   QPointF position;
   if (item.curve_x == keywords::kCurveDefault || item.curve_y == keywords::kCurveDefault) {
     const std::optional<double> part = TickRadially(item);
@@ -52,7 +52,7 @@ std::optional<double> SwipeWave::TickRadially(const SwipeholdConfigItem& item) {
   const int steps = item.compensate_steps;
   const qint64 last = 2 * qint64{steps} - 1;
   ++wave_step_;
-  if (wave_step_ > last) return std::nullopt;  // steps of 0 or less make no round
+  if (wave_step_ > last) return std::nullopt;  // steps of 0 or less never complete a round
   const double from_turn = std::abs(static_cast<double>(steps) - wave_step_);
   if (wave_step_ == last) EndRound();
   return from_turn * PerStep(item.compensate_amplitude, steps) + (1 - item.compensate_amplitude);
@@ -61,7 +61,7 @@ std::optional<double> SwipeWave::TickRadially(const SwipeholdConfigItem& item) {
 QPointF SwipeWave::TickAlongCurves(const SwipeholdConfigItem& item, const QPoint& center, int radius) {
   const int steps = item.compensate_steps;
   const double reach = radius * item.compensate_amplitude;
-  // The single precision is part of where the finger goes.
+  // The contact's position depends on the single precision.
   const float t = ToSingle(PerStep(2 * M_PI, steps) * wave_step_);
   const float u = ToSingle(reach * CurveValue(item.curve_x, t, item.factor_x, item.offset_x));
   const float v = ToSingle(reach * CurveValue(item.curve_y, t, item.factor_y, item.offset_y));

@@ -1,4 +1,4 @@
-// The small motion of a walk's finger after it has reached its target, for games that watch for motion.
+// The small motion of a walk's contact after it has reached its target, for games that need motion.
 #ifndef SIMULATORS_WALK_SWIPE_WAVE_H_
 #define SIMULATORS_WALK_SWIPE_WAVE_H_
 
@@ -13,27 +13,27 @@ struct SwipeholdConfigItem;
 
 namespace taviinputmanager {
 
-// Computes positions and keeps no time. One round takes, with N = compensate_steps:
+// Computes positions and keeps no time. With N = compensate_steps, one round takes:
 //
-// - 2N - 1 ticks towards the stick's centre and back, unless both curves are named: from wave_point inwards, by
+// - 2N - 1 ticks towards the stick's centre and back, unless both curves are set: from wave_point inwards, by
 //   compensate_amplitude of its distance, in equal steps; the turning point is used once, and so is each end;
-// - N ticks along the two curves, turned to the direction of the stick, with their zero at wave_point.
+// - N ticks along the two curves, rotated to the direction of the stick, with their zero at wave_point.
 class SwipeWave {
  public:
-  // From the first tick of the first round. `wave_point`, in pixels, is where the finger rests.
+  // Starts at the first tick of the first round. `wave_point`, in pixels, is where the contact rests.
   void Start(const QPoint& wave_point);
   // Back to the first tick of the first round.
   void Rewind();
 
-  // Does one tick: where the finger goes, in pixels. Nothing where the item's numbers say no place.
+  // One tick: returns the contact's new position, in pixels. Nothing if the item's numbers give no position.
   std::optional<QPointF> Tick(const tavikeymapmanager::SwipeholdConfigItem& item, const QPoint& center, int radius);
-  // Rounds that are through.
+  // The number of completed rounds.
   int GetRound() const { return wave_round_; }
 
  private:
-  // How much of the way from the centre the finger keeps.
+  // The contact's distance from the centre, relative to that of `wave_point`.
   std::optional<double> TickRadially(const tavikeymapmanager::SwipeholdConfigItem& item);
-  // Where the finger goes from `wave_point`.
+  // The contact's offset from `wave_point`.
   QPointF TickAlongCurves(const tavikeymapmanager::SwipeholdConfigItem& item, const QPoint& center, int radius);
   void EndRound();
 

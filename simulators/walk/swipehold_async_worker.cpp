@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kInnerIndex = 1;
 
-// A timer with a negative interval would count as active and never fire.
+// A timer with a negative interval would be active but never fire.
 void StartTimer(QTimer* timer, int ms) { timer->start(std::max(ms, 0)); }
 
 }  // namespace
@@ -80,7 +80,7 @@ void SwipeholdAsyncWorker::Release(ConfigItem* item, ConfigKey* key) {
   const auto* stick = dynamic_cast<const SwipeholdConfigItem*>(item);
   if (!stick) return;  // not four keys
   if (input_compensatory_timer_.isActive()) StopWave();
-  if (!Slot()->HasTouch()) return;  // nothing was pressed, or a reset has forgotten it
+  if (!Slot()->HasTouch()) return;  // nothing was pressed, or a reset has cleared it
   ApplyKey(*stick, *key, false);
   FollowKeys(walk_.subsequent_mode);
 }
@@ -91,9 +91,9 @@ void SwipeholdAsyncWorker::ReplayDirections(QPoint flags) {
       Slot()->DiffDirections(static_cast<quint32>(flags.x()), static_cast<quint32>(flags.y()));
   if (directions.isEmpty()) return;
   ClearAll();
-  // All before the first line: a key that is released from inside a send must find itself held.
+  // All before the first line: a key that is released during a call to the host must find itself held.
   for (const int direction : directions) {
-    // As if from the keyboard, whatever the device of the configured key.
+    // As if from the keyboard, regardless of the device of the configured key.
     ApplyKey(*item_,
              tavikeymapmanager::CreateConfigKey(keywords::kDeviceKeyboard, tavikeymapmanager::kUnsetCode,
                                                 KeyOf(direction).scancode),
@@ -149,11 +149,13 @@ void SwipeholdAsyncWorker::StartWalk() {
 }
 
 void SwipeholdAsyncWorker::WaitForPressGap() {
-  // A finger that rests on the centre has not gone up, so that there is no gap to keep. This asks the walk before.
+  // A contact that rests on the centre has not been released, so there is no gap to keep. The slot of the walk is
+  // checked first.
   if (walk_.hold_center_ms != 0 || item_->press_gap_ms <= 0) return;
   const qint64 elapsed = Clock::NowMs() - last_release_time_;
   if (elapsed >= item_->press_gap_ms) return;
-  // Without the pause the guest would take two walks for one. A clock set back makes it no longer than the gap.
+  // Without the pause the guest would merge two walks. If the clock was set back, the pause is still no longer than the
+  // gap.
   Clock::Sleep(item_->press_gap_ms - static_cast<int>(std::max<qint64>(elapsed, 0)));
 }
 
@@ -175,7 +177,7 @@ void SwipeholdAsyncWorker::FirstPressTimerOutTime() {
 
 void SwipeholdAsyncWorker::MoveAlong(QPoint pixels, const QTimer& move) {
   const LineBuffer line = Slot()->PressLineAt(pixels.x(), pixels.y());
-  if (!move.isActive()) return;  // ended by a host that was asked for its display
+  if (!move.isActive()) return;  // the host ended the walk when it was asked for its display
   SendEvent(line);
   if (move.isActive()) Report(ToStick(pixels));
 }
@@ -244,7 +246,7 @@ void SwipeholdAsyncWorker::InputCompensatoryTimerOutTime() {
   const auto pixels = wave_.Tick(walk_, Slot()->GetCenter(), Slot()->GetRadius());
   if (wave_.GetRound() == walk_.compensate_rounds) StopWave();
   if (!pixels) return;
-  const bool was_held = Slot()->HasTouch();  // a reset leaves the wave to its end
+  const bool was_held = Slot()->HasTouch();  // a reset does not stop the wave
   const LineBuffer line = Slot()->PressLineAt(Round(pixels->x()), Round(pixels->y()));
   if (Slot()->HasTouch() == was_held) SendEvent(line);
 }

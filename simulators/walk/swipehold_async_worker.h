@@ -1,4 +1,4 @@
-// One stick that four keys hold: the timing of its finger.
+// One stick that four keys hold: the timing of its contact.
 #ifndef SIMULATORS_WALK_SWIPEHOLD_ASYNC_WORKER_H_
 #define SIMULATORS_WALK_SWIPEHOLD_ASYNC_WORKER_H_
 
@@ -17,7 +17,7 @@ namespace taviinputmanager {
 
 class SwipeholdSlotManager;
 
-// The walk's machine. The keys are in the slot manager of the same index; the state is which timer runs:
+// The state machine of a walk. The keys are in the slot manager with the same index; the running timer is the state:
 //
 //   idle ............ none, no key held
 //   first slide ..... first_press_timer
@@ -37,37 +37,38 @@ class SwipeholdSlotManager;
 //   "Click": no step; the first tick jumps to the target
 //   a new key within press_gap_ms of the finger going up: the press blocks for the rest of the gap
 //
-// A walk keeps the values of the item that it began with; a later press gives only its keys and its subsequent_mode.
-// The item is copied, so that timers, replays of keys and releases may outlive its keymap: a reset stops no timer here.
+// A walk keeps the values of the item that it began with; from a later press it takes only the keys and the
+// subsequent_mode. The item is copied, because timers, replayed keys and releases may outlive its keymap: a reset stops
+// no timer here.
 //
-// Main thread, in spite of the name.
+// Main thread, despite the name.
 class SwipeholdAsyncWorker : public EventHandler {
   Q_OBJECT
 
  public:
   // 0 walks. 1 is the inner walk of a cast and leaves the end of the contact, which it shares, to the cast. 2, the left
-  // virtual stick, sends nothing and reports its point alone; so does the one object that all other indexes share.
+  // virtual stick, sends no lines and only reports its point; so does the one object that all other indexes share.
   static SwipeholdAsyncWorker* GetInstance(int index);
 
-  // `item` is a SwipeholdConfigItem, else nothing happens. A press may block for the press gap.
+  // Does nothing unless `item` is a SwipeholdConfigItem. A press may block for the press gap.
   virtual void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   virtual void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
-  // Takes over the keys of another walk, given as its flag words: unless these are this walk's already, begins anew and
-  // presses all. Nothing without an item.
+  // Takes over the keys of another walk, given as its flag words: unless they are already this walk's, starts again and
+  // presses all of them. Does nothing without an item.
   virtual void ReplayDirections(QPoint flags);
 
-  // The item that ReplayDirections presses keys of; copied. Null: none.
+  // The item whose keys ReplayDirections presses; copied. Null: none.
   void SetItem(const tavikeymapmanager::SwipeholdConfigItem* item);
 
   int GetIndex() const { return index_; }
-  // Where the keys put the stick, in radii from its centre. (0, 0) without a key, and on a stick without a radius.
+  // The stick's target from the keys, in radii from its centre. (0, 0) without a key, and for a stick without a radius.
   QPointF GetCurrentPoint() const;
   // The flag words of the keys.
   QPoint GetDirections() const;
 
-  // Forgets the walk and lifts the finger, whoever owns it.
+  // Resets the walk and releases the contact, regardless of its owner.
   void StopAndRelease();
-  // Forgets the walk and sends nothing.
+  // Resets the walk and sends nothing.
   void ClearAll();
   // Ends a first slide at its next tick.
   void ClearPath();
@@ -75,7 +76,7 @@ class SwipeholdAsyncWorker : public EventHandler {
   void SetRadiusFactor(double factor);
 
  Q_SIGNALS:
-  // The stick, in radii from its centre; (0, 0) when it is let go.
+  // The stick, in radii from its centre; (0, 0) when it is released.
   void sigSwipeholdTargetPointChanged(QPointF& point);
   // For listeners; not emitted.
   void sigSwipeholdDirectionInputDataChanged(QPoint& point);
@@ -93,19 +94,19 @@ class SwipeholdAsyncWorker : public EventHandler {
   SwipeholdSlotManager* Slot() const;
   void SetUpTimer(QTimer* timer, void (SwipeholdAsyncWorker::*slot)());
 
-  // Holds or lets go the direction that `key` is of `item`.
+  // Holds or releases the direction of `item` that belongs to `key`.
   void ApplyKey(const tavikeymapmanager::SwipeholdConfigItem& item, const tavikeymapmanager::ConfigKey& key,
                 bool pressed);
   const tavikeymapmanager::ConfigKey& KeyOf(int direction) const;
   void StartWalk();
   void WaitForPressGap();
-  // The walk under way after a change of its keys.
+  // Continues the walk after a change of its keys.
   void FollowKeys(const QString& subsequent_mode);
   void RetargetSlide();
-  // Moves the finger while `move` runs, and reports it: the host may end the walk from inside.
+  // Moves the contact by calling `move`, and reports it: the host may end the walk during the call.
   void MoveAlong(QPoint pixels, const QTimer& move);
   void StartSubsequentMove();
-  // Jumps to where the keys say: the exact target, or the end of the walk.
+  // Jumps to the keys' target: the exact position, or the end of the walk.
   void ApplyDirectionState();
   void RestOnTarget();
   void LetGo();
@@ -116,7 +117,7 @@ class SwipeholdAsyncWorker : public EventHandler {
   void Report(QPointF point);
 
   std::optional<tavikeymapmanager::SwipeholdConfigItem> item_;  // of the last press
-  tavikeymapmanager::SwipeholdConfigItem walk_;                 // as it was when the walk began
+  tavikeymapmanager::SwipeholdConfigItem walk_;                 // from the start of the walk
   QTimer first_press_timer_;
   QTimer hold_center_timer_;
   QTimer subsequent_press_timer_;
@@ -124,11 +125,11 @@ class SwipeholdAsyncWorker : public EventHandler {
   SwipePath path_;
   SwipeWave wave_;
   int move_count_ = 0;        // ticks of the subsequent move
-  QPointF position_;          // where the last jump or subsequent move put the finger, pixels
+  QPointF position_;          // the contact's position after the last jump or subsequent move, pixels
   QPointF move_delta_;        // of each tick of the subsequent move
   qint64 last_release_time_;  // ms since the epoch
   int index_;
-  bool keep_contact_;  // the walk's end leaves the finger down
+  bool keep_contact_;  // the end of the walk does not release the contact
 };
 
 }  // namespace taviinputmanager

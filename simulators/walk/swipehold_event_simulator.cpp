@@ -88,7 +88,7 @@ void SwipeholdEventSimulator::Release(ConfigItem* item, ConfigKey* key) {
 }
 
 void SwipeholdEventSimulator::Forward(KeyOperation operation, ConfigKey* key) {
-  // By position: what a walk sends and reports may lead to another worker's entering or leaving.
+  // By index: the lines and signals of a walk may cause other workers to enter or leave.
   for (size_t i = 0; i < workers_.size(); ++i) {
     Entry& entry = workers_[i];
     if (exclusive_inner_ && entry.worker == Walk()) continue;
@@ -123,7 +123,7 @@ void SwipeholdEventSimulator::RemoveWorker(SwipeholdAsyncWorker* worker) {
 
 void SwipeholdEventSimulator::EntrustToInner() {
   const QPoint directions = Walk()->GetDirections();
-  for (size_t i = 0; i < workers_.size(); ++i) {  // by position, as above
+  for (size_t i = 0; i < workers_.size(); ++i) {  // by index, as above
     SwipeholdAsyncWorker* worker = workers_[i].worker;
     if (worker != Walk()) worker->ReplayDirections(directions);
   }

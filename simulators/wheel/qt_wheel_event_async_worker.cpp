@@ -22,7 +22,7 @@ constexpr int kTickMs = 8;
 constexpr int kMoves = 20;
 constexpr double kNotch = 120.0;  // eighths of a degree
 
-// Pixels that one notch moves the finger each tick.
+// How many pixels one notch moves the contact in each tick.
 int StepOfNotch(const KeymapConfig* config) {
   const int height = DisplayGeometry::GetInstance()->GetDisplayRect().height();
   return config && config->wheel_settings ? Round(height * config->wheel_settings->scroll_step) : height / 100;
@@ -39,7 +39,7 @@ void QtWheelEventAsyncWorker::OnWheel(QWheelEvent* event, KeymapConfig* config) 
   const int delta = event->angleDelta().y();
   step_ = Truncate(std::abs(static_cast<double>(delta)) / kNotch * StepOfNotch(config));
   ticks_ = delta > 0 ? kMoves : -kMoves;
-  if (IsRunning()) return;  // the swipe goes on from where it is
+  if (IsRunning()) return;  // the swipe continues from its position
   MouseWheelSlotManager* finger = MouseWheelSlotManager::GetInstance();
   finger->position = RoundedPoint(event->position());
   timer_->start(kTickMs);

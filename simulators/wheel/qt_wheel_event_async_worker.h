@@ -1,4 +1,4 @@
-// A turn of the wheel as a one-finger swipe.
+// A wheel movement as a one-finger swipe.
 #ifndef SIMULATORS_WHEEL_QT_WHEEL_EVENT_ASYNC_WORKER_H_
 #define SIMULATORS_WHEEL_QT_WHEEL_EVENT_ASYNC_WORKER_H_
 
@@ -15,9 +15,9 @@ namespace taviinputmanager {
 
 //   turn      8 ms     8 ms          8 ms      8 ms
 //   press --- move --- move  ... --- move --- release                 20 moves
-//   a turn on the way sets length and direction of what is still to come anew
+//   a turn meanwhile sets length and direction of the remaining moves
 //
-// Main thread, in spite of its name.
+// Main thread, despite its name.
 class QtWheelEventAsyncWorker : public EventHandler {
   Q_OBJECT
 
@@ -38,8 +38,8 @@ class QtWheelEventAsyncWorker : public EventHandler {
   QtWheelEventAsyncWorker();
 
   QTimer* timer_;  // a child
-  int ticks_ = 0;  // moves to come; positive is down the display
-  int step_ = 0;   // pixels a move
+  int ticks_ = 0;  // remaining moves; positive is downwards
+  int step_ = 0;   // pixels per move
 };
 
 }  // namespace taviinputmanager

@@ -19,13 +19,13 @@ using tavikeymapmanager::KeymapConfig;
 
 namespace {
 
-constexpr int kSecondFingerSlot = 0;  // no slot manager's
+constexpr int kSecondFingerSlot = 0;  // outside all slot managers
 constexpr int kFirstFingerSlot = 10;  // the scroll swipe's
 constexpr double kRadiansOfDegree = 3.141592653589793 / 180.0;
-constexpr int kWayNotches = 4;     // from the inner end of a finger's way to its outer end
-constexpr int kInwardNotches = 3;  // how far out a pinch inwards starts
+constexpr int kWayNotches = 4;     // from the inner to the outer end of a contact's path
+constexpr int kInwardNotches = 3;  // how far out an inward pinch starts
 
-// Sizes of a hostile keymap stay numbers.
+// Keeps the sizes of a hostile keymap finite.
 double Product(int a, int b) { return static_cast<double>(a) * b; }
 
 QPoint Mirrored(const QPoint& a) { return {NegateSaturated(a.x()), NegateSaturated(a.y())}; }
@@ -47,7 +47,7 @@ QtWheelEventZoomWorker::QtWheelEventZoomWorker() : timer_(new QTimer(this)) {
 
 bool QtWheelEventZoomWorker::IsRunning() const { return timer_->isActive(); }
 
-// The angle of a keymap stays when the next one has no settings; everything else goes back.
+// The angle of a keymap stays if the next one has no settings; everything else is reset.
 void QtWheelEventZoomWorker::LoadSettings(const KeymapConfig* config) {
   first_interval_ms_ = 16;
   notch_ticks_ = 8;
@@ -136,7 +136,7 @@ void QtWheelEventZoomWorker::MoveTogether() {
   GoOn();
 }
 
-// 1 moves finger a right and down the line, towards the pointer; -1 away from it.
+// 1 moves contact a right and down the line, towards the pointer; -1 away from it.
 void QtWheelEventZoomWorker::MoveFingers(int direction) {
   const QPoint way = direction > 0 ? step_ : Mirrored(step_);
   finger_a_ = Sum(finger_a_, way);
@@ -161,7 +161,7 @@ void QtWheelEventZoomWorker::EndPinch() {
   SendRelease();
 }
 
-// The fingers stay down, so that a following turn can go on in the same pinch.
+// The contacts stay down, so that a following wheel movement can continue the pinch.
 void QtWheelEventZoomWorker::Rest() {
   finished_ = true;
   if (release_wait_ms_ > 0) timer_->start(release_wait_ms_);

@@ -1,4 +1,4 @@
-// A turn of the wheel as a two-finger pinch.
+// A wheel movement as a two-finger pinch.
 #ifndef SIMULATORS_WHEEL_QT_WHEEL_EVENT_ZOOM_WORKER_H_
 #define SIMULATORS_WHEEL_QT_WHEEL_EVENT_ZOOM_WORKER_H_
 
@@ -20,7 +20,7 @@ namespace taviinputmanager {
 //   a turn on the way, also in the rest, goes on in the same pinch
 //   a finger that comes to the end of its way ends the pinch at once
 //
-// The fingers lie on a line through the pointer, `angle_degrees` from the horizontal. Main thread.
+// The contacts are on a line through the pointer, at `angle_degrees` from the horizontal. Main thread.
 class QtWheelEventZoomWorker : public EventHandler {
   Q_OBJECT
 
@@ -50,26 +50,26 @@ class QtWheelEventZoomWorker : public EventHandler {
   void GoOn();
   void EndPinch();
   void Rest();
-  // From the pointer to finger a, at `units` from it; finger b is its mirror.
+  // From the pointer to contact a, at a distance of `units`; contact b is its mirror image.
   QPoint ArmOf(double units) const;
   int Unit() const;
   void SendPinch();
   void SendRelease();
 
   QTimer* timer_;  // a child
-  int ticks_ = 0;  // moves to come; positive is apart
-  QPoint step_;    // pixels a move, of finger b
+  int ticks_ = 0;  // remaining moves; positive is apart
+  QPoint step_;    // pixels per move, for contact b
   QPoint finger_a_;
   QPoint finger_b_;
-  QPoint inner_a_;  // where the way of finger a ends, on the near side and on the far one
+  QPoint inner_a_;  // the ends of the path of contact a, near and far
   QPoint outer_a_;
   bool finished_ = false;  // the next tick releases
   int release_wait_ms_ = 0;
   int first_interval_ms_ = 16;
   int tick_ms_ = 16;
   int notch_ticks_ = 8;
-  int spread_ = 20;                 // units from the pointer to a finger at rest
-  double unit_fraction_ = 0.00625;  // of the display's longer side
+  int spread_ = 20;                 // units from the pointer to a contact at rest
+  double unit_fraction_ = 0.00625;  // relative to the display's longer side
   double angle_degrees_ = 45.0;
   bool swap_fingers_ = false;
 };

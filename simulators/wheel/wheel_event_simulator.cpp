@@ -44,13 +44,13 @@ bool WheelEventSimulator::IsRepeated(int direction) const {
 
 void WheelEventSimulator::StartRun(const WheelConfigItem& item) {
   MultipointSlotManager* pool = MultipointSlotManager::GetInstance();
-  if (!pool->PressAt(item.rel_x, item.rel_y)) return;  // no finger is free
+  if (!pool->PressAt(item.rel_x, item.rel_y)) return;  // no slot is free
   auto* worker = new WheelOneOffWorker(&item, pool->GetSlotId());
   auto* run = new WorkerThread(worker);
   connect(run, &WorkerThread::started, worker, &WheelOneOffWorker::OneOffProcess);
   connect(this, &WheelEventSimulator::StopOneOffWheel, worker, &WheelOneOffWorker::OneOffStop, Qt::QueuedConnection);
   run->DeleteWorkerOn(worker, &WheelOneOffWorker::OneOffWheelFinished);
-  // Posted once more: the finger lifts before the next run takes a slot.
+  // Queued again: the contact is released before the next run takes a slot.
   const auto end = [this, run, item] {
     run->quit();
     if (IsRepeated(item.direction)) StartRun(item);

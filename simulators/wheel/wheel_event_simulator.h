@@ -1,4 +1,4 @@
-// A key that slides one finger as a wheel would.
+// A key that swipes with one contact, like a wheel.
 #ifndef SIMULATORS_WHEEL_WHEEL_EVENT_SIMULATOR_H_
 #define SIMULATORS_WHEEL_WHEEL_EVENT_SIMULATOR_H_
 
@@ -10,7 +10,7 @@ struct WheelConfigItem;
 
 namespace taviinputmanager {
 
-// Each press makes a run of its own; while a key of its direction is held, a run that ends is followed by another.
+// Each press starts a run of its own; while a key of its direction is held, a run that ends is followed by another.
 class WheelEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -35,7 +35,7 @@ class WheelEventSimulator : public EventSimulator {
   void StartRun(const tavikeymapmanager::WheelConfigItem& item);
   bool IsRepeated(int direction) const;
 
-  bool repeat_direction_1_ = false;  // a key of that direction is still held
+  bool repeat_direction_1_ = false;  // a key with that direction is still held
   bool repeat_direction_2_ = false;
 };
 

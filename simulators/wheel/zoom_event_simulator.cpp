@@ -22,7 +22,7 @@ ZoomEventSimulator* ZoomEventSimulator::GetInstance() {
 void ZoomEventSimulator::Press(ConfigItem* item, ConfigKey* /*key*/) {
   const auto* zoom = dynamic_cast<const ZoomConfigItem*>(item);
   if (!zoom) return;
-  if (ZoomSlotManager::GetInstance()->busy) return;  // a pinch is still finishing
+  if (ZoomSlotManager::GetInstance()->busy) return;  // the last pinch has not finished yet
   ZoomSlotManager::GetInstance()->busy = true;
   StartRun(*zoom);
   repeat_ = true;
@@ -32,7 +32,7 @@ void ZoomEventSimulator::Release(ConfigItem* /*item*/, ConfigKey* /*key*/) { rep
 
 void ZoomEventSimulator::Reset() { Q_EMIT StopOneOffZoom(); }
 
-// Where the pool has no two slots, `busy` stays set on purpose: no key pinches until the slot manager is reset.
+// If the pool does not have two slots, `busy` stays set on purpose: no key pinches until the slot manager is reset.
 void ZoomEventSimulator::StartRun(const ZoomConfigItem& item) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
   const int first = pool->FindFree();
@@ -50,7 +50,7 @@ void ZoomEventSimulator::Run(const ZoomConfigItem& item, int positive_slot_id, i
   connect(run, &WorkerThread::started, worker, &ZoomOneOffWorker::OneOffProcess);
   connect(this, &ZoomEventSimulator::StopOneOffZoom, worker, &ZoomOneOffWorker::OneOffStop, Qt::QueuedConnection);
   run->DeleteWorkerOn(worker, &ZoomOneOffWorker::OneOffZoomFinished);
-  // Posted once more: the fingers lift and give their slots back before the next pinch takes two.
+  // Queued again: the contacts are released and return their slots before the next pinch takes two.
   const auto end = [this, run, item] {
     run->quit();
     if (repeat_) StartRun(item);

@@ -10,7 +10,7 @@ struct ZoomConfigItem;
 
 namespace taviinputmanager {
 
-// One pinch at a time; while its key is held, a pinch that ends is followed by another, on two fresh slots.
+// One pinch at a time; while its key is held, a pinch that ends is followed by another, on two other slots.
 class ZoomEventSimulator : public EventSimulator {
   Q_OBJECT
 
@@ -19,7 +19,7 @@ class ZoomEventSimulator : public EventSimulator {
 
   void Press(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
   void Release(tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key) override;
-  // Ends the pinch. A key that stays held starts its next one.
+  // Ends the pinch. A key that is still held starts its next one.
   void Reset();
 
  Q_SIGNALS:

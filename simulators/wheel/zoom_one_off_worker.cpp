@@ -53,7 +53,7 @@ void ZoomOneOffWorker::OneOffTimerOutTime() {
   if (count_ > steps_) Q_EMIT OneOffZoomFinished(positive_slot_id_, negative_slot_id_);
 }
 
-// The slot named negative holds the point named positive, and the other way round, unless the item swaps them.
+// The slot named negative has the point named positive, and vice versa, unless the item swaps them.
 QString ZoomOneOffWorker::BuildCommand() const {
   QPointF first = positive_point_;
   QPointF second = negative_point_;

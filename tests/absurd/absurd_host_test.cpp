@@ -1,5 +1,5 @@
-// A host whose every answer and every event may be any number, with keymaps of the same kind. The sanitizers say
-// whether an int overflowed on the way; here the lines are looked at.
+// A host whose answers and events are arbitrary numbers, with keymaps of the same kind. The sanitizers detect overflows
+// of ints; this test checks the lines.
 #include <limits>
 #include <random>
 

@@ -1,9 +1,9 @@
-"""What the tests of this folder run."""
+"""Runs commands for the tests of this folder."""
 import subprocess
 
 
 def run(*command, env=None):
-    """Gives what a command prints, errors among it. The command has to succeed."""
+    """Returns a command's output, including errors. The command must succeed."""
     result = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, env=env, check=False)
     if result.returncode != 0:

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The documents speak of what is there.
+"""The documents match the tree.
 
     documents_test.py SOURCE_DIR
-    documents_test.py DIR -k links    of documents that lie elsewhere: nothing but their links
+    documents_test.py DIR -k links    checks only the links, of documents in another folder
 """
 import re
 import sys
@@ -13,13 +13,13 @@ ROOT = Path(sys.argv.pop(1)).resolve()
 DOCUMENTS = sorted(path for pattern in ["*.md", "docs/*.md", "examples/**/*.md", "fuzz/*.md"] for path in ROOT.glob(pattern))
 LINK = re.compile(r"\]\(([^)\s#]*)(#[^)\s]*)?\)")
 HEADING = re.compile(r"^#+ (.+)$", re.MULTILINE)
-# "<!-- file: NAME -->" before a code block: the block is the file; "part:": lines of it that stand together.
+# "<!-- file: NAME -->" before a code block: the block is the file; "part:": consecutive lines of it.
 FILE_BLOCK = re.compile(r"^<!-- (file|part): (\S+) -->\n```[a-z]*\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 SOURCE_NAME = re.compile(r"`((?:[a-z_]+/)*[a-z_]+\.(?:h|cpp))`")
 
 
 def sections(document):
-    """The anchors that a reader of Markdown makes of the headings."""
+    """The anchors that Markdown viewers generate from the headings."""
     headings = HEADING.findall(document.read_text(encoding="utf-8"))
     return {"#" + re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}
 
@@ -41,8 +41,8 @@ class Documents(unittest.TestCase):
         self.assertEqual(dead, [])
 
     def test_files_that_are_named_exist(self):
-        rooms = [path for path in ROOT.iterdir() if path.is_dir() and not path.name.startswith((".", "build"))]
-        known = {str(path.relative_to(ROOT)) for room in rooms for path in room.rglob("*.*")}
+        folders = [path for path in ROOT.iterdir() if path.is_dir() and not path.name.startswith((".", "build"))]
+        known = {str(path.relative_to(ROOT)) for folder in folders for path in folder.rglob("*.*")}
         known |= {name.removeprefix("include/") for name in known}  # as they are included
         for document in DOCUMENTS:
             names = SOURCE_NAME.findall(document.read_text(encoding="utf-8"))

@@ -26,7 +26,7 @@ TOOLS = CMAKE, GENERATOR, COMPILER
 run = functools.partial(commands.run, env=ENVIRONMENT)
 build_by_cmake = functools.partial(commands.build_by_cmake, env=ENVIRONMENT)
 
-# Each load resets the display held so far: the curve, the right walk and the eye let go first, then every finger is
+# Each load resets the display held so far: the curve, the right walk and the eye release first, then every finger is
 # lifted. That is the load of Initialize and that of the keymap, both before display 1. Then the key F is a finger at
 # (0.9, 0.5) of a touch surface of 1920 x 1080: 1728, 540. The first finger of taps is 11.
 EXPECTED = (EXAMPLE / "output.txt").read_text(encoding="utf-8")
@@ -50,7 +50,7 @@ WINDOW_EXPECTED = ("# start\n" + EXPECTED[:-len(TAP)] +
                    "# everything passes through, and no longer\n" +
                    SWEEP + "1:KBDPR:33:1\n1:KBDRL:33:0\n" + SWEEP + TAP +
                    "# a text field\nTEXT:f\0TEXT:\u00e9\0"
-                   "# the mouse steers the view\n"
+                   "# the mouse turns the view\n"
                    "1:SLOTRELEASE:1\n1:SLOTPRESS:1:1:1:1:1152:432\n1:SLOTPRESS:1:1:1:1:1162:432\n"
                    "# the focus goes while a key and a finger are held\n1:SLOTPRESS:11:11:1:1:1728:540\n"
                    "1:SLOTMULTIPRESS:18:18:480:270\n" + SWEEP + "1:SLOTMULTIRELEASE:18\n# closed\n")

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The public headers are a reference: Doxygen finds a comment on every part, and nothing wrong in any.
+"""Doxygen finds a comment on every part of the public headers, and no error in any.
 
     reference_test.py SOURCE_DIR WORK_DIR
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Inside another project the tree is two libraries, and changes nothing of that project.
+"""As a subproject the tree adds two libraries, and changes nothing in the outer project.
 
     subproject_test.py SOURCE_DIR WORK_DIR CMAKE GENERATOR COMPILER QT
 """
@@ -18,7 +18,7 @@ PARENT = Path(__file__).with_name("subproject")
 
 
 class Project:
-    """The project around the tree, configured in a folder of its own."""
+    """The outer project, configured in a folder of its own."""
 
     def __init__(self, name, *options):
         self.folder = Path(WORK) / name

@@ -52,7 +52,7 @@ TEST(RealClock, SleepBlocks) {
 
 TEST(RealClock, NoPauseIsNone) {
   Clock::Sleep(0);
-  Clock::Sleep(-1);  // taken for a large number it would not come back
+  Clock::Sleep(-1);  // as a large number it would never return
 }
 
 TEST(RealClock, TakesThePointerFromQt) {
@@ -83,7 +83,7 @@ class VirtualClock : public testing::Test {
     application_ = std::make_unique<QCoreApplication>(argument_count, arguments);
   }
 
-  tavi::VirtualEventDispatcher* time_;  // the application's
+  tavi::VirtualEventDispatcher* time_;  // owned by the application
   std::unique_ptr<QCoreApplication> application_;
 };
 

@@ -30,7 +30,7 @@ class Geometry : public Story {
   }
 };
 
-// An extent is last - first + 1, and Qt computes that from the left: last - first has to fit too.
+// A size is last - first + 1, and Qt computes it from left to right: last - first must fit too.
 TEST_F(Geometry, ExtentsThatNoIntHoldsStopAtItsEnds) {
   constexpr int kHighest = std::numeric_limits<int>::max();
   constexpr int kLowest = std::numeric_limits<int>::min();
@@ -55,7 +55,7 @@ TEST_F(Geometry, ExtentsThatNoIntHoldsStopAtItsEnds) {
     EXPECT_EQ(QSize(row.extent, row.extent), display.size()) << row.name;
     EXPECT_EQ(QPoint(row.first, row.first), display.topLeft()) << row.name;
     Host().touch.setCoords(row.first, row.first, row.last, row.last);
-    // The far corner; Round stops where the extent does.
+    // The far corner; Round saturates where the size does.
     EXPECT_EQ(QPoint(row.extent, row.extent), RelativeToTouch(1, 1)) << row.name;
   }
 }
@@ -92,7 +92,7 @@ TEST_F(Geometry, TurnsWindowPositionsIntoTouchCoordinates) {
 }
 
 TEST_F(Geometry, TurnsFractionsIntoTouchCoordinates) {
-  SetWindow(333, 444);  // plays no part
+  SetWindow(333, 444);  // not used
   SetTouch(720, 1280);
   const struct {
     int rotation;
@@ -208,7 +208,7 @@ TEST_F(Geometry, ScalesAVectorToALength) {
   EXPECT_EQ(QPoint(60, 80), DisplayGeometry::ScaleToLength({300000, 400000}, 100));
 }
 
-// A share of a window without size, say.
+// For example, a fraction of a window without a size.
 TEST_F(Geometry, APlaceThatIsNoNumberIsNowhere) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   for (const double nowhere : {std::numeric_limits<double>::quiet_NaN(), kInfinity, -kInfinity}) {

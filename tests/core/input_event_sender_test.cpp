@@ -11,9 +11,9 @@
 namespace taviinputmanager {
 namespace {
 
-// What a host's four functions were handed, byte for byte.
+// The arguments of a host's four functions, byte for byte.
 struct Received {
-  std::string bytes;  // with the NUL behind them, which `length` does not count for events
+  std::string bytes;  // with the final NUL, which `length` does not count for events
   int length = 0;
 };
 std::vector<Received> events;

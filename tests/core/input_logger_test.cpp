@@ -23,7 +23,7 @@
 namespace taviinputmanager {
 namespace {
 
-// The log stands in the working directory, which here is a folder of the test's own.
+// The log is in the working directory, which is a folder of the test here.
 class Log : public Story {
  protected:
   Log() : before_(QDir::currentPath()) { QDir::setCurrent(folder_.path()); }
@@ -82,7 +82,7 @@ TEST_F(Log, AKeyThatPassesWritesItsThreeCodes) {
   Settings().keyboard_transparent = true;
   Load();
   ShowDebugLines();
-  Play("down W");  // Windows calls W 87, its keyboard 17; the script gives no Qt key
+  Play("down W");  // Windows' code for W is 87, its keyboard code 17; the script has no Qt key
   EXPECT_EQ((QStringList{"keyboard press, qt key: 0", "keyboard press, windows virtual key: 87",
                          "keyboard press, scan code: 17"}),
             Messages());
@@ -101,14 +101,14 @@ TEST_F(Log, ALoadOfTheSystemKeymapSaysWhoseItIs) {
             Messages());
 }
 
-// What a host put in the library's place.
+// The logger that a host installed instead of the library's.
 class Listener : public Poco::Channel {
  public:
   void log(const Poco::Message& message) override { messages.append(QString::fromStdString(message.getText())); }
   QStringList messages;
 };
 
-// A host that uses the same classes may take loggers down and set up its own.
+// A host that uses the same classes may destroy loggers and configure its own.
 TEST_F(Log, TheLoggerIsLookedUpByItsNameAtEveryLine) {
   InputLogger::GetInstance();
   const Poco::AutoPtr<Listener> listener(new Listener);
@@ -123,7 +123,7 @@ TEST_F(Log, TheLoggerIsLookedUpByItsNameAtEveryLine) {
   EXPECT_EQ(QStringList(), Lines());
 }
 
-// Two lines of 64 K and a bit fill a file each time; of the four that are full the last two are kept.
+// Two lines of a little over 64 K fill a file each time; of the four full files the last two are kept.
 TEST_F(Log, AFullFileIsPutAwayAndTwoOfThemAreKept) {
   constexpr int kRotation = 64 * 1024;  // bytes
   const std::string half(kRotation / 2, 'x');
@@ -132,7 +132,7 @@ TEST_F(Log, AFullFileIsPutAwayAndTwoOfThemAreKept) {
   const QFileInfoList files = QDir().entryInfoList(QDir::Files, QDir::Name);
   ASSERT_EQ(3, files.size());
   EXPECT_EQ(name, files[0].fileName());
-  // The ninth; and more where two files are full within one millisecond, which is what names them.
+  // The ninth; more if two files are filled within one millisecond, which is part of their names.
   EXPECT_GE(Lines().size(), 1);
   EXPECT_LT(Lines().size(), 9);
   const QRegularExpression archive(QStringLiteral("^%1\\.\\d{17}(\\.\\d+)?$").arg(QRegularExpression::escape(name)));
@@ -148,7 +148,7 @@ TEST_F(Log, AFolderThatCannotBeWrittenStopsNothing) {
   SetInputTextSendFunc(nullptr);
 }
 
-// Without a story: the logger must not be there yet when the second process begins.
+// Without a story: the logger must not exist when the second process begins.
 TEST(LogOfTwoProcesses, HasTwoFiles) {
   const QTemporaryDir folder;
   QDir::setCurrent(folder.path());

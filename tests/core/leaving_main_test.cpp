@@ -11,12 +11,12 @@ namespace {
 
 using namespace probe;
 
-// A program that returns from its main function with gestures under way, in every state that a run can be in.
+// A program that returns from its main function with gestures in progress, in every state of a run.
 class LeavingMain : public testing::TestWithParam<Mode> {
  protected:
   LeavingMain() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 
-  // Ends the process: 0 when all was well.
+  // Ends the process: with 0 if everything was correct.
   [[noreturn]] static void LeaveWithBusyRuns(Mode mode) {
     static Owner owner(nullptr);  // outlives the application, as the library's singletons do
     int ticks = 0;
@@ -38,7 +38,7 @@ class LeavingMain : public testing::TestWithParam<Mode> {
     std::exit(0);
   }
 
-  // A second application in the same process is looked after like the first.
+  // A second application in the same process is handled like the first.
   [[noreturn]] static void LeaveTwice(Mode mode) {
     for (int i = 0; i < 2; ++i) {
       Owner owner(nullptr);
@@ -49,7 +49,7 @@ class LeavingMain : public testing::TestWithParam<Mode> {
     std::exit(live_workers == 0 ? 0 : 2);
   }
 
-  // A worker that does not come back holds the end up only for a while.
+  // A worker that does not return delays the end only for a while.
   [[noreturn]] static void LeaveWithAStuckWorker() {
     WorkerThread* run = nullptr;
     {

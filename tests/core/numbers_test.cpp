@@ -21,7 +21,7 @@ TEST(Numbers, RoundTakesHalvesUpwards) {
   EXPECT_EQ(-2, Round(-1.51));
 }
 
-// As qRound of Qt 5 has it. That of Qt 6 turns halves away from zero. Eighths and their sums are exact.
+// Like qRound of Qt 5. That of Qt 6 rounds halves away from zero. Eighths and their sums are exact.
 TEST(Numbers, RoundIsThatOfQt5) {
   for (int i = -4000; i <= 4000; ++i) EXPECT_EQ(std::floor(i / 8.0 + 0.5), Round(i / 8.0)) << i / 8.0;
 }

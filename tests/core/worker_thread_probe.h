@@ -1,4 +1,4 @@
-// A worker that tells what happens to it, an owner that runs it, and a program around them with its kind of time.
+// A worker that logs what happens to it, an owner that runs it, and a program for them with real or virtual time.
 #ifndef TESTS_CORE_WORKER_THREAD_PROBE_H_
 #define TESTS_CORE_WORKER_THREAD_PROBE_H_
 
@@ -23,11 +23,11 @@ namespace taviinputmanager {
 
 namespace probe {
 
-// What happened to workers, told from any thread.
+// The log of workers, from any thread.
 class Journal {
  public:
-  // Takes the lock once more, so that ThreadSanitizer, which does not see how Qt waits for a thread, knows that the
-  // last line was written.
+  // Takes the lock again, so that ThreadSanitizer, which does not see how Qt waits for a thread, knows that the last
+  // line was written.
   ~Journal() { Take(); }
   void Add(const QString& what) {
     const std::lock_guard<std::mutex> lock(mutex_);
@@ -49,11 +49,11 @@ class Journal {
 
 inline std::atomic<int> live_workers{0};
 
-// Where a worker says that it is in its slot, and waits to be let out of it.
+// Where a worker reports that it is in its slot, and waits to be released.
 inline QSemaphore entered;
 inline QSemaphore leave;
 
-// Ticks `ticks` times, every `interval_ms`, and then says that it has finished, at each further tick again.
+// Ticks `ticks` times, every `interval_ms`, then signals that it has finished, again at each further tick.
 class TickWorker : public QObject {
   Q_OBJECT
 
@@ -112,20 +112,20 @@ class TickWorker : public QObject {
 
 constexpr int kEndless = 1000000000;
 
-// The side of a worker's owner: a simulator, say.
+// The owner of the worker: a simulator, for example.
 class Owner : public QObject {
   Q_OBJECT
 
  public:
   explicit Owner(Journal* journal) : journal_(journal) {}
 
-  // A run that is over with the worker's own signal.
+  // A run that the worker's own signal ends.
   WorkerThread* StartRun(int ticks, int interval_ms = 1) {
     WorkerThread* run = MakeRun(ticks, interval_ms);
     run->Start();
     return run;
   }
-  // The same, to be started.
+  // The same, but not started yet.
   WorkerThread* MakeRun(int ticks, int interval_ms = 1) {
     auto* worker = new TickWorker(journal_, ticks, interval_ms);
     auto* run = new WorkerThread(worker);
@@ -143,8 +143,8 @@ class Owner : public QObject {
     return run;
   }
 
-  // A run that its owner ends in a call posted to the run, and that is followed by another `repeats` times. With
-  // `quit_at_once` the run is quit by the signal too, ahead of that call.
+  // A run that its owner ends in a call posted to the run, followed by `repeats` other runs. With `quit_at_once` the
+  // signal also quits the run, before that call.
   void StartRepeatingRun(int repeats, bool quit_at_once) {
     auto* worker = new TickWorker(journal_, 2, 1);
     auto* run = new WorkerThread(worker);
@@ -192,7 +192,7 @@ class Owner : public QObject {
 
 enum class Mode { kReal, kVirtual };
 
-// An application with its kind of time.
+// An application with real or virtual time.
 class Program {
  public:
   explicit Program(Mode mode) {
@@ -205,7 +205,7 @@ class Program {
     Clock::FindVirtualTime();
   }
 
-  // Lets time pass until `condition` holds; false where that takes too long to be right.
+  // Lets time pass until `condition` holds; false if that takes unreasonably long.
   bool RunUntil(const std::function<bool()>& condition) {
     const QDeadlineTimer limit(60000);
     QTimer heartbeat;
@@ -221,7 +221,7 @@ class Program {
     }
     return true;
   }
-  // What is posted to the main thread by now is delivered, and whatever that posts.
+  // Everything posted to the main thread so far is delivered, and everything that this posts.
   void DeliverPosted() {
     if (time_) return time_->Settle();
     for (int i = 0; i < 10; ++i) QCoreApplication::processEvents();
@@ -231,7 +231,7 @@ class Program {
   tavi::VirtualEventDispatcher* time() { return time_; }
 
  private:
-  tavi::VirtualEventDispatcher* time_ = nullptr;  // the application's
+  tavi::VirtualEventDispatcher* time_ = nullptr;  // owned by the application
   int argument_count_ = 1;
   char program_name_[12] = "worker_test";
   char* arguments_[2] = {program_name_, nullptr};

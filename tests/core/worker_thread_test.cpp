@@ -1,4 +1,4 @@
-// Runs of workers, with real threads on the real clock and without threads on the virtual one: the same stories hold.
+// Runs of workers, with real threads in real time and without threads in virtual time: the same stories apply.
 #include "core/worker_thread.h"
 
 #include <functional>
@@ -19,7 +19,7 @@ namespace {
 
 using namespace probe;
 
-constexpr int kPatienceMs = 60000;  // for a thread to come up on a busy machine
+constexpr int kPatienceMs = 60000;  // for a thread to start on a busy machine
 
 class WorkerRun : public testing::TestWithParam<Mode> {
  protected:
@@ -36,7 +36,7 @@ class WorkerRun : public testing::TestWithParam<Mode> {
 
   Journal journal_;
   Owner owner_;
-  Program program_;  // the first to go, which ends all runs
+  Program program_;  // destroyed first, which ends all runs
 };
 
 INSTANTIATE_TEST_SUITE_P(Time, WorkerRun, testing::Values(Mode::kReal, Mode::kVirtual), ModeName);
@@ -114,7 +114,7 @@ TEST_P(WorkerRun, DeliversItsResultsAfterTheHandlerUnderWay) {
 }
 
 TEST_P(WorkerRun, GoesOnTickingDuringABlockingSleep) {
-  // It ends on the way: ten ticks come and no more, whether the sleeper is in a handler or not.
+  // It ends in between: exactly ten ticks come, whether the sleeper is in a handler or not.
   owner_.StartRun(10);
   ASSERT_TRUE(RunUntilSaid("tick"));
   QMetaObject::invokeMethod(
@@ -130,7 +130,7 @@ TEST_P(WorkerRun, GoesOnTickingDuringABlockingSleep) {
 }
 
 TEST_P(WorkerRun, TicksNoMoreOnceItsWorkerGaveItselfUp) {
-  // The request that ends the run and a long sleep are handled in one go, before any deferred delete.
+  // The request that ends the run and a long sleep are handled together, before any deferred delete.
   owner_.StartRun(kEndless);
   ASSERT_TRUE(RunUntilSaid("tick"));
   journal_.Take();
@@ -187,7 +187,7 @@ TEST_P(WorkerRun, QuitBeforeItsBeginningNeverRuns) {
   EXPECT_EQ(owner_.finished_runs, 1);
 }
 
-// A thread that comes up late begins no more; one that was quick has begun, and nothing comes after the quit.
+// A thread that starts late no longer begins; a fast one has begun, and nothing comes after the quit.
 TEST_P(WorkerRun, QuitRightAfterItsStartEndsOnce) {
   for (int i = 0; i < 50; ++i) {
     const QPointer<WorkerThread> run = owner_.StartRun(kEndless, 1000);
@@ -305,8 +305,8 @@ INSTANTIATE_TEST_SUITE_P(Time, RealRun, testing::Values(Mode::kReal), ModeName);
 INSTANTIATE_TEST_SUITE_P(Time, VirtualRun, testing::Values(Mode::kVirtual), ModeName);
 
 TEST_P(RealRun, QuitKeepsAwayWhatTheThreadHasCollectedAlready) {
-  // The worker is held in one of its slots. Behind that wait requests and the ticks of a timer that has long been due;
-  // an event loop that is told to exit would still deliver them.
+  // The worker is held in one of its slots. Requests and the overdue ticks of a timer are queued; an event loop that is
+  // told to exit would still deliver them.
   const QPointer<WorkerThread> run = owner_.StartRun(kEndless, 0);
   ASSERT_TRUE(RunUntilSaid("process"));
   Q_EMIT owner_.Block();
@@ -327,14 +327,14 @@ TEST_P(RealRun, AnswersRequestsThatWereOnTheirWayWhenItsWorkerGaveItselfUp) {
   Q_EMIT owner_.Stop();
   Q_EMIT owner_.Request(QStringLiteral("request"));
   leave.release();
-  // The quit that the worker asks for waits on the main thread until we look.
+  // The worker's request to quit is queued on the main thread until it is processed here.
   while (journal_.Count(QStringLiteral("request")) == 0) Clock::Sleep(1);
   ASSERT_TRUE(RunUntilGone(run));
   EXPECT_EQ(journal_.Take(), "process, unblocked, finish, request, deleted");
 }
 
 TEST_P(RealRun, LosesNothingOfRequestsThatMeetTheEndOfItsWorker) {
-  // What was lost would be found by a leak checker.
+  // A leak checker would find what was lost.
   for (int i = 0; i < 300; ++i) {
     const QPointer<WorkerThread> run = owner_.StartRun(1, 0);
     while (run) {

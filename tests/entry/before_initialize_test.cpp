@@ -15,7 +15,7 @@ TEST(BeforeInitialize, EverythingIsIgnored) {
   SetInputEventSendFunc(reinterpret_cast<void*>(+[](const char*, int) { ++lines; }));
   QKeyEvent key(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier, 17, 87, 0);
   OnQtInputEvent(&key);
-  // With a keymap, and be it an empty one, both of these would be fingers.
+  // With any keymap, even an empty one, both of these would be contacts.
   QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
   OnQtInputEvent(&press);
   const qt::TouchPoint point = qt::MakeTouchPoint(1, Qt::TouchPointPressed, {5, 5});

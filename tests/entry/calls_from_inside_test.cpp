@@ -1,4 +1,4 @@
-// A host that feeds the next event before the function that the library called returns.
+// A host that feeds the next event before the called host function returns.
 #include <QTemporaryDir>
 
 #include "keymap/keywords.h"
@@ -311,7 +311,7 @@ TEST_F(ViewFromInside, AFireKeyThatComesUpInsideItsPressGivesTheCountsBack) {
   Play("mouse down left 640,360");
   EXPECT_WIRE("0ms 1:SLOTPRESS:3:3:1:1:960:540", "0ms 1:SLOTRELEASE:3");
   Play("rel 1,1");
-  EXPECT_WIRE("0ms 1:SLOTPRESS:1:1:1:1:640:360");  // the view finger has them
+  EXPECT_WIRE("0ms 1:SLOTPRESS:1:1:1:1:640:360");  // the view contact gets them
 }
 
 TEST_F(ViewFromInside, ViewControlThatIsLeftAsItBeginsLiftsNothingLater) {
@@ -330,7 +330,7 @@ TEST_F(CallsFromInside, ATurnOfTheViewThatEndsAsTheDisplayIsAskedForPutsNothingD
   Load();
   At("GetDisplayRect", "up W");
   Play("down W; wait 100");
-  EXPECT_WIRE("8ms 1:SLOTRELEASE:7");  // the last step has its 8 ms
+  EXPECT_WIRE("8ms 1:SLOTRELEASE:7");  // the last step takes its 8 ms
 }
 
 }  // namespace

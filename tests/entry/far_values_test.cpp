@@ -1,4 +1,4 @@
-// Positions, edges and steps beyond what an int holds: they stop at its ends.
+// Positions, edges and steps beyond the range of an int: they saturate.
 #include <functional>
 #include <limits>
 
@@ -93,7 +93,7 @@ TEST_F(FarValues, StopAtTheEndsOfAnInt) {
          Play("down F1");
        },
        {"SLOTPRESS:1:1:1:1:-2147483648:360"}},
-      // The finger goes from the button straight to where the pointer is.
+      // The contact moves from the button straight to the pointer.
       {"the pointer less the display's edge",
        [this] {
          auto* spell = Add<SpellConfigItem>("Spell", "F1", {0.5, 0.5});

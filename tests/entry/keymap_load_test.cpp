@@ -60,7 +60,7 @@ TEST_F(KeymapLoad, TellsTheHostInOrderAndResetsTheOldDisplay) {
   Settings().escape_to_guest = true;
   Add<StaringConfigItem>("Staring", "F");
   Load(4);
-  // Load forgets what it says, so the same once more by hand, from display 4.
+  // Load clears its timeline, so the same again by hand, from display 4.
   Wheel().virtual_joystick = true;
   test::SetNextKeymap(nullptr);
   OnLoadKeymapConfigAndInfo("b.yaml", "p", "", 5);
@@ -100,7 +100,7 @@ TEST_F(KeymapLoad, ANullKeymapDropsEventsUntilAnotherLoad) {
   Load();
   test::FailLoads(true);
   OnLoadKeymapConfigAndInfo("broken", "p", "", 9);
-  EXPECT_CALLS_NONE();  // nothing is told and nothing reset
+  EXPECT_CALLS_NONE();  // nothing is reported and nothing reset
   EXPECT_EQ(1, InputStatusManager::GetInstance()->GetDisplayId());
   Play("down W; rel 1,1; reset");
   UpdateMousePosition(5, 5);
@@ -138,7 +138,7 @@ TEST_F(KeymapLoad, InitializeReportsEscapeThenLoadsBothKeymaps) {
                "0ms escape_occupied 0", "0ms gravity 0 0 0");
 }
 
-// The handler takes the keymap before the reset forgets the armed key: the new keymap is asked about that key first.
+// The handler gets the keymap before the reset clears the armed key: the new keymap is searched for that key first.
 TEST_F(KeymapLoad, AnArmedKeyIsForgottenAfterTheFreshKeymapWasAskedAboutIt) {
   Load();
   Play("down E");
@@ -155,7 +155,7 @@ TEST_F(KeymapLoad, AnArmedKeyIsForgottenAfterTheFreshKeymapWasAskedAboutIt) {
                "0ms gravity 0 0 0");
 }
 
-// Tells when it is gone.
+// Records its destruction.
 struct WatchedItem : ConfigItem {
   ~WatchedItem() override { *is_alive = false; }
   bool* is_alive = nullptr;

@@ -1,4 +1,4 @@
-// Programs that return from their main function in the middle of everything: gestures and macros, replays, a recording.
+// Programs that return from their main function in the middle of gestures, macros, replays and a recording.
 #include <atomic>
 #include <cstdlib>
 #include <functional>
@@ -31,7 +31,7 @@ enum class Clockwork { kReal, kVirtual };
 std::atomic<int> said{0};
 std::atomic<int> replays_finished{0};
 
-// Made before any singleton of the library, and so destroyed after the last: what is torn down says nothing.
+// Created before any singleton of the library, and so destroyed after the last: the destructors send nothing.
 class Silence {
  public:
   ~Silence() {
@@ -71,7 +71,7 @@ class Program {
 
  private:
   InputReplayerCallbacks replayer_;
-  tavi::VirtualEventDispatcher* time_ = nullptr;  // the application's
+  tavi::VirtualEventDispatcher* time_ = nullptr;  // owned by the application
   int argument_count_ = 1;
   char program_name_[8] = "leaving";
   char* arguments_[2] = {program_name_, nullptr};
@@ -136,7 +136,7 @@ class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwor
  protected:
   LeavingMainInTheMiddle() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 
-  // Ends the process: 0 when all was well.
+  // Ends the process: with 0 if everything was correct.
   [[noreturn]] static void Leave(Clockwork clockwork, const QString& keymap) {
     static Silence silence;
     int threads = 0;
@@ -155,7 +155,7 @@ class LeavingMainInTheMiddle : public testing::TestWithParam<std::tuple<Clockwor
       HoldEverything();
       const int enough = said + 500;
       if (!program.RunUntil([enough] { return said > enough && replays_finished > 0; })) std::exit(1);
-      // Nothing of this has begun when it ends.
+      // Nothing of this has begun when the process ends.
       LetGoAndHoldEverything();
       PauseReplay(0, endless);
       StopReplay(1, endless, true);

@@ -34,7 +34,7 @@ class Reset : public Story {
     }
     return lines;
   }
-  // What goes out after the simulators have had their say.
+  // The lines after those of the simulators.
   QStringList TakeSweep(int lines) {
     const QStringList wire = TakeWire();
     return wire.mid(wire.size() - lines);
@@ -63,7 +63,7 @@ TEST_F(Reset, SweepsThenReleasesKeysInAscendingOrderOnItsDisplay) {
   OnResetInputStatus(false, 4);
   EXPECT_EQ(Sweep(0, 10, 4) + QStringList({"0ms 4:KBDRL:30:0", "0ms 4:KBDRL:158:0", "0ms 4:KBDRL:272:0"}),
             TakeSweep(14));
-  OnResetInputStatus(false, 4);  // forgotten by now
+  OnResetInputStatus(false, 4);  // cleared by now
   EXPECT_EQ(Sweep(0, 10, 4), TakeSweep(11));
 }
 
@@ -95,7 +95,7 @@ TEST_F(Reset, AStatusMayBeSetByItsNumber) {
   EXPECT_EQ(InputStatus::Observing, GetInputStatus());
 }
 
-// The status is told before any contact is released.
+// The status is reported before any contact is released.
 TEST_F(Reset, AChangeOfDisplayTellsThenReleasesOnTheOldOne) {
   InputStatusManager::GetInstance()->SetStatus(InputStatus::Staring, "K");
   HoldKeys();

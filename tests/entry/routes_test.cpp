@@ -1,4 +1,4 @@
-// Which way an event goes.
+// The routing of events.
 #include <QMouseEvent>
 
 #include "core/input_status_manager.h"
@@ -86,7 +86,7 @@ TEST_F(Routes, MovesAreTwoMillisecondsApart) {
   Play("wait 5; mouse down left 10,10");
   Forget();
   Play("move 20,20; wait 1; move 30,30; wait 1; move 40,40");
-  // The second is dropped and does not count: the third is 2 ms behind the first.
+  // The second is dropped and does not count: the third comes 2 ms after the first.
   EXPECT_WIRE("5ms 1:SLOTPRESS:1:1:1:1:20:20", "7ms 1:SLOTPRESS:1:1:1:1:40:40");
 }
 
@@ -106,8 +106,8 @@ TEST_F(Routes, OtherEventsAreDropped) {
   EXPECT_WIRE_NONE();
 }
 
-// Where a press goes: to the simulate side a left press is a finger and a right press nothing; on the transparent side
-// both are keys of the guest's mouse.
+// What a press does: on the simulating side a left press is a contact and a right press nothing; on the transparent
+// side both are keys of the guest's mouse.
 const struct {
   const char* name;
   bool forced;
@@ -147,7 +147,7 @@ TEST_F(Routes, AnotherButtonWhileTheLeftIsHeldGoesWhereTheLeftGoes) {
   EXPECT_WIRE("0ms 1:KBDPR:273:1", "0ms 1:KBDRL:273:0");
 }
 
-// A move has no button of its own: the buttons held decide.
+// A move has no button of its own: the held buttons decide.
 TEST_F(Routes, AMoveWithTheLeftButtonHeldIsALeftMove) {
   Settings().mouse_mode = "Mouse_OtherButton_Transparent";
   Load();
@@ -227,7 +227,8 @@ TEST_F(Routes, ATableIsNotNeeded) {
   Add<ConfigItem>("Click", "E", {0.5, 0.5});
   Load();
   Play("down W; up W; down E; up E; down Esc; mouse down left 5,5; mouse up left 5,5");
-  // No display, so no press; releases carry none. Escape may not act as back without a host to say so.
+  // Without a display there is no press; releases have no position. Escape does not act as back unless the host allows
+  // it.
   EXPECT_WIRE("0ms 1:KBDPR:17:1", "0ms 1:KBDRL:17:0", "0ms 1:SLOTRELEASE:11", "0ms 1:SLOTPRESS:1:1:1:1:5:5",
               "0ms 1:SLOTRELEASE:1");
 }

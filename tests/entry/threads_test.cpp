@@ -1,4 +1,4 @@
-// Functions that are called on a thread where they are not allowed.
+// Functions that are called on a thread where that is forbidden.
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>

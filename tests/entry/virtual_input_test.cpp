@@ -1,4 +1,4 @@
-// Input made inside the library, as if from the host.
+// Input created inside the library, as if from the host.
 #include "core/input_manager.h"
 #include "core/input_status_manager.h"
 #include "keymap/tavikeymapmanager.h"
@@ -106,7 +106,7 @@ TEST_F(VirtualInput, KnowsTheTypesOfTheKeymap) {
   EXPECT_FALSE(manager_->isConfigHasSpeicalTypeKey("Fire"));
 }
 
-// Whether SwitchStaring pressed the staring key: an item before it on the same key shows the press.
+// Whether SwitchStaring pressed the staring key: another item before it on the same key shows the press.
 class SwitchStaring : public VirtualInput {
  protected:
   void LoadWithProbe(const ConfigKey& staring_key) {

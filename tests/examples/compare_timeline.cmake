@@ -1,5 +1,6 @@
-# Plays EXAMPLE with TAVI, a record (.json) or a script on the keymap that its first line names ("# keymap: FILE"), and
-# compares the timeline with the file beside it. TAVI_WRITE_TIMELINES in the environment writes that file instead.
+# Plays EXAMPLE with TAVI, a record (.json) or a script with the keymap in its first line ("# keymap: FILE"), and
+# compares the timeline with the file beside it. If TAVI_WRITE_TIMELINES is set in the environment, writes that file
+# instead.
 get_filename_component(folder ${EXAMPLE} DIRECTORY)
 get_filename_component(name ${EXAMPLE} NAME_WE)
 if(EXAMPLE MATCHES "\\.json$")

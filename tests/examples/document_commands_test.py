@@ -3,9 +3,9 @@
 
     document_commands_test.py SOURCE_DIR TAVI
 
-A block of kind "console" has commands behind "$ ", as typed in the folder of the tree, and below each all that it prints. A
-line "..." stands for any lines; a command goes on in the next line behind "|" or a backslash. Commands run in a folder that
-has a copy of the examples, so they may write files. "tavi guest-uinput" is passed over where it was not built.
+A block of kind "console" has commands after "$ ", as typed in the folder of the tree, and below each its complete output. A
+line "..." matches any lines; a command continues on the next line after "|" or a backslash. Commands run in a folder that
+has a copy of the examples, so they may write files. "tavi guest-uinput" is skipped if it was not built.
 """
 import os
 import re

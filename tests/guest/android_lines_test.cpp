@@ -1,4 +1,4 @@
-// What differs for Android.
+// The differences for Android.
 #include <algorithm>
 #include <linux/input.h>
 
@@ -30,7 +30,7 @@ class AndroidLines : public PlayedLines {
   }
 };
 
-// From the middle, 640,360, where Android's cursor stands at first.
+// From the middle, 640,360, which is the initial position of Android's cursor.
 TEST_F(AndroidLines, TheMouseIsRelative) {
   EXPECT_EQ(Play("MOUSEMOVE_REL:650:340"),
             (Texts{"pointer EV_REL REL_X 10", "pointer EV_REL REL_Y -20", "pointer EV_SYN SYN_REPORT 0"}));
@@ -53,11 +53,11 @@ TEST(AndroidDevices, TheMouseHasNoPlace) {
 
 TEST_F(AndroidLines, TheSeventeenthFingerIsLeftOutAndToldOnce) {
   for (int slot = 0; slot < 16; ++slot) EXPECT_FALSE(Press(slot).empty());
-  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not seen there; left out");
+  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not supported; ignored");
   EXPECT_EQ(Press(20), Texts{});  // it moves
   EXPECT_FALSE(Press(3).empty());
   EXPECT_EQ(Play("SLOTRELEASE:20"), Texts{});
-  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not seen there; left out");
+  EXPECT_EQ(ProblemOf("SLOTPRESS:20:20:1:1:1:1"), "more than 16 fingers at once are not supported; ignored");
 }
 
 TEST_F(AndroidLines, AFingerThatMovesWhenThereIsRoomComesDown) {
@@ -85,7 +85,7 @@ TEST_F(AndroidKeyboardLines, KeysTypeWhenItIsAsked) {
   EXPECT_EQ(DescribeDevice(KernelDevice::kKeyboard, WithKeyboard()).keys.size(), 248u);
 }
 
-// On Linux all 26 slots are fingers.
+// On Linux all 26 slots are contacts.
 TEST(LinuxLines, FingersAreAsManyAsSlots) {
   GuestTranslator translator{GuestOptions()};
   for (int slot = 0; slot < kSlotCount; ++slot) {

@@ -1,5 +1,5 @@
-// The keeper lifts what is down however its program ends. Pipes take the place of devices here: what is written to them
-// is what a device would get. The same on a real kernel: KernelGuest.
+// The keeper lifts what is down however its program ends. Pipes replace the devices here: a device would get what is
+// written to them. KernelGuest tests the same on a real kernel.
 #include "guest/device/device_keeper.h"
 
 #include <csignal>
@@ -28,7 +28,7 @@ class KeptPipe : public testing::Test {
 
   void CloseOwnEnd() { close(ends_[1]); }
 
-  // What was written until nobody holds the pipe's other end any more; at most ten seconds of it.
+  // What is written until the pipe's other end is closed everywhere; waits at most ten seconds.
   std::vector<input_event> ReadToEnd() {
     std::vector<input_event> events;
     input_event event{};
@@ -80,18 +80,18 @@ TEST_F(KeptPipe, IsLiftedWhenTheProgramIsKilled) {
   EXPECT_EQ(events[3].value, 1);
 }
 
-// The keys that end a program in a terminal go to all its processes.
+// The keys that end a program in a terminal send their signal to all its processes.
 TEST_F(KeptPipe, TheKeeperOutlivesWhatEndsItsProgram) {
   DeviceKeeper keeper;
   ASSERT_EQ(keeper.Start(), "");
   ASSERT_EQ(keeper.Keep(ends_[1], Rest(0)), "");
   CloseOwnEnd();
   for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) EXPECT_EQ(kill(keeper.process(), number), 0);
-  EXPECT_EQ(waitpid(keeper.process(), nullptr, WNOHANG), 0);  // it lives
+  EXPECT_EQ(waitpid(keeper.process(), nullptr, WNOHANG), 0);  // it is running
   EXPECT_TRUE(IsEmpty());
 }
 
-// A pipe of the program's that the keeper held would never end for its reader.
+// If the keeper kept a pipe of the program open, its reader would never see the end.
 TEST_F(KeptPipe, TheKeeperHoldsNothingElseOfItsProgram) {
   DeviceKeeper keeper;
   ASSERT_EQ(keeper.Start(), "");

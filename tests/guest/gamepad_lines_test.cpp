@@ -10,7 +10,7 @@ TEST_F(GamepadLines, EachNumberMovesItsAxis) {
   const struct {
     const char* name;
     const char* line;
-    std::vector<std::string> events;  // but the last, the report
+    std::vector<std::string> events;  // without the last, the report
   } rows[] = {
       {"the left stick",
        "LSTICKAXIS:-1000000:500000",
@@ -24,7 +24,7 @@ TEST_F(GamepadLines, EachNumberMovesItsAxis) {
       {"a trigger beyond its end", "RTRIGGERAXIS:2", {"gamepad EV_ABS ABS_RZ 1"}},
       {"the hat to the left", "HATX:-1", {"gamepad EV_ABS ABS_HAT0X -1"}},
       {"the hat down", "HATY:1", {"gamepad EV_ABS ABS_HAT0Y 1"}},
-      {"the hat let go", "HATY:0", {"gamepad EV_ABS ABS_HAT0Y 0"}},
+      {"the hat released", "HATY:0", {"gamepad EV_ABS ABS_HAT0Y 0"}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);

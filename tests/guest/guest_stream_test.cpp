@@ -11,7 +11,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// Text lines are marked as the timeline marks them.
+// Text lines are marked like those of a timeline.
 Texts Taken(GuestStream* stream) {
   Texts lines;
   while (const auto line = stream->Next()) lines.push_back((line->is_text ? "text " : "") + line->line);
@@ -74,7 +74,7 @@ TEST(GuestStream, ALineThatIsTooLongIsPassedOver) {
   EXPECT_EQ(cut->line, "1:" + Many(38, 'A'));  // its first 40 bytes
   EXPECT_FALSE(stream.Next().has_value());
   stream.Append(Many(3 * kMost, 'A'));
-  EXPECT_FALSE(stream.Next().has_value());  // told once
+  EXPECT_FALSE(stream.Next().has_value());  // reported once
   stream.Append("AAA\n1:HATX:0\n");
   EXPECT_EQ(Taken(&stream), Texts{"1:HATX:0"});
   EXPECT_FALSE(stream.Last().has_value());

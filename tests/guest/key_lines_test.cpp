@@ -72,7 +72,7 @@ TEST_F(KeyLines, TheWheelTurnsWhereThePointerIs) {
 
 class WheelTurns : public PlayedLines {
  protected:
-  // Behind the three events of the place.
+  // After the three events of the position.
   Texts Turn(const char* line) {
     Texts events = Play(line);
     return Texts(events.begin() + 3, events.end());

@@ -1,4 +1,4 @@
-// The end of a front end, or of the guest: what is down goes up.
+// The end of a front end, or of the guest: what is down is lifted.
 #include "guest/translation/device_description.h"
 #include "tests/guest/played_lines.h"
 
@@ -51,14 +51,14 @@ TEST_F(LiftAll, LeavesWhatWasLetGo) {
   EXPECT_EQ(Lift(), Texts{});
 }
 
-// 60 parts of a notch were turned, and the next 60 complete none.
+// The wheel had turned by 60 parts, and the next 60 do not complete a notch.
 TEST_F(LiftAll, ForgetsAPartOfANotch) {
   Play("WHEEL_WITH_DELTA:1:1:50:0");
   Lift();
-  EXPECT_EQ(Play("WHEEL_WITH_DELTA:1:1:50:0").size(), 5u);  // the place, the parts and its report, but no REL_WHEEL
+  EXPECT_EQ(Play("WHEEL_WITH_DELTA:1:1:50:0").size(), 5u);  // the position, the parts and its report, but no REL_WHEEL
 }
 
-// Whatever was done before; the kernel drops what is so already. 26 slots and the touch; 248 keys.
+// Regardless of what was done before; the kernel drops what is already so. 26 slots and the touch; 248 keys.
 TEST(RestFrame, LiftsAllThatADeviceCanHoldDown) {
   const Texts screen = TextsOf(RestFrame(KernelDevice::kScreen, {}));
   ASSERT_EQ(screen.size(), 26u * 2 + 2);

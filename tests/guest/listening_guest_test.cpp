@@ -1,4 +1,4 @@
-// The program tavi-guest as front ends meet it. It makes no devices here, and prints what it would do.
+// The program tavi-guest from the point of view of front ends. It creates no devices here, and prints what it would do.
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -62,7 +62,7 @@ class ListeningGuest : public testing::Test {
     ASSERT_TRUE(front_end->bytesToWrite() == 0 || front_end->waitForBytesWritten());
   }
 
-  // So many lines of what the guest prints next.
+  // That many further lines of the guest's output.
   std::string ReadLines(int count) {
     std::string lines;
     for (; count > 0; --count) {
@@ -105,7 +105,7 @@ TEST_F(ListeningGuest, TakesOneFrontEndAfterTheOther) {
   for (int i = 0; i < 3; ++i) {
     QLocalSocket front_end;
     Connect(&front_end);
-    Send(&front_end, "1:SLOTRELEASE:2\n");  // up already, whatever the one before has left
+    Send(&front_end, "1:SLOTRELEASE:2\n");  // already up, whatever the previous front end left behind
     Send(&front_end, kFingerLine);
     EXPECT_EQ(ReadLines(6), kFingerDown);
     front_end.abort();
@@ -127,7 +127,7 @@ TEST_F(ListeningGuest, RefusesASecondFrontEndWhileThereIsOne) {
   EXPECT_EQ(ReadLines(4), kFingerUp);
 }
 
-// It may be the beginning of anything: this would lift finger 2 when it was to lift finger 20.
+// It may be the beginning of any line: this would lift finger 2 when finger 20 was meant.
 TEST_F(ListeningGuest, ALineThatWasCutOffIsNotPlayed) {
   ListenAtPath();
   QLocalSocket front_end;
@@ -179,7 +179,7 @@ TEST_F(ListeningGuest, NothingElseIsReplaced) {
   Start({"--listen", "unix:" + Path()});
   ASSERT_TRUE(guest_.waitForFinished());
   EXPECT_EQ(guest_.exitCode(), 2);
-  EXPECT_EQ(guest_.readAllStandardError(), "tavi-guest: " + Path().toUtf8() + " is there already, and is no socket\n");
+  EXPECT_EQ(guest_.readAllStandardError(), "tavi-guest: " + Path().toUtf8() + " already exists and is not a socket\n");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "mine");
 }
@@ -208,7 +208,7 @@ TEST_F(ListeningGuest, APortIsOneOfTheLoopback) {
   EXPECT_EQ(ReadLines(4), kFingerUp);
 }
 
-// A dry run of a file tells of its lines alone; a signal comes in the midst of things.
+// A dry run of a file prints only its lines; a signal may come in the middle of a gesture.
 TEST_F(ListeningGuest, ASignalLiftsWhatAPipeHasPutDown) {
   Start({});
   guest_.write(kFingerLine);

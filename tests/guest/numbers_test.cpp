@@ -1,4 +1,4 @@
-// Hosts are of Qt, and so was the guest that its lines were first played by: numbers are read and rounded as there.
+// Hosts use Qt: numbers are read and rounded in the same way.
 #include "guest/line/numbers.h"
 
 #include <cmath>
@@ -14,7 +14,7 @@
 namespace taviguest {
 namespace {
 
-// Both say the same, to the last bit of the number.
+// Both give the same result, to the last bit.
 void CompareReading(const std::string& text) {
   SCOPED_TRACE(text);
   const QString qt = QString::fromStdString(text);
@@ -128,7 +128,7 @@ TEST(Numbers, AreReadAsByQt) {
   }
 }
 
-// What lies near the edges of doubles: the middle of two, the largest, the least, the least that is not subnormal.
+// Numbers near the limits of doubles: midpoints of two, the largest, the smallest, the smallest that is not subnormal.
 TEST(Numbers, AreReadAsByQtWhereDoublesEnd) {
   for (const char* text : {
            "1.7976931348623157e308",
@@ -158,7 +158,7 @@ TEST(Numbers, AreReadAsByQtWhereDoublesEnd) {
        }) {
     CompareReading(text);
   }
-  // Digits that only tell whether there is more behind the middle of two doubles.
+  // Digits that only matter because they are beyond the midpoint of two doubles.
   CompareReading("9007199254740993." + std::string(2000, '0') + "1");
   CompareReading("9007199254740993." + std::string(2000, '0'));
   CompareReading(std::string(2000, '0') + "1.5");
@@ -191,7 +191,7 @@ TEST(Numbers, EveryDoubleIsReadBack) {
   }
 }
 
-// Halves go up: 0.5 to 1 and -0.5 to 0.
+// Halves are rounded up: 0.5 to 1 and -0.5 to 0.
 TEST(Numbers, AreRoundedAsByQt) {
   EXPECT_EQ(RoundToInt(640.5), 641);
   EXPECT_EQ(RoundToInt(-0.5), 0);

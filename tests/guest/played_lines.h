@@ -1,4 +1,4 @@
-// Guest lines, and the kernel's events that come of them, as texts.
+// Guest lines and the kernel's events for them, as texts.
 #ifndef TESTS_GUEST_PLAYED_LINES_H_
 #define TESTS_GUEST_PLAYED_LINES_H_
 
@@ -20,19 +20,19 @@ inline Texts TextsOf(const KernelEvents& events) {
   return texts;
 }
 
-// A guest whose touch surface has 1280 x 720 places.
+// A guest with a touch surface of 1280 x 720.
 class PlayedLines : public testing::Test {
  protected:
   explicit PlayedLines(const GuestOptions& options = {}) : translator_(options) {}
 
-  // What comes of a line without its display. The line has no problem.
+  // The events of a line without its display. The line must have no problem.
   Texts Play(std::string_view line) {
     const Translation translation = translator_.Translate(ParseGuestLine(line));
     EXPECT_EQ(translation.problem, "");
     return TextsOf(translation.events);
   }
 
-  // The problem of a line, of which nothing comes.
+  // The problem of a line that has no events.
   std::string ProblemOf(std::string_view line) {
     const Translation translation = translator_.Translate(ParseGuestLine(line));
     EXPECT_EQ(TextsOf(translation.events), Texts{});

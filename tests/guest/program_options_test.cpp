@@ -57,9 +57,9 @@ TEST(GuestProgramOptions, TellWhatIsWrong) {
       {{"--listen", long_path}, "--listen needs tcp:PORT or unix:PATH, not \"" + long_path + '"'},
       {{"--dry-run=yes"}, "--dry-run takes no value"},
       {{"--verbose"}, "unknown option \"--verbose\""},
-      {{"lines"}, "\"lines\" is no option"},
-      {{"-"}, "\"-\" is no option"},
-      {{"--input", "a", "--listen", "tcp:0"}, "lines come by --input or by --listen, not by both"},
+      {{"lines"}, "\"lines\" is not an option"},
+      {{"-"}, "\"-\" is not an option"},
+      {{"--input", "a", "--listen", "tcp:0"}, "use --input or --listen, not both"},
   };
   for (const auto& row : rows) EXPECT_EQ(ReadProgramOptions(row.words).error, row.error);
 }

@@ -1,4 +1,4 @@
-// What the guest knows for itself is what the library, its program and the kernel's own names say.
+// The guest's own data agrees with the library, its program and the kernel's names.
 #include <gtest/gtest.h>
 #include <libevdev/libevdev.h>
 #include <random>
@@ -18,6 +18,7 @@
 namespace taviguest {
 namespace {
 
+// The host reads lines by the guest's own reader, from another kind of text.
 void CompareLine(const std::string& text) {
   SCOPED_TRACE(text);
   const tavi::GuestLine theirs = tavi::ParseGuestLine(QString::fromStdString(text));

@@ -114,7 +114,7 @@ TEST_F(TouchLines, AllFingersGoUpInOneFrame) {
                                     }));
 }
 
-// 1280 is the place behind the last of 1280.
+// 1280 is beyond the last position, 1279.
 TEST_F(TouchLines, PlacesOffTheSurfaceAreItsEdge) {
   const Texts corner = Play("SLOTPRESS:1:1:1:1:1280:-5");
   EXPECT_EQ(corner.at(2), "screen EV_ABS ABS_MT_POSITION_X 1279");
@@ -134,7 +134,7 @@ TEST_F(TouchLines, ThereAreSlotsFromZeroToTwentyFive) {
   }
 }
 
-// -1 would lift the finger, and the kernel is told of no id above 65535.
+// -1 would lift the finger, and the kernel accepts no id above 65535.
 TEST_F(TouchLines, TrackingIdsHaveLimits) {
   EXPECT_EQ(ProblemOf("SLOTPRESS:2:-1:1:1:1:1"), "there is no such slot");
   EXPECT_EQ(ProblemOf("SLOTPRESS:2:65536:1:1:1:1"), "there is no such slot");

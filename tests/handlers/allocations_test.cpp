@@ -1,4 +1,4 @@
-// What an event takes from the heap: nothing, once all that lasts has been made.
+// Heap allocations of events: none, once all lasting objects exist.
 #include <functional>
 
 #include <QKeyEvent>
@@ -25,7 +25,7 @@ class Allocations : public Story {
   }
   void TearDown() override { Forget(); }
 
-  // Loads, and from then on keeps no note of what the host is told: notes are on the heap.
+  // Loads, and from then on does not log the host's calls, because the log is on the heap.
   void LoadQuietly() {
     Load();
     Host().table.OnMappedDeviceUsed = nullptr;
@@ -33,7 +33,7 @@ class Allocations : public Story {
     SetInputEventSendFunc(reinterpret_cast<void*>(+[](const char*, int) { ++lines; }));
   }
 
-  // Of `events`, at their second time, and the lines that they send.
+  // For `events`, the second time, and the lines that they send.
   static std::int64_t Of(const std::function<void()>& events) {
     events();
     lines = 0;
@@ -59,7 +59,7 @@ TEST_F(Allocations, CountsWhatItIsToCount) {
   EXPECT_EQ(1, Of([] { QString::number(12345); }));
 }
 
-// A text put together by QString::arg takes a block for each of its fields.
+// A text built with QString::arg takes a block for each of its fields.
 TEST_F(Allocations, AMappedTapTakesNone) {
   Add<ComposableConfigItem>("Click", "W", {0.5, 0.5});
   LoadQuietly();
@@ -79,12 +79,12 @@ TEST_F(Allocations, ARelativeMoveOfTheViewTakesNone) {
   Add<StaringConfigItem>("Staring", "W", {0.5, 0.5});
   LoadQuietly();
   Tap(kW);
-  OnWindowsWmRelativeInputEvent(0, 0);  // the finger goes down
+  OnWindowsWmRelativeInputEvent(0, 0);  // the finger is put down
   EXPECT_EQ(0, Of([] { OnWindowsWmRelativeInputEvent(1, 1); }));
   EXPECT_EQ(1, lines);
 }
 
-// Its commands were read the first time.
+// Its commands were parsed the first time.
 TEST_F(Allocations, AMacroThatIsPlayedAgainTakesNone) {
   auto* macro = Add<MacroConfigItem>("Macro", "W");
   for (int i = 0; i < 50; ++i)

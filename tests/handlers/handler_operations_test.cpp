@@ -1,4 +1,4 @@
-// The handlers by themselves, without the routes that choose among them.
+// The handlers by themselves, without the routing.
 #include <QKeyEvent>
 #include <QMouseEvent>
 

@@ -131,7 +131,7 @@ TEST_F(Gamepad, AllCombinationsAreTried) {
   Press("Y");
   Press("X");
   EXPECT_TRUE(Press("B"));
-  EXPECT_WIRE(Down(11, 384), Down(12, 512));  // in the order of holding
+  EXPECT_WIRE(Down(11, 384), Down(12, 512));  // in the order of the presses
 }
 
 TEST_F(Gamepad, AButtonDoesNotCombineWithItself) {
@@ -146,7 +146,7 @@ TEST_F(Gamepad, AReleasedButtonCombinesNoMore) {
   Tap("A+B", 384);
   LoadJoystick();
   Press("A");
-  Press("A");  // held once all the same
+  Press("A");  // held only once
   Release("A");
   EXPECT_FALSE(Press("B"));
   EXPECT_WIRE_NONE();
@@ -248,7 +248,7 @@ TEST_F(Gamepad, ButtonsWorkSomeTypesOnly) {
       {"Spell", SpellEventSimulator::GetInstance()},
       {"Macro", MacroEventSimulator::GetInstance()},
       {"OperationRecorder", MacroEventSimulator::GetInstance()},
-      {"SpellCancel", nullptr},  // of a class that cannot say that it is immediate
+      {"SpellCancel", nullptr},  // of a class without the field "immediate"
       {"Swipehold", nullptr},
       {"RightWalk", nullptr},
       {"Staring", nullptr},
@@ -291,7 +291,7 @@ TEST_F(Gamepad, AFreshConfigLeavesWhatIsHeldAlone) {
   Press("A");
   LoadJoystick();
   EXPECT_WIRE_NONE();
-  EXPECT_FALSE(Release("A"));  // nothing answers to it now
+  EXPECT_FALSE(Release("A"));  // nothing matches it now
   EXPECT_WIRE_NONE();
   Tap("A", 128);
   LoadJoystick();
@@ -305,7 +305,7 @@ TEST_F(Gamepad, AReleaseThatNothingCanBeDoneWithStaysToBeDone) {
   LoadJoystick();
   Press("A");
   Forget();
-  Add<ConfigItem>("Swipehold", "Pad A");  // answers to the button, and buttons do not work it
+  Add<ConfigItem>("Swipehold", "Pad A");  // matches the button, but has no effect for buttons
   LoadJoystick();
   EXPECT_FALSE(Release("A"));
   EXPECT_CALLS("0ms mapped 0");
@@ -327,7 +327,7 @@ TEST_F(Gamepad, OneReleaseMayEndSomeAndLeaveOthers) {
   Press("B");
   Press("A");
   Press("B");
-  Add<ConfigItem>("Zoom", "Pad B");  // nothing to be done with
+  Add<ConfigItem>("Zoom", "Pad B");  // without any effect
   Tap("A+B", 384);
   LoadJoystick();
   EXPECT_TRUE(Release("B"));
@@ -379,7 +379,7 @@ TEST_F(Gamepad, AReleaseGoesToWhateverAnswersByThen) {
   Tap("A", 256);
   LoadJoystick();
   EXPECT_TRUE(Release("A"));
-  EXPECT_WIRE_NONE();  // no finger was put down at the new point
+  EXPECT_WIRE_NONE();  // no contact was pressed at the new point
 }
 
 TEST_F(Gamepad, WithoutConfigNothingAnswers) {
@@ -390,7 +390,7 @@ TEST_F(Gamepad, WithoutConfigNothingAnswers) {
   EXPECT_FALSE(Axis(1));
 }
 
-// The line of the first tap presses and releases further buttons, as a macro does.
+// The line of the first tap presses and releases further buttons, like a macro.
 void PressMoreButtons(const char* data, int length) {
   static bool is_first = true;
   if (!std::exchange(is_first, false)) return;

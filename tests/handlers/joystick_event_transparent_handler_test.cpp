@@ -29,7 +29,7 @@ class TransparentGamepad : public Story {
  protected:
   void SetUp() override { Load(); }  // an empty keymap, for display 1
 
-  // A gamepad's keymap that takes nothing and passes all on.
+  // A gamepad keymap without items that passes everything through.
   void LoadTransparent(int simulate_mode = 0) {
     Settings().joystick_transparent = true;
     Wheel().simulate_mode = simulate_mode;
@@ -54,7 +54,7 @@ class TransparentGamepad : public Story {
 
 // ---- Names and codes ----
 
-// Empty where a layout has no such button.
+// Empty if a layout has no such button.
 const struct ButtonRow {
   int code;
   const char* name_a;
@@ -313,7 +313,7 @@ TEST_F(TransparentGamepad, EachEventGoesToTheDisplayOfItsMoment) {
   Play("joy down A; joy axis 0 1,0");
   EXPECT_WIRE("0ms 1:GPDBUTTON:304:1", "0ms 1:LSTICKAXIS:1000000:0");
   Play("display 2");
-  EXPECT_EQ("", WithoutSweep(TakeWire()));  // what the gamepad holds is not let go
+  EXPECT_EQ("", WithoutSweep(TakeWire()));  // what the gamepad holds is not released
   Play("joy up A; joy axis 0 0,0");
   EXPECT_WIRE("0ms 2:GPDBUTTON:304:0", "0ms 2:LSTICKAXIS:0:0");
 }
@@ -334,7 +334,7 @@ TEST_F(TransparentGamepad, EventsOfOtherTypesAreLeftOver) {
   EXPECT_WIRE_NONE();
 }
 
-// A process that has no callbacks at all: nothing says where the middle is.
+// A process without any callbacks: the middle is unknown.
 TEST(TransparentGamepadWithoutHost, TheTouchpadIsTouchedAtAPlaceOfItsOwn) {
   static QStringList lines;
   SetInputEventSendFunc(reinterpret_cast<void*>(

@@ -25,7 +25,7 @@ TEST_F(Touch, EachPointIsAFingerWithALineOfItsOwn) {
 TEST_F(Touch, AnUpdateReleasesWhatItDoesNotHaveBeforeItPresses) {
   Play("touch begin 1:100,200 2:300,400");
   Forget();
-  // Point 1 is gone and leaves slot 18 to point 3.
+  // Point 1 is removed and leaves slot 18 to point 3.
   Play("touch update 2:301,401 3:500,600");
   EXPECT_WIRE("0ms 1:SLOTMULTIRELEASE:18", "0ms 1:SLOTMULTIPRESS:19:19:301:401", "0ms 1:SLOTMULTIPRESS:18:18:500:600");
 }
@@ -78,7 +78,7 @@ TEST_F(Touch, AGestureWithoutEndKeepsItsSlotsAndIsForgotten) {
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:100:200", "0ms 1:SLOTMULTIPRESS:19:19:300:400");
   Play("touch end");
   EXPECT_WIRE("0ms 1:SLOTMULTIRELEASE:19");
-  Play("touch begin 2:50,60 1:100,200");  // the old place still has its slot
+  Play("touch begin 2:50,60 1:100,200");  // the old point still has its slot
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:19:19:50:60", "0ms 1:SLOTMULTIPRESS:18:18:100:200");
 }
 
@@ -112,7 +112,7 @@ TEST_F(Touch, PositionsAreCutToWholePixelsAndTurnedWithTheGuest) {
 TEST_F(Touch, AWindowWithoutSizeHasNoPlaceToTouch) {
   Play("window 0x0; touch begin 1:100,200");
   EXPECT_WIRE_NONE();
-  Play("window 1280x720; touch update 1:101,201; touch end");  // the point was known all the same
+  Play("window 1280x720; touch update 1:101,201; touch end");  // the point was recorded all the same
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:101:201", "0ms 1:SLOTMULTIRELEASE:18");
 }
 

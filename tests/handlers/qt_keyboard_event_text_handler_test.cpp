@@ -45,7 +45,7 @@ TEST_F(TextField, EnterAndBackspaceAreControls) {
   EXPECT_WIRE("0ms text TEXT_CONTROL:ENTER", "0ms text TEXT_CONTROL:BACKSPACE");
 }
 
-// Keys that move or control, with their guest codes.
+// Navigation and control keys, with their guest codes.
 TEST_F(TextField, OtherControlKeysAreClicks) {
   const struct {
     const char* key;

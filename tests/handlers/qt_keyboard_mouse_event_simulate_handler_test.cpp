@@ -262,7 +262,7 @@ TEST_F(SimulateHandler, ATipAnswersToNothing) {
   EXPECT_WIRE_NONE();
 }
 
-// An item with matching of its own, as a keymap library may bring: the handler skips tips by class all the same.
+// An item with its own matching, as a keymap library may define: the handler skips tips by class all the same.
 struct GreedyTip : TipConfigItem {
   bool IsKeyMatch(const tavikeymapmanager::ConfigKey&) const override { return true; }
   bool IsChordMatch(const tavikeymapmanager::ConfigKey&, const tavikeymapmanager::ConfigKey&) const override {
@@ -289,7 +289,7 @@ TEST_F(SimulateHandler, AHeldBackIsReleasedByAReset) {
   Load();
   Play("down Esc; reset");
   EXPECT_EQ("0ms 1:KBDRL:158:0", TakeWire().last().toStdString());
-  Play("up Esc; reset");  // released in the ordinary way: nothing is left
+  Play("up Esc; reset");  // released normally: nothing is left
   EXPECT_EQ("0ms 1:SLOTRELEASE:10", TakeWire().last().toStdString());
 }
 
@@ -340,12 +340,12 @@ TEST_F(SimulateHandler, TellsWhetherEscapeIsTaken) {
   AddChord("Esc", "E", {0.5, 0.5});
   Load();
   Forget();
-  // An unmapped key is armed: Escape and then W make no item, but nor do W and then Escape.
+  // An unmapped key is armed: neither Escape and then W, nor W and then Escape match an item.
   Play("down W");
   EXPECT_CALLS("0ms escape_occupied 0");
   Play("up W");
   EXPECT_CALLS("0ms escape_occupied 0");
-  Play("down E");  // armed E: the chord of Escape and E answers
+  Play("down E");  // armed E: the chord of Escape and E matches
   EXPECT_CALLS("0ms escape_occupied 1");
   Play("up E");
   EXPECT_CALLS("0ms escape_occupied 0");
@@ -439,7 +439,7 @@ TEST_F(SimulateHandler, WhileStaringALeftPressIsRememberedAndMakesNoTouch) {
   SetStatus(InputStatus::Staring);
   Play("wait 5; mouse down left 100,200");
   EXPECT_WIRE_NONE();
-  Play("move 110,210");  // a move of a button that is held
+  Play("move 110,210");  // a move with a held button
   EXPECT_WIRE("5ms 1:SLOTPRESS:1:1:1:1:110:210");
   Play("mouse up left 110,210");
   EXPECT_WIRE_NONE();

@@ -47,11 +47,11 @@ TEST_F(Wheel, AMappedNotchIsATapOf50MsThatBlocks) {
   Play("wheel +120 10,10; wheel -120 10,10");
   EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:640:360", "50ms 1:SLOTRELEASE:11", "50ms 1:SLOTPRESS:11:11:1:1:320:360",
               "100ms 1:SLOTRELEASE:11");
-  EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not told
+  EXPECT_CALLS_NONE();  // unlike keys, a wheel's match is not reported
 }
 
-// 40 taps a second are a change each 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
-// thread sleeps over all of it.
+// 40 taps per second are a change every 12 ms: down at 0, 24 and 48, up at 12, 36 and with the end of the run. The main
+// thread sleeps during all of it.
 TEST_F(Wheel, ARapidTapTapsOnDuringItsNotch) {
   auto* bunch = Add<tavikeymapmanager::BunchClickConfigItem>("BunchClick", "Wheel Up", {0.5, 0.5});
   bunch->bunch_mode = "Continue";
@@ -78,7 +78,7 @@ TEST_F(Wheel, APinchBeginsWithItsNotch) {
               "60ms 1:SLOTMULTIPRESS:18:18:1011:360:19:19:269:360", "60ms 1:SLOTMULTIRELEASE:19:18");
 }
 
-// A macro starts the run and turns the wheel in one go, so that the notch's 50 ms pass before anything is delivered.
+// A macro starts the run and turns the wheel in one call, so that the notch's 50 ms pass before anything is delivered.
 // The curve's points are due 8, 16 and 24 ms after its start: (0.25 + 0.125) * 1280 = 480.
 TEST_F(Wheel, ACurveIsFollowedDuringANotch) {
   auto* curve = Add<tavikeymapmanager::CurveConfigItem>("Curve", "W", {0.25, 0.5});
@@ -178,7 +178,7 @@ TEST_F(Wheel, AnAppOfTheSystemHasAKeymap) {
   EXPECT_WIRE("0ms 1:SLOTPRESS:10:10:1:1:640:360");
 }
 
-// No load leads here, so the status is told by hand. The third field is the place once more, with the turn's sign.
+// No load leads to this status, so the test sets it. The third field is the position again, with the wheel's sign.
 TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   LoadNothing("com.example");
   const tavikeymapmanager::KeymapConfig none;
@@ -192,7 +192,7 @@ TEST_F(Wheel, AnAppOfTheSystemWithoutKeymapGetsAPlainTurn) {
   EXPECT_TRUE(TakeWire().value(0).contains("SLOTMULTIPRESS"));
 }
 
-// The greatest int stands for no place: one on the far edge of a surface that wide has none.
+// The largest int means no position: a point on the far edge of a surface of that width has none.
 TEST_F(Wheel, APlainTurnWithoutAPlaceSaysNothing) {
   const int most = std::numeric_limits<int>::max();
   const struct {
@@ -224,10 +224,10 @@ TEST_F(Wheel, MovesAreSwallowedWhileItsGestureRuns) {
 TEST_F(Wheel, ASwallowedMoveStillCountsForTheNext) {
   Settings().mouse_mode = "Mouse_OtherButton_Transparent";
   Load();
-  // The swipe of a turn ends 21 ticks of 8 ms behind it: at 173 ms, where no timer runs any more.
+  // The swipe of a wheel movement ends 21 ticks of 8 ms later: at 173 ms, when no timer is running anymore.
   Play("wait 5; wheel +120 640,360; wait 167; move 100,100; wait 1");
   Forget();
-  Play("move 100,100");  // 1 ms behind a swallowed one
+  Play("move 100,100");  // 1 ms after a swallowed one
   EXPECT_WIRE_NONE();
 }
 

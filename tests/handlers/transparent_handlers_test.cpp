@@ -20,7 +20,7 @@ class Transparent : public Story {
   static void Relative(int dx, int dy, int interval_ms, double factor) {
     QtMouseEventTransparentHandler::GetInstance()->OnRelativeInput(dx, dy, interval_ms, factor);
   }
-  // Where the pointer is after a movement from a place.
+  // The pointer's position after a movement from another.
   static QPoint Moved(int x, int y, double dx, double dy) {
     MouseTransparentManager* pointer = MouseTransparentManager::GetInstance();
     pointer->SetPosition(x, y);

@@ -1,4 +1,4 @@
-// Keys that play a gamepad: from the key to the guest's gamepad.
+// Keys that operate a gamepad: from the key to the guest's gamepad.
 #include "core/input_status_manager.h"
 #include "handlers/joystick_event_transparent_handler.h"
 #include "keymap/tavikeymapmanager.h"
@@ -51,7 +51,7 @@ class VirtualGamepad : public Story {
   void AddShift(const QString& key, double factor) {
     Add<VirtualStickLeftShiftButtonConfigItem>("VirtualLeftStickShiftButton", key)->factor = factor;
   }
-  // The next load, without forgetting what it says.
+  // The next load, without clearing its timeline.
   void LoadAgain(bool virtual_joystick) {
     auto* config = new KeymapConfig;
     config->wheel_settings = new tavikeymapmanager::WheelSettings;
@@ -177,7 +177,7 @@ TEST_F(VirtualGamepad, TwoItemsOfOneStickShareItsKeys) {
   Load();
   Play("down W; wait 32");
   EXPECT_WIRE("32ms 1:LSTICKAXIS:0:-1000000");
-  Play("down L; wait 32");  // the second item goes on from the first one's walk
+  Play("down L; wait 32");  // the second item continues the first one's walk
   EXPECT_EQ("64ms 1:LSTICKAXIS:710937:-710937", TakeWire().last().toStdString());
   Play("up I; wait 32");  // the up of either
   EXPECT_EQ("96ms 1:LSTICKAXIS:1000000:0", TakeWire().last().toStdString());
@@ -288,7 +288,7 @@ TEST_F(VirtualGamepad, TheShiftButtonScalesWhatComesWhileItIsHeld) {
   EXPECT_WIRE("112ms 1:LSTICKAXIS:0:0", "112ms 1:LSTICKAXIS:0:0");
 }
 
-// In a slide the present target counts, not where the stick has come to.
+// During a slide the current target counts, not the position of the stick.
 TEST_F(VirtualGamepad, TheShiftButtonInASlideGoesByTheTarget) {
   AddLeft();
   AddShift("Left Shift", 0.5);
@@ -343,7 +343,7 @@ TEST_F(VirtualGamepad, ALoadWithoutTheSettingDisconnectsAndSaysNothingOfIt) {
   EXPECT_WIRE_NONE();
 }
 
-// No reset visits the sticks, so that a held one stays held through a load.
+// No reset affects the sticks, so a held one stays held through a load.
 TEST_F(VirtualGamepad, AStickThatIsHeldThroughALoadCounts) {
   AddLeft();
   AddRight();

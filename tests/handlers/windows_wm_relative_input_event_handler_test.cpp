@@ -6,7 +6,7 @@
 namespace taviinputmanager {
 namespace {
 
-// The pointer stands at (100, 200) in every story, put there by the host.
+// In every story the host has put the pointer at (100, 200).
 class RelativeInput : public ViewStory {
  protected:
   void PlacePointer() {
@@ -69,7 +69,7 @@ TEST_F(RelativeInput, TheKeymapsIntervalAndFactorAreThePointersAlone) {
   PlacePointer();
   Wait(50);
   Play("rel 5,5; wait 49; rel 5,5; wait 1; rel 5,5");
-  // 100 + 2 * 5 at once; the second is only summed up; 110 + 2 * 10 at the end of the interval.
+  // 100 + 2 * 5 at once; the second is only added up; 110 + 2 * 10 at the end of the interval.
   EXPECT_WIRE("50ms 1:MOUSEMOVE_REL:110:210", "100ms 1:MOUSEMOVE_REL:130:230");
   Play("down F");
   Forget();

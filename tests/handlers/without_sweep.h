@@ -1,4 +1,4 @@
-// What a gamepad's tests look for in the lines of a reset.
+// The lines of a reset that matter to tests of gamepads.
 #ifndef TESTS_HANDLERS_WITHOUT_SWEEP_H_
 #define TESTS_HANDLERS_WITHOUT_SWEEP_H_
 
@@ -9,7 +9,7 @@
 
 namespace taviinputmanager {
 
-// The lines, joined, without those that lift touch slots.
+// The lines, joined, without those that release touch slots.
 inline std::string WithoutSweep(QStringList wire) {
   const auto lifts = [](const QString& line) { return line.contains(QLatin1String(":SLOTRELEASE")); };
   wire.erase(std::remove_if(wire.begin(), wire.end(), lifts), wire.end());

@@ -41,10 +41,10 @@ ConfigItem* WalkChord(const QList<ConfigItem*>& items, const ConfigKey& armed, c
 
 // ---- Items with a matching of their own ----
 
-// What was asked of them, in order.
+// The calls, in order.
 std::vector<std::string> asked;
 
-// Answers to even scan codes alone, and to chords that end in one.
+// Matches only even scan codes, and chords that end with one.
 struct EvenItem : ComposableConfigItem {
   bool IsKeyMatch(const ConfigKey& pressed) const override {
     asked.push_back(type.toStdString() + " alone");
@@ -137,7 +137,7 @@ TEST_F(Index, AStrangerKeepsItsPlaceAndIsAskedEachTime) {
   ConfigItem* behind = AddOn<ConfigItem>(KeyboardKey(5));
   index_.Follow(items_);
   EXPECT_EQ(before, index_.FindAlone(KeyboardKey(2)));
-  EXPECT_TRUE(asked.empty());  // it stands behind
+  EXPECT_TRUE(asked.empty());  // it comes after
   EXPECT_EQ(stranger, index_.FindAlone(KeyboardKey(4)));
   EXPECT_EQ(behind, index_.FindAlone(KeyboardKey(5)));
   EXPECT_EQ((std::vector<std::string>{"stranger alone", "stranger alone"}), asked);
@@ -176,7 +176,7 @@ TEST_F(Index, FollowsAListThatHasChanged) {
   EXPECT_EQ(nullptr, index_.FindAlone(KeyboardKey(18)));
 }
 
-// Keymaps at random, with few keys, so that items get into each other's way.
+// Random keymaps with few keys, so that items conflict.
 TEST_F(Index, AnswersAsAWalkOverTheListWould) {
   std::mt19937 random(1);
   const auto draw = [&random](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };

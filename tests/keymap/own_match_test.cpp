@@ -1,4 +1,4 @@
-// What items answer to by themselves, asked without an index.
+// The matching of the items themselves, without an index.
 #include <gtest/gtest.h>
 
 #include "keymap/tavikeymapmanager.h"

@@ -1,5 +1,4 @@
-// Every file of tests/data/keymaps says at its top what the reader must say of it: "# expect line:column message"
-// lines.
+// Every file in tests/data/keymaps begins with the reader's expected diagnostics: "# expect line:column message" lines.
 #include <QDir>
 #include <QFile>
 

@@ -81,14 +81,13 @@ TEST(Diagnostics, AnEntryOfAMatrixIsTold) {
 }
 
 TEST(Diagnostics, AFieldWrittenTwiceIsAnError) {
-  EXPECT_EQ("3:1 error: 'name' is written a second time", Said(Read("format: 1\nname: A\nname: B\n")));
-  EXPECT_EQ("3:25 error: 'key' is written a second time",
-            Said(ReadItems("- {type: Click, key: A, key: B, point: [0.5, 0.5]}\n")));
-  EXPECT_EQ("1:22 error: 'name' is written a second time", Said(Read("{format: 1, name: A, \"name\": B}\n")));
+  EXPECT_EQ("3:1 error: 'name' occurs twice", Said(Read("format: 1\nname: A\nname: B\n")));
+  EXPECT_EQ("3:25 error: 'key' occurs twice", Said(ReadItems("- {type: Click, key: A, key: B, point: [0.5, 0.5]}\n")));
+  EXPECT_EQ("1:22 error: 'name' occurs twice", Said(Read("{format: 1, name: A, \"name\": B}\n")));
 }
 
 TEST(Diagnostics, AnItemOfNoTypeIsToldOnce) {
-  EXPECT_EQ("3:3 error: an item without 'type'", Said(ReadItems("- {key: no such key, pont: 1}\n")));
+  EXPECT_EQ("3:3 error: the item has no 'type'", Said(ReadItems("- {key: no such key, pont: 1}\n")));
 }
 
 TEST(Diagnostics, MessagesHaveOneLine) {
@@ -106,7 +105,7 @@ TEST(Diagnostics, LongTextsAreCutShort) {
 TEST(Diagnostics, AHopelessFileHasAnEnd) {
   const LoadResult result = ReadItems(QByteArray("- x\n").repeated(200000));
   ASSERT_EQ(1001, result.diagnostics.size());
-  EXPECT_EQ("a thousand are told; any others are left out", result.diagnostics.last().message.toStdString());
+  EXPECT_EQ("only the first thousand are shown", result.diagnostics.last().message.toStdString());
   EXPECT_TRUE(result.HasErrors());
 }
 

@@ -1,4 +1,4 @@
-// Rules that every field of a kind follows, tried on all of them: the schema says which there are.
+// The rules for all fields of a kind, tested on each of them: the schema lists the fields.
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,7 +23,7 @@ QByteArray SampleOf(const QString& field) {
   return "[]";  // commands
 }
 
-// A keymap in which one record writes `field`, and what else it must.
+// A keymap in which one record contains `field`, and its other required fields.
 QByteArray KeymapWith(const QString& record, const QJsonObject& schema, const QString& field, const QByteArray& value) {
   QByteArrayList fields{field.toUtf8() + ": " + value};
   for (const QJsonValue& required : schema.value(QStringLiteral("required")).toArray()) {
@@ -51,7 +51,7 @@ QByteArray KeymapWith(const QString& record, const QJsonObject& schema, const QS
 
 bool IsAccepted(const QByteArray& text) { return !Read(text).HasErrors(); }
 
-// Calls `check(record, schema of the record, field, schema of the field)` for every field there is.
+// Calls `check(record, schema of the record, field, schema of the field)` for every field.
 template <typename Check>
 int ForEveryField(const Check& check) {
   int count = 0;

@@ -1,4 +1,4 @@
-// What an error says beyond "unknown": the name that was meant, the place where a field belongs, the decimal point.
+// What an error says in addition to "unknown": the intended name, where a field belongs, the decimal point.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -23,7 +23,7 @@ TEST(Hints, NamesOfKeysThatPeopleKnowFromElsewhere) {
   }
 }
 
-// Near by its letters, and another key all the same.
+// Similar letters, but another key.
 TEST(Hints, AKeyThatMeansSomethingElseIsNotOffered) {
   for (const char* word : {"F25", "Numpad 10", "Mouse Up", "Page Left", "Scroll Left", "Mouse Side 99"}) {
     EXPECT_EQ("", NearestKeyName(QString::fromUtf8(word)).toStdString()) << word;
@@ -49,11 +49,12 @@ TEST(Hints, AFieldThatBelongsElsewhereIsSentThere) {
 
 TEST(Hints, ADecimalCommaIsToldAsSuch) {
   EXPECT_EQ(
-      "3:32 error: 'point': expected [x, y], both from 0 to 1, got four numbers; the decimal sign is a point: "
+      "3:32 error: 'point': expected [x, y], both from 0 to 1, got four numbers; the decimal separator is a point: "
       "[0.5, 0.25]",
       Said(ReadItems("- {key: A, type: Click, point: [0,5, 0,25]}\n")));
   EXPECT_EQ(
-      "3:32 error: 'point': expected [x, y], both from 0 to 1, got three numbers; the decimal sign is a point: 0.5",
+      "3:32 error: 'point': expected [x, y], both from 0 to 1, got three numbers; the decimal separator is a point: "
+      "0.5",
       Said(ReadItems("- {key: A, type: Click, point: [0,5, 1]}\n")));
   EXPECT_EQ(
       "4:10 error: 'walk_radius': expected a number from 0.001 to 1, got the text '0,1'; the decimal sign is a "

@@ -12,7 +12,7 @@ const QByteArray kSpell =
 
 class InnerSwipehold : public testing::Test {
  protected:
-  // What the input layer is handed for the spell in the last item.
+  // The input layer's record for the spell in the last item.
   std::unique_ptr<SwipeholdConfigItem> Inner(const QByteArray& items) {
     const LoadResult result = ReadItems(items);
     EXPECT_EQ("", Said(result));

@@ -1,4 +1,4 @@
-// Every class and every field of the contract can be written: each is given a value of its own and looked up again.
+// Every class and every field of the contract can be read: each gets a value of its own, which is then checked.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {

@@ -67,7 +67,7 @@ const KeyboardRow kKeyboardRows[] = {
     {"F12", 88, 0x7B},
     {"F24", 118, 0x87},
     {"Up", 328, 0x26},
-    {"Numpad 8", 72, 0x68},  // the same place without the extended bit
+    {"Numpad 8", 72, 0x68},  // the same position without the extended bit
     {"Pause", 69, 0x13},
     {"Num Lock", 325, 0x90},
     {"Numpad Divide", 309, 0x6F},

@@ -106,7 +106,7 @@ TEST(CreateConfigKey, KeepsItsArguments) {
   EXPECT_EQ(17, key.scancode);
 }
 
-// The wheel handler makes its keys so: no virtual key is known.
+// The wheel handler creates its keys like this: the virtual key is unknown.
 TEST(CreateConfigKey, AWheelDirectionIsKnownByItsCodeAlone) {
   const ConfigKey up = CreateConfigKey(QStringLiteral("mouse"), -1, 548);
   EXPECT_EQ("Wheel Up", up.text.toStdString());
@@ -154,7 +154,7 @@ TEST(SetTextForConfigKey, IgnoresNull) { SetTextForConfigKey(nullptr); }
 
 class IsConfigKeyMatch : public testing::Test {
  protected:
-  // Whether the keymap answers to `configured` alone, or before `pressed`.
+  // Whether the keymap matches `configured` alone, or followed by `pressed`.
   bool Match(const QByteArray& items, const char* configured, const char* pressed = "") {
     const LoadResult result = ReadItems(items);
     EXPECT_FALSE(result.HasErrors()) << Said(result);

@@ -1,4 +1,4 @@
-// Words for tests of keymap files: what is written, what is read, what is said.
+// Helpers for tests of keymap files: the text, the result, the diagnostics.
 #ifndef TESTS_KEYMAPMANAGER_KEYMAP_TEXT_H_
 #define TESTS_KEYMAPMANAGER_KEYMAP_TEXT_H_
 
@@ -16,10 +16,10 @@ namespace tavikeymapmanager {
 
 inline LoadResult Read(const QByteArray& text) { return ReadKeymapText(text, QStringLiteral("test.yaml")); }
 
-// The items of a keymap, one "- {...}" a line; they begin at line 3.
+// The items of a keymap, one "- {...}" per line; they begin on line 3.
 inline LoadResult ReadItems(const QByteArray& items) { return Read("format: 1\nitems:\n" + items); }
 
-// All that is said, as "line:column severity: message" lines.
+// All diagnostics, as "line:column severity: message" lines.
 inline std::string Said(const LoadResult& result) {
   QStringList lines;
   for (const Diagnostic& diagnostic : result.diagnostics) {
@@ -30,12 +30,12 @@ inline std::string Said(const LoadResult& result) {
   return lines.join(QLatin1Char('\n')).toStdString();
 }
 
-// A keymap of one item that is read without a word.
+// A keymap with one item and without diagnostics.
 class OneItem {
  public:
   explicit OneItem(const QByteArray& item) : result_(ReadItems("- {" + item + "}\n")) { EXPECT_EQ("", Said(result_)); }
 
-  // A copy of the item as the class that it must be, or a failure.
+  // A copy of the item as its expected class, or a failure.
   template <typename Item>
   Item As() const {
     if (result_.config->items.size() != 1) return {};
@@ -50,7 +50,7 @@ class OneItem {
 
 inline ConfigKey KeyOf(const char* name) { return KeyFromName(QString::fromUtf8(name)).value_or(ConfigKey()); }
 
-// Keys are compared as their names, which says more in a failure.
+// Keys are compared by their names, so that a failure is easier to read.
 inline std::string NameOf(const ConfigKey& key) { return NameOfKey(key).toStdString(); }
 
 }  // namespace tavikeymapmanager

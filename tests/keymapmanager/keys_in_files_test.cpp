@@ -17,13 +17,13 @@ TEST(KeysInFiles, AKeyIsWrittenByItsName) {
   EXPECT_EQ("Numpad Enter", ClickKey("Numpad Enter"));
   EXPECT_EQ("Escape", ClickKey("Esc"));
   EXPECT_EQ("Grave", ClickKey("\"`\""));
-  EXPECT_EQ("Y", ClickKey("Y"));  // no truth value in YAML 1.2
+  EXPECT_EQ("Y", ClickKey("Y"));  // not a boolean in YAML 1.2
 }
 
 TEST(KeysInFiles, EveryNameCanBeWritten) {
   for (const QString& name : AllKeyNames()) {
     const bool is_stick = name.endsWith(QStringLiteral("_Stick"));
-    const bool is_left = name == QStringLiteral("Mouse Left");  // starts no click, but can be written
+    const bool is_left = name == QStringLiteral("Mouse Left");  // cannot start a click, but is a valid key
     if (is_stick || is_left) continue;
     EXPECT_EQ(name.toStdString(), ClickKey(name.toUtf8()));
   }
@@ -56,7 +56,7 @@ TEST(KeysInFiles, AGamepadsKeyMayHaveAnyNameOfTheHosts) {
 
 TEST(KeysInFiles, AnUnusualNameOfAGamepadIsMentioned) {
   EXPECT_EQ(
-      "3:11 warning: no gamepad has a button 'LBB' as a rule; did you mean 'LB'?; {pad: LBB} names it all the same",
+      "3:11 warning: 'LBB' is not a usual gamepad button; did you mean 'LB'?; {pad: LBB} is accepted without a warning",
       Said(ReadItems("- {  key: Pad LBB, type: Click, point: [0.5, 0.5]}\n")));
 }
 

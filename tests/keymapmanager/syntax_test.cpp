@@ -1,4 +1,4 @@
-// Files that are broken before their content can be looked at: one error, at its place, and nothing else.
+// Files whose syntax is invalid: one error, with its position, and nothing else.
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -22,11 +22,11 @@ const Row kRows[] = {
     {"tag of a list", "items: !list []\n", "1:8 error: a tag; tags are not used in keymaps"},
     {"tag of fields", "wheel: !w {}\n", "1:8 error: a tag; tags are not used in keymaps"},
     {"second document", "format: 1\n---\nformat: 1\n",
-     "2:1 error: a second document begins here; a keymap file holds one"},
+     "2:1 error: a second document begins here; a keymap file contains only one"},
     {"field named by a list", "[a]: 1\n", "1:1 error: expected the name of a field"},
     {"field named by fields", "{a: 1}: 1\n", "1:1 error: expected the name of a field"},
     {"text with a colon", "name: Race: two\n",
-     "1:11 error: mapping values are not allowed in this context (a text that holds ': ' needs quotes)"},
+     "1:11 error: mapping values are not allowed in this context (a text that contains ': ' needs quotes)"},
     {"list without its end", "items: [1, 2\nname: x\n", nullptr},
     {"braces without their end", "items: {a: 1\n", nullptr},
     {"fields at two columns", "format: 1\n  name: x\n", nullptr},
@@ -48,12 +48,12 @@ TEST(Syntax, HidesTheErrorsOfTheContent) {
   EXPECT_EQ("3:7 error: a quote that is never closed", Said(Read("format: 2\nunknown: 1\nname: 'Race\n")));
 }
 
-// A list of so many lists in each other, beside one of "items" itself, which is the second level.
+// This many nested lists, beside the list "items", which is the second level.
 QByteArray Nested(int depth) { return "items: " + QByteArray(depth, '[') + QByteArray(depth, ']') + "\n"; }
 
 TEST(Syntax, NestsSixtyFourLevelsDeep) {
   EXPECT_EQ(
-      "1:1 error: a keymap without 'format: 1'\n"
+      "1:1 error: the keymap has no 'format: 1'\n"
       "1:9 error: expected the fields of an item, got a list",
       Said(Read(Nested(63))));
   // The fields of the file are the first level, so that the 64th bracket is one too many: column 7 + 64.
@@ -71,7 +71,7 @@ TEST(Syntax, DeepBlocksAreRefusedToo) {
 }
 
 TEST(Syntax, BytesThatAreNoTextAreRefusedWhereTheyStand) {
-  // Two characters of two bytes each stand in front: the broken byte is the 11th character of its line.
+  // Two characters of two bytes each precede it: the invalid byte is the 11th character of its line.
   EXPECT_EQ("2:11 error: invalid leading UTF-8 octet", Said(Read("format: 1\nname: \xc3\xa9t\xc3\xa9 \xff\n")));
   EXPECT_EQ(1, Read(QByteArray("format: 1\nname: a\0b\n", 20)).diagnostics.size());
 }

@@ -1,4 +1,4 @@
-// A host that loads the library by hand, as a plugin, and lets go of it before the program ends.
+// A host that loads the library dynamically, as a plugin, and unloads it before the program ends.
 #include <algorithm>
 #include <csignal>
 #include <dlfcn.h>
@@ -14,7 +14,7 @@
 #include "keymap/keymap_functions.h"
 #include "taviinputmanager/callbacks.h"
 
-// The host's own, in front of the keymap library's: keys that no item takes reach the guest.
+// The host's own, which overrides the keymap library's: unmapped keys reach the guest.
 tavikeymapmanager::KeymapConfig* tavikeymapmanager::LoadKeymapConfigAndInfo(const QString& /*path*/) {
   auto* config = new KeymapConfig;
   config->settings = new KeymapSettings;
@@ -46,7 +46,7 @@ InputManagerCallbacks* Callbacks() {
   return &callbacks;
 }
 
-// The library, loaded by its file, and functions of it by the names that the linker has for them.
+// The library, loaded from its file, and its functions by their linker names.
 class Library {
  public:
   Library() : handle_(dlopen(TAVI_LIBRARY, RTLD_NOW | RTLD_LOCAL)) { EXPECT_NE(handle_, nullptr) << dlerror(); }
@@ -80,7 +80,7 @@ class Library {
 void StartUp(const Library& library) {
   library.SetSendFunc(Send);
   library.Initialize(Callbacks());
-  Lines().clear();  // what its first load says
+  Lines().clear();  // the lines of its first load
 }
 
 std::vector<int> BlockedSignals() {
@@ -110,7 +110,7 @@ TEST(LibraryLoading, AsksTheHostsOwnLoader) {
   EXPECT_EQ(Lines(), (std::vector<std::string>{"0:KBDPR:33:1\n", "0:KBDRL:33:0\n"}));
 }
 
-// The timer of the back key fires, and the application is taken down, when the host has no handle any more.
+// The timer of the back key fires, and the application is destroyed, after the host has closed its handle.
 TEST(LibraryLoading, StaysWhenItIsClosed) {
   int argc = 0;
   const QGuiApplication application(argc, nullptr);
@@ -124,8 +124,7 @@ TEST(LibraryLoading, StaysWhenItIsClosed) {
   EXPECT_EQ(Lines(), (std::vector<std::string>{"1:KBDPR:158:1\n", "1:KBDRL:158:0\n"}));
 }
 
-// Poco blocks SIGPIPE while it is loaded. What the header tells of it is all there is, and the way back that it names
-// is one.
+// Loading Poco blocks SIGPIPE. The header documents everything about it, including how to undo it.
 TEST(LibraryLoading, BlocksSigpipeOnTheLoadingThreadAndNothingElse) {
   Unblock(SIGPIPE);
   const std::vector<int> before = BlockedSignals();

@@ -1,4 +1,4 @@
-// The same on each Qt.
+// The same behaviour with each Qt.
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -63,7 +63,7 @@ TEST_F(Events, ATouchEventHasThePointsThatItWasMadeOf) {
 
 TEST(LastingText, IsACopyThatAllItsCopiesShare) {
   QString source = QStringLiteral("Scan %1").arg(200);
-  static const QString lasting = qt::Lasting(source);  // never freed, and so never to be lost sight of
+  static const QString lasting = qt::Lasting(source);  // never freed, and so it must stay reachable
   EXPECT_NE(lasting.constData(), source.constData());
   source.fill(QLatin1Char('x'));
   const QString copy = lasting;

@@ -1,4 +1,4 @@
-// A list of actions that grows as time passes: what it costs.
+// A list of actions with their times: its cost.
 #include "record/action_track.h"
 
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 namespace taviinputmanager {
 namespace {
 
-// A text of its own, as each that comes from a line.
+// A text of its own, like one that comes from a line.
 QString Own(const char* text) { return QString::fromLatin1(text); }
 
 TEST(ActionTrack, EqualShortTextsAreOne) {
@@ -22,7 +22,7 @@ TEST(ActionTrack, EqualShortTextsAreOne) {
   EXPECT_EQ("release", actions.at(1)->data.toStdString());
 }
 
-// Whose letters at the places that are looked at are the same.
+// With equal letters in the indexed positions.
 TEST(ActionTrack, TextsThatAreAlikeStayApart) {
   ActionTrack track;
   const QStringList texts{"abcde", "aXcde", "abcXe", "abcde"};

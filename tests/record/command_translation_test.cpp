@@ -1,4 +1,4 @@
-// Guest lines to actions.
+// Converts guest lines to actions.
 #include "record/command_translation.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ std::string TextOf(const QString& command) {
   return Action(translated, action);
 }
 
-// On the display of 1280 x 720 that is taken while none is known.
+// On the default display of 1280 x 720.
 TEST(CommandTranslation, EveryEventLine) {
   const struct {
     const char* name;
@@ -41,13 +41,13 @@ TEST(CommandTranslation, EveryEventLine) {
        "touch|press_rel:(0.25,0.75)|25|"},
       {"press: outside", "SLOTPRESS:2:2:1:1:-128:1440", "touch|press_rel:(-0.1,2)|2|"},
       {"press: six digits", "SLOTPRESS:2:2:1:1:1:1", "touch|press_rel:(0.00078125,0.00138889)|2|"},
-      {"press: a slot goes through an int", "SLOTPRESS:+07:2:1:1:0:0", "touch|press_rel:(0,0)|7|"},
+      {"press: a slot is converted to an int", "SLOTPRESS:+07:2:1:1:0:0", "touch|press_rel:(0,0)|7|"},
       {"press: a slot that is no number is 0", "SLOTPRESS:x:2:1:1:0:0", "touch|press_rel:(0,0)|0|"},
       {"press: coordinates with fractions are no ints", "SLOTPRESS:2:2:1:1:640.5:360", "touch|press_rel:(0,0.5)|2|"},
       {"press: empty parts count", "SLOTPRESS::::::", "touch|press_rel:(0,0)|0|"},
       {"press: 6 parts", "SLOTPRESS:2:2:1:1:640", "nothing"},
       {"press: 8 parts", "SLOTPRESS:2:2:1:1:640:360:0", "nothing"},
-      {"press: a part behind the last colon", "SLOTPRESS:2:2:1:1:640:360:", "nothing"},
+      {"press: a part after the last colon", "SLOTPRESS:2:2:1:1:640:360:", "nothing"},
       {"press: the word alone", "SLOTPRESS", "nothing"},
 
       {"release", "SLOTRELEASE:2", "touch|release|2|"},
@@ -113,7 +113,7 @@ TEST(CommandTranslation, EveryEventLine) {
   for (const auto& row : rows) EXPECT_EQ(row.action, Event(row.command)) << row.name;
 }
 
-// Of a line as guest_command puts it together, and of the text of it.
+// From a line of guest_command, and from its text.
 void ExpectSameAction(const LineBuffer& line) {
   RecordAction action;
   const bool is_translated = TranslateEventLine(line.WithoutEnd(), &action);
@@ -133,7 +133,7 @@ TEST(CommandTranslation, ALineAndItsTextAreTheSameAction) {
       ExpectSameAction(line);
     }
   }
-  // Numbers that are no ints are 0 to a record, but for those that look like one.
+  // Numbers that are not ints are 0 in a record, except those that look like one.
   for (const double number : {0.0, -0.0, 0.5, -1.5, 640.0, 123456.0, 1234567.0, 1e-7, 1e300}) {
     const QPointF place(number, 360);
     for (const LineBuffer& line : {gc::SlotPress(2, place), gc::MouseMove(place), gc::Wheel(place)}) {
@@ -146,7 +146,7 @@ TEST(CommandTranslation, ALineAndItsTextAreTheSameAction) {
   }
 }
 
-// Texts are shared, and so must tell what they are shared by: the word, either number, and their order.
+// Texts are shared, so they must be identified by everything: the word, either number, and their order.
 TEST(CommandTranslation, AShareOfATextIsTheSameText) {
   EXPECT_EQ("touch|press_rel:(0.5,0.25)|2|", Event("SLOTPRESS:2:2:1:1:640:180"));
   EXPECT_EQ("mouse|move:(0.5,0.25)||", Event("MOUSEMOVE_REL:640:180"));
@@ -198,7 +198,7 @@ TEST_F(DisplayTranslation, ADisplayWithoutSizeHasNoPoints) {
   EXPECT_EQ("touch|release|2|", Event("SLOTRELEASE:2"));
 }
 
-// One side is enough: of what is 0 wide there are no fractions, however high it is.
+// One side is enough: a display with a width of 0 has no fractions, whatever its height.
 TEST_F(DisplayTranslation, ADisplayOfOneSideHasNoPoints) {
   for (const QRect& display : {QRect(0, 0, 0, 720), QRect(0, 0, 1280, 0)}) {
     Host().display = display;

@@ -16,7 +16,7 @@
 namespace taviinputmanager {
 namespace {
 
-// No file can grow beyond `bytes` while this lives, as on a disk that is full.
+// While this exists, no file can grow beyond `bytes`, like on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {
@@ -31,7 +31,7 @@ class FullDisk {
   rlimit before_{};
 };
 
-// Somebody without special rights while this lives: nothing is forbidden to root.
+// While this exists, the process has no special rights: root may do anything.
 class PlainUser {
  public:
   PlainUser() {
@@ -100,7 +100,7 @@ TEST_F(FileReplacement, AFullDiskLeavesTheOldFile) {
   EXPECT_EQ("record", Names().join(' ').toStdString()) << "half a file beside it is removed";
 }
 
-// As a full disk does.
+// Like a full disk.
 TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
   const FileContent half = [](QIODevice* target) {
     target->write("half");
@@ -113,8 +113,8 @@ TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
   EXPECT_EQ("record", Names().join(' ').toStdString());
 }
 
-// It is read before the file is cut, also where no copy can be beside it: one would have a longer name, and no file
-// has.
+// It is read before the file is truncated, even if there can be no copy beside it, because its longer name is
+// impossible.
 TEST_F(FileReplacement, AContentMayBeMadeOfTheFileItself) {
   for (const QString& file : {Put("record", "before"), Put(QString(255, 'n'), "before")}) {
     EXPECT_TRUE(ReplaceFile(file, [&](QIODevice* target) {
@@ -133,7 +133,7 @@ TEST_F(FileReplacement, AFullDiskMakesNoHalfAFile) {
   EXPECT_EQ("", Names().join(' ').toStdString());
 }
 
-// The disk fills up when the copy is complete already.
+// The disk fills up after the copy is complete.
 TEST_F(FileReplacement, AFileThatTakesAPartOnlyIsReplacedByItsCopy) {
   const QString file = Put("record", "before");
   SetMode(file, 0640);
@@ -162,14 +162,14 @@ TEST_F(FileReplacement, AFileThatIsNotWholeAndCannotBeMovedAwayKeepsItsCopy) {
   while (Bytes(file) == "before") {
     if (!save.Step()) GTEST_SKIP() << "this system forbids that too";
   }
-  Put("record", "what is longer");  // by somebody else, before it is written
+  Put("record", "what is longer");  // by another program, before it is written
   EXPECT_TRUE(save.Finish());
   EXPECT_EQ("and afteronger", Bytes(file));
   ASSERT_EQ(2, Names().size());
   EXPECT_EQ("and after", Bytes(Path(Names().last())));
 }
 
-// A name that is like that of a copy, but is none.
+// A name that looks like that of a copy, but is none.
 TEST_F(FileReplacement, FilesOfOthersStay) {
   const QString file = Put("record", "before");
   for (const char* name : {"record.tavi-copy", "record.tavi-copy-", "record.tavi-copy-abcde",
@@ -238,7 +238,7 @@ TEST_F(FileReplacement, WhereNoFileCanBeMadeBesideItIsWrittenInPlace) {
   EXPECT_EQ("after", Bytes(file));
 }
 
-// One beside it would have a longer name, and no file has.
+// A copy beside it would have a longer name, which is impossible.
 TEST_F(FileReplacement, AFileOfTheLongestNameIsWrittenInPlace) {
   const QString file = Path(QString(255, 'n'));
   EXPECT_TRUE(ReplaceFile(file, "first"));
@@ -248,7 +248,7 @@ TEST_F(FileReplacement, AFileOfTheLongestNameIsWrittenInPlace) {
   EXPECT_FALSE(ReplaceFile(Path(QString(256, 'n')), "none"));
 }
 
-// In a folder like /tmp only its owner may move a file away.
+// In a folder like /tmp only its owner may rename a file.
 TEST_F(FileReplacement, WhereAFileCannotBeMovedAwayIsWrittenInPlace) {
   if (geteuid() != 0) GTEST_SKIP() << "needs a file of somebody else";
   const QString file = Put("record", "before");

@@ -18,7 +18,7 @@ TEST(FileSync, WhatHasNothingToSyncIsSynced) {
   close(ends[1]);
 }
 
-// The descriptor is closed behind the file's back.
+// The descriptor is closed without the file's knowledge.
 TEST(FileSync, AFailureIsTold) {
   int ends[2];
   ASSERT_EQ(0, pipe(ends));

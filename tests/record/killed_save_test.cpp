@@ -1,5 +1,5 @@
-// Programs that are killed while they save a record: at every call of the system, and in the middle of a write. The old
-// content is left, or the new one, in the file or in the copy beside it.
+// Programs that are killed while they save a record: at every system call, and in the middle of a write. Either the old
+// or the new content remains, in the file or in the copy beside it.
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
@@ -19,8 +19,8 @@
 namespace taviinputmanager {
 namespace {
 
-constexpr int kManySteps = 10000;  // more than any save takes
-constexpr int kCall = 2;           // steps: a call of the system begins, and returns
+constexpr int kManySteps = 10000;  // more than any save needs
+constexpr int kCall = 2;           // steps: a system call begins, and returns
 
 class KilledSave : public testing::Test, protected RecordFiles {
  protected:
@@ -29,7 +29,7 @@ class KilledSave : public testing::Test, protected RecordFiles {
     std::signal(SIGXFSZ, SIG_DFL);
   }
 
-  // Everything afresh: the file with this content, and no copies.
+  // Everything from the start: the file with this content, and no copies.
   QString Afresh(const QByteArray& content) const {
     for (const QString& name : Names()) QFile::remove(Path(name));
     return Put("record", content);
@@ -99,8 +99,8 @@ TEST_F(KilledSave, WhatAnEarlierDeathLeftStaysUntilTheFileIsWhole) {
   EXPECT_EQ("record", Names().join(' ').toStdString());
 }
 
-// One of two that save the same file stands still at some step, while the other one saves; then it goes on, and is
-// killed at some later one. Where a call returns, files are as they are where the next one begins.
+// Of two programs that save the same file, one stops at some step while the other saves; then it continues, and is
+// killed at a later step. When a call returns, the files are as at the start of the next call.
 TEST_F(KilledSave, TwoSavesOfOneFileDoNotSpoilEachOther) {
   const QByteArray other = QByteArray("other").repeated(200);  // longer
   bool is_over = false;
@@ -116,14 +116,14 @@ TEST_F(KilledSave, TwoSavesOfOneFileDoNotSpoilEachOther) {
       save.Kill();
       EXPECT_TRUE(IsAnywhere(after_) || IsAnywhere(other)) << step << " and " << later;
     }
-    // Both came to their ends.
+    // Both finished.
     EXPECT_EQ("record", Names().join(' ').toStdString()) << step;
     const QByteArray content = Bytes(Path("record"));
     EXPECT_TRUE(content == after_ || content == other) << step << ": " << content.constData();
   }
 }
 
-// What reaches the disk, and when: "sync" for a file's content or its folder's, "cut", "remove".
+// What reaches the disk, in order: "sync" for the content of a file or folder, "cut", "remove".
 std::string DiskCalls(const std::function<void()>& save) {
   QStringList calls;
   SteppedProcess process(save);
@@ -136,8 +136,8 @@ std::string DiskCalls(const std::function<void()>& save) {
   return calls.join(' ').toStdString();
 }
 
-// A machine can die, too. The copy and its name are on the disk before the file is cut, and the file is before the copy
-// goes.
+// A machine can crash, too. The copy and its name are on the disk before the file is truncated, and the file is before
+// the copy is removed.
 TEST_F(KilledSave, EachStepIsOnTheDiskBeforeTheNext) {
   const QString file = Afresh(before_);
   EXPECT_EQ("sync sync cut sync remove", DiskCalls([&] { ReplaceFile(file, after_); }));
@@ -175,7 +175,7 @@ TEST_F(KilledSave, ANewFileIsWholeOrNotThere) {
   }
 }
 
-// All that write records do so in this way.
+// Everything that writes records does so in this way.
 TEST_F(KilledSave, EachKindOfSaveLeavesARecord) {
   const QByteArray record = Text("{'info':{'package_name':'p'},'actions':[{'type':'touch','data':'press_rel'}]}");
   const auto save = [&](const QString& file) {

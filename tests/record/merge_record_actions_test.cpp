@@ -180,7 +180,7 @@ TEST(MergeRecordActions, RepeatsOfAnEmptyItemPauseNothing) {
   often.till_next_item_delay = 3;
   EXPECT_STEPS(Merged({Single({}, often), Single({{1, "a"}})}).get(), "none", "3 timer", "1 a");
   EXPECT_STEPS(Merged({Merged({Single({}, often)}, often), Single({{1, "a"}})}).get(), "none", "3 timer", "1 a");
-  // As the last item it has no gap either, neither at the end of a pass nor at that of the list.
+  // As the last item it has no gap, neither at the end of a pass nor at that of the list.
   EXPECT_STEPS(Merged({Single({{1, "a"}}), Single({}, often)}, Repeated(2)).get(),  //
                "1 a", "0 timer", "none", "1 a", "0 timer");
   EXPECT_STEPS(Merged({Merged({Single({{1, "a"}}), Single({}, often)}), Single({{2, "b"}})}).get(),  //
@@ -253,7 +253,7 @@ TEST(MergeRecordActions, AReplayPlaysWhatIsAroundNothing) {
             StepsOfReplay(&context).join(", ").toStdString());
 }
 
-// What a list of items plays, told without an iterator: its steps, and the gaps between its items.
+// The playback of a list of items, computed without an iterator: its steps, and the gaps between its items.
 QStringList StepsOf(const RecordActions& actions) {
   QStringList steps;
   if (actions.IsEmpty()) return steps;
@@ -278,7 +278,7 @@ QStringList StepsOf(const RecordActions& actions) {
   return steps;
 }
 
-// A list of up to 3 items, down to `levels` of them; every fourth item is empty or so.
+// A list of up to 3 items, with `levels` levels of them; about every fourth item is empty.
 std::shared_ptr<RecordActions> AnyList(std::mt19937* random, int levels) {
   const auto up_to = [&](unsigned most) { return static_cast<int>((*random)() % (most + 1)); };
   MergeParam control = Repeated(up_to(3), up_to(2) * 5);
@@ -323,7 +323,7 @@ TEST(MergeRecordActions, AListWithNothingToPlayEndsAtOnce) {
   EXPECT_EQ(3, item->speed);
 }
 
-// An iterator that is none of ours plays like those.
+// Another implementation of the iterator is played in the same way.
 class Twice : public RecordActions {
  public:
   bool First(RecordAction* action, int* delay) override {
@@ -346,7 +346,7 @@ TEST(MergeRecordActions, PlaysItemsOfAnyKind) {
                "5 x", "5 x", "0 timer", "5 x", "5 x");
 }
 
-// What stands in `current` is what plays, however it came there.
+// The item in `current` is played, however it got there.
 TEST(MergeRecordActions, GoesOnWithTheCurrentItem) {
   const auto item = Single({{1, "a"}, {20, "b"}});
   const auto list = Merged({item, Single({{3, "c"}})});

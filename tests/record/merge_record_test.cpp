@@ -1,4 +1,4 @@
-// Several records written as one.
+// Several records, written as one.
 #include <gtest/gtest.h>
 
 #include <QFileInfo>
@@ -18,7 +18,7 @@ class MergedFile : public Story, protected RecordFiles {
  protected:
   MergedFile() : target_(Path("merged.json")) {}
 
-  // A source of one action. Played once at normal speed, with no gap, where the test does not say otherwise.
+  // A source of one action. Played once at normal speed, without a gap, unless the test sets other values.
   MergeParam Source(const QString& name, const QByteArray& total, MergeParam param = {}) {
     param.file_name = Put(name, Text("{'info': {'package_name': '" + name.toUtf8() +
                                      "', 'resolution_x': 800, 'resolution_y': 600, 'create_time': 5,"
@@ -34,7 +34,7 @@ class MergedFile : public Story, protected RecordFiles {
     param.file_name = Put(name, Text(json));
     return param;
   }
-  // The running time of the merged file, as a reader gets it.
+  // The duration of the merged file, as a reader gets it.
   quint64 Total(const QVector<MergeParam>& params) {
     EXPECT_TRUE(MergeRecord(target_, params));
     RecordInfo info;

@@ -1,4 +1,4 @@
-// Files that something went over: whatever they have become, each reader answers.
+// Damaged files: whatever they contain, each reader returns.
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
@@ -40,7 +40,7 @@ class DamagedRecord : public testing::TestWithParam<const char*>, protected Reco
   }
   QByteArray WithByte(int offset, char byte) const { return QByteArray(good_).replace(offset, 1, &byte, 1); }
 
-  // What the readers are to say of these bytes, found out from the JSON alone.
+  // The expected results of the readers for these bytes, derived from the JSON alone.
   struct Truth {
     explicit Truth(const QByteArray& bytes);
 
@@ -85,8 +85,8 @@ DamagedRecord::Truth::Truth(const QByteArray& bytes) {
   first_action_has_data = FirstActionHasData(json);
 }
 
-// A damaged control repeats at most 99 times: a digit, and one in place of the blank before it. Three levels of that,
-// with two actions and two pauses each, stay far below.
+// A damaged control repeats at most 99 times: a digit, and one instead of the blank before it. Three levels of that,
+// with two actions and two pauses each, stay far below the limit.
 constexpr int kMostSteps = 50000;
 
 void DamagedRecord::ExpectAnswers(const QByteArray& bytes, const std::string& damage) {

@@ -11,7 +11,7 @@
 namespace taviinputmanager {
 namespace {
 
-// In memory where the system has such a place: there are many files, and each written one is synced.
+// In memory if the system supports it: there are many files, and each written one is synced.
 QString FolderTemplate() {
   const QString memory("/dev/shm");
   return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + "/record-test-XXXXXX";

@@ -1,4 +1,4 @@
-// Record files of a test, and what a walk over them gives.
+// Record files of a test, and the results of walking them.
 #ifndef TESTS_RECORD_RECORD_FILES_H_
 #define TESTS_RECORD_RECORD_FILES_H_
 
@@ -20,22 +20,22 @@ namespace taviinputmanager {
 
 class RecordFileUtils;
 
-// A folder of the test's own. All files of a test are in it, those that the library writes too: these are copied to the
-// folder that the environment names as TAVI_WRITTEN_RECORDS, for whoever looks at them later.
+// A folder of the test's own. It contains all files of a test, including those that the library writes: these are
+// copied to the folder in the environment variable TAVI_WRITTEN_RECORDS, for later checks.
 class RecordFiles {
  protected:
   RecordFiles();
   ~RecordFiles();
 
-  // Of a file of this name, which need not be there.
+  // The path of a file with this name, which need not exist.
   QString Path(const QString& name) const;
-  // Writes a file, and gives its path.
+  // Writes a file, and returns its path.
   QString Put(const QString& name, const QByteArray& bytes) const;
 
   static QByteArray Bytes(const QString& path);
-  // The test fails on a file that is no JSON object.
+  // The test fails on a file that is not a JSON object.
   static QJsonObject JsonOf(const QString& path);
-  // The names of all files in the folder, in order, also hidden ones.
+  // The names of all files in the folder, in order, including hidden ones.
   QStringList Names() const;
 
   static RecordFileUtils* Utils();
@@ -45,18 +45,18 @@ class RecordFiles {
   mutable QStringList put_;  // names of the files that the test wrote itself
 };
 
-// JSON with apostrophes in place of quotation marks.
+// JSON with apostrophes instead of quotation marks.
 QByteArray Text(QByteArray json);
 // The same as an object. The test fails on one that cannot be read.
 QJsonObject Json(const QByteArray& json);
-// Lists, objects, or both by turns, each in the one before it: as many levels as said.
+// Nested lists, objects, or both alternating, with this many levels.
 QByteArray NestedLists(int levels);
 QByteArray NestedObjects(int levels);
 QByteArray NestedByTurns(int levels);
 // In one line, keys in ascending order, with apostrophes.
 std::string Compact(const QJsonObject& json);
 
-// A list of actions of the type "touch" that are known by their data.
+// A list of actions of the type "touch" that are identified by their data.
 struct Step {
   int timing;
   const char* data;
@@ -64,15 +64,15 @@ struct Step {
 std::shared_ptr<SingleRecordActions> Single(std::initializer_list<Step> steps, const MergeParam& control = {});
 std::shared_ptr<MergeRecordActions> Merged(const MergeRecordActions::Items& items, const MergeParam& control = {});
 
-// Controls of which some values are of interest.
+// Controls with some interesting values.
 MergeParam Repeated(int times, int delay_ms = 0);
 MergeParam AtSpeed(double ratio);
 MergeParam WithGap(int ms, double speed_ratio = 1.0);
 
-// All that a walk gives, "delay data" each, "delay type" of what has no data, "none" where an item has nothing to play.
-// Ends with "..." where there is more than `limit`.
+// The results of a walk, "delay data" for each step, "delay type" for one without data, "none" for an item without
+// anything to play. Ends with "..." if there are more than `limit`.
 QStringList Walk(RecordActions* actions, int limit = 1000);
-// What a replay makes of it.
+// The results of a replay.
 QStringList StepsOfReplay(ReplayContext* context, int limit = 1000);
 
 #define EXPECT_STEPS(actions, ...) \

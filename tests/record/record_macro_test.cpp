@@ -23,7 +23,7 @@ using tavikeymapmanager::ComposableConfigItem;
 class MacroCapture : public Story, protected RecordFiles {
  protected:
   MacroCapture() {
-    Host().window = {100, 50, 1000, 500};  // its place does not matter
+    Host().window = {100, 50, 1000, 500};  // its position does not matter
     Load();
   }
 

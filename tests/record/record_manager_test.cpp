@@ -18,7 +18,7 @@ namespace {
 
 using tavikeymapmanager::ComposableConfigItem;
 
-QStringList told;  // what the host was told
+QStringList told;  // the calls of the host's functions
 
 class Recording : public Story, protected RecordFiles {
  protected:
@@ -39,7 +39,7 @@ class Recording : public Story, protected RecordFiles {
   static void Line(const QString& line) { OnInputRawEventData(line + '\n', 1); }
   static void Key(int code) { Line(QString("KBDPR:%1:1").arg(code)); }
 
-  // What is in the file after a stop, "timing type data extra1 extra2" each, but for the start marker.
+  // The content of the file after a stop, "timing type data extra1 extra2" for each action, without the start marker.
   QStringList Recorded() {
     StopRecord("com.example.game", file_);
     QStringList lines;
@@ -138,7 +138,7 @@ TEST_F(Recording, ASecondStartBeginsAgain) {
   EXPECT_EQ("b", app.toStdString());
 }
 
-// Two actions of the host: one when the call began, one when the host was told of it.
+// Two actions of the host: one at the start of the call, one in the host's callback.
 TEST_F(Recording, TheHostIsToldAtTheEndOfACall) {
   table_.started = [] { AddVControlCommand("in started", "1", ""); };
   table_.resumed = [] { AddVControlCommand("in resumed", "", ""); };
@@ -261,7 +261,7 @@ TEST_F(Recording, ASecondPauseCountsFromTheSecond) {
   Wait(10);
   PauseRecord();
   Wait(100);
-  PauseRecord();  // as if it ran until now
+  PauseRecord();  // as if it had run until now
   Wait(1000);
   ResumeRecord();
   Wait(5);
@@ -282,8 +282,8 @@ TEST_F(Recording, TwoPausesInAGapAreBothCutOut) {
   EXPECT_RECORDED("23 keyboard keyboard_press:30");
 }
 
-// The pause before it is long over, and so the gap that ran before it is below 0: pause at 10, action at 30,
-// resume at 50 with last action = 50 - (10 - 30) = 70, and so the action at 75 comes 5 later.
+// The pause is long over, so the time before it is negative: pause at 10, action at 30, resume at 50 with last action =
+// 50 - (10 - 30) = 70, and so the action at 75 comes 5 later.
 TEST_F(Recording, AResumeWithoutAPauseTakesTheOldOne) {
   StartRecord("p", "a");
   Wait(10);

@@ -1,4 +1,4 @@
-// Record files to headers and actions: both shapes, and what each value may be.
+// Reads headers and actions from record files: both kinds, and the possible values.
 #include <gtest/gtest.h>
 
 #include <QVector>
@@ -15,7 +15,7 @@ namespace {
 
 class RecordReading : public testing::Test, protected RecordFiles {
  protected:
-  // Fails the test where the file is not loaded.
+  // Fails the test if the file is not loaded.
   ReplayContext Load(const QByteArray& json) {
     ReplayContext context;
     EXPECT_TRUE(Utils()->LoadRecord(Put("record.json", Text(json)), &context)) << json.toStdString();
@@ -140,7 +140,7 @@ TEST_F(RecordReading, WhatIsAbsentLeavesItsField) {
   EXPECT_EQ(QSize(0, 0), info.resolution) << "a size is stored always";
 }
 
-// The JSON values by their types: what each key takes, and that it does not take the others.
+// The types of JSON values: which of them each key accepts.
 TEST_F(RecordReading, EachKeyTakesOneTypeOnly) {
   const struct {
     const char* type;
@@ -434,7 +434,7 @@ TEST_F(RecordReading, AnEmptyListLoadsAndPlaysNothing) {
   EXPECT_NOTHING_PLAYED("{'info': {'a': 1}, 'merged_actions': [{'actions': []}, {'actions': []}]}");
 }
 
-// The file itself, its list and an action are 3 levels, each merged list around it 2 more: 3 + 2 * 510 = 1023.
+// The file itself, its list and an action are 3 levels, each merged list around them 2 more: 3 + 2 * 510 = 1023.
 TEST_F(RecordReading, PartsAreNestedUpTo510Deep) {
   const auto nested = [](int lists) {
     const QByteArray json = QByteArray("{'merged_actions': [").repeated(lists) +
@@ -449,7 +449,7 @@ TEST_F(RecordReading, PartsAreNestedUpTo510Deep) {
   }
 }
 
-// Also where nobody looks at what is nested: 1024 levels are read, of which the root is one, and one more is broken.
+// Even if the nested value is ignored: 1024 levels are valid, including the root, and one more is not.
 TEST_F(RecordReading, NestingIsReadToItsLimitByAllReaders) {
   for (const auto nested : {NestedLists, NestedObjects, NestedByTurns}) {
     const auto file_of = [&](int levels) {

@@ -1,4 +1,4 @@
-// What a host may do on the thread of a replay, and what goes on beside it on the main thread.
+// What a host may do on the thread of a replay, and in parallel on the main thread.
 #include <QSemaphore>
 
 #include "tests/record/replay_threads.h"
@@ -11,14 +11,14 @@ using replay_threads::Told;
 
 class ReplayCalls : public testing::Test {
  protected:
-  // At the first time that the host is told `what`.
+  // At the first call of `what` in the host.
   static void Once(const QString& what, std::function<void()> call) {
     TheEar().React([what, call = std::move(call), is_done = std::make_shared<std::atomic<bool>>()](const Told& told) {
       if (told.what == what && !is_done->exchange(true)) call();
     });
   }
-  // Plays `file`, and makes the call when it has finished. The main thread rests until then: whatever was posted to it
-  // before the call still waits.
+  // Plays `file`, and makes the call when it has finished. The main thread sleeps until then: whatever was posted to it
+  // before the call is still queued.
   void CallAtTheEndOf(const QString& file, std::function<void()> call) {
     Once("finished", [this, call = std::move(call)] {
       call();
@@ -49,8 +49,8 @@ TEST_F(ReplayCalls, ARestartFromFinishedMakesALoop) {
   EXPECT_GE(program_.Count("2:KBDPR:30:1"), 19);
 }
 
-// The key of the last action is on its way to the main thread when the replay has finished. It is played first, and
-// then forgotten: a resume has nothing to press again.
+// The key of the last action is queued to the main thread when the replay has finished. It is played first, and then
+// cleared: a resume has nothing to press again.
 TEST_F(ReplayCalls, ARestartForgetsWhatIsHeldBehindTheActionsBeforeIt) {
   CallAtTheEndOf(folder_.Save("a.json", {KeyDown(20, 30)}), [] { RestartReplay(8, "of nobody", {}); });
   ASSERT_TRUE(program_.RunUntilTold("2:KBDPR:30:1"));
@@ -88,7 +88,7 @@ TEST_F(ReplayCalls, RequestsKeepTheirOrder) {
   EXPECT_EQ("started paused resumed started stopped", order.join(' ').toStdString());
 }
 
-// A replay that was started from another's callback does not depend on that one's thread.
+// A replay that was started in another's callback does not depend on that one's thread.
 TEST_F(ReplayCalls, AStartedReplayOutlivesTheOneThatStartedIt) {
   const QString first = folder_.Save("a.json", {KeyDown(1, 30)});
   const QString second = folder_.Save("b.json", {KeyDown(1, 17), KeyUp(60000, 17)});
@@ -112,7 +112,7 @@ TEST_F(ReplayCalls, AllEndWhenOneHasFinished) {
   EXPECT_TRUE(program_.RunUntil([this] { return CountThreads() == threads_; }));
 }
 
-// The last action still goes to the display that it fell due for.
+// The last action still goes to the display that it was due for.
 TEST_F(ReplayCalls, AChangeOfDisplayTakesItsPlaceInTheOrder) {
   const QString file = folder_.Save("a.json", {KeyDown(20, 30)});
   CallAtTheEndOf(file, [file] {
@@ -125,8 +125,8 @@ TEST_F(ReplayCalls, AChangeOfDisplayTakesItsPlaceInTheOrder) {
 
 // ---- The main thread goes on while the host is being told of the end ----
 
-// Where the host is held up, and how many lines of the reset are recorded by then: slots 18 to 25 are lifted one by
-// one, and a line is recorded once it was sent and mirrored.
+// Where the host blocks, and how many lines of the reset are recorded by then: slots 18 to 25 are released one by one,
+// and a line is recorded after it was sent and mirrored.
 struct Place {
   const char* name;
   const char* what;
@@ -151,7 +151,7 @@ class HeldUpEnd : public ReplayCalls, public testing::WithParamInterface<Place> 
   static void HearMirrored(const QString& command, const QVector<QString>&) {
     TheEar().Hear("mirrored " + command.chopped(1));
   }
-  // The actions of a record but its start marker, a line each.
+  // The actions of a record without its start marker, one per line.
   static std::string ActionsOf(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -211,7 +211,7 @@ class LeavingMainWithRequests : public testing::Test {
  protected:
   LeavingMainWithRequests() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 
-  // Ends the process: 0 when all was well. What the replay asked for was never delivered.
+  // Ends the process: with 0 if everything was correct. The replay's requests were never delivered.
   [[noreturn]] static void Leave() {
     int threads = 0;
     {

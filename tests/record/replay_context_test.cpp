@@ -1,4 +1,4 @@
-// Where a replay stands in its record, without a replay around it.
+// The position of a replay in its record, without a replay.
 #include "record/replay_context.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ TEST(ReplayContext, TakesTimeOffTheDelayDownToNone) {
   EXPECT_EQ(0, context.next_delay);
 }
 
-// Time that passed backwards, since the clock was set back.
+// Negative elapsed time, because the clock was set back.
 TEST(ReplayContext, ADelayStaysWithinItsRange) {
   ReplayContext context;
   context.next_delay = 1000;

@@ -1,4 +1,4 @@
-// Replays that move contacts a little, as a hand would.
+// Replays that move contacts a little, like a human hand.
 #include <cstdlib>
 #include <set>
 
@@ -13,7 +13,7 @@ using Place = std::pair<double, double>;
 using Places = std::set<Place>;
 
 constexpr unsigned kSeed = 7;
-// Of ten outcomes at most; that one of them, or a direction, never comes has a chance below 1e-17.
+// For at most ten outcomes; the probability that one of them, or a direction, never occurs is below 1e-17.
 constexpr int kManyPresses = 400;
 
 class Emulation : public Story {
@@ -23,7 +23,7 @@ class Emulation : public Story {
     Load(1);
   }
 
-  // Where presses of a point go.
+  // The positions of presses of a point.
   Places PlacesOf(const QString& point) {
     Places places;
     for (int i = 0; i < kManyPresses; ++i) {
@@ -74,7 +74,7 @@ TEST_F(Emulation, LiftsANegativePlaceToTheFloor) {
   for (const Place& place : PlacesOf("(-0.5,0.5)")) EXPECT_EQ(0, place.first);
 }
 
-// In the corner every way down ends in the corner again, which is no point; so does the way up by 0 and 0.
+// In the corner every move down ends in the corner again, which is not a point; so does the move up by 0 and 0.
 TEST_F(Emulation, MayMakeAPointOfTheCorner) {
   Places expected;
   for (int dx = 0; dx < 3; ++dx) {

@@ -1,4 +1,4 @@
-// One action of a record at a time: the line that it becomes, and what is kept of it.
+// One action of a record at a time: its line, and the state that is kept.
 #include "record/replay_event_handler.h"
 
 #include "core/input_status_manager.h"
@@ -73,7 +73,7 @@ TEST_F(ReplayHandler, TheSameFractionIsTheSamePlaceOnAnyDisplay) {
   Press("0", "(0.5,0.5)");
   Host().display = QRect(0, 0, 720, 1280);
   Press("0", "(0.5,0.5)");
-  Host().display = QRect(100, 50, 640, 360);  // where it stands does not matter
+  Host().display = QRect(100, 50, 640, 360);  // its position does not matter
   Press("0", "(0.5,0.5)");
   EXPECT_WIRE("0ms 2:SLOTPRESS:18:18:1:1:960:540", "0ms 2:SLOTPRESS:18:18:1:1:360:640",
               "0ms 2:SLOTPRESS:18:18:1:1:320:180");
@@ -115,7 +115,7 @@ TEST_F(ReplayHandler, APressHasTwoParts) {
   Touch("press_rel:(0.5,0.5):1", "0");
   Touch("press_rel::(0.5,0.5)", "0");
   EXPECT_WIRE_NONE();
-  Touch("press_relative:(0.5,0.5)", "0");  // the beginning of the word is looked at
+  Touch("press_relative:(0.5,0.5)", "0");  // only the start of the word matters
   EXPECT_WIRE("0ms 2:SLOTPRESS:18:18:1:1:640:360");
 }
 
@@ -153,7 +153,7 @@ TEST_F(ReplayHandler, AFullPoolLeavesTheSlotsOfTheFile) {
   Release("3");
   EXPECT_WIRE("0ms 2:SLOTPRESS:3:3:1:1:640:360", "0ms 2:SLOTRELEASE:3");
   EXPECT_EQ(8, Taken().size());
-  // Nothing was stored: as soon as there is room, the slot is mapped.
+  // Nothing was stored: as soon as a slot is free, the slot is mapped.
   Pool()->Free(21);
   Press("3", "(0.5,0.5)");
   EXPECT_WIRE("0ms 2:SLOTPRESS:21:21:1:1:640:360");
@@ -242,7 +242,7 @@ TEST_F(ReplayHandler, EveryContactOfSeveralHasAPoint) {
   Touch("press_multi_rel", "");
   EXPECT_WIRE_NONE();
   EXPECT_EQ(Slots(), Taken());
-  Touch("press_multi_rel:(0.25,0.5)", "");  // one slot, which is no number
+  Touch("press_multi_rel:(0.25,0.5)", "");  // one slot, which is not a number
   EXPECT_WIRE("0ms 2:SLOTMULTIPRESS:18:18:320:360");
 }
 
@@ -266,7 +266,7 @@ TEST_F(ReplayHandler, SingleAndSeveralShareTheirSlots) {
   Touch("release", "2");
   EXPECT_WIRE("0ms 2:SLOTPRESS:18:18:1:1:320:360", "0ms 2:SLOTMULTIPRESS:18:18:640:360:19:19:960:360",
               "0ms 2:SLOTRELEASE:19");
-  handler_->ResumeHeldInput();  // a single release leaves the list of several alone
+  handler_->ResumeHeldInput();  // a single release does not change the list of several
   EXPECT_WIRE("0ms 2:SLOTPRESS:18:18:1:1:320:360", "0ms 2:SLOTMULTIPRESS:18:18:640:360:19:19:960:360");
 }
 
@@ -304,7 +304,7 @@ TEST_F(ReplayHandler, AKeyHasTwoParts) {
 
 TEST_F(ReplayHandler, AKeyThatIsNoNumberIsZero) {
   Keyboard("keyboard_press:A");
-  Keyboard("keyboard_pressed:30");  // the beginning of the word is looked at
+  Keyboard("keyboard_pressed:30");  // only the start of the word matters
   EXPECT_WIRE("0ms 2:KBDPR:0:1", "0ms 2:KBDPR:30:1");
   EXPECT_EQ((Codes{0, 30}), HeldKeys());
 }
@@ -445,7 +445,7 @@ TEST_F(ReplayHandler, AResetForgetsAllAndFreesNothing) {
   handler_->Reset();
   EXPECT_WIRE_NONE();
   EXPECT_EQ((Slots{18, 19}), Taken());
-  EXPECT_EQ((Codes{30}), HeldKeys());  // what the guest holds is another matter
+  EXPECT_EQ((Codes{30}), HeldKeys());  // the guest's state is not affected
   handler_->ResumeHeldInput();
   EXPECT_WIRE_NONE();
   Press("0", "(0.5,0.5)");  // no longer slot 18

@@ -1,4 +1,4 @@
-// Record files that tests make.
+// Record files that tests create.
 #ifndef TESTS_RECORD_REPLAY_FILE_H_
 #define TESTS_RECORD_REPLAY_FILE_H_
 
@@ -12,7 +12,7 @@
 
 namespace taviinputmanager {
 
-// An action `timing` milliseconds after the one before it.
+// An action `timing` milliseconds after the previous one.
 inline QJsonObject Step(int timing, const QString& type, const QString& data, const QString& extra1 = {},
                         const QString& extra2 = {}) {
   return {{"timing", timing}, {"type", type}, {"data", data}, {"extra1", extra1}, {"extra2", extra2}};
@@ -23,13 +23,13 @@ inline QJsonObject KeyDown(int timing, int code) {
 inline QJsonObject KeyUp(int timing, int code) {
   return Step(timing, "keyboard", QStringLiteral("keyboard_release:%1").arg(code));
 }
-// `point` as a file holds it: "(0.5,0.5)".
+// `point` in the format of a file: "(0.5,0.5)".
 inline QJsonObject TouchDown(int timing, int slot, const QString& point) {
   return Step(timing, "touch", "press_rel:" + point, QString::number(slot));
 }
 inline QJsonObject TouchUp(int timing, int slot) { return Step(timing, "touch", "release", QString::number(slot)); }
 
-// Goes with all its files.
+// Deletes all its files.
 class ReplayFolder {
  public:
   QString Path(const QString& name) const { return folder_.path() + "/" + name; }

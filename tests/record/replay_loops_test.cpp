@@ -1,4 +1,4 @@
-// Short records that play again and again, and a host that asks for something at every line and callback.
+// Short records that are played in loops, and a host that makes a request in every line and callback.
 #include <random>
 
 #include "tests/record/replay_threads.h"
@@ -11,7 +11,7 @@ namespace {
 using replay_threads::TheEar;
 using replay_threads::Told;
 
-// TAVI_REPLAY_LOOPS and TAVI_REPLAY_SEED choose another run. The threads run as they like: no two runs are equal.
+// TAVI_REPLAY_LOOPS and TAVI_REPLAY_SEED choose another run. The threads are not synchronized: no two runs are equal.
 class ReplayLoops : public testing::Test {
  protected:
   static constexpr int kUsualLoops = 2000;
@@ -29,7 +29,7 @@ class ReplayLoops : public testing::Test {
   }
   ~ReplayLoops() override { TheEar().React({}); }
 
-  // Some milliseconds, with fingers and keys that it lifts or leaves down.
+  // Lasts some milliseconds, with fingers and keys that it releases or leaves down.
   QString SaveShortRecord(int i) const {
     return folder_.Save(QString::number(i),
                         {TouchDown(1, i, "(0.25,0.5)"), KeyDown(0, 30 + i), Step(0, "vcontrol", "shot"),
@@ -46,7 +46,7 @@ class ReplayLoops : public testing::Test {
   }
   bool OneIn(int n) { return Below(n) == 0; }
 
-  // From inside a callback, on either thread, and from inside the lines that come on a replay's.
+  // From inside a callback, on either thread, and from inside the lines on a replay's thread.
   void ReactTo(const Told& told) {
     if (told.what.contains(':') && told.thread == main_thread_) return;
     if (told.what == "finished") {
@@ -73,7 +73,7 @@ class ReplayLoops : public testing::Test {
     }
   }
 
-  // What only the main thread does, outside of all callbacks.
+  // Actions that only the main thread may perform, outside of all callbacks.
   void DoSomethingOfTheMainThread() {
     switch (Below(12)) {
       case 0:
@@ -100,7 +100,7 @@ class ReplayLoops : public testing::Test {
     const QString path = folder_.Path("recording.json");
     StopRecord("com.example.game", path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return;  // not worth one so far
+    if (!file.open(QIODevice::ReadOnly)) return;  // nothing to save so far
     const QJsonArray actions = QJsonDocument::fromJson(file.readAll()).object()["actions"].toArray();
     EXPECT_FALSE(actions.isEmpty());
     for (int i = 1; i < actions.size(); ++i) {
@@ -115,12 +115,12 @@ class ReplayLoops : public testing::Test {
   void PlayUntil(int loops) {
     ASSERT_TRUE(program_.RunUntil([this, loops] {
       if (OneIn(2)) DoSomethingOfTheMainThread();
-      if (OneIn(4)) RequestSomething();  // or all may rest at once, and nobody would wake one
+      if (OneIn(4)) RequestSomething();  // otherwise all could be idle at once, and nothing would wake one
       return finished_ >= loops;
     })) << finished_
         << " loops; replays: " << CountThreads() - threads_;
   }
-  // Counts what the host was told, and forgets it: a long run must not fill the memory.
+  // Counts the host's calls, and discards them: a long run must not fill the memory.
   void Listen() {
     program_.told += TheEar().Take();
     for (const Told& told : qAsConst(program_.told)) {
@@ -132,7 +132,7 @@ class ReplayLoops : public testing::Test {
     }
     program_.told.clear();
   }
-  // Also those that the last callbacks asked for.
+  // Including those of the last callbacks.
   bool EndAllReplays() {
     return program_.RunUntil([this, quiet_turns = 0]() mutable {
       quiet_turns = CountThreads() == threads_ ? quiet_turns + 1 : 0;
@@ -140,7 +140,7 @@ class ReplayLoops : public testing::Test {
       return quiet_turns == 3;
     });
   }
-  // All replays end, and what they left down is lifted.
+  // All replays end, and what they left down is released.
   void ComeToRest() {
     TheEar().React({});
     ASSERT_TRUE(EndAllReplays());

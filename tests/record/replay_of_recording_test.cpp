@@ -1,4 +1,4 @@
-// What was recorded is played back: the same contacts at the same relative places and times.
+// A recording is replayed: the same contacts at the same relative positions and times.
 #include "keymap/tavikeymapmanager.h"
 #include "tests/record/replay_story.h"
 
@@ -11,7 +11,7 @@ struct Sent {
   QString word;
   int slot = -1;
   QPointF place;
-  QString rest;  // of lines that are no contact
+  QString rest;  // lines that are not contacts
 };
 
 Sent Read(const QString& line) {
@@ -57,21 +57,21 @@ class ReplayOfRecording : public ReplayStory {
     Host().primary_display = -1;
   }
 
-  // The session's lines, with times since its start and slots of the pool's.
+  // The session's lines, with times since its start and slots of the pool.
   QVector<Sent> Replay(double speed) {
     const qint64 start = Time().NowMs() - zero_;
     StartReplay(0, 7, QString(), Path("session.json"), {speed, false});
     Wait(5000);
     QVector<Sent> played;
     for (const QString& line : TakeLines()) {
-      if (line.contains(" 1:")) continue;  // the reset at the end, which is of the live display
+      if (line.contains(" 1:")) continue;  // the reset at the end, which is for the live display
       played.append(Read(line));
       played.last().ms -= static_cast<int>(start);
     }
     return played;
   }
 
-  // `due`: when each line of the session is to come.
+  // `due`: when each line of the session must come.
   void ExpectSession(const QVector<Sent>& played, const QVector<int>& due, double scale) {
     ASSERT_GT(recorded_.size(), 20);
     ASSERT_EQ(recorded_.size(), played.size());
@@ -87,7 +87,8 @@ class ReplayOfRecording : public ReplayStory {
       EXPECT_EQ(slot_of[then.slot], now.slot);
       EXPECT_GE(now.slot, 18);
       if (then.word == "SLOTRELEASE") slot_of.remove(then.slot);
-      // Six digits of a fraction are half a millionth of the display, and six of a place half a hundredth of a pixel.
+      // Six digits of a fraction are half a millionth of the display, and six digits of a position half a hundredth of
+      // a pixel.
       EXPECT_NEAR(then.place.x() * scale, now.place.x(), 0.01);
       EXPECT_NEAR(then.place.y() * scale, now.place.y(), 0.01);
     }
@@ -146,7 +147,7 @@ TEST_F(ReplayOfRecording, TellsTheHostWhichAppItWas) {
   EXPECT_EQ("com.example.game", package.toStdString());
 }
 
-// A recording of a replay has the slots of the pool, and plays as the first did.
+// A recording of a replay has the slots of the pool, and plays like the first one.
 TEST_F(ReplayOfRecording, CanBeRecordedAgain) {
   Record();
   Host().primary_display = 2;

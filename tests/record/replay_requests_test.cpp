@@ -1,4 +1,4 @@
-// Whom a request reaches, how replays stop, and which files they hold.
+// Which replays a request reaches, how replays stop, and which files they lock.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -15,7 +15,7 @@ namespace {
 
 class ReplayRequests : public ReplayStory {
  protected:
-  // How many open files of this process are that one.
+  // How many open files of this process are this one.
   int Handles(const QString& name) const {
     const QString path = QFileInfo(Path(name)).canonicalFilePath();
     int count = 0;
@@ -24,7 +24,7 @@ class ReplayRequests : public ReplayStory {
     }
     return count;
   }
-  // Whether one who asks for locks may write.
+  // Whether a program that uses locks may write.
   bool MayWrite(const QString& name) const {
     const int file = open(Path(name).toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
     EXPECT_GE(file, 0);
@@ -112,7 +112,7 @@ TEST_F(ReplayRequests, TwoReplaysShareTheSlotsOfTheirFiles) {
                "210ms 2:SLOTPRESS:19:19:1:1:640:360");
 }
 
-// One handler serves all.
+// All share one handler.
 TEST_F(ReplayRequests, ANewReplayMakesTheOthersForget) {
   Save("a.json", {TouchDown(100, 5, "(0.25,0.5)"), TouchUp(100, 5), KeyUp(1000, 30)});
   Save("b.json", {KeyDown(1000, 17)});
@@ -126,7 +126,7 @@ TEST_F(ReplayRequests, ANewReplayMakesTheOthersForget) {
   EXPECT_STORY("200ms 2:SLOTRELEASE:19");  // slot 18 stays taken, and its contact down
 }
 
-// What is held is pressed again, whoever is named.
+// What is held is pressed again, whichever replay is named.
 TEST_F(ReplayRequests, AResumeOfNobodyPressesWhatIsHeld) {
   Save("a.json", {TouchDown(100, 5, "(0.25,0.5)"), KeyUp(1000, 30)});
   Start(7, "a.json");
@@ -306,7 +306,7 @@ TEST_F(ReplayRequests, AFailedStartLeavesRunningReplaysAlone) {
   Wait(50);
   TakeStory();
   Start(8, "missing.json");
-  Resume(8, "missing.json");  // what the first one holds is still known
+  Resume(8, "missing.json");  // what the first one holds is still recorded
   EXPECT_STORY("50ms 2:SLOTPRESS:18:18:1:1:640:360");
 }
 
@@ -341,7 +341,7 @@ TEST_F(ReplayRequests, NoTableIsAllowed) {
   EXPECT_EQ(1, TakeLines().filter("KBDPR:30:1").size());
 }
 
-// The worker has the table of its start, the manager that of the moment.
+// The worker has the table of its start, the manager the current one.
 TEST_F(ReplayRequests, AReplayKeepsItsTable) {
   Save("a.json", {Step(10, "vcontrol", "data"), KeyUp(1000, 30)});
   Start(7, "a.json");
@@ -394,7 +394,7 @@ TEST_F(ReplayRequests, TheSecondReplayOfAFileTakesTheEntry) {
   Stop(7, "a.json");
   EXPECT_EQ(1, Handles("a.json"));
   Stop(8, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));  // the first stays open for good
+  EXPECT_EQ(1, Handles("a.json"));  // the first one's stays open permanently
   EXPECT_FALSE(MayWrite("a.json"));
 }
 

@@ -1,4 +1,4 @@
-// Stories of replays: record files, requests, and all that comes of them in one order.
+// Stories of replays: record files, requests, and all their effects in one sequence.
 #ifndef TESTS_RECORD_REPLAY_STORY_H_
 #define TESTS_RECORD_REPLAY_STORY_H_
 
@@ -38,7 +38,7 @@ class ReplayStory : public Story {
     StartReplay(0, id, QString(), Path(name), {speed, emulation_mode});
     Time().Settle();
   }
-  // Requests arrive, and what they bring about is done, within no time.
+  // Delivers requests and their effects, without any time passing.
   void Pause(int id, const QString& name) {
     PauseReplay(id, Path(name));
     Time().Settle();
@@ -60,12 +60,12 @@ class ReplayStory : public Story {
     Time().Settle();
   }
 
-  // Lines as on the wire, callbacks of the replay table with a ">", those of the host's table with a "!".
+  // Lines as sent, callbacks of the replay table with a ">", those of the host's table with a "!".
   QStringList TakeStory() {
     TakeTimeline();
     return std::exchange(story_, {});
   }
-  // The lines alone, of what was not taken yet.
+  // Only the lines, of what was not taken yet.
   QStringList TakeLines() {
     const QStringList story = TakeStory();
     QStringList lines;

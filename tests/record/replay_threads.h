@@ -1,4 +1,4 @@
-// Replays on real threads and the real clock, and a host that may be called on any of them.
+// Replays on real threads in real time, and a host that may be called on any of them.
 #ifndef TESTS_RECORD_REPLAY_THREADS_H_
 #define TESTS_RECORD_REPLAY_THREADS_H_
 
@@ -22,7 +22,7 @@
 namespace taviinputmanager {
 namespace replay_threads {
 
-// What the host was told.
+// The calls of the host's functions.
 struct Told {
   QString what;  // a line without its end, or the name of a callback
   int task_id = 0;
@@ -45,7 +45,7 @@ class Ear {
     const std::lock_guard<std::mutex> lock(mutex_);
     return std::exchange(told_, {});
   }
-  // What the host does from inside a send function or a callback, on the thread that it is called on.
+  // What the host does inside a send function or a callback, on the thread of the call.
   void React(Reaction reaction) {
     const std::lock_guard<std::mutex> lock(mutex_);
     reaction_ = std::move(reaction);
@@ -68,7 +68,7 @@ inline Ear& TheEar() {
   return ear;
 }
 
-// An application on the real clock, with the host's tables. Ends all replays when it goes.
+// An application in real time, with the host's tables. Ends all replays when it is destroyed.
 class Program {
  public:
   Program() {
@@ -76,7 +76,7 @@ class Program {
     application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
     Host().table.OnInputStatusChanged = [](int status, const QString&) { TheEar().Hear("status", status); };
     Host().Start([] { return QDateTime::currentMSecsSinceEpoch(); });
-    // The simulated host's own are for the main thread alone.
+    // The simulated host's own functions are for the main thread only.
     SetInputEventSendFunc(reinterpret_cast<void*>(&HearLine));
     SetInputTextSendFunc(reinterpret_cast<void*>(&HearLine));
     table_.started = [](int id, const QString& file) { TheEar().Hear("started", id, file); };
@@ -98,7 +98,7 @@ class Program {
 
   static tavi::SimulatedHost& Host() { return *tavi::SimulatedHost::GetInstance(); }
 
-  // Lets time pass until `condition` holds; false where that takes too long to be right.
+  // Lets time pass until `condition` holds; false if that takes unreasonably long.
   bool RunUntil(const std::function<bool()>& condition) {
     return RunEventsUntil([&] {
       told += TheEar().Take();

@@ -1,4 +1,4 @@
-// Replays on real threads and the real clock: order, places, that nothing comes too early, and who is told where.
+// Replays on real threads in real time: order, positions, that nothing comes too early, and the threads of the calls.
 #include "tests/record/replay_threads.h"
 
 #include <random>
@@ -29,7 +29,7 @@ class RealReplay : public testing::Test {
     for (const Told& told : program_.Of("2:")) lines.append(told.what);
     return lines;
   }
-  // How long after `started` came the key. Both times are cut, and `started` is told once the timer runs.
+  // The time from `started` to the key. Both times are truncated, and `started` is called once the timer runs.
   qint64 TimeToTheKey() const { return program_.Of("2:KBDRL").first().ms - program_.Of("started").first().ms + 2; }
 
   ReplayFolder folder_;
@@ -70,7 +70,7 @@ TEST_F(RealReplay, APauseKeepsTheRestOfTheDelay) {
   ASSERT_TRUE(program_.RunUntilTold("2:KBDPR:30:1"));
   const qint64 paused = program_.Of("resumed").first().ms - program_.Of("paused").first().ms;
   const qint64 played = program_.Of("2:KBDPR").first().ms - program_.Of("started").first().ms - paused;
-  EXPECT_GE(played, 400 - 4);  // of times that are cut
+  EXPECT_GE(played, 400 - 4);  // for truncated times
 }
 
 // ---- Threads ----
@@ -86,7 +86,7 @@ TEST_F(RealReplay, TheHostIsToldOnTheReplaysThreadButOfItsOwnCommands) {
   ASSERT_TRUE(program_.RunUntilTold("2:KBDPR:30:1", 2));
   StopReplay(7, file, true);
   ASSERT_TRUE(program_.RunUntilTold("2:SLOTRELEASEALL"));
-  ASSERT_TRUE(program_.RunUntilTold("stopped"));  // told beside that line
+  ASSERT_TRUE(program_.RunUntilTold("stopped"));  // called beside that line
 
   const Qt::HANDLE main_thread = QThread::currentThreadId();
   const Qt::HANDLE thread = program_.Of("started").first().thread;
@@ -102,7 +102,7 @@ TEST_F(RealReplay, TheHostIsToldOnTheReplaysThreadButOfItsOwnCommands) {
   EXPECT_EQ(2, program_.Of("vcontrol").size());
   for (const Told& told : program_.Of("vcontrol")) EXPECT_EQ(main_thread, told.thread);
   for (const Told& told : program_.Of("2:")) EXPECT_EQ(main_thread, told.thread);
-  // The sweep of macro slots at the natural end; the pause's is of the others.
+  // The sweep of macro slots at the natural end; the pause sweeps the others.
   EXPECT_FALSE(program_.Of("1:SLOTRELEASE:25").isEmpty());
   for (const Told& told : program_.Of("1:SLOTRELEASE:25")) EXPECT_EQ(thread, told.thread);
   for (const Told& told : program_.Of("1:SLOTRELEASE:17")) EXPECT_EQ(main_thread, told.thread);
@@ -144,8 +144,8 @@ constexpr int kStressSteps = 2000;
 class RealReplayStress : public RealReplay {
  protected:
   RealReplayStress() {
-    // A short one, so that it also ends by itself, and one that goes on. Some actions come at once; but not more than
-    // the main thread keeps up with, for it delivers all that is posted before it goes on.
+    // A short one, so that it also ends by itself, and one that continues. Some actions are due at once; but not more
+    // than the main thread can handle, because it delivers everything posted before it continues.
     QJsonArray steps;
     for (int i = 0; i < 4; ++i) {
       steps.append(TouchDown(4 + i % 3, i, QStringLiteral("(0.%1,0.5)").arg(i + 1)));
@@ -202,7 +202,7 @@ TEST_F(RealReplayStress, RequestsInAnyOrderLeaveNothingBehind) {
     EXPECT_GT(program_.Count(what), 0) << what;
   }
 
-  // One more that the user stops lifts whatever was left.
+  // One more that the user stops releases whatever was left.
   const int sweeps = program_.Count("2:SLOTRELEASEALL");
   StartReplay(0, 9, QString(), SaveSession(), {});
   StopReplay(9, folder_.Path("session.json"), true);
@@ -222,7 +222,7 @@ class LeavingMainWithReplays : public testing::Test {
  protected:
   LeavingMainWithReplays() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 
-  // Ends the process: 0 when all was well.
+  // Ends the process: with 0 if everything was correct.
   [[noreturn]] static void Leave() {
     int threads = 0;
     {

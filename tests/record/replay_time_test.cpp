@@ -1,4 +1,4 @@
-// When actions fall due, and what requests change about that.
+// When actions are due, and how requests change that.
 #include "record/replay_manager.h"
 #include "tests/record/replay_story.h"
 
@@ -34,7 +34,7 @@ TEST_F(ReplayTime, NoDelayIsTheNextPass) {
   EXPECT_STORY("0ms 2:KBDPR:30:1");
 }
 
-// A clock that was set back while something was recorded.
+// A clock that was set back during the recording.
 TEST_F(ReplayTime, ANegativeDelayIsNone) {
   Save("a.json", {KeyDown(100, 30), KeyUp(-50, 30), KeyDown(10, 17), KeyUp(1000, 17)});
   Start(7, "a.json");
@@ -82,7 +82,7 @@ TEST_F(ReplayTime, AnActionWithoutTypeEndsIt) {
     EXPECT_EQ(1, story.filter("2:KBDPR:30:1").size());
     EXPECT_EQ(1, story.filter("> finished 7 a.json").size());
     EXPECT_TRUE(story.filter("KBDRL").isEmpty());
-    // With the action before it, whatever delay its own has.
+    // With the previous action, whatever its own delay is.
     for (const QString& entry : story) EXPECT_EQ(story.first().section(' ', 0, 0), entry.section(' ', 0, 0));
     Stop(7, "a.json");
     TakeStory();
@@ -98,7 +98,7 @@ TEST_F(ReplayTime, RepeatsHaveTheirPause) {
 
 // ---- The end ----
 
-// The last action was signalled before, but it is performed by the main thread, and the end by the worker.
+// The last action was signalled before, but the main thread performs it, while the worker signals the end.
 TEST_F(ReplayTime, TheEndReleasesTheMacroSlotsOfTheLiveDisplay) {
   Save("a.json", {TouchDown(100, 0, "(0.5,0.5)"), KeyDown(100, 30)});
   Start(7, "a.json", 2.0, true);
@@ -178,7 +178,7 @@ TEST_F(ReplayTime, HalfTheSpeedIsTwiceTheTime) {
   EXPECT_LINES("200ms 2:KBDPR:30:1");
 }
 
-// The product is looked at, not its factors.
+// Depends on the product, not on its factors.
 TEST_F(ReplayTime, NoSpeedIsNormalSpeed) {
   Save("a.json", {KeyDown(100, 30), KeyUp(3000, 30)});
   Save("negative.json", {KeyDown(100, 17), KeyUp(3000, 17)}, {{"speed_ratio", -4}});
@@ -269,7 +269,7 @@ TEST_F(ReplayTime, APauseCountsFromTheLastAction) {
   EXPECT_STORY_NONE();
   Wait(1);
   EXPECT_LINES("1300ms 2:KBDRL:30:0");
-  Wait(5000);  // the delays after it are whole
+  Wait(5000);  // the delays after it are complete
   EXPECT_EQ("6300ms 2:KBDPR:17:1", TakeLines().last().toStdString());
 }
 
@@ -308,7 +308,7 @@ TEST_F(ReplayTime, APauseResetsTheLiveDisplayInFull) {
   Wait(20);
   TakeStory();
   Pause(7, "a.json");
-  // Told first; the reset follows on the main thread. Its sweep is of slots 0 to 17: the fixed ones and the taps.
+  // Called first; the reset follows on the main thread. It sweeps slots 0 to 17: the fixed ones and the taps.
   const QStringList story = TakeStory();
   EXPECT_EQ((QStringList{"20ms > paused 7 a.json", "20ms ! status 0"}), story.mid(0, 2));
   QStringList sweep;
@@ -383,7 +383,7 @@ TEST_F(ReplayTime, ARestartForgetsWhatIsHeld) {
 
 class ReplayEmulation : public ReplayStory {
  protected:
-  // Presses the middle of 1280 x 720 fifty times. That not one of them is moved has a chance below 1e-47.
+  // Presses the middle of 1280 x 720 fifty times. The probability that none of them is moved is below 1e-47.
   int PressesOutsideTheMiddle(bool emulation_mode) {
     Save("a.json", {TouchDown(10, 0, "(0.5,0.5)")}, {{"repeat_times", 50}});
     Start(7, "a.json", 1.0, emulation_mode);

@@ -1,4 +1,4 @@
-// What a recording is written as, and whether it is worth a file.
+// How a recording is written, and whether it is saved at all.
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
@@ -14,7 +14,7 @@
 namespace taviinputmanager {
 namespace {
 
-// The caller's list, which stays with it.
+// The caller keeps its list.
 class Recording {
  public:
   explicit Recording(std::initializer_list<RecordAction> actions) {
@@ -123,7 +123,7 @@ TEST_F(SaveRecord, TheResolutionIsThatOfTheGuestDisplay) {
   EXPECT_EQ(1600, info.value("resolution_y").toInt());
 }
 
-// Without a story there is no host, and so no display is known.
+// Without a story there is no host, and so the display is unknown.
 TEST(SaveRecordWithoutHost, TheResolutionIsTheUsualOne) {
   class Files : public RecordFiles {
    public:
@@ -155,7 +155,7 @@ TEST_F(SaveRecord, TheTotalOfAClockThatWasSetBackIsBelowZero) {
 TEST_F(SaveRecord, IsIndentedUtf8WithoutAByteOrderMark) {
   Recording recording{{0, "input_method", QString::fromUtf8("text_inject:\xe4\xbd\xa0\"\\\n\xf0\x9f\x98\x80"), "", ""}};
   ASSERT_EQ(0, Utils()->SaveRecord(QString::fromUtf8("\xd0\xb8"), Path("record.json"), recording.List()));
-  // Keys in ascending order, four columns a level, as this library writes.
+  // Keys in ascending order, four columns per level, as this library writes.
   EXPECT_EQ(
       "{\n"
       "    \"actions\": [\n"

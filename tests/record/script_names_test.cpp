@@ -15,7 +15,7 @@ namespace {
 
 class ScriptNames : public testing::Test, protected RecordFiles {
  protected:
-  // "app|package", of a file of one action with this data. What is not found stays "-".
+  // "app|package", for a file of one action with this data. A missing name stays "-".
   std::string NamesOf(const QString& data) {
     const QJsonObject action{{"type", "vcontrol"}, {"data", data}};
     return NamesIn(QJsonDocument(QJsonObject{{"actions", QJsonArray{action}}}).toJson());
@@ -89,7 +89,7 @@ TEST_F(ScriptNames, OnlyTheFirstActionIsLookedAt) {
   EXPECT_EQ("-|-", NamesIn(Text("{'actions': [{'data': 'release'}, " + marker + "]}")));
 }
 
-// A call that does not return is ended from outside, whatever the load of the machine: by computing time alone.
+// A call that does not return is ended by a limit of processor time, which is independent of the machine's load.
 TEST_F(ScriptNames, AreLookedForForEverWhereTheFirstActionHasNoData) {
   const struct {
     const char* name;

@@ -112,7 +112,7 @@ TEST(SingleRecordActions, ATimerHasNothingButItsType) {
   EXPECT_EQ(0, action.timing);
 }
 
-// (1 / speed) is taken first, then the product is cut off.
+// (1 / speed) is computed first, then the product is truncated.
 TEST(SingleRecordActions, SpeedDividesAndCutsOff) {
   const struct {
     const char* name;
@@ -152,7 +152,7 @@ TEST(SingleRecordActions, ThePauseBetweenRepeatsIsAtItsSpeed) {
 
 TEST(SingleRecordActions, TheOwnRatioIsNotAppliedTwice) {
   const auto actions = Single({{10, "a"}}, AtSpeed(5.0));
-  EXPECT_STEPS(actions.get(), "10 a") << "whoever plays it puts the ratio into the speed";
+  EXPECT_STEPS(actions.get(), "10 a") << "the caller includes the ratio in the speed";
 }
 
 TEST(RecordActions, TheBaseOnlyStartsOver) {

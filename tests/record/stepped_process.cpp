@@ -17,7 +17,7 @@ SteppedProcess::SteppedProcess(const std::function<void()>& what) : child_(fork(
   }
   is_running_ = child_ > 0;
   Wait();
-  if (is_running_) ptrace(PTRACE_SETOPTIONS, child_, nullptr, PTRACE_O_TRACESYSGOOD);  // calls are told from signals
+  if (is_running_) ptrace(PTRACE_SETOPTIONS, child_, nullptr, PTRACE_O_TRACESYSGOOD);  // calls are not signals
 }
 
 bool SteppedProcess::Step(int count) {

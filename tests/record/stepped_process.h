@@ -1,4 +1,4 @@
-// A process that can be stopped at each of its calls of the system, and ended there.
+// A process that can be stopped at each of its system calls, and killed there.
 #ifndef TESTS_RECORD_STEPPED_PROCESS_H_
 #define TESTS_RECORD_STEPPED_PROCESS_H_
 
@@ -7,7 +7,7 @@
 
 namespace taviinputmanager {
 
-// Does `what` in a child, which stands at its beginning at first. Linux. Killed, if need be, with this object.
+// Runs `what` in a child process, which first stops at its beginning. Linux. Killed, if necessary, with this object.
 class SteppedProcess {
  public:
   explicit SteppedProcess(const std::function<void()>& what);
@@ -15,19 +15,19 @@ class SteppedProcess {
   SteppedProcess& operator=(const SteppedProcess&) = delete;
   ~SteppedProcess() { Kill(); }
 
-  // Whether this system lets a process be stepped at all.
+  // Whether this system allows single-stepping a process at all.
   bool CanBeStepped() const { return is_running_; }
-  // On to where the next call begins or returns, so many times. False when the end came before.
+  // Continues to the next start or return of a call, this many times. False if the process ended before.
   bool Step(int count = 1);
-  // The call that begins here, by its number and its third argument; without a number where one returns.
+  // The call that starts here, by its number and its third argument; without a number if one returns.
   struct Call {
     long number = -1;
     unsigned long third_argument = 0;
   };
   Call BeginningCall() const;
-  // On to the end. False when it was killed on the way.
+  // Continues to the end. False if it was killed on the way.
   bool Finish();
-  // On with no file growing beyond `bytes`: the write that would cross that is cut short, the next one deadly.
+  // Continues with no file growing beyond `bytes`: the write that would exceed it is cut short, and the next one kills.
   bool FinishWithin(unsigned bytes);
   void Kill();
 

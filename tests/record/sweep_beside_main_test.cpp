@@ -1,5 +1,5 @@
-// The reset at the natural end of a replay runs on that replay's thread. Here it does so without end, beside each thing
-// of the main thread that it meets. ThreadSanitizer tells what is not guarded.
+// The reset at the natural end of a replay runs on that replay's thread. Here it runs endlessly, in parallel to each
+// activity of the main thread that it may meet. ThreadSanitizer reports unguarded data.
 #include <atomic>
 #include <thread>
 
@@ -21,7 +21,7 @@ class SweepBesideMain : public testing::Test {
     SetInputEventSyncFunc(reinterpret_cast<void*>(&Mirror));
   }
 
-  // Sweeps as long as the main thread makes its rounds.
+  // Sweeps while the main thread repeats its activities.
   static void Beside(const std::function<void(int round)>& main_thread) {
     std::atomic<bool> is_over{false};
     std::atomic<int> sweeps{0};
@@ -48,7 +48,7 @@ class SweepBesideMain : public testing::Test {
   ReplayFolder folder_;
 };
 
-// Each record begins with its marker, and holds nothing that is no action.
+// Each record begins with its marker, and contains nothing but actions.
 TEST_F(SweepBesideMain, Recording) {
   const QString path = folder_.Path("a.json");
   Beside([&](int round) {
@@ -109,14 +109,14 @@ TEST_F(SweepBesideMain, InputThatMacrosHold) {
     held->joystick_buttons.insert(QString::number(round));
     if (round % 3 == 0) held->Clear();
   });
-  // What was asked for last is done at the next look.
+  // The last request is applied at the next use.
   InputStatusManager::GetInstance()->ResetInputStatus(kResetMacro, 0);
   EXPECT_TRUE(MacroHeldInput::GetInstance()->keys.IsEmpty());
   EXPECT_TRUE(MacroHeldInput::GetInstance()->mouse_buttons.IsEmpty());
   EXPECT_TRUE(MacroHeldInput::GetInstance()->joystick_buttons.empty());
 }
 
-// A keymap without Staring item never comes out of a reset with view control, however the two meet.
+// A keymap without a Staring item is never left in view control by a reset, however the two meet.
 TEST_F(SweepBesideMain, TheStatus) {
   InputStatusManager* status = InputStatusManager::GetInstance();
   Beside([status](int round) {

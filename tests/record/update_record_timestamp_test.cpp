@@ -1,4 +1,4 @@
-// A new time of creation in a file of which all else stays.
+// Sets the creation time in a file without changing anything else.
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -116,12 +116,12 @@ TEST_F(UpdateTimestamp, ThrowsForAHeaderThatIsNoObject) {
   ExpectThrows<Poco::NullPointerException>("a number", "{'info': 5}");
 }
 
-// The parser refuses a value that is in nothing, so that it is never asked for the object.
+// The parser rejects a value that is not in an object or list, so it is never asked for the object.
 TEST_F(UpdateTimestamp, ThrowsForARootThatHoldsNothing) {
   for (const char* root : {"null", "true", "5", "'info'"}) ExpectThrows<Poco::JSON::JSONException>(root, root);
 }
 
-// 1024 levels, of which the root is one; what it writes can be read again.
+// 1024 levels, including the root; the result can be read again.
 TEST_F(UpdateTimestamp, NestedAsDeepAsAnyReaderReads) {
   const struct {
     const char* name;

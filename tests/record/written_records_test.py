@@ -19,7 +19,7 @@ except ImportError:
     print("skipped: python3-jsonschema is not installed")
     sys.exit(77)
 
-# But for two whose actions are made up.
+# Except two whose actions are invented.
 FILTER = "SaveRecord.*:RecordManager*-SaveRecord.TheTotalIsASumOf64Bits:SaveRecord.IsReadBackAsItWas"
 FEWEST_RECORDS = 5  # fewer, and the filter has lost its tests
 

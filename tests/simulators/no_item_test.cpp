@@ -1,4 +1,4 @@
-// Simulators that are handed no item do nothing.
+// Simulators that get no item do nothing.
 #include "core/input_status_manager.h"
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "handlers/qt_wheel_event_simulate_handler.h"
@@ -55,7 +55,7 @@ TEST_F(NoItem, PressesNothing) {
         Get<VStickLeftShiftButtonEventSimulator>(), Get<VStickLeftStickSimulator>(), Get<VStickRightStickSimulator>(),
         Get<WheelEventSimulator>(), Get<ZoomEventSimulator>()}) {
     simulator->Press(nullptr, &key);
-    // The release of a curve goes by the key alone, and lifts the finger of a run that has ended.
+    // The release of a curve only uses the key, and releases the contact of a run that has ended.
     if (simulator != Get<CurveEventSimulator>()) simulator->Release(nullptr, &key);
     Wait(200);
     EXPECT_WIRE_NONE();

@@ -1,4 +1,4 @@
-// Where a fraction of the display is cut off to a pixel and where it is rounded: displays and points at which the two
+// Where a fraction of the display is truncated to a pixel and where it is rounded: displays and points at which the two
 // differ.
 #include "keymap/tavikeymapmanager.h"
 #include "taviinputmanager/taviinputmanager.h"

@@ -1,5 +1,5 @@
-// Rapid taps, curves, slides and pinches on real threads and the real clock: order and counts, and that no line comes
-// too early.
+// Rapid taps, curves, slides and pinches on real threads in real time: order and counts, and that no line comes too
+// early.
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -75,7 +75,7 @@ class RealRuns : public testing::Test {
     item->bunch_count = count;
     return item;
   }
-  // Without items, where none was added since the last.
+  // Without items if none was added since the last.
   void Load() {
     test::SetNextKeymap(std::exchange(config_, nullptr));
     OnLoadKeymapConfigAndInfo("test.yaml", "com.example.game", QString(), 1);
@@ -84,7 +84,7 @@ class RealRuns : public testing::Test {
     times_.clear();
   }
 
-  // Lets time pass until there are lines enough.
+  // Lets time pass until there are enough lines.
   bool RunUntil(const std::function<bool()>& condition) {
     return RunEventsUntil([&] {
       Collect();
@@ -94,9 +94,9 @@ class RealRuns : public testing::Test {
   bool RunUntilLines(int count) {
     return RunUntil([this, count] { return lines_.size() >= count; });
   }
-  // Lets time pass until no line has come for a while; false if they never cease.
+  // Lets time pass until no line has come for a while; false if they never stop.
   bool RunUntilQuiet() { return RunUntilQuiet(lines_); }
-  // The same of anything that grows.
+  // The same for anything that increases.
   template <typename List>
   bool RunUntilQuiet(const List& list) {
     int count = -1;
@@ -120,7 +120,7 @@ class RealRuns : public testing::Test {
     }
   }
 
-  std::unique_ptr<QGuiApplication> application_;  // ends all runs when it goes
+  std::unique_ptr<QGuiApplication> application_;  // destruction ends all runs
   KeymapConfig* config_ = nullptr;                // of the next load, which takes it
 };
 
@@ -151,7 +151,7 @@ TEST_F(RealRuns, AOneOffRunHasItsCountAndNoBeatComesEarly) {
   ASSERT_EQ(7, lines_.size());
   ExpectTaps(lines_.mid(0, 6));
   EXPECT_TRUE(lines_[6].contains("SLOTRELEASE"));
-  // Five beats of 25 ms. The first line may be late, and each millisecond is a cut one.
+  // Five beats of 25 ms. The first line may be late, and each millisecond is truncated.
   EXPECT_GE(times_[6], 5 * 25 - 5);
 }
 
@@ -184,7 +184,7 @@ TEST_F(RealRuns, RunsStandSideBySide) {
   simulator->Press(e, &e->key);
   ASSERT_TRUE(RunUntil([this] { return lines_.filter("320:360").size() > 9 && lines_.filter("640:360").size() > 9; }));
   simulator->Release(w, &w->key);
-  // Sooner or later the other one alone goes on.
+  // Sooner or later only the other one continues.
   EXPECT_TRUE(RunUntil([this] {
     const QStringList last = lines_.mid(lines_.size() - 40);
     return last.filter("640:360").size() > 10 && last.filter("320:360").isEmpty();
@@ -193,7 +193,7 @@ TEST_F(RealRuns, RunsStandSideBySide) {
   EXPECT_TRUE(RunUntilQuiet());
 }
 
-// No line comes of it, so the story listens to the button itself.
+// It produces no line, so the story listens to the button itself.
 TEST_F(RealRuns, ARapidVirtualButtonIsToldInOrderUntilAKeymapLoadEndsIt) {
   auto* item = Add<VirtualJoystickBunchButtonConfigItem>(17, 0);
   item->map_text = "A";
@@ -210,7 +210,7 @@ TEST_F(RealRuns, ARapidVirtualButtonIsToldInOrderUntilAKeymapLoadEndsIt) {
   });
   simulator->Press(item, &item->key);
   ASSERT_TRUE(RunUntil([&presses] { return presses.size() >= 50; }));
-  Load();  // the item is gone
+  Load();  // the item is deleted
   ASSERT_TRUE(RunUntilQuiet(presses));
   EXPECT_FALSE(presses.last());
   for (int i = 0; i + 1 < presses.size(); ++i) EXPECT_EQ(i % 2 == 0, presses[i]) << i;
@@ -263,7 +263,7 @@ TEST_F(RealRuns, AKeymapLoadEndsRunsInFullFlight) {
     BunchTapEventSimulator::GetInstance()->Release(one_off, &one_off->key);
     CurveEventSimulator::GetInstance()->Press(curve, &curve->key);
     ASSERT_TRUE(RunUntil([this] { return lines_.filter("SLOTPRESS:5").size() > 2; }));
-    Load();  // the items are gone
+    Load();  // the items are deleted
     EXPECT_TRUE(RunUntilQuiet());
   }
 }

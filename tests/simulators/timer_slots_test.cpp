@@ -1,4 +1,4 @@
-// What a timer does can be asked for by the slot's name, as any code does that knows no more than the object.
+// A timer's slot can be called by its name, as by code that knows nothing but the object.
 #include <QMetaObject>
 
 #include "simulators/cast/spell_event_simulator.h"

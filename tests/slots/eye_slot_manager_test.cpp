@@ -45,7 +45,7 @@ TEST_F(EyeSlot, KnowsWhetherAnyKeyIsHeld) {
     eye_->SetDirectionKey(direction, false);
   }
   EXPECT_FALSE(eye_->HasDirection());
-  eye_->SetDirectionKey(5, true);  // no direction
+  eye_->SetDirectionKey(5, true);  // not a direction
   EXPECT_FALSE(eye_->HasDirection());
 }
 
@@ -57,7 +57,7 @@ TEST_F(EyeSlot, StopsAtTheEndsOfAnInt) {
   EXPECT_EQ(QPoint(std::numeric_limits<int>::max(), std::numeric_limits<int>::min()), eye_->position);
 }
 
-// The opposite of the lowest int is none.
+// The negation of the lowest int does not exist.
 TEST_F(EyeSlot, AStepOfAnyLengthIsTakenEitherWay) {
   constexpr int kLowest = std::numeric_limits<int>::min();
   eye_->SetDirectionKey(kDirectionLeft, true);

@@ -34,7 +34,7 @@ TEST_F(TapPool, OnePointHasOneSlot) {
   EXPECT_EQ("SLOTPRESS:11:11:1:1:640:360\n", Press(0.5, 0.5));
   EXPECT_EQ("SLOTPRESS:11:11:1:1:640:360\n", Press(0.5, 0.5));
   EXPECT_EQ("SLOTRELEASE:11\n", Release(0.5, 0.5));
-  EXPECT_EQ("SLOTRELEASE:11\n", Release(0.5, 0.5));  // not in use, and still known
+  EXPECT_EQ("SLOTRELEASE:11\n", Release(0.5, 0.5));  // free, but still recorded
 }
 
 TEST_F(TapPool, APointMustBeTheSameToTheLastBit) {

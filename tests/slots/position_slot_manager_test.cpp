@@ -83,7 +83,7 @@ TEST_F(Slots, TheRightWalkRemembersItsLastTouch) {
   EXPECT_EQ(0, walk->ElapsedSinceLastMove());
   Wait(299);
   EXPECT_EQ(299, walk->ElapsedSinceLastMove());
-  walk->Reset();  // forgets the finger, not the time
+  walk->Reset();  // clears the contact, not the time
   EXPECT_EQ(299, walk->ElapsedSinceLastMove());
   EXPECT_EQ(touched + 299, walk->TouchLastMove());
 }

@@ -76,10 +76,10 @@ TEST_F(SwipeholdSlot, TheLastKeyOfAnAxisWinsWhereTheItemSaysSo) {
   walk_->SetDirectionKey(kDirectionDown, true);
   EXPECT_EQ(QPoint(256, 488), walk_->GetTargetPoint());
   EXPECT_FALSE(walk_->IsTargetAtCenter());
-  walk_->SetDirectionKey(kDirectionDown, false);  // the one that is left counts by itself
+  walk_->SetDirectionKey(kDirectionDown, false);  // the remaining one counts by itself
   EXPECT_EQ(QPoint(256, 232), walk_->GetTargetPoint());
   walk_->SetDirectionKey(kDirectionDown, true);
-  walk_->SetDirectionKey(kDirectionUp, true);  // pressed anew without a release
+  walk_->SetDirectionKey(kDirectionUp, true);  // pressed again without a release
   EXPECT_EQ(QPoint(256, 232), walk_->GetTargetPoint());
 }
 
@@ -147,7 +147,7 @@ TEST_F(SwipeholdSlot, WithoutHostTheDisplayIs1280By720) {
   EXPECT_EQ(128, walk_->GetRadius());
 }
 
-// 128 * 1.3 = 166.4 and 91 * 1.3 = 118.3, both cut; back from the radii of the item, not from those.
+// 128 * 1.3 = 166.4 and 91 * 1.3 = 118.3, both truncated; reset from the radii of the item, not from those.
 TEST_F(SwipeholdSlot, AFactorScalesBothRadii) {
   Place(walk_);
   walk_->SetRadiusFactor(1.3);

@@ -21,7 +21,7 @@ using Kind = tavi::ScriptCommand::Kind;
 using tavi::ScriptCommand;
 
 class ReenteringHost;
-ReenteringHost* host = nullptr;  // functions of the host have no room for it
+ReenteringHost* host = nullptr;  // functions of the host have no place for it
 
 // TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run; the events are those from outside.
 class ReenteringHost : public Story {
@@ -31,8 +31,8 @@ class ReenteringHost : public Story {
   static constexpr int kEventsAKeymap = 500;
   static constexpr int kDisplay = 1;  // primary: mirrored and recorded
   static constexpr int kRecords = 3;
-  static constexpr int kDeepest = 4;       // calls inside each other
-  static constexpr int kLineInterval = 3;  // every so many functions of the host call back, and fewer of the inner ones
+  static constexpr int kDeepest = 4;       // nested calls
+  static constexpr int kLineInterval = 3;  // one in this many functions calls back, fewer of the nested ones
   static constexpr int kQuietMs = 2000;
 
   ReenteringHost() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(seed_), player_(&Time(), &Host()) {
@@ -50,7 +50,7 @@ class ReenteringHost : public Story {
     test::InterruptWith([this](const QString&) { CallBack(); });
     const auto written = Host().interruption;
     Host().interruption = [this, written](const tavi::TimelineEntry& entry) {
-      Listen();  // the guest has a line before the host does anything else
+      Listen();  // the guest gets a line before the host does anything else
       written(entry);
     };
   }
@@ -86,7 +86,7 @@ class ReenteringHost : public Story {
     --depth_;
   }
 
-  // Every function that is allowed there, input most often.
+  // Every function that is allowed there, mostly input.
   void CallSomething() {
     switch (random_.Below(12)) {
       case 0: return SendSomething();
@@ -96,7 +96,7 @@ class ReenteringHost : public Story {
       default: return FeedSomething();
     }
   }
-  // What is down often comes up from inside.
+  // What is down is often released from inside.
   void FeedSomething() {
     ScriptCommand command = random_.SomeCommand();
     if (command.kind == Kind::kWait) command = LastPress();
@@ -134,7 +134,7 @@ class ReenteringHost : public Story {
       default: return static_cast<void>(GetInputStatus());
     }
   }
-  // A file is written only while no replay has it.
+  // A file is written only while no replay uses it.
   void Record() {
     const int id = random_.Below(kRecords);
     switch (random_.Below(8)) {
@@ -165,7 +165,7 @@ class ReenteringHost : public Story {
   }
   QString RecordPath(int id) const { return records_.filePath(QStringLiteral("%1.json").arg(id)); }
 
-  // The last replay is stopped by the user, which lifts all that replays hold.
+  // The last replay is stopped by the user, which releases everything that replays hold.
   void EndReplays() {
     StopAllReplay();
     QFile last(RecordPath(kRecords));
@@ -193,7 +193,7 @@ class ReenteringHost : public Story {
     }
   }
 
-  // From here on the host only listens.
+  // From here on the host makes no calls.
   void LetGoOfEverything() {
     is_quiet_ = true;
     Host().text_input = false;

@@ -1,4 +1,4 @@
-// Random input, for long: nothing may crash, hang, or stay pressed in the guest.
+// Random input for a long time: nothing may crash, hang, or stay pressed in the guest.
 #include <malloc.h>
 
 #include <QFile>
@@ -29,10 +29,10 @@ class Soak : public Story {
   static constexpr int kRecordedDisplay = 1;
   static constexpr int kRecords = 4;
   static constexpr qint64 kLargestPart = 200000;
-  // A run of this length or longer is also one about memory.
+  // A run of this length or longer also checks memory.
   static constexpr int kLongRun = 1000000;
-  // Between two quiet moments with the same keymaps: what the heap has cached. Less than the smallest block, 32 bytes,
-  // lost at every four-hundredth event of the shortest of such runs.
+  // The heap's caches may differ between two quiet moments with the same keymaps. Less than the smallest block, 32
+  // bytes, lost at every four-hundredth event of the shortest of such runs.
   static constexpr qint64 kMemoryTolerance = 64 * 1024;
 
   Soak() : seed_(FromEnvironment("TAVI_SOAK_SEED", kUsualSeed)), random_(seed_) {
@@ -65,7 +65,7 @@ class Soak : public Story {
     OnLoadJoystickConfigAndInfo("soak.yaml", 0);
   }
 
-  // What a host does from time to time, in the middle of every gesture.
+  // Occasional actions of a host, in the middle of every gesture.
   void DoSomethingRare() {
     switch (Below(9)) {
       case 0: return LoadSomeKeymap();
@@ -82,8 +82,8 @@ class Soak : public Story {
     }
   }
 
-  // Recordings of display 1, and replays to it. A file is in one replay at a time, and merged or recorded anew only
-  // while it is in none.
+  // Recordings of display 1, and replays to it. A file is used by one replay at a time, and merged or recorded only
+  // while it is used by none.
   void RecordOrReplay() {
     Host().primary_display = kRecordedDisplay;
     UpdateReplayDisplayId(kRecordedDisplay);
@@ -109,7 +109,7 @@ class Soak : public Story {
     }
   }
   QString RecordPath(int id) const { return records_.filePath(QStringLiteral("%1.json").arg(id)); }
-  // Not of merged ones without end: those that grow too large stay out.
+  // Does not merge merged records endlessly: those that grow too large are excluded.
   void MergeSomeRecords(const QString& target) {
     QVector<MergeParam> parts;
     for (int i = 0; i < 3; ++i) {
@@ -119,7 +119,7 @@ class Soak : public Story {
     }
     MergeRecord(target, parts);
   }
-  // The last one is stopped by the user, which lifts all that replays hold.
+  // The last one is stopped by the user, which releases everything that replays hold.
   void EndReplays() {
     StopAllReplay();
     QFile last(RecordPath(kRecords));
@@ -132,7 +132,7 @@ class Soak : public Story {
     Wait(1);
   }
 
-  // Nothing plays or is recorded, no timer of a gesture runs, and the keymaps are always the same.
+  // Nothing is replayed or recorded, no timer of a gesture runs, and the keymaps are always the same.
   void ComeToRest() {
     LoadKeymap(random_.Keymaps().first());
     LoadJoystickKeymap(random_.JoystickKeymaps().first());
@@ -143,7 +143,7 @@ class Soak : public Story {
     Listen();
   }
 
-  // Bytes that are taken from the heap. A sanitizer's heap is not asked for them: 0.
+  // Allocated bytes. A sanitizer's heap does not report them: 0.
   static qint64 MemoryInUse() {
     if (!test::CountsAllocations()) return 0;
     const struct mallinfo2 heap = mallinfo2();
@@ -157,14 +157,14 @@ class Soak : public Story {
     }
   }
 
-  // The library knows of no button that is down: a host that changes displays or keymaps in between lets go of its
-  // gamepads itself, and here it does so at the end. The second kind of gamepad has every button.
+  // The library does not know which buttons are down: a host that changes displays or keymaps in between releases its
+  // gamepads itself, which is done at the end here. The second kind of gamepad has every button.
   void LetGoOfGamepads() {
     Host().joystick_type = 2;
     for (const int simulate_mode : {0, 1}) {
       Settings().joystick_transparent = true;
       Wheel().simulate_mode = simulate_mode;
-      LoadJoystick();  // takes nothing, passes all on
+      LoadJoystick();  // has no items, passes everything through
       for (int display = 0; display <= kDisplays; ++display) {
         UpdateDisplayId(display);
         for (int button = 0; button <= 13; ++button) Play(QStringLiteral("joy up %1").arg(button));

@@ -17,7 +17,8 @@ thread_local std::int64_t allocation_count = 0;
 
 }  // namespace
 
-// In front of the C library's, which operator new and Qt's containers call. The names behind are glibc's own.
+// Override the functions of the C library, which operator new and Qt's containers call. The names that they call are
+// glibc's own.
 extern "C" {
 
 void* __libc_malloc(std::size_t size);

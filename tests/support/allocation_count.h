@@ -1,4 +1,4 @@
-// Counts what is taken from the heap.
+// Counts heap allocations.
 #ifndef TESTS_SUPPORT_ALLOCATION_COUNT_H_
 #define TESTS_SUPPORT_ALLOCATION_COUNT_H_
 
@@ -6,11 +6,11 @@
 
 namespace taviinputmanager::test {
 
-// Whether this build counts. Sanitizers bring a heap of their own.
+// Whether this build counts. Sanitizers have a heap of their own.
 bool CountsAllocations();
 
-// Blocks that the calling thread has asked for since it began, by malloc, calloc, realloc or operator new, of the tree
-// and of every library under it. A program that asks is one whose heap is watched.
+// The number of blocks that the calling thread has allocated since it started, by malloc, calloc, realloc or operator
+// new, in the tree and every library that it uses. Calling this function links the counting into the program.
 std::int64_t AllocationCount();
 
 }  // namespace taviinputmanager::test

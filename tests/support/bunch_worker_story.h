@@ -1,4 +1,4 @@
-// Stories of the workers of rapid taps without a run around them: what they signal.
+// Stories of the workers of rapid taps without a run: their signals.
 #ifndef TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
 #define TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
 
@@ -20,7 +20,7 @@ class BunchWorkerStory : public Story {
     QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](auto... what) { Add("release", what...); });
     QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](auto... what) { Add("finish", what...); });
   }
-  // A held run and a single tap, of an item that changes once they are made.
+  // A held run and a single tap, of an item that changes after they were created.
   template <typename ContinueWorker, typename OneOffWorker, typename Item>
   void PlayBothWhileTheItemChanges(Item item) {
     ContinueWorker held(&item);
@@ -33,7 +33,7 @@ class BunchWorkerStory : public Story {
     once.OneOffProcess();
     Wait(25);
   }
-  // What was signalled since the last look: "press, release". Each is of the point (0.25, 0.5) or of the button "LB".
+  // The signals since the last call: "press, release". Each has the point (0.25, 0.5) or the button "LB".
   std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
 
  private:

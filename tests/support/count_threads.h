@@ -12,8 +12,8 @@
 
 namespace taviinputmanager {
 
-// A sanitizer starts a thread of its own beside the first that a program starts. That first one is gone only a moment
-// after it was joined.
+// A sanitizer starts a thread of its own with the program's first one. That one disappears only a moment after it was
+// joined.
 inline bool StartAFirstThread() {
   QString task;
   std::thread([&task] { task = QStringLiteral("/proc/self/task/%1").arg(syscall(SYS_gettid)); }).join();
@@ -21,14 +21,14 @@ inline bool StartAFirstThread() {
   return true;
 }
 
-// Of this process, with those of its libraries and of a sanitizer.
+// Of this process, including those of its libraries and of a sanitizer.
 inline int CountThreads() {
   static const bool sanitizer_is_ready = StartAFirstThread();
   static_cast<void>(sanitizer_is_ready);
   return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
 }
 
-// Whether no more than `count` are left. Qt tells that a thread is through a moment before it is gone.
+// Whether at most `count` are left. Qt reports that a thread has finished a moment before it is gone.
 inline bool ThreadsComeDownTo(int count) {
   const QDeadlineTimer limit(10000);
   while (CountThreads() > count) {

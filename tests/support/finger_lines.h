@@ -1,4 +1,4 @@
-// The lines of one finger, as EXPECT_WIRE takes them.
+// The lines of one contact, for EXPECT_WIRE.
 #ifndef TESTS_SUPPORT_FINGER_LINES_H_
 #define TESTS_SUPPORT_FINGER_LINES_H_
 

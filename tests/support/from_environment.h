@@ -1,4 +1,4 @@
-// Numbers by which a long test is made longer.
+// Numbers from the environment that make a long test longer.
 #ifndef TESTS_SUPPORT_FROM_ENVIRONMENT_H_
 #define TESTS_SUPPORT_FROM_ENVIRONMENT_H_
 

@@ -1,4 +1,4 @@
-// Disks that take only so much, and files of other users.
+// Full disks, and files of other users.
 #ifndef TESTS_SUPPORT_FULL_DISK_H_
 #define TESTS_SUPPORT_FULL_DISK_H_
 
@@ -9,7 +9,7 @@
 
 namespace tavi {
 
-// While it lives, no file of this process and of those it starts grows beyond so many bytes.
+// While it exists, no file of this process and its children grows beyond this many bytes.
 class FileSizeLimit {
  public:
   explicit FileSizeLimit(rlim_t bytes) : before_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -33,7 +33,7 @@ constexpr uid_t kNobody = 65534;
 
 inline bool IsRoot() { return geteuid() == 0; }
 
-// While it lives, root is another user.
+// While it exists, root acts as another user.
 class AsNobody {
  public:
   AsNobody() : is_done_(seteuid(kNobody) == 0) {}

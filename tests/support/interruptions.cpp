@@ -10,7 +10,7 @@ namespace {
 
 using tavi::SimulatedHost;
 
-// The members of the library's table have no room for it.
+// Plain functions of the library's table have no place for it.
 std::function<void(const QString&)> at_question;
 
 SimulatedHost& Host() { return *SimulatedHost::GetInstance(); }

@@ -1,4 +1,4 @@
-// A host that does something from inside the functions that the library calls.
+// A host that does something inside the functions that the library calls.
 #ifndef TESTS_SUPPORT_INTERRUPTIONS_H_
 #define TESTS_SUPPORT_INTERRUPTIONS_H_
 
@@ -8,12 +8,12 @@
 
 namespace taviinputmanager::test {
 
-// From now on `interruption` runs inside every line, text and callback that the simulated host gets, once it was
-// written down, and inside every question, before the answer. `what` is the text of the timeline's entry
-// ("1:KBDPR:30:1", "status 1 F") or the name of the question ("GetDisplayRect").
+// From now on `interruption` runs inside every line, text and callback that the simulated host gets, after it was
+// logged, and inside every question, before the answer. `what` is the text of the timeline's entry ("1:KBDPR:30:1",
+// "status 1 F") or the name of the question ("GetDisplayRect").
 void InterruptWith(std::function<void(const QString& what)> interruption);
 
-// The same, once: at the first of them that is `what`.
+// The same, only once: at the first that matches `what`.
 void InterruptAt(const QString& what, std::function<void()> action);
 
 }  // namespace taviinputmanager::test

@@ -1,4 +1,4 @@
-// A keyboard of 105 keys, from the tables of its makers.
+// A keyboard of 105 keys, from its manufacturers' tables.
 #ifndef TESTS_SUPPORT_KEYBOARD_105_H_
 #define TESTS_SUPPORT_KEYBOARD_105_H_
 
@@ -8,7 +8,7 @@ struct KeyboardKey {
   const char* name;
   int linux_code;
   int scancode;    // Windows, set 1, the extended bit as 0x100
-  int guest_code;  // what the guest gets: the Linux code, where the library has a conversion for the key
+  int guest_code;  // the code for the guest: the Linux code, if the library has a conversion for the key
 };
 
 constexpr KeyboardKey kKeyboard105[] = {

@@ -1,4 +1,4 @@
-// Where the tests' keymaps come from: the loader functions of the contract, in front of the keymap library's.
+// The tests' keymaps: replaces the loader functions of the keymap library.
 #ifndef TESTS_SUPPORT_KEYMAP_SOURCE_H_
 #define TESTS_SUPPORT_KEYMAP_SOURCE_H_
 
@@ -10,14 +10,14 @@
 
 namespace taviinputmanager::test {
 
-// What the next load gets; given away to it. A load without one gets an empty config.
+// Sets the result of the next load, which takes ownership. A load without one gets an empty config.
 void SetNextKeymap(tavikeymapmanager::KeymapConfig* config);
 void SetNextJoystickKeymap(tavikeymapmanager::KeymapConfig* config);
-// Loads give null from now on, as a library does that failed.
+// Loads return null from now on, like a library that failed.
 void FailLoads(bool fail);
-// Is called when a keymap is asked for, before it is given.
+// Is called when a keymap is requested, before it is returned.
 void SetLoadListener(std::function<void()> listener);
-// How often a keymap was asked for, and the path of the last time. Not all paths: a run of hours loads for ever.
+// The number of loads, and the path of the last one. Not all paths, because a run of hours loads endlessly.
 int KeymapLoads();
 QString LastKeymapPath();
 

@@ -1,4 +1,4 @@
-// A guest that reads lines for any number of displays and knows what is down.
+// A guest that parses lines for any number of displays and knows what is down.
 #ifndef TESTS_SUPPORT_MODEL_GUEST_H_
 #define TESTS_SUPPORT_MODEL_GUEST_H_
 
@@ -11,17 +11,17 @@
 
 namespace taviinputmanager {
 
-// Reads lines as a host's send functions get them, without their ends. What it cannot read, or what leaves the ranges
-// that the library keeps to, it remembers.
+// Parses lines as a host's send functions get them, without their ends. It records lines that it cannot parse, or that
+// leave the library's ranges.
 class ModelGuest {
  public:
   void Read(const QString& line);
   // Text has no display.
   void ReadText(const QString& line);
 
-  // Fingers and keys: "display 1: slots 2 11, keys 30"; empty when nothing is down anywhere.
+  // Contacts and keys: "display 1: slots 2 11, keys 30"; empty if nothing is down anywhere.
   QString WhatIsDown() const;
-  // "display 1: 304 left stick"; empty when all gamepads are at rest.
+  // "display 1: 304 left stick"; empty if all gamepads are at rest.
   QString WhatGamepadsHold() const;
   const QStringList& Unreadable() const { return unreadable_; }
 

@@ -1,4 +1,4 @@
-// How a failed expectation shows points.
+// How a failed expectation prints points.
 #ifndef TESTS_SUPPORT_PRINT_POINTS_H_
 #define TESTS_SUPPORT_PRINT_POINTS_H_
 

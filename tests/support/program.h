@@ -24,7 +24,7 @@ class Program : public testing::Test {
  protected:
   Program() : application_(argument_count_, arguments_) {}
 
-  // Writes a file into the test's own folder, which the program is started in.
+  // Writes a file to the test's own folder, in which the program is started.
   void Write(const QString& name, const char* text) {
     QFile file(folder_.filePath(name));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -15,7 +15,7 @@ using tavi::ScriptCommand;
 
 RandomInput::RandomInput(int seed) : random_(static_cast<unsigned>(seed)) {
   for (const QString& name : tavikeymapmanager::AllKeyNames()) AddKey(name);
-  // The keys that keymaps use come up more often than the hundred others.
+  // The keys that keymaps use are more frequent than the hundred others.
   for (const char* name : {"W", "A", "S", "D", "Q", "E", "R", "F", "Space", "Left Shift", "Grave", "Left Alt", "Esc"}) {
     for (int i = 0; i < 8; ++i) AddKey(name);
   }

@@ -34,7 +34,7 @@ class RandomInput {
 
  private:
   void AddKey(const QString& name);
-  // Of all layouts, the hat, and some that no layout has.
+  // Of all layouts, the hat, and some unknown ones.
   QString SomePadButton();
 
   std::mt19937 random_;

@@ -1,4 +1,4 @@
-// Waiting on the real clock for something to come about.
+// Waits in real time for a condition.
 #ifndef TESTS_SUPPORT_RUN_UNTIL_H_
 #define TESTS_SUPPORT_RUN_UNTIL_H_
 
@@ -10,7 +10,7 @@
 
 namespace taviinputmanager {
 
-// Runs the event loop until `condition` holds; false where that takes too long to be right.
+// Runs the event loop until `condition` holds; false if that takes unreasonably long.
 inline bool RunEventsUntil(const std::function<bool()>& condition) {
   const QDeadlineTimer limit(60000);
   QTimer heartbeat;

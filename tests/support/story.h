@@ -1,4 +1,4 @@
-// Tests that read as stories: a keymap, input with its times, and the lines that the guest gets.
+// Tests as stories: a keymap, timed input, and the lines for the guest.
 #ifndef TESTS_SUPPORT_STORY_H_
 #define TESTS_SUPPORT_STORY_H_
 
@@ -21,8 +21,8 @@ class VirtualEventDispatcher;
 
 namespace taviinputmanager {
 
-// A guest view of 1280 x 720 on a display and a touch surface of the same size, so that pixels pass unchanged unless a
-// test sets another geometry. Time is virtual; its zero is the last load.
+// A guest view of 1280 x 720 on a display and a touch surface of the same size, so that pixels are unchanged unless a
+// test sets another geometry. Time is virtual, and starts at 0 with the last load.
 class Story : public testing::Test {
  protected:
   Story();
@@ -30,7 +30,7 @@ class Story : public testing::Test {
 
   static tavi::SimulatedHost& Host() { return *tavi::SimulatedHost::GetInstance(); }
 
-  // Makes an item for the next load. `key` is a key's name; the keymap owns the item.
+  // Creates an item for the next load. `key` is a key's name; the keymap owns the item.
   template <typename Item>
   Item* Add(const QString& type, const QString& key = {}, const QPointF& point = {}) {
     auto* item = new Item;
@@ -45,22 +45,22 @@ class Story : public testing::Test {
   tavikeymapmanager::KeymapSettings& Settings() { return *Pending().settings; }
   tavikeymapmanager::WheelSettings& Wheel() { return *Pending().wheel_settings; }
 
-  // Loads what was added as the keymap. What that says is forgotten, and time zero is now.
+  // Loads the added items as the keymap. Clears the timeline, and time starts at 0 now.
   void Load(int display = 1, const QString& package = QStringLiteral("com.example.game"),
             const QString& path = QStringLiteral("test.yaml"));
-  // The same as the joystick keymap.
+  // The same for the gamepad keymap.
   void LoadJoystick();
 
-  // Commands between semicolons or newlines. A test fails on a script that cannot be read.
+  // Commands separated by semicolons or newlines. A script with errors fails the test.
   void Play(const QString& script);
-  // The same from inside a callback of the host: nothing that was posted runs, and time stands still.
+  // The same inside a callback of the host: posted events are not delivered, and no time passes.
   void Feed(const QString& script);
   void Wait(int ms);
 
-  // Guest lines, and callbacks, since each was last asked for.
+  // Guest lines, and callbacks, since the previous call for the same.
   QStringList TakeWire();
   QStringList TakeCalls();
-  // Forgets what was said so far.
+  // Clears the timeline.
   void Forget();
 
   tavi::VirtualEventDispatcher& Time() { return *clock_; }
@@ -70,7 +70,7 @@ class Story : public testing::Test {
   void Collect();
   void StartTimeline();
 
-  tavi::VirtualEventDispatcher* clock_;  // the application's
+  tavi::VirtualEventDispatcher* clock_;  // owned by the application
   std::unique_ptr<QGuiApplication> application_;
   std::unique_ptr<tavi::ScriptPlayer> player_;
   std::unique_ptr<tavikeymapmanager::KeymapConfig> pending_;

@@ -7,10 +7,10 @@
 
 namespace taviinputmanager {
 
-// Items for a keymap of a shooter, all without throttles. Pixels are those of the usual display of 1280 x 720.
+// Items for a shooter's keymap, all without throttles. Pixels are those of the usual display of 1280 x 720.
 class ViewStory : public Story {
  protected:
-  // Of the callbacks, these stories are about the status alone.
+  // Of the callbacks, these stories use only the status.
   ViewStory() {
     Host().table.OnEscapeKeyOccupied = nullptr;
     Host().table.OnMappedDeviceUsed = nullptr;
@@ -35,7 +35,7 @@ class ViewStory : public Story {
     return Add<tavikeymapmanager::ObserveConfigItem>("Observe", key, {0.25, 0.5});
   }
 
-  // From a fresh load into view control, whose line and callback are forgotten.
+  // Enters view control after a load, and clears its line and callback.
   void Stare() {
     Load();
     Play("down F; up F");

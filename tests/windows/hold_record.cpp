@@ -1,6 +1,6 @@
-// Holds a file as a replay does, or tries what another program could do to it. For Windows.
+// Holds a file like a replay, or tries what another program could do to it. For Windows.
 //
-//   hold_record hold PATH     prints "held" or "not held", waits for the end of its input, and lets go
+//   hold_record hold PATH     prints "held" or "not held", waits for the end of its input, and closes it
 //   hold_record try PATH      prints "read yes write no delete no", as far as each is allowed; deletes nothing
 #include <cstdio>
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace {
 
-// A path with slashes, as Qt has it; the characters of these tests are ASCII.
+// A path with slashes, like Qt's; the characters of these tests are ASCII.
 std::u16string Wide(const char* path) {
   const std::string text(path);
   return std::u16string(text.begin(), text.end());
@@ -29,7 +29,7 @@ int Hold(const char* path) {
   return 0;
 }
 
-// Shares everything, so that only the holder's wish can be in the way.
+// Shares everything, so that only the holder can prevent access.
 const char* Opens(const char* path, DWORD access) {
   const HANDLE file = CreateFileA(path, access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                   OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);

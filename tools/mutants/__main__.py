@@ -1,15 +1,15 @@
 #!/usr/bin/env python3
-"""Changes the library in one small place at a time, and tells which changes no test notices.
+"""Makes small changes to the library, one at a time, and prints those that no test detects.
 
-    tools/mutants [N [SEED]]     N changes (30) drawn by SEED (another one at each run)
-    tools/mutants listed         the changes of tests/mutants/equivalent.txt: a test that notices one proves it wrong
+    tools/mutants [N [SEED]]     N changes (30), drawn with SEED (a new one for each run)
+    tools/mutants listed         the changes in tests/mutants/equivalent.txt: a test that detects one refutes it
     tools/mutants PATH:LINE      every change of a line
-TAVI_MUTANTS_JOBS=4 tries four at a time.
+TAVI_MUTANTS_JOBS=4 tests four at a time.
 
-Each change is built in build/mutants, apart from the checkout, and meets those tests that run its line, the nearest
-first, until one fails. Results are kept: the same N and SEED go on where a run was interrupted, and after new tests
-only what had survived is tried again. Exits with 1 when less than 95 per cent of what can be seen were killed, when
-something listed was noticed, or when an entry of that file fits no line any more.
+Each change is built in build/mutants, separate from the checkout, and the tests that run its line are run, the nearest
+first, until one fails. Results are kept: the same N and SEED continue after an interruption, and after new tests only
+the changes that survived are tested again. Exits with 1 if less than 95 per cent of the observable changes were
+detected, if a listed change was detected, or if an entry of that file no longer matches a line.
 """
 import hashlib
 import os
@@ -58,8 +58,8 @@ class Trial:
         try:
             verdict, by = self._meet(changed, runner, tests, [LIBRARY])
             if verdict == SURVIVED and change.path.endswith(".h"):
-                # Programs of tests have their own copy of what stands in a header, and may run that alone: no trace of
-                # the library tells of it.
+                # Test programs have their own copy of inline functions, and may run only that: the library's trace does
+                # not show it.
                 tests = list(dict.fromkeys([*self._reach.tests_that_include(change), *tests]))
                 programs = sorted({os.path.relpath(test.program, self._build.folder) for test in tests})
                 verdict, by = self._meet(changed, runner, tests, [LIBRARY, *programs])

@@ -1,4 +1,4 @@
-"""Builds the copy of the tree, and what a change of one of its files makes anew, beside that build.
+"""Builds the copy of the tree, and, beside that build, what a change of one of its files requires.
 
 The state of the build is read once and never changes: any number of threads may try changes, each in a folder of its
 own.
@@ -15,8 +15,8 @@ import listing
 import tree_copy
 
 LIBRARY = "taviinputmanager"
-# Folders of the library's rooms, in which changes are made. A room's own folders belong to it.
-ROOMS = ("core", "slots", "simulators", "handlers", "record", "entry")
+# Folders of the library in which changes are made, including their subfolders.
+FOLDERS = ("core", "slots", "simulators", "handlers", "record", "entry")
 
 
 class BuildFailed(Exception):
@@ -24,7 +24,7 @@ class BuildFailed(Exception):
 
 
 def _run(command, folder):
-    """Runs a command line of the build, without the compiler's cache: nobody will build this again."""
+    """Runs a command line of the build, without the compiler cache: this is never built again."""
     environment = dict(os.environ, CCACHE_DISABLE="1", LC_ALL="C")
     if subprocess.run(command, shell=True, cwd=folder, env=environment, stdout=subprocess.DEVNULL,
                       stderr=subprocess.DEVNULL).returncode != 0:
@@ -37,7 +37,7 @@ def _output_of(command):
 
 @dataclass
 class ChangedFile:
-    """A file of the tree and what it is to hold instead. What is built of it goes to `spare`."""
+    """A file of the tree and its new content. What is built from it goes to `spare`."""
     path: str  # from the root
     line: int  # the changed one
     text: str
@@ -68,8 +68,8 @@ class Build:
         self._read_commands()
 
     def sources(self):
-        """Files of the rooms that this platform compiles, from the root."""
-        files = [file for room in ROOMS for file in (self.root / room).rglob("*") if file.suffix in (".h", ".cpp")]
+        """The library's files that this platform compiles, relative to the root."""
+        files = [file for folder in FOLDERS for file in (self.root / folder).rglob("*") if file.suffix in (".h", ".cpp")]
         return [str(file.relative_to(self.root)) for file in sorted(files) if not file.stem.endswith("_windows")]
 
     def library(self):
@@ -94,7 +94,7 @@ class Build:
         return any(folder in f"/{name}" for name in self._dependents.get(path, ()))
 
     def is_same_when_optimised(self, changed):
-        """Whether the optimiser makes the same code of the changed file: then nothing can tell them apart."""
+        """Whether the optimizer generates the same code from the changed file: then no test can detect the change."""
         text = (self.root / changed.path).read_text()
         return self._optimised(replace(changed, text=text)) == self._optimised(changed)
 

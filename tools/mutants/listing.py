@@ -1,4 +1,4 @@
-"""What the disassembly of the library tells of its lines."""
+"""The lines of the library, from its disassembly."""
 import os
 import re
 import subprocess
@@ -25,7 +25,7 @@ def _read(library, root):
 
 def lines_of_blocks(library, root):
     """For each return address of a block's trace call, the lines of the block: those up to the next call. A function's
-    first instructions stand in front of its first call."""
+    first instructions precede its first call."""
     blocks, block, line = {}, set(), ""
     in_prologue = is_call_before = False
     for kind, what, *more in _read(library, root):

@@ -52,7 +52,7 @@ class Reach:
 
     def tests_of(self, change):
         """Tests that run the changed line, the nearest first. A line without code of its own, such as the constant of a
-        file, is run by whoever runs anything of the file."""
+        file, is run by every test that runs anything of the file."""
         names = self._by_line.get(f"{change.path}:{change.line}")
         for above in range(1, 4):
             names = names or self._by_line.get(f"{change.path}:{change.line - above}")
@@ -66,12 +66,12 @@ class Reach:
         return sorted(tests, key=lambda test: self._distance(change, test))
 
     @staticmethod
-    def _is_of_room(test, change):
+    def _is_of_folder(test, change):
         return test.program.name == "test_" + change.path.rsplit("/", 1)[0].replace("/", "_")
 
     def _distance(self, change, test):
-        """A test of the same room is near, and one that runs little else."""
-        return not self._is_of_room(test, change), self._lines_run[test.name], test.name
+        """A test of the same folder is near, and so is one that runs little else."""
+        return not self._is_of_folder(test, change), self._lines_run[test.name], test.name
 
     @functools.cached_property
     def _blocks(self):

@@ -57,7 +57,7 @@ class Runner:
 
     def run(self, test, limit, replaced=None, **environment):
         """How it ended and in how many seconds: "passed", "failed", "crashed" or "hung". `replaced` names files that
-        stand for others: shared libraries, and the program itself."""
+        replace others: shared libraries, and the program itself."""
         replaced = replaced or {}
         libraries = ":".join(str(made.parent) for made in replaced.values() if ".so" in made.name)
         everything = dict(os.environ, TMPDIR=str(self._scratch), HOME=str(self._scratch), LD_LIBRARY_PATH=libraries,

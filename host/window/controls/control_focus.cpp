@@ -14,7 +14,7 @@ namespace tavi {
 
 namespace {
 
-// What Qt makes by itself.
+// Qt creates them itself.
 constexpr char kMoreButton[] = "qt_toolbar_ext_button";
 constexpr char kCloseButton[] = "qt_dockwidget_closebutton";
 
@@ -38,7 +38,7 @@ ControlFocus::ControlFocus(QMainWindow* window, QWidget* view)
   NameParts();
 }
 
-// Buttons and fields show themselves that they have the keys; lists do not.
+// Buttons and fields draw their own focus; lists do not.
 void ControlFocus::Mark(QWidget* focused) {
   const bool is_list = qobject_cast<QAbstractScrollArea*>(focused) != nullptr && focused->window() == window_;
   frame_->setWidget(is_list ? focused : nullptr);
@@ -64,7 +64,7 @@ void ControlFocus::Take() {
   }
 }
 
-// The keys go with the release of Escape: a guest is not to get half of a key.
+// The focus moves when Escape is released: the guest must not get half a keystroke.
 bool ControlFocus::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::ChildPolished:
@@ -84,7 +84,7 @@ bool ControlFocus::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-// Buttons that fold out a bar and close a dock, and the tabs of docks that share a place.
+// Buttons that expand a bar or close a dock, and the tabs of docks that share an area.
 void ControlFocus::NameParts() {
   for (auto* button : window_->findChildren<QToolButton*>(QLatin1String(kMoreButton))) {
     button->setAccessibleName(QStringLiteral("More of %1").arg(button->parentWidget()->windowTitle()));
@@ -96,7 +96,7 @@ void ControlFocus::NameParts() {
     ReachByTab(button);
   }
   for (auto* tabs : window_->findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly)) {
-    tabs->setAccessibleName(QStringLiteral("Lists in this place"));
+    tabs->setAccessibleName(QStringLiteral("Lists in this area"));
     ReachByTab(tabs);
   }
 }

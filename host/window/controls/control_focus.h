@@ -11,25 +11,25 @@ class QWidget;
 
 namespace tavi {
 
-// The way of the keys from the guest's view, where all of them are the guest's, to the controls of the window and back:
-// Take leads to the first control, Tab walks them all but the view, Escape leads back to the view.
+// Moves the focus between the guest view, where all keys go to the guest, and the window's controls: Take focuses the
+// first control, Tab visits all controls except the view, Escape returns to the view.
 //
 // Main thread.
 class ControlFocus : public QObject {
   Q_OBJECT
 
  public:
-  // Both outlive it. Tool bars and docks that the window has later on are looked after as well.
+  // Both outlive it. Tool bars and docks that the window creates later are included.
   ControlFocus(QMainWindow* window, QWidget* view);
 
-  // Tab goes through the buttons of these bars in this order.
+  // Tab visits the buttons of these bars in this order.
   void SetBars(const QVector<QToolBar*>& bars);
 
-  // Gives the keys to the first control. A dialog or a menu that is open keeps them.
+  // Focuses the first control. An open dialog or menu keeps the focus.
   void Take();
 
  protected:
-  // Key events that no control wants come by here.
+  // Receives the key events that no control handles.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -39,13 +39,13 @@ class ControlFocus : public QObject {
   QMainWindow* window_;
   QWidget* view_;
   QVector<QToolBar*> bars_;
-  QFocusFrame* frame_;       // around a list that has the keys
-  bool is_leaving_ = false;  // Escape is down, and is nobody else's
+  QFocusFrame* frame_;       // around the list that has the focus
+  bool is_leaving_ = false;  // Escape is down and belongs to no control
 };
 
-// Has a control answer to Tab, while a click at it leaves the keys where they are.
+// Makes a control reachable by Tab; a click on it leaves the focus where it is.
 void ReachByTab(QWidget* control);
-// The same of all buttons of a tool bar; what its widgets are called is what is read of them.
+// The same for all buttons of a tool bar. Screen readers read their accessible names.
 void ReachByTab(QToolBar* bar);
 
 }  // namespace tavi

@@ -8,7 +8,7 @@
 namespace tavi {
 
 bool DoLongWork(QWidget* parent, const QString& title, const std::function<void()>& work) {
-  QProgressDialog dialog(title, QStringLiteral("Cancel"), 0, 0, parent);  // without an end that is known
+  QProgressDialog dialog(title, QStringLiteral("Cancel"), 0, 0, parent);  // 0: the length is unknown
   dialog.setWindowModality(Qt::WindowModal);
   dialog.show();
 
@@ -16,7 +16,7 @@ bool DoLongWork(QWidget* parent, const QString& title, const std::function<void(
   QEventLoop loop;
   QObject::connect(thread, &QThread::finished, &loop, &QEventLoop::quit);
   QObject::connect(&dialog, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
-  // What was cancelled may be at work when the program ends.
+  // Cancelled work may still be running when the program ends.
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, thread, [thread] { thread->wait(); });
   QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
   thread->start();

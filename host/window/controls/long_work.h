@@ -8,10 +8,10 @@ class QWidget;
 
 namespace tavi {
 
-// Does `work` on a thread of its own, while the window of `parent` goes on to be painted and the guest to get what is
-// under way. A dialog with `title` keeps the person company, who may cancel. Returns true when the work is done.
+// Runs `work` on a thread of its own, while the window of `parent` keeps painting and the guest keeps getting its
+// lines. A dialog with `title` is shown, in which the user may cancel. Returns true when the work is done.
 //
-// After a cancel false comes at once, and the work goes on to its end unseen: it touches only what it owns.
+// After a cancel it returns false at once, and the work runs to its end unseen: it touches only what it owns.
 //
 // Main thread.
 bool DoLongWork(QWidget* parent, const QString& title, const std::function<void()>& work);

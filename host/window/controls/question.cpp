@@ -12,7 +12,7 @@ namespace tavi {
 
 namespace {
 
-// A dialog of Qt's own has lists that nothing names; one of the desktop has none of them.
+// Qt's own dialog has lists without accessible names; the desktop's dialog does not.
 QString FileOf(QFileDialog* dialog) {
   const std::pair<const char*, QString> rows[] = {{"lookInCombo", QStringLiteral("Folder")},
                                                   {"fileTypeCombo", QStringLiteral("Files of type")}};
@@ -31,13 +31,13 @@ Ask AskIn(QWidget* window) {
       QPushButton* button = box.addButton(answer.button);
       if (!answer.text.isEmpty()) button->setText(answer.text);
     }
-    // Where nothing can be saved, Enter by itself must not lose anything.
+    // When nothing can be saved, pressing Enter must not lose anything.
     if (box.button(QMessageBox::Save) == nullptr) box.setDefaultButton(QMessageBox::Cancel);
     return static_cast<QMessageBox::StandardButton>(box.exec());
   };
 }
 
-// The dialog itself adds the suffix, before it asks whether a file of that name is to be replaced.
+// The dialog adds the suffix itself, before it asks whether to replace an existing file.
 AskForName AskForNameIn(QWidget* window) {
   return [window](const SaveQuestion& question) {
     QFileDialog dialog(window, question.title, QString(), question.types);

@@ -1,4 +1,4 @@
-// What a person is asked for in a window.
+// What a window asks the user.
 #ifndef HOST_WINDOW_CONTROLS_QUESTION_H_
 #define HOST_WINDOW_CONTROLS_QUESTION_H_
 
@@ -12,30 +12,30 @@ class QWidget;
 
 namespace tavi {
 
-// A button that answers a question; `text` is what is on it, or nothing for what such buttons always have.
+// A button that answers a question. `text` is its label, or empty for the standard one.
 struct Answer {
   QMessageBox::StandardButton button = QMessageBox::NoButton;
   QString text;
 };
 
-// Puts a question to a person, who gives one of the answers. One of them is Cancel, for who gives none.
+// Asks the user, who gives one of the answers. One of them is Cancel, also the result of closing the dialog.
 using Ask = std::function<QMessageBox::StandardButton(const QString& question, const QVector<Answer>& answers)>;
 // In a dialog of this window.
 Ask AskIn(QWidget* window);
 
-// Where to save something.
+// Where to save a file.
 struct SaveQuestion {
   QString title;
   QString proposal;  // a folder or a file
-  QString types;     // as file dialogs take them
-  QString suffix;    // without its dot; for names that have none
+  QString types;     // in the format of file dialogs
+  QString suffix;    // without its dot; added to names that have none
 };
 
-// Asks for the name of a file to save something in; empty when the person backs out.
+// Asks for the name of a file to save to; empty if the user cancels.
 using AskForName = std::function<QString(const SaveQuestion& question)>;
 AskForName AskForNameIn(QWidget* window);
 
-// Asks for a file that there is, first in `folder`; empty when the person backs out. `types` as file dialogs take them.
+// Asks for an existing file, first in `folder`; empty if the user cancels. `types` is in the format of file dialogs.
 QString AskForFile(QWidget* window, const QString& title, const QString& folder, const QString& types);
 
 }  // namespace tavi

@@ -27,7 +27,7 @@ bool StaleRepeats::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-// What is no repeat ends it: the key was let go, or pressed anew.
+// Any event but a repeat ends it: the key was released, or pressed again.
 bool StaleRepeats::IsStale(const QKeyEvent& event) {
   const quint32 key = NativeKeyOf(event).scancode;
   if (event.isAutoRepeat()) return held_.contains(key);

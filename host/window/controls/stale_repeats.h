@@ -8,8 +8,9 @@ class QKeyEvent;
 
 namespace tavi {
 
-// Keys that were pressed over the guest and are still held repeat into whatever gets the focus: a dialog's file name
-// would begin with a row of them. Until they are let go, such repeats are taken from all events of the application.
+// Keys that were pressed over the guest and are still held repeat into the widget that gets the focus next: the file
+// name of a dialog would begin with a row of them. This filter drops such repeats, from all events of the application,
+// until the keys are released.
 //
 // Main thread.
 class StaleRepeats : public QObject {
@@ -18,7 +19,7 @@ class StaleRepeats : public QObject {
  public:
   explicit StaleRepeats(QObject* parent = nullptr);
 
-  // From now on these keys, by native scan codes, are meant; none: everything passes.
+  // From now on the repeats of these keys, given as native scan codes, are dropped. An empty list drops nothing.
   void Take(const QSet<quint32>& held);
 
  protected:

@@ -8,9 +8,9 @@ namespace tavi {
 
 namespace {
 
-constexpr int kAround = 24;    // of the bar: its edges, its grip, what is between texts
+constexpr int kAround = 24;    // of the bar: its edges, its size grip, the gaps between texts
 constexpr int kGap = 6;        // between two labels
-constexpr int kUsualPart = 2;  // the usual text may push labels out of one in so many pixels
+constexpr int kUsualPart = 2;  // the usual text may push labels out once per this many pixels
 
 int WidthOf(const QLabel* label) { return label->isHidden() ? 0 : label->sizeHint().width() + kGap; }
 
@@ -22,13 +22,13 @@ StatusRoom::StatusRoom(QStatusBar* bar, QLabel* usual, const QVector<QLabel*>& w
   connect(bar, &QStatusBar::messageChanged, this, &StatusRoom::Arrange);
 }
 
-// A text that changes asks for another layout.
+// A changed text needs a new layout.
 bool StatusRoom::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) Arrange();
   return QObject::eventFilter(watched, event);
 }
 
-// Labels that step back stay visible to who asks: whether they are shown is for their owners to say.
+// Hidden labels keep their visible flag: their owners decide whether they are shown.
 void StatusRoom::Arrange() {
   const QString message = bar_->currentMessage();
   const int usual = qMin(usual_->sizeHint().width(), bar_->width() / kUsualPart);

@@ -9,15 +9,15 @@ class QStatusBar;
 
 namespace tavi {
 
-// Gives the text at the left of a status bar the room that it needs: in a narrow window the labels at the right step
-// back, a message being worth more than they are while it is told.
+// Gives the text at the left of a status bar the room that it needs: in a narrow window the labels at the right give
+// way, because a message matters more while it is shown.
 //
 // Main thread.
 class StatusRoom : public QObject {
   Q_OBJECT
 
  public:
-  // `usual` stands at the left while there is no message. The first of `waiting` are the first to go.
+  // `usual` is shown at the left while there is no message. The first of `waiting` are the first to give way.
   StatusRoom(QStatusBar* bar, QLabel* usual, const QVector<QLabel*>& waiting);
 
  protected:

@@ -8,17 +8,19 @@
 #include "host/editor/keymap_document.h"
 #include "host/session/live_host.h"
 #include "host/window/editor/edit_painter.h"
+#include "keymapmanager/item_types.h"
 #include "qt/mouse_events.h"
 
 namespace tavi {
 
+namespace km = tavikeymapmanager;
 using Shape = ItemHandle::Shape;
 
 namespace {
 
 constexpr double kItemReach = 18;   // pixels from an item's point
 constexpr double kHandleReach = 9;  // from a handle
-constexpr double kDragStart = 3;    // a click is no drag
+constexpr double kDragStart = 3;    // a click is not a drag
 constexpr int kLargeNudge = 10;     // pixels of the guest
 const QString kPoint = QStringLiteral("point");
 
@@ -32,13 +34,13 @@ QPoint ArrowOf(int key) {
   }
 }
 
-// Where an item touches, as opposed to what belongs to it.
+// A point that the item touches, as opposed to its other handles.
 bool IsPlace(const ItemHandle& handle) { return handle.field == kPoint || handle.field == QLatin1String("alt_point"); }
 
 }  // namespace
 
 EditLayer::EditLayer(KeymapDocument* document, QWidget* view) : QWidget(view->parentWidget()), document_(document) {
-  setFocusPolicy(Qt::ClickFocus);  // Tab goes from item to item here
+  setFocusPolicy(Qt::ClickFocus);  // Tab moves from item to item here
   setAccessibleName(QStringLiteral("Items on the screen"));
   setMouseTracking(true);
   setGeometry(view->geometry());
@@ -53,8 +55,10 @@ bool EditLayer::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// Behind an undone deletion the same index may be another item.
+// After an undone deletion the same index may be another item.
 void EditLayer::TakeDocument() {
+  ForgetOthers();
+  drag_.is_active = false;  // it held what is gone
   const bool has_other_items = document_->ItemCount() != item_count_;
   item_count_ = document_->ItemCount();
   if (has_other_items) Select(-1);
@@ -65,6 +69,8 @@ void EditLayer::Select(int item) {
   if (item >= document_->ItemCount()) item = -1;
   update();
   if (item == selected_) return;
+  if (drag_.is_active) CancelDrag();
+  ForgetOthers();
   selected_ = item;
   nudged_index_ = -1;
   Q_EMIT SelectionChanged(item);
@@ -78,7 +84,7 @@ QVector<ItemHandle> EditLayer::HandlesAt(int item) const { return HandlesOf(*doc
 
 // ---- Mouse
 
-// Of several items at one place the first one, or the selected one, so that it can be dragged away from the others.
+// Of several items at one point, the selected one, so that it can be dragged away from the others; otherwise the first.
 int EditLayer::ItemUnder(const QPointF& place) const {
   int nearest = -1;
   double best = kItemReach;
@@ -118,9 +124,9 @@ void EditLayer::mousePressEvent(QMouseEvent* event) {
   const QVector<ItemHandle> handles = HandlesAt(selected_);
   const ItemHandle* handle = HandleUnder(qt::PlaceOf(*event), handles);
   if (handle == nullptr) return;
-  drag_ = {
-      true, *handle, qt::PlaceOf(*event) - handle->place, false, qt::PlaceOf(*event), document_->UndoStack()->index()};
-  ++gesture_;
+  const QPointF place = qt::PlaceOf(*event);
+  const QVector<double> before = km::NumbersOfField(*document_->Item(selected_), handle->field);
+  drag_ = {true, *handle, place - handle->place, false, place, before, {}};
 }
 
 void EditLayer::mouseMoveEvent(QMouseEvent* event) {
@@ -142,7 +148,7 @@ void EditLayer::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void EditLayer::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) drag_.is_active = false;
+  if (event->button() == Qt::LeftButton && drag_.is_active) DropItem();
   update();
 }
 
@@ -151,15 +157,27 @@ void EditLayer::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void EditLayer::DragTo(const QPointF& place) {
-  const HandleValue value = ValueAt(drag_.handle, place - drag_.grip, size());
-  const QString& field = drag_.handle.field;
-  Report(value.pair ? document_->SetPair(selected_, field, *value.pair, gesture_)
-                    : document_->SetNumber(selected_, field, value.number, gesture_));
+  drag_.value = ValueAt(drag_.handle, place - drag_.grip, size());
+  const std::optional<QPointF>& pair = drag_.value.pair;
+  ShowNumbers(pair ? QVector<double>{pair->x(), pair->y()} : QVector<double>{drag_.value.number});
+}
+
+void EditLayer::ShowNumbers(const QVector<double>& numbers) {
+  km::SetNumbersOfField(document_->Item(selected_), drag_.handle.field, numbers);
+  update();
 }
 
 void EditLayer::CancelDrag() {
   drag_.is_active = false;
-  if (document_->UndoStack()->index() > drag_.steps_before) document_->UndoStack()->undo();
+  ShowNumbers(drag_.before);
+}
+
+void EditLayer::DropItem() {
+  CancelDrag();
+  if (!drag_.has_moved) return;
+  const QString& field = drag_.handle.field;
+  Report(drag_.value.pair ? document_->SetPair(selected_, field, *drag_.value.pair)
+                          : document_->SetNumber(selected_, field, drag_.value.number));
 }
 
 void EditLayer::Report(const QString& problem) {
@@ -194,7 +212,7 @@ void EditLayer::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// Arrow keys in a row are one step back.
+// A run of arrow keys is one undo step.
 bool EditLayer::Nudge(const QKeyEvent& event) {
   const QPoint arrow = ArrowOf(event.key());
   const QVector<ItemHandle> handles = HandlesAt(selected_);
@@ -219,14 +237,36 @@ void EditLayer::SelectNext(int step) {
 
 // ---- Drawing
 
+void EditLayer::hideEvent(QHideEvent* /*event*/) {
+  if (drag_.is_active) CancelDrag();
+}
+
+void EditLayer::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) ForgetOthers();  // with other colours
+  QWidget::changeEvent(event);
+}
+
 void EditLayer::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawPixmap(0, 0, Others());
+  if (selected_ >= 0) EditPainter(&painter, size()).PaintSelected(*document_->Item(selected_));
+}
+
+const QPixmap& EditLayer::Others() {
+  const double ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
+  if (others_.size() == pixels) return others_;
+  others_ = QPixmap(pixels);
+  others_.setDevicePixelRatio(ratio);
+  others_.fill(Qt::transparent);
+  QPainter painter(&others_);
   painter.setRenderHint(QPainter::Antialiasing);
   const EditPainter items(&painter, size());
   for (int item = 0; item < document_->ItemCount(); ++item) {
     if (item != selected_) items.PaintItem(*document_->Item(item));
   }
-  if (selected_ >= 0) items.PaintSelected(*document_->Item(selected_));
+  return others_;
 }
 
 }  // namespace tavi

@@ -1,7 +1,9 @@
 #ifndef HOST_WINDOW_EDITOR_EDIT_LAYER_H_
 #define HOST_WINDOW_EDITOR_EDIT_LAYER_H_
 
+#include <QPixmap>
 #include <QPointF>
+#include <QVector>
 #include <QWidget>
 
 #include "host/editor/item_handles.h"
@@ -10,14 +12,14 @@ namespace tavi {
 
 class KeymapDocument;
 
-// Lies over the guest view while a keymap is edited, and takes its mouse and keys: items are selected, dragged and
-// nudged on it. The keys themselves are drawn by the view below.
+// Covers the guest view while a keymap is edited, and receives its mouse and keys: you select, drag and nudge items on
+// it. The view below draws the keys.
 class EditLayer : public QWidget {
   Q_OBJECT
 
  public:
-  // Covers `view`, wherever it goes; hidden at first. It stands beside the view, not in it, so that nothing that it
-  // leaves comes to the guest. `document` outlives the layer.
+  // Covers `view`, following its geometry; hidden at first. It is the view's sibling, not its child, so that no event
+  // that it ignores reaches the guest. `document` outlives the layer.
   EditLayer(KeymapDocument* document, QWidget* view);
 
   int Selected() const { return selected_; }  // -1: nothing
@@ -29,15 +31,17 @@ class EditLayer : public QWidget {
   void SelectionChanged(int item);
   // An edit was refused.
   void Refused(const QString& problem);
-  // The selected item is to get a key.
+  // The user wants to bind a key to the selected item.
   void BindWanted();
   void DeleteWanted();
-  // A menu for the selected item, or for this place where nothing is.
+  // The user wants a menu for the selected item, or for this point if there is none.
   void MenuWanted(const QPoint& global, const QPointF& fraction);
 
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -52,16 +56,24 @@ class EditLayer : public QWidget {
     QPointF grip;  // from the handle to the pointer
     bool has_moved = false;
     QPointF pressed;
-    int steps_before = 0;  // on the undo stack
+    QVector<double> before;  // the field's numbers
+    HandleValue value;       // and what it is to have
   };
 
   void TakeDocument();
   QVector<ItemHandle> HandlesAt(int item) const;
-  // The selected item's handle at that place; null when there is none.
+  // The selected item's handle at that point, or null.
   const ItemHandle* HandleUnder(const QPointF& place, const QVector<ItemHandle>& handles) const;
   int ItemUnder(const QPointF& place) const;
+  // Shows the item at its new place. The file is only written at the end, since it is read again after each change.
   void DragTo(const QPointF& place);
+  void ShowNumbers(const QVector<double>& numbers);
+  // Restores the item from the file.
   void CancelDrag();
+  void DropItem();
+  // A picture of all items but the selected one.
+  const QPixmap& Others();
+  void ForgetOthers() { others_ = QPixmap(); }
   bool Nudge(const QKeyEvent& event);
   void SelectNext(int step);
   void Report(const QString& problem);
@@ -70,8 +82,9 @@ class EditLayer : public QWidget {
   int selected_ = -1;
   int item_count_ = 0;
   Drag drag_;
-  int gesture_ = 0;        // counts drags and runs of arrow keys, which are one step back each
-  int nudged_index_ = -1;  // of the undo stack behind the last nudge, while it may be joined by the next
+  QPixmap others_;         // null until drawn
+  int gesture_ = 0;        // counts drags and runs of arrow keys; each is one undo step
+  int nudged_index_ = -1;  // of the undo stack after the last nudge, while the next nudge may join it
 };
 
 }  // namespace tavi

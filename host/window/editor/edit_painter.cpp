@@ -60,7 +60,7 @@ void EditPainter::PaintShape(const ItemHandle& handle) const {
   }
 }
 
-// The item's own point is a ring with four ticks, so that the key in it stays legible; all else is a knob.
+// The item's own point is a ring with four ticks, so that its key stays legible; all other handles are knobs.
 void EditPainter::PaintGrip(const ItemHandle& handle) const {
   if (handle.field != QLatin1String("point")) {
     painter_->setPen(QPen(theme::Colors().backdrop, 1.5));

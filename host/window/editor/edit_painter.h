@@ -12,14 +12,14 @@ namespace tavi {
 
 struct ItemHandle;
 
-// Draws what can be dragged of a keymap's items, on a view of that size.
+// Draws the draggable parts of a keymap's items, on a view of that size.
 class EditPainter {
  public:
   EditPainter(QPainter* painter, const QSizeF& view) : painter_(painter), view_(view) {}
 
-  // Where the item stands.
+  // The item's position.
   void PaintItem(const tavikeymapmanager::ConfigItem& item) const;
-  // The same, with its handles, circles and areas, and the point in numbers.
+  // The same with its handles, circles and areas, and the point's coordinates.
   void PaintSelected(const tavikeymapmanager::ConfigItem& item) const;
 
  private:

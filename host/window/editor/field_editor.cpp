@@ -94,8 +94,8 @@ QVector<QWidget*> FieldEditor::Controls() const {
 void FieldEditor::Show(const QString& written, const QString& in_use) {
   ShowProblem(QString());
   if (choice_ != nullptr) {
-    choice_->setItemText(0, in_use.isEmpty() || !written.isEmpty() ? QStringLiteral("not written")
-                                                                   : QStringLiteral("%1, not written").arg(in_use));
+    choice_->setItemText(0, in_use.isEmpty() || !written.isEmpty() ? QStringLiteral("not in the file")
+                                                                   : QStringLiteral("%1, not in the file").arg(in_use));
     choice_->setCurrentIndex(qMax(0, choice_->findData(written)));
     return;
   }
@@ -113,7 +113,7 @@ void FieldEditor::Commit() {
   if (line_ != nullptr && line_->isEnabled()) TakeLine();
 }
 
-// Return and the loss of the focus both finish; a text that was refused is not told twice.
+// Return and the loss of the focus both finish; a refused text is reported only once.
 void FieldEditor::TakeLine() {
   if (line_->text() == shown_) return ShowProblem(QString());
   shown_ = line_->text();

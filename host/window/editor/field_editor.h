@@ -15,27 +15,27 @@ namespace tavi {
 
 class KeyListener;
 
-// One field of an item: a line to type in, a choice, or a key to press, and what is wrong with it below.
+// One field of an item: a line edit, a choice or a key button, with its error below.
 class FieldEditor : public QWidget {
   Q_OBJECT
 
  public:
   explicit FieldEditor(const tavikeymapmanager::FieldInfo& info, QWidget* parent = nullptr);
 
-  // `written` is what the file has, empty when it does not write the field; `in_use` what counts then.
+  // `written` is the field's text in the file, empty if the field is absent; `in_use` is the value that applies then.
   void Show(const QString& written, const QString& in_use);
   void ShowProblem(const QString& problem);
-  // Takes over what was typed and not confirmed yet.
+  // Applies what was typed and not confirmed yet.
   void Commit();
 
-  // Of a key; null for other fields.
+  // The key button; null for other fields.
   KeyListener* Listener() const { return listener_; }
   QLineEdit* Line() const { return line_; }
-  // Those that Tab goes to, in their order.
+  // The widgets that Tab visits, in order.
   QVector<QWidget*> Controls() const;
 
  Q_SIGNALS:
-  // A person wants the field to have this text; empty: not written.
+  // The user wants the field to have this text; empty removes it.
   void Entered(const QString& text);
 
  private:
@@ -49,7 +49,7 @@ class FieldEditor : public QWidget {
   QComboBox* choice_ = nullptr;
   KeyListener* listener_ = nullptr;
   QLabel* problem_;
-  QString shown_;  // what the line had when it was last shown
+  QString shown_;  // the line's text when it was last shown
 };
 
 // Whether a field of this kind is one value that a line can hold.

@@ -29,7 +29,7 @@ namespace {
 constexpr int kListHeight = 150;
 const QString kLabel = QStringLiteral("label");
 
-// The blocks of a keymap beside its items, in the order that a file has them in.
+// The blocks of a keymap beside its items, in the order of the file.
 struct BlockRow {
   const char* name;
   const char* doc;
@@ -37,16 +37,17 @@ struct BlockRow {
 };
 
 constexpr BlockRow kBlocks[] = {
-    {"settings", "What holds for the whole keymap: how keys, mouse and gamepads pass, and how view control feels.",
+    {"settings",
+     "Settings of the whole keymap: which keys, mouse and gamepad input passes through, and how view control feels.",
      "settings:\n  keyboard_transparent: true"},
-    {"wheel", "What the wheel of the mouse does where no item takes it.", "wheel:\n  wheel_delta: 1.0"},
+    {"wheel", "What the mouse wheel does when no item uses it.", "wheel:\n  wheel_delta: 1.0"},
 };
 
 FieldInfo LabelField() {
   FieldInfo label;
   label.name = kLabel;
   label.kind = FieldKind::kPadButton;  // a text
-  label.doc = QStringLiteral("the text that an overlay writes beside the key");
+  label.doc = QStringLiteral("the label beside the key in the overlay");
   return label;
 }
 
@@ -84,7 +85,7 @@ ItemInspector::ItemInspector(KeymapDocument* document, QWidget* parent)
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  all_->setToolTip(QStringLiteral("Also those that the file does not write"));
+  all_->setToolTip(QStringLiteral("Show fields that are not in the file, too"));
   as_text_->setToolTip(QStringLiteral("The lines of the file, lists of commands and points among them"));
   auto* switches = new QHBoxLayout;
   switches->addWidget(all_);
@@ -136,7 +137,7 @@ void ItemInspector::TakeRow(int row) {
   Q_EMIT ItemChosen(row);
 }
 
-// Of the list, whose end are the blocks.
+// Rows of the list, which ends with the blocks.
 int ItemInspector::Row() const {
   int row = document_->ItemCount();
   for (const BlockRow& block : kBlocks) {
@@ -186,7 +187,7 @@ QVector<FieldInfo> ItemInspector::FieldsOf(int item) const {
 
 void ItemInspector::ShowPart() {
   const bool is_text = !block_.isEmpty() || (item_ >= 0 && as_text_->isChecked());
-  if (item_ < 0 && !built_.isEmpty()) BuildFields({});  // first: a line that is hidden says what was typed in it
+  if (item_ < 0 && !built_.isEmpty()) BuildFields({});  // first, because a hidden line reports what was typed in it
   all_->setVisible(item_ >= 0 && !is_text);
   as_text_->setVisible(item_ >= 0);
   scroll_->setVisible(item_ >= 0 && !is_text);
@@ -208,9 +209,8 @@ void ItemInspector::ShowTitle() {
     const km::ItemTypeInfo& type = document_->TypeOf(item_);
     return title_->setText(title(type.name, ColorOf(FamilyOf(type.name)), type.doc));
   }
-  title_->setText(document_->ItemCount() == 0
-                      ? QStringLiteral("Nothing here yet. Add puts the first item on the screen.")
-                      : QStringLiteral("Click an item on the screen or in the list."));
+  title_->setText(document_->ItemCount() == 0 ? QStringLiteral("No items yet. Add puts the first one on the screen.")
+                                              : QStringLiteral("Click an item on the screen or in the list."));
 }
 
 void ItemInspector::ShowFields() {
@@ -227,7 +227,7 @@ void ItemInspector::ShowSource() {
   if (pane_->isHidden()) return pane_->Show(QString(), QString());
   QString hint;
   for (const BlockRow& block : kBlocks) {
-    if (block_ == QLatin1String(block.name)) hint = QStringLiteral("# not written, for example:\n") + block.example;
+    if (block_ == QLatin1String(block.name)) hint = QStringLiteral("# not in the file, for example:\n") + block.example;
   }
   pane_->Show(document_->Source({item_, block_}), hint);
 }
@@ -238,7 +238,7 @@ void ItemInspector::EnterSource(const QString& source) {
 
 void ItemInspector::CommitSource() {
   pane_->Commit();
-  if (!pane_->Problem().isEmpty()) Q_EMIT Refused(QStringLiteral("The text is not taken over. ") + pane_->Problem());
+  if (!pane_->Problem().isEmpty()) Q_EMIT Refused(QStringLiteral("The text was not applied. ") + pane_->Problem());
 }
 
 QString ItemInspector::TextProblem() const { return pane_->isHidden() ? QString() : pane_->Problem(); }
@@ -249,9 +249,9 @@ void ItemInspector::LeavePart() {
   pane_->Revert();
 }
 
-// The sender of what led here may be one of the editors that go.
+// The signal that led here may come from an editor that is deleted now.
 void ItemInspector::BuildFields(const QVector<FieldInfo>& fields) {
-  for (FieldEditor* editor : qAsConst(editors_)) editor->disconnect(this);  // what it still says is of another item
+  for (FieldEditor* editor : qAsConst(editors_)) editor->disconnect(this);  // its text is still that of another item
   built_.clear();
   if (QWidget* before = scroll_->takeWidget()) {
     before->hide();
@@ -312,7 +312,7 @@ void ItemInspector::Commit() {
   if (!pane_->isHidden()) return CommitSource();
   const auto editors = editors_.values();
   for (FieldEditor* editor : editors) {
-    if (editors_.key(editor).isEmpty()) return;  // the first one has built all anew
+    if (editors_.key(editor).isEmpty()) return;  // the first one has rebuilt everything
     editor->Commit();
   }
 }

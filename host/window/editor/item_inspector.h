@@ -19,8 +19,8 @@ namespace tavi {
 class FieldEditor;
 class SourcePane;
 
-// The items of the keymap that is being edited and its two blocks of settings, and the fields of the selected item or
-// the text of either.
+// The items of the edited keymap and its two blocks of settings, and the fields of the selected item or the text of
+// either.
 class ItemInspector : public QWidget {
   Q_OBJECT
 
@@ -28,31 +28,31 @@ class ItemInspector : public QWidget {
   // `document` outlives the inspector.
   explicit ItemInspector(KeymapDocument* document, QWidget* parent = nullptr);
 
-  // -1: none; a block of settings that is shown stays.
+  // -1: none; a shown block of settings stays.
   void Show(int item);
   // "settings" or "wheel".
   void ShowBlock(const QString& block);
-  // Whether items are shown as the text that the file has.
+  // Whether items are shown as the text in the file.
   void SetAsText(bool as_text);
   // Whether the item has a key in the file.
   bool HasKey() const;
-  // The item's first key field waits for a key. Nothing for an item without keys.
+  // The item's first key field waits for a key. Does nothing for an item without keys.
   void ListenForKey();
-  // Takes over what was typed and not confirmed yet.
+  // Applies what was typed and not confirmed yet.
   void Commit();
-  // What is wrong with the text that was typed, and that nothing has taken over; empty: nothing.
+  // The error in the typed text that could not be applied; empty if there is none.
   QString TextProblem() const;
-  // A button of a gamepad, for a field that waits for a key.
+  // A gamepad button, for a field that waits for a key.
   void TakePad(const QString& text, bool down);
-  // Of the selected item; null when it is not shown.
+  // The field of the selected item; null if it is not shown.
   FieldEditor* Editor(const QString& field) const { return editors_.value(field); }
   SourcePane* Pane() const { return pane_; }
 
  Q_SIGNALS:
   void ItemChosen(int item);
-  // The wait for a key is over; keys may go elsewhere again.
+  // The wait for a key is over; the focus may move on.
   void KeyBound();
-  // What was typed as text could not be taken over when it had to be.
+  // The typed text could not be applied when it had to be.
   void Refused(const QString& problem);
 
  private:
@@ -67,9 +67,9 @@ class ItemInspector : public QWidget {
   void ShowFields();
   void ShowSource();
   void EnterSource(const QString& source);
-  // Takes over what was typed as text, or tells why not.
+  // Applies what was typed as text, or shows why it cannot.
   void CommitSource();
-  // The same, and forgets it.
+  // The same, and discards the text.
   void LeavePart();
   void BuildFields(const QVector<FieldInfo>& fields);
   QVector<FieldInfo> FieldsOf(int item) const;
@@ -86,7 +86,7 @@ class ItemInspector : public QWidget {
   SourcePane* pane_;
   QCheckBox* all_;
   QCheckBox* as_text_;
-  QStringList built_;  // the item's type and the fields that there are editors of
+  QStringList built_;  // the item's type and the fields that have an editor
   QMap<QString, FieldEditor*> editors_;
 };
 

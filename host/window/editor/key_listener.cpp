@@ -9,8 +9,8 @@ namespace tavi {
 KeyListener::KeyListener(bool takes_chords, QWidget* parent) : QToolButton(parent), takes_chords_(takes_chords) {
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  setToolTip(takes_chords_ ? QStringLiteral("Waits for a key, or for two at once; Escape ends the wait")
-                           : QStringLiteral("Waits for a key; Escape ends the wait"));
+  setToolTip(takes_chords_ ? QStringLiteral("Waits for a key, or for two at once; Escape cancels")
+                           : QStringLiteral("Waits for a key; Escape cancels"));
   connect(this, &QToolButton::clicked, this, &KeyListener::Listen);
   Stop();
 }

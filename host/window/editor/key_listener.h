@@ -7,8 +7,8 @@
 
 namespace tavi {
 
-// A button that, once pressed, waits for what is to be bound: a key, a button of the mouse over it, the wheel over it,
-// or what TakePad tells. Escape ends the wait, and so does the loss of the focus.
+// A button that, when pressed, waits for something to bind: a key, a mouse button or the wheel over it, or a gamepad
+// button that TakePad passes. Escape or the loss of the focus ends the wait.
 class KeyListener : public QToolButton {
   Q_OBJECT
 
@@ -17,11 +17,11 @@ class KeyListener : public QToolButton {
 
   void Listen();
   bool IsListening() const { return is_listening_; }
-  // A button of a gamepad, by the host's name.
+  // A gamepad button, by the host's name.
   void TakePad(const QString& text, bool down);
 
  Q_SIGNALS:
-  // As a keymap writes it.
+  // In the format of a keymap.
   void Bound(const QString& key);
 
  protected:

@@ -28,9 +28,9 @@ using taviinputmanager::JoystickButtonEvent;
 namespace {
 
 constexpr int kDockWidth = 340;
-constexpr double kNear = 0.06;  // of two items, fraction of the display
-constexpr int kTries = 12;      // to find a place
-constexpr int kColumns = 4;     // of the places that are tried
+constexpr double kNear = 0.06;  // between two items, as a fraction of the display
+constexpr int kTries = 12;      // in the search for a free point
+constexpr int kColumns = 4;     // of the points that are tried
 constexpr char kNewName[] = "keymap.yaml";
 constexpr char kFileTypes[] = "Keymaps (*.yaml *.yml *.json);;All files (*)";
 
@@ -78,7 +78,7 @@ QAction* KeymapEditor::AddButton(const QString& text, const QString& hint, const
   return action;
 }
 
-// Shortcuts answer only while the bar is there: at all other times every key is the guest's.
+// Shortcuts work only while the bar is shown: at all other times every key goes to the guest.
 void KeymapEditor::MakeBar() {
   bar_ = new QToolBar(QStringLiteral("Editing"), window_);
   bar_->setObjectName(QStringLiteral("editing"));
@@ -91,9 +91,9 @@ void KeymapEditor::MakeBar() {
   add->setMenu(MakeAddMenu([this] { return FreePlace(); }, bar_));
   add->setToolTip(QStringLiteral("Put a new item on the screen"));
   add_ = bar_->addWidget(add);
-  duplicate_ = AddButton(QStringLiteral("Duplicate"), QStringLiteral("The selected item once more"),
+  duplicate_ = AddButton(QStringLiteral("Duplicate"), QStringLiteral("Duplicate the selected item"),
                          QKeySequence(Qt::CTRL | Qt::Key_D));
-  delete_ = AddButton(QStringLiteral("Delete"), QStringLiteral("Take the selected item out (Del)"), {});
+  delete_ = AddButton(QStringLiteral("Delete"), QStringLiteral("Delete the selected item (Del)"), {});
   bar_->addSeparator();
   QAction* undo = document_.UndoStack()->createUndoAction(this, QStringLiteral("Undo"));
   undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
@@ -104,10 +104,10 @@ void KeymapEditor::MakeBar() {
   bar_->addAction(undo);
   bar_->addAction(redo);
   bar_->addSeparator();
-  save_ = AddButton(QStringLiteral("Save"), QStringLiteral("Write the edits into the file, and nothing else"),
-                    QKeySequence(Qt::CTRL | Qt::Key_S));
-  QAction* save_as =
-      AddButton(QStringLiteral("Save as\u2026"), QStringLiteral("Write the keymap into another file"), {});
+  save_ =
+      AddButton(QStringLiteral("Save"), QStringLiteral("Write the edits to the file, and change nothing else in it"),
+                QKeySequence(Qt::CTRL | Qt::Key_S));
+  QAction* save_as = AddButton(QStringLiteral("Save as\u2026"), QStringLiteral("Write the keymap to another file"), {});
   connect(duplicate_, &QAction::triggered, this, &KeymapEditor::Duplicate);
   connect(delete_, &QAction::triggered, this, &KeymapEditor::Delete);
   connect(save_, &QAction::triggered, this, &KeymapEditor::Save);
@@ -128,7 +128,7 @@ void KeymapEditor::MakeDock() {
   dock_->setWidget(inspector_);
   dock_->setFeatures(QDockWidget::DockWidgetMovable);
   inspector_->setMinimumWidth(kDockWidth);
-  dock_->toggleViewAction()->setVisible(false);  // it comes and goes with the switch
+  dock_->toggleViewAction()->setVisible(false);  // the switch shows and hides it
   window_->addDockWidget(Qt::RightDockWidgetArea, dock_);
 }
 
@@ -215,7 +215,7 @@ QString KeymapEditor::FileName() const {
   return document_.Path().isEmpty() ? QLatin1String(kNewName) : QFileInfo(document_.Path()).fileName();
 }
 
-// What the view showed is what is played, saved or not.
+// The edits that were shown are now used, saved or not.
 void KeymapEditor::Finish() {
   if (document_.Text() == in_use_ || document_.Keymap().HasErrors()) return;
   in_use_ = document_.Text();
@@ -224,7 +224,7 @@ void KeymapEditor::Finish() {
   const QString file = unsaved_->filePath(FileName());
   const QString problem = WriteWholeFile(file, document_.Text());
   if (!problem.isEmpty()) {
-    return Report(QStringLiteral("The edits cannot be used before they are saved: %1").arg(problem));
+    return Report(QStringLiteral("The edits cannot be used until they are saved: %1").arg(problem));
   }
   Q_EMIT Finished(file);
   Q_EMIT Message(QStringLiteral("The edits are in use, but not saved yet"), false);
@@ -246,7 +246,7 @@ void KeymapEditor::Open(const QString& path, const QByteArray& text) {
   if (is_own) return;
   const bool is_known = !path.isEmpty() && path == document_.Path() && !document_.IsModified();
   if (!is_known || text != document_.TextOnDisk()) {
-    inspector_->Pane()->Revert();  // what was typed is about the keymap that goes
+    inspector_->Pane()->Revert();  // the typed text is about the keymap that is being closed
     layer_->Select(-1);
     is_opening_ = true;
     document_.Open(path, text);
@@ -259,7 +259,7 @@ void KeymapEditor::Open(const QString& path, const QByteArray& text) {
 bool KeymapEditor::TakeFileChange() {
   if (!document_.IsFileChanged()) return true;
   if (!document_.IsModified()) return false;
-  Q_EMIT Message(QStringLiteral("Another program has written %1. Your edits are kept; Save asks whose version stays.")
+  Q_EMIT Message(QStringLiteral("Another program has changed %1. Your edits are kept; Save asks which version to keep.")
                      .arg(QFileInfo(document_.Path()).fileName()),
                  true);
   return true;
@@ -289,17 +289,17 @@ QString KeymapEditor::KeepEdits() {
   const QString problem = folder.isValid() ? WriteWholeFile(file, document_.Text()) : folder.errorString();
   if (!problem.isEmpty()) return QStringLiteral("the edits of %1 are lost: %2").arg(FileName(), problem);
   folder.setAutoRemove(false);
-  return QStringLiteral("the edits of %1 are kept as %2").arg(FileName(), file);
+  return QStringLiteral("the edits of %1 were saved as %2").arg(FileName(), file);
 }
 
 bool KeymapEditor::Save() {
   inspector_->Commit();
   if (!document_.IsFileChanged()) return SaveAs(document_.Path());
   const Button answer =
-      ask_(QStringLiteral("Another program has written %1 since it was read. Read again gives your edits up.")
+      ask_(QStringLiteral("Another program has changed %1 since it was read. Reload discards your edits.")
                .arg(document_.Path()),
            {{QMessageBox::Save, QStringLiteral("Overwrite")},
-            {QMessageBox::Reset, QStringLiteral("Read again")},
+            {QMessageBox::Reset, QStringLiteral("Reload")},
             {QMessageBox::SaveAll, QStringLiteral("Save as\u2026")},
             {QMessageBox::Cancel, {}}});
   if (answer == QMessageBox::Reset) document_.Open(document_.Path());
@@ -311,7 +311,7 @@ bool KeymapEditor::SaveAs(const QString& path) {
   QString target = path;
   if (target.isEmpty()) {
     const QString before = document_.Path().isEmpty() ? QLatin1String(kNewName) : document_.Path();
-    const bool is_json = QFileInfo(before).suffix() == QLatin1String("json");  // and stays it
+    const bool is_json = QFileInfo(before).suffix() == QLatin1String("json");  // keeps the name
     target = ask_for_name_({QStringLiteral("Save the keymap"), before, QLatin1String(kFileTypes),
                             is_json ? QStringLiteral("json") : QStringLiteral("yaml")});
     view_->setFocus();

@@ -25,10 +25,10 @@ namespace tavi {
 class EditLayer;
 class ItemInspector;
 
-// Editing of the keymap in use, on the guest view of a window: the switch for it, its buttons, its dock, and the file.
+// Editing of the current keymap on a window's guest view: the switch for it, its buttons, its dock, and the file.
 //
-// While it is on, mouse, keys and gamepads are the editor's. Edits that are not saved are kept when it is switched off,
-// and are in use then; they stay until they are saved, taken back, or another keymap is opened.
+// While it is on, the editor gets the input of mouse, keys and gamepads. When it is switched off, unsaved edits are
+// kept and used; they stay until they are saved, undone, or another keymap is opened.
 //
 // Main thread.
 class KeymapEditor : public QObject {
@@ -37,11 +37,11 @@ class KeymapEditor : public QObject {
  public:
   using Button = QMessageBox::StandardButton;
 
-  // Puts its bar into `window`, and its dock to that of `neighbour`; `view` shows the guest. They outlive the editor.
+  // Adds its bar to `window`, and tabs its dock with `neighbour`; `view` shows the guest. They outlive the editor.
   KeymapEditor(QMainWindow* window, QWidget* view, QDockWidget* neighbour);
   ~KeymapEditor() override;
 
-  // Puts the bar behind the tool bars that the window has so far.
+  // Puts the bar after the tool bars that the window has so far.
   void AddBar();
   QAction* Switch() const { return switch_; }
   QToolBar* Bar() const { return bar_; }
@@ -49,26 +49,26 @@ class KeymapEditor : public QObject {
   KeymapDocument* Document() { return &document_; }
   EditLayer* Layer() const { return layer_; }
   ItemInspector* Inspector() const { return inspector_; }
-  // Shows its bar and its dock while it is on, wherever the window has put them.
+  // Shows its bar and its dock while it is on, wherever the user has moved them.
   void ShowParts();
   void SetAsk(const Ask& ask) { ask_ = ask; }
   void SetAskForName(const AskForName& ask) { ask_for_name_ = ask; }
 
-  // The keymap at `path` has come into use, with this text; an empty path is none.
+  // The keymap at `path` is now in use, with this text; an empty path is none.
   void Open(const QString& path, const QByteArray& text);
-  // The file was written. True when nothing is to be read: it was the editor, or there are edits that would be lost,
-  // which a person is told.
+  // The file has changed. True if it must not be reloaded: the editor wrote it, or there are edits that would be lost,
+  // in which case the user gets a message.
   bool TakeFileChange();
-  // Whether the edits may be lost; asks where there are some, and saves them on demand.
+  // Whether the edits may be discarded; asks if there are any, and saves them if the user wants.
   bool MayLeave();
-  // Puts the edits that are not saved aside without asking. Tells where they are or what went wrong; nothing when there
-  // are none.
+  // Saves the unsaved edits elsewhere without asking. Returns where they are or what went wrong; empty if there are
+  // none.
   QString KeepEdits();
-  // True when the event of a gamepad is the editor's.
+  // True if the editor uses the gamepad event.
   bool TakePad(QEvent* event);
 
-  // Each false when the person backs out or the file cannot be written. Of a file that another program has written
-  // meanwhile, the person says what is to become. An empty path is asked for.
+  // Each returns false if the user cancels or the file cannot be written. If another program has changed the file
+  // meanwhile, the user decides. An empty path asks for one.
   bool Save();
   bool SaveAs(const QString& path);
   void Add(const QString& type, const QPointF& point);
@@ -76,11 +76,11 @@ class KeymapEditor : public QObject {
   void Duplicate();
 
  Q_SIGNALS:
-  // The keymap is another one, or has another file; `Document` tells.
+  // The keymap or its file is another one; see `Document`.
   void Edited();
-  // Mouse and keys are the guest's again, and the keymap in this file is to be used for them.
+  // Mouse and keys go to the guest again, and the keymap in this file is to be used for them.
   void Finished(const QString& file);
-  // For the person; `is_problem`: something went wrong.
+  // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);
 
  private:
@@ -95,9 +95,9 @@ class KeymapEditor : public QObject {
   void ShowState();
   void ShowMenu(const QPoint& global, const QPointF& place);
   void Report(const QString& problem);
-  // Asks whether a text that was typed and cannot be taken over may be lost.
+  // Asks whether a typed text that cannot be applied may be lost.
   bool MayForgetText();
-  // A place for a new item where none is near.
+  // A free point for a new item.
   QPointF FreePlace() const;
 
   QMainWindow* window_;
@@ -114,9 +114,9 @@ class KeymapEditor : public QObject {
   QAction* save_ = nullptr;
   Ask ask_;
   AskForName ask_for_name_;
-  bool is_opening_ = false;                 // what comes is no edit
-  std::unique_ptr<QTemporaryDir> unsaved_;  // holds edits that are in use and not saved
-  QByteArray in_use_;                       // the text that the guest's input goes by
+  bool is_opening_ = false;                 // changes are not edits meanwhile
+  std::unique_ptr<QTemporaryDir> unsaved_;  // contains edits that are in use and not saved
+  QByteArray in_use_;                       // the text that the keymap in use was read from
 };
 
 }  // namespace tavi

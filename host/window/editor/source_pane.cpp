@@ -15,16 +15,16 @@ SourcePane::SourcePane(QWidget* parent) : QWidget(parent), text_(new QPlainTextE
   text_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   text_->setLineWrapMode(QPlainTextEdit::NoWrap);
   text_->setAccessibleName(QStringLiteral("Lines of the file"));
-  text_->setTabChangesFocus(true);  // no tab may stand in front of a line of YAML
+  text_->setTabChangesFocus(true);  // YAML must not be indented by tabs
   problem_->setWordWrap(true);
   theme::Follow(problem_,
                 [this] { problem_->setStyleSheet(QStringLiteral("color: %1").arg(theme::Colors().error.name())); });
   problem_->hide();
   auto* apply = new QPushButton(QStringLiteral("Apply"));
   apply->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
-  apply->setToolTip(QStringLiteral("Take over what was typed (%1)").arg(apply->shortcut().toString()));
+  apply->setToolTip(QStringLiteral("Apply the text (%1)").arg(apply->shortcut().toString()));
   auto* revert = new QPushButton(QStringLiteral("Revert"));
-  revert->setToolTip(QStringLiteral("Forget what was typed"));
+  revert->setToolTip(QStringLiteral("Discard the changes"));
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(apply);
   buttons->addWidget(revert);

@@ -9,28 +9,27 @@ class QPlainTextEdit;
 
 namespace tavi {
 
-// A part of a keymap as the file writes it: lines to type in, and what is wrong with them below. What is typed counts
-// when it is applied.
+// A part of a keymap as it is in the file: a text to edit, with its errors below. The text is used once it is applied.
 class SourcePane : public QWidget {
   Q_OBJECT
 
  public:
   explicit SourcePane(QWidget* parent = nullptr);
 
-  // `hint` stands there while nothing is written. What was typed stays as long as the source is the one shown before.
+  // `hint` is shown while the text is empty. What was typed stays if the source is the one shown before.
   void Show(const QString& source, const QString& hint);
-  // Empty: nothing is wrong.
+  // Empty if there is no error.
   void ShowProblem(const QString& problem);
   QString Problem() const;
-  // Takes over what was typed and not applied yet.
+  // Applies what was typed and not applied yet.
   void Commit();
-  // Forgets it.
+  // Discards it.
   void Revert();
 
   QPlainTextEdit* Text() const { return text_; }
 
  Q_SIGNALS:
-  // A person wants the part to be written like this.
+  // The user wants the part to have this text.
   void Entered(const QString& source);
 
  private:

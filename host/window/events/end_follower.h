@@ -7,7 +7,7 @@ class QScrollBar;
 
 namespace tavi {
 
-// Keeps a list at its end while it grows and when its size changes, unless someone has scrolled up to read.
+// Keeps a list scrolled to its end while it grows and when its size changes, unless the user has scrolled up.
 //
 // Main thread.
 class EndFollower : public QObject {

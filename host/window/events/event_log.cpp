@@ -13,7 +13,7 @@ using Source = TimelineEntry::Source;
 
 namespace {
 
-constexpr int kMostLines = 12;  // of one event
+constexpr int kMostLines = 12;  // per event
 
 const char* const kTitles[] = {"Time", "Event", "Code", "Key", "Matched", "Sent"};
 
@@ -42,7 +42,8 @@ QVariant EventLog::data(const QModelIndex& index, int role) const {
   const Row& row = rows_[static_cast<size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
-      if (index.column() == kTime) return Text(row, kTime) + QLatin1Char(' ');  // or a long one runs into the event
+      if (index.column() == kTime)
+        return Text(row, kTime) + QLatin1Char(' ');  // or a long one would run into the event
       return Text(row, index.column());
     case Qt::ToolTipRole: return index.column() == kSent ? row.lines.join(QLatin1Char('\n')) : QString();
     case Qt::TextAlignmentRole:
@@ -86,7 +87,7 @@ void EventLog::Begin(const HostEvent& event) {
   current_.match = MatchText(event);
 }
 
-// Empty where only what is sent can tell.
+// Empty if only the sent lines can show what it matched.
 QString EventLog::MatchText(const HostEvent& event) {
   const bool is_key = !event.key.device.isEmpty() && event.key.device == tavikeymapmanager::keywords::kDeviceKeyboard;
   const QString match = matcher_.Match(event);
@@ -117,7 +118,7 @@ void EventLog::End() {
   is_inside_ = false;
   const bool is_event = current_.event.kind != Kind::kLetGo;
   is_counting_later_ = !paused_ && is_event;
-  const bool is_news = is_event || (!current_.lines.isEmpty() && !rows_.empty());  // nobody was credited before
+  const bool is_news = is_event || (!current_.lines.isEmpty() && !rows_.empty());  // the event had no lines so far
   if (paused_ || !is_news) return;
   if (current_.match.isEmpty()) {
     current_.match = current_.lines.isEmpty() ? QStringLiteral("nothing sent") : QStringLiteral("passes through");

@@ -15,7 +15,7 @@ namespace tavi {
 
 class Mapping;
 
-// The latest events of the host, what each matched and what went out because of it.
+// The latest host events, with what each matched and the lines that it produced.
 //
 // Main thread.
 class EventLog : public QAbstractTableModel {
@@ -33,17 +33,17 @@ class EventLog : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-  // While paused, what happens is left out.
+  // While paused, events are left out.
   void SetPaused(bool paused) { paused_ = paused; }
-  // Otherwise events that repeat the one before take its row, with their number.
+  // Otherwise repeats of the previous event share its row, with their number.
   void SetShowsRepeats(bool shown) { shows_repeats_ = shown; }
   void Clear();
 
-  // What of a row an item of a keymap would have; empty where there is nothing.
+  // The parts of a row that an item of a keymap can use; empty if there is none.
   QString KeymapText(int row) const;
-  // The last row that has something for a keymap; -1 without one.
+  // The last row with something for a keymap; -1 if there is none.
   int LastForKeymap() const;
-  // A row as text, its columns apart by tabs.
+  // A row as text, its columns separated by tabs.
   QString RowText(int row) const;
 
  private:
@@ -51,10 +51,10 @@ class EventLog : public QAbstractTableModel {
     qint64 ms = 0;
     HostEvent event;
     QString match;
-    QStringList lines;      // that were sent at once, the first of them
-    int further_lines = 0;  // that were sent at once, too
-    int later_lines = 0;    // that came before the next event, or before input was lifted
-    int count = 1;          // of events that repeat each other
+    QStringList lines;      // the first lines that were sent during the event
+    int further_lines = 0;  // the number of other lines that were sent during it
+    int later_lines = 0;    // the number of lines that came before the next event, or before input was released
+    int count = 1;          // the number of events merged into this row
   };
 
   void Begin(const HostEvent& event);
@@ -69,7 +69,7 @@ class EventLog : public QAbstractTableModel {
   KeyMatcher matcher_;
   std::deque<Row> rows_;
   Row current_;
-  bool is_inside_ = false;  // of an event that the library has at the moment
+  bool is_inside_ = false;  // of the event that the library is handling
   bool is_counting_later_ = false;
   bool paused_ = false;
   bool shows_repeats_ = false;

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kRowHeight = 19;
 constexpr int kLeastHeight = 150;
-// In characters; what is sent takes the rest.
+// In characters; the sent lines get the rest.
 constexpr int kWidths[EventLog::kColumnCount - 1] = {10, 25, 12, 17, 26};
 
 QToolButton* AddButton(QHBoxLayout* row, const QString& text, const QString& hint) {
@@ -64,12 +64,12 @@ EventViewer::EventViewer(EventLog* log, QWidget* parent) : QWidget(parent), log_
   log->setParent(this);
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(6, 4, 6, 4);
-  QToolButton* pause = AddButton(buttons, QStringLiteral("Pause"), QStringLiteral("Leave out what comes from now on"));
+  QToolButton* pause = AddButton(buttons, QStringLiteral("Pause"), QStringLiteral("Leave out events from now on"));
   QToolButton* every = AddButton(buttons, QStringLiteral("Every move"),
-                                 QStringLiteral("A row for each move and each repeat of a key, not one for all"));
-  QToolButton* copy_key =
-      AddButton(buttons, QStringLiteral("Copy for keymap"),
-                QStringLiteral("Copy key and point of the selected rows, or of the last, as a keymap has them"));
+                                 QStringLiteral("A row for each movement and each key repeat, instead of one for all"));
+  QToolButton* copy_key = AddButton(
+      buttons, QStringLiteral("Copy for keymap"),
+      QStringLiteral("Copy key and point of the selected rows, or of the last one, in the format of a keymap"));
   QToolButton* copy = AddButton(buttons, QStringLiteral("Copy all"), QStringLiteral("Copy the whole list"));
   QToolButton* clear = AddButton(buttons, QStringLiteral("Clear"), QStringLiteral("Empty the list"));
   buttons->addStretch();

@@ -10,17 +10,17 @@ namespace tavi {
 
 class EventLog;
 
-// Lists the events of the host, the latest at the bottom. It takes no focus, so that the keys stay the guest's.
+// Lists the host events, the latest at the bottom. It takes no focus, so that the keys still go to the guest.
 class EventViewer : public QWidget {
   Q_OBJECT
 
  public:
-  // The log becomes the viewer's.
+  // The viewer owns the log.
   explicit EventViewer(EventLog* log, QWidget* parent = nullptr);
 
-  // What an item of a keymap would have of the selected rows, or of the last row that has something.
+  // The selected rows in the format of a keymap, or the last row that has something for one.
   QString TextForKeymap() const;
-  // All rows, the columns apart by tabs.
+  // All rows, the columns separated by tabs.
   QString Text() const;
 
  private:

@@ -25,7 +25,7 @@ namespace {
 constexpr int kMostLines = 5000;
 constexpr int kFlushMs = 40;
 constexpr int kTimeWidth = 9;      // characters
-constexpr int kLeastColumns = 44;  // a finger's press with its time
+constexpr int kLeastColumns = 44;  // a contact's press with its time
 
 QColor ColorOfKind(Kind kind) {
   switch (kind) {
@@ -52,7 +52,7 @@ QColor ColorOf(const TimelineEntry& entry) {
   return ColorOfKind(ParseGuestLine(line).kind);
 }
 
-// The time stands in a column of its own, what follows as in a simulation.
+// The time has a column of its own; the rest is as in the output of `tavi simulate`.
 QString TimeText(const TimelineEntry& entry) {
   return QStringLiteral("%1ms ").arg(entry.ms).rightJustified(kTimeWidth);
 }
@@ -77,7 +77,7 @@ QPlainTextEdit* MakeText(QWidget* parent) {
   text->setLineWrapMode(QPlainTextEdit::NoWrap);
   text->setFont(theme::MonospaceFont());
   text->setFrameShape(QFrame::NoFrame);
-  // Text can be marked by the mouse without taking the keys from the guest.
+  // The user can select text with the mouse without moving the focus from the guest.
   ReachByTab(text);
   text->setAccessibleName(QStringLiteral("Lines for the guest"));
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -97,14 +97,14 @@ QToolButton* MakeButton(const QString& text, const QString& hint, QWidget* paren
 
 LineLog::LineLog(QWidget* parent)
     : QWidget(parent), text_(MakeText(this)), end_(new EndFollower(text_->verticalScrollBar())) {
-  auto* calls = MakeButton(QStringLiteral("Calls"), QStringLiteral("List the calls of the host as well"), this);
+  auto* calls = MakeButton(QStringLiteral("Calls"), QStringLiteral("Also list the callbacks of the host"), this);
   calls->setCheckable(true);
   connect(calls, &QToolButton::toggled, this, [this](bool shown) { calls_shown_ = shown; });
-  auto* pause = MakeButton(QStringLiteral("Pause"), QStringLiteral("Leave out what comes from now on"), this);
+  auto* pause = MakeButton(QStringLiteral("Pause"), QStringLiteral("Leave out lines from now on"), this);
   pause->setCheckable(true);
   connect(pause, &QToolButton::toggled, this, [this](bool paused) { paused_ = paused; });
   auto* copy = MakeButton(QStringLiteral("Copy"),
-                          QStringLiteral("Copy the whole list, as a timeline that tavi guest-uinput plays"), this);
+                          QStringLiteral("Copy the whole list as a timeline that tavi guest-uinput plays"), this);
   connect(copy, &QToolButton::clicked, this, [this] { QApplication::clipboard()->setText(Timeline()); });
   auto* clear = MakeButton(QStringLiteral("Clear"), QStringLiteral("Empty the list"), this);
   connect(clear, &QToolButton::clicked, this, &LineLog::Clear);

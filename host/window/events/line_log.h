@@ -15,7 +15,7 @@ namespace tavi {
 
 class EndFollower;
 
-// Lists what went to the guest, and if wanted the calls of the host, with times, the latest at the bottom.
+// Lists the lines for the guest and optionally the host's callbacks, with times, the latest at the bottom.
 class LineLog : public QWidget {
   Q_OBJECT
 
@@ -40,7 +40,7 @@ class LineLog : public QWidget {
   QPlainTextEdit* text_;
   EndFollower* end_;
   std::deque<TimelineEntry> shown_;
-  QVector<TimelineEntry> waiting_;  // shown together at the next timeout: a finger that moves makes many lines
+  QVector<TimelineEntry> waiting_;  // shown together at the next timeout: a moving contact makes many lines
   QBasicTimer flushing_;
   bool paused_ = false;
   bool calls_shown_ = false;

@@ -17,11 +17,11 @@ using tavikeymapmanager::Diagnostic;
 
 namespace {
 
-constexpr int kMostHeight = 150;  // of the findings; more are scrolled to
+constexpr int kMostHeight = 150;  // diagnostics; scroll to see more
 
 bool IsError(const Diagnostic& diagnostic) { return diagnostic.severity == Diagnostic::Severity::kError; }
 
-// The number that a finding has on the screen, as a link; empty for one that is not there.
+// The diagnostic's number on the screen, as a link; empty if it has no mark there.
 QString LabelHtml(const PlacedFinding* placed) {
   if (!placed) return {};
   const QColor& color = placed->is_error ? theme::Colors().error : theme::Colors().warning;
@@ -55,14 +55,14 @@ const PlacedFinding* FindPlaced(const QVector<PlacedFinding>& placed, int index)
   return nullptr;
 }
 
-// With a place for what the keymap is called.
+// With a placeholder for the keymap's name.
 QString StateText(bool has_errors, bool keeps_earlier) {
-  if (!has_errors) return QStringLiteral("%1 is in use, but parts of it may not be as they were meant.");
+  if (!has_errors) return QStringLiteral("%1 is in use, but parts of it may not work as intended.");
   if (keeps_earlier) {
     return QStringLiteral(
-        "%1 cannot be used as it is now. The one before the change stays in use until it is correct.");
+        "%1 cannot be used as it is now. The version before the change stays in use until you correct it.");
   }
-  return QStringLiteral("%1 cannot be used. Correct it and save it: it is read again at once.");
+  return QStringLiteral("%1 cannot be used. Correct it and save it: it is reloaded at once.");
 }
 
 }  // namespace
@@ -77,17 +77,17 @@ DiagnosticsPanel::DiagnosticsPanel(const QString& subject, QWidget* parent)
                                      Qt::LinksAccessibleByKeyboard);
   connect(findings_, &QLabel::linkActivated, this, &DiagnosticsPanel::FindingChosen);
   ReachByTab(findings_);
-  findings_->setAccessibleName(QStringLiteral("Findings of %1").arg(subject.toLower()));
+  findings_->setAccessibleName(QStringLiteral("Diagnostics of %1").arg(subject.toLower()));
   findings_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   findings_->setFont(theme::MonospaceFont());
   findings_->setWordWrap(true);
   scroll_->setWidget(findings_);
   scroll_->setWidgetResizable(true);
-  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it would lie upon the only line
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it would cover the only line
   scroll_->setFrameShape(QFrame::NoFrame);
   ReachByTab(scroll_);
-  scroll_->setAccessibleName(QStringLiteral("List of findings"));
-  title_->setWordWrap(true);  // or it would ask for the width of its sentence
+  scroll_->setAccessibleName(QStringLiteral("List of diagnostics"));
+  title_->setWordWrap(true);  // or it would request the width of its sentence
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(12, 8, 12, 8);
   layout->addWidget(title_);
@@ -123,7 +123,7 @@ void DiagnosticsPanel::KeepHeight(int height) {
   Arrange();
 }
 
-// A narrower panel breaks its findings into more lines.
+// A narrower panel breaks its diagnostics into more lines.
 void DiagnosticsPanel::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
   if (event->size().width() != event->oldSize().width()) Arrange();
@@ -131,14 +131,14 @@ void DiagnosticsPanel::resizeEvent(QResizeEvent* event) {
 
 int DiagnosticsPanel::HeightOfFindings() const {
   const QMargins around = layout()->contentsMargins();
-  findings_->setMinimumHeight(0);  // counts in what it asks for
+  findings_->setMinimumHeight(0);  // part of its size hint
   return qMax(0, findings_->heightForWidth(width() - around.left() - around.right()));
 }
 
 void DiagnosticsPanel::Arrange() {
   const bool is_own = kept_height_ == kOwnHeight;
   const int height = HeightOfFindings();
-  findings_->setMinimumSize(1, height);  // by itself it would ask for that of its narrowest
+  findings_->setMinimumSize(1, height);  // the layout's default is that of the narrowest width
   scroll_->setMinimumHeight(is_own ? qMin(height, kMostHeight) : 0);
   scroll_->setMaximumHeight(is_own ? scroll_->minimumHeight() : QWIDGETSIZE_MAX);
   setMinimumHeight(is_own ? 0 : kept_height_);

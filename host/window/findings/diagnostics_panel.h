@@ -13,18 +13,18 @@ namespace tavi {
 
 class KeymapSource;
 
-// Tells in place what is wrong with the keymap in use. Hidden while there is nothing to tell.
+// Shows the diagnostics of the keymap in use. Hidden while there are none.
 class DiagnosticsPanel : public QFrame {
   Q_OBJECT
 
  public:
-  // `subject` is what the keymap is called in a sentence that begins with it.
+  // `subject` is the keymap's name at the start of a sentence.
   explicit DiagnosticsPanel(const QString& subject, QWidget* parent = nullptr);
 
-  // `placed` are those of its findings that are marked on the guest's screen.
+  // `placed` are the diagnostics that have a mark on the guest's screen.
   void Show(const KeymapSource& source, const Findings& findings);
-  // From now on the panel is so high, whatever there is to tell: what lies below must not move under the pointer. 0 is
-  // hidden; kOwnHeight: as high as what it tells, as at first.
+  // From now on the panel has this height whatever it shows, because what is below must not move under the pointer. 0
+  // hides it; kOwnHeight, the initial state, makes it as high as its content.
   void KeepHeight(int height);
   static constexpr int kOwnHeight = -1;
   static constexpr int kEditingHeight = 72;
@@ -33,7 +33,7 @@ class DiagnosticsPanel : public QFrame {
   void resizeEvent(QResizeEvent* event) override;
 
  Q_SIGNALS:
-  // A finding that is marked was clicked at.
+  // A diagnostic with a mark was clicked.
   void FindingChosen(const QString& label);
 
  private:
@@ -46,7 +46,7 @@ class DiagnosticsPanel : public QFrame {
   QLabel* findings_;
   QScrollArea* scroll_;
   Findings shown_;
-  bool has_errors_ = false;     // of the file as it is
+  bool has_errors_ = false;     // of the file in its current state
   bool keeps_earlier_ = false;  // and an earlier state is in use
   int kept_height_ = kOwnHeight;
 };

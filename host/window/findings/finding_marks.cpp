@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kRadius = 9;
 constexpr double kFlashRadius = 26;
-constexpr double kAside = 24;  // to the left of the item's point, beside its keys
+constexpr double kAside = 24;  // left of the item's point, beside its keys
 constexpr double kGap = 3;     // between the marks of one item
 constexpr int kFlashMs = 1600;
 constexpr int kTextHeight = 11;
@@ -61,7 +61,7 @@ QPointF FindingMarks::PlaceOfMark(const QString& label) const {
   return {};
 }
 
-// Those of one item stand one above the other, all within the view.
+// The marks of one item are stacked, all within the view.
 QPointF FindingMarks::PlaceOf(int number) const {
   const QPointF point = findings_[number].point;
   int before = 0;

@@ -9,22 +9,21 @@
 
 namespace tavi {
 
-// Numbered dots on a view at the items that something is wrong with. They take no input; the message is told when the
-// pointer rests on one.
+// Numbered dots on a view, at the items that have diagnostics. They take no input; hover over one to see its message.
 class FindingMarks : public QWidget {
   Q_OBJECT
 
  public:
-  // Becomes the view's child, and covers it.
+  // Becomes the view's child and covers it.
   explicit FindingMarks(QWidget* view);
-  // The same of another widget in its place, such as an editor that lies on the view.
+  // The same for another widget in the view's place, such as an editor that covers the view.
   void Cover(QWidget* view);
 
   void Show(const QVector<PlacedFinding>& findings);
-  // Lights a mark up for a moment.
+  // Highlights a mark for a moment.
   void Flash(const QString& label);
 
-  // Where a mark stands in the view, for people who look there; null for one that there is not.
+  // Where a mark is in the view; null if it does not exist.
   QPointF PlaceOfMark(const QString& label) const;
 
  protected:
@@ -34,9 +33,9 @@ class FindingMarks : public QWidget {
 
  private:
   QPointF PlaceOf(int number) const;
-  // A number of several signs needs a longer plate.
+  // A number of several digits needs a wider dot.
   QRectF PlateOf(int number) const;
-  // What there is to say at a place of the view.
+  // The messages for a point of the view.
   QString MessagesAt(const QPointF& place) const;
 
   QVector<PlacedFinding> findings_;

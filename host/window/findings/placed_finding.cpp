@@ -36,21 +36,22 @@ int IndentOf(const QByteArray& line) {
   return indent;
 }
 
-// Whether the line begins an item of a list that is indented like this.
+// Whether the line starts an item of a list with this indentation.
 bool BeginsAnItem(const QByteArray& line, int indent) { return IndentOf(line) == indent && line.mid(indent, 1) == "-"; }
 
-// Lines of a text that was changed, to lines of the text before. All from 1.
+// Maps lines of the changed text to lines of the text before. All count from 1.
 class LineMap {
  public:
   LineMap(const Lines& before, const Lines& after)
       : after_(after), before_size_(before.size()), after_size_(after.size()), start_(CommonStart(before, after)) {
     end_ = CommonEnd(before, after, start_);
   }
-  // Whether the line belongs to an item, of a list that is indented like this, that was put in between those before.
+  // Whether the line belongs to an item that was inserted into a list with this indentation.
   bool IsOfANewItem(int line, int indent) const {
     const bool only_adds = start_ + end_ >= before_size_;
     int last = qMin(line, after_size_);
-    while (last > start_ && after_[last - 1].trimmed().isEmpty()) --last;  // a file's end is about what is above it
+    while (last > start_ && after_[last - 1].trimmed().isEmpty())
+      --last;  // a diagnostic at the end of the file is about the text above it
     if (!only_adds || last > after_size_ - end_) return false;
     for (int i = last; i > start_; --i) {
       if (BeginsAnItem(after_[i - 1], indent)) return true;
@@ -75,8 +76,8 @@ bool BeginsAPart(const QByteArray& line) {
   return !line.isEmpty() && ((line[0] >= 'a' && line[0] <= 'z') || (line[0] >= 'A' && line[0] <= 'Z'));
 }
 
-// Whether a line is in the list of items and not in a part of the file beside it. In a file that writes no part at the
-// start of a line every line may be.
+// Whether a line is in the list of items, not in another part of the file. If no part starts at the start of a line,
+// every line may be.
 bool IsAmongItems(const Lines& lines, int line) {
   for (int i = qMin(line, lines.size()) - 1; i >= 0; --i) {
     if (BeginsAPart(lines[i])) return lines[i].startsWith("items");
@@ -84,7 +85,7 @@ bool IsAmongItems(const Lines& lines, int line) {
   return true;
 }
 
-// The item that a place of the file is in, which is the last that begins before it; -1 where there is none.
+// The item that contains a position in the file: the last one that begins before it. -1 if there is none.
 int ItemAt(const km::LoadResult& keymap, int line, int column) {
   int found = -1;
   for (int i = 0; i < keymap.item_sources.size(); ++i) {

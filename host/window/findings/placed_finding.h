@@ -1,4 +1,4 @@
-// Findings about a keymap, at the places on the guest's screen of the items that they are about.
+// Diagnostics of a keymap, at the points of their items on the guest's screen.
 #ifndef HOST_WINDOW_FINDINGS_PLACED_FINDING_H_
 #define HOST_WINDOW_FINDINGS_PLACED_FINDING_H_
 
@@ -13,22 +13,22 @@ namespace tavi {
 class KeymapSource;
 
 struct PlacedFinding {
-  int index = 0;  // among the file's diagnostics
+  int index = 0;  // in the file's diagnostics
   QString label;  // a number, the same in the list and on the screen
   bool is_error = false;
   QString message;
-  QPointF point;  // fractions of the display
+  QPointF point;  // fraction of the display
 };
 
-// What there is to tell about a keymap, in the order of the file, and those of it that have a place.
+// The diagnostics of a keymap in the order of the file, and those of them that have a point.
 struct Findings {
   QVector<tavikeymapmanager::Diagnostic> all;
   QVector<PlacedFinding> placed;
 };
 
-// Those of the findings that have a place. Where an earlier state of the file is in use the items are those of
-// that state: lines before and behind what was changed stand for themselves, and those in between for what stood there.
-// Labels are numbers from 1 with `prefix` in front.
+// The diagnostics that have a point. If an earlier state of the file is in use, the items are those of that state:
+// lines before and after the change map to themselves, lines of the change to the lines that it replaced. Labels are
+// numbers from 1 after `prefix`.
 QVector<PlacedFinding> PlaceFindings(const KeymapSource& source, const QVector<tavikeymapmanager::Diagnostic>& findings,
                                      const QString& prefix);
 

@@ -65,7 +65,7 @@ void PointerCapture::Take() {
   view_->setCursor(Qt::BlankCursor);
 }
 
-// Many hold the pointer for a moment only, so that the first refusal is not told.
+// Many programs hold the pointer only for a moment, so the first refusal is not reported.
 void PointerCapture::Retry(const QString& reason) {
   if (retrying_.isActive()) return SetProblem(reason);
   retrying_.start(kRetryMs, this);

@@ -15,11 +15,11 @@ class QWidget;
 
 namespace tavi {
 
-// Holds the pointer for a view, hidden, while that is wanted and the view has the focus. Whenever it ends, the pointer
-// is back where it began.
+// Holds the pointer for a view, hidden, while that is wanted and the view has the focus. When the hold ends, the
+// pointer returns to where it was.
 //
-// Where someone else holds the pointer it is tried again, ten times a second, and until then all is as if it were not
-// wanted. Main thread.
+// While another program holds the pointer, the capture retries ten times a second, and behaves as if it was not wanted.
+// Main thread.
 class PointerCapture : public QObject {
   Q_OBJECT
 
@@ -32,11 +32,11 @@ class PointerCapture : public QObject {
   bool IsHeld() const { return is_held_; }
   void SetWanted(bool wanted);
 
-  // Why it is not held though it should be; empty otherwise.
+  // Why the pointer is not held though it should be; empty otherwise.
   const QString& Problem() const { return problem_; }
 
  Q_SIGNALS:
-  // The mouse went this many counts. What is less than one is kept for the next time.
+  // The mouse moved by this many counts. Fractions are carried over to the next signal.
   void Moved(int dx, int dy);
   void ProblemChanged();
 
@@ -56,8 +56,8 @@ class PointerCapture : public QObject {
   const std::unique_ptr<PointerLock> lock_;
   bool is_wanted_ = false;
   bool is_held_ = false;
-  QPoint start_;  // of the screen
-  QPointF rest_;  // counts that are not told yet, less than one
+  QPoint start_;  // on the screen
+  QPointF rest_;  // counts that were not emitted yet, less than one
   QBasicTimer retrying_;
   QString problem_;
 };

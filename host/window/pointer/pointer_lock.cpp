@@ -25,8 +25,8 @@ class MissingPointerLock : public PointerLock {
   void Release() override {}
 };
 
-// Without a window system there is no mouse: the moves of the view are made by programs, and each is a way from the one
-// before.
+// Without a window system there is no mouse: programs move the view's pointer, and each movement starts at the last
+// position.
 class OffscreenPointerLock : public QObject, public PointerLock {
  public:
   ~OffscreenPointerLock() override { Release(); }
@@ -67,7 +67,7 @@ std::unique_ptr<PointerLock> MakePointerLock() {
   return native ? std::move(native) : std::make_unique<MissingPointerLock>();
 }
 
-// A window may reach over the edge of the screens.
+// A window may extend beyond the screens.
 QPoint MiddleInWindow(const QWidget& view) {
   const QRect whole(view.mapToGlobal(QPoint()), view.size());
   const QRect seen = whole & view.screen()->virtualGeometry();

@@ -17,14 +17,14 @@ namespace tavi {
 
 namespace {
 
-// Core X11 counts the notches of a wheel as clicks of these.
+// Core X11 reports wheel notches as clicks of these buttons.
 constexpr xcb_button_t kWheelUp = 4;
 constexpr xcb_button_t kWheelRight = 7;
 constexpr QPoint kNotches[] = {{0, 1}, {0, -1}, {1, 0}, {-1, 0}};  // up, down, left, right
 constexpr uint16_t kButtonEvents = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE;
 
-// A window of one pixel that is not seen, which a grab of the pointer is confined to. A window stays where it is when
-// its parent moves, and the pointer with it.
+// An invisible window of one pixel, to which a grab confines the pointer. A window stays where it is when its parent
+// moves, and so does the pointer.
 class X11Pin {
  public:
   X11Pin(xcb_connection_t* connection, xcb_window_t parent)
@@ -50,7 +50,7 @@ class X11Pin {
   QPoint place_;
 };
 
-// A pixel of which nothing is drawn.
+// A pixel without content.
 class X11BlankCursor {
  public:
   explicit X11BlankCursor(xcb_connection_t* connection, xcb_window_t root)
@@ -77,10 +77,10 @@ class X11BlankCursor {
   xcb_cursor_t cursor_;
 };
 
-// A grab of the pointer for the view's window, and the raw motion of the mice.
+// A pointer grab for the view's window, and the raw motion of the mice.
 //
-// The grab takes every event of the pointer, whatever is under it, and Qt gives buttons to the view. Qt leaves the
-// wheel to events of XInput, which do not come during a grab of this kind.
+// The grab receives every pointer event, whatever is under the pointer, and Qt passes buttons to the view. Qt expects
+// the wheel as XInput events, which do not arrive during such a grab.
 class X11PointerLock : public PointerLock, private QAbstractNativeEventFilter {
  public:
   X11PointerLock() : connection_(qt::X11Connection()), root_(qt::X11RootWindow()), motion_(connection_, root_) {}
@@ -107,7 +107,7 @@ class X11PointerLock : public PointerLock, private QAbstractNativeEventFilter {
   }
 
  private:
-  // A button that is down is a grab of Qt's already, of a kind that no other goes with.
+  // While a button is down, Qt already has a grab, of a kind that excludes all others.
   void EndGrabOfButton() {
     const X11Reply<xcb_input_xi_get_client_pointer_reply_t> pointer(xcb_input_xi_get_client_pointer_reply(
         connection_, xcb_input_xi_get_client_pointer(connection_, XCB_NONE), nullptr));
@@ -126,10 +126,9 @@ class X11PointerLock : public PointerLock, private QAbstractNativeEventFilter {
   Outcome GiveUp(uint8_t status) {
     End();
     if (status == XCB_GRAB_STATUS_NOT_VIEWABLE) {
-      return {Result::kBusy, QStringLiteral("View control begins when the window is on the screen.")};
+      return {Result::kBusy, QStringLiteral("View control begins once the window is on the screen.")};
     }
-    return {Result::kBusy,
-            QStringLiteral("Another program holds the mouse. View control begins when that lets go of it.")};
+    return {Result::kBusy, QStringLiteral("Another program holds the mouse. View control begins when it releases it.")};
   }
 
   void End() {

@@ -21,7 +21,7 @@ bool SetRawMotion(DWORD flags, HWND window) {
   return RegisterRawInputDevices(&mouse, 1, sizeof mouse) != FALSE;
 }
 
-// Nothing but (0, 0) of what is no way of a mouse: a tablet and a remote desktop tell places.
+// (0, 0) for input that is not relative movement: tablets and remote desktops report positions.
 QPoint WayOf(HRAWINPUT handle) {
   RAWINPUT input;
   UINT size = sizeof input;
@@ -30,8 +30,8 @@ QPoint WayOf(HRAWINPUT handle) {
   return {static_cast<int>(input.data.mouse.lLastX), static_cast<int>(input.data.mouse.lLastY)};
 }
 
-// Raw input, and a cursor that is clipped to one pixel. Windows drops the clip at many occasions, such as a window that
-// moves, so that it is set anew with each way. Buttons and the wheel come as they always do.
+// Raw input, and a cursor that is clipped to one pixel. Windows drops the clip on many occasions, for example when a
+// window moves, so each movement sets it again. Buttons and the wheel arrive as usual.
 class WindowsPointerLock : public PointerLock, private QAbstractNativeEventFilter {
  public:
   ~WindowsPointerLock() override { WindowsPointerLock::Release(); }
@@ -40,11 +40,12 @@ class WindowsPointerLock : public PointerLock, private QAbstractNativeEventFilte
     view_ = view;
     if (!SetRawMotion(0, Window())) {
       return {Result::kImpossible,
-              QStringLiteral("Windows does not tell how the mouse moves, so view control does not work.")};
+              QStringLiteral("Windows does not report how the mouse moves, so view control does not work.")};
     }
     if (!Clip()) {
       SetRawMotion(RIDEV_REMOVE, nullptr);
-      return {Result::kBusy, QStringLiteral("Another program holds the mouse. View control begins when it lets go.")};
+      return {Result::kBusy,
+              QStringLiteral("Another program holds the mouse. View control begins when it releases it.")};
     }
     sink_ = std::move(sink);
     is_held_ = true;
@@ -70,7 +71,7 @@ class WindowsPointerLock : public PointerLock, private QAbstractNativeEventFilte
     return ClipCursor(&pixel) != FALSE;
   }
 
-  // Each message comes once under this type, from its window's procedure.
+  // Each message arrives once with this type, from its window's procedure.
   bool nativeEventFilter(const QByteArray& type, void* message, qt::NativeResult* /*result*/) override {
     if (type != "windows_generic_MSG") return false;
     const MSG& told = *static_cast<const MSG*>(message);
@@ -79,7 +80,7 @@ class WindowsPointerLock : public PointerLock, private QAbstractNativeEventFilte
     if (way.isNull()) return false;
     Clip();
     sink_(way);
-    return false;  // the system frees what is behind the message
+    return false;  // the system frees the data of the message
   }
 
   QPointer<QWidget> view_;

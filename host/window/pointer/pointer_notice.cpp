@@ -48,9 +48,8 @@ void PointerNotice::Update() {
 QString PointerNotice::SystemText() const {
   if (system_ == WindowSystem::kWayland) {
     return QStringLiteral(
-        "Wayland does not let this window hold the mouse: view control does not work. Where the desktop has XWayland "
-        "it "
-        "works in full screen, when tavi is started with QT_QPA_PLATFORM=xcb.");
+        "Wayland does not let this window hold the mouse: view control does not work. If the desktop has "
+        "XWayland, start tavi with QT_QPA_PLATFORM=xcb and use full screen.");
   }
   if (system_ == WindowSystem::kXWayland && !full_screen_->isChecked()) {
     return QStringLiteral(

@@ -13,13 +13,13 @@ namespace tavi {
 
 class PointerCapture;
 
-// Tells above the view that view control does not get the mouse, or may lose it, and offers what helps. It is seen only
+// Shows above the view that view control does not get the mouse, or may lose it, and offers a remedy. It is shown only
 // with a keymap that has view control.
 class PointerNotice : public QFrame {
   Q_OBJECT
 
  public:
-  // `full_screen` is the window's switch. Nothing is owned, and all of it outlives the notice's use.
+  // `full_screen` is the window's switch. Nothing is owned, and everything outlives the notice.
   PointerNotice(WindowSystem system, const PointerCapture* capture, QAction* full_screen, QWidget* parent = nullptr);
 
   // Empty while it is hidden.

@@ -1,4 +1,4 @@
-// What the mice of an X server tell by the events of XInput 2.
+// What the mice of an X server report in XInput 2 events.
 #ifndef HOST_WINDOW_POINTER_X11_RAW_MOTION_H_
 #define HOST_WINDOW_POINTER_X11_RAW_MOTION_H_
 
@@ -11,25 +11,25 @@
 
 namespace tavi {
 
-// A mouse tells ways, a touch screen or a tablet tells places.
+// A mouse reports movement, a touch screen or a tablet positions.
 bool TellsWays(const xcb_input_xi_device_info_t& device);
 
-// The way of an event as the device counted it, before the server's acceleration.
+// The movement of an event as the device counted it, before the server's acceleration.
 QPointF WayOf(const xcb_input_raw_motion_event_t& event);
 
-// The raw motion of an X server's mice: on or off for a connection.
+// Switches the raw motion of an X server's mice on or off for a connection.
 //
 // Main thread.
 class X11RawMotion {
  public:
-  // The application's connection, and the root window of its screen.
+  // `connection` is the application's, `root` the root window of its screen.
   X11RawMotion(xcb_connection_t* connection, xcb_window_t root) : connection_(connection), root_(root) {}
 
-  // Gives why the server has none, or nothing.
+  // Returns why the server does not support it, or an empty string.
   QString Start();
   void Stop();
 
-  // Of an event that arrived; nothing but (0, 0) of one that is no way of a mouse.
+  // The movement of an event; (0, 0) for events that are not relative movement.
   QPointF TakeEvent(const xcb_generic_event_t& event);
 
  private:
@@ -39,7 +39,7 @@ class X11RawMotion {
   xcb_connection_t* connection_;
   xcb_window_t root_;
   uint8_t opcode_ = 0;                             // of XInput's events
-  QHash<xcb_input_device_id_t, bool> known_mice_;  // since Start: a number may be another device's later
+  QHash<xcb_input_device_id_t, bool> known_mice_;  // since Start: the number may belong to another device later
 };
 
 }  // namespace tavi

@@ -5,8 +5,8 @@ namespace tavi {
 
 namespace {
 
-// Qt may have told the server a version of its own, and a lower one would be an error. Raw events come past grabs, and
-// without one, since 2.1.
+// Qt may have announced a version of its own to the server, and announcing a lower one would be an error. Since 2.1,
+// raw events arrive during grabs and without one.
 constexpr uint16_t kMajor = 2;
 constexpr uint16_t kMinor = 4;
 constexpr uint16_t kLeastMinor = 1;
@@ -27,7 +27,7 @@ bool TellsWays(const xcb_input_xi_device_info_t& device) {
   return false;
 }
 
-// Only the valuators of the mask have a value.
+// Only the valuators in the mask have a value.
 QPointF WayOf(const xcb_input_raw_motion_event_t& event) {
   if (event.valuators_len == 0) return {};
   const uint32_t mask = *xcb_input_raw_button_press_valuator_mask(&event);
@@ -42,14 +42,14 @@ QString X11RawMotion::Start() {
   const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection_, &xcb_input_id);
   if (!extension || !extension->present) {
     return QStringLiteral(
-        "This X server has no XInput 2, which tells how the mouse moves: view control does not work.");
+        "This X server has no XInput 2, which reports how the mouse moves: view control does not work.");
   }
   opcode_ = extension->major_opcode;
   const X11Reply<xcb_input_xi_query_version_reply_t> version(
       xcb_input_xi_query_version_reply(connection_, xcb_input_xi_query_version(connection_, kMajor, kMinor), nullptr));
   if (!version || version->major_version < kMajor || version->minor_version < kLeastMinor) {
     return QStringLiteral(
-        "This X server has no XInput 2.1, which tells how the mouse moves: view control does not work.");
+        "This X server has no XInput 2.1, which reports how the mouse moves: view control does not work.");
   }
   Select(XCB_INPUT_XI_EVENT_MASK_RAW_MOTION);
   return {};

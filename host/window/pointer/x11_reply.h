@@ -10,7 +10,7 @@ struct FreeReply {
   void operator()(void* reply) const { std::free(reply); }
 };
 
-// An answer of an X server, which is the caller's; null for an error.
+// A reply of an X server, freed with its pointer; null after an error.
 template <typename Reply>
 using X11Reply = std::unique_ptr<Reply, FreeReply>;
 

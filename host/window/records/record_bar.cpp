@@ -28,7 +28,7 @@ namespace {
 constexpr double kSpeeds[] = {0.25, 0.5, 1.0, 2.0, 4.0};
 constexpr int kRefreshMs = 100;
 constexpr int kProgressWidth = 180;
-constexpr qint64 kAtOnceBytes = 16'000'000;  // a record up to here is read in less than half a second
+constexpr qint64 kAtOnceBytes = 16'000'000;  // a record of up to this size is read in less than half a second
 constexpr char kFileTypes[] = "Records (*.json);;All files (*)";
 
 QString TimeText(qint64 ms) {
@@ -40,7 +40,7 @@ bool IsLong(const QString& file) { return QFileInfo(file).size() > kAtOnceBytes;
 
 QString SpeedText(double speed) { return QStringLiteral("%1\u00D7").arg(speed); }
 
-// What the library does in one go: the pointer tells that it takes its time.
+// For a call of the library that takes a while: the pointer shows it.
 class Waiting {
  public:
   Waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -54,7 +54,7 @@ class Waiting {
 RecordBar::RecordBar(QWidget* parent)
     : QToolBar(QStringLiteral("Records"), parent),
       record_(AddButton(QStringLiteral("\u25CF Record"), QStringLiteral("Record what the guest gets"))),
-      pause_record_(AddButton(QStringLiteral("Pause"), QStringLiteral("Leave out what happens until Resume"))),
+      pause_record_(AddButton(QStringLiteral("Pause"), QStringLiteral("Leave out everything until Resume"))),
       recorded_(new QLabel),
       open_(nullptr),
       play_(nullptr),
@@ -70,20 +70,20 @@ RecordBar::RecordBar(QWidget* parent)
   recorded_->setAccessibleName(QStringLiteral("Time recorded"));
   addWidget(recorded_);
   addSeparator();
-  open_ = AddButton(QStringLiteral("Open record\u2026"), QStringLiteral("Take a record to play"));
+  open_ = AddButton(QStringLiteral("Open record\u2026"), QStringLiteral("Open a record for replay"));
   play_ = AddButton(QStringLiteral("\u25B6 Play"), QString());
   restart_ = AddButton(QStringLiteral("Restart"), QStringLiteral("Play from the start again"));
-  stop_ = AddButton(QStringLiteral("Stop"), QStringLiteral("End the replay and let go of what it holds"));
+  stop_ = AddButton(QStringLiteral("Stop"), QStringLiteral("End the replay and release what it holds"));
   AddSpeedButton();
   progress_->setFixedWidth(kProgressWidth);
   progress_->setFormat(QString());
   progress_->setAccessibleName(QStringLiteral("Time played"));
   addWidget(progress_);
   second_view_ = AddButton(QStringLiteral("Second view"),
-                           QStringLiteral("Play on a display of its own, beside the one that you play on"));
+                           QStringLiteral("Replay on a display of its own, beside the one that you play on"));
   second_view_->setCheckable(true);
   ReachByTab(this);
-  toggleViewAction()->setVisible(false);  // it stays
+  toggleViewAction()->setVisible(false);  // always shown
 
   connect(record_, &QAction::triggered, this, &RecordBar::ToggleRecording);
   connect(pause_record_, &QAction::triggered, this, &RecordBar::TogglePause);
@@ -96,7 +96,7 @@ RecordBar::RecordBar(QWidget* parent)
   connect(Recorder::GetInstance(), &Recorder::Saved, this, &RecordBar::TakeSaved);
   connect(Replayer::GetInstance(), &Replayer::Changed, this, &RecordBar::Show);
   connect(Replayer::GetInstance(), &Replayer::Refused, this, [this](const QString& file) {
-    Q_EMIT Message(QStringLiteral("%1 holds no actions that can be played").arg(file), true);
+    Q_EMIT Message(QStringLiteral("%1 contains no actions that can be replayed").arg(file), true);
   });
   Show();
 }
@@ -111,7 +111,7 @@ void RecordBar::AddSpeedButton() {
   auto* button = new QToolButton(this);
   button->setMenu(MakeSpeedMenu());
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setToolTip(QStringLiteral("How fast the next replay is"));
+  button->setToolTip(QStringLiteral("Speed of the next replay"));
   const auto show = [this, button] {
     button->setText(SpeedText(Speed()));
     button->setAccessibleName(QStringLiteral("Speed %1").arg(button->text()));
@@ -131,7 +131,7 @@ QMenu* RecordBar::MakeSpeedMenu() {
     action->setChecked(speed == 1.0);
   }
   menu->addSeparator();
-  hand_ = menu->addAction(QStringLiteral("As by hand: each tap a pixel or two aside"));
+  hand_ = menu->addAction(QStringLiteral("Like a human hand: each tap is a pixel or two off"));
   hand_->setCheckable(true);
   return menu;
 }
@@ -148,7 +148,7 @@ void RecordBar::ToggleRecording() {
   }
   const QString problem = target_.isEmpty() ? QString() : TryWholeFile(target_);
   if (!problem.isEmpty()) {
-    return Q_EMIT Message(QStringLiteral("Nothing is recorded: %1 cannot be written: %2").arg(target_, problem), true);
+    return Q_EMIT Message(QStringLiteral("Not recording: %1 cannot be written: %2").arg(target_, problem), true);
   }
   recorder->Start(app_);
 }
@@ -164,7 +164,7 @@ void RecordBar::TogglePause() {
 
 QString RecordBar::AskForTarget() {
   Recorder* recorder = Recorder::GetInstance();
-  // The dialog is no part of it, and whoever backs out can go on.
+  // The dialog is not part of the recording, and the user may cancel it and continue.
   if (recorder->Status() == RecordStatus::Recording) recorder->Pause();
   const QString file = ask_for_name_(
       {QStringLiteral("Save the record"), folder_, QString::fromLatin1(kFileTypes), QStringLiteral("json")});
@@ -195,7 +195,7 @@ QString RecordBar::AskAfter(const QString& problem, const QString& file) {
   const auto answer = ask_(QStringLiteral("%1.\n\nThe recording is kept.").arg(problem),
                            {{QMessageBox::Save, QStringLiteral("Save as\u2026")},
                             {QMessageBox::Retry, {}},
-                            {QMessageBox::Discard, QStringLiteral("Drop it")},
+                            {QMessageBox::Discard, QStringLiteral("Discard")},
                             {QMessageBox::Cancel, {}}});
   if (answer == QMessageBox::Discard) Recorder::GetInstance()->Discard();
   if (answer == QMessageBox::Save) return AskForTarget();
@@ -206,7 +206,7 @@ bool RecordBar::MayLeave() {
   Recorder* recorder = Recorder::GetInstance();
   if (!recorder->HasRecording()) return true;
   if (!target_.isEmpty()) return SaveRecording();
-  const auto answer = ask_(QStringLiteral("Save what was recorded?"),
+  const auto answer = ask_(QStringLiteral("Save the recording?"),
                            {{QMessageBox::Save, {}}, {QMessageBox::Discard, {}}, {QMessageBox::Cancel, {}}});
   if (answer == QMessageBox::Discard) recorder->Discard();
   return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveRecording());
@@ -216,21 +216,21 @@ QString RecordBar::SaveWithoutAsking() {
   Recorder* recorder = Recorder::GetInstance();
   QString problem = recorder->End();
   if (recorder->KeptFile().isEmpty()) return problem;
-  const QString target = target_;  // which is forgotten with the save
+  const QString target = target_;  // the save resets it
   if (!target.isEmpty()) problem = recorder->Save(target) + QStringLiteral("; ");
   if (recorder->KeptFile().isEmpty()) return {};
-  return problem + QStringLiteral("the recording is kept as %1").arg(recorder->KeptFile());
+  return problem + QStringLiteral("the recording was saved as %1").arg(recorder->KeptFile());
 }
 
-// A recording is played at once, unless another record is at work.
+// A saved recording is opened for replay, unless another record is playing.
 void RecordBar::TakeSaved(const QString& file, const RecordInfo& info) {
-  target_.clear();  // another recording is not to take its place
+  target_.clear();  // another recording must not replace it
   folder_ = QFileInfo(file).absolutePath();
   const State state = Replayer::GetInstance()->GetState();
   if (state == State::kNone || state == State::kFinished) Replayer::GetInstance()->Open(file, info);
 }
 
-// Seen although the next step lets nothing be painted.
+// Painted now, because the next step blocks the event loop.
 void RecordBar::Announce(const QString& text) {
   Q_EMIT Message(text, false);
   window()->repaint();
@@ -259,7 +259,7 @@ std::optional<RecordInfo> RecordBar::Read(const QString& file) {
     bool is_record = false;
     RecordInfo info;
   };
-  const auto result = std::make_shared<Result>();  // stays for a reading that was cancelled
+  const auto result = std::make_shared<Result>();  // a cancelled read still needs it
   const auto read = [file, result] { result->is_record = taviinputmanager::GetRecordInfo(file, &result->info); };
   if (!IsLong(file)) {
     read();
@@ -269,7 +269,7 @@ std::optional<RecordInfo> RecordBar::Read(const QString& file) {
     if (!is_done) return std::nullopt;
   }
   if (result->is_record) return result->info;
-  Q_EMIT Message(QStringLiteral("%1 is no record").arg(file), true);
+  Q_EMIT Message(QStringLiteral("%1 is not a record").arg(file), true);
   return std::nullopt;
 }
 

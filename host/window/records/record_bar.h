@@ -18,49 +18,50 @@ struct RecordInfo;
 
 namespace tavi {
 
-// Records what the guest gets, and plays records back. A click at its buttons takes no focus, so that the keys stay the
-// guest's.
+// Records what the guest gets, and replays records. Clicking its buttons moves no focus, so that the keys still go to
+// the guest.
 class RecordBar : public QToolBar {
   Q_OBJECT
 
  public:
   explicit RecordBar(QWidget* parent = nullptr);
 
-  // The name of what is played, which a record keeps.
+  // The game's name in the header of the next recording.
   void SetApp(const QString& app) { app_ = app; }
-  // Where the next recording is saved; empty: a person is asked.
+  // Where the next recording is saved; empty asks the user.
   void SetTarget(const QString& file) { target_ = file; }
   void SetAsk(const Ask& ask) { ask_ = ask; }
   void SetAskForName(const AskForName& ask) { ask_for_name_ = ask; }
 
-  // Starts a recording, if its target can be written, or ends and saves the one that there is.
+  // Starts a recording if its target can be written, or ends and saves the current one.
   void ToggleRecording();
-  // Ends the recording and saves it; where that fails, the person is asked what to do. False when there is a recording
-  // still: the person backed out. It is then paused, or kept.
+  // Ends the recording and saves it; if that fails, asks the user what to do. Returns false if there is still a
+  // recording, because the user cancelled. It is then paused, or kept.
   bool SaveRecording();
-  // Whether the window may go: a recording is saved, or dropped on demand.
+  // Whether the window may close: a recording is saved, or discarded if the user wants.
   bool MayLeave();
-  // The same without asking anybody. Returns what went wrong, and where the recording is kept, or nothing.
+  // The same without asking. Returns what went wrong and where the recording was saved, or an empty string.
   QString SaveWithoutAsking();
-  // Takes a record to play; asks for one when `file` is empty. False when it is none, or when the person backs out.
+  // Opens a record for replay; asks for one if `file` is empty. Returns false if it is not a record, or if the user
+  // cancels.
   bool OpenRecord(QString file = {});
-  // Plays the record, or pauses it, or goes on.
+  // Starts, pauses or resumes the replay.
   void TogglePlaying();
 
   QAction* SecondView() const { return second_view_; }
 
  Q_SIGNALS:
-  // For the person; `is_problem`: something went wrong.
+  // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);
-  // A dialog is gone; the guest should have the keys again.
+  // A dialog was closed; the focus should return to the guest.
   void DialogClosed();
 
  private:
   QString AskForTarget();
-  // Returns what went wrong, or nothing.
+  // Returns the error, or an empty string.
   QString SaveTo(const QString& file);
-  // Asks what is to become of a recording that could not be saved as `file`. The name to save it under next; empty: it
-  // was dropped, or stays.
+  // Asks what to do with a recording that could not be saved as `file`. Returns the name to save it under next; empty
+  // if it was discarded, or stays.
   QString AskAfter(const QString& problem, const QString& file);
   QAction* AddButton(const QString& text, const QString& hint);
   QMenu* MakeSpeedMenu();
@@ -68,7 +69,7 @@ class RecordBar : public QToolBar {
   void TogglePause();
   void Play();
   void TakeSaved(const QString& file, const RecordInfo& info);
-  // The header of a record; nothing when the file is none, which a person is told, or when the person backs out.
+  // The header of a record; nothing if the file is not a record, which the user is told, or if the user cancels.
   std::optional<RecordInfo> Read(const QString& file);
   void Announce(const QString& text);
   void Show();
@@ -88,10 +89,10 @@ class RecordBar : public QToolBar {
   QAction* hand_ = nullptr;
   QProgressBar* progress_;
   QAction* second_view_;
-  QTimer refresh_;  // of the times, while something runs
+  QTimer refresh_;  // of the times, during a recording or replay
   QString app_;
   QString target_;
-  QString folder_;  // where records were saved or opened last
+  QString folder_;  // where a record was last saved or opened
   Ask ask_;
   AskForName ask_for_name_;
 };

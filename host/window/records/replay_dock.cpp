@@ -15,11 +15,11 @@ namespace tavi {
 namespace {
 
 constexpr int kLeastHeight = 180;
-constexpr int kFirstReplaySlot = 18;  // from here on fingers are those of replays, macros and pinches by key
+constexpr int kFirstReplaySlot = 18;  // slots from here on are those of replays, macros and pinches by key
 
-// The library forgets nothing by this: later lines about these keys and fingers are as if it had not been.
+// The library's state does not change: later lines about these keys and contacts are sent as before.
 void LiftKeys(const GuestState& state, int display) {
-  const QSet<int> codes = state.held_keys;  // a copy: each line takes one away
+  const QSet<int> codes = state.held_keys;  // a copy: each line removes one
   for (const int code : codes) {
     taviinputmanager::OnInputRawEventData(QStringLiteral("KBDRL:%1:0\n").arg(code), display);
   }
@@ -41,7 +41,7 @@ ReplayDock::ReplayDock(const GuestScreen* player, QWidget* parent)
   setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
   frame_->setMinimumHeight(kLeastHeight);
   setWidget(frame_);
-  toggleViewAction()->setVisible(false);  // it comes and goes with the switch
+  toggleViewAction()->setVisible(false);  // the switch shows and hides it
 }
 
 void ReplayDock::SetInUse(bool in_use) {
@@ -50,7 +50,7 @@ void ReplayDock::SetInUse(bool in_use) {
   setVisible(in_use);
 }
 
-// All that is down there is a replay's.
+// Everything down on that display belongs to a replay.
 void ReplayDock::LiftOnOwn() const {
   const GuestState& state = own_->Model().state();
   if (!state.contacts.isEmpty()) {
@@ -59,11 +59,11 @@ void ReplayDock::LiftOnOwn() const {
   LiftKeys(state, LiveHost::kReplayDisplay);
 }
 
-// What the player holds by keys, and macros by fingers, goes as well: one cannot tell whose it is.
+// This also releases keys that the player holds and contacts of macros: they cannot be distinguished.
 void ReplayDock::LiftOnPlayers() const {
   if (!IsUnderWay()) return;
   const GuestState& state = player_->Model().state();
-  const QList<int> slots = state.contacts.keys();  // a copy: each line takes one away
+  const QList<int> slots = state.contacts.keys();  // a copy: each line removes one
   for (const int slot : slots) {
     if (slot < kFirstReplaySlot) continue;
     taviinputmanager::OnInputRawEventData(QStringLiteral("SLOTRELEASE:%1\n").arg(slot), LiveHost::kDisplay);

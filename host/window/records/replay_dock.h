@@ -8,23 +8,23 @@ namespace tavi {
 class GuestFrame;
 class GuestScreen;
 
-// A second display of the guest, which replays have for themselves while it is shown.
+// A second display of the guest. While it is shown, replays play on it.
 //
 // Main thread.
 class ReplayDock : public QDockWidget {
   Q_OBJECT
 
  public:
-  // `player` shows the display that is played on, and outlives the dock.
+  // `player` shows the display that you play on, and outlives the dock.
   ReplayDock(const GuestScreen* player, QWidget* parent);
 
   GuestFrame* Frame() const { return frame_; }
-  // Shows the display and has replays go there, or on the player's. What a replay has down on the one that it leaves is
-  // lifted there; on the other it comes down again with the next line about it.
+  // Shows the display and sends replays to it, or hides it and sends them to the player's. What a replay holds down on
+  // the display that it leaves is released there; on the other it is pressed again by the next line about it.
   void SetInUse(bool in_use);
 
  Q_SIGNALS:
-  // By its own button.
+  // With the dock's own button.
   void Closed();
 
  protected:

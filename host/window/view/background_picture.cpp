@@ -11,7 +11,7 @@ namespace tavi {
 
 namespace {
 
-constexpr double kSameShape = 0.01;  // of the ratio of the sides: less shows no bar that one would notice
+constexpr double kSameShape = 0.01;  // of the aspect ratios: smaller differences make no visible bars
 
 double RatioOf(const QSize& size) { return static_cast<double>(size.width()) / qMax(1, size.height()); }
 
@@ -19,7 +19,7 @@ double RatioOf(const QSize& size) { return static_cast<double>(size.width()) / q
 
 QString BackgroundPicture::Read(const QString& file) {
   QImageReader reader(file);
-  reader.setAutoTransform(true);  // as cameras and phones mean it
+  reader.setAutoTransform(true);  // honours the orientation tag of cameras and phones
   reader.setDecideFormatFromContent(true);
   const QImage image = reader.read();
   if (image.isNull()) return QStringLiteral("%1 cannot be read as a picture: %2").arg(file, reader.errorString());
@@ -33,7 +33,7 @@ void BackgroundPicture::Clear() { *this = BackgroundPicture(); }
 
 QString BackgroundPicture::ShapeNote(const QSize& display) const {
   if (IsEmpty() || qAbs(RatioOf(image_.size()) / RatioOf(display) - 1) < kSameShape) return {};
-  return QStringLiteral("%1 is %2 and the guest %3, which is another shape: it is shown with bars")
+  return QStringLiteral("%1 is %2, but the guest is %3, which has another aspect ratio: it is shown with bars")
       .arg(name_, SizeText(image_.size()), SizeText(display));
 }
 

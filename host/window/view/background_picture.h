@@ -11,26 +11,26 @@ class QRectF;
 
 namespace tavi {
 
-// A picture of the guest's screen, drawn in its place.
+// A picture that is drawn in place of the guest's screen.
 //
 // Main thread.
 class BackgroundPicture {
  public:
-  // Takes the picture of a file. Returns what is wrong, and changes nothing then.
+  // Loads a picture file. Returns the error and changes nothing if that fails.
   QString Read(const QString& file);
   void Clear();
 
   bool IsEmpty() const { return image_.isNull(); }
-  // What there is to say where the guest's display has another shape; empty where it has the same.
+  // A message if the guest's display has another aspect ratio; empty if it has the same.
   QString ShapeNote(const QSize& display) const;
 
-  // In its own shape, as large as fits into `area`, its middle there.
+  // Keeps the picture's aspect ratio, as large as fits into `area`, centred.
   void Paint(QPainter* painter, const QRectF& area) const;
 
  private:
   QString name_;
   QImage image_;
-  mutable QPixmap scaled_;  // as last painted: the view is drawn much more often than it changes its size
+  mutable QPixmap scaled_;  // scaled as last painted: the view is painted much more often than it is resized
 };
 
 }  // namespace tavi

@@ -11,12 +11,12 @@ namespace tavi {
 
 namespace {
 
-constexpr double kRadius = 0.042;  // of a finger, of the view's height
+constexpr double kRadius = 0.042;  // of a contact, relative to the view's height
 constexpr double kLeastRadius = 15;
 constexpr double kMostRadius = 34;
-constexpr double kBadgeRadius = 0.42;  // of a finger's radius
+constexpr double kBadgeRadius = 0.42;  // relative to a contact's radius
 constexpr double kLeastBadge = 8.5;
-constexpr double kWayWidth = 0.4;  // of a finger's radius
+constexpr double kWayWidth = 0.4;  // relative to a contact's radius
 
 QColor Faded(QColor color, double strength) {
   color.setAlphaF(color.alphaF() * qBound(0.0, strength, 1.0));

@@ -14,7 +14,7 @@ class ContactTrails;
 struct ContactTrail;
 struct GuestWheelTurn;
 
-// Draws what the guest has on its screen: fingers with their slot numbers and trails, the pointer, turns of the wheel.
+// Draws what is on the guest's screen: contacts with their slot numbers and trails, the pointer, wheel steps.
 class ContactPainter {
  public:
   // `guest` is the touch surface, `view` the size of the guest view in the painter's units.
@@ -22,7 +22,7 @@ class ContactPainter {
 
   void PaintTrails(const ContactTrails& trails, qint64 now_ms);
   void PaintPointer(const QPoint& touch);
-  // `strength` from 1, just turned, to 0.
+  // `strength` fades from 1, a recent step, to 0.
   void PaintWheel(const GuestWheelTurn& wheel, double strength);
 
  private:
@@ -33,7 +33,7 @@ class ContactPainter {
   QPainter* painter_;
   const GuestGeometry guest_;
   const QSizeF view_;
-  const double radius_;  // of a finger
+  const double radius_;  // of a contact
 };
 
 }  // namespace tavi

@@ -8,7 +8,7 @@ namespace tavi {
 
 namespace {
 
-// Keeps the last point: a finger that rests is where it is.
+// Keeps the last point: a contact at rest is there.
 void PruneDown(ContactTrail* trail, qint64 oldest_ms) {
   const auto is_old = [oldest_ms](const TrailPoint& point) { return point.ms < oldest_ms; };
   const auto last = trail->points.end() - 1;

@@ -1,4 +1,4 @@
-// The ways that fingers went of late, for drawing.
+// The recent paths of contacts, for drawing.
 #ifndef HOST_WINDOW_VIEW_CONTACT_TRAILS_H_
 #define HOST_WINDOW_VIEW_CONTACT_TRAILS_H_
 
@@ -10,30 +10,30 @@ namespace tavi {
 
 struct GuestContact;
 
-// A point of a trail, fresh from the guest's state.
+// A point of a trail, from the guest's state.
 struct TrailPoint {
   QPoint point;   // touch coordinates
-  qint64 ms = 0;  // when the finger came there
+  qint64 ms = 0;  // when the contact arrived there
 };
 
-// One finger from its touch to its lift.
+// One contact from press to release.
 struct ContactTrail {
   int slot = 0;
   QVector<TrailPoint> points;  // in order of time, never empty
   qint64 lifted_ms = -1;       // -1: still down
 };
 
-// Main thread. Times are milliseconds of any clock that does not go back.
+// Main thread. Times are milliseconds of any monotonic clock.
 class ContactTrails {
  public:
-  static constexpr int kFadeMs = 700;  // after which nothing of a point is left to see
+  static constexpr int kFadeMs = 700;  // after which a point has faded completely
 
-  // What is down now; what was down before and is not has been lifted.
+  // The contacts that are down now; those that were down before and are not in it have been released.
   void Update(const QMap<int, GuestContact>& contacts, qint64 now_ms);
-  // Forgets what has faded; tells whether anything is left that still has to fade.
+  // Drops the points that have faded completely. Returns whether any points are still fading.
   bool Prune(qint64 now_ms);
 
-  // Lifted ones first, then those of the fingers that are down, by slot.
+  // Released contacts first, then those that are down, by slot.
   const QVector<ContactTrail>& Lifted() const { return lifted_; }
   const QMap<int, ContactTrail>& Down() const { return down_; }
 
@@ -41,7 +41,7 @@ class ContactTrails {
   void Append(int slot, const QPoint& point, qint64 now_ms);
 
   QMap<int, ContactTrail> down_;  // by slot
-  QVector<ContactTrail> lifted_;  // in order of lifting
+  QVector<ContactTrail> lifted_;  // in order of release
 };
 
 }  // namespace tavi

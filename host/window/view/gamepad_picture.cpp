@@ -18,7 +18,7 @@ struct NamedButton {
   const char* name;
 };
 
-// Linux codes of a gamepad's buttons.
+// Linux codes of gamepad buttons.
 constexpr NamedButton kButtons[] = {
     {304, "A"},  {305, "B"},    {307, "X"},     {308, "Y"},     {310, "LB"}, {311, "RB"}, {312, "LT"},
     {313, "RT"}, {314, "Back"}, {315, "Start"}, {316, "Guide"}, {317, "LA"}, {318, "RA"},
@@ -36,7 +36,7 @@ struct HatRow {
   QPoint way;
 };
 
-// The directions of the hat, as the library calls them.
+// The directions of the hat, by the library's names.
 const HatRow kHat[] = {
     {u'\u2191', {0, -1}},
     {u'\u2193', {0, 1}},
@@ -44,7 +44,7 @@ const HatRow kHat[] = {
     {u'\u2192', {1, 0}},
 };
 
-// A null point for a button that is no direction.
+// A null point for a button that is not a direction.
 QPoint WayOf(const QString& button) {
   for (const HatRow& row : kHat) {
     if (button == QChar(row.arrow)) return row.way;
@@ -52,7 +52,7 @@ QPoint WayOf(const QString& button) {
   return {};
 }
 
-// Moves on to the right with every part.
+// Advances to the right with every part.
 class GamepadPainter {
  public:
   GamepadPainter(QPainter* painter, const QRectF& place) : painter_(painter), place_(place), left_(place.left()) {}

@@ -51,7 +51,7 @@ void GuestDisplay::SetPixelRatio(double ratio) {
 }
 
 void GuestDisplay::Shape() {
-  InputPort::GetInstance()->LetGo();  // what is down has its place in the display before
+  InputPort::GetInstance()->LetGo();  // positions of what is down refer to the previous display
   const QSize display = LiveHost::GetInstance()->Geometry().DisplaySize();
   for (GuestFrame* frame : {frame_, replay_frame_}) frame->SetShape(follows_view_ ? QSize() : display);
   TakeViewSize();
@@ -71,7 +71,7 @@ void GuestDisplay::ShowSizes() {
   if (guest.rotation != 0) text += QStringLiteral(" at %1\u00B0").arg(guest.rotation);
   if (host->PixelRatio() != 1) text += QStringLiteral(" \u00B7 pixel ratio %1").arg(host->PixelRatio());
   label_->setText(text + QStringLiteral(" \u00B7 shown at ") + SizeText(view_->size()));
-  label_->setToolTip(QStringLiteral("Touch surface %1, window as the library is told %2")
+  label_->setToolTip(QStringLiteral("Touch surface %1, view as reported to the library %2")
                          .arg(SizeText(guest.touch_surface), SizeText(host->ViewSize())));
 }
 

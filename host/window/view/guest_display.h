@@ -16,39 +16,40 @@ class GuestFrame;
 class GuestMenu;
 class GuestView;
 
-// The guest's display in the window: its size, what it is turned by, how its pixels are counted, and a picture in place
-// of its screen. Has the menu that chooses them, and the label that tells them.
+// The guest's display in the window: its size, its rotation, its pixel ratio, and a picture in place of its screen.
+// Provides the menu that sets them, and the label that shows them.
 //
 // Main thread.
 class GuestDisplay : public QObject {
   Q_OBJECT
 
  public:
-  // `view` stands in `frame`, `replay_frame` has the display of replays; all of them outlive the display. Dialogs are
-  // `window`'s.
+  // `view` is the child of `frame`; `replay_frame` holds the display of replays. All of them outlive this object.
+  // Dialogs belong to `window`.
   GuestDisplay(GuestView* view, GuestFrame* frame, GuestFrame* replay_frame, QWidget* window);
 
-  // In pixels. An empty size: as large as the view, whatever that is.
+  // In pixels. An empty size makes the display as large as the view.
   void SetSize(const QSize& size);
-  // 0, 90, 180 or 270 degrees. The size is of the screen before it is turned.
+  // 0, 90, 180 or 270 degrees. The size is that of the unrotated screen.
   void SetRotation(int degrees);
-  // How many pixels the host counts for one of the guest, for whoever wants to see which places agree all the same.
+  // How many pixels the host reports for one of the guest. It is for developers who check which positions are still
+  // correct.
   void SetPixelRatio(double ratio);
-  // A picture in place of the guest's screen; an empty name for none. Returns what is wrong, or nothing.
+  // A picture in place of the guest's screen; an empty name removes it. Returns the error, or an empty string.
   QString SetBackground(const QString& file);
 
   bool FollowsView() const { return follows_view_; }
   // Empty without one.
   QString BackgroundFile() const { return background_file_; }
 
-  // The window's parts.
+  // Owned by the window.
   GuestMenu* Menu() const { return menu_; }
   QLabel* Label() const { return label_; }
 
  Q_SIGNALS:
-  // For the person; `is_problem`: something went wrong.
+  // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);
-  // A dialog is gone; the guest should have the keys again.
+  // A dialog was closed; the focus should return to the guest.
   void DialogClosed();
 
  private:

@@ -6,7 +6,7 @@
 
 namespace tavi {
 
-// Holds the guest view as large as it fits in the shape of the guest's display, so that nothing is distorted.
+// Keeps the guest view as large as possible in the aspect ratio of the guest's display, so that nothing is distorted.
 class GuestFrame : public QWidget {
   Q_OBJECT
 
@@ -14,11 +14,11 @@ class GuestFrame : public QWidget {
   // `view` becomes the frame's child.
   explicit GuestFrame(QWidget* view, QWidget* parent = nullptr);
 
-  // The shape to keep; an empty size lets the view fill the frame.
+  // The aspect ratio to keep; an empty size makes the view fill the frame.
   void SetShape(const QSize& shape);
 
  Q_SIGNALS:
-  // The view has another size.
+  // The view was resized.
   void ViewResized();
 
  protected:

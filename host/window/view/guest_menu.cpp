@@ -36,13 +36,13 @@ GuestMenu::GuestMenu(QWidget* parent)
   addSeparator();
   QMenu* rotation = addMenu(QStringLiteral("Rotation"));
   rotation->menuAction()->setToolTip(
-      QStringLiteral("What the host answers when it is asked for the display's rotation; 180\u00B0 counts as 0\u00B0"));
+      QStringLiteral("The display's rotation that the host reports; the library treats 180\u00B0 as 0\u00B0"));
   for (const int degrees : kRotations) {
     AddChoice(rotation, rotations_, QStringLiteral("%1\u00B0").arg(degrees), degrees);
   }
   QMenu* ratio = addMenu(QStringLiteral("Pixel ratio"));
-  ratio->menuAction()->setToolTip(
-      QStringLiteral("How many pixels of the view the host counts for one of the display: walks go elsewhere then"));
+  ratio->menuAction()->setToolTip(QStringLiteral(
+      "How many pixels of the view the host reports for one of the display; values other than 1 move walks"));
   for (const double value : kPixelRatios) AddChoice(ratio, pixel_ratios_, QString::number(value), value);
   addSeparator();
   QAction* background = addAction(QStringLiteral("Background picture\u2026"));

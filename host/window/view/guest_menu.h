@@ -12,14 +12,14 @@ namespace tavi {
 // "1280 × 720"
 QString SizeText(const QSize& size);
 
-// What can be chosen about the guest's display. An empty size is one as large as the view.
+// The choices for the guest's display. An empty size means as large as the view.
 class GuestMenu : public QMenu {
   Q_OBJECT
 
  public:
   explicit GuestMenu(QWidget* parent = nullptr);
 
-  // Each marks what is so; a value that stands in no list marks nothing.
+  // Each marks the current value; a value that is not in the list marks nothing.
   void MarkSize(const QSize& size);
   void MarkRotation(int degrees);
   void MarkPixelRatio(double ratio);

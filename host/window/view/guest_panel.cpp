@@ -23,9 +23,9 @@ constexpr int kMargin = 12;
 constexpr int kMouseWidth = 200;
 constexpr int kGamepadWidth = 250;
 constexpr int kTiltWidth = 64;
-constexpr double kMostTilt = 40;  // either way
+constexpr double kMostTilt = 40;  // in each direction
 
-// Takes pieces off the panel, from the left for those that share what is left, from the right for fixed ones.
+// Cuts areas off the panel: from the left for parts that share the remaining space, from the right for fixed ones.
 class SectionPainter {
  public:
   SectionPainter(QPainter* painter, const QRect& panel)
@@ -43,7 +43,7 @@ class SectionPainter {
   double Rest() const { return qMax(0.0, right_ - left_); }
 
  private:
-  // Gives the place below the caption.
+  // Returns the area below the caption.
   QRectF Begin(const QString& caption, double start, double width) {
     QFont font = painter_->font();
     font.setPixelSize(10);
@@ -69,7 +69,7 @@ class SectionPainter {
 QString MouseText(int status, const QString& staring_key) {
   switch (static_cast<InputStatus>(status)) {
     case InputStatus::Normal: return QStringLiteral("free");
-    case InputStatus::Staring: return QStringLiteral("steers the view (%1: free)").arg(staring_key);
+    case InputStatus::Staring: return QStringLiteral("turns the view (%1: free)").arg(staring_key);
     case InputStatus::StaringOff:
       return staring_key.isEmpty() ? QStringLiteral("free") : QStringLiteral("free (%1: view)").arg(staring_key);
     case InputStatus::Observing: return QStringLiteral("looks around");
@@ -93,7 +93,7 @@ void GuestPanel::TakeInputStatus(int status, const QString& key) {
   update();
 }
 
-// Keys to the right add to z, keys upwards to x. A guest that was never tilted needs no level.
+// Tilting to the right increases z, upwards x. No level is drawn for a guest that was never tilted.
 void GuestPanel::TakeGravity(double x, double /*y*/, double z) {
   const QPointF tilt(z, -x);
   if (!tilt_ && tilt.isNull()) return;
@@ -180,7 +180,7 @@ void GuestPanel::PaintText(QPainter* painter, const QRectF& place) const {
   painter->drawLine(QPointF(qMax(line.left(), end - metrics.horizontalAdvance(preedit_)), bottom), {end, bottom});
 }
 
-// A ball on a plate: it goes where the guest is tilted to.
+// A ball on a plate: it rolls to where the guest is tilted.
 void GuestPanel::PaintTilt(QPainter* painter, const QRectF& place) const {
   const double radius = place.height() / 2 - 1;
   const QPointF center(place.left() + radius, place.center().y());

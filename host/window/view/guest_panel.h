@@ -14,17 +14,18 @@ namespace tavi {
 
 class GuestModel;
 
-// A strip of what the guest has that is no place on its screen: the mouse's part, keys held down, text, gamepad, tilt.
+// A strip with the guest's state that has no position on its screen: the mouse's role, keys that are down, text,
+// gamepad, tilt.
 class GuestPanel : public QWidget {
   Q_OBJECT
 
  public:
-  // `model` outlives the panel; update() after it changed.
+  // `model` outlives the panel; call update() after it changed.
   explicit GuestPanel(const GuestModel* model, QWidget* parent = nullptr);
 
-  // A gamepad of this computer and its name; none while there is none.
+  // A gamepad of this computer and its name; none if there is none.
   void SetPad(const std::optional<GamepadPicture>& pad, const QString& name);
-  // What an input method composes and the guest has not got yet.
+  // The text that an input method is composing and that the guest has not received yet.
   void SetPreedit(const QString& preedit);
 
   QSize sizeHint() const override;
@@ -47,10 +48,10 @@ class GuestPanel : public QWidget {
   std::optional<GamepadPicture> pad_;
   QString pad_name_;
   QString preedit_;
-  std::optional<QPointF> tilt_;  // to the right and downwards, at most 40 either way
+  std::optional<QPointF> tilt_;  // to the right and downwards, at most 40 in each direction
 };
 
-// What the mouse does in an InputStatus; `staring_key` is the key that switches view control.
+// What the mouse does according to an InputStatus; `staring_key` is the key that switches view control.
 QString MouseText(int status, const QString& staring_key);
 
 }  // namespace tavi

@@ -12,7 +12,7 @@ namespace tavi {
 namespace {
 
 constexpr int kFrameMs = 16;
-constexpr int kGridLines = 10;  // each way
+constexpr int kGridLines = 10;  // in each direction
 constexpr int kWheelFadeMs = 450;
 
 }  // namespace

@@ -15,12 +15,12 @@ namespace tavi {
 
 struct TimelineEntry;
 
-// One display of the guest: draws what a guest would make of the lines that it gets.
+// One display of the guest, drawn as a guest would show the lines that it gets.
 class GuestScreen : public QWidget {
   Q_OBJECT
 
  public:
-  // Texts have no display of their own: they go to the one that has the guest's focus.
+  // Text lines have no display: they go to the one that has the guest's focus.
   enum class Texts { kTaken, kLeft };
 
   GuestScreen(int display, Texts texts, QWidget* parent = nullptr);
@@ -31,14 +31,14 @@ class GuestScreen : public QWidget {
   void SetBackground(const BackgroundPicture& picture);
 
  Q_SIGNALS:
-  // The model has taken a line.
+  // The model has applied a line.
   void ModelChanged();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
 
-  // What is read while fingers are on it.
+  // Draws what must stay legible over contacts.
   virtual void PaintOverFingers(QPainter* /*painter*/) {}
 
  private:
@@ -52,7 +52,7 @@ class GuestScreen : public QWidget {
   ContactTrails trails_;
   QElapsedTimer clock_;
   QBasicTimer fading_;
-  qint64 wheel_ms_;  // when the wheel was last turned
+  qint64 wheel_ms_;  // when the wheel last moved
 };
 
 }  // namespace tavi

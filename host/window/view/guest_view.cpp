@@ -24,7 +24,7 @@ using taviinputmanager::InputStatus;
 namespace {
 
 constexpr int kHintMargin = 24;
-constexpr double kDimmed = 0.35;  // of keys that are out of use
+constexpr double kDimmed = 0.35;  // of keys that are disabled
 
 QPointF ClampTo(const QRect& rect, const QPointF& point) {
   return {qBound<double>(rect.left(), point.x(), rect.right()), qBound<double>(rect.top(), point.y(), rect.bottom())};
@@ -37,7 +37,7 @@ GuestView::GuestView(QWidget* parent)
       capture_(this),
       key_repeats_([](QKeyEvent* event) { InputPort::GetInstance()->Send(event); }),
       may_repeat_as_release_(QGuiApplication::platformName() == QLatin1String("xcb")) {
-  setFocusPolicy(Qt::ClickFocus);  // Tab would not lead on from here
+  setFocusPolicy(Qt::ClickFocus);  // Tab must not move the focus from here
   setAccessibleName(QStringLiteral("Screen of the guest"));
   setMouseTracking(true);
   setAttribute(Qt::WA_AcceptTouchEvents);
@@ -87,13 +87,13 @@ void GuestView::SetHint(const QString& hint) {
 
 // ---- What the library says
 
-// While the mouse steers the view or looks around, only its movement counts.
+// During view control, only movement counts.
 void GuestView::TakeInputStatus(int status) {
   capture_.SetWanted(status == static_cast<int>(InputStatus::Staring) ||
                      status == static_cast<int>(InputStatus::Observing));
 }
 
-// An input method that composes would keep keys from the guest while nothing is typed.
+// Without a text field, a composing input method would keep keys from the guest.
 void GuestView::TakeTextField(bool focused) {
   setAttribute(Qt::WA_InputMethodEnabled, focused);
   QGuiApplication::inputMethod()->update(Qt::ImEnabled);
@@ -103,7 +103,7 @@ void GuestView::TakeTextField(bool focused) {
 
 bool GuestView::event(QEvent* event) {
   switch (event->type()) {
-    case QEvent::ShortcutOverride: event->accept(); return true;  // no key is the window's
+    case QEvent::ShortcutOverride: event->accept(); return true;  // no key belongs to the window
     case QEvent::KeyPress:
     case QEvent::KeyRelease: return HandleKey(static_cast<QKeyEvent*>(event));
     case QEvent::TouchBegin:
@@ -117,7 +117,7 @@ bool GuestView::event(QEvent* event) {
 bool GuestView::HandleKey(QKeyEvent* event) {
   event->accept();
   const NativeKey native = NativeKeyOf(*event);
-  // Such a key has a text at most.
+  // Such a key has at most a text.
   if (native.scancode == 0 && !LiveHost::GetInstance()->HasTextField()) return true;
   if (!IsWhole(*event, native.scancode)) return true;
   QKeyEvent converted(event->type(), event->key(), event->modifiers(), native.scancode, native.virtual_key,
@@ -132,7 +132,7 @@ bool GuestView::HandleKey(QKeyEvent* event) {
   return true;
 }
 
-// The key that closed a dialog is let go here; a guest would take that for its back key.
+// This is the release of the key that closed a dialog; a guest would take it for its back key.
 bool GuestView::IsWhole(const QEvent& event, quint32 scancode) {
   if (event.type() == QEvent::KeyRelease) return pressed_.remove(scancode);
   pressed_.insert(scancode);
@@ -146,7 +146,8 @@ void GuestView::Send(QEvent* event) {
 
 bool GuestView::HandleTouch(QEvent* event) {
   event->accept();
-  if (event->type() == QEvent::TouchCancel) {  // the window system takes it for itself; the library knows ends only
+  if (event->type() ==
+      QEvent::TouchCancel) {  // the window system cancelled the touch itself; the library has only ends
     QTouchEvent end(QEvent::TouchEnd);
     Send(&end);
     return true;
@@ -154,7 +155,7 @@ bool GuestView::HandleTouch(QEvent* event) {
   const auto& given = *static_cast<QTouchEvent*>(event);
   QList<qt::TouchPoint> points;
   for (const qt::TouchPoint& point : qt::PointsOf(given)) {
-    // Qt lists a finger that goes up once more, and the library takes every finger of an update to be down.
+    // Qt also lists a contact that is being released, but the library treats every contact of an update as down.
     if (qt::StateOf(point) == Qt::TouchPointReleased && event->type() == QEvent::TouchUpdate) continue;
     points.append(qt::MakeTouchPoint(point.id(), qt::StateOf(point), ToGuest(qt::PlaceOf(point))));
   }
@@ -168,10 +169,10 @@ void GuestView::mousePressEvent(QMouseEvent* event) { SendMouse(QEvent::MouseBut
 
 void GuestView::mouseReleaseEvent(QMouseEvent* event) { SendMouse(QEvent::MouseButtonRelease, *event); }
 
-// To a guest the second press of a double click is a press like any other, and the library drops double clicks.
+// To a guest the second press of a double click is an ordinary press, but the library drops double clicks.
 void GuestView::mouseDoubleClickEvent(QMouseEvent* event) { SendMouse(QEvent::MouseButtonPress, *event); }
 
-// A pointer that is held is moved by the window system alone.
+// Only the window system moves a pointer that is held.
 void GuestView::mouseMoveEvent(QMouseEvent* event) {
   if (!capture_.IsHeld()) SendMouse(QEvent::MouseMove, *event);
 }
@@ -181,7 +182,7 @@ void GuestView::SendWay(int dx, int dy) {
   InputPort::GetInstance()->SendRelative(dx, dy);
 }
 
-// A drag may leave the view; a finger stays on the glass.
+// A drag may leave the view; a contact stays on the screen.
 void GuestView::SendMouse(QEvent::Type type, const QMouseEvent& event) {
   const QPointF inside = ClampTo(rect(), qt::PlaceOf(event));
   QMouseEvent clamped(type, ToGuest(inside), mapTo(window(), inside.toPoint()), mapToGlobal(inside.toPoint()),
@@ -223,7 +224,7 @@ void GuestView::focusOutEvent(QFocusEvent* event) {
   QWidget::focusOutEvent(event);
 }
 
-// The releases of what is held will go to someone else, so that even taps and rapid taps are to end here.
+// The releases of held keys will go elsewhere, so that even taps and bursts must end here.
 void GuestView::ReleaseInput() {
   key_repeats_.Flush();
   InputPort::GetInstance()->LetGo();

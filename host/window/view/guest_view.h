@@ -4,20 +4,20 @@
 #include <QEvent>
 #include <QSet>
 
-#include "host/picture/keymap_overlay.h"
 #include "host/session/key_repeat_filter.h"
 #include "host/window/controls/stale_repeats.h"
 #include "host/window/pointer/pointer_capture.h"
+#include "host/window/view/drawn_overlay.h"
 #include "host/window/view/guest_screen.h"
 
 namespace tavi {
 
-// The guest's display with a keymap over it, which gives its input to the library. Places are handed on in pixels of
-// the guest, however large it is shown, so that to the library the view is as large as the guest's display, or a
+// The guest's display with the overlay of a keymap. It passes its input to the library. Positions are passed in pixels
+// of the guest, however large it is shown, so that for the library the view is as large as the guest's display, or a
 // multiple of it (LiveHost::ViewSize).
 //
-// All keys are the guest's while the view has the focus, those that move the focus or open menus among them. What is
-// pressed is let go when the view loses the focus, unless a macro asked to hold it.
+// All keys go to the guest while the view has the focus, including those that move the focus or open menus. What is
+// pressed is released when the view loses the focus, unless a macro asked to hold it.
 class GuestView : public GuestScreen {
   Q_OBJECT
 
@@ -27,20 +27,20 @@ class GuestView : public GuestScreen {
 
   void SetMarks(const QVector<OverlayMark>& marks);
   void SetOverlayShown(bool shown);
-  // The keymap's keys are out of use for the moment.
+  // The keys of the overlay are disabled at the moment.
   void SetOverlayDimmed(bool dimmed);
-  // Shown in the middle while the guest has nothing to show.
+  // Shown in the middle while the guest's screen is empty.
   void SetHint(const QString& hint);
   const QString& Hint() const { return hint_; }
-  // Something lies upon this part of the view; keys of the keymap give way to it.
+  // Another widget covers this part of the view; keys of the overlay move out of its way.
   void SetCovered(const QRect& covered);
-  // The corner of the view where it is `size` to the library: LiveHost::Corner.
+  // The corner of the view that has the coordinates `size` for the library: LiveHost::Corner.
   QPoint Corner(const QSize& size) const;
-  // Holds the pointer while the library takes nothing but its movement.
+  // Holds the pointer while the library uses nothing but its movement.
   const PointerCapture& Capture() const { return capture_; }
 
  Q_SIGNALS:
-  // An input method composes, and what it has is the whole of `text`.
+  // An input method is composing; `text` is the whole composition.
   void Composing(const QString& text);
 
  protected:
@@ -61,13 +61,13 @@ class GuestView : public GuestScreen {
   void TakeTextField(bool focused);
 
   bool HandleKey(QKeyEvent* event);
-  // Whether the other half of a release was here as well.
+  // Whether the press that belongs to a release was received here.
   bool IsWhole(const QEvent& event, quint32 scancode);
   bool HandleTouch(QEvent* event);
-  // Hands an event to the library, behind all that came before it.
+  // Passes an event to the library, after all earlier ones.
   void Send(QEvent* event);
   void SendMouse(QEvent::Type type, const QMouseEvent& event);
-  // Counts of a mouse whose pointer is held.
+  // Movement of a held mouse, in counts.
   void SendWay(int dx, int dy);
   void ReleaseInput();
   // From pixels of the view.
@@ -75,15 +75,15 @@ class GuestView : public GuestScreen {
 
   void PaintHint(QPainter* painter) const;
 
-  KeymapOverlay overlay_;
+  DrawnOverlay overlay_;
   bool overlay_shown_ = true;
   bool overlay_dimmed_ = false;
   QString hint_;
   PointerCapture capture_;
   KeyRepeatFilter key_repeats_;
-  QSet<quint32> pressed_;  // scan codes whose press came here
+  QSet<quint32> pressed_;  // scan codes that were pressed here
   StaleRepeats stale_repeats_;
-  const bool may_repeat_as_release_;  // the window system repeats keys as X11 does
+  const bool may_repeat_as_release_;  // the window system repeats keys like X11
 };
 
 }  // namespace tavi

@@ -12,9 +12,9 @@ namespace {
 
 constexpr int kTextHeight = 12;  // pixels
 constexpr int kHeight = 22;
-constexpr int kGap = 6;      // between words
+constexpr int kGap = 6;      // between labels
 constexpr int kMargin = 6;   // to the view's edges
-constexpr int kPadding = 9;  // around a word's text
+constexpr int kPadding = 9;  // around a label's text
 constexpr int kDot = 7;      // across
 constexpr int kDotGap = 6;
 
@@ -28,7 +28,7 @@ int WidthOf(const QFont& font, const StateWord& word) {
   return QFontMetrics(font).horizontalAdvance(word.text) + kDot + kDotGap + kPadding * 2;
 }
 
-// A strong word is a lit plate, any other has a dot of its colour.
+// An emphasized label is a filled plate; any other has a dot in its colour.
 void PaintWord(QPainter* painter, const StateWord& word, const QRect& plate) {
   painter->setPen(QPen(word.is_strong ? word.color : theme::Colors().panel_line, 1));
   painter->setBrush(word.is_strong ? word.color : theme::Colors().plate);
@@ -69,7 +69,7 @@ bool StateCorner::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-// A view that is too narrow shows one word a line.
+// A view that is too narrow shows one label per line.
 void StateCorner::Place() {
   int in_a_row = -kGap;
   int widest = 0;

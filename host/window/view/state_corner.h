@@ -8,7 +8,7 @@
 
 namespace tavi {
 
-// Shows the window's state in the upper right corner of a view, over what is drawn there. It takes no input.
+// Shows the window's state in the upper right corner of a view, over its content. It takes no input.
 class StateCorner : public QWidget {
   Q_OBJECT
 
@@ -16,11 +16,11 @@ class StateCorner : public QWidget {
   // Neither is owned; the corner becomes the view's child.
   StateCorner(const WindowState* state, QWidget* view);
 
-  // For people who look at texts.
+  // The texts of the labels.
   QStringList Texts() const;
 
  Q_SIGNALS:
-  // The part of the view that it covers is another one.
+  // It now covers another part of the view.
   void Placed(const QRect& place);
 
  protected:

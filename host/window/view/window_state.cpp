@@ -68,7 +68,7 @@ StateWord WindowState::MappingWord() const {
   if (mapping_->IsPaused())
     return {QStringLiteral("Mapping off (%1: on)").arg(pause_key_), theme::Colors().warning, true};
   const bool is_earlier = mapping_->Keymap().KeepsEarlierState() || mapping_->JoystickKeymap().KeepsEarlierState();
-  if (is_earlier) return {QStringLiteral("Mapping as before the last change"), theme::Colors().warning};
+  if (is_earlier) return {QStringLiteral("Mapping from before the last change"), theme::Colors().warning};
   if (IsUnusable(mapping_->Keymap())) return {QStringLiteral("Keymap cannot be used"), theme::Colors().error, true};
   if (IsUnusable(mapping_->JoystickKeymap()))
     return {QStringLiteral("Gamepad keymap cannot be used"), theme::Colors().error, true};

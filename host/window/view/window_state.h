@@ -14,10 +14,10 @@ class Mapping;
 struct StateWord {
   QString text;
   QColor color;
-  bool is_strong = false;  // keys and mouse do something else than a player would think
+  bool is_strong = false;  // keys and mouse do something that a player may not expect
 };
 
-// What keys and mouse do at the moment, gathered from everyone who knows a part of it.
+// What keys and mouse do at the moment, collected from all objects that know a part of it.
 //
 // Main thread.
 class WindowState : public QObject {
@@ -27,13 +27,13 @@ class WindowState : public QObject {
   // `mapping` is not owned.
   explicit WindowState(const Mapping* mapping, QObject* parent = nullptr);
 
-  // Told with the word about a paused mapping.
+  // Shown with the label for a paused mapping.
   void SetPauseKey(const QString& name);
 
-  // Mouse and keys are an editor's.
+  // An editor gets mouse and keys.
   void SetEditing(bool editing);
 
-  // The mapping, then what else is on.
+  // The mapping first, then the other states.
   QVector<StateWord> Words() const;
   StateWord MappingWord() const;
 

@@ -1,4 +1,4 @@
-// What an event dispatcher is made of: Qt 5.
+// The parts of an event dispatcher: Qt 5.
 #ifndef QT_5_QT_EVENT_DISPATCHER_H_
 #define QT_5_QT_EVENT_DISPATCHER_H_
 
@@ -14,7 +14,7 @@ class EventDispatcher : public QAbstractEventDispatcher {
   void flush() override {}
 
  private:
-  // Whether events were posted that are not delivered yet.
+  // Whether there are undelivered posted events.
   virtual bool HasPosted() const = 0;
 };
 

@@ -1,4 +1,4 @@
-// Windows on screens of many pixels: Qt 5.
+// Windows on high-resolution screens: Qt 5.
 #ifndef QT_5_QT_HIGH_DPI_H_
 #define QT_5_QT_HIGH_DPI_H_
 
@@ -6,7 +6,7 @@
 
 namespace qt {
 
-// Lengths are logical pixels, and pictures are as sharp as the screen. Before the application is made.
+// Sizes are logical pixels, and pictures have the screen's resolution. Call it before creating the application.
 inline void FollowScreens() {
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

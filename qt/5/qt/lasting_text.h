@@ -1,4 +1,4 @@
-// Texts that live as long as the process: Qt 5.
+// Texts with the lifetime of the process: Qt 5.
 #ifndef QT_5_QT_LASTING_TEXT_H_
 #define QT_5_QT_LASTING_TEXT_H_
 
@@ -10,7 +10,7 @@
 
 namespace qt {
 
-// A copy of `text` that is never freed, as literals are: its own copies count no references.
+// A copy of `text` that is never freed, like a literal: copies of it count no references.
 inline QString Lasting(const QString& text) {
   const auto length = static_cast<std::size_t>(text.size());
   void* const block = ::operator new(sizeof(QStringData) + (length + 1) * sizeof(QChar));

@@ -1,4 +1,4 @@
-// Where a mouse event is: Qt 5.
+// Positions of mouse events: Qt 5.
 #ifndef QT_5_QT_MOUSE_EVENTS_H_
 #define QT_5_QT_MOUSE_EVENTS_H_
 

@@ -4,7 +4,7 @@
 
 namespace qt {
 
-using NativeResult = long;  // what QAbstractNativeEventFilter::nativeEventFilter answers a message with
+using NativeResult = long;  // the type of the result of QAbstractNativeEventFilter::nativeEventFilter
 
 }  // namespace qt
 

@@ -1,4 +1,4 @@
-// Touch events, read and made: Qt 5.
+// Reading and creating touch events: Qt 5.
 #ifndef QT_5_QT_TOUCH_EVENTS_H_
 #define QT_5_QT_TOUCH_EVENTS_H_
 
@@ -17,7 +17,7 @@ inline QPointF PlaceOf(const TouchPoint& point) { return point.pos(); }
 
 inline Qt::TouchPointState StateOf(const TouchPoint& point) { return point.state(); }
 
-// `place` is what PlaceOf gives for it.
+// PlaceOf returns `place` for it.
 inline TouchPoint MakeTouchPoint(int id, Qt::TouchPointState state, const QPointF& place) {
   TouchPoint point(id);
   point.setState(state);
@@ -25,7 +25,7 @@ inline TouchPoint MakeTouchPoint(int id, Qt::TouchPointState state, const QPoint
   return point;
 }
 
-// Of no device.
+// Without a device.
 inline QTouchEvent MakeTouchEvent(QEvent::Type type, Qt::KeyboardModifiers modifiers, const QList<TouchPoint>& points) {
   Qt::TouchPointStates states;
   for (const TouchPoint& point : points) states |= point.state();

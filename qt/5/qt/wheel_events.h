@@ -1,4 +1,4 @@
-// How far a wheel event turns: Qt 5.
+// The movement of wheel events: Qt 5.
 #ifndef QT_5_QT_WHEEL_EVENTS_H_
 #define QT_5_QT_WHEEL_EVENTS_H_
 
@@ -8,8 +8,8 @@ namespace qt {
 
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
-// In eighths of a degree; positive is up, away from the user. Deprecated, and still the only answer that is right for
-// every way in which a host builds the event.
+// In eighths of a degree; positive is up, away from the user. Deprecated, but still the only value that is correct
+// however a host creates the event.
 inline int TurnOf(const QWheelEvent& event) { return event.delta(); }
 QT_WARNING_POP
 

@@ -9,7 +9,7 @@ struct xcb_connection_t;
 
 namespace qt {
 
-// Null where the platform is not "xcb".
+// Null if the platform is not "xcb".
 inline xcb_connection_t* X11Connection() { return QX11Info::connection(); }
 
 // The root window of the application's screen.

@@ -1,4 +1,4 @@
-// What an event dispatcher is made of: Qt 6.
+// The parts of an event dispatcher: Qt 6.
 #ifndef QT_6_QT_EVENT_DISPATCHER_H_
 #define QT_6_QT_EVENT_DISPATCHER_H_
 
@@ -11,7 +11,7 @@ class EventDispatcher : public QAbstractEventDispatcher {
   using Interval = qint64;  // of registerTimer, in milliseconds
 
  private:
-  // Whether events were posted that are not delivered yet. Nobody asks.
+  // Whether there are undelivered posted events. Never called.
   virtual bool HasPosted() const = 0;
 };
 

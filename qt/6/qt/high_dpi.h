@@ -1,11 +1,11 @@
-// Windows on screens of many pixels: Qt 6.
+// Windows on high-resolution screens: Qt 6.
 #ifndef QT_6_QT_HIGH_DPI_H_
 #define QT_6_QT_HIGH_DPI_H_
 
 namespace qt {
 
-// Lengths are logical pixels, and pictures are as sharp as the screen: nothing to ask for. Before the application is
-// made.
+// Sizes are logical pixels, and pictures have the screen's resolution: this is the default. Call it before creating the
+// application.
 inline void FollowScreens() {}
 
 }  // namespace qt

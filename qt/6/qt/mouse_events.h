@@ -1,4 +1,4 @@
-// Where a mouse event is: Qt 6.
+// Positions of mouse events: Qt 6.
 #ifndef QT_6_QT_MOUSE_EVENTS_H_
 #define QT_6_QT_MOUSE_EVENTS_H_
 

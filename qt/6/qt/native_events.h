@@ -6,7 +6,7 @@
 
 namespace qt {
 
-using NativeResult = qintptr;  // what QAbstractNativeEventFilter::nativeEventFilter answers a message with
+using NativeResult = qintptr;  // the type of the result of QAbstractNativeEventFilter::nativeEventFilter
 
 }  // namespace qt
 

@@ -1,4 +1,4 @@
-// Touch events, read and made: Qt 6.
+// Reading and creating touch events: Qt 6.
 #ifndef QT_6_QT_TOUCH_EVENTS_H_
 #define QT_6_QT_TOUCH_EVENTS_H_
 
@@ -15,18 +15,18 @@ inline const QList<TouchPoint>& PointsOf(const QTouchEvent& event) { return even
 
 // In the receiver, in its logical pixels.
 //
-// A point that Qt delivers has a device, and Qt has put it into the receiver. Who makes a point of his own can give it
-// a place in the scene and no other; it has no device.
+// A point that Qt delivers has a device, and Qt sets its position in the receiver. A program that creates a point can
+// only set its position in the scene; such a point has no device.
 inline QPointF PlaceOf(const TouchPoint& point) { return point.device() ? point.position() : point.scenePosition(); }
 
 inline Qt::TouchPointState StateOf(const TouchPoint& point) { return static_cast<Qt::TouchPointState>(point.state()); }
 
-// `place` is what PlaceOf gives for it.
+// PlaceOf returns `place` for it.
 inline TouchPoint MakeTouchPoint(int id, Qt::TouchPointState state, const QPointF& place) {
   return {id, static_cast<QEventPoint::State>(state), place, place};
 }
 
-// Of no device.
+// Without a device.
 inline QTouchEvent MakeTouchEvent(QEvent::Type type, Qt::KeyboardModifiers modifiers, const QList<TouchPoint>& points) {
   return QTouchEvent(type, nullptr, modifiers, points);
 }

@@ -1,4 +1,4 @@
-// Uses the example host with a window as a person would, and tells what it does between the lines that the host prints.
+// Uses the example host with a window like a person, and prints its actions between the lines that the host prints.
 #include <cstdio>
 
 #include <QApplication>
@@ -102,7 +102,7 @@ void UseView(GuestView* view) {
   commit.setCommitString("\u00e9");
   QCoreApplication::sendEvent(view, &commit);
   Click(view, 87, Qt::Key_F11);
-  Say("the mouse steers the view");
+  Say("the mouse turns the view");
   Click(view, kGrave);
   QCoreApplication::processEvents();
   Mouse(view, QEvent::MouseMove, view->rect().center() + QPoint(10, 0), Qt::NoButton);

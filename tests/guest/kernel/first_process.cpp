@@ -56,7 +56,7 @@ std::vector<std::string> Programs() {
 struct Guest {
   pid_t process = 0;
   FILE* lines = nullptr;   // what it reads
-  FILE* places = nullptr;  // what it tells
+  FILE* places = nullptr;  // its output
 };
 
 Guest Start(const std::string& program) {
@@ -96,7 +96,7 @@ void SendLines(FILE* lines) {
   std::fflush(lines);
 }
 
-// Until the screen is gone. The program is killed with the frame that puts the last finger down.
+// Waits until the screen is gone. The program is killed after the frame that puts the last finger down.
 void Watch(int screen, pid_t process) {
   bool is_last_down = false;
   input_event event;
@@ -109,7 +109,7 @@ void Watch(int screen, pid_t process) {
 }
 
 void Try(const std::string& name) {
-  std::printf("\nbegin %s\n", name.c_str());  // firmware leaves its own line open
+  std::printf("\nbegin %s\n", name.c_str());  // the firmware's own line is incomplete
   const Guest guest = Start("/guests/" + name);
   const int screen = FindScreen(guest.places);
   SendLines(guest.lines);

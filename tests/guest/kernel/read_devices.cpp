@@ -1,9 +1,10 @@
-// Reads input devices as every program under Linux does, and prints what they do.
+// Reads input devices like any program on Linux, and prints their events.
 //
 //   read_devices < PLACES
 //
-// PLACES has a line a device, its word and its node, as `tavi guest-uinput` prints them. Says "reading" when all are
-// open, reads until F24 goes down on one of them, and prints the events in the notation of --dry-run, device by device.
+// Each line of PLACES is a device, its word and its node, as `tavi guest-uinput` prints them. Prints "reading" when all
+// are open, reads until F24 is pressed on one of them, and prints the events in the notation of --dry-run, device by
+// device.
 #include <fcntl.h>
 #include <iostream>
 #include <libevdev/libevdev.h>
@@ -37,7 +38,7 @@ void WaitForAny(const std::vector<Device>& devices) {
   ::poll(polled.data(), polled.size(), -1);
 }
 
-// True when the end was among what was there.
+// True if the end was among the events.
 bool Drain(Device* device) {
   bool is_end = false;
   input_event event;
@@ -68,6 +69,6 @@ int main() {
   std::vector<Device> devices = OpenDevices();
   std::cout << "reading" << std::endl;
   while (!DrainAll(&devices)) WaitForAny(devices);
-  DrainAll(&devices);  // what was written before the end, to a device that was looked at before it
+  DrainAll(&devices);  // what was written before the end, to a device that was read earlier
   for (const Device& device : devices) Print(device);
 }

@@ -1,5 +1,5 @@
-// A host with a matching function of its own in front of the keymap library's: the state of Escape goes by it.
-#include "handlers/key_match_origin.h"
+// A host with a matching function of its own, which overrides the keymap library's: the state of Escape depends on it.
+#include "handlers/keymap_origin.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/support/story.h"
 
@@ -7,13 +7,13 @@ namespace tavikeymapmanager {
 
 namespace {
 
-// What was asked, "1 by 48": the scan codes of both keys; "-" for a key that is not set.
+// The arguments, "1 by 48": the scan codes of both keys; "-" for a key that is not set.
 QStringList asked;
 QStringList answered_with_yes;
 
 QString NameOf(const ConfigKey& key) { return IsKeySet(key) ? QString::number(key.scancode) : QStringLiteral("-"); }
 
-// Escape is asked for without its virtual key, and so is no set key.
+// The query for Escape has no virtual key, so its key is not set.
 QString CodeOf(const ConfigKey& key) { return key.scancode == 1 ? QStringLiteral("1") : NameOf(key); }
 
 }  // namespace
@@ -85,7 +85,7 @@ TEST_F(EscapeByTheHost, IsAskedOnceWhereTheFirstAnswerIsYes) {
   EXPECT_CALLS("0ms escape_occupied 1");
 }
 
-// The guest gets Escape in any case, and the question comes first all the same.
+// The guest gets Escape in any case, but the query comes first.
 TEST_F(EscapeByTheHost, IsAskedAlsoWhereTheGuestGetsEscape) {
   Settings().keyboard_transparent = true;
   Settings().escape_to_guest = true;

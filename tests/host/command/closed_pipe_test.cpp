@@ -1,4 +1,4 @@
-// The program at the head of a pipeline whose reader has gone.
+// The program at the head of a pipeline whose reader has exited.
 #include <array>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ Pipe MakePipe() {
   return ends;
 }
 
-// What a started program takes over is that of a shell's: the signal kills, and whether it is blocked is the caller's.
+// A started program has the settings of a shell: the signal kills, and the caller decides whether it is blocked.
 [[noreturn]] void BecomeProgram(int output, int errors, bool is_blocked) {
   std::signal(SIGPIPE, SIG_DFL);
   sigset_t only;
@@ -46,7 +46,7 @@ struct End {
   std::string errors;
 };
 
-// Nobody reads the program's output: the first line that it prints meets a closed pipe.
+// Nobody reads the program's output: the first line meets a closed pipe.
 End RunWithoutReader(bool is_blocked) {
   const Pipe output = MakePipe();
   const Pipe errors = MakePipe();

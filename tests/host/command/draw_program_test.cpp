@@ -7,7 +7,7 @@
 namespace tavi {
 namespace {
 
-// The key stands in the middle, and one that has no place in the list.
+// The key is in the middle, and an item without a point is in the list.
 constexpr char kKeymap[] =
     "format: 1\n"
     "name: Two & more\n"
@@ -73,7 +73,7 @@ TEST_F(DrawProgram, AnSvgCallsTheKeymapByItsName) {
   EXPECT_EQ(page.width, QStringLiteral("640.0"));
 }
 
-// An item without a place is in the list: with it, the picture has more shapes.
+// An item without a point is in the list: the picture then has more shapes.
 TEST_F(DrawProgram, ItemsWithoutAPlaceAreListed) {
   Write("one.yaml",
         "format: 1\n"
@@ -97,7 +97,7 @@ TEST_F(DrawProgram, TheKeysOfAGamepadComeBesides) {
   EXPECT_EQ(ReadPage("two.svg").shapes, ReadPage("one.svg").shapes + 3);
 }
 
-// Without a size the picture is as large as what it is drawn on.
+// Without a size the picture is as large as its background.
 TEST_F(DrawProgram, ABackgroundGivesTheSize) {
   QImage red(500, 300, QImage::Format_RGB32);
   red.fill(Qt::red);

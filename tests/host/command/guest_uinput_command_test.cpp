@@ -28,7 +28,7 @@ TEST_F(GuestUinput, ReadsAFile) {
   const Outcome missing = DryRun({}, {"--input", "none"});
   EXPECT_EQ(missing.status, 2);
   EXPECT_TRUE(missing.errors.startsWith("none: cannot be read: ")) << missing.errors.toStdString();
-  EXPECT_EQ(DryRun({}, {"--input", "."}).status, 1);  // opens, and cannot be read
+  EXPECT_EQ(DryRun({}, {"--input", "."}).status, 1);  // can be opened but not read
 }
 
 TEST_F(GuestUinput, TellsOfALineAndGoesOn) {
@@ -42,7 +42,7 @@ TEST_F(GuestUinput, TellsOfALineThatIsTooLongAndGoesOn) {
   const Outcome outcome = DryRun("1:" + QByteArray(70000, 'A') + "\n1:KBDPR:30:1\n");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.output, QLatin1String(kKeyDown));
-  EXPECT_EQ(outcome.errors, "tavi guest-uinput: passed over, longer than 65536 bytes: 1:" + QString(38, 'A') + "...\n");
+  EXPECT_EQ(outcome.errors, "tavi guest-uinput: ignored, longer than 65536 bytes: 1:" + QString(38, 'A') + "...\n");
 }
 
 TEST_F(GuestUinput, TakesItsSizeAndDisplay) {
@@ -59,7 +59,7 @@ TEST_F(GuestUinput, RefusesWhatItDoesNotKnow) {
   } rows[] = {
       {{"--size", "wide"}, "--size needs a size such as 1280x720, not \"wide\""},
       {{"--display", "main"}, "--display needs a number, not \"main\""},
-      {{"lines.txt"}, "\"lines.txt\" is no option"},
+      {{"lines.txt"}, "\"lines.txt\" is not an option"},
       {{"--verbose"}, "unknown option \"--verbose\""},
   };
   for (const auto& row : rows) {
@@ -72,7 +72,7 @@ TEST_F(GuestUinput, RefusesWhatItDoesNotKnow) {
   }
 }
 
-// An hour is not waited for.
+// The test does not wait an hour.
 TEST_F(GuestUinput, ADryRunOfATimelineDoesNotWait) {
   EXPECT_EQ(DryRun("0ms ! mapped 1\n3600000ms 1:KBDPR:30:1\n", {"--timeline"}).output, QLatin1String(kKeyDown));
 }

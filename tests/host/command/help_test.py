@@ -64,7 +64,7 @@ class HelpPages(unittest.TestCase):
         for name, page in HELP.pages.items():
             for option in page.options:
                 with self.subTest(f"{name} {option.name}"):
-                    # The first thing that is wrong is the option behind it.
+                    # The first error is the unknown option after it.
                     given = [option.name, "1"] if option.value else [option.name]
                     if name == "record merge":
                         given = ["file.json", *given]

@@ -10,7 +10,7 @@ constexpr char kGood[] =
     "items:\n"
     "  - {type: Click, key: Space, point: [0.5, 0.5]}\n";
 
-// `Spcae` stands in line 3 from column 24 on.
+// `Spcae` is in line 3 from column 24 on.
 constexpr char kBad[] =
     "format: 1\n"
     "items:\n"
@@ -66,7 +66,7 @@ TEST_F(Program, RefusesWhatItDoesNotKnow) {
        "window --help\".\n"},
       {"window with a guest elsewhere",
        {"window", "--guest", "exec:cat", "--guest", "tcp:10.0.0.1:7000"},
-       "tavi window: --guest: 10.0.0.1 is another machine, and anybody on the way there can read what is typed; "
+       "tavi window: --guest: 10.0.0.1 is another machine, and anyone on the network path can read what you type; "
        "--allow-remote allows it\nTry \"tavi window --help\".\n"},
       {"a time of no picture",
        {"window", "--after", "5"},
@@ -232,7 +232,7 @@ TEST_F(Program, WhatStandardOutputDoesNotTakeIsTold) {
   }
 }
 
-// By the signal that tells of it, or by itself where that is blocked.
+// By the signal, or by itself if that is blocked.
 TEST_F(Program, AReaderThatGoesEndsTheProgramQuietly) {
   ASSERT_EQ(mkfifo(QFile::encodeName(Folder() + "/gone").constData(), 0600), 0);
   QProcess shell;
@@ -292,7 +292,7 @@ TEST_F(Program, AFolderIsCalledAFolderEverywhere) {
 
 TEST_F(Program, ARecordIsReadUpToALimit) {
   Write("big.json", "");
-  QFile::resize(Folder() + "/big.json", (qint64{512} << 20) + 1);  // takes no room
+  QFile::resize(Folder() + "/big.json", (qint64{512} << 20) + 1);  // takes no space
   EXPECT_EQ(Run({"record", "info", "big.json"}).errors,
             QString("big.json: error: cannot be read: longer than 536870912 bytes\n"));
 }

@@ -26,7 +26,7 @@ class RecordProgram : public Program {
     Write(name, text.constData());
   }
 
-  // The lines that hold `part`, without what stands behind them.
+  // The lines that contain `part`, without the text after it.
   static QStringList Lines(const QString& output, const QString& part) { return output.split('\n').filter(part); }
 };
 
@@ -148,7 +148,7 @@ TEST_F(RecordProgram, InfoDoesNotGoDownForEver) {
   EXPECT_LT(output.count('\n'), 30);
 }
 
-// The library would look for the start marker of the first two for ever.
+// The library would search for the start marker of the first two endlessly.
 TEST_F(RecordProgram, InfoWarnsAndGoesOn) {
   Write("empty.json", WithHeader(R"("actions": [])").constData());
   Write("bare.json", WithHeader(R"("actions": [{"type": "touch"}])").constData());
@@ -159,12 +159,12 @@ TEST_F(RecordProgram, InfoWarnsAndGoesOn) {
   EXPECT_EQ(Lines(outcome.output, "app  ").first(), QStringLiteral("  app           -"));
   EXPECT_TRUE(outcome.errors.startsWith("empty.json: warning: the first action has no data"));
   EXPECT_TRUE(
-      outcome.errors.contains("\nbare.json: warning: actions[0]: data: \"\" is no command of this type; dropped\n"));
+      outcome.errors.contains("\nbare.json: warning: actions[0]: data: \"\" is not a command of this type; dropped\n"));
   EXPECT_TRUE(outcome.errors.contains("\nnone.json: error: cannot be read: "));
 }
 
-// The record names no display, so it is 1280 x 720. A replay's fingers are numbered from 18; at its end the eight of
-// them are lifted, of which the last action lifted the first.
+// The record has no display, so it is 1280 x 720. A replay's slots start at 18; at its end all eight are lifted, though
+// the last action has lifted the first.
 TEST_F(RecordProgram, PlayPrintsTheTimeline) {
   WriteTap("tap.json");
   const Outcome outcome = Run({"record", "play", "tap.json"});
@@ -225,8 +225,7 @@ TEST_F(RecordProgram, PlayOfNothingEndsAtOnce) {
   EXPECT_TRUE(outcome.output.contains("0ms ! replay finished\n"));
 }
 
-// The real clock decides about the times, so only the lines are looked at. The end is told on the replay's own
-// thread.
+// The times depend on the real clock, so only the lines are checked. The end is reported on the replay's own thread.
 TEST_F(RecordProgram, PlayRunsOnTheRealClockToo) {
   WriteTap("tap.json");
   const Outcome outcome = Run({"record", "play", "--live", "--speed", "10", "tap.json"});
@@ -320,7 +319,7 @@ TEST_F(RecordProgram, DrawWritesAPicture) {
   EXPECT_TRUE(failed.errors.startsWith("tavi record draw: cannot write none/tap.svg: "));
 }
 
-// A click at 0.5, 0.5 with the first finger of the pool of taps, 11. What goes to another display is not recorded.
+// A click at 0.5, 0.5 with the first slot of the pool of taps, 11. Lines to another display are not recorded.
 TEST_F(RecordProgram, SimulateMakesARecord) {
   Write("keymap.yaml", kKeymap);
   const QByteArray script = "wait 40; down Space; wait 80; up Space; wait 100; back 2\n";
@@ -355,7 +354,7 @@ TEST_F(RecordProgram, SimulateTellsWhenThereIsNoRecord) {
   EXPECT_TRUE(nowhere.errors.endsWith("none/out.json: cannot be written: No such file or directory\n"));
 }
 
-// The library says that all is well then.
+// The library reports success then.
 TEST_F(RecordProgram, AFullDiskLeavesTheRecordThatWasThere) {
   Write("keymap.yaml", kKeymap);
   Write("tap.json", "before");
@@ -365,7 +364,7 @@ TEST_F(RecordProgram, AFullDiskLeavesTheRecordThatWasThere) {
     outcome = Run({"simulate", "--record", "tap.json", "keymap.yaml", "-"}, "down Space; wait 50; up Space\n");
   }
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.errors, QString("tap.json: cannot be written: it came out short; the disk may be full\n"));
+  EXPECT_EQ(outcome.errors, QString("tap.json: cannot be written: it was truncated; the disk may be full\n"));
   EXPECT_EQ(Content("tap.json"), QByteArray("before"));
 }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The schema of record files holds for what is written, and tells what is not a record.
+"""The schema accepts the record files that are written, and rejects what is not a record.
 
 usage: record_schema_test.py TAVI SOURCE_DIR
 
@@ -98,7 +98,7 @@ class RecordSchema(unittest.TestCase):
             self.assertEqual(errors(self.load(name)), [])
 
     def test_examples_are_made_by_the_program(self):
-        """But for the time at which records were merged."""
+        """Except the time at which records were merged."""
         for script in sorted(EXAMPLES.glob("*.txt")):
             keymap = EXAMPLES / script.read_text(encoding="utf-8").splitlines()[0].split(": ")[1]
             run("simulate", "--record", script.stem + ".json", keymap, script, cwd=self.folder)

@@ -1,4 +1,4 @@
-// Keymaps that are edited: a document on a file of its own, and which lines an edit changed.
+// Keymaps that are edited: a document with a file of its own, and the lines that an edit changed.
 #ifndef TESTS_HOST_EDITOR_DOCUMENT_FIXTURE_H_
 #define TESTS_HOST_EDITOR_DOCUMENT_FIXTURE_H_
 
@@ -32,7 +32,8 @@ inline QStringList ExampleKeymaps() {
   return paths;
 }
 
-// The numbers, from 1, of the lines that two texts of equally many lines differ in; nothing comparable gives {-1}.
+// The numbers, from 1, of the lines in which two texts with the same number of lines differ; {-1} for texts that cannot
+// be compared.
 inline QVector<int> ChangedLines(const QByteArray& before, const QByteArray& after) {
   const QList<QByteArray> lines = before.split('\n');
   const QList<QByteArray> lines_after = after.split('\n');
@@ -48,7 +49,7 @@ inline int LineOf(const QByteArray& text, int position) { return text.left(posit
 
 class DocumentFixture : public testing::Test {
  protected:
-  // Opens a document on a file with this content.
+  // Opens a document with a file of this content.
   void Open(const QByteArray& text) {
     path_ = folder_.filePath(QStringLiteral("keymap.yaml"));
     WriteTo(path_, text);

@@ -13,7 +13,7 @@ class ExampleKeymap : public DocumentFixture, public testing::WithParamInterface
  protected:
   ExampleKeymap() : before_(BytesOf(GetParam())) { Open(before_); }
 
-  // The lines on which a field of an item stands.
+  // The lines of an item's field.
   QVector<int> LinesOf(int item, const char* field) const {
     const km::FieldOutline* outline = document_.Outline().items[item].Find(QLatin1String(field));
     QVector<int> lines;
@@ -23,7 +23,7 @@ class ExampleKeymap : public DocumentFixture, public testing::WithParamInterface
     }
     return lines;
   }
-  // Lines that begin with "#" or hold one behind a space.
+  // Lines that begin with "#" or contain one after a space.
   static int CommentCount(const QByteArray& text) {
     const auto lines = text.split('\n');
     return static_cast<int>(std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
@@ -56,11 +56,11 @@ TEST_P(ExampleKeymap, AMoveChangesTheLineOfThePoint) {
     document_.UndoStack()->undo();
     ++moved;
   }
-  EXPECT_TRUE(moved > 0 || GetParam().contains("virtual_gamepad"));  // whose items are nowhere on the screen
+  EXPECT_TRUE(moved > 0 || GetParam().contains("virtual_gamepad"));  // without items on the screen
   ExpectUndoGivesTheFileBack();
 }
 
-// The file, not only the text: all that was moved, and nothing else.
+// The file, not only the text: everything that was moved, and nothing else.
 TEST_P(ExampleKeymap, ASavedMoveIsOfThoseLines) {
   QVector<int> lines;
   for (int item = 0; item < document_.ItemCount(); ++item) lines += LinesOf(item, "point");
@@ -72,7 +72,7 @@ TEST_P(ExampleKeymap, ASavedMoveIsOfThoseLines) {
   EXPECT_EQ(ChangedLines(before_, BytesOf(path_)), lines);
 }
 
-// Macros, curves, aimed skills with a walk of their own among them.
+// Including macros, curves, and aimed skills with a walk of their own.
 TEST_P(ExampleKeymap, AnItemsTextChangesItsLineAlone) {
   for (int item = 0; item < document_.ItemCount(); ++item) {
     const KeymapPart part{item, {}};
@@ -112,7 +112,7 @@ TEST_P(ExampleKeymap, AKeyChangesItsLine) {
   ExpectUndoGivesTheFileBack();
 }
 
-// What is left is the file without a run of lines, which hold the item and what is said of it alone.
+// What remains is the file without a run of lines, which contain only the item and its comments.
 TEST_P(ExampleKeymap, ADeletedItemTakesItsLinesAlone) {
   for (int item = 0; item < document_.ItemCount(); ++item) {
     const int others = document_.ItemCount() - 1;
@@ -158,7 +158,7 @@ TEST_P(ExampleKeymap, ACopyStandsBehindItsItem) {
   ExpectUndoGivesTheFileBack();
 }
 
-// Each field that a type has is written, where it was not, on lines that are new.
+// Each field of a type that was absent is written, on new lines.
 TEST_P(ExampleKeymap, AMissingFieldIsAddedToItsItem) {
   for (int item = 0; item < document_.ItemCount(); ++item) {
     for (const km::FieldInfo& field : document_.TypeOf(item).fields) {

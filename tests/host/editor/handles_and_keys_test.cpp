@@ -1,4 +1,4 @@
-// What a drag writes, and what a press of keys binds.
+// What a drag writes, and what key presses bind.
 #include <QKeyEvent>
 #include <QLineF>
 

@@ -1,4 +1,4 @@
-// The document: what is refused, the way back, and the file.
+// The document: refused edits, undo, and the file.
 #include "host/editor/keymap_document.h"
 
 #include "host/editor/new_item.h"
@@ -125,13 +125,13 @@ TEST_F(KeymapDocumentTest, WhatChangesNothingIsNoStep) {
   Open(kTwoTaps);
   changes_ = 0;
   EXPECT_EQ(document_.SetField(0, "key", "Space"), QString());
-  EXPECT_EQ(document_.SetPair(0, "point", {0.50001, 0.5}), QString());  // less than is written
+  EXPECT_EQ(document_.SetPair(0, "point", {0.50001, 0.5}), QString());  // less than is in the file
   EXPECT_EQ(document_.SetField(0, "label", ""), QString());
   EXPECT_EQ(document_.UndoStack()->count(), 0);
   EXPECT_EQ(changes_, 0);
 }
 
-// Its listeners see the document as it is from now on.
+// Its listeners see the new state of the document.
 TEST_F(KeymapDocumentTest, ChangesAreTold) {
   Open(kTwoTaps);
   bool is_modified = false;
@@ -145,7 +145,7 @@ TEST_F(KeymapDocumentTest, ChangesAreTold) {
 // ---- New items
 
 TEST_F(KeymapDocumentTest, NewItemsTakeKeysThatAreFree) {
-  Open(kTwoTaps);  // Space and E are taken
+  Open(kTwoTaps);  // Space and E are used already
   document_.Add("Click", {0.5, 0.5});
   document_.Add("BunchClick", {0.5, 0.5});
   document_.Add("Swipehold", {0.5, 0.5});
@@ -196,7 +196,7 @@ TEST_F(KeymapDocumentTest, AForeignChangeOfTheFileIsSeen) {
   document_.SetField(0, "key", "F");
   EXPECT_FALSE(document_.IsFileChanged());
   document_.Save(path_);
-  EXPECT_FALSE(document_.IsFileChanged());  // that was ours
+  EXPECT_FALSE(document_.IsFileChanged());  // that was our own change
   WriteTo(path_, "format: 1\n");
   EXPECT_TRUE(document_.IsFileChanged());
   document_.Save(path_);

@@ -1,4 +1,4 @@
-// How edits are written: in lines, in braces, in JSON, whatever stands around them.
+// How edits are written: on lines, in braces, in JSON, with any text around them.
 #include "tests/host/editor/document_fixture.h"
 
 namespace tavi {

@@ -67,7 +67,7 @@ TEST_F(SourceTest, CommandsOfAMacroAreEditedInOneStep) {
   EXPECT_FALSE(document_.IsModified());
 }
 
-// "    key: Spcae": the key begins behind nine characters.
+// "    key: Spcae": the key begins after nine characters.
 TEST_F(SourceTest, WhatIsWrongComesWithItsPlaceInThePart) {
   Open(kLines);
   EXPECT_EQ(document_.SetSource(kSecond, Edited(kSecond, "key: M", "key: Spcae")),
@@ -76,7 +76,7 @@ TEST_F(SourceTest, WhatIsWrongComesWithItsPlaceInThePart) {
   EXPECT_FALSE(document_.UndoStack()->canUndo());
 }
 
-// The bracket is missed where the next item begins.
+// The missing bracket is noticed where the next item begins.
 TEST_F(SourceTest, WhatComesToLightFurtherDownHasItsPlaceInTheFile) {
   Open(kLines);
   const QString problem = document_.SetSource(kFirst, Edited(kFirst, "0.8]", "0.8"));
@@ -86,12 +86,12 @@ TEST_F(SourceTest, WhatComesToLightFurtherDownHasItsPlaceInTheFile) {
 
 TEST_F(SourceTest, OtherPartsOfTheFileAreOutOfReach) {
   Open(kLines);
-  const QString refusal = "This cannot be written without touching other parts of the file. Edit the file itself.";
+  const QString refusal = "This edit would change other parts of the file. Edit the file itself.";
   for (const char* more : {"\n  - {type: Click, key: E, point: [0.5, 0.5]}", "\nname: Other"}) {
     EXPECT_EQ(document_.SetSource(kSecond, document_.Source(kSecond) + more), refusal) << more;
   }
   EXPECT_EQ(document_.SetSource(kSettings, document_.Source(kSettings) + "\nname: Other"), refusal);
-  EXPECT_EQ(document_.SetSource(kFirst, "\n"), "Nothing is left of the item; Delete takes it out.");
+  EXPECT_EQ(document_.SetSource(kFirst, "\n"), "Nothing is left of the item; use Delete to remove it.");
   EXPECT_EQ(Text(), kLines);
 }
 

@@ -30,7 +30,7 @@ TEST(TextScalar, HasQuotesWhereItNeedsThem) {
       {"Jump", "Jump"},
       {"Left Shift + Space", "Left Shift + Space"},
       {"2048", "\"2048\""},  // would be a number
-      {"true", "\"true\""},  // would be no text
+      {"true", "\"true\""},  // would not be a text
       {"Null", "\"Null\""},
       {"", "\"\""},
       {"a: b", "\"a: b\""},
@@ -52,7 +52,7 @@ TEST(TextScalar, HasQuotesWhereItNeedsThem) {
   }
 }
 
-// Whatever a person calls an item, the loader reads it back, on a line and in braces.
+// The loader reads any name of an item back, on a line and in braces.
 TEST(TextScalar, IsReadBack) {
   for (const char* text :
        {"Jump", "2048", "a: b", "a #b", "'",  "\"",  "\\", "~",  "a\tb", "\u4F60\u597D", "\U0001F600", "- x", "&a",
@@ -74,7 +74,7 @@ TEST(TextScalar, IsReadBack) {
 TEST(TextScalar, KeepsTheQuotesThatThereWere) {
   EXPECT_EQ(TextScalar("it's", Quotes::kSingle), "'it''s'");
   EXPECT_EQ(TextScalar("Jump", Quotes::kDouble), "\"Jump\"");
-  EXPECT_EQ(TextScalar("two\nlines", Quotes::kSingle), "\"two\\nlines\"");  // single quotes cannot tell it
+  EXPECT_EQ(TextScalar("two\nlines", Quotes::kSingle), "\"two\\nlines\"");  // impossible in single quotes
 }
 
 TEST(PlainScalar, IsWhatItLooksLike) {
@@ -98,7 +98,7 @@ TEST(TextChange, IsTheShortestThatThereIs) {
 
 TEST(TextChange, OfEqualTextsIsEmpty) { EXPECT_TRUE(ChangeBetween("abc", "abc").IsEmpty()); }
 
-// The same letters in front and behind are counted once.
+// Equal letters at both ends are counted once.
 TEST(TextChange, OfRepeatedLettersIsOne) {
   const TextChange change = ChangeBetween("aa", "aaa");
   EXPECT_EQ(change.inserted, "a");

@@ -1,4 +1,4 @@
-// Gamepads of SDL's own making, from the device to the guest. Built where SDL is.
+// Virtual gamepads of SDL, from the device to the guest. Built only with SDL.
 #ifdef TAVI_HAS_SDL
 
 #define SDL_MAIN_HANDLED
@@ -19,7 +19,7 @@ constexpr int kReadWithoutPadsMs = 500;
 constexpr int kReadMs = 8;
 constexpr Sint16 kMost = 32767;
 
-// The places of its buttons and axes are what the mapping below says.
+// The positions of its buttons and axes are defined by the mapping below.
 constexpr char kMapping[] =
     "a:b0,b:b1,x:b2,y:b3,back:b4,guide:b5,start:b6,leftstick:b7,rightstick:b8,leftshoulder:b9,rightshoulder:b10,"
     "touchpad:b11,dpup:h0.1,dpright:h0.2,dpdown:h0.4,dpleft:h0.8,leftx:a0,lefty:a1,rightx:a2,righty:a3,"
@@ -33,11 +33,11 @@ struct Model {
 constexpr Model kXbox = {0x045E, 0x028E, "Some Xbox pad"};
 constexpr Model kPlayStation = {0x054C, 0x09CC, "Some PlayStation pad"};
 
-// A gamepad that is plugged in as long as it lives.
+// A gamepad that is connected as long as this object exists.
 class VirtualPad {
  public:
   explicit VirtualPad(const Model& model) : index_(Attach(model)) {
-    // The mapping goes by an identity that is known only once there is a device.
+    // The mapping refers to an id that is known only once there is a device.
     char guid[33];
     SDL_JoystickGetGUIDString(SDL_JoystickGetDeviceGUID(index_), guid, sizeof guid);
     SDL_JoystickDetachVirtual(index_);
@@ -55,7 +55,7 @@ class VirtualPad {
     SDL_JoystickDetachVirtual(index_);
     SDL_JoystickClose(std::exchange(device_, nullptr));
   }
-  // Where SDL ended before it did.
+  // If SDL ended before it did.
   void Forget() { device_ = nullptr; }
   void Button(int button, bool down) { SDL_JoystickSetVirtualButton(device_, button, down ? 1 : 0); }
   void Axis(int axis, Sint16 value) { SDL_JoystickSetVirtualAxis(device_, axis, value); }
@@ -82,7 +82,7 @@ class VirtualPad {
 class GamepadPollTest : public WindowFixture {
  protected:
   GamepadPollTest() {
-    // No gamepad that happens to be plugged in takes part.
+    // Real gamepads are ignored.
     SDL_SetHint(SDL_HINT_GAMECONTROLLER_IGNORE_DEVICES_EXCEPT, "0x045E/0x028E,0x054C/0x09CC");
   }
 
@@ -100,7 +100,7 @@ class GamepadPollTest : public WindowFixture {
     return record_.Take();
   }
 
-  PadRecord record_{1};  // the second device that SDL sees
+  PadRecord record_{1};  // the second device of SDL
   Gamepads pads_{record_.Sink()};
   std::unique_ptr<GamepadPoll> poll_;
   std::unique_ptr<VirtualPad> pad_;
@@ -132,7 +132,7 @@ TEST_F(GamepadPollTest, ButtonsAreTold) {
     pad_->Button(row.button, false);
     EXPECT_EQ(Told(), QStringList(QStringLiteral("release %1").arg(QLatin1String(row.text))));
   }
-  pad_->Button(5, true);  // SDL makes its press last for a quarter of a second at least
+  pad_->Button(5, true);  // SDL makes its press last for at least a quarter of a second
   EXPECT_EQ(Told(), QStringList{"press Guide"});
 }
 
@@ -214,7 +214,7 @@ TEST_F(GamepadPollTest, AButtonTapsOnTheGuest) {
   EXPECT_EQ(Window()->Pads()->Count(), 1);
   pad_->Button(0, true);
   clock_->Advance(kReadMs);
-  EXPECT_EQ(Slots(), QList<int>{11});  // the first of the taps' slots
+  EXPECT_EQ(Slots(), QList<int>{11});  // the first slot for taps
   ExpectNear(Finger(), 320, 540);      // 0.25 * 1280, 0.75 * 720
   pad_->Unplug();
   clock_->Advance(kReadMs);

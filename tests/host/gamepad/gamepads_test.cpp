@@ -1,4 +1,4 @@
-// Gamepads and the window: what is pressed, by which keymap, and while the window is in use.
+// Gamepads and the window: pressed buttons, with each keymap, and while the window is active.
 #include "host/gamepad/gamepads.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST_F(GamepadsTest, EachHasItsOwnDevice) {
   pads_.Add(4, QStringLiteral("Second"), PadFamily::kLettered);
   pads_.SetButton(0, QStringLiteral("a"), true);
   pads_.SetButton(4, QStringLiteral("a"), true);
-  pads_.SetButton(5, QStringLiteral("a"), true);  // is not there
+  pads_.SetButton(5, QStringLiteral("a"), true);  // does not exist
   EXPECT_EQ(record_.Take(), (QStringList{"press A", "4: press A"}));
   EXPECT_EQ(pads_.Ids(), (QList<int>{0, 4}));
 }
@@ -124,7 +124,7 @@ class GamepadWindow : public WindowFixture {
     clock_->Settle();
     ASSERT_FALSE(Window()->isActiveWindow());
   }
-  // The sentence above the findings, of each keymap that has some.
+  // The sentence above the diagnostics, of each keymap that has some.
   QStringList Complaints() {
     QStringList titles;
     for (const auto* panel : Window()->findChildren<DiagnosticsPanel*>()) {
@@ -179,7 +179,7 @@ TEST_F(GamepadWindow, WhatIsHeldIsLetGoWithTheWindow) {
   ExpectNear(Finger(), 768, 360);
 }
 
-// A macro may ask for input to stay as it is while the player looks away.
+// A macro may keep input pressed while the player uses another window.
 TEST_F(GamepadWindow, WhatAMacroHoldsStaysDown) {
   Load("{type: Macro, key: Space, press_commands: ['hold_switch']}");
   LoadJoystick("{type: Click, key: Pad A, point: [0.5, 0.5]}");
@@ -196,7 +196,7 @@ TEST_F(GamepadWindow, WhatAMacroHoldsStaysDown) {
   EXPECT_TRUE(Slots().isEmpty());
 }
 
-// A key must not stay down because the keymap that pressed it is gone.
+// A key must not stay down because its keymap was removed.
 TEST_F(GamepadWindow, AnotherKeymapFindsNothingHeld) {
   LoadJoystick("{type: Click, key: Pad A, point: [0.5, 0.5]}");
   Hold("a");
@@ -224,7 +224,7 @@ TEST_F(GamepadWindow, AKeymapOfGamepadsThatIsSavedIsReadAgain) {
   ExpectNear(Finger(), 960, 360);
 }
 
-// What of a gamepad's input goes on to the guest's own gamepad, in the lines of the guest.
+// The gamepad input that is passed to the guest's own gamepad, as lines.
 class PassThrough : public GamepadWindow {
  protected:
   PassThrough() {
@@ -232,12 +232,12 @@ class PassThrough : public GamepadWindow {
       if (entry.source == TimelineEntry::Source::kLine) lines_ += entry.text;
     });
   }
-  // Gives the window a keymap of gamepads with settings.
+  // Loads a gamepad keymap with settings.
   void LoadPads(const char* items, const char* settings) {
     Window()->LoadJoystickKeymap(Write("joystick.yaml", items, settings));
     TakeLines();
   }
-  // A button from its press to its release.
+  // A button from press to release.
   void Click(int pad, const char* button) {
     Window()->Pads()->SetButton(pad, QLatin1String(button), true);
     Window()->Pads()->SetButton(pad, QLatin1String(button), false);
@@ -311,7 +311,7 @@ TEST_F(PassThrough, AnXboxPadHasNoHomeButtonForTheGuest) {
   EXPECT_EQ(TakeLines(), QStringList());
 }
 
-// Its buttons that have letters go by letters all the same. The touchpad is touched in the middle of 1280 x 720.
+// Its lettered buttons use letters all the same. The touchpad is touched in the middle of 1280 x 720.
 TEST_F(PassThrough, APlayStationPadHasItsHomeButtonAndItsTouchpad) {
   Window()->Pads()->Add(1, QStringLiteral("DualSense"), PadFamily::kPlayStation);
   Click(1, "guide");
@@ -322,8 +322,8 @@ TEST_F(PassThrough, APlayStationPadHasItsHomeButtonAndItsTouchpad) {
   EXPECT_EQ(TakeLines(), (QStringList{"1:GPDBUTTON:304:1", "1:GPDBUTTON:304:0"}));
 }
 
-// The gamepad that keys play is device 100801, and its buttons have letters and the numbers that go with them: 13 is
-// the left stick pressed, where a PlayStation has its touchpad.
+// The gamepad for keys is device 100801, and its buttons have letters and the corresponding numbers: 13 is the pressed
+// left stick, whereas a PlayStation gamepad has its touchpad there.
 TEST_F(PassThrough, TheGamepadThatKeysPlayGoesByLetters) {
   Window()->Pads()->Add(1, QStringLiteral("DualSense"), PadFamily::kPlayStation);
   Load("{type: VirtualJoystickButton, key: Space, map_text: A}, {type: VirtualJoystickButton, key: W, map_text: '13'}",

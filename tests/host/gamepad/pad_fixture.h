@@ -1,4 +1,4 @@
-// What a gamepad's use makes for the library, written down: "press A", "release ↑", "left 0.5,-1".
+// The events of a gamepad for the library, as text: "press A", "release ↑", "left 0.5,-1".
 #ifndef TESTS_HOST_GAMEPAD_PAD_FIXTURE_H_
 #define TESTS_HOST_GAMEPAD_PAD_FIXTURE_H_
 
@@ -12,7 +12,7 @@
 
 namespace tavi {
 
-// Numbers with two digits at most; the device in front of it where it is not `device`.
+// Numbers with at most two decimals; preceded by the device if it is not `device`.
 inline QString PadEventText(QEvent* event, int device) {
   using tavikeymapmanager::JoystickEvent;
   const auto of_device = [&](int id) { return id == device ? QString() : QStringLiteral("%1: ").arg(id); };
@@ -29,7 +29,7 @@ inline QString PadEventText(QEvent* event, int device) {
   return of_device(button->device) + (is_press ? QStringLiteral("press ") : QStringLiteral("release ")) + button->text;
 }
 
-// A sink that remembers.
+// A sink that records.
 class PadRecord {
  public:
   explicit PadRecord(int device) : device_(device) {}

@@ -55,7 +55,7 @@ TEST_F(PadInputTest, EveryButtonHasItsName) {
 }
 
 TEST_F(PadInputTest, AButtonThatNobodyKnowsIsLeftOut) {
-  Down("touchpad");  // of a PlayStation alone
+  Down("touchpad");  // only of a PlayStation gamepad
   Down("laser");
   Up("laser");
   Axis("tilt", 1);
@@ -73,7 +73,7 @@ TEST_F(PadInputTest, APlayStationsOwnButtonsHaveNumbersOfASecondDevice) {
   EXPECT_EQ(Told(), (QStringList{"1000007: release 13", "1000007: release 12", "release A"}));
 }
 
-// 1 is the layout with letters, 2 the one in which a guide and a touchpad have numbers.
+// 1 is the layout with letters, 2 the one in which guide and touchpad have numbers.
 TEST_F(PadInputTest, TheSecondDeviceIsOfAnotherKind) {
   EXPECT_EQ(KindOfDevice(kPad), 1);
   EXPECT_EQ(KindOfDevice(999), 1);     // the buttons of macros
@@ -89,7 +89,7 @@ TEST_F(PadInputTest, AButtonIsToldOnce) {
   EXPECT_EQ(Told(), (QStringList{"press A", "release A"}));
 }
 
-// The release of either end of an axis of the cross stands for its rest.
+// The release of either end of an axis of the cross centres the axis.
 TEST_F(PadInputTest, TheOtherEndOfTheCrossIsReleasedFirst) {
   Down("dpleft");
   Down("dpup");
@@ -107,9 +107,9 @@ TEST_F(PadInputTest, ATriggerIsAButtonWithALeeway) {
     double value;
     QStringList told;
   } rows[] = {
-      {"just short of it", 0.4, {}},     {"down", 0.41, {"press LT"}},  {"all the way", 1, {}},
-      {"still down", 0.25, {}},          {"up", 0.24, {"release LT"}},  {"a little", 0.4, {}},
-      {"down again", 0.5, {"press LT"}}, {"let go", 0, {"release LT"}},
+      {"just short of it", 0.4, {}},     {"down", 0.41, {"press LT"}},    {"all the way", 1, {}},
+      {"still down", 0.25, {}},          {"up", 0.24, {"release LT"}},    {"a little", 0.4, {}},
+      {"down again", 0.5, {"press LT"}}, {"released", 0, {"release LT"}},
   };
   for (const auto& row : rows) {
     Axis("lefttrigger", row.value);
@@ -119,7 +119,7 @@ TEST_F(PadInputTest, ATriggerIsAButtonWithALeeway) {
   EXPECT_EQ(Told(), QStringList{"press RT"});
 }
 
-// The dead zone is 0.15, the way from there to the edge 0.85.
+// The dead zone is 0.15, the remaining range 0.85.
 TEST_F(PadInputTest, AStickValueBeginsBehindTheDeadZone) {
   EXPECT_TRUE(StickValue({0, 0}).isNull());
   EXPECT_TRUE(StickValue({0.15, 0}).isNull());
@@ -129,7 +129,7 @@ TEST_F(PadInputTest, AStickValueBeginsBehindTheDeadZone) {
   EXPECT_EQ(StickValue({-1, 0}), QPointF(-1, 0));
 }
 
-// A stick in a square corner is 1.41 from its rest; the direction stays, the length is 1.
+// A stick with a square range is at 1.41 in the corner; the direction stays, the length becomes 1.
 TEST_F(PadInputTest, AStickStaysInTheCircle) {
   EXPECT_NEAR(StickValue({1, 1}).x(), 0.7071, 1e-4);
   EXPECT_NEAR(StickValue({1, 1}).y(), 0.7071, 1e-4);
@@ -153,7 +153,7 @@ TEST_F(PadInputTest, ALeftStickIsToldWhenItMoved) {
   EXPECT_EQ(Told(), QStringList{"left 0,0"});
 }
 
-// It turns the view by a step each time.
+// Each call turns the view by a step.
 TEST_F(PadInputTest, ARightStickIsToldWhileItIsOut) {
   pad_.SendSticks();
   EXPECT_EQ(Told(), QStringList());
@@ -182,7 +182,7 @@ TEST_F(PadInputTest, ReleasingAllEndsWithTheFirst) {
   pad_.ReleaseAll();
   EXPECT_EQ(Told(), QStringList());
 
-  Up("a");  // was told already
+  Up("a");  // was sent already
   Down("a");
   pad_.SendSticks();
   EXPECT_EQ(Told(), (QStringList{"press A", "left -1,0", "right 1,0"}));
@@ -204,7 +204,7 @@ TEST_F(PadInputTest, WhileNobodyListensNothingIsTold) {
 
   pad_.SetListening(true);
   EXPECT_EQ(Told(), QStringList{"release A"});
-  Up("x");  // its press was never told
+  Up("x");  // its press was never sent
   Up("b");
   EXPECT_EQ(Told(), QStringList{"release B"});
   pad_.SendSticks();

@@ -53,7 +53,7 @@ TEST(GuestLine, UnderstandsEveryFormOfNumbers) {
       {"the hat, upright", "HATY:1", Kind::kHatY, {1}},
       {"the touchpad", "TOUCHPADLIGHTTOUCH:640:360", Kind::kTouchpadTouch, {640, 360}},
       {"the touchpad pressed", "TOUCHPADPRESS", Kind::kTouchpadPress, {}},
-      {"the touchpad let go", "TOUCHPADRELEASE", Kind::kTouchpadRelease, {}},
+      {"the touchpad released", "TOUCHPADRELEASE", Kind::kTouchpadRelease, {}},
   };
   for (const FormRow& row : rows) {
     SCOPED_TRACE(row.name);
@@ -110,7 +110,7 @@ TEST(GuestLine, DoesNotUnderstandAnythingElse) {
   }
 }
 
-// 640.5 lies in the middle and goes up.
+// 640.5 is halfway and is rounded up.
 TEST(GuestLine, APositionIsTheNearestPoint) {
   EXPECT_EQ(ParseGuestLine(QStringLiteral("SLOTPRESS:2:2:1:1:640.5:360.4")).PointAt(4), QPoint(641, 360));
   EXPECT_EQ(ParseGuestLine(QStringLiteral("MOUSEMOVE_REL:-1.6:3e9")).PointAt(0), QPoint(-2, 2147483647));

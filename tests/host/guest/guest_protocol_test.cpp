@@ -1,4 +1,4 @@
-// The document of the lines speaks of the lines that there are.
+// The document of the lines matches the lines.
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -18,7 +18,7 @@ QString Document() {
   return QString::fromUtf8(file.readAll());
 }
 
-// What stands in blocks marked "guest".
+// The content of the blocks marked "guest".
 QStringList Examples() {
   QStringList examples;
   bool is_inside = false;

@@ -12,7 +12,8 @@
 namespace tavi {
 namespace {
 
-// A display of 1000 x 500 that is drawn 1100 wide and 550 high, with its corner at 24, 82 (margin 24, header 58).
+// A display of 1000 x 500 that is drawn with a width of 1100 and a height of 550, with its corner at 24, 82 (margin 24,
+// header 58).
 class RecordPicture : public testing::Test {
  protected:
   void Draw(const QByteArray& text, const QString& title = QStringLiteral("a.json")) {
@@ -51,7 +52,8 @@ class RecordPicture : public testing::Test {
   }
 };
 
-// Down at (0.5, 0.5) after 100 ms: 24 + 550, 82 + 275. Moves to (1, 0.5) at 200 ms, the end of time, and goes up there.
+// Down at (0.5, 0.5) after 100 ms: 24 + 550, 82 + 275. Moves to (1, 0.5) at 200 ms, the end of the record, and is
+// lifted there.
 constexpr char kDrag[] = R"~(
     {"timing": 100, "type": "touch", "data": "press_rel:(0.5,0.5)",
                "extra1" : "3"
@@ -61,10 +63,10 @@ constexpr char kDrag[] = R"~(
 
 TEST_F(RecordPicture, DrawsTheWayOfAFingerInTheColoursOfTime) {
   Draw(WithActions(kDrag));
-  const QString middle = TimeColour(31);  // 100 of 200 ms: 63 * 100 / 200, cut
+  const QString middle = TimeColour(31);  // 100 of 200 ms: 63 * 100 / 200, truncated
   const QString end = TimeColour(63);
   EXPECT_EQ(ways_, QStringList{end + " 574.0,357.0 1124.0,357.0"});
-  // The last of each is the legend's.
+  // The last of each belongs to the legend.
   EXPECT_EQ(dots_.mid(0, 1), QStringList{"574.0,357.0 " + middle});
   EXPECT_EQ(rings_.mid(0, 1), QStringList{"1124.0,357.0 " + end});
   EXPECT_EQ(dots_.size(), 2);
@@ -76,7 +78,7 @@ TEST_F(RecordPicture, HasALegend) {
   EXPECT_EQ(texts_[0], QStringLiteral("<walk> & \"talk\".json"));
   EXPECT_EQ(texts_[1], QStringLiteral("display 1000 x 500  |  plays 0.200 s  |  1 contact"));
   for (const char* text : {"0.000 s", "0.050 s", "0.100 s", "0.150 s", "0.200 s", "1",
-                           "a finger goes down, with its number", "not drawn: 1 vcontrol"}) {
+                           "a finger is put down, with its number", "not shown: 1 vcontrol"}) {
     EXPECT_TRUE(texts_.contains(QLatin1String(text))) << text;
   }
 }
@@ -105,14 +107,14 @@ TEST_F(RecordPicture, FollowsSeveralFingersAtOnce) {
       {"timing": 10, "type": "touch", "data": "release_multi", "extra1": "20"},
       {"timing": 10, "type": "touch", "data": "reset"},
       {"timing": 10, "type": "touch", "data": "release", "extra1": "18"})~"));
-  ASSERT_EQ(paths_.contacts.size(), 2);  // (0,0) is no point
+  ASSERT_EQ(paths_.contacts.size(), 2);  // (0,0) is not a point
   EXPECT_EQ(paths_.contacts[0].points.first().point, QPointF(0.1, 0.1));
-  EXPECT_EQ(paths_.contacts[0].up_ms, 30);  // by the reset; the release behind it finds nothing
+  EXPECT_EQ(paths_.contacts[0].up_ms, 30);  // by the reset; the release after it has no effect
   EXPECT_EQ(paths_.contacts[1].up_ms, 20);
 }
 
-// The first part plays twice: at 10 and, after a pause of 5, at 25 ms. The gap of 75 is nobody's, and the second part
-// begins at its end.
+// The first part plays twice: at 10 and, after a pause of 5, at 25 ms. The gap of 75 belongs to no part, and the second
+// part begins after it.
 TEST_F(RecordPicture, TellsThePartsOfAMergedRecord) {
   Draw(WithHeader(R"~("merged_actions": [
       {"control": {"file_name": "tap.json", "repeat_times": 2, "repeat_delay": 5, "till_next_item_delay": 75},
@@ -121,7 +123,7 @@ TEST_F(RecordPicture, TellsThePartsOfAMergedRecord) {
       {"actions": [{"timing": 20, "type": "touch", "data": "release", "extra1": "1"}]}])~"));
   EXPECT_TRUE(texts_.contains("1. tap.json: 0.000 s to 0.025 s"));
   EXPECT_TRUE(texts_.contains("2. part: 0.100 s to 0.120 s"));
-  EXPECT_EQ(paths_.contacts.size(), 1);  // fingers go on across parts, as they do in a replay
+  EXPECT_EQ(paths_.contacts.size(), 1);  // fingers continue across parts, as in a replay
 }
 
 TEST_F(RecordPicture, LeavesOutWhatIsFarOffTheDisplay) {

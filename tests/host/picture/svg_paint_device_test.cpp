@@ -23,7 +23,7 @@ struct Element {
 
 class SvgPaint : public testing::Test {
  protected:
-  // What `paint` leaves on a page of 100 x 50.
+  // The result of `paint` on a page of 100 x 50.
   QVector<Element> Paint(const std::function<void(QPainter*)>& paint) {
     SvgWriter writer(QSize(100, 50), QStringLiteral("a page"));
     SvgPaintDevice page(QSize(100, 50), &writer);
@@ -73,7 +73,7 @@ TEST_F(SvgPaint, ALineGrowsWithThePaintersUnits) {
   EXPECT_EQ(elements[0]["fill"], QStringLiteral("none"));
 }
 
-// The dashes of a pen count in its widths.
+// The dashes of a pen are relative to its width.
 TEST_F(SvgPaint, ADashedLineStaysDashed) {
   const auto elements = Paint([](QPainter* painter) {
     QPen pen(Qt::blue, 2);

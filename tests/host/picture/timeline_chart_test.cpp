@@ -15,7 +15,7 @@ using Source = TimelineEntry::Source;
 
 class Timeline : public testing::Test {
  protected:
-  // One command of a script at a time.
+  // The next command of a script.
   void Input(qint64 ms, const char* command) {
     const Script script = ParseScript(QString::fromUtf8(command));
     ASSERT_EQ(script.commands.size(), 1) << command;
@@ -113,7 +113,7 @@ TEST_F(Timeline, SeveralFingersComeInOneLine) {
   EXPECT_EQ(Bars(Group::kGuest, "finger 5"), QStringLiteral("0-9 30,40"));
 }
 
-// Each display by itself; the main one has no name in front.
+// Each display is separate; the main one has no name before it.
 TEST_F(Timeline, AllFingersOfADisplayAreLiftedTogether) {
   Line(0, "1:SLOTPRESS:11:11:1:1:1:1");
   Line(0, "1:SLOTPRESS:12:12:1:1:2:2");
@@ -154,7 +154,7 @@ TEST_F(Timeline, WhatElseTheGuestGetsHasLanesToo) {
   EXPECT_EQ(Marks(Group::kGuest, "text"), QStringLiteral("16 a b"));
 }
 
-// That a device was used is told at every event, and left out.
+// Every event reports the device, which is left out.
 TEST_F(Timeline, WhatTheHostIsToldHasOneLane) {
   chart_.AddEntry({3, Source::kCallback, QStringLiteral("mapped 1")});
   chart_.AddEntry({4, Source::kCallback, QStringLiteral("status 2 F")});

@@ -84,7 +84,7 @@ TEST_F(TimelineDrawing, AMomentHasAWidthAllTheSame) {
   EXPECT_EQ(bars_, QStringList{"274.0+2.5"});
 }
 
-// Let go and pressed again in one moment: two bars, side by side.
+// Released and pressed again at the same time: two bars, side by side.
 TEST_F(TimelineDrawing, BarsThatFollowEachOtherStayTwo) {
   Key("W", 0, 500);
   Key("W", 500, 1000);
@@ -99,7 +99,7 @@ TEST_F(TimelineDrawing, WhatIsTooCloseIsDrawnAsOne) {
   EXPECT_EQ(tips_.last(), QStringLiteral("W: 0 ms to 2 ms, 3 times"));
 }
 
-// A hundred thousand of each: bars are 4 apart at least and ticks 1.5, on an axis of 1000.
+// A hundred thousand of each: bars are at least 4 apart and ticks 1.5, on an axis of 1000.
 TEST_F(TimelineDrawing, ALongRunHasABoundedPicture) {
   for (int i = 0; i < 100000; ++i) {
     Key("W", i * 10, i * 10 + 5);

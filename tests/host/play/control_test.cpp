@@ -1,4 +1,4 @@
-// What a script may ask of a player at work.
+// The commands of a script for a running player.
 #include <algorithm>
 #include <thread>
 
@@ -93,7 +93,7 @@ TEST_F(Control, AKeymapWithErrorsLeavesTheOneThatIsInUse) {
 TEST_F(Control, AMissingFileIsAnError) {
   Start(kTap);
   EXPECT_EQ(Ask("keymap /nowhere/x.yaml").substr(0, 6), "error ");
-  EXPECT_EQ(Ask("replay /nowhere/x.json"), "error /nowhere/x.json is no record");
+  EXPECT_EQ(Ask("replay /nowhere/x.json"), "error /nowhere/x.json is not a record");
   EXPECT_EQ(Ask("record /nowhere/x.json").substr(0, 39), "error cannot write /nowhere/x.json: No ");
 }
 
@@ -140,7 +140,7 @@ TEST_F(Control, WhileATextFieldHasTheFocusKeysAreTyped) {
   EXPECT_EQ(Sent(), (Lines{"0ms 1:SLOTPRESS:11:11:1:1:320:540", "0ms 1:SLOTRELEASE:11"}));
 }
 
-// With Control held, a letter is a command and no text.
+// With Control held, a letter is a command and not text.
 TEST_F(Control, AKeyThatIsACommandIsNoText) {
   Start(kTap);
   EXPECT_EQ(Ask("text on"), "ok");
@@ -169,9 +169,9 @@ TEST_F(Control, QuitEnds) {
 TEST_F(Control, WhatIsRecordedIsPlayedAgain) {
   Start(kTap);
   const QString file = folder_.filePath("taps.json");
-  EXPECT_EQ(Ask("stop"), "error nothing is recorded or played");
+  EXPECT_EQ(Ask("stop"), "error no recording or replay is running");
   EXPECT_EQ(Ask("record " + file), "ok");
-  EXPECT_EQ(Ask("record " + file), "error a recording runs; \"stop\" ends it");
+  EXPECT_EQ(Ask("record " + file), "error a recording is running; \"stop\" ends it");
   EXPECT_NE(State().find(", recording"), std::string::npos) << State();
   Press(KEY_SPACE);
   clock_->Advance(50);
@@ -204,11 +204,11 @@ TEST_F(Control, AnAppHasItsOwnKeymapAndTheLastOneIsRemembered) {
   EXPECT_EQ(AppKeymaps("/elsewhere", memory).LastApp(), QString());
   EXPECT_EQ(Ask("app com.example.three"),
             "error no keymap in " + folder_.path().toStdString() +
-                " has the package com.example.three; there are some for com.example.one, com.example.two");
+                " has the package com.example.three; there are keymaps for com.example.one, com.example.two");
   EXPECT_EQ(apps_->LastApp(), QString("com.example.two"));
 }
 
-// A folder in the place of the file cannot be written to, whoever tries.
+// A folder with the file's name cannot be written to by anyone.
 TEST_F(Control, AnAppThatCannotBeRememberedIsPlayedAndThatIsTold) {
   Write("one.yaml", kOtherTap, "package: com.example.one");
   apps_ = std::make_unique<AppKeymaps>(folder_.path(), folder_.path());
@@ -227,7 +227,7 @@ TEST_F(Control, WithoutAFolderThereAreNoApps) {
 
 // ---- The socket
 
-// Each of two ends of one process needs its thread, since who asks waits.
+// The two ends in one process need a thread each, because the sender waits.
 ControlAnswer AskFromElsewhere(const QString& name, const QString& line) {
   ControlAnswer answer;
   QEventLoop loop;
@@ -293,7 +293,7 @@ TEST_F(ControlSocketTest, NobodyElseCanEnter) {
 TEST_F(ControlSocketTest, WhereNobodyPlaysThatIsTold) {
   const ControlAnswer answer = AskPlayer("here", "state");
   EXPECT_FALSE(answer.is_ok);
-  EXPECT_EQ(answer.text, QString("no \"tavi play\" of yours runs under the name \"here\""));
+  EXPECT_EQ(answer.text, QString("you have no \"tavi play\" running under the name \"here\""));
 }
 
 TEST_F(ControlSocketTest, TwoPlayersNeedTwoNames) {

@@ -1,4 +1,4 @@
-// From events of keyboards and mice to the lines that a guest gets, as a player's hands would have it.
+// Converts events of keyboards and mice to the lines that a guest gets.
 #include "tests/host/play/play_fixture.h"
 
 namespace tavi {
@@ -6,7 +6,7 @@ namespace {
 
 class Feeding : public PlayFixture {};
 
-// The guest is 1280 x 720: 0.25 of the one is 320, 0.75 of the other 540.
+// The guest is 1280 x 720: 0.25 of 1280 is 320, 0.75 of 720 is 540.
 constexpr char kTap[] = "{type: Click, key: Space, point: [0.25, 0.75]}";
 
 TEST_F(Feeding, AKeyIsATap) {
@@ -18,7 +18,7 @@ TEST_F(Feeding, AKeyIsATap) {
   EXPECT_EQ(Sent(), (Lines{"40ms 1:SLOTRELEASE:11"}));
 }
 
-// Of Linux's code 97 keymaps know as 285.
+// Linux's code 97 is 285 in keymaps.
 TEST_F(Feeding, AKeyWithAnotherCodeUnderWindowsIsFoundByItsName) {
   Start("{type: Click, key: Right Ctrl, point: [0.25, 0.75]}");
   Press(KEY_RIGHTCTRL);
@@ -61,7 +61,7 @@ TEST_F(Feeding, AKeyThatIsDownOnTwoKeyboardsIsUpWhenBothAre) {
 
 TEST_F(Feeding, AKeyThatNoKeymapCanNameIsNothing) {
   Start(kTap, "settings: {keyboard_transparent: true}");
-  Click(KEY_FN);  // 464, which Windows has no scan code for
+  Click(KEY_FN);  // 464, which has no Windows scan code
   EXPECT_EQ(Sent(), Lines{});
 }
 
@@ -85,7 +85,7 @@ TEST_F(Feeding, ThePointerIsFasterOrSlowerAsAskedFor) {
   EXPECT_EQ(Sent(), (Lines{"5ms 1:SLOTPRESS:1:1:1:1:690:330"}));
 }
 
-// Three times a third of a pixel is one: parts of a pixel are not lost.
+// Three times a third of a pixel is one: fractions of a pixel are not lost.
 TEST_F(Feeding, PartsOfAPixelAddUp) {
   settings_.speed = 0.25;
   Start("");
@@ -139,7 +139,7 @@ TEST_F(Feeding, ANotchOfTheWheelIsATap) {
   EXPECT_EQ(Sent(), kWheelTapLines);
 }
 
-// A wheel that tells parts tells the notch as well, in the frame that completes it.
+// A high-resolution wheel also reports the notch, in the frame that completes it.
 TEST_F(Feeding, PartsOfANotchAddUp) {
   Start(kWheelTap);
   Feed(mouse_, {{EV_REL, REL_WHEEL_HI_RES, 60}});
@@ -170,12 +170,12 @@ constexpr char kView[] =
     "{type: Staring, key: Grave, point: [0.5, 0.5], press_interval_ms: 20, move_interval_ms: 8,"
     " auto_reset_period_ms: 0}";
 
-// The first counts put the finger down; from then on, with sensitivities of 100, a count is a pixel of its way.
+// The first counts put the finger down; from then on, with sensitivities of 100, a count moves it by a pixel.
 TEST_F(Feeding, InViewControlTheCountsTurnTheViewAndThePointerStays) {
-  settings_.speed = 3;  // is the pointer's, not the view's
+  settings_.speed = 3;  // is for the pointer, not for the view
   Start(kView);
   Click(KEY_GRAVE);
-  EXPECT_NE(State().find("the mouse steers the view"), std::string::npos) << State();
+  EXPECT_NE(State().find("the mouse turns the view"), std::string::npos) << State();
   Sent();
   clock_->Advance(30);
   Move(7, -4);
@@ -184,7 +184,7 @@ TEST_F(Feeding, InViewControlTheCountsTurnTheViewAndThePointerStays) {
   const Lines turned = Sent();
   EXPECT_EQ(turned, (Lines{"35ms 1:SLOTPRESS:1:1:1:1:640:360", "70ms 1:SLOTPRESS:1:1:1:1:645:362"}));
   Click(KEY_GRAVE);
-  EXPECT_EQ(State().find("the mouse steers the view"), std::string::npos) << State();
+  EXPECT_EQ(State().find("the mouse turns the view"), std::string::npos) << State();
   Sent();
   Button(BTN_LEFT, true);
   EXPECT_EQ(Sent().back(), "0ms 1:SLOTPRESS:1:1:1:1:640:360");
@@ -205,7 +205,7 @@ TEST_F(Feeding, PlacesAreThoseOfTheGuestsSize) {
   EXPECT_EQ(Sent(), (Lines{"0ms 1:SLOTPRESS:11:11:1:1:160:270"}));
 }
 
-// The display is 720 x 1280 then, and (0.25, 0.75) of it is (180, 960): by a quarter turn (1280 - 960, 180).
+// The display is 720 x 1280 then, and (0.25, 0.75) of it is (180, 960): rotated by 90 degrees (1280 - 960, 180).
 TEST_F(Feeding, ATurnedDisplayHasItsFingersWhereTheyAreSeen) {
   Start(kTap);
   session_->SetRotation(270);

@@ -1,4 +1,4 @@
-// When devices are kept from other programs, and when they are given back.
+// When devices are grabbed, and when they are released.
 #include <algorithm>
 
 #include "tests/host/play/play_fixture.h"
@@ -8,7 +8,7 @@ namespace {
 
 class Grab : public PlayFixture {};
 
-// A reset, and nothing behind it that puts a finger down.
+// A reset, and then nothing that puts a finger down.
 bool LiftsAllFingers(const Lines& lines) {
   const bool has_reset = std::find(lines.begin(), lines.end(), "0ms 1:SLOTRELEASEALL") != lines.end();
   return has_reset && std::none_of(lines.begin(), lines.end(), [](const std::string& line) {
@@ -30,7 +30,8 @@ TEST_F(Grab, DevicesAreGrabbedWhileTheMappingIsOn) {
   EXPECT_TRUE(keyboard_->is_grabbed);
 }
 
-// To the others a key that is down at the grab would be down for as long as it lasts: Enter, which started the program.
+// For other programs a key that is down at the grab would stay down as long as the grab lasts: Enter, which started the
+// program.
 TEST_F(Grab, AKeyboardIsNotGrabbedWhileAKeyIsDown) {
   keyboard_->down.insert(KEY_ENTER);
   Start(kTap);
@@ -38,7 +39,7 @@ TEST_F(Grab, AKeyboardIsNotGrabbedWhileAKeyIsDown) {
   EXPECT_TRUE(mouse_->is_grabbed);
   EXPECT_EQ(State().substr(0, 38), "mapping waits for all keys to be up, k");
   Press(KEY_SPACE);
-  EXPECT_EQ(Sent(), Lines{});  // others hear it, so that it is theirs
+  EXPECT_EQ(Sent(), Lines{});  // other programs get it, so it belongs to them
   Release(KEY_ENTER);
   EXPECT_FALSE(keyboard_->is_grabbed);
   Release(KEY_SPACE);
@@ -68,12 +69,12 @@ TEST_F(Grab, AMouseIsNotGrabbedWhileAButtonIsDown) {
 }
 
 TEST_F(Grab, ADeviceThatAnotherProgramHasIsToldOnceAndTriedAgain) {
-  keyboard_->refusal = "another program keeps it for itself";
+  keyboard_->refusal = "another program has grabbed it";
   session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
   QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
   ASSERT_EQ(session_->Start(), QString());
   clock_->Advance(3000);
-  const QString expected = "\"Board\" (/dev/input/event1) is not played with: another program keeps it for itself";
+  const QString expected = "\"Board\" (/dev/input/event1) is not used: another program has grabbed it";
   EXPECT_EQ(told_.filter("not played with"), QStringList{expected});
   keyboard_->refusal.clear();
   clock_->Advance(600);
@@ -93,11 +94,11 @@ TEST_F(Grab, ThePauseKeyGivesTheDevicesBackAndTakesThemAgain) {
   Release(KEY_F12);
   Release(KEY_SPACE);
   Click(KEY_SPACE);
-  EXPECT_EQ(Sent(), Lines{});  // it is everybody's now
+  EXPECT_EQ(Sent(), Lines{});  // all programs get it now
   EXPECT_EQ(State().substr(0, 12), "mapping off,");
 
   Press(KEY_F12);
-  EXPECT_FALSE(keyboard_->is_grabbed);  // the key itself is down still
+  EXPECT_FALSE(keyboard_->is_grabbed);  // the key itself is still down
   Release(KEY_F12);
   EXPECT_TRUE(keyboard_->is_grabbed);
   Sent();
@@ -125,7 +126,7 @@ TEST_F(Grab, ThePanicKeyIsTheKeymapsWithoutItsModifiers) {
   EXPECT_TRUE(keyboard_->is_grabbed);
 }
 
-// Ctrl on one keyboard, the rest on another: a player's hands know of no difference.
+// Ctrl on one keyboard, the other key on another: to the player there is no difference.
 TEST_F(Grab, ThePanicKeyMayBeOnTwoKeyboards) {
   Start(kTap);
   const auto second = box_.Add("/dev/input/event7", "Other board", DeviceKind::kKeyboard);
@@ -153,7 +154,7 @@ TEST_F(Grab, UnpluggingWithWDownLiftsTheWalk) {
   ASSERT_FALSE(Sent().empty());
   box_.Remove(kKeyboard);
   EXPECT_EQ(Sent().back().substr(0, 20), "0ms 1:SLOTRELEASE:2");
-  EXPECT_TRUE(told_.contains("\"Board\" (/dev/input/event1) is gone"));
+  EXPECT_TRUE(told_.contains("\"Board\" (/dev/input/event1) was disconnected"));
 }
 
 TEST_F(Grab, ADeviceThatIsPluggedInIsPlayedWith) {
@@ -176,7 +177,7 @@ TEST_F(Grab, ADeviceThatIsPluggedInDuringThePauseIsLeftAlone) {
   EXPECT_TRUE(second->is_grabbed);
 }
 
-// udev gives the rights a moment after the device is there.
+// udev sets the permissions a moment after the device appears.
 TEST_F(Grab, ADeviceWithoutRightsIsToldOnceAndTakenWhenTheyCome) {
   Start(kTap);
   box_.locked.insert("/dev/input/event7");
@@ -204,7 +205,7 @@ TEST_F(Grab, WhereThereIsNothingToPlayWithThatIsTold) {
   session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
   QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
   ASSERT_EQ(session_->Start(), QString());
-  EXPECT_EQ(told_, QStringList{"no keyboard and no mouse to play with yet; --list tells what there is"});
+  EXPECT_EQ(told_, QStringList{"no keyboard and no mouse to play with yet; --list shows the devices"});
 }
 
 // ---- Which devices
@@ -228,7 +229,7 @@ TEST(DeviceChoice, WhatIsTakenAndWhyNot) {
   own.name = "tavi keyboard";
   own.is_virtual = true;
   DeviceTraits namesake = own;
-  namesake.is_virtual = false;  // a keyboard that only is called so
+  namesake.is_virtual = false;  // a keyboard only by its name
   const struct {
     const char* name;
     DeviceTraits traits;
@@ -242,7 +243,7 @@ TEST(DeviceChoice, WhatIsTakenAndWhyNot) {
       {"by its file", keyboard, {"/dev/input/event1"}, ""},
       {"one of two", keyboard, {"Rat", "Board"}, ""},
       {"another was asked for", keyboard, {"Rat"}, "not among those of --device"},
-      {"a tablet", tablet, {}, "it tells places in place of ways"},
+      {"a tablet", tablet, {}, "it reports positions instead of movement"},
       {"a power button", {}, {}, "neither a keyboard nor a mouse"},
       {"a gamepad", pad, {}, "gamepads are read through SDL"},
       {"a guest's keyboard", own, {}, "a guest's own device"},

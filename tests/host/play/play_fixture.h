@@ -1,5 +1,4 @@
-// A player on a clock of its own: devices that tests play by hand, and the lines that a guest would get, with their
-// times.
+// A player on virtual time: devices that tests operate, and the lines that a guest would get, with their times.
 #ifndef TESTS_HOST_PLAY_PLAY_FIXTURE_H_
 #define TESTS_HOST_PLAY_PLAY_FIXTURE_H_
 
@@ -23,16 +22,16 @@
 
 namespace tavi {
 
-// What a hand does to a device, and what a program did to it.
+// The actions of a hand on a device, and those of a program.
 struct Toy {
   DeviceTraits traits;
   std::vector<InputFrame> frames;  // not read yet
-  std::set<int> down;              // keys, as the kernel has them
+  std::set<int> down;              // keys, by the kernel's codes
   bool is_gone = false;
   bool is_grabbed = false;
   QString refusal;                   // of a grab
-  int grabs = 0;                     // that were taken
-  std::set<int> down_behind_a_look;  // goes down between a look and the grab
+  int grabs = 0;                     // grabbed
+  std::set<int> down_behind_a_look;  // pressed between a check and the grab
 };
 
 class ToyDevice : public PhysicalDevice {
@@ -95,11 +94,11 @@ class ToyBox : public DeviceSource {
   }
 
   std::map<QString, std::shared_ptr<Toy>> toys;
-  std::set<QString> locked;  // paths that may not be opened
+  std::set<QString> locked;  // paths that must not be opened
   std::function<void()> watcher;
 };
 
-// A guest that writes down what it gets.
+// A guest that records what it gets.
 class Notebook : public GuestOutlet {
  public:
   explicit Notebook(VirtualEventDispatcher* clock) : clock_(clock) {}
@@ -116,7 +115,7 @@ class Notebook : public GuestOutlet {
   void Close() override { is_closed = true; }
   QString State() const override { return {}; }
 
-  // What came since the last call, its times counted from then.
+  // What came since the last call, with times relative to it.
   std::vector<std::string> Take() {
     start_ms_ = clock_->NowMs();
     return std::exchange(lines_, {});
@@ -146,7 +145,7 @@ class PlayFixture : public testing::Test {
   }
   ~PlayFixture() override { session_.reset(); }
 
-  // Begins to play with a keymap of these items.
+  // Starts to play with a keymap of these items.
   void Start(const char* items, const char* settings = "") {
     session_ = std::make_unique<PlaySession>(&box_, &guest_, settings_);
     QObject::connect(session_.get(), &PlaySession::Told, [this](const QString& text) { told_ += text; });
@@ -164,7 +163,7 @@ class PlayFixture : public testing::Test {
     return file.fileName();
   }
 
-  // A frame of a device, and what the kernel knows of its keys by then.
+  // A frame of a device, and the kernel's state of its keys after it.
   void Feed(const std::shared_ptr<Toy>& toy, const InputFrame& frame) {
     for (const DeviceEvent& event : frame) {
       if (event.type != EV_KEY) continue;
@@ -182,20 +181,20 @@ class PlayFixture : public testing::Test {
     Release(code);
   }
   void Button(int code, bool is_down) { Feed(mouse_, {{EV_KEY, code, is_down ? 1 : 0}}); }
-  // Moves within 2 ms of each other count once.
+  // Moves less than 2 ms apart count once.
   void Move(int dx, int dy) {
     clock_->Advance(5);
     Feed(mouse_, {{EV_REL, REL_X, dx}, {EV_REL, REL_Y, dy}});
   }
 
-  // What the guest got since the last call, its times counted from then.
+  // What the guest got since the last call, with times relative to it.
   Lines Sent() { return guest_.Take(); }
   std::string State() const { return session_->State().toStdString(); }
 
   static constexpr char kKeyboard[] = "/dev/input/event1";
   static constexpr char kMouse[] = "/dev/input/event2";
 
-  VirtualEventDispatcher* clock_;  // the application's
+  VirtualEventDispatcher* clock_;  // owned by the application
   QTemporaryDir folder_;
   ToyBox box_;
   std::shared_ptr<Toy> keyboard_;

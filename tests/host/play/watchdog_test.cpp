@@ -1,4 +1,4 @@
-// On the real clock: an event loop that stands still is what it is about.
+// In real time, because the subject is an event loop that is blocked.
 #include "host/play/watchdog.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ TEST_F(WatchdogTest, BitesOnceWhenTheLoopStandsStill) {
   EXPECT_EQ(bites_, 1);
 }
 
-// Twenty looks' patience, and a pulse at each half of one.
+// A patience of twenty checks, and a pulse at half of one.
 TEST_F(WatchdogTest, LeavesALoopAloneThatRuns) {
   Watchdog dog(100, 20, [this] { ++bites_; });
   QEventLoop loop;

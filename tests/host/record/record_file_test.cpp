@@ -7,7 +7,7 @@
 namespace tavi {
 namespace {
 
-// As the program prints them, of a file called "f".
+// As the program prints them, for a file named "f".
 QString FindingsOf(const QByteArray& text) { return FormatFindings(QStringLiteral("f"), ReadRecordText(text)); }
 
 TEST(RecordFile, ReadsASingleRecord) {
@@ -49,13 +49,13 @@ TEST(RecordFile, TellsWhereJsonIsBroken) {
   EXPECT_TRUE(FindingsOf("").startsWith("f:1:1: error: broken JSON: "));
 }
 
-// The file is one level, so that a list of 1023 in it makes 1024.
+// The file is one level, so a list of 1023 in it makes 1024.
 TEST(RecordFile, ReadsAsManyLevelsAsAReplayDoes) {
   const auto findings_of = [](int levels) {
     return FindingsOf(WithActions("").replace(
         "\"info\"", "\"n\": " + QByteArray(levels - 1, '[') + QByteArray(levels - 1, ']') + ", \"info\""));
   };
-  EXPECT_EQ(findings_of(1024), QStringLiteral("f: warning: n: not read: no such key here\n"));
+  EXPECT_EQ(findings_of(1024), QStringLiteral("f: warning: n: ignored: there is no such key here\n"));
   EXPECT_TRUE(findings_of(1025).startsWith("f:1:1031: error: broken JSON: ")) << findings_of(1025).toStdString();
 }
 
@@ -71,14 +71,14 @@ TEST(RecordFile, RefusesWhatCannotBePlayed) {
        "f: error: info: a number where an object belongs\n"},
       {"a header with nothing in it", R"({"info": {}, "actions": []})", "f: error: info: empty\n"},
       {"no list", WithHeader(R"("action": [])"),
-       "f: error: not a record: there is neither \"actions\" nor \"merged_actions\"\n"},
+       "f: error: not a record: it has neither \"actions\" nor \"merged_actions\"\n"},
       {"no part", WithHeader(R"("merged_actions": [])"),
        "f: error: merged_actions: empty: a merged record needs a part to play\n"},
       {"parts that are no list", WithHeader(R"("merged_actions": true)"),
        "f: error: merged_actions: true or false where a list belongs\n"},
       {"a part without list, deep down",
        WithHeader(R"("merged_actions": [{"actions": [{"type": "vcontrol", "data": "a"}]}, {"merged_actions": [7]}])"),
-       "f: error: merged_actions[1].merged_actions[0]: there is neither \"actions\" nor \"merged_actions\"\n"},
+       "f: error: merged_actions[1].merged_actions[0]: it has neither \"actions\" nor \"merged_actions\"\n"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
@@ -104,36 +104,36 @@ TEST(RecordFile, WarnsOfWhatReadsAsSomethingElse) {
       {"a time beyond all timers", R"({"timing": 2147483648, "type": "vcontrol", "data": "a"})",
        "actions[1].timing: a number beyond 32 bits reads as 0"},
       {"a time in quotes", R"({"timing": "16", "type": "vcontrol", "data": "a"})",
-       "actions[1].timing: a text where a number belongs; not read"},
+       "actions[1].timing: a text where a number belongs; ignored"},
       {"a time back", R"({"timing": -1, "type": "vcontrol", "data": "a"})",
-       "actions[1].timing: below 0 waits as 0 does"},
+       "actions[1].timing: a value below 0 waits like 0"},
       {"a key of another name", R"({"type": "vcontrol", "data": "a", "extra": ""})",
-       "actions[1].extra: not read: no such key here"},
+       "actions[1].extra: ignored: there is no such key here"},
       {"no action", R"("touch")", "actions[1]: a text where an action belongs; the replay ends here"},
       {"no type", R"({"data": "a"})", "actions[1]: type: empty; the replay ends here"},
       {"another type", R"({"type": "swipe"})", "actions[1]: type: \"swipe\" is unknown; the action is a pause"},
       {"another touch", R"({"type": "touch", "data": "tap"})",
-       "actions[1]: data: \"tap\" is no command of this type; dropped"},
+       "actions[1]: data: \"tap\" is not a command of this type; dropped"},
       {"a point without brackets", R"({"type": "touch", "data": "press_rel:0.5,0.5", "extra1": "1"})",
-       "actions[1]: data: \"0.5,0.5\" is no point such as (0.5,0.25); dropped"},
+       "actions[1]: data: \"0.5,0.5\" is not a point such as (0.5,0.25); dropped"},
       {"the corner", R"~({"type": "touch", "data": "press_rel:(0,0)", "extra1": "1"})~",
-       "actions[1]: data: (0,0) counts as no point; dropped"},
+       "actions[1]: data: (0,0) is not a valid point; dropped"},
       {"half a point", R"~({"type": "touch", "data": "press_rel:(a,0.5)", "extra1": "1"})~",
-       "actions[1]: data: a coordinate of \"(a,0.5)\" is no number and reads as 0"},
+       "actions[1]: data: a coordinate of \"(a,0.5)\" is not a number and reads as 0"},
       {"a finger without number", R"({"type": "touch", "data": "release"})",
-       "actions[1]: extra1: \"\" is no whole number and reads as 0"},
+       "actions[1]: extra1: \"\" is not a whole number and reads as 0"},
       {"more points than fingers",
        R"~({"type": "touch", "data": "press_multi_rel:(0.1,0.1):(0.2,0.2)", "extra1": "1"})~",
        "actions[1]: data: 2 points and 1 slots in extra1; dropped"},
       {"no fingers to lift", R"({"type": "touch", "data": "release_multi"})", "actions[1]: extra1: no slots; dropped"},
       {"a key without code", R"({"type": "keyboard", "data": "keyboard_press:A"})",
-       "actions[1]: data: \"A\" is no whole number and reads as 0"},
+       "actions[1]: data: \"A\" is not a whole number and reads as 0"},
       {"a key of two codes", R"({"type": "keyboard", "data": "keyboard_press:1:2"})",
-       "actions[1]: data: \"keyboard_press:1:2\" is no command of this type; dropped"},
+       "actions[1]: data: \"keyboard_press:1:2\" is not a command of this type; dropped"},
       {"a move to nowhere", R"({"type": "mouse", "data": "move"})",
-       "actions[1]: data: \"move\" is no command of this type; dropped"},
+       "actions[1]: data: \"move\" is not a command of this type; dropped"},
       {"a text without text", R"({"type": "input_method", "data": "text_inject"})",
-       "actions[1]: data: \"text_inject\" is no command of this type; dropped"},
+       "actions[1]: data: \"text_inject\" is not a command of this type; dropped"},
       {"a gamepad that says nothing", R"({"type": "joystick"})", "actions[1]: data: empty; dropped"},
   };
   for (const auto& row : rows) {
@@ -167,14 +167,14 @@ TEST(RecordFile, WarnsOfControlsThatDoNotSayWhatTheyMean) {
   EXPECT_EQ(FindingsOf(text),
             QStringLiteral("f: warning: control: a number where an object belongs; reads as none\n"
                            "f: warning: merged_actions[0].control.repeat_times: a number with a fraction reads as 0\n"
-                           "f: warning: merged_actions[0].control.speed: not read: no such key here\n"
+                           "f: warning: merged_actions[0].control.speed: ignored: there is no such key here\n"
                            "f: warning: merged_actions[0].control.repeat_times: below 1 plays once\n"
                            "f: warning: merged_actions[0].control.speed_ratio: not above 0; plays at speed 1\n"));
 }
 
 TEST(RecordFile, WarnsOfListsThatAreNotPlayed) {
   EXPECT_EQ(FindingsOf(WithHeader(QByteArray(R"("merged_actions": [], "actions": [)") + kMarker + "]")),
-            QStringLiteral("f: warning: merged_actions: not read, since there is \"actions\" beside it\n"));
+            QStringLiteral("f: warning: merged_actions: ignored because there is \"actions\" beside it\n"));
   EXPECT_TRUE(FindingsOf(WithHeader(R"("actions": 7)"))
                   .startsWith("f: warning: actions: a number where a list belongs; plays nothing\n"));
 }

@@ -14,10 +14,10 @@ namespace tavi {
 constexpr char kHeader[] = R"("info": {"package_name": "com.example.game", "resolution_x": 1000, "resolution_y": 500})";
 constexpr char kMarker[] = R"({"timing": 0, "type": "vcontrol", "data": "go"})";
 
-// A file with a good header, and `rest` behind it: R"("actions": [...])".
+// A file with a valid header, followed by `rest`: R"("actions": [...])".
 inline QByteArray WithHeader(const QByteArray& rest) { return QByteArray("{") + kHeader + ", " + rest + "}"; }
 
-// One with a start marker and these actions behind it.
+// A file with a start marker followed by these actions.
 inline QByteArray WithActions(const QByteArray& actions) {
   return WithHeader(QByteArray(R"("actions": [)") + kMarker + (actions.isEmpty() ? "" : ", ") + actions + "]");
 }

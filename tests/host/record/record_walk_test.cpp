@@ -40,7 +40,7 @@ TEST(RecordWalk, AddsUpTheDelays) {
   EXPECT_EQ(Walk(root), QStringLiteral("10 a, 10 b, 30 c"));
 }
 
-// 33 / 2 = 16.5 and each delay loses its fraction by itself: 16 + 16. A delay below 0 is none.
+// 33 / 2 = 16.5 and each delay is truncated by itself: 16 + 16. A delay below 0 is none.
 TEST(RecordWalk, CutsEachDelayByItself) {
   EXPECT_EQ(Walk(List({Action("a", 33), Action("b", 33), Action("c", -5)}), 2), QStringLiteral("16 a, 32 b, 32 c"));
 }
@@ -52,7 +52,7 @@ TEST(RecordWalk, RepeatsAListWithPauses) {
 }
 
 // The first part runs at 2 x 3: 60 / 6 = 10, its gap 120 / 6 = 20. The second at 3: 30 / 3 = 10. The whole list again
-// after 90 / 3 = 30; the second part's own gap is never waited for.
+// after 90 / 3 = 30; the second part's own gap is never used.
 TEST(RecordWalk, MultipliesSpeedsDownTheLevels) {
   const RecordPart root =
       Merged({List({Action("a", 60)}, Control(1, 0, 2, 120)), List({Action("b", 30)}, Control(1, 0, 1, 99))},

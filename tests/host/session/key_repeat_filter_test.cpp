@@ -10,7 +10,7 @@
 namespace tavi {
 namespace {
 
-// Events read as "down 30" or "up 30", "again" behind a repeat.
+// Events as text: "down 30" or "up 30", with "again" for a repeat.
 class KeyRepeats : public testing::Test {
  protected:
   KeyRepeats() : clock_(InstallClock()), application_(argument_count_, arguments_) {}

@@ -1,4 +1,4 @@
-// A keymap file as the window reads it: once, and told when it changes or goes.
+// A keymap file as the window reads it: once, with signals when it changes or is deleted.
 #include "host/session/keymap_source.h"
 
 #include <gtest/gtest.h>

@@ -98,7 +98,7 @@ TEST(Script, SeparatesByLinesAndSemicolonsAndSkipsComments) {
 TEST(Script, TellsEveryErrorWithItsPlace) {
   EXPECT_EQ(
       "1:1: unknown command \"jump\"\n"
-      "2:9: \"Spac\" is no key of a keyboard; did you mean \"Space\"?\n"
+      "2:9: \"Spac\" is not a key of a keyboard; did you mean \"Space\"?\n"
       "3:1: expected a whole number, found \"soon\"",
       ErrorsOf("jump\ndown W; down Spac\nwait soon"));
 }
@@ -108,8 +108,8 @@ TEST(Script, RefusesWhatItDoesNotUnderstand) {
     const char* text;
     const char* message;
   } rows[] = {
-      {"down", "\"\" is no key of a keyboard"},
-      {"down Mouse Left", "\"Mouse Left\" is no key of a keyboard"},
+      {"down", "\"\" is not a key of a keyboard"},
+      {"down Mouse Left", "\"Mouse Left\" is not a key of a keyboard"},
       {"wait -1", "a time in milliseconds is not negative"},
       {"wait", "expected a whole number, found \"\""},
       {"wait 5 6", "unexpected \"6\""},

@@ -1,4 +1,5 @@
-// Virtual time, seen by plain Qt objects: when timers fire, in which order, and what is delivered before them.
+// Virtual time from the point of view of plain Qt objects: when timers fire, in which order, and what is delivered
+// before them.
 #include "host/simulation/virtual_event_dispatcher.h"
 
 #include <functional>
@@ -89,7 +90,7 @@ TEST_F(Timers, DueTogetherFireInOrderOfTheirStart) {
 }
 
 TEST_F(Timers, ATimeoutCountsAsAStart) {
-  // At 20 ms the 10 ms timer was last put in line at 10 ms, the other one at 0 ms.
+  // At 20 ms the 10 ms timer was last started at 10 ms, the other one at 0 ms.
   const auto a = Start("a", 10);
   const auto b = Start("b", 20);
   time_->Advance(20);
@@ -178,7 +179,7 @@ TEST_F(Timers, OfPlainObjectsServeToo) {
 }
 
 TEST_F(Timers, AfterALateTimeoutTheDueTimeMovesOnByTheInterval) {
-  // Due at 10, held up to 15: the next is due at 20, not at 25.
+  // Due at 10, delayed to 15: the next is due at 20, not at 25.
   const auto sleeper = Start("sleeper", 5, [this] { time_->Sleep(10); });
   sleeper->setSingleShot(true);
   const auto timer = Start("a", 10);
@@ -187,7 +188,7 @@ TEST_F(Timers, AfterALateTimeoutTheDueTimeMovesOnByTheInterval) {
 }
 
 TEST_F(Timers, OneWhoseNextDueTimeIsNowFiresAgainAtOnce) {
-  // Due at 10, held up to 20. The next due time, 20, is not past.
+  // Due at 10, delayed to 20. The next due time, 20, is not in the past.
   const auto sleeper = Start("sleeper", 5, [this] { time_->Sleep(15); });
   sleeper->setSingleShot(true);
   const auto timer = Start("a", 10);
@@ -196,7 +197,7 @@ TEST_F(Timers, OneWhoseNextDueTimeIsNowFiresAgainAtOnce) {
 }
 
 TEST_F(Timers, MissedTimeoutsAreNotMadeUpFor) {
-  // Due at 10, held up to 36: 20 is past, so that the next is one interval from 36.
+  // Due at 10, delayed to 36: 20 is in the past, so the next is one interval from 36.
   const auto sleeper = Start("sleeper", 5, [this] { time_->Sleep(31); });
   sleeper->setSingleShot(true);
   const auto timer = Start("a", 10);
@@ -205,9 +206,9 @@ TEST_F(Timers, MissedTimeoutsAreNotMadeUpFor) {
 }
 
 TEST_F(Timers, HeldUpOnesFireInOrderOfDueTime) {
-  // At 8 ms the sleeper, in line since 0 ms, comes before the 4 ms timer, in line since 4 ms. That one is of the same
+  // At 8 ms the sleeper, started at 0 ms, comes before the 4 ms timer, started at 4 ms. The latter belongs to the same
   // pass and fires at 28 ms, next due at 12. The pass of 28 ms fires the 11 ms timer, due since 11, and the 4 ms timer
-  // again; their next due times, 22 and 16, are past and become 39 and 32.
+  // again; their next due times, 22 and 16, are in the past and become 39 and 32.
   const auto fast = Start("fast", 4);
   const auto sleeper = Start("sleeper", 8, [this] { time_->Sleep(20); });
   sleeper->setSingleShot(true);
@@ -217,7 +218,7 @@ TEST_F(Timers, HeldUpOnesFireInOrderOfDueTime) {
 }
 
 TEST_F(Timers, AStepThatASleepOverrunsLeavesTheRestToTheNext) {
-  // The step ends at 10. What was due by then fires, at 30; what fell due at 12 waits for the next step.
+  // The step ends at 10. What was due by then fires, at 30; what was due at 12 waits for the next step.
   const auto sleeper = Start("sleeper", 5, [this] { time_->Sleep(25); });
   sleeper->setSingleShot(true);
   const auto in_time = Start("in time", 10);
@@ -246,8 +247,8 @@ TEST_F(IdleTimers, ShareThePassOfOneMillisecond) {
 }
 
 TEST_F(IdleTimers, FireOnceMoreInAPassThatOthersMake) {
-  // The idle timer is due since its last timeout. The pass at 2 ms, with the other timer, takes no time, so that one of
-  // the idle timer alone follows at 2 ms; the one at 4 ms is the next step's.
+  // The idle timer is due since its last timeout. The pass at 2 ms, with the other timer, takes no time, so a pass with
+  // only the idle timer follows at 2 ms; the one at 4 ms belongs to the next step.
   const auto idle = Start("idle", 0);
   const auto timer = Start("timer", 2);
   time_->Advance(4);
@@ -286,7 +287,7 @@ TEST_F(IdleTimers, ThatStopThemselvesEndTheirCost) {
 }
 
 TEST_F(Delivery, ComesBeforeEachTimerUntilNothingIsLeft) {
-  // The first handler posts a call that posts another: both come before the second timer of the same moment.
+  // The first handler posts a call that posts another: both are delivered before the second timer of the same moment.
   const auto a = Start("a", 10, [this] {
     Post([this] {
       Log("posted");
@@ -326,7 +327,7 @@ TEST_F(Delivery, IncludesDeferredDeletes) {
   time_->Settle();
   EXPECT_TRUE(from_outside.isNull());
 
-  // From a handler: gone before the next timer of the same moment.
+  // From a handler: deleted before the next timer of the same moment.
   QPointer<QObject> from_handler = new QObject;
   const auto a = Start("a", 10, [&from_handler] {
     if (from_handler) from_handler->deleteLater();

@@ -1,4 +1,4 @@
-// Virtual time while somebody blocks: sleeping handlers, event loops inside of others, other threads, windows.
+// Virtual time while code blocks: sleeping handlers, nested event loops, other threads, windows.
 #include <gtest/gtest.h>
 #include <memory>
 #include <thread>
@@ -21,8 +21,8 @@ namespace tavi {
 
 namespace {
 
-// What other threads post to, by name: a function object that crosses threads inside Qt looks like a race to
-// ThreadSanitizer, which does not see Qt's own locks.
+// The target of other threads' posts, invoked by name: a function object that crosses threads inside Qt looks like a
+// race to ThreadSanitizer, which does not see Qt's own locks.
 class Mailbox : public QObject {
   Q_OBJECT
 
@@ -52,7 +52,7 @@ TEST_F(BlockingSleep, FiresTheWorkersTimersOnly) {
   time_->Sleep(25);
   EXPECT_EQ(TakeLog(), "10ms worker, 20ms worker");
   EXPECT_EQ(Now(), 25);
-  // The other one was due at 10 and at 20; 20 is past at 25.
+  // The other one was due at 10 and at 20; 20 is in the past at 25.
   time_->Advance(10);
   EXPECT_EQ(TakeLog(), "25ms main, 30ms worker, 35ms main");
 }
@@ -95,7 +95,7 @@ TEST_F(BlockingSleep, OfNothingFiresNothing) {
 }
 
 TEST_F(BlockingSleep, InsideAWorkersHandlerLeavesThatTimerAlone) {
-  // A timer does not fire inside its own handler. At 30 its due time was 20 and then, past, 40.
+  // A timer does not fire inside its own handler. At 30 its due time was 20 and then, being in the past, 40.
   const auto worker = StartWorker("worker", 10, [this] { time_->Sleep(20); });
   worker->setSingleShot(false);
   time_->Advance(10);
@@ -183,7 +183,7 @@ TEST_F(OtherThreads, WakeALoopThatHasNothingToDo) {
 }
 
 TEST_F(OtherThreads, MayEndALoopDirectly) {
-  // Often, since the end may come at any point of the loop's way to its rest.
+  // Many times, because the end may come at any point of the loop's way to its wait.
   for (int i = 0; i < 200; ++i) {
     QEventLoop loop;
     QSemaphore entered;

@@ -1,4 +1,4 @@
-// An application on virtual time, and a log of what happens in it with its times.
+// An application on virtual time, and a log of its events with their times.
 #ifndef TESTS_HOST_SIMULATION_VIRTUAL_TIME_FIXTURE_H_
 #define TESTS_HOST_SIMULATION_VIRTUAL_TIME_FIXTURE_H_
 
@@ -26,7 +26,7 @@ class VirtualTimeFixture : public testing::Test {
   void Log(const QString& what) { log_ += QStringLiteral("%1ms %2").arg(Now()).arg(what); }
   std::string TakeLog() { return std::exchange(log_, {}).join(QStringLiteral(", ")).toStdString(); }
 
-  // A running timer that writes `name` at each timeout and then does `then`.
+  // A running timer that logs `name` at each timeout and then calls `then`.
   std::unique_ptr<QTimer> Start(
       const QString& name, int interval_ms, std::function<void()> then = [] {}) {
     auto timer = std::make_unique<QTimer>();
@@ -47,7 +47,7 @@ class VirtualTimeFixture : public testing::Test {
     QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(function), Qt::QueuedConnection);
   }
 
-  VirtualEventDispatcher* time_;  // the application's
+  VirtualEventDispatcher* time_;  // owned by the application
   int argument_count_ = 1;
   char program_name_[13] = "virtual_time";
   char* arguments_[2] = {program_name_, nullptr};

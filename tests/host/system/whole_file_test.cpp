@@ -1,4 +1,4 @@
-// Files that are made whole or not at all.
+// Files that are written completely or not at all.
 #include "host/system/whole_file.h"
 
 #include <atomic>
@@ -67,7 +67,7 @@ TEST_F(WholeFileTest, IsGoneWhenItIsNot) {
   EXPECT_EQ(FilesIn(folder_.path()), QStringList());
 }
 
-// The work is interrupted in its middle, by Ctrl+C or by being told to end.
+// The work is interrupted, by Ctrl+C or by a termination signal.
 TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
   Fill(Path("day.json"), "before");
   for (const int signal : {SIGINT, SIGTERM}) {
@@ -83,7 +83,7 @@ TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
   }
 }
 
-// A job in the background of a script is started so.
+// This is how a script starts a background job.
 TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
   const auto work = [&] {
     std::signal(SIGINT, SIG_IGN);
@@ -96,7 +96,7 @@ TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
 }
 
-// Between two pieces of work nothing is cleaned up, and Ctrl+C ends the program all the same.
+// Between two tasks nothing is cleaned up, and Ctrl+C ends the program all the same.
 TEST_F(WholeFileTest, WhatIsKeptStaysWhenTheProgramIsInterruptedLater) {
   const auto work = [&] {
     {
@@ -163,7 +163,7 @@ TEST_F(WholeFileTest, ALinkGoesOnToPointAtItsFile) {
   EXPECT_TRUE(QFileInfo(Path("links/day.json")).isSymLink());
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
 
-  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that is not there yet
+  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that does not exist yet
   EXPECT_EQ(WriteWholeFile(Path("links/new.json"), "new"), QString());
   EXPECT_EQ(ContentOf(Path("new.json")), QByteArray("new"));
   EXPECT_EQ(FilesIn(Path("links")), (QStringList{"day.json", "new.json"}));
@@ -177,7 +177,7 @@ TEST_F(WholeFileTest, AFileStaysItsOwners) {
   EXPECT_EQ(QFileInfo(Path("day.json")).ownerId(), kNobody);
 }
 
-// The file may be written, its folder takes no new ones.
+// The file may be written, but its folder accepts no new ones.
 TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
   if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
   Fill(Path("day.json"), "a long day before");
@@ -193,7 +193,7 @@ TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
 }
 
-// What is written over is not touched before there is room for the whole.
+// An existing file is not changed before there is space for all of the content.
 TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
   Fill(Path("day.json"), "before");
   QFile file(Path("day.json"));
@@ -204,7 +204,7 @@ TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
   EXPECT_EQ(ReserveRoom(&file, 100), QString());
 }
 
-// A program with a window ends by itself, after it has saved what there is.
+// A program with a window ends by itself, after it has saved its data.
 TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
   const auto work = [&] {
     static std::atomic<int> taken{0};
@@ -217,7 +217,7 @@ TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
   EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGTERM), "");
 }
 
-// Standard error of a test is no terminal.
+// A test's standard error is not a terminal.
 TEST(ProgressLineTest, NothingIsToldWhereNobodyReads) {
   testing::internal::CaptureStderr();
   { const ProgressLine progress("reading day.json"); }
@@ -226,14 +226,14 @@ TEST(ProgressLineTest, NothingIsToldWhereNobodyReads) {
 
 class WholeRecords : public Program {};
 
-// The library says that all is well then.
+// The library reports success then.
 TEST_F(WholeRecords, AFullDiskLeavesTheRecordThatWasThere) {
   Write("tap.json", kRecord);
   Write("day.json", "before");
   const FileSizeLimit full(100);
   const Outcome outcome = Run({"record", "merge", "-o", "day.json", "tap.json"});
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it came out short"))
+  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it was truncated"))
       << outcome.errors.toStdString();
   EXPECT_EQ(Content("day.json"), QByteArray("before"));
   EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));

@@ -15,7 +15,7 @@ const struct {
     {"an X server of its own", "xcb", "x11", "", WindowSystem::kOther},
     {"no session at all", "xcb", "", "", WindowSystem::kOther},
     {"X11 in a session of Wayland", "xcb", "wayland", "wayland-0", WindowSystem::kXWayland},
-    {"a session that tells no type", "xcb", "", "wayland-0", WindowSystem::kXWayland},
+    {"a session without a type", "xcb", "", "wayland-0", WindowSystem::kXWayland},
     {"Wayland", "wayland", "wayland", "wayland-0", WindowSystem::kWayland},
     {"Wayland by EGL", "wayland-egl", "", "", WindowSystem::kWayland},
     {"no window system", "offscreen", "wayland", "wayland-0", WindowSystem::kOther},

@@ -1,4 +1,4 @@
-// The way to a phone, as far as it goes without one: a script plays adb and the phone behind it.
+// The path to a phone, as far as it can be tested without one: a script acts as adb and the phone.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -30,7 +30,7 @@ class Adb : public testing::Test {
   }
   ~Adb() override { targets_.Close(); }
 
-  // The guest's program of this machine, for the phone to run.
+  // This machine's guest program, for the phone to run.
   void PushGuest() {
     QFile program(folder_.filePath("tavi-guest"));
     ASSERT_TRUE(program.open(QIODevice::WriteOnly));
@@ -73,10 +73,10 @@ TEST_F(Adb, AGuestOnThePhoneGetsTheLinesOnItsStandardInput) {
   Reach(target);
   Send("1:SLOTPRESS:11:11:1:1:2000:533");
   ASSERT_TRUE(RunEventsUntil([&] { return messages_.contains(target + ": screen EV_SYN SYN_REPORT 0"); }));
-  targets_.Close();  // the finger is down still
+  targets_.Close();  // the finger is still down
   QStringList said = messages_.mid(messages_.indexOf(target + ": ready") + 1);
   said.replaceInStrings(target + ": ", QString());
-  // The nearest place of a surface of that size, and the lift.
+  // The nearest position on a surface of that size, and the release.
   const QStringList expected{"screen EV_ABS ABS_MT_SLOT 11",
                              "screen EV_ABS ABS_MT_TRACKING_ID 11",
                              "screen EV_ABS ABS_MT_POSITION_X 1079",

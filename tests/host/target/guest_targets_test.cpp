@@ -1,4 +1,4 @@
-// Lines on their way to real commands, sockets and ports.
+// Lines for real commands, sockets and ports.
 #include "host/target/guest_targets.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ class GuestTargetsTest : public testing::Test {
   }
 
   void Send(const QByteArray& line) { targets_.Send((line + '\n').constData(), line.size() + 1); }
-  // The NUL behind the text counts.
+  // The NUL after the text counts.
   void SendText(const QByteArray& text) { targets_.Send(text.constData(), text.size() + 1); }
 
  private:
@@ -79,7 +79,7 @@ class SocketGuest {
  public:
   explicit SocketGuest(const QString& path) { EXPECT_TRUE(server_.listen(path)); }
 
-  // Whether these bytes, and no others, came on the connection of now.
+  // Whether these bytes, and no others, came on the current connection.
   bool Gets(const QByteArray& bytes) {
     const bool is_there = RunEventsUntil([&] {
       Read();
@@ -111,11 +111,11 @@ class SocketGuest {
   }
 
   QLocalServer server_;
-  QLocalSocket* socket_ = nullptr;  // the server's
+  QLocalSocket* socket_ = nullptr;  // owned by the server
   QByteArray got_;
 };
 
-// A socket that has room for connections, and reads nothing until it is told to.
+// A socket that accepts connections, and reads nothing until it is told to.
 class SilentGuest {
  public:
   explicit SilentGuest(const QString& path) : file_(socket(AF_UNIX, SOCK_STREAM, 0)) {
@@ -166,7 +166,7 @@ TEST_F(GuestTargetsTest, LinesOfAnotherThreadKeepTheirPlace) {
     }
   });
   replay.join();
-  Send("1:SLOTRELEASE:18");  // waits behind them, though it could leave at once
+  Send("1:SLOTRELEASE:18");  // waits after them, though it could be sent at once
   EXPECT_TRUE(guest.Gets(expected + "1:SLOTRELEASE:18\n"));
 }
 
@@ -221,8 +221,8 @@ TEST_F(GuestTargetsTest, ATargetThatDiesInAGestureGetsNoneOfItsRest) {
   Send("1:SLOTPRESS:11:11:1:1:100:100");
   guest.Hang();
   ASSERT_TRUE(Becomes(State::kEnded));
-  EXPECT_TRUE(IsTold("No lines go to unix:" + Path("guest") + ": it went away"));
-  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it went away"));
+  EXPECT_TRUE(IsTold("No lines go to unix:" + Path("guest") + ": it disconnected"));
+  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it disconnected"));
   Send("1:SLOTPRESS:11:11:1:1:110:100");
   Send("1:SLOTPRESS:12:12:1:1:500:500");
   targets_.TryAgain(0);
@@ -231,7 +231,7 @@ TEST_F(GuestTargetsTest, ATargetThatDiesInAGestureGetsNoneOfItsRest) {
   Send("1:SLOTPRESS:12:12:1:1:510:500");
   Send("1:SLOTRELEASE:11");
   Send("1:SLOTPRESS:11:11:1:1:100:100");
-  // First the lift of all that it ever had down: who knows what was lost with the connection.
+  // First the release of everything that was ever down: nobody knows what was lost with the connection.
   EXPECT_TRUE(guest.Gets("1:SLOTRELEASE:11\n1:KBDRL:17:0\n1:SLOTRELEASE:11\n1:SLOTPRESS:11:11:1:1:100:100\n"));
 }
 
@@ -267,7 +267,7 @@ TEST_F(GuestTargetsTest, ATargetThatRefusesIsToldOfAndKeepsNobodyWaiting) {
   EXPECT_TRUE(other.Gets("1:SLOTRELEASEALL\n"));
 }
 
-// A name may lead elsewhere than it says, and so may an address that this machine has in its network.
+// A name may resolve to another machine, and so may an address that belongs to this machine's network.
 TEST_F(GuestTargetsTest, WhatAnswersOnAnotherMachineGetsNothingUnlessThatIsAllowed) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::AnyIPv4));
@@ -295,11 +295,11 @@ TEST_F(GuestTargetsTest, ATargetThatReadsNothingIsPassedByAndComesBackWithNothin
     most = qMax(most, targets_.StatusOf(0).waiting_bytes);
   }
   ASSERT_EQ(StateOf(), State::kLagging);
-  // Full to the last line, and one line that the socket holds.
+  // A queue that is full to the last line, and one line in the socket.
   EXPECT_GT(most, GuestTargets::kMostWaitingBytes - 2 * move.size());
   EXPECT_LE(most, GuestTargets::kMostWaitingBytes + 2 * move.size());
-  EXPECT_LE(targets_.StatusOf(0).waiting_bytes, 100);  // the rest of a line, and the lift
-  EXPECT_TRUE(IsTold("unix:" + Path("guest") + " takes too little: lines pass it by until it has caught up"));
+  EXPECT_LE(targets_.StatusOf(0).waiting_bytes, 100);  // the rest of a line, and the release
+  EXPECT_TRUE(IsTold("unix:" + Path("guest") + " reads too slowly: lines are dropped until it has caught up"));
 
   Send("1:SLOTRELEASE:2");
   Send("1:SLOTPRESS:3:3:1:1:5:5");
@@ -314,7 +314,7 @@ TEST_F(GuestTargetsTest, ATargetThatReadsNothingIsPassedByAndComesBackWithNothin
   Send("1:KBDPR:30:1");
   ASSERT_TRUE(RunEventsUntil([&] { return guest.Lines().contains("1:KBDPR:30:1"); }));
   QList<QByteArray> lines = guest.Lines();
-  while (!lines.isEmpty() && lines.first() == move) lines.removeFirst();  // whole ones, as far as they were taken
+  while (!lines.isEmpty() && lines.first() == move) lines.removeFirst();  // whole ones, as far as they were read
   EXPECT_EQ(lines, (QList<QByteArray>{"1:SLOTRELEASE:2", "1:SLOTRELEASE:3", "1:KBDPR:30:1", ""}));
 }
 
@@ -388,10 +388,10 @@ TEST_F(GuestTargetsTest, ACommandThatCannotBeFoundIsToldOf) {
 TEST_F(GuestTargetsTest, ACommandThatShutsItsInputIsNotWrittenToAnyMore) {
   Reach("exec:exec <&-; sleep 1000");
   ASSERT_TRUE(Becomes(State::kEnded));
-  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it took no more lines"));
+  EXPECT_EQ(targets_.StatusOf(0).reason, QString("it stopped reading lines"));
 }
 
-// Ctrl+C reaches every program of the terminal; the last lines are still to come then.
+// Ctrl+C reaches every program of the terminal; the last lines are sent afterwards.
 TEST_F(GuestTargetsTest, ACommandOutlivesWhatInterruptsThisProgram) {
   Reach("exec:kill -INT $$; kill -HUP $$; kill -QUIT $$; cat > '" + Path("lines") + "'");
   Send("1:KBDPR:17:1");

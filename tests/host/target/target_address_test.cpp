@@ -46,8 +46,8 @@ TEST(TargetAddress, IsToldWhatIsWrongWithIt) {
   } rows[] = {
       {"", "a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"\""},
       {"uinput:1", "a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"uinput:1\""},
-      {"exec: ", "a command is missing behind exec:"},
-      {"unix:", "a path is missing behind unix:"},
+      {"exec: ", "exec: needs a command"},
+      {"unix:", "unix: needs a path"},
       {"tcp:", "tcp: needs HOST:PORT such as localhost:7000, not \"\""},
       {"tcp:7000", "tcp: needs HOST:PORT such as localhost:7000, not \"7000\""},
       {"tcp:localhost:", "tcp: needs HOST:PORT such as localhost:7000, not \"localhost:\""},
@@ -81,11 +81,11 @@ TEST(TargetStatus, IsToldInWords) {
       {{"", State::kOff, {}, 0, 0, 0}, "off"},
       {{"", State::kConnecting, {}, 0, 0, 0}, "connecting"},
       {{"", State::kConnected, {}, 0, 0, 0}, "connected, 0 lines/s"},
-      {{"", State::kConnected, {}, 0, 1, 1023}, "connected, 1 line/s, 1023 bytes wait"},
-      {{"", State::kConnected, {}, 0, 60, 2048}, "connected, 60 lines/s, 2 kB wait"},
-      {{"", State::kLagging, {}, 0, 0, 30}, "takes too little: lines pass it by while 30 bytes wait"},
+      {{"", State::kConnected, {}, 0, 1, 1023}, "connected, 1 line/s, 1023 bytes queued"},
+      {{"", State::kConnected, {}, 0, 60, 2048}, "connected, 60 lines/s, 2 kB queued"},
+      {{"", State::kLagging, {}, 0, 0, 30}, "reads too slowly: lines are dropped while 30 bytes are queued"},
       {{"", State::kFailed, "nobody listens there", 1000, 0, 0}, "nobody listens there; next try in 1 s"},
-      {{"", State::kEnded, "it went away", 1001, 0, 0}, "it went away; next try in 2 s"},
+      {{"", State::kEnded, "it disconnected", 1001, 0, 0}, "it disconnected; next try in 2 s"},
   };
   for (const auto& row : rows) EXPECT_EQ(DescribeStatus(row.status), QString(row.text));
 }

@@ -1,4 +1,4 @@
-// What a target makes sense of that came late, or that lost what was under way.
+// Which lines make sense to a target that connected late, or that missed part of a gesture.
 #include "host/target/target_gestures.h"
 
 #include <gtest/gtest.h>
@@ -8,14 +8,14 @@ namespace {
 
 class Gestures : public testing::Test {
  protected:
-  // The host sends a line that the target is there for; gives what it is told, without the end.
+  // The host sends a line while the target is connected; returns the line for the target, without its end.
   QByteArray Hear(const char* line) {
     const OutgoingLine sent = Sent(line);
     const QByteArray told = target_.Tell(sent, host_);
     host_.Take(sent.display, sent.line);
     return told.trimmed();
   }
-  // The host sends a line while the target is away.
+  // The host sends a line while the target is disconnected.
   void Miss(const char* line) {
     const OutgoingLine sent = Sent(line);
     host_.Take(sent.display, sent.line);
@@ -37,7 +37,7 @@ class Gestures : public testing::Test {
 TEST_F(Gestures, ThatBeganBeforeItCameAreNotContinued) {
   Miss("1:SLOTPRESS:2:2:1:1:230:518");
   EXPECT_EQ(Hear("1:SLOTPRESS:2:2:1:1:230:489"), "");
-  EXPECT_EQ(Hear("2:SLOTPRESS:2:2:1:1:5:5"), "2:SLOTPRESS:2:2:1:1:5:5");  // another finger, of another display
+  EXPECT_EQ(Hear("2:SLOTPRESS:2:2:1:1:5:5"), "2:SLOTPRESS:2:2:1:1:5:5");  // another finger, on another display
   EXPECT_EQ(Hear("1:SLOTRELEASE:2"), "1:SLOTRELEASE:2");
   EXPECT_EQ(Hear("1:SLOTPRESS:2:2:1:1:230:518"), "1:SLOTPRESS:2:2:1:1:230:518");
   EXPECT_EQ(Hear("1:SLOTPRESS:2:2:1:1:230:489"), "1:SLOTPRESS:2:2:1:1:230:489");
@@ -86,10 +86,10 @@ TEST_F(Gestures, AreLiftedAsFarAsTheyAreDown) {
             "1:SLOTRELEASE:2 1:KBDRL:17:0 1:GPDBUTTON:304:0 1:LSTICKAXIS:0:0 1:LTRIGGERAXIS:0 1:HATX:0 "
             "1:TOUCHPADRELEASE 2:KBDRL:30:0");
   EXPECT_EQ(Joined(target_.Lift()), "");
-  EXPECT_EQ(Hear("1:SLOTPRESS:2:2:1:1:230:489"), "");  // the host holds it still
+  EXPECT_EQ(Hear("1:SLOTPRESS:2:2:1:1:230:489"), "");  // the host still holds it
 }
 
-// A release may be among what was lost on the way.
+// A release may be among the lost lines.
 TEST_F(Gestures, AreLiftedOneAndAllWhereNobodyKnowsWhatWasLost) {
   for (const char* line : {"1:SLOTPRESS:11:11:1:1:5:5", "1:SLOTRELEASE:11", "1:KBDPR:17:1", "1:KBDRL:17:0",
                            "1:RSTICKAXIS:1:0", "1:RSTICKAXIS:0:0"}) {

@@ -49,7 +49,7 @@ TEST(ContactTrails, WhereAFingerRestsIsKeptForGood) {
   ContactTrails trails;
   trails.Update(At(10), 0);
   trails.Update(At(20), 5);
-  EXPECT_TRUE(trails.Prune(kFade));       // the point of 0 ms is just not too old
+  EXPECT_TRUE(trails.Prune(kFade));       // the point of 0 ms is just recent enough
   EXPECT_FALSE(trails.Prune(kFade * 9));  // nothing left to fade
   ASSERT_EQ(trails.Down()[2].points.size(), 1);
   EXPECT_EQ(trails.Down()[2].points[0].point, QPoint(20, 0));

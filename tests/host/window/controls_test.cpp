@@ -1,4 +1,4 @@
-// The window without a mouse: every control has a name, and the keys find the way to each and back to the guest.
+// The window without a mouse: every control has a name, and keys reach each control and return to the guest.
 #include <atomic>
 #include <functional>
 #include <memory>
@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QThread>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -68,7 +67,7 @@ std::string Told(const QObject* object) {
       .toStdString();
 }
 
-// Those that a person can use at the moment.
+// The controls that a user can currently use.
 QVector<QWidget*> InteractiveWidgetsOf(const QWidget* window) {
   QVector<QWidget*> found;
   for (QWidget* widget : window->findChildren<QWidget*>()) {
@@ -93,12 +92,12 @@ void ExpectNamesInMenu(const QMenu* menu) {
 class Controls : public WindowFixture {
  protected:
   Controls() {
-    Window()->resize(1800, 1100);  // all bars and docks have room
+    Window()->resize(1800, 1100);  // there is room for all bars and docks
     Window()->activateWindow();
     clock_->Settle();
   }
 
-  // To whatever has the keys, and all the way up from there.
+  // To the focused widget, and all its parents.
   void Type(int key, int linux_code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
       QKeyEvent event(type, key, modifiers, static_cast<quint32>(linux_code + 8), 0, 0);
@@ -111,7 +110,7 @@ class Controls : public WindowFixture {
   void TypeControlsKey() { Type(Qt::Key_Return, kEnter, Qt::ControlModifier | Qt::AltModifier); }
   void TypeEscape() { Type(Qt::Key_Escape, kEscape); }
   void TypeTab(bool back = false) { back ? Type(Qt::Key_Backtab, 15, Qt::ShiftModifier) : Type(Qt::Key_Tab, 15); }
-  // All that Tab comes by until it is where it began.
+  // All controls that Tab visits until it is back at the start.
   QVector<QWidget*> WalkFrom(QWidget* first, bool back = false) {
     QVector<QWidget*> walked;
     first->setFocus(Qt::TabFocusReason);
@@ -129,7 +128,7 @@ class Controls : public WindowFixture {
     EXPECT_FALSE(walked.contains(View()));
     EXPECT_FALSE(walked.contains(Window()->Editor()->Layer()));
     for (QWidget* widget : InteractiveWidgetsOf(Window())) {
-      if (widget == View() || widget == Window()->Editor()->Layer()) continue;  // which have all keys
+      if (widget == View() || widget == Window()->Editor()->Layer()) continue;  // which get all keys
       EXPECT_TRUE(walked.contains(widget)) << Told(widget) << ' ' << NameOf(widget).toStdString();
     }
   }
@@ -193,17 +192,15 @@ TEST_F(Controls, WhatIsNoControlButToldHasANameToo) {
 
 class Dialogs : public Controls {
  protected:
-  // A person uses the dialog that `show` opens, and closes it.
+  // A user works with the dialog that `show` opens, and closes it.
   void Use(const std::function<void()>& show, const std::function<void(QWidget* dialog)>& use) {
     bool is_seen = false;
-    QTimer::singleShot(0, Window(), [&] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
+    UseDialog([&](QWidget* dialog) {
       is_seen = true;
       ExpectNames(dialog);
       use(dialog);
       TypeControlsKey();
-      EXPECT_EQ(QApplication::focusWidget()->window(), dialog);  // it keeps the keys
+      EXPECT_EQ(QApplication::focusWidget()->window(), dialog);  // it keeps the focus
       dialog->close();
     });
     show();
@@ -228,7 +225,7 @@ TEST_F(Dialogs, AQuestion) {
       [this](const QWidget* dialog) { ExpectAllAreWalkedIn(dialog); });
 }
 
-// How Tab goes through it is Qt's, or the desktop's.
+// Qt or the desktop decides how Tab moves in it.
 TEST_F(Dialogs, EnterLosesNothing) {
   Use(
       [this] {
@@ -250,7 +247,7 @@ TEST_F(Dialogs, TheNameOfAFile) {
       [](const QWidget* /*dialog*/) {});
 }
 
-// Whoever has saved nothing yet begins where the program was started.
+// If nothing was saved yet, dialogs start in the folder where the program was started.
 TEST_F(Dialogs, ANameThatNothingIsProposedFor) {
   Use(
       [this] {
@@ -265,7 +262,7 @@ TEST_F(Dialogs, AFileToOpen) {
 }
 
 TEST_F(Dialogs, SomethingThatTakesItsTime) {
-  const auto may_end = std::make_shared<std::atomic<bool>>(false);  // the work outlives what waits for it
+  const auto may_end = std::make_shared<std::atomic<bool>>(false);  // the work outlives the code that waits for it
   Use(
       [&] {
         DoLongWork(Window(), QStringLiteral("Reading"), [may_end] {
@@ -298,7 +295,7 @@ TEST_F(Controls, AMessageIsReadAsAWholeInANarrowWindow) {
   }
 }
 
-// A player walks and clicks at Open…: the key that is still down is no part of a file's name.
+// A player walks and clicks Open…: the key that is still down must not become part of a file name.
 TEST_F(Controls, AKeyThatIsHeldOverTheGuestRepeatsNowhereElse) {
   View()->setFocus();
   Press(kW);
@@ -314,7 +311,7 @@ TEST_F(Controls, AKeyThatIsHeldOverTheGuestRepeatsNowhereElse) {
   type(QEvent::KeyPress, true);
   EXPECT_EQ(field.text(), QString());
   type(QEvent::KeyRelease, false);
-  type(QEvent::KeyPress, false);  // pressed anew, it types and repeats
+  type(QEvent::KeyPress, false);  // pressed again, it types and repeats
   type(QEvent::KeyPress, true);
   EXPECT_EQ(field.text(), "ww");
 }
@@ -336,7 +333,7 @@ TEST_F(Controls, WhatIsDownIsLiftedAndTheKeyIsNobodysElse) {
   EXPECT_TRUE(Guest().held_keys.isEmpty());
 }
 
-// A rim in the colour of what is lit, in buttons and around lists.
+// A frame in the highlight colour, around buttons and lists.
 TEST_F(Controls, OneSeesWhichHasTheKeys) {
   theme::Apply(qApp, theme::Look::kDark);
   Load("");
@@ -387,7 +384,7 @@ TEST_F(Controls, TabWalksTheEditorToo) {
   ExpectAllAreWalked(false);
 }
 
-// Bars as they lie above each other; of a list its fields come next.
+// Bars from top to bottom; a list is followed by its fields.
 TEST_F(Controls, TabGoesAsOneReads) {
   Load(kItems);
   Edit();
@@ -410,7 +407,7 @@ TEST_F(Controls, AClickAtOneLeavesTheKeysWithTheGuest) {
 }
 
 TEST_F(Controls, AFindingIsFollowedByKeys) {
-  Load(kItems);  // two taps of one key: a warning
+  Load(kItems);  // two taps with one key: a warning
   auto* panel = Window()->findChild<DiagnosticsPanel*>();
   ASSERT_TRUE(panel->isVisible());
   QString chosen;
@@ -441,7 +438,7 @@ TEST_F(Controls, TheGuestGetsNothingOfThatEscape) {
   Load("", "settings: {keyboard_transparent: true}");
   TypeControlsKey();
   int lines = 0;
-  QObject counter;  // ends before the window lets go of everything
+  QObject counter;  // ends before the window releases everything
   QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &counter, [&] { ++lines; });
   TypeEscape();
   EXPECT_TRUE(View()->hasFocus());
@@ -461,7 +458,7 @@ TEST_F(Controls, AnEscapeThatEndsAMenuLeadsNowhere) {
   QWidget* look = ButtonOf(Window()->Tools(), "Look");
   look->setFocus(Qt::TabFocusReason);
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier, kEscape + 8, 0, 0);
-  QCoreApplication::sendEvent(look, &release);  // the menu has had the press
+  QCoreApplication::sendEvent(look, &release);  // the menu got the press
   EXPECT_TRUE(look->hasFocus());
 }
 

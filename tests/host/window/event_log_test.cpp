@@ -1,4 +1,4 @@
-// The list of events: what each matched, and what went out because of it.
+// The list of events: what each matched, and the lines that it produced.
 #include "host/window/events/event_log.h"
 
 #include <QClipboard>
@@ -38,7 +38,7 @@ class EventLogTest : public WindowFixture {
   }
 };
 
-// The keymap stands on line 3 of the fixture's file, each further item here on a line of its own.
+// The keymap is on line 3 of the fixture's file; each further item here is on a line of its own.
 TEST_F(EventLogTest, AKeyWithItsItemAndItsLine) {
   Load("{type: Click, label: Jump, key: Space, point: [0.25, 0.75]},\n{type: Click, key: W, point: [0.5, 0.5]}");
   Press(kSpace);
@@ -57,7 +57,7 @@ TEST_F(EventLogTest, AKeyWithItsItemAndItsLine) {
   EXPECT_EQ(Rows(), 3);
 }
 
-// Of two fingers one is lifted by its key, the other by the window that loses the keys.
+// Of two fingers one is lifted by its key, the other when the window loses the focus.
 TEST_F(EventLogTest, AReleaseIsNotCreditedWithWhatTheWindowLifts) {
   Load("{type: Click, label: Jump, key: Space, point: [0.25, 0.75]},\n{type: Click, key: W, point: [0.5, 0.5]}");
   Press(kW);
@@ -68,9 +68,9 @@ TEST_F(EventLogTest, AReleaseIsNotCreditedWithWhatTheWindowLifts) {
   QFocusEvent lost(QEvent::FocusOut);
   Send(&lost);
   EXPECT_EQ(Cell(release, EventLog::kSent), "1:SLOTRELEASE:12");
-  EXPECT_EQ(Last(EventLog::kEvent), "let go");
+  EXPECT_EQ(Last(EventLog::kEvent), "release all");
   EXPECT_EQ(Last(EventLog::kMatch), "the window");
-  // Three gestures lift their fingers, then the sweep those of slots 0 to 17: of 21 lines 12 are listed.
+  // Three gestures lift their fingers, then the sweep lifts slots 0 to 17: of 21 lines 12 are listed.
   EXPECT_TRUE(Last(EventLog::kSent).endsWith("1:SLOTRELEASE:8  and 9 more")) << Last(EventLog::kSent).toStdString();
   EXPECT_TRUE(Slots().isEmpty());
   Window()->Keymaps()->LetGoOfEverything();
@@ -155,7 +155,7 @@ TEST_F(EventLogTest, AKeyForATextFieldAndOneWhileTheMappingIsOff) {
   EXPECT_EQ(Last(EventLog::kSent), "TEXT: ");
   LiveHost::GetInstance()->SetTextField(false);
   Key(QEvent::KeyRelease, kSpace);
-  Press(kF12);  // the window's own: no event of the guest's
+  Press(kF12);  // reserved by the window: not an event of the guest
   Press(kSpace);
   EXPECT_EQ(Last(EventLog::kKey), "Space");
   EXPECT_EQ(Last(EventLog::kMatch), "mapping off");
@@ -219,7 +219,7 @@ TEST_F(EventLogTest, PauseAndClear) {
   EXPECT_EQ(Rows(), 0);
 }
 
-// What is copied is what an item needs: put into a keymap it is read, and answers.
+// The copied text is what an item needs: added to a keymap, it is loaded and works.
 TEST_F(EventLogTest, ARowIsCopiedAsAKeymapHasIt) {
   Load("");
   Press(kW);

@@ -1,4 +1,4 @@
-// What is wrong with a keymap, told in a list and marked where its items are.
+// Diagnostics of a keymap, in a list and as marks at its items.
 #include <QAction>
 #include <QFile>
 #include <QFontMetrics>
@@ -20,7 +20,7 @@
 namespace tavi {
 namespace {
 
-// Two taps on one key: the second will never answer, which is worth a warning.
+// Two taps on one key: the second never has an effect, so there is a warning.
 constexpr char kTwins[] =
     "format: 1\n"
     "items:\n"
@@ -30,7 +30,7 @@ constexpr char kTwins[] =
 
 class Findings : public WindowFixture {
  protected:
-  // Writes the file anew and has it read, as an editor's save does.
+  // Writes the file and has it reloaded, like saving it in an editor.
   void Save(const QByteArray& text) {
     QFile file(folder_.filePath("keymap.yaml"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -42,7 +42,7 @@ class Findings : public WindowFixture {
     return QByteArray(kTwins).replace(before, after);
   }
   FindingMarks* Marks() const { return Window()->findChild<FindingMarks*>(); }
-  // What stands above the view, its links as their targets.
+  // The text above the view, with the targets of its links.
   QString Panel() const {
     QString text;
     for (const auto* panel : Window()->findChildren<DiagnosticsPanel*>()) {
@@ -76,13 +76,13 @@ TEST_F(Findings, AnErrorMarksTheItemOfTheStateBefore) {
   Save(kTwins);
   Save(Replaced("key: W", "key: Spcae"));
   ExpectMarkAt("1", 0.5, 0.5);
-  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+  EXPECT_TRUE(Panel().contains("The version before the change stays in use"));
 }
 
-// Lines were put in above the item with the error, and behind it nothing changed.
+// Lines were inserted above the item with the error, and nothing changed after it.
 TEST_F(Findings, LinesThatMovedStandForThemselves) {
   Save(Replaced("key: E", "key: Spcae"));
-  EXPECT_FALSE(Marks()->isVisible());  // there is no state before
+  EXPECT_FALSE(Marks()->isVisible());  // there is no earlier state
   Save(kTwins);
   Save(Replaced("  - {type: Click, label: One", "# a comment\n# another\n  - {type: Clack, label: One"));
   ExpectMarkAt("1", 0.25, 0.75);
@@ -94,12 +94,13 @@ TEST_F(Findings, LinesThatMovedStandForThemselves) {
   ExpectMarkAt("1", 0.75, 0.25);
 }
 
-// A brace is forgotten in an item that is put behind the others. The reader stops in the line below, or at the end.
+// A closing brace is missing in an item that is added after the others. The reader stops on the line below, or at the
+// end.
 TEST_F(Findings, AnItemThatIsNotInUseYetMarksNoOther) {
   Save(kTwins);
   Save(QByteArray(kTwins) +
        "\n  - {type: Click, key: R, point: [0.1, 0.1]\n  - {type: Click, key: F, point: [0.2, 0.2]}\n");
-  EXPECT_TRUE(Panel().contains("The one before the change stays in use"));
+  EXPECT_TRUE(Panel().contains("The version before the change stays in use"));
   EXPECT_FALSE(Marks()->isVisible());
   Save(kTwins);
   Save(QByteArray(kTwins) + "  - {type: Click, key: R, point: [0.1, 0.1]\n");
@@ -116,7 +117,7 @@ TEST_F(Findings, ALineThatIsPutIntoAnItemMarksIt) {
   ExpectMarkAt("1", 0.25, 0.75);
 }
 
-// Long sentences break where the panel ends, and no bar lies upon a line or beside the only one.
+// Long sentences wrap at the panel's edge, and no scroll bar covers a line or appears beside a single one.
 TEST_F(Findings, AreReadAsAWhole) {
   const auto* panel = Window()->findChildren<DiagnosticsPanel*>().first();
   const auto* scroll = panel->findChild<QScrollArea*>();
@@ -196,15 +197,14 @@ TEST_F(Findings, TheKeymapOfGamepadsHasLabelsOfItsOwn) {
 
 TEST_F(Findings, AKeyOfTheWindowIsOne) {
   Save(Replaced("key: W", "key: F12"));
-  EXPECT_TRUE(
-      Panel().contains("the window keeps F12 for itself, so this item never gets it; --pause-key takes another"))
+  EXPECT_TRUE(Panel().contains("the window keeps F12 for itself, so this item never gets it; --pause-key sets another"))
       << Panel().toStdString();
   ExpectMarkAt("1", 0.5, 0.5);
   Save(Replaced("key: W", "key: F12 + R"));  // as a part of a chord, too
   EXPECT_TRUE(Panel().contains("the window keeps F12 for itself")) << Panel().toStdString();
 }
 
-// Backspace is the window's while Ctrl and Alt are down, so only where a player may come to hold both.
+// Backspace belongs to the window while Ctrl and Alt are down, so it matters only if a player may hold both.
 TEST_F(Findings, AKeyOfTheWindowWithModifiersIsOneWhereTheyAreKeysOfTheKeymap) {
   const struct {
     const char* name;
@@ -234,13 +234,13 @@ TEST_F(Findings, AKeyOfTheWindowWithModifiersTellsWhenItIsTaken) {
   Save(Replaced("key: Space", "key: Left Ctrl").replace("key: W", "key: Backspace").replace("key: E", "key: Left Alt"));
   EXPECT_TRUE(
       Panel().contains("the window keeps Ctrl+Alt+Backspace for itself, so this item does not get its key while "
-                       "Ctrl and Alt of this keymap are down; --panic-key takes another key"))
+                       "Ctrl and Alt of this keymap are down; --panic-key sets another key"))
       << Panel().toStdString();
   ExpectMarkAt("1", 0.5, 0.5);
   EXPECT_FALSE(Panel().contains("href='2'"));
 }
 
-// While one edits a finding comes and goes with each key that is typed.
+// During editing a diagnostic appears and disappears with each key that is typed.
 TEST_F(Findings, AFindingDoesNotMoveTheViewWhileOneEdits) {
   Save(kTwins);
   Window()->Editor()->Switch()->setChecked(true);

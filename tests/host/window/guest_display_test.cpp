@@ -1,4 +1,4 @@
-// The guest's display: turned, of another pixel ratio, with a picture on it.
+// The guest's display: rotated, with another pixel ratio, with a picture.
 #include <QStatusBar>
 
 #include "host/session/guest_geometry.h"
@@ -11,9 +11,9 @@ namespace {
 
 class GuestDisplay : public WindowFixture {
  protected:
-  GuestDisplay() { Load(""); }  // or a hint stands in the middle
+  GuestDisplay() { Load(""); }  // otherwise a hint is shown in the middle
 
-  // Where on the display the only finger is seen.
+  // The position on the display where the only finger is drawn.
   QPointF Seen() const { return LiveHost::GetInstance()->Geometry().FractionOf(Finger()); }
   void ExpectSeenAt(double x, double y, const QString& where) const {
     constexpr double kPixel = 0.006;  // of a view that may be 317 pixels wide
@@ -33,8 +33,8 @@ class GuestDisplay : public WindowFixture {
   }
 };
 
-// A touch surface of 720 x 1280; the display's top left, a place at a quarter of its width and half its height, and its
-// bottom right, each turned by hand.
+// A touch surface of 720 x 1280; the display's top left corner, a point at a quarter of its width and half its height,
+// and its bottom right corner, each rotated by hand.
 TEST(GuestGeometryTest, EachRotationShowsAPlaceWhereItIs) {
   const struct {
     int rotation;
@@ -57,7 +57,7 @@ TEST(GuestGeometryTest, EachRotationShowsAPlaceWhereItIs) {
   }
 }
 
-// The whole way there and back: the player's place, the library's line, the place where the finger is drawn.
+// The complete round trip: the player's position, the library's line, the position where the finger is drawn.
 TEST_F(GuestDisplay, AFingerIsSeenWhereThePlayerPutIt) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   for (const QSize& surface : {QSize(1280, 720), QSize(720, 1280)}) {
@@ -99,8 +99,8 @@ TEST_F(GuestDisplay, AWalkingFingerIsSeenOnItsStick) {
   }
 }
 
-// A walk is planned in pixels of the display, and they are taken for those of the view: where a host counts 1.5 of
-// these for one of those, 0.2 is seen at 0.2 / 1.5. This is what the switch is there to show.
+// A walk is computed in pixels of the display, which are taken for those of the view: if a host reports 1.5 of these
+// for one of those, 0.2 is shown at 0.2 / 1.5. The switch exists to show this.
 TEST_F(GuestDisplay, AWalkIsElsewhereWhereTheHostCountsOtherPixels) {
   Load("{type: Swipehold, point: [0.2, 0.6], radius: 0.1, key_up: W, key_left: A, key_down: S, key_right: D}");
   Window()->Display()->SetPixelRatio(1.5);
@@ -109,7 +109,7 @@ TEST_F(GuestDisplay, AWalkIsElsewhereWhereTheHostCountsOtherPixels) {
   ExpectSeenAt(0.2 / 1.5, (0.6 - 0.1 * 1280 / 720) / 1.5, "ratio 1.5");
 }
 
-// 0.25 of the display's width and 0.75 of its height; a quarter turn: a = 1 - 0.75, b = 0.25 of 720 x 1280.
+// 0.25 of the display's width and 0.75 of its height; rotated by 90 degrees: a = 1 - 0.75, b = 0.25 of 720 x 1280.
 TEST_F(GuestDisplay, LinesAreOfTheSurfaceThatDoesNotTurn) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   Window()->Display()->SetSize(QSize(720, 1280));
@@ -194,7 +194,7 @@ TEST_F(GuestDisplay, APictureOfAnotherShapeKeepsItAndIsTold) {
 TEST_F(GuestDisplay, TheShapeIsComparedAgainWhenTheDisplayTurns) {
   EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("a.png", QSize(1280, 720), Qt::red)), QString());
   Window()->Display()->SetRotation(90);
-  EXPECT_TRUE(Window()->statusBar()->currentMessage().contains("the guest 720 \u00D7 1280"));
+  EXPECT_TRUE(Window()->statusBar()->currentMessage().contains("the guest is 720 \u00D7 1280"));
 }
 
 TEST_F(GuestDisplay, WhatIsNoPictureIsToldAndChangesNothing) {
@@ -212,7 +212,7 @@ TEST_F(GuestDisplay, NoBackgroundAgain) {
   EXPECT_NE(ColorAt(0.5, 0.5), QColor(Qt::red));
 }
 
-// A JPEG may be called anything.
+// A JPEG may have any name.
 TEST_F(GuestDisplay, ThePictureIsKnownByItsContent) {
   QImage image(64, 36, QImage::Format_RGB32);
   image.fill(Qt::green);

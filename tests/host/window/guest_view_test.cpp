@@ -26,7 +26,7 @@ TEST_F(GuestViewTest, KeepsTheShapeOfTheGuest) {
 TEST_F(GuestViewTest, AKeyTapsAtThePointOfItsItem) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   Press(kSpace);
-  EXPECT_EQ(Slots(), QList<int>{11});  // the first of the taps' slots
+  EXPECT_EQ(Slots(), QList<int>{11});  // the first slot for taps
   ExpectNear(Finger(), 320, 540);      // 0.25 * 1280, 0.75 * 720
   Release(kSpace);
   EXPECT_TRUE(Slots().isEmpty());
@@ -61,11 +61,11 @@ TEST_F(GuestViewTest, KeysThatMoveTheFocusAreTheGuestsToo) {
   EXPECT_EQ(Slots().size(), 1);
 }
 
-// Such as that of the Escape that closed a dialog.
+// For example the release of the Escape that closed a dialog.
 TEST_F(GuestViewTest, AReleaseWithoutItsPressIsNotTheGuests) {
   Load("", "settings: {keyboard_transparent: true}");
   int lines = 0;
-  QObject counter;  // ends before the window lets go of everything
+  QObject counter;  // ends before the window releases everything
   QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &counter, [&] { ++lines; });
   Release(1);
   EXPECT_EQ(lines, 0);
@@ -97,13 +97,13 @@ TEST_F(GuestViewTest, WhatIsHeldIsLetGoWithTheFocus) {
   EXPECT_TRUE(Guest().held_keys.isEmpty());
 }
 
-// Each key goes the whole way: the host's code, the library's conversion, the guest's code.
+// Each key passes all steps: the host's code, the library's conversion, the guest's code.
 TEST_F(GuestViewTest, EveryKeyPassesThroughAsTheGuestsOwn) {
   taviinputmanager::UpdateDisplayForceTransparent(LiveHost::kDisplay, true);
   Load("");
   KeyCombination pause;
   ASSERT_EQ(ParseKeyCombination("Meta+F12", &pause), QString());
-  Window()->SetPauseKey(pause);  // F12 is the window's otherwise
+  Window()->SetPauseKey(pause);  // otherwise the window reserves F12
   for (const KeyboardKey& key : kKeyboard105) {
     Press(key.linux_code);
     EXPECT_EQ(Guest().held_keys, QSet<int>{key.guest_code}) << key.name;
@@ -112,7 +112,7 @@ TEST_F(GuestViewTest, EveryKeyPassesThroughAsTheGuestsOwn) {
   }
 }
 
-// A key counts as set, and so as the first of a chord, only with a virtual key.
+// A key is set, and can be the first of a chord, only with a virtual key.
 TEST_F(GuestViewTest, ChordsAnswer) {
   Load("{type: Click, key: Left Alt + A, point: [0.5, 0.5]}");
   Press(kA);
@@ -214,7 +214,7 @@ class GuestViewTouch : public GuestViewTest {
   }
 };
 
-// Qt tells of it once, as a finger that is released, and not again as long as the other one rests.
+// Qt reports it once, as a released finger, and not again while the other one rests.
 TEST_F(GuestViewTouch, AFingerThatGoesUpIsUpAtOnce) {
   PutTwoDown();
   Touch(QEvent::TouchUpdate,
@@ -252,7 +252,7 @@ TEST_F(GuestViewTouch, FingersAreLiftedWithAllElse) {
     PutTwoDown();
     row.let_go();
     EXPECT_TRUE(Slots().isEmpty()) << row.name;
-    // On the glass they are still, and count for nothing until the next touch.
+    // They are still on the screen, and are ignored until the next touch.
     Touch(QEvent::TouchUpdate,
           {Finger(1, 0.3, 0.5, Qt::TouchPointMoved), Finger(2, 0.75, 0.5, Qt::TouchPointStationary)});
     EXPECT_TRUE(Slots().isEmpty()) << row.name;
@@ -267,8 +267,8 @@ TEST_F(GuestViewTest, ABrokenKeymapIsToldAndTakesNoKeys) {
   EXPECT_EQ(View()->window()->windowTitle(), QStringLiteral("keymap.yaml \u2013 tavi"));
 }
 
-// Everything that can be drawn at once. The picture is looked at by people; here it only has to come about.
-// The ring has a radius of 15 pixels at least, and the key's plate stands in its middle.
+// Everything that can be drawn at once. People check the picture; the test only checks that it is drawn. The ring has a
+// radius of at least 15 pixels, and the key's plate is in its middle.
 TEST_F(GuestViewTest, AFingerLeavesTheKeyBelowItReadable) {
   Load("{type: Click, label: Jump, key: Space, point: [0.5, 0.5]}");
   const QRect key(View()->width() / 2 - 14, View()->height() / 2 - 6, 28, 12);
@@ -280,7 +280,7 @@ TEST_F(GuestViewTest, AFingerLeavesTheKeyBelowItReadable) {
     for (int x = 0; x < before.width(); ++x) {
       const QColor one = before.pixelColor(x, y);
       const QColor other = after.pixelColor(x, y);
-      // The plate lets an eighth of what is below it through.
+      // The plate has an opacity of seven eighths.
       if (qAbs(one.green() - other.green()) > 40) ++changed;
     }
   }
@@ -308,7 +308,7 @@ TEST_F(GuestViewTest, DrawsAllThatAGuestCanHave) {
   EXPECT_EQ(picture.size(), View()->window()->size() * View()->devicePixelRatioF());
   const QString wanted = qEnvironmentVariable("TAVI_TEST_PICTURE");
   if (!wanted.isEmpty()) picture.save(wanted);
-  clock_->Advance(2000);  // trails fade away, and the view comes to rest
+  clock_->Advance(2000);  // trails fade, and the view stops repainting
 }
 
 }  // namespace

@@ -1,13 +1,10 @@
-// Editing in the window: a person drags, presses keys, saves, and the file differs only there.
+// Editing in the window: a user drags, presses keys and saves, and the file changes only there.
 #include "host/window/editor/keymap_editor.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include "host/editor/item_handles.h"
 #include "host/window/editor/edit_layer.h"
@@ -55,7 +52,7 @@ class EditingInTheWindow : public WindowFixture {
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
   }
-  // The file that was there, with one part replaced.
+  // The original file, with one part replaced.
   std::string FileWith(const char* part, const char* by) const {
     EXPECT_EQ(before_.count(part), 1) << part;
     return QByteArray(before_).replace(part, by).toStdString();
@@ -148,6 +145,37 @@ TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
   EXPECT_EQ(Document()->Text(), before_);
 }
 
+// Each edit has the whole file read again, which takes long in a large keymap.
+TEST_F(EditingInTheWindow, ADragIsShownOnItsWayAndWrittenAtItsEnd) {
+  Edit();
+  const QByteArray text = Document()->Text();
+  LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+  LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  EXPECT_EQ(text, Document()->Text());
+  EXPECT_FALSE(Document()->IsModified());
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  EXPECT_EQ(FileWith("[0.25, 0.75]", "[0.5, 0.25]"), Document()->Text().toStdString());
+  EXPECT_EQ(1, Document()->UndoStack()->count());
+}
+
+TEST_F(EditingInTheWindow, WhatEndsADragOtherwiseMovesNothing) {
+  Edit();
+  const auto drag = [this] {
+    LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+    LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  };
+  drag();
+  Layer()->Select(1);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  drag();
+  Edit(false);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  EXPECT_FALSE(Document()->IsModified());
+}
+
 TEST_F(EditingInTheWindow, ArrowKeysMoveByPixelsOfTheGuest) {
   Edit();
   Layer()->Select(0);
@@ -163,7 +191,7 @@ TEST_F(EditingInTheWindow, UndoBehindASaveMakesItUnsavedAgain) {
   Edit();
   DragFrom(At(0.25, 0.75), At(0.5, 0.25));
   Editor()->Save();
-  clock_->Advance(1000);  // the watch has seen the file
+  clock_->Advance(1000);  // the watch has noticed the file
   Document()->UndoStack()->undo();
   EXPECT_EQ(Document()->Text(), before_);
   EXPECT_TRUE(Window()->isWindowModified());
@@ -183,7 +211,7 @@ TEST_F(EditingInTheWindow, APressedKeyIsBound) {
                                           .toStdString());
 }
 
-// So that arrow keys move what was just bound.
+// So that arrow keys move the item that was just bound.
 TEST_F(EditingInTheWindow, KeysGoBackToTheScreenBehindABinding) {
   Edit();
   Window()->activateWindow();
@@ -291,7 +319,7 @@ TEST_F(EditingInTheWindow, TextThatIsWrongStaysToBeCorrected) {
   EXPECT_EQ(Inspector()->Pane()->Problem(), "Line 1, column 20: unknown key 'Spcae'; did you mean 'Space'?");
   EXPECT_EQ(Text()->toPlainText(), "{type: Click, key: Spcae, point: [0.25, 0.75]}");
   EXPECT_EQ(Document()->Text(), before_);
-  DragFrom(At(0.5, 0.5), At(0.5, 0.25));  // another item: what was typed has to go, and a person is told
+  DragFrom(At(0.5, 0.5), At(0.5, 0.25));  // another item: the typed text is discarded, and the user is told
   EXPECT_TRUE(problem_.contains("unknown key 'Spcae'")) << problem_.toStdString();
   EXPECT_EQ(Layer()->Selected(), 1);
   EXPECT_TRUE(Text()->toPlainText().startsWith("{type: Swipehold"));
@@ -319,7 +347,7 @@ TEST_F(EditingInTheWindow, AnEditElsewhereLeavesWhatIsTyped) {
   Text()->setPlainText("{type: Click, ");
   EXPECT_EQ(Document()->SetNumber(1, "radius", 0.2), QString());
   EXPECT_EQ(Text()->toPlainText(), "{type: Click, ");
-  EXPECT_EQ(Document()->SetField(0, "key", "E"), QString());  // the item itself is another one now
+  EXPECT_EQ(Document()->SetField(0, "key", "E"), QString());  // the item itself has changed
   EXPECT_EQ(Text()->toPlainText(), "{type: Click, label: Jump, key: E, point: [0.25, 0.75]}");
 }
 
@@ -330,14 +358,14 @@ TEST_F(EditingInTheWindow, SettingsAndWheelStandBelowTheItems) {
   EXPECT_EQ(Layer()->Selected(), -1);
   EXPECT_EQ(Text()->toPlainText(), "");
   Text()->setPlainText("settings: {keyboard_transparent: true}");
-  ChooseRow(3);  // takes over what was typed
+  ChooseRow(3);  // applies what was typed
   Text()->setPlainText("wheel: {wheel_delta: 2.0}");
   EXPECT_TRUE(Editor()->Save());
   EXPECT_TRUE(FileText().contains("settings: {keyboard_transparent: true}\nwheel: {wheel_delta: 2.0}\n"));
   ChooseRow(1);
   EXPECT_EQ(Layer()->Selected(), 1);
   Edit(false);
-  Press(kA);  // nobody's, and the guest gets it now
+  Press(kA);  // unmapped, so the guest gets it now
   EXPECT_EQ(Guest().held_keys, QSet<int>{kA});
 }
 
@@ -367,7 +395,7 @@ TEST_F(EditingInTheWindow, ANoteWaitsForNoKey) {
   EXPECT_FALSE(Inspector()->Editor("key")->Listener()->IsListening());
 }
 
-// Nothing that was typed for one item reaches another.
+// Text that was typed for one item never reaches another.
 TEST_F(EditingInTheWindow, AnotherFileDropsWhatWasOnlyTyped) {
   Edit();
   Layer()->Select(0);
@@ -400,7 +428,7 @@ TEST_F(EditingInTheWindow, ItemsAreDuplicatedAndDeleted) {
   EXPECT_EQ(Layer()->Selected(), -1);
 }
 
-// The index that was selected is another item's then.
+// The selected index then belongs to another item.
 TEST_F(EditingInTheWindow, AnUndoneDeletionSelectsNothing) {
   Edit();
   Layer()->Select(0);
@@ -443,7 +471,7 @@ TEST_F(EditingInTheWindow, NothingReachesTheGuestMeanwhile) {
   Press(kSpace);
   EXPECT_EQ(Slots().size(), 1);
   Edit();
-  EXPECT_TRUE(Slots().isEmpty());  // what was down is let go
+  EXPECT_TRUE(Slots().isEmpty());  // what was down is released
   EXPECT_EQ(View()->focusProxy(), Layer());
   EXPECT_EQ(Layer()->geometry(), View()->geometry());
   LayerKey(Qt::Key_Space);
@@ -484,7 +512,7 @@ TEST_F(EditingInTheWindow, SavedEditsCanBeTakenBackStill) {
 TEST_F(EditingInTheWindow, AForeignSaveIsReadWhereNothingIsLost) {
   Edit();
   Write("keymap.yaml", "{type: Tip, point: [0.5, 0.5]}");
-  EXPECT_FALSE(Editor()->TakeFileChange());  // the window reads it
+  EXPECT_FALSE(Editor()->TakeFileChange());  // the window reloads it
   Window()->LoadKeymap(folder_.filePath("keymap.yaml"));
   EXPECT_EQ(Document()->ItemCount(), 1);
 }
@@ -516,7 +544,7 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeReadInstead) {
   EXPECT_FALSE(Document()->IsModified());
   Edit(false);
   Press(kSpace);
-  EXPECT_TRUE(Slots().isEmpty());  // the note answers to nothing
+  EXPECT_TRUE(Slots().isEmpty());  // a label has no key
 }
 
 TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
@@ -529,22 +557,17 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
   EXPECT_TRUE(Editor()->Save());
   QStringList texts;
   for (const Answer& answer : qAsConst(answers_)) texts += answer.text;
-  EXPECT_EQ(texts, (QStringList{"Overwrite", "Read again", "Save as\u2026", ""}));
+  EXPECT_EQ(texts, (QStringList{"Overwrite", "Reload", "Save as\u2026", ""}));
   EXPECT_EQ(FileText(), foreign);
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
   EXPECT_FALSE(Document()->IsModified());
 }
 
-// The dialog itself, as a person fills it in.
+// The real dialog, filled in like a user does.
 TEST_F(EditingInTheWindow, ANameWithoutSuffixGetsOne) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   Edit();
-  QTimer::singleShot(0, Window(), [this] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder_.filePath("mine"));
-    QMetaObject::invokeMethod(dialog, "accept");
-  });
+  EnterName(folder_.filePath("mine"));
   EXPECT_TRUE(Editor()->SaveAs(QString()));
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
   EXPECT_TRUE(QFile::exists(folder_.filePath("mine.yaml")));
@@ -623,7 +646,7 @@ TEST_F(EditingInTheWindow, WithoutAKeymapANewOneBegins) {
   EXPECT_EQ(Window()->windowTitle(), QStringLiteral("mine.yaml \u2013 tavi"));
 }
 
-// Nobody is told in the middle of the first items that there is no keymap.
+// While the first items are added, there is no message that there is no keymap.
 TEST_F(EditingInTheWindow, ANewKeymapIsOneFromItsFirstItemOn) {
   Window()->LoadKeymap(QString());
   EXPECT_TRUE(View()->Hint().startsWith("No keymap.")) << View()->Hint().toStdString();
@@ -639,7 +662,7 @@ TEST_F(EditingInTheWindow, ANewKeymapIsOneFromItsFirstItemOn) {
   EXPECT_TRUE(HasLabel("No keymap"));
 }
 
-// The name of the key that there is stays readable beside it.
+// The name of the existing key stays legible beside it.
 TEST_F(EditingInTheWindow, TheWaitForAKeyTakesNoRoomFromItsName) {
   Edit();
   Layer()->Select(0);

@@ -79,7 +79,7 @@ TEST_F(LineLogTest, LeavesOutWhatComesDuringAPause) {
   EXPECT_EQ(Shown(), "");
 }
 
-// 200 lines are more than are seen at once, at either height.
+// 200 lines are more than fit, at either height.
 TEST_F(LineLogTest, FollowsTheEndWhenItsSizeChanges) {
   log_->resize(500, 600);
   log_->show();

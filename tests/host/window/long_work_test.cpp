@@ -1,4 +1,4 @@
-// Work that takes long, while a window stays alive.
+// Long work while a window stays responsive.
 #include "host/window/controls/long_work.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ class LongWork : public testing::Test {
  protected:
   LongWork() : application_(argument_count_, arguments_) {}
 
-  // The dialog of what is under way.
+  // The dialog of the work in progress.
   static QProgressDialog* Dialog() {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
       if (auto* dialog = qobject_cast<QProgressDialog*>(widget)) return dialog;
@@ -39,7 +39,7 @@ TEST_F(LongWork, IsDoneElsewhere) {
   EXPECT_NE(QThread::currentThread(), worker);
 }
 
-// The work waits for a timer of the main thread: it would never end if that stood still.
+// The work waits for a timer of the main thread: it would never end if the event loop was blocked.
 TEST_F(LongWork, LetsTheWindowGoOn) {
   QSemaphore painted;
   QString title;
@@ -61,12 +61,12 @@ TEST_F(LongWork, CanBeCancelled) {
     ended.release();
   };
   EXPECT_FALSE(DoLongWork(nullptr, "Reading", work));
-  EXPECT_EQ(0, ended.available());  // still at it
+  EXPECT_EQ(0, ended.available());  // still working
   go_on.release();
   ended.acquire();
 }
 
-// What was cancelled is waited for when the program ends, and it ends then at the earliest.
+// The end of the program waits for cancelled work.
 TEST_F(LongWork, IsOverBeforeTheProgramEnds) {
   QSemaphore go_on;
   bool is_done = false;

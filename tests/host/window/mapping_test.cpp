@@ -1,4 +1,4 @@
-// The keys that the window keeps for itself: the one that pauses the mapping and the one that lets go of everything.
+// The keys that the window reserves: the one that pauses the mapping and the one that releases everything.
 #include "host/session/mapping.h"
 
 #include <algorithm>
@@ -67,9 +67,9 @@ TEST(KeyCombinationTest, WhatIsWrongIsTold) {
     const char* told;
   } rows[] = {
       {"misspelt key", "Pasue", "did you mean \"Pause\""},
-      {"unknown modifier", "Hyper+F5", "no modifier is called \"Hyper\""},
-      {"a button of the mouse", "Mouse Left", "no key of the keyboard is called \"Mouse Left\""},
-      {"no key", "Ctrl+", "no key of the keyboard is called \"\""},
+      {"unknown modifier", "Hyper+F5", "\"Hyper\" is not a modifier"},
+      {"a button of the mouse", "Mouse Left", "\"Mouse Left\" is not a key of the keyboard"},
+      {"no key", "Ctrl+", "\"\" is not a key of the keyboard"},
       {"nothing", "", "no key of the keyboard"},
   };
   for (const auto& row : rows) {
@@ -110,11 +110,11 @@ TEST_F(MappingTest, AKeymapThatUsesTheKeyIsTold) {
   Load("{type: Click, key: F12, point: [0.25, 0.75]}");
   EXPECT_TRUE(Window()->statusBar()->currentMessage().startsWith("F12 is a key of this keymap"));
   Window()->statusBar()->clearMessage();
-  Load("{type: Click, key: Backspace, point: [0.25, 0.75]}");  // with Ctrl and Alt alone it is the window's
+  Load("{type: Click, key: Backspace, point: [0.25, 0.75]}");  // with Ctrl and Alt alone the window reserves it
   EXPECT_EQ(Window()->statusBar()->currentMessage(), QString());
 }
 
-// The window reads its keymap before it is shown; the message stands alone all the same.
+// The window loads its keymap before it is shown; the message is alone all the same.
 TEST_F(MappingTest, WhatIsToldBeforeTheWindowIsSeenTakesThePlaceOfTheKeymapsName) {
   Window()->hide();
   Load("{type: Click, key: F12, point: [0.25, 0.75]}");
@@ -130,7 +130,7 @@ TEST_F(MappingTest, WhatIsToldBeforeTheWindowIsSeenTakesThePlaceOfTheKeymapsName
   EXPECT_TRUE((*keymap)->isVisible());
 }
 
-// X11 tells a held key as releases and presses of one time each.
+// X11 reports a held key as releases and presses with equal timestamps.
 TEST_F(MappingTest, AHeldPauseKeySwitchesOnce) {
   Load("");
   KeyWith(QEvent::KeyPress, kF12, Qt::NoModifier, 1000);
@@ -244,7 +244,7 @@ TEST_F(MappingTest, AnotherKeyPauses) {
   ASSERT_EQ(ParseKeyCombination("Shift+E", &key), QString());
   Window()->SetPauseKey(key);
   Press(kF12);
-  EXPECT_EQ(Slots().size(), 1);  // it is the keymap's now
+  EXPECT_EQ(Slots().size(), 1);  // now it belongs to the keymap
   Release(kF12);
   KeyWith(QEvent::KeyPress, kE, Qt::NoModifier);
   EXPECT_FALSE(Window()->Keymaps()->IsPaused());
@@ -265,7 +265,7 @@ TEST_F(MappingTest, ThePanicKeyLiftsFingersAndKeys) {
   EXPECT_TRUE(Guest().held_keys.isEmpty());
   Release(kSpace);
   Press(kSpace);
-  EXPECT_EQ(Slots().size(), 1);  // the keymap is in use still
+  EXPECT_EQ(Slots().size(), 1);  // the keymap is still in use
 }
 
 TEST_F(MappingTest, ThePanicKeyGivesTheMouseBack) {
@@ -369,7 +369,7 @@ TEST_F(MappingTest, AnotherFileThatIsBrokenIsNotTheOneBefore) {
   EXPECT_TRUE(Slots().isEmpty());
 }
 
-// What is used is what was read, whatever the file has become by then.
+// What was loaded is used, whatever has happened to the file since.
 TEST_F(MappingTest, AFileThatIsWrittenButNotReadYetIsNotInUse) {
   ClickPauseKey();
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
@@ -382,14 +382,14 @@ TEST_F(MappingTest, AFileThatIsWrittenButNotReadYetIsNotInUse) {
 TEST_F(MappingTest, AFileThatGoesIsToldAndStaysInUse) {
   Load("{type: Click, key: Space, point: [0.25, 0.75]}");
   QFile::remove(folder_.filePath("keymap.yaml"));
-  auto* watch = Window()->findChild<KeymapWatch*>();  // the first is the keymap's
+  auto* watch = Window()->findChild<KeymapWatch*>();  // the first belongs to the keymap
   ASSERT_NE(watch, nullptr);
   QMetaObject::invokeMethod(watch, "Settle");
   EXPECT_EQ(Window()->statusBar()->currentMessage(),
-            QString("keymap.yaml is gone; the keymap stays in use as it was read last"));
+            QString("keymap.yaml was deleted; the keymap stays in use as it was last read"));
   const QList<QLabel*> labels = Window()->statusBar()->findChildren<QLabel*>();
   EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-    return label->text().contains("1 item \u00B7 the file is gone");
+    return label->text().contains("1 item \u00B7 the file was deleted");
   }));
   Press(kSpace);
   ExpectNear(Finger(), 320, 540);

@@ -1,4 +1,4 @@
-// Lines carried between instances. The other instance is a bare socket here, which says and hears what one would.
+// Lines between instances. The other instance is a bare socket here, which sends and receives the same.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -37,21 +37,21 @@ class Mirror : public testing::Test {
     QObject::connect(targets, &MirrorTargets::Lost, &context_, [this](const QString& name, const QString& problem) {
       lost_.append({name, problem});
     });
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));  // no other test has these names
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));  // no other test uses these names
     LiveHost::GetInstance()->Start(nullptr);
     QObject::connect(LiveHost::GetInstance(), &LiveHost::EntryAdded, &context_, [this](const TimelineEntry& entry) {
       if (entry.source != TimelineEntry::Source::kCallback) said_.append(entry.text);
     });
   }
 
-  // A socket that whoever listened by has left behind.
+  // A socket file that was left by its program.
   static void LeaveSocket(const QString& name) {
     sockaddr_un address{};
     const int file = BindTo(name, &address);
     EXPECT_EQ(listen(file, 1), 0);
     close(file);
   }
-  // A Unix socket that is bound to the name's address.
+  // A Unix socket bound to the name's address.
   static int BindTo(const QString& name, sockaddr_un* address) {
     const int file = Unbound(name, address);
     EXPECT_EQ(bind(file, reinterpret_cast<const sockaddr*>(address), sizeof(*address)), 0);
@@ -64,7 +64,7 @@ class Mirror : public testing::Test {
     return socket(AF_UNIX, SOCK_STREAM, 0);
   }
 
-  // Sends lines to whoever listens under these names.
+  // Sends lines to the instances that listen under these names.
   void Reach(const QStringList& names) {
     for (const QString& name : names) MirrorTargets::GetInstance()->Add(name);
     ASSERT_TRUE(RunEventsUntil([&] { return reached_ == names.size(); }));
@@ -86,7 +86,7 @@ class Mirror : public testing::Test {
   QTemporaryDir folder_;
   QStringList said_;  // lines for this instance's guest
   int reached_ = 0;   // instances that get lines
-  QStringList lost_;  // names of those that do not, each with what is wrong
+  QStringList lost_;  // names of those that do not, each with the reason
 
  private:
   int argument_count_ = 0;
@@ -126,7 +126,7 @@ class Listener {
 
  private:
   QLocalServer server_;
-  QLocalSocket* socket_ = nullptr;  // the server's
+  QLocalSocket* socket_ = nullptr;  // owned by the server
 };
 
 TEST_F(Mirror, LinesOfALiveDisplayGoToEveryTarget) {
@@ -156,7 +156,7 @@ TEST_F(Mirror, ATargetThatGoesAwayIsReportedAndTheOthersGoOn) {
   ASSERT_TRUE(RunEventsUntil([&] { return goes.HasPeer(); }));
   goes.Leave();
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it went away")}));
+  EXPECT_EQ(lost_, QStringList({"goes", QStringLiteral("it disconnected")}));
   EXPECT_EQ(targets->Names(), QStringList{"stays"});
   taviinputmanager::OnInputRawEventData(QStringLiteral("KBDPR:30:1\n"), LiveHost::kDisplay);
   EXPECT_TRUE(RunEventsUntil([&] {
@@ -169,7 +169,7 @@ TEST_F(Mirror, ATargetThatNobodyListensAsIsReported) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   targets->Add("nobody");
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"nobody", QStringLiteral("no instance listens as that")}));
+  EXPECT_EQ(lost_, QStringList({"nobody", QStringLiteral("no instance listens under that name")}));
   EXPECT_TRUE(targets->Names().isEmpty());
 }
 
@@ -292,7 +292,7 @@ TEST_F(Mirror, WhatIsNoSocketStays) {
   file.close();
   {
     MirrorServer server(LiveHost::kDisplay);
-    EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+    EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   }
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), QByteArray("dear"));
@@ -304,7 +304,7 @@ TEST_F(Mirror, ASocketOfAnotherUserStays) {
   const QByteArray address = QFile::encodeName(MirrorAddressOf("server"));
   ASSERT_EQ(chown(address.constData(), kNobody, kNobody), 0);
   MirrorServer server(LiveHost::kDisplay);
-  EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+  EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
 }
 
@@ -322,7 +322,7 @@ TEST_F(Mirror, AnotherUserIsNotHeard) {
     ASSERT_EQ(::connect(other, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
   }
   char byte = 0;
-  EXPECT_TRUE(RunEventsUntil([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is shut out
+  EXPECT_TRUE(RunEventsUntil([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is disconnected
   close(other);
 }
 
@@ -331,17 +331,17 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
   sockaddr_un address{};
   const int other = BindTo("other", &address);
   {
-    const AsNobody nobody;  // whoever calls listen is who listens
+    const AsNobody nobody;  // the caller of listen is the owner of the socket
     ASSERT_EQ(listen(other, 1), 0);
   }
   MirrorTargets* targets = MirrorTargets::GetInstance();
   targets->Add("other");
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"other", "another user listens as that"}));
+  EXPECT_EQ(lost_, QStringList({"other", "another user listens under that name"}));
   close(other);
 }
 
-// Whoever asks whether a name is in use is no instance that sends lines.
+// A program that only checks whether a name is in use is not an instance that sends lines.
 TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
   MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());
@@ -364,7 +364,7 @@ TEST_F(Mirror, ALineThatIsTooLongEndsTheConnection) {
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
   QLocalSocket other;
   other.connectToServer(MirrorAddressOf("server"));
-  const QString longest = "TEXT:" + QString(kTooLongMirrorLine - 7, 'a') + "\n";  // one less than too long
+  const QString longest = "TEXT:" + QString(kTooLongMirrorLine - 7, 'a') + "\n";  // one less than the limit
   Say(&other, {true, longest});
   ASSERT_TRUE(RunEventsUntil([&] { return said_.size() == 1; }));
   EXPECT_EQ(TakeSaid(), QStringList(longest.chopped(1)));
@@ -373,7 +373,7 @@ TEST_F(Mirror, ALineThatIsTooLongEndsTheConnection) {
   EXPECT_TRUE(said_.isEmpty());
 }
 
-// The length alone is enough: who announces gigabytes is not waited for.
+// The length alone is enough: a sender that announces gigabytes is disconnected at once.
 TEST(MirrorMessageTest, IsReadByItsLength) {
   QByteArray bytes;
   QDataStream writer(&bytes, QIODevice::WriteOnly);
@@ -422,12 +422,12 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   Reach({"silent"});
   const QString text = "TEXT:" + QString(30000, 'a') + "\n";
-  // 60 kB each: the system holds some hundred kB, this instance one MB.
+  // 60 kB each: the system buffers some hundred kB, this instance one MB.
   for (int i = 0; i < 100 && lost_.isEmpty(); ++i) {
     taviinputmanager::OnInputRawTextData(text);
     QCoreApplication::processEvents();
   }
-  EXPECT_EQ(lost_, QStringList({"silent", "it takes no more lines"}));
+  EXPECT_EQ(lost_, QStringList({"silent", "it stopped reading lines"}));
   EXPECT_TRUE(targets->Names().isEmpty());
   close(silent);
 }
@@ -439,7 +439,7 @@ TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
   sockaddr_un address{};
   const int other = Unbound("server", &address);
-  // The sanitizer looks each type up once, through a pipe of its own.
+  // The sanitizer looks up each type once, through a pipe of its own.
   QSocketNotifier(other, QSocketNotifier::Read).setEnabled(false);
   rlimit before{};
   getrlimit(RLIMIT_NOFILE, &before);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kRetryMs = 100;
 
-// A lock that does as it is told.
+// A lock with prescribed results.
 struct FakeLock : PointerLock {
   // Outlives the lock.
   struct State {
@@ -40,7 +40,7 @@ struct FakeLock : PointerLock {
   State* state_;
 };
 
-// A view whose middle is at 150, 100 of the screen, and which has the focus.
+// A view whose middle is at 150, 100 on the screen, and which has the focus.
 class PointerCaptureTest : public testing::Test {
  protected:
   PointerCaptureTest()
@@ -54,7 +54,7 @@ class PointerCaptureTest : public testing::Test {
     QCursor::setPos(10, 20);
   }
 
-  // A capture that the window system answers as `state_` says.
+  // A capture for which the window system's result is `state_`.
   PointerCapture* Capture() {
     if (!capture_) {
       capture_ = std::make_unique<PointerCapture>(view_.get(), std::make_unique<FakeLock>(&state_));
@@ -76,7 +76,7 @@ class PointerCaptureTest : public testing::Test {
 
  protected:
   const PlatformEvents events_;
-  VirtualEventDispatcher* clock_;  // the application's
+  VirtualEventDispatcher* clock_;  // owned by the application
 
  private:
   QApplication application_;
@@ -108,7 +108,7 @@ TEST_F(PointerCaptureTest, TheEndOfTheCaptureIsTheEndOfItsOwner) {
   EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
 }
 
-// Where there is no window system, moves of the view count from each other.
+// Without a window system, each move of the view starts at the previous one.
 TEST_F(PointerCaptureTest, WithoutAMouseMovesOfTheViewAreWays) {
   PointerCapture capture(view_.get());
   QObject::connect(&capture, &PointerCapture::Moved, [this](int dx, int dy) { moves_ += QPoint(dx, dy); });
@@ -120,7 +120,8 @@ TEST_F(PointerCaptureTest, WithoutAMouseMovesOfTheViewAreWays) {
   EXPECT_EQ(moves_, (QVector<QPoint>{{5, -3}, {3, 0}, {-8, 3}}));
 }
 
-// 0.75 + 0.75 = 1.5 makes 1 and leaves 0.5; -0.5 and 0.25 leave 0.25; 0.75 more make 1. The other way: -2.5 makes -2.
+// 0.75 + 0.75 = 1.5 makes 1 and leaves 0.5; -0.5 and 0.25 leave 0.25; another 0.75 make 1. In the other direction -2.5
+// makes -2.
 TEST_F(PointerCaptureTest, PartsOfACountAreKept) {
   Capture()->SetWanted(true);
   for (const QPointF& way : {QPointF(0.75, 0), QPointF(0.75, 0), QPointF(-0.5, 0), QPointF(0.25, 0), QPointF(0.75, 0),
@@ -157,7 +158,7 @@ TEST_F(PointerCaptureTest, AHiddenViewGivesItBack) {
   EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
 }
 
-// Told from the second refusal on, and tried every 100 ms.
+// Reported from the second refusal on, and retried every 100 ms.
 TEST_F(PointerCaptureTest, APointerThatIsTakenIsTriedAgain) {
   Answer(PointerLock::Result::kBusy, "taken");
   Capture()->SetWanted(true);

@@ -1,4 +1,4 @@
-// Records in the window: what a person records, saves, opens and plays.
+// Records in the window: a user records, saves, opens and replays.
 #include <functional>
 #include <sys/stat.h>
 #include <utility>
@@ -6,11 +6,8 @@
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QStatusBar>
-#include <QTimer>
 
 #include "host/session/recorder.h"
 #include "host/session/replayer.h"
@@ -26,7 +23,7 @@ namespace {
 using State = Replayer::State;
 using taviinputmanager::RecordStatus;
 
-// What the window's status bar showed, as often as it was painted, and how far the work was by then.
+// What the status bar showed at each repaint, and how far the work was.
 class PaintedNews : public QObject {
  public:
   PaintedNews(QStatusBar* bar, std::function<bool()> has_begun) : bar_(bar), has_begun_(std::move(has_begun)) {
@@ -46,7 +43,7 @@ class PaintedNews : public QObject {
   std::function<bool()> has_begun_;
 };
 
-// -1 while the pointer is as ever.
+// -1 while the pointer is normal.
 int PointerShape() { return QApplication::overrideCursor() ? QApplication::overrideCursor()->shape() : -1; }
 
 class RecordsInTheWindow : public WindowFixture {
@@ -78,7 +75,7 @@ class RecordsInTheWindow : public WindowFixture {
     Records()->ToggleRecording();
     return file;
   }
-  // The display that replays have for themselves.
+  // The display of replays.
   GuestScreen* SecondView() const {
     for (auto* screen : Window()->findChildren<GuestScreen*>()) {
       if (screen != View()) return screen;
@@ -86,7 +83,7 @@ class RecordsInTheWindow : public WindowFixture {
     return nullptr;
   }
 
-  // A tap that is recorded still.
+  // A tap while a recording runs.
   void BeginATap(const QString& target) {
     Records()->SetTarget(target);
     Records()->ToggleRecording();
@@ -98,7 +95,7 @@ class RecordsInTheWindow : public WindowFixture {
     RecordInfo info;
     return taviinputmanager::GetRecordInfo(file, &info);
   }
-  // What is kept of recordings that have no place yet.
+  // The recordings that have no final file yet.
   QStringList Kept() const { return QDir(folder_.filePath("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot); }
   QByteArray Text(const QString& file) const {
     QFile opened(file);
@@ -109,10 +106,10 @@ class RecordsInTheWindow : public WindowFixture {
   QString news_;
   QString problem_;
   QStringList questions_;
-  QVector<QMessageBox::StandardButton> answers_;  // to the questions to come; then Cancel
+  QVector<QMessageBox::StandardButton> answers_;  // the answers to the next questions; then Cancel
 };
 
-constexpr char kFull[] = "/dev/full";  // opens, and takes nothing
+constexpr char kFull[] = "/dev/full";  // can be opened, but accepts nothing
 
 TEST_F(RecordsInTheWindow, ARecordingIsSaved) {
   const QString file = RecordATap();
@@ -130,7 +127,7 @@ TEST_F(RecordsInTheWindow, AReplayPutsTheFingerWhereItWas) {
   Records()->TogglePlaying();
   clock_->Advance(150);
   EXPECT_EQ(Replay()->GetState(), State::kPlaying);
-  EXPECT_EQ(Slots(), QList<int>{18});     // the first of the replays' slots
+  EXPECT_EQ(Slots(), QList<int>{18});     // the first slot for replays
   EXPECT_EQ(Finger(), QPoint(320, 540));  // 0.25 * 1280, 0.75 * 720
   clock_->Advance(200);
   EXPECT_EQ(Replay()->GetState(), State::kFinished);
@@ -156,7 +153,7 @@ TEST_F(RecordsInTheWindow, AReplayIsPausedAndGoesOn) {
   EXPECT_EQ(Replay()->GetState(), State::kPaused);
   EXPECT_EQ(Slots(), QList<int>{18});  // the finger waits
   Records()->TogglePlaying();
-  clock_->Advance(149);  // of the 150 that were left
+  clock_->Advance(149);  // of the remaining 150
   EXPECT_EQ(Slots(), QList<int>{18});
   clock_->Advance(2);
   EXPECT_TRUE(Slots().isEmpty());
@@ -194,7 +191,7 @@ TEST_F(RecordsInTheWindow, ASecondViewTakesTheReplayAlone) {
   clock_->Advance(150);
   EXPECT_TRUE(Slots().isEmpty());
   EXPECT_EQ(SecondView()->Model().state().contacts.keys(), QList<int>{18});
-  Press(kSpace);  // a person plays on beside it
+  Press(kSpace);  // the user plays on beside it
   EXPECT_EQ(Slots(), QList<int>{11});
 }
 
@@ -219,7 +216,7 @@ TEST_F(RecordsInTheWindow, AReplayLeavesNothingDownOnTheDisplayThatItLeaves) {
   EXPECT_TRUE(Guest().held_keys.isEmpty());
   Records()->TogglePlaying();
   clock_->Advance(10);
-  Records()->TogglePlaying();  // going on presses what is held once more, now there
+  Records()->TogglePlaying();  // resuming presses what is held again, now there
   clock_->Advance(10);
   EXPECT_EQ(SecondView()->Model().state().contacts.keys(), QList<int>{18});
   EXPECT_EQ(SecondView()->Model().state().held_keys, QSet<int>{30});
@@ -227,7 +224,7 @@ TEST_F(RecordsInTheWindow, AReplayLeavesNothingDownOnTheDisplayThatItLeaves) {
   Records()->SecondView()->trigger();
   EXPECT_TRUE(SecondView()->Model().state().contacts.isEmpty());
   EXPECT_TRUE(SecondView()->Model().state().held_keys.isEmpty());
-  EXPECT_EQ(Slots(), QList<int>{11});  // the player's, who was on the other display all the time
+  EXPECT_EQ(Slots(), QList<int>{11});  // the player's, which was on the other display all the time
 }
 
 // Nothing is replayed: the player's finger stays.
@@ -258,7 +255,7 @@ TEST_F(RecordsInTheWindow, ARecordingOfNothingIsToldAndLeavesNoFile) {
   EXPECT_EQ(PointerShape(), -1);
 }
 
-// The library writes in one go: nothing is painted meanwhile, so the window tells beforehand.
+// The library writes synchronously: nothing is painted meanwhile, so the message comes first.
 TEST_F(RecordsInTheWindow, SavingIsSeenBeforeItBegins) {
   const QString file = Path("tap.json");
   const PaintedNews painted(Window()->statusBar(), [file] { return QFileInfo::exists(file); });
@@ -271,13 +268,13 @@ TEST_F(RecordsInTheWindow, SavingIsSeenBeforeItBegins) {
   EXPECT_EQ(Window()->statusBar()->currentMessage(), QStringLiteral("Saved %1").arg(file));
 }
 
-// The library reads in one go, too.
+// The library reads synchronously, too.
 TEST_F(RecordsInTheWindow, ReadingALongRecordIsSeenBeforeItBegins) {
   const QString file = RecordATap();
   ASSERT_TRUE(Records()->OpenRecord(file));
   QFile longer(file);
   ASSERT_TRUE(longer.open(QIODevice::Append));
-  longer.write(QByteArray(16'000'000, ' '));  // what is longer than that is announced
+  longer.write(QByteArray(16'000'000, ' '));  // longer reads are announced
   longer.close();
   const PaintedNews painted(Window()->statusBar(), [] { return Replay()->GetState() != State::kNone; });
   int pointer_meanwhile = -1;
@@ -357,7 +354,7 @@ TEST_F(RecordsInTheWindow, TheWindowStaysUntilTheRecordingIsSavedOrDropped) {
   EXPECT_TRUE(Kept().isEmpty());
 }
 
-// The button saves what is kept; a new recording would take its place.
+// The button saves the kept recording; a new one would replace it.
 TEST_F(RecordsInTheWindow, WhatIsKeptIsSavedBeforeAnythingElseIsRecorded) {
   BeginATap(kFull);
   Records()->ToggleRecording();  // Cancel
@@ -380,7 +377,7 @@ TEST_F(RecordsInTheWindow, AFullDiskLeavesTheRecordThatWasThere) {
   before.write("before");
   before.close();
   BeginATap(Path("tap.json"));
-  ASSERT_EQ(Recorder::GetInstance()->End(), QString());  // kept, where there is room
+  ASSERT_EQ(Recorder::GetInstance()->End(), QString());  // kept, where there is space
   {
     const FileSizeLimit full(100);
     EXPECT_FALSE(Records()->SaveRecording());
@@ -394,7 +391,7 @@ TEST_F(RecordsInTheWindow, AFullDiskLeavesTheRecordThatWasThere) {
 TEST_F(RecordsInTheWindow, WithoutAskingItIsSavedOrKept) {
   BeginATap(kFull);
   const QStringList news = Window()->LeaveWithoutAsking();
-  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording is kept as " +
+  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording was saved as " +
                               Recorder::GetInstance()->KeptFile()));
   EXPECT_TRUE(IsRecord(Recorder::GetInstance()->KeptFile()));
   Records()->SetTarget(Path("tap.json"));
@@ -438,7 +435,7 @@ TEST_F(RecordsInTheWindow, AReplayThatRunsIsNotTakenAway) {
   EXPECT_EQ(Replay()->File(), first);
 }
 
-// The target was for one recording; a second one would have taken its place.
+// The target was for one recording; a second one would have replaced it.
 TEST_F(RecordsInTheWindow, ASecondRecordingDoesNotTakeThePlaceOfTheFirst) {
   RecordATap();
   const QByteArray first = Text(Path("tap.json"));
@@ -454,16 +451,11 @@ TEST_F(RecordsInTheWindow, ASecondRecordingDoesNotTakeThePlaceOfTheFirst) {
   EXPECT_EQ(Text(Path("tap.json")), first);
 }
 
-// The dialog itself, as a person fills it in.
+// The real dialog, filled in like a user does.
 TEST_F(RecordsInTheWindow, ANameWithoutSuffixGetsOneThatOpenRecordLists) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   BeginATap(QString());
-  QTimer::singleShot(0, Window(), [this] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(Path("walk"));
-    QMetaObject::invokeMethod(dialog, "accept");
-  });
+  EnterName(Path("walk"));
   EXPECT_TRUE(Records()->SaveRecording());
   EXPECT_TRUE(IsRecord(Path("walk.json")));
   EXPECT_FALSE(QFileInfo::exists(Path("walk")));

@@ -1,4 +1,4 @@
-// The guests of a window: what they get of its input, and how they are told and steered.
+// The guests of a window: the input that they get, their status, and their menu.
 #include "host/window/target_button.h"
 
 #include <QAction>
@@ -18,7 +18,7 @@ class TargetButtonTest : public WindowFixture {
  protected:
   ~TargetButtonTest() override { LiveHost::GetInstance()->Targets()->Close(); }
 
-  // A guest that keeps the lines in a file, which are all there when it was closed.
+  // A guest that writes the lines to a file, which are complete once it was closed.
   void AddGuest(const char* file) {
     Window()->Targets()->Add(ParseTarget("exec:cat > '" + folder_.filePath(file) + "'", false).address);
     clock_->Settle();

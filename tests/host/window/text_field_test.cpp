@@ -48,7 +48,7 @@ TEST_F(TextField, AKeyWithoutAPlaceOnTheKeyboardIsItsText) {
   EXPECT_EQ(Guest().text, QStringLiteral("x"));
 }
 
-// The text that comes with Ctrl+V is a control character, which nobody wants typed.
+// The text of Ctrl+V is a control character, which must not be typed.
 TEST_F(TextField, CtrlVPastesTheClipboard) {
   Load("");
   LiveHost::GetInstance()->SetTextField(true);
@@ -67,7 +67,7 @@ TEST_F(TextField, OtherControlCharactersAreTyped) {
   EXPECT_EQ(Guest().text, QStringLiteral("\x03"));
 }
 
-// X11 repeats a key as a release and a press of one time.
+// X11 reports a key repeat as a release and a press with the same timestamp.
 TEST_F(TextField, AHeldBackspaceTakesOneCharacterAtEachRepeat) {
   Load("");
   LiveHost::GetInstance()->SetTextField(true);
@@ -96,7 +96,7 @@ TEST_F(TextField, EnterIsALineAndArrowsAreKeys) {
   EXPECT_TRUE(lines.contains(QStringLiteral("1:KBDRL:105:0")));
 }
 
-// The guest gets a word when it is done; until then the window shows it.
+// The guest gets a word when it is committed; until then the window shows it.
 TEST_F(TextField, WhatIsComposedIsShownAndNotYetTyped) {
   Load("");
   LiveHost::GetInstance()->SetTextField(true);
@@ -130,7 +130,7 @@ TEST_F(TextField, TheSwitchInTheToolBarFocusesIt) {
   EXPECT_EQ(Slots().size(), 1);
 }
 
-// What was held as a touch does not stay down under the text.
+// What was held as a touch must not stay down during text input.
 TEST_F(TextField, KeysHeldBeforeAreLetGoWithTheFirstLetter) {
   Load("", "settings: {keyboard_transparent: true}");
   Press(kW);

@@ -1,4 +1,4 @@
-// The colours of the window: what is written can be read.
+// The colours of the window: all text is legible.
 #include "host/look/theme.h"
 
 #include <cmath>
@@ -81,7 +81,7 @@ TEST_F(ThemeTest, TheWholeWindowFollows) {
     for (const QLabel* label : Window()->findChildren<QLabel*>()) {
       if (label->text().contains(colors.error.name())) ++coloured;
     }
-    EXPECT_EQ(coloured, 3);  // the title and the line of the finding, and the state at the bottom
+    EXPECT_EQ(coloured, 3);  // the title and the line of the diagnostic, and the state at the bottom
   }
 }
 
@@ -95,7 +95,7 @@ TEST_F(ThemeTest, LooksHaveNames) {
   EXPECT_FALSE(theme::ParseLook("grey", &read));
 }
 
-// Its middle is that of a switch that is off, whether the pointer rests on it or not.
+// Its middle is that of an unchecked switch, whether it is hovered or not.
 TEST_F(ThemeTest, ASwitchThatWasJustTurnedOffLooksOff) {
   Take(Look::kDark);
   const SwitchStyle style;

@@ -1,16 +1,19 @@
-// The window off screen: events go to its view as a window system would send them, and its model of the guest tells
-// what came of them.
+// The window on the platform "offscreen": events are sent to its view as a window system would, and its model of the
+// guest shows the result.
 #ifndef TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
 #define TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
 #include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "host/session/live_host.h"
 #include "host/simulation/platform_events.h"
@@ -38,7 +41,7 @@ class WindowFixture : public testing::Test {
     window_->LoadKeymap(Write("keymap.yaml", items, settings));
   }
   void LoadJoystick(const char* items) { window_->LoadJoystickKeymap(Write("joystick.yaml", items)); }
-  // Writes a keymap and gives its path.
+  // Writes a keymap and returns its path.
   QString Write(const char* name, const char* items, const char* settings = "") {
     QFile file(folder_.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -54,23 +57,39 @@ class WindowFixture : public testing::Test {
   void Press(int linux_code) { Key(QEvent::KeyPress, linux_code); }
   void Release(int linux_code) { Key(QEvent::KeyRelease, linux_code); }
 
-  // A place of the view by fractions of its size.
+  // A position in the view, from fractions of its size.
   QPointF At(double x, double y) const { return {View()->width() * x, View()->height() * y}; }
   void Mouse(QEvent::Type type, const QPointF& place, Qt::MouseButton button, Qt::MouseButtons buttons) {
-    clock_->Advance(5);  // of two moves within 2 ms the second counts for nothing
+    clock_->Advance(5);  // of two moves within 2 ms the second is ignored
     QMouseEvent event(type, place, place, View()->mapToGlobal(place.toPoint()), button, buttons, Qt::NoModifier);
     Send(&event);
+  }
+
+  // What a person does with the dialog that opens next, once it is active. What is posted now comes before that.
+  void UseDialog(const std::function<void(QWidget* dialog)>& use) {
+    QTimer::singleShot(1, Window(), [use] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      use(dialog);
+    });
+  }
+  // Gives the file dialog that opens next a name, and accepts it.
+  void EnterName(const QString& name) {
+    UseDialog([name](QWidget* dialog) {
+      dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
   }
 
   MainWindow* Window() const { return window_.get(); }
   GuestView* View() const { return window_->View(); }
   const GuestState& Guest() const { return View()->Model().state(); }
   QList<int> Slots() const { return Guest().contacts.keys(); }
-  // The only finger there is.
+  // The only finger.
   QPoint Finger() const { return Guest().contacts.size() == 1 ? Guest().contacts.first().point : QPoint(-1, -1); }
 
   const PlatformEvents events_;
-  VirtualEventDispatcher* clock_;  // the application's
+  VirtualEventDispatcher* clock_;  // owned by the application
   QTemporaryDir folder_;
 
  private:
@@ -89,7 +108,7 @@ class WindowFixture : public testing::Test {
   std::unique_ptr<MainWindow> window_;
 };
 
-// Within two pixels of the guest: one pixel of the view stands for more than one of them.
+// Within two pixels of the guest: one pixel of the view is more than one of them.
 inline void ExpectNear(const QPoint& point, int x, int y) {
   EXPECT_NEAR(point.x(), x, 2);
   EXPECT_NEAR(point.y(), y, 2);

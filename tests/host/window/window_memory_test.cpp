@@ -1,4 +1,4 @@
-// What a window remembers, and what it does where a screen is small.
+// What a window remembers, and its layout on small screens.
 #include "host/window/window_memory.h"
 
 #include <QAction>
@@ -25,7 +25,7 @@ class WindowMemoryTest : public WindowFixture {
     Window()->resize(width, height);
     clock_->Settle();
   }
-  // Leaves the window, and starts another one with what it remembers.
+  // Closes the window, and starts another one with its memory.
   void StartAgain() {
     {
       WindowMemory memory(File());
@@ -38,7 +38,7 @@ class WindowMemoryTest : public WindowFixture {
   }
 };
 
-// Of 8 and 40 pixels for the frame: 1024 x 640 leaves 1016 x 600; 1920 x 1080 at 200 % is 960 x 540 and leaves 952 x
+// With 8 and 40 pixels for the frame: 1024 x 640 leaves 1016 x 600; 1920 x 1080 at 200 % is 960 x 540 and leaves 952 x
 // 500.
 TEST(WindowMemorySize, TheFirstSizeFitsTheScreen) {
   EXPECT_EQ(WindowMemory::FirstSize({1920, 1080}), QSize(1360, 760));
@@ -46,7 +46,7 @@ TEST(WindowMemorySize, TheFirstSizeFitsTheScreen) {
   EXPECT_EQ(WindowMemory::FirstSize({960, 540}), QSize(952, 500));
 }
 
-// Nothing in the window is so wide or so high that it asks for more than these screens have.
+// No part of the window needs more width or height than these screens have.
 TEST_F(WindowMemoryTest, TheWindowCanBeAsSmallAsTheScreen) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}", ("name: " + QByteArray(200, 'n')).constData());
   for (const QSize& size : {QSize(1016, 600), QSize(952, 500)}) {
@@ -103,7 +103,7 @@ TEST_F(WindowMemoryTest, ADockThatThePlayerHasClosedStaysAway) {
 
 TEST_F(WindowMemoryTest, SizeDocksAndSwitchesComeBack) {
   QSettings(File(), QSettings::IniFormat).clear();
-  Resize(700, 500);  // the log is put away, not closed
+  Resize(700, 500);  // the log is hidden, not closed
   Window()->Tools()->Overlay()->setChecked(false);
   StartAgain();
   EXPECT_EQ(Window()->size(), QSize(700, 500));
@@ -117,7 +117,7 @@ TEST_F(WindowMemoryTest, SizeDocksAndSwitchesComeBack) {
   EXPECT_FALSE(Window()->Docks()->IsWanted(Dock("log")));
 }
 
-// The bar and the dock of the editor go with its switch, the second view with its own.
+// The editor's bar and dock follow its switch, the second view its own.
 TEST_F(WindowMemoryTest, WhatWasBeingDoneIsNotGoneOnWith) {
   Window()->Editor()->Switch()->setChecked(true);
   Window()->Records()->SecondView()->setChecked(true);

@@ -1,4 +1,4 @@
-// The window as a program: how it ends when it is told to from outside.
+// The window as a program: how it ends when something outside ends it.
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -24,7 +24,7 @@ namespace {
 
 using taviinputmanager::RunEventsUntil;
 
-// A finger that goes down at once and stays for an hour.
+// A finger that is put down at once and stays for an hour.
 constexpr char kHeld[] = R"~({"info": {"total_running_time": 3600000}, "actions": [
   {"timing": 0, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"},
   {"timing": 3600000, "type": "touch", "data": "release", "extra1": "2"}]})~";
@@ -49,14 +49,14 @@ class WindowProgram : public testing::Test {
 
   QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
-  // Starts a window that plays the record with the finger, and waits until the finger is down.
+  // Starts a window that replays the record with the finger, and waits until the finger is down.
   void StartWithAFingerDown(const QStringList& options) {
     const QStringList usual{"window", "-platform", "offscreen", "--replay", Path("held.json"), "--mirror", "guest"};
     program_.start(TAVI_BINARY_DIR "/host/tavi", usual + options);
     ASSERT_TRUE(RunEventsUntil([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
   }
 
-  // What the window tells the instance that it mirrors to, which this test is.
+  // What the window sends to the instance that it mirrors to, which is this test.
   bool HasSaid(const char* part) {
     if (!socket_) socket_ = guest_.nextPendingConnection();
     MirrorMessage message;
@@ -80,7 +80,7 @@ class WindowProgram : public testing::Test {
   QTemporaryDir folder_;
   QProcess program_;
   QLocalServer guest_;
-  QLocalSocket* socket_ = nullptr;  // the server's
+  QLocalSocket* socket_ = nullptr;  // owned by the server
   QStringList said_;
 };
 
@@ -125,7 +125,7 @@ TEST_F(WindowProgram, ItRemembersUnlessItIsFresh) {
   EXPECT_FALSE(QFileInfo::exists(file));
   socket_ = nullptr;
   said_.clear();
-  StartWithAFingerDown({"--guest", "800x600"});  // as --size was called once
+  StartWithAFingerDown({"--guest", "800x600"});  // the former name of --size
   EXPECT_TRUE(HasSaid(":400:300"));              // the middle
   EndBy(SIGTERM);
   EXPECT_TRUE(QFileInfo::exists(file));
@@ -152,7 +152,7 @@ TEST_F(WindowProgram, WhatIsRememberedAndMakesNoSenseCountsForNothing) {
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
 }
 
-// Last time F11 paused; today it is the way out.
+// In the last session F11 was the pause key; now it is the panic key.
 TEST_F(WindowProgram, WhatIsRememberedAndDoesNotGoWithTheRestIsLeftOutAlone) {
   StartWithAFingerDown({"--guest", "800x600", "--pause-key", "F11"});
   EndBy(SIGTERM);
@@ -163,21 +163,22 @@ TEST_F(WindowProgram, WhatIsRememberedAndDoesNotGoWithTheRestIsLeftOutAlone) {
   EXPECT_TRUE(HasSaid(":400:300"));
   EndBy(SIGTERM);
   EXPECT_TRUE(program_.readAllStandardError().contains(
-      "--pause-key F11 of last time is not used: --pause-key and --panic-key are one key"));
+      "--pause-key F11 from the last session is ignored: --pause-key and --panic-key use the same key"));
 }
 
 TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
   StartWithAFingerDown({"--record", "/dev/full"});
   EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
   const QString told = QString::fromUtf8(program_.readAllStandardError());
-  const QString start = "tavi window: /dev/full cannot be written: No space left on device; the recording is kept as ";
+  const QString start =
+      "tavi window: /dev/full cannot be written: No space left on device; the recording was saved as ";
   ASSERT_TRUE(told.contains(start)) << told.toStdString();
   const QString kept = told.mid(told.indexOf(start) + start.size()).trimmed();
   RecordInfo info;
   EXPECT_TRUE(taviinputmanager::GetRecordInfo(kept, &info)) << kept.toStdString();
 }
 
-// Such as a pager that was left; there is nobody to tell anything then.
+// For example a pager that was closed; nobody reads any message then.
 TEST_F(WindowProgram, ItsWordsNeedNoReaderFromTheStart) {
   ASSERT_EQ(mkfifo(QFile::encodeName(Path("gone")).constData(), 0600), 0);
   program_.setWorkingDirectory(folder_.path());
@@ -189,7 +190,7 @@ TEST_F(WindowProgram, ItsWordsNeedNoReaderFromTheStart) {
   ASSERT_TRUE(program_.waitForFinished());
   QFile status(Path("status"));
   ASSERT_TRUE(status.open(QIODevice::ReadOnly));
-  EXPECT_EQ(status.readAll().trimmed(), QByteArray("1"));  // it said that nothing was recorded
+  EXPECT_EQ(status.readAll().trimmed(), QByteArray("1"));  // its message that nothing was recorded
 }
 
 TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {

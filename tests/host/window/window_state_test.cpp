@@ -1,4 +1,4 @@
-// What the window says about its state, in the corner of the view and at the bottom.
+// The window's state, in the corner of the view and at the bottom.
 #include "host/window/view/window_state.h"
 
 #include <QAction>
@@ -49,7 +49,7 @@ TEST_F(WindowStateTest, WithOneItIsOnOrOff) {
   EXPECT_TRUE(Bottom().contains("Mapping off (F12: on)"));
 }
 
-// The board of a game is often at the upper right.
+// The scoreboard of a game is often at the upper right.
 TEST_F(WindowStateTest, KeysGiveWayToTheCorner) {
   const auto screen = [this] {
     auto* corner = View()->findChild<StateCorner*>();
@@ -69,7 +69,7 @@ TEST_F(WindowStateTest, KeysGiveWayToTheCorner) {
 TEST_F(WindowStateTest, ABrokenChangeIsShown) {
   Load("{type: Click, key: Space, point: [0.5, 0.5]}");
   Load("{type: Click, key: Spcae, point: [0.5, 0.5]}");
-  EXPECT_EQ(Texts(), QStringList("Mapping as before the last change"));
+  EXPECT_EQ(Texts(), QStringList("Mapping from before the last change"));
 }
 
 TEST_F(WindowStateTest, AKeymapThatCannotBeUsedIsNotOn) {
@@ -149,7 +149,7 @@ TEST_F(WindowStateTest, TheCornerStaysInTheView) {
   }
 }
 
-// A finger under the corner is the guest's.
+// A finger under the corner reaches the guest.
 TEST_F(WindowStateTest, TheCornerTakesNoInput) {
   Load("");
   EXPECT_EQ(View()->childAt(Corner()->geometry().center()), nullptr);

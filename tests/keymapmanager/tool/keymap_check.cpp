@@ -1,5 +1,5 @@
-// What the reader says of files, for the test that compares it with the schema: a line "ok <file>", "warning <file>" or
-// "error <file>" each, and the diagnostics behind it. `--schema` prints the schema in place of that.
+// Prints the reader's results for files, for the test that compares them with the schema: a line "ok <file>", "warning
+// <file>" or "error <file>" for each, followed by its diagnostics. `--schema` prints the schema instead.
 #include <cstdio>
 
 #include "keymapmanager/keymap_file.h"

@@ -1,4 +1,4 @@
-// What may be copied: a file that the library would write again, byte for byte.
+// Which files may be copied: those that the library would write again, byte for byte.
 //
 // TAVI_RECORD_DOCUMENTS and TAVI_RECORD_SEED make the search longer.
 #include "record/json/file_layout.h"
@@ -30,7 +30,7 @@ bool IsLaidOut(const QByteArray& bytes, FileLayout::Writer writer, int window_by
 }
 
 QByteArray InLayout(const QByteArray& json) { return QJsonDocument::fromJson(Text(json)).toJson(); }
-// A document in which this stands for the value of a member.
+// A document in which this is the value of a member.
 QByteArray WithValue(const QByteArray& value) {
   return Text("{\n    'info': {\n        'create_time': 5\n    },\n    'other': " + value + "\n}\n");
 }
@@ -46,7 +46,7 @@ TEST(FileLayout, IsThatOfBothLibraries) {
   EXPECT_TRUE(IsLaidOut(json + " \r\n\t", FileLayout::Writer::kQt)) << "with more of them";
 }
 
-// Each row is a value that some fault would have copied, though a library writes it as another one.
+// Each row is a value that a faulty check would copy, though a library writes it in another form.
 TEST(FileLayout, HasOneFormOfEachValue) {
   const struct {
     const char* name;
@@ -89,7 +89,7 @@ TEST(FileLayout, HasOneFormOfEachValue) {
       {"another end of lines", "[\r\n        1\r\n    ]", false, false},
       {"a blank at a line's end", "[\n        1, \n        2\n    ]", false, false},
       {"a blank before a colon", "{\n        'a' : 1\n    }", false, false},
-      {"no blank behind it", "{\n        'a':1\n    }", false, false},
+      {"no blank after it", "{\n        'a':1\n    }", false, false},
       {"members in order", "{\n        'a': 1,\n        'b': 1\n    }", true, true},
       {"members out of order", "{\n        'b': 1,\n        'a': 1\n    }", false, false},
       {"a member twice", "{\n        'a': 1,\n        'a': 1\n    }", false, false},
@@ -116,7 +116,7 @@ TEST(FileLayout, IsThatOfAWholeDocument) {
   EXPECT_FALSE(IsLaidOut(InLayout("{'a':" + NestedLists(64) + "}"), FileLayout::Writer::kQt)) << "too deep";
 }
 
-// Found by level, not by name alone: another one is further down, and one is beside the header.
+// Found by level, not only by name: another one is deeper, and one is beside the header.
 TEST(FileLayout, TheTimeIsThatOfTheHeader) {
   for (const char* json :
        {"{'info':{'create_time':5,'other':{'create_time':6}}}", "{'info':{'a':{'create_time':6},'create_time':5}}",

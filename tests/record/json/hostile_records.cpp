@@ -20,7 +20,7 @@ const char* const kGood[] = {
     " 'info':{'create_time':9007199254740993,'mine':[[]]},'merged_actions':[{'actions':[]}],'other':-0}",
 };
 
-// What JSON is made of, what of it is odd, and the words of records.
+// The tokens of JSON, unusual ones, and the words of records.
 const char* const kWords[] = {
     "{",
     "}",

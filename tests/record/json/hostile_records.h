@@ -1,4 +1,4 @@
-// Records that something went over.
+// Damaged records.
 #ifndef TESTS_RECORD_JSON_HOSTILE_RECORDS_H_
 #define TESTS_RECORD_JSON_HOSTILE_RECORDS_H_
 
@@ -10,16 +10,16 @@
 
 namespace taviinputmanager {
 
-// Records as the library writes them, and others that are good, or odd but JSON.
+// Records in the library's format, and others that are valid, or unusual JSON.
 QList<QByteArray> RecordsToSpoil();
 
-// Makes up documents: good ones with bytes, pieces of other ones and words of JSON in wrong places.
+// Generates documents: valid ones with bytes, parts of other ones and words of JSON in wrong places.
 class HostileRecords {
  public:
   explicit HostileRecords(int seed) : random_(static_cast<unsigned>(seed)), good_(RecordsToSpoil()) {}
 
   QByteArray Next();
-  // The same, but what can still be read is in the layout of the library, once more spoilt or not.
+  // The same, but what can still be read is in the library's format, damaged again or not.
   QByteArray NextWritten();
   int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
 
@@ -31,7 +31,7 @@ class HostileRecords {
   const QList<QByteArray> good_;
 };
 
-// Calls `visit` with each row of up to `most` of the words.
+// Calls `visit` with each sequence of up to `most` of the words.
 void ForEachRow(const QList<QByteArray>& words, int most, const std::function<void(const QByteArray&)>& visit);
 
 }  // namespace taviinputmanager

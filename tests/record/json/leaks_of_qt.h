@@ -1,4 +1,4 @@
-// What Qt's reader of JSON never frees.
+// Memory that Qt's JSON parser never frees.
 #ifndef TESTS_RECORD_JSON_LEAKS_OF_QT_H_
 #define TESTS_RECORD_JSON_LEAKS_OF_QT_H_
 
@@ -8,8 +8,8 @@
 
 namespace taviinputmanager {
 
-// Qt 5.15 forgets a list or an object that stands under a key a second time. While this lives, the address sanitizer
-// does not report what is allocated; other tests read the same code without such keys.
+// Qt 5.15 leaks a list or an object if its key occurs twice. While this exists, the address sanitizer does not report
+// what is allocated; other tests run the same code without such keys.
 class LeaksOfQt {
  public:
   LeaksOfQt() = default;

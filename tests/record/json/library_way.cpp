@@ -40,7 +40,7 @@ std::string Told(const RecordContents& contents) {
   return Told(QJsonObject{{"info", contents.info}, {"record", ActionsAsJson(contents.actions.get())}});
 }
 
-// Of each list of actions the first one alone.
+// Only the first of each list of actions.
 void KeepFirst(RecordActions* actions) {
   if (auto* single = dynamic_cast<SingleRecordActions*>(actions)) {
     while (single->actions.size() > 1) delete single->actions.takeLast();
@@ -58,7 +58,7 @@ RecordContents ByLibrary(const QJsonObject& json, RecordReader::Keep keep) {
   return contents;
 }
 
-// Blanks behind a document are no part of it.
+// Blanks after a document are not part of it.
 QByteArray WithoutEnd(QByteArray bytes) {
   while (!bytes.isEmpty() && QByteArray(" \n\r\t").contains(bytes.back())) bytes.chop(1);
   return bytes;
@@ -108,7 +108,7 @@ std::string DifferenceInStampedCopy(const QByteArray& bytes, int window_bytes, i
   return stamped == copied.toStdString() ? std::string() : "the library writes " + stamped.value_or("nothing");
 }
 
-// What the library of timestamps makes of the bytes; nothing where they are not its.
+// The result of the timestamps' library for the bytes; nothing if it rejects them.
 QByteArray Stamped(const QByteArray& bytes) {
   try {
     return QByteArray::fromStdString(poco_json::Stamped(bytes.toStdString(), 5).value_or(std::string()));
@@ -139,7 +139,7 @@ QByteArray MergedByLibrary(const QVector<MergeParam>& params, qint64 create_time
   RecordInfo info;
   Utils()->ReadRecordInfo(Utils()->LoadJsonObject(params.first().file_name).value("info").toObject(), &info);
   info.create_time = create_time;
-  // Of items that are played once, without a gap: a sum of ints, which runs on past their range.
+  // For items that are played once, without a gap: a sum of ints, which wraps beyond their range.
   const quint32 total = static_cast<quint32>(info.total_running_time) * static_cast<quint32>(params.size());
   info.total_running_time = static_cast<quint64>(static_cast<int>(total));
   return QJsonDocument(QJsonObject{{"info", Utils()->WriteRecordInfo(info)}, {"merged_actions", items}}).toJson();

@@ -1,4 +1,4 @@
-// Merged and stamped files: the bytes are those of the libraries, whether they were copied or written anew.
+// Merged and stamped files: the bytes are those of the libraries, whether they were copied or rewritten.
 //
 // TAVI_RECORD_FILES and TAVI_RECORD_SEED make the search longer.
 #include <gtest/gtest.h>
@@ -56,7 +56,7 @@ class RecordCopies : public Story, protected RecordFiles {
     }
     EXPECT_EQ(expected, Bytes(file).toStdString());
   }
-  // A record of so many actions, as the library writes it.
+  // A record of this many actions, in the library's format.
   QByteArray LongRecord(int actions) const {
     QByteArray list;
     for (int i = 0; i < actions; ++i) list += (i == 0 ? "" : ",") + Text("{'data':'release','timing':1}");
@@ -94,8 +94,7 @@ TEST_F(RecordCopies, AStampedAndAMergedRecordAreMergedAgain) {
   ExpectMergedAsByLibrary(Bytes(Path("merged.json")));
 }
 
-// The file that is written is one of those that are read: over itself, through a link, or where no copy can be beside
-// it.
+// The target is one of the sources: itself, through a link, or without the possibility of a copy beside it.
 TEST_F(RecordCopies, OfTheFileItself) {
   MergeParam param;
   param.file_name = Put("source.json", LongRecord(5000));
@@ -104,7 +103,7 @@ TEST_F(RecordCopies, OfTheFileItself) {
   ASSERT_TRUE(MergeRecord(Path("link.json"), {param, param}));
   EXPECT_EQ(expected, Bytes(param.file_name));
 
-  const QString longest = Path(QString(255, 'n'));  // a copy would have a longer name, and no file has
+  const QString longest = Path(QString(255, 'n'));  // a copy's longer name is impossible
   ASSERT_TRUE(QFile::rename(Put("other.json", LongRecord(5000)), longest));
   param.file_name = longest;
   ASSERT_TRUE(MergeRecord(longest, {param, param}));
@@ -117,7 +116,7 @@ class ChangingSource : public RecordCopies {
  protected:
   ChangingSource() : source_(Put("source.json", LongRecord(5000))) {}
 
-  // Whether a merge notices what is done to its source when that has been looked at.
+  // Whether a merge notices changes to its source after it was examined.
   bool IsNoticed(const std::function<void()>& change) {
     MergedWriter writer;
     EXPECT_TRUE(writer.Add(source_, {}));
@@ -156,7 +155,8 @@ TEST_F(ChangingSource, IsNoticed) {
   }
 }
 
-// Each length that somebody else may cut a file to, while it is read: what is there is read, and the rest is the end.
+// Each length to which another program may truncate a file while it is read: the existing part is read, and then the
+// file ends.
 TEST_F(ChangingSource, CutShortWhileItIsReadItIsRefused) {
   const QByteArray record = LongRecord(3);
   class Cut : public QFile {

@@ -1,7 +1,7 @@
-// Reading without a tree: what is read at all is what the library reads.
+// Reading without a tree: what is read equals the library's result.
 //
-// TAVI_RECORD_DOCUMENTS, TAVI_RECORD_SEED and TAVI_RECORD_WORDS make the search longer: how many spoilt records, which
-// ones, and of how many words all rows are tried.
+// TAVI_RECORD_DOCUMENTS, TAVI_RECORD_SEED and TAVI_RECORD_WORDS make the search longer: the number of damaged records,
+// which ones, and the number of words in all sequences.
 #include "record/record_reader.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ bool IsOrdinary(const QByteArray& json, int window_bytes = JsonWindow::kUsualByt
   return read_count == 1;
 }
 
-// A document with this in place of what is usual there.
+// A document with this in the usual place.
 QByteArray WithAction(const QByteArray& action) { return Text("{'info':{'a':1},'actions':[" + action + "]}"); }
 QByteArray WithData(const QByteArray& value) { return WithAction("{'data':" + value + "}"); }
 QByteArray WithTiming(const QByteArray& value) { return WithAction("{'timing':" + value + "}"); }
@@ -47,7 +47,7 @@ TEST(RecordReader, ThroughAnyWindow) {
   EXPECT_TRUE(IsOrdinary(WithData('"' + QByteArray(5000, 'x') + '"'), 8)) << "a text that is longer than the window";
 }
 
-// Each row is a document that some fault would read, or read as something else.
+// Each row is a document that a faulty reader would accept, or read differently.
 TEST(RecordReader, LeavesWhatIsOddToTheLibrary) {
   const LeaksOfQt leaks;
   const struct {
@@ -114,7 +114,7 @@ TEST(RecordReader, LeavesWhatIsOddToTheLibrary) {
   }
 }
 
-// Each row is a document that needs the library for a value at most; the values are those of the library.
+// Each row is a document that needs the library at most for a value; the values are those of the library.
 TEST(RecordReader, ReadsOddValuesWithTheLibrary) {
   const struct {
     const char* name;
@@ -186,7 +186,7 @@ TEST(RecordReader, ADeviceThatFailsIsAtItsEnd) {
 
 class RowsOfWords : public testing::Test {
  protected:
-  // All rows of the words, between these.
+  // All sequences of the words, between these.
   static void ExpectNoDifference(const QByteArray& before, const QList<QByteArray>& words, const QByteArray& after,
                                  int least_read) {
     int read_count = 0;

@@ -1,6 +1,6 @@
 // Writing without a tree: the bytes are those of the library.
 //
-// TAVI_RECORD_ACTIONS and TAVI_RECORD_SEED make the search longer: how many actions are made up, and which.
+// TAVI_RECORD_ACTIONS and TAVI_RECORD_SEED make the search longer: how many actions are generated, and which.
 #include "record/json/record_writer.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kUsualActions = 20000;
 
-// Actions that are deleted with it.
+// Actions that this object owns.
 struct Actions : QList<RecordAction*> {
   Actions() = default;
   Actions(const Actions&) = delete;
@@ -99,7 +99,7 @@ TEST(RecordWriter, ADeviceThatTakesAPartOnlyIsAFailure) {
   EXPECT_FALSE(WriteRecord(Header(), {}, &file));
 }
 
-// Letters of all kinds: plain ones, those that are escaped, halves of pairs.
+// Letters of all kinds: plain ones, escaped ones, unpaired surrogates.
 QString MadeUpText(HostileRecords* random) {
   QString text;
   for (int left = random->Below(12); left > 0; --left) {
@@ -128,7 +128,7 @@ class ExampleRecords : public testing::TestWithParam<const char*>, protected Rec
   static QString Example() { return QString(TAVI_SOURCE_DIR "/examples/records/") + GetParam() + ".json"; }
 };
 
-// Recorded, merged and stamped by this library: read and written again, the bytes are the same.
+// Recorded, merged and stamped by this library: after reading and writing, the bytes are the same.
 TEST_P(ExampleRecords, StayAsTheyAre) {
   const QByteArray bytes = Bytes(Example());
   int read_count = 0;

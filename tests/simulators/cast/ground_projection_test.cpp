@@ -20,7 +20,7 @@ const char kPerspective[] = "1,0,0,0, 0,0,1,0, 0,0,0,0, 0,0,1,1";
 
 GroundView View(const char* matrix) { return GroundView::Parse(matrix).value(); }
 
-// The character stands in the middle of the display.
+// The character is in the middle of the display.
 SpellConfigItem Item(const char* matrix, double ground_scale) {
   SpellConfigItem item;
   item.character_rel_x = item.character_rel_y = 0.5;
@@ -68,8 +68,8 @@ struct Row {
   QPoint target;
 };
 
-// Forward is from the character to the point of its x at y = 0.8, straight up in both views: u = (0, 1), and so
-// p = r.x, q = r.y. The finger goes |r| * ground_scale the way of (-p, -q).
+// Forward is from the character to the point of its x at y = 0.8, straight up in both views: u = (0, 1), and so p =
+// r.x, q = r.y. The finger moves by |r| * ground_scale in the direction of (-p, -q).
 const Row kProjected[] = {
     // r = (0.5, 0): 0.5 * 200 = 100
     {"right of the character", kFlat, 200, {960, 360}, {640 - 100, 360}},

@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// Giving a cast up, ending it by force, and what follows a cast.
+// Cancelling a cast, ending it by force, and what follows a cast.
 
 namespace taviinputmanager {
 namespace {
@@ -242,7 +242,7 @@ TEST_F(SpellForceStop, LiftsOnceMoreAfterACast) {
   LoadAndAim();
   Play("up Q");
   Forget();
-  Spells()->ForceStop();  // the worker is still the present one
+  Spells()->ForceStop();  // it is still the current worker
   EXPECT_WIRE(Lift(0));
   Spells()->ForceStop();
   EXPECT_WIRE_NONE();

@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// A cast whose keymap goes in the middle of it.
+// A cast whose keymap is deleted in the middle of it.
 
 namespace taviinputmanager {
 namespace {
@@ -68,7 +68,7 @@ TEST_F(SpellLifetime, ACancelledInnerWalkOutlivesItsKeymap) {
   Play("down Q; down C; down W; wait 10");
   AddWalk();
   Load();
-  Play("up W; down D; wait 10");  // it has no cast any more that would end it, and goes on by its copy
+  Play("up W; down D; wait 10");  // its keymap has no cast that would end it, and it continues with its copy
   EXPECT_WIRE(At(0, 960, 540), At(10, 1024, 540));
 }
 
@@ -78,8 +78,8 @@ TEST_F(SpellLifetime, ACastInForceBesideThePresentOneSurvivesALoad) {
   Load();
   Play("down Q; down E");
   AddSpell(keywords::kTriggerImmediate, keywords::kLocationMouse);
-  Load();          // stops E alone
-  Play("down Q");  // Q is in force by what was copied of it
+  Load();          // stops only E
+  Play("down Q");  // Q is active with its copy
   EXPECT_WIRE_NONE();
   Play("up Q");
   EXPECT_WIRE(Lift(0));
@@ -98,7 +98,7 @@ TEST_F(SpellLifetime, AJoystickKeymapMayGoInTheMiddleOfAnAim) {
   EXPECT_TRUE(IsActive());
   Play("joy axis 1 0.125,0");
   EXPECT_WIRE(At(0, 976, 540));
-  Play("joy up A");  // the key is the same; the released item says what follows
+  Play("joy up A");  // the key is the same; the released item decides what follows
   EXPECT_WIRE(Lift(0), "0ms 1:SLOTRELEASE:8");
 }
 
@@ -134,7 +134,7 @@ TEST_F(SpellLifetime, AnInnerWalkOfAGoneKeymapEndsWithAReset) {
   Play("joy down A");
   EXPECT_WIRE(At(0, 960, 540), "0ms 1:SLOTRELEASE:2");
   LoadJoystick();
-  Play("down W; wait 10");  // exclusive as ever
+  Play("down W; wait 10");  // still exclusive
   EXPECT_WIRE(At(0, 960, 540), At(10, 960, 476));
   Play("reset");
   Forget();

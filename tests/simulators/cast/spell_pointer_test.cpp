@@ -2,7 +2,7 @@
 #include "keymap/keywords.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// Aiming with the pointer, and the swipe to where it aims.
+// Aiming with the pointer, and the swipe to its target.
 
 namespace taviinputmanager {
 namespace {

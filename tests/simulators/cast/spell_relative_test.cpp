@@ -82,7 +82,7 @@ TEST_F(SpellRelative, OtherLocationsWithholdTheCounts) {
     EXPECT_WIRE_NONE();
     Play("up Q");
     Forget();
-    Play("rel 10,-5");  // the view has them again
+    Play("rel 10,-5");  // the view gets them again
     EXPECT_WIRE("0ms 1:SLOTPRESS:1:1:1:1:640:360");
   }
 }
@@ -138,7 +138,7 @@ TEST_F(SpellRelative, TheFirstRealMovementJumpsOnce) {
   EXPECT_WIRE(At(0, 1088, 577));
   Play("up Q; down Q");
   Forget();
-  Play("rel -10,0");  // with the next press it is due again
+  Play("rel -10,0");  // at the next press it is applied again
   EXPECT_WIRE(At(0, 960 - 36 - 10, 540));
 }
 

@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// Aiming with the right stick of a gamepad, by spells of the joystick keymap.
+// Aiming with a gamepad's right stick, with spells of the gamepad keymap.
 
 namespace taviinputmanager {
 namespace {
@@ -187,7 +187,7 @@ TEST_F(SpellStick, OnPressOfTheGamepadIsNotFiredByTheWalk) {
   Play("joy down A; joy up A");
   EXPECT_WIRE(At(0, 960, 540));
   EXPECT_TRUE(SpellEventSimulator::GetInstance()->IsSpellActive());
-  Play("joy down A");  // the finger again; the item in force stays
+  Play("joy down A");  // the contact again; the active item stays
   EXPECT_WIRE(At(0, 960, 540));
 }
 

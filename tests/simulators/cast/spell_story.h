@@ -1,4 +1,4 @@
-// What the tests of aimed casts share.
+// Helpers for the tests of aimed casts.
 #ifndef TESTS_SIMULATORS_CAST_SPELL_STORY_H_
 #define TESTS_SIMULATORS_CAST_SPELL_STORY_H_
 

@@ -11,7 +11,7 @@ namespace {
 using tavikeymapmanager::SpellConfigItem;
 namespace keywords = tavikeymapmanager::keywords;
 
-// The worker without its simulator. Nothing but the story is connected to it.
+// The worker without its simulator. Only the story is connected to it.
 class SpellSteps : public SpellStory {
  protected:
   SpellSteps() {
@@ -28,7 +28,7 @@ class SpellSteps : public SpellStory {
   }
   std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
 
-  SpellConfigItem* item_ = nullptr;  // the keymap's
+  SpellConfigItem* item_ = nullptr;  // owned by the keymap
   SpellSyncWorker* const worker_ = SpellOnReleaseSyncWorker::GetInstance();
 
  private:

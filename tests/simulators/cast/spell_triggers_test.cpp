@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// When the finger goes down and when it lifts: the four triggers.
+// When the finger is put down and lifted: the four triggers.
 
 namespace taviinputmanager {
 namespace {
@@ -26,7 +26,7 @@ TEST_F(SpellTriggers, ImmediateHoldsTheButtonWhileItsKeyIsDown) {
   EXPECT_WIRE(At(0, 960, 540));
   EXPECT_TRUE(IsActive());
   PointTo(840, 360);
-  Play("wait 100; down Q");  // the pointer does not aim, and a second press is nothing
+  Play("wait 100; down Q");  // the pointer does not aim, and a second press has no effect
   EXPECT_WIRE_NONE();
   Play("up Q");
   EXPECT_WIRE(Lift(100));
@@ -58,7 +58,7 @@ TEST_F(SpellTriggers, OnReleaseSwipesFollowsAndCastsWithItsKey) {
   Play("wait 1; up Q");
   EXPECT_WIRE(Lift(58));
   EXPECT_FALSE(IsActive());
-  Play("wait 100; up Q");  // ticks find nothing to do
+  Play("wait 100; up Q");  // ticks have nothing to do
   EXPECT_WIRE_NONE();
 }
 
@@ -134,7 +134,7 @@ TEST_F(SpellTriggers, OnPressOnTheInnerWalkIsATap) {
 }
 
 TEST_F(SpellTriggers, AnUnknownTriggerCastsOnRelease) {
-  AddSpell("Spell_Trigger_Immediate", keywords::kLocationMouse);  // spelt as nobody spells it
+  AddSpell("Spell_Trigger_Immediate", keywords::kLocationMouse);  // an unknown spelling
   Load();
   Play("down Q");
   EXPECT_WIRE(At(0, 960, 540), At(0, 980, 540));
@@ -244,7 +244,7 @@ TEST_F(SpellTriggers, OnPressKeepsTheItemThatIsInForce) {
   AddSpell(keywords::kTriggerOnPress, keywords::kLocationMousePosition);
   AddSpell(keywords::kTriggerOnPress, keywords::kLocationSwipehold, "E");
   Load();
-  Play("down Q; down E");  // by E's location the finger goes down, by Q's it waits for no walk
+  Play("down Q; down E");  // E's location presses the finger, Q's waits for no walk
   EXPECT_WIRE(At(0, 960, 540));
   EXPECT_TRUE(IsActive());
 }
@@ -283,7 +283,7 @@ TEST_F(SpellTriggers, AReleaseMakesItsWorkerThePresentOne) {
   Forget();
   Play("wait 16");
   EXPECT_WIRE(At(16, 980, 540));
-  Play("up E; wait 16");  // a stray release: frames go to a worker that follows nothing
+  Play("up E; wait 16");  // a stray release: frames go to a worker that has no cast
   EXPECT_WIRE_NONE();
   EXPECT_FALSE(IsActive());
   Play("up Q");

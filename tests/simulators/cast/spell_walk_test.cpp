@@ -2,7 +2,7 @@
 #include "simulators/cast/spell_event_simulator.h"
 #include "tests/simulators/cast/spell_story.h"
 
-// Aiming with the walk: the ordinary one, or one of the spell's own on its finger.
+// Aiming with the walk: the ordinary one, or the spell's own, which shares its contact.
 
 namespace taviinputmanager {
 namespace {
@@ -30,7 +30,7 @@ TEST_F(SpellWalk, TheFingerFollowsTheDirectionOfTheWalk) {
   AddAimed();
   Load();
   Play("down Q");
-  EXPECT_WIRE(At(0, 960, 540), At(0, 960, 540));  // the button, and no direction so far
+  EXPECT_WIRE(At(0, 960, 540), At(0, 960, 540));  // the button, without a direction so far
   Play("down W; wait 10");
   EXPECT_WIRE(Walk(0, 256, 360), Walk(10, 256, 232), At(10, 960, 468));
   Play("down D");  // 91 / 128 * 72 = 51.2
@@ -137,10 +137,10 @@ TEST_F(SpellWalk, OnPressHasDoneWithTheWalkWhenItHasCast) {
   EXPECT_TRUE(IsActive());
 }
 
-// A cancel ends no subscription: the walk goes on to be told, to whoever is the present one.
+// A cancel ends no connection: the walk is still reported, to the current worker.
 class SpellWalkAfterCancel : public SpellWalk {
  protected:
-  // Q is aimed by the walk and cancelled.
+  // Q is aimed with the walk and cancelled.
   void LoadAndCancel() {
     AddWalk();
     AddAimed();
@@ -214,7 +214,7 @@ TEST_F(SpellInnerWalk, DrivesTheSpellsFingerBesideTheWalk) {
   EXPECT_WIRE(Walk(0, 256, 360), At(0, 960, 540), Walk(10, 256, 232), At(10, 960, 476));
   Play("down D");
   EXPECT_WIRE(Walk(10, 347, 269), At(10, 1005, 495));
-  Play("up Q");  // the inner walk ends and lifts, and so does the spell; the keys are the walk's already
+  Play("up Q");  // the inner walk ends and releases, and so does the spell; the walk has the keys already
   EXPECT_WIRE(Lift(10), Lift(10));
   Play("up W");
   EXPECT_WIRE(Walk(10, 384, 360));
@@ -226,9 +226,9 @@ TEST_F(SpellInnerWalk, TakesOverAWalkUnderWay) {
   Load();
   Play("down W; wait 10");
   Forget();
-  Play("down Q; wait 10");  // the spell's press, and an honest new walk
+  Play("down Q; wait 10");  // the spell's press, and a new walk of its own
   EXPECT_WIRE(At(10, 960, 540), At(10, 960, 540), At(20, 960, 476));
-  Play("up W");  // the inner walk leaves the finger down: that is the spell's
+  Play("up W");  // the inner walk leaves the contact down: it belongs to the spell
   EXPECT_WIRE(EndWalk(20));
   Play("up Q");
   EXPECT_WIRE(Lift(20), Lift(20));
@@ -244,7 +244,7 @@ TEST_F(SpellInnerWalk, AnExclusiveOneStopsTheWalkAndGivesItBack) {
   EXPECT_WIRE(At(10, 960, 540), At(10, 960, 540), EndWalk(10), At(20, 960, 476));
   Play("down D");
   EXPECT_WIRE(At(20, 1005, 495));
-  Play("up Q");  // the walk begins anew with both keys before the finger lifts
+  Play("up Q");  // the walk starts again with both keys before the finger is lifted
   EXPECT_WIRE(Walk(20, 256, 360), Lift(20), Lift(20));
   Play("wait 10; up D");
   EXPECT_WIRE(Walk(30, 347, 269), Walk(30, 256, 232));
@@ -274,22 +274,22 @@ TEST_F(SpellInnerWalk, ATransparentOneDoesNotEndThatOfAnotherSpell) {
   Load();
   Play("down Q; down E; up E");
   Forget();
-  Play("down W; wait 10");  // still Q's alone
+  Play("down W; wait 10");  // still only Q's
   EXPECT_WIRE(At(0, 960, 540), At(10, 960, 476));
 }
 
 TEST_F(SpellInnerWalk, FinishingTheAimGivesNothingBack) {
   AddWalk();
   AddAimed(true, keywords::kTriggerOnNext);
-  AddSpell(keywords::kTriggerOnPress, keywords::kLocationMousePosition, "E");  // does nothing of its own
+  AddSpell(keywords::kTriggerOnPress, keywords::kLocationMousePosition, "E");  // has no effect of its own
   Load();
   Play("down W; wait 10; down Q; up Q; wait 10");
   Forget();
   Play("down E");
   EXPECT_WIRE(At(20, 960, 540), Lift(20));
   Play("wait 20");
-  EXPECT_WIRE_NONE();             // W is still down, and nobody walks
-  Play("up W; down D; wait 10");  // the next key is the walk's alone
+  EXPECT_WIRE_NONE();             // W is still down, and there is no walk
+  Play("up W; down D; wait 10");  // only the walk gets the next key
   EXPECT_WIRE(Walk(40, 256, 360), Walk(50, 384, 360));
 }
 
@@ -362,7 +362,7 @@ TEST_F(SpellInnerWalk, EachAimBringsItsOwn) {
   EXPECT_WIRE(Walk(10, 256, 360), At(10, 960, 540), Walk(20, 256, 232), At(20, 960, 412));
 }
 
-// Tells how many of it live.
+// Counts its instances.
 struct CountedWalk : SwipeholdConfigItem {
   CountedWalk(const SwipeholdConfigItem& walk, int* live) : SwipeholdConfigItem(walk), live(live) { ++*live; }
   CountedWalk(const CountedWalk&) = delete;
@@ -371,7 +371,7 @@ struct CountedWalk : SwipeholdConfigItem {
   int* live;
 };
 
-// A keymap library's own kind of spell, which makes its inner walk when it is asked.
+// A keymap library's own kind of spell, which creates its inner walk on request.
 struct LibrarySpell : SpellConfigItem {
   SwipeholdConfigItem* InnerSwipeholdItem() const override {
     ++*asked;
@@ -384,7 +384,7 @@ struct LibrarySpell : SpellConfigItem {
 
 TEST_F(SpellInnerWalk, TheKeymapsOwnItemIsAskedForIt) {
   int asked = 0;
-  static int live = 0;  // one stays to the end of the program
+  static int live = 0;  // one exists until the end of the program
   AddWalk();
   auto* item = Add<LibrarySpell>(keywords::kTypeSpell, "Q", {0.75, 0.75});
   item->touch_location = keywords::kLocationInnerSwipehold;
@@ -399,8 +399,8 @@ TEST_F(SpellInnerWalk, TheKeymapsOwnItemIsAskedForIt) {
   EXPECT_EQ(asked, 1);
   Play("up Q");
   EXPECT_WIRE(Lift(10), Lift(10));
-  EXPECT_EQ(asked, 1);  // what the end needs is known from the aim
-  EXPECT_EQ(live, 1);   // the walk keeps it until it is given another
+  EXPECT_EQ(asked, 1);  // the end uses what the aim recorded
+  EXPECT_EQ(live, 1);   // the walk keeps it until it gets another
   Play("down Q; wait 10; up Q");
   EXPECT_EQ(asked, 2);
   EXPECT_EQ(live, 1);

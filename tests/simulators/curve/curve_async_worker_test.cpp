@@ -1,4 +1,4 @@
-// The worker of a curve without a run around it.
+// The worker of a curve without a run.
 #include "simulators/curve/curve_async_worker.h"
 
 #include <QPointF>
@@ -77,7 +77,7 @@ TEST_F(CurveWorker, IsStoppedByItsDeviceAndScanCode) {
   EXPECT_EQ("", Said());
   worker.Stop("keyboard", 17);
   EXPECT_EQ("forced", Said());
-  Wait(8);  // the timer is its run's to end
+  Wait(8);  // only its run ends the timer
   EXPECT_EQ("0.25,0.5", Said());
 }
 

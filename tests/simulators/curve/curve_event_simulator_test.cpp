@@ -113,7 +113,7 @@ TEST_F(Curve, AListOfOneEntryIsNone) {
     Play("down W; wait 100");
     EXPECT_WIRE_NONE();
     Play("up W; wait 100");
-    EXPECT_WIRE("100ms 1:SLOTRELEASE:5");  // of a finger that is not down
+    EXPECT_WIRE("100ms 1:SLOTRELEASE:5");  // of a contact that is not down
   }
 }
 
@@ -161,7 +161,7 @@ TEST_F(Curve, TwoAtOnceFightOverOneFinger) {
   Load();
   Play("down W; wait 4; down E; wait 10");
   EXPECT_WIRE("8ms 1:SLOTPRESS:5:5:1:1:800:360", "12ms 1:SLOTPRESS:5:5:1:1:800:360");
-  Play("up W; wait 100");  // forgets the origin too: 0.25 and 0.125 of the display are 320 and 90
+  Play("up W; wait 100");  // clears the origin too: 0.25 and 0.125 of the display are 320 and 90
   EXPECT_WIRE("14ms 1:SLOTRELEASE:5", "20ms 1:SLOTPRESS:5:5:1:1:320:90");
 }
 
@@ -232,7 +232,7 @@ TEST_F(Curve, ANotchPlaysOnceAndLifts) {
   EXPECT_WIRE_NONE();
 }
 
-// The end is told at 24 and at 32 ms, before the main thread can quit the run.
+// The end is reported at 24 and at 32 ms, before the main thread can quit the run.
 TEST_F(Curve, ANotchLiftsAsOftenAsItsEndIsToldToABusyMainThread) {
   auto* item = AddCurve("W", two_points_);
   Load();
@@ -249,7 +249,7 @@ TEST_F(Curve, ATurnOfTheWheelPlaysAMappedCurveWithoutASleep) {
   Load();
   Play("wheel +120 640,360; wait 8");
   EXPECT_WIRE("8ms 1:SLOTPRESS:5:5:1:1:480:180");
-  Play("wheel +120 640,360; wait 100");  // the first is under way
+  Play("wheel +120 640,360; wait 100");  // the first is in progress
   EXPECT_WIRE("16ms 1:SLOTPRESS:5:5:1:1:640:270", "24ms 1:SLOTRELEASE:5");
 }
 
@@ -266,7 +266,7 @@ TEST_F(Curve, ANotchDuringAnyRunDoesNothing) {
   Simulator()->Wheel(notch, nullptr);
   Wait(100);
   EXPECT_WIRE("108ms 1:SLOTPRESS:5:5:1:1:480:180", "116ms 1:SLOTPRESS:5:5:1:1:640:270");
-  Simulator()->Wheel(notch, nullptr);  // the key is held still, but its run is over
+  Simulator()->Wheel(notch, nullptr);  // the key is still held, but its run is over
   Wait(8);
   EXPECT_WIRE("216ms 1:SLOTPRESS:5:5:1:1:960:540");
 }
@@ -306,7 +306,7 @@ TEST_F(Curve, AResetOfTheMacroSlotsLeavesItAlone) {
   EXPECT_WIRE("16ms 1:SLOTPRESS:5:5:1:1:640:270");
 }
 
-// One request a run, and both runs answer both.
+// One request for each run, and both runs react to both.
 TEST_F(Curve, AResetOfTwoRunsOfOneKeyLiftsForEachAnswer) {
   auto* item = AddCurve("W", two_points_);
   Load();

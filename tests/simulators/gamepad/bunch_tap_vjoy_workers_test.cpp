@@ -1,4 +1,4 @@
-// The workers of rapid virtual buttons without a run around them: what they signal, and what stops them.
+// The workers of rapid virtual buttons without a run: their signals, and what stops them.
 #include "simulators/gamepad/bunch_tap_continue_vjoy_worker.h"
 #include "simulators/gamepad/bunch_tap_one_off_vjoy_worker.h"
 #include "tests/support/bunch_worker_story.h"

@@ -1,4 +1,4 @@
-// Stories of the virtual gamepad's parts, told by their signals.
+// Stories of the virtual gamepad's parts, as signals.
 #ifndef TESTS_SIMULATORS_GAMEPAD_PAD_STORY_H_
 #define TESTS_SIMULATORS_GAMEPAD_PAD_STORY_H_
 
@@ -8,10 +8,10 @@
 
 namespace taviinputmanager {
 
-// Nothing is connected to the parts but the story itself. Its time zero is the last load.
+// Only the story is connected to the parts. Its time starts at 0 with the last load.
 class PadStory : public Story {
  protected:
-  // What the parts said since the last look: "25ms press A".
+  // The signals since the last call: "25ms press A".
   std::string Said() { return std::exchange(said_, {}).join(", ").toStdString(); }
   void Say(const QString& what) { said_.append(QStringLiteral("%1ms %2").arg(Time().NowMs() - start_ms_).arg(what)); }
   void LoadPad() {

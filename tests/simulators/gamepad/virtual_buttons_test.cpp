@@ -148,7 +148,7 @@ TEST_F(RapidButtons, OneReleaseEndsBothRunsOfAKeyPressedTwice) {
   EXPECT_EQ("0ms press X, 10ms press X, 15ms release X, 15ms release X", Said());
 }
 
-// A run looks at the device and the code of a key, never at its name.
+// A run compares the device and the code of a key, never its name.
 TEST_F(RapidButtons, AMouseButtonEndsItsRunByItsCode) {
   AddRapid("Continue", "Mouse Right");
   LoadPad();

@@ -1,4 +1,4 @@
-// The virtual sticks without the gamepad: their signals, and what they answer.
+// The virtual sticks without the gamepad: their signals, and the results of queries.
 #include "simulators/gamepad/vstick_left_stick_simulator.h"
 #include "simulators/gamepad/vstick_right_stick_simulator.h"
 #include "simulators/walk/swipehold_async_worker.h"
@@ -63,7 +63,7 @@ TEST_F(VStick, SpeaksOnceHoweverOftenItIsPressed) {
   EXPECT_EQ("32ms left 1,0, 32ms left 0,0, 72ms left 1,0, 72ms left 0,0, 112ms left 1,0, 112ms left 0,0", Said());
 }
 
-// A worker that walks before the first press is not heard, and a release does not make it so.
+// A worker that walks before the first press is ignored, and a release does not change that.
 TEST_F(VStick, IsSilentUntilTheFirstPress) {
   Listen<VStickLeftStickSimulator>("left");
   auto* item = AddStick("VirtualLeftStick");
@@ -87,10 +87,10 @@ TEST_F(VStick, EachAnswersWithItsOwnPoint) {
   LoadPad();
   EXPECT_EQ(QPointF(0, 0), PointOf<VStickLeftStickSimulator>());
   EXPECT_EQ(QPointF(0, 0), PointOf<VStickRightStickSimulator>());
-  Play("down W; down Right");  // where the keys lead; the sticks have not moved yet
+  Play("down W; down Right");  // the target of the keys; the sticks have not moved yet
   EXPECT_EQ(QPointF(0, -1), PointOf<VStickLeftStickSimulator>());
   EXPECT_EQ(QPointF(1, 0), PointOf<VStickRightStickSimulator>());
-  EXPECT_EQ(QPointF(0, -1), PointOf<SwipeholdEventSimulator>());  // the walk answers for the left one
+  EXPECT_EQ(QPointF(0, -1), PointOf<SwipeholdEventSimulator>());  // the walk reports the left one
   Play("up W; up Right");
   EXPECT_EQ(QPointF(0, 0), PointOf<VStickLeftStickSimulator>());
   EXPECT_EQ(QPointF(0, 0), PointOf<VStickRightStickSimulator>());
@@ -104,7 +104,7 @@ TEST_F(VStick, OfItemsThatShareItTheOneUsedLastIsInForceAlsoByARelease) {
   LoadPad();
   Play("down W; wait 200; up I; wait 10");
   Said();
-  SwipeholdAsyncWorker::GetInstance(2)->ReplayDirections({1, 0});  // right, anew
+  SwipeholdAsyncWorker::GetInstance(2)->ReplayDirections({1, 0});  // right, again
   Wait(32);
   EXPECT_EQ("242ms left 1,0", Said());
 }
@@ -138,7 +138,7 @@ TEST_F(VStick, OutlivesItsKeymap) {
   Play("down D; wait 32");
   EXPECT_EQ("32ms left 0.1640625,0", Said());
   AddStick("VirtualLeftStick");
-  LoadPad();  // the old item is gone; the slide goes on from its copy, and time zero is now
+  LoadPad();  // the old item is deleted; the slide continues with its copy, and time zero is now
   Play("wait 100; up D");
   EXPECT_EQ(
       "16ms left 0.328125,0, 32ms left 0.4921875,0, 48ms left 0.65625,0, 64ms left 0.8203125,0, 80ms left 1,0, "
@@ -150,7 +150,7 @@ TEST_F(VStick, APressGapBlocksAsThatOfAWalkDoes) {
   Listen<VStickLeftStickSimulator>("left");
   AddStick("VirtualLeftStick")->press_gap_ms = 100;
   LoadPad();
-  PointOf<VStickLeftStickSimulator>();  // the gap counts from the stick's making, too
+  PointOf<VStickLeftStickSimulator>();  // the gap also counts from the stick's creation
   Play("wait 200; down D; wait 32; up D; wait 40; down D; wait 32");
   // Released at 232 ms; pressed again at 272 ms, which waits for 332 ms.
   EXPECT_EQ("232ms left 1,0, 232ms left 0,0, 364ms left 1,0", Said());

@@ -89,7 +89,7 @@ TEST_F(MacroCurves, ACurveIsHeldUntilItIsReleased) {
   Run({"curve_last_point_sleep_time:until_release_cmd", "curve_rel:(0.25,0.5);(0.75,0.5)", "sleep:100", "curve_release",
        "curve_release"});
   Wait(1000);
-  // The command behind runs at the last point.
+  // The command after it runs at the last point.
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:320:360", "8ms 1:SLOTMULTIPRESS:18:18:960:360",
               "108ms 1:SLOTMULTIRELEASE:18");
 }
@@ -98,7 +98,7 @@ TEST_F(MacroCurves, ACurveOfOnePointIsHeldToo) {
   Run({"curve_last_point_sleep_time:until_release_cmd", "curve_rel:(0.25,0.5)", "sleep:100", "release_all",
        "curve_rel:(0.25,0.5)"});
   Wait(1000);
-  // release_all forgets the setting: the second curve plays out.
+  // release_all resets the setting: the second curve is completed.
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:320:360", "108ms 1:SLOTMULTIRELEASE:18",
               "108ms 1:SLOTMULTIPRESS:18:18:320:360", "116ms 1:SLOTMULTIRELEASE:18");
 }
@@ -149,7 +149,7 @@ TEST_F(MacroCurves, AResetLiftsTheFinger) {
   Run({"start_loop:until_release", kThree, "stop_loop"});
   Forget();
   Play("wait 4; reset full; wait 100");
-  // The finger of curve items lifts at every reset; then the macro's own.
+  // Every reset releases the contact of curve items; then the macro's own.
   EXPECT_EQ((QStringList{"4ms 1:SLOTRELEASE:5", "4ms 1:SLOTMULTIRELEASE:18"}), TakeWire().mid(0, 2));
   EXPECT_TRUE(MacroSlotManager::GetInstance()->ActiveSlots().isEmpty());
 }

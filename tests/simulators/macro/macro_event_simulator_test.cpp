@@ -1,4 +1,4 @@
-// Macros by key, what resets do to them, and operations.
+// Macros by key, the effect of resets on them, and operations.
 #include "simulators/macro/macro_event_simulator.h"
 
 #include "simulators/macro/macro_sequential_tap_async_worker.h"
@@ -105,7 +105,7 @@ TEST_F(MacroSimulator, AnotherDisplayEndsACurveThere) {
   Wait(10);
   Forget();
   Play("display 2");
-  // The book of fingers was emptied before, so that points are not found; a curve knows its finger.
+  // The pool was cleared before, so points are not found; a curve knows its slot.
   EXPECT_EQ((QStringList{"10ms 1:SLOTMULTIRELEASE:18"}), MacroLines());
 }
 

@@ -1,4 +1,4 @@
-// Fingers by point: press_rel, release_rel, release_all, switch_rel and click_rel.
+// Contacts by point: press_rel, release_rel, release_all, switch_rel and click_rel.
 #include "simulators/macro/macro_fingers.h"
 
 #include "host/simulation/virtual_event_dispatcher.h"
@@ -111,7 +111,7 @@ TEST_F(MacroFinger, AClickWithoutArgumentIsNoCommand) {
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:640:360");
 }
 
-// A release list that cuts a click short leaves its finger to the next pause.
+// If a release list cuts a click short, the next pause releases its contact.
 TEST_F(MacroFinger, AClickThatIsCutShortEndsAtTheNextTick) {
   Run({"click_rel:(0.5,0.5)"}, {"press_rel:(0.25,0.5)", "sleep:20", "release_rel:(0.25,0.5)"});
   Play("wait 4; up F1; wait 20");
@@ -125,7 +125,7 @@ TEST_F(MacroFinger, ASwitchTurnsEachPoint) {
   Run({"press_rel:(0.25,0.5)", "sleep:10", "switch_rel:(0.25,0.5);(0,0);(0.75,0.5)", "sleep:10",
        "switch_rel:(0.25,0.5);(0.75,0.5)"});
   Wait(20);
-  // The press half goes first. What is pressed again takes the first free slot.
+  // The presses come first. What is pressed again takes the first free slot.
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:320:360", "10ms 1:SLOTMULTIPRESS:19:19:960:360", "10ms 1:SLOTMULTIRELEASE:18",
               "20ms 1:SLOTMULTIPRESS:18:18:320:360", "20ms 1:SLOTMULTIRELEASE:19");
 }
@@ -145,7 +145,7 @@ TEST_F(MacroFinger, ASwitchAtThePointerFindsThePointPressed) {
   Play("down F1; up F1");
   Time().SetPointer({100, 100});
   Play("wait 5; down F1; up F1");
-  Play("wait 5; down F1");  // the point is forgotten: the next press is where the pointer is now
+  Play("wait 5; down F1");  // the point is cleared: the next press is at the pointer's current position
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:18:18:640:360", "5ms 1:SLOTMULTIRELEASE:18", "10ms 1:SLOTMULTIPRESS:18:18:100:100");
 }
 
@@ -161,8 +161,8 @@ TEST_F(MacroFinger, TheEndLiftsPressesOfOnePoint) {
   EXPECT_EQ((QSet<int>{19, 20}), MacroSlotManager::GetInstance()->ActiveSlots());
 }
 
-// The placeholder of a finger that is taken by number is the point (1, 1): each press there lifts one finger that has
-// it.
+// The placeholder of a contact that is taken by number is the point (1, 1): each press there releases one contact that
+// has it.
 TEST_F(MacroFinger, TheEndLiftsAFingerForEachPressOfItsPoint) {
   for (const int presses : {1, 2}) {
     MacroFingers fingers;

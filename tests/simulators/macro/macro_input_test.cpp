@@ -1,4 +1,4 @@
-// Input that macros make as if it came from the host.
+// Input that macros create as if it came from the host.
 #include "simulators/macro/macro_input.h"
 
 #include "core/input_status_manager.h"
@@ -102,7 +102,7 @@ TEST_F(MacroInputs, AVirtualPointerHasAFingerOfItsOwn) {
   Run({"vmouse_move:(0.25,0.5)", "vmouse_press:1", "sleep:10", "vmouse_move:(0.5,0.5)", "vmouse_move:(0,0)",
        "vmouse_release:1", "vmouse_move:(0.75,0.5)"});
   Wait(10);
-  // Only a move with the button down is seen.
+  // Only a move with the button down has an effect.
   EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:320:360", "10ms 1:SLOTPRESS:18:18:1:1:640:360", "10ms 1:SLOTRELEASE:18");
 }
 
@@ -115,7 +115,7 @@ TEST_F(MacroInputs, AMovePressesEachOfThreeButtonsAgain) {
               "5ms 1:SLOTPRESS:18:18:1:1:640:360", "5ms 1:SLOTPRESS:11:11:1:1:320:360");
 }
 
-// A release has the number of a button, and any other text is no button's.
+// A release has the number of a button; any other text is no button.
 TEST_F(MacroInputs, AReleaseOfAVirtualButtonMovesNothing) {
   Run({"vmouse_move:(0.25,0.5)", "vmouse_press:1", "vmouse_release:(0.5,0.5)"});
   EXPECT_WIRE("0ms 1:SLOTPRESS:18:18:1:1:320:360");

@@ -5,7 +5,7 @@
 namespace taviinputmanager {
 namespace {
 
-// How often the body runs that stands between two commands; at most ten times.
+// How often the body between two commands runs; at most ten times.
 int Runs(int count, int start, int last) {
   MacroLoop loop;
   loop.Start(count, start);

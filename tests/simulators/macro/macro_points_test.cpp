@@ -37,7 +37,7 @@ TEST_F(MacroPoints, ADisplayOfNoSizeHasNoPointer) {
   EXPECT_TRUE(ReadMacroPoint("mouse").isNull());
 }
 
-// What would be 2^31 pixels or more away is no place either: 1280 * 4e6 and 720 * 4e6 are.
+// A value of 2^31 pixels or more is not a position either: 1280 * 4e6 and 720 * 4e6 are.
 TEST_F(MacroPoints, APointOutOfReachHasNoPlaceOnTheTouchSurface) {
   EXPECT_EQ(QPoint(640, 360), MacroPointToTouch({0.5, 0.5}));
   EXPECT_EQ(std::nullopt, MacroPointToTouch({4e6, 0.5}));

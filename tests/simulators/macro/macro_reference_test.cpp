@@ -1,4 +1,4 @@
-// The reference of the language says what is so: its snippets are played.
+// The reference of the language is correct: its snippets are run.
 #include <set>
 #include <string>
 #include <vector>

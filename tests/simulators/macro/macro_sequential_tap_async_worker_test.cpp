@@ -1,4 +1,4 @@
-// The order and the time of commands: pauses, loops, presses and releases of the key.
+// The order and timing of commands: pauses, loops, presses and releases of the key.
 #include "simulators/macro/macro_sequential_tap_async_worker.h"
 
 #include "tests/simulators/macro/macro_story.h"
@@ -76,7 +76,7 @@ TEST_F(MacroWorker, ALoopOfAMillionRoundsNeedsNoStack) {
 TEST_F(MacroWorker, ALoopUntilReleaseEndsAtItsNextStop) {
   Run({"start_loop:until_release", "text_inject:a", "sleep:10", "stop_loop", "text_inject:b"}, {"text_inject:c"});
   Play("wait 25; up F1; wait 100");
-  // The commands behind the loop run, and the release list does not.
+  // The commands after the loop run, and the release list does not.
   EXPECT_WIRE("0ms text TEXT:a", "10ms text TEXT:a", "20ms text TEXT:a", "30ms text TEXT:b");
 }
 
@@ -154,12 +154,12 @@ TEST_F(MacroWorker, AMacroDoesNotPressItself) {
 TEST_F(MacroWorker, AMacroThatReleasesItselfGoesOnWithItsReleaseList) {
   Run({"keyboard_release:59", "text_inject:a"}, {"text_inject:b", "sleep:5", "text_inject:c"});
   Wait(100);
-  // The pause inside is passed: the outer call goes on with the list in progress. At the tick it is over.
+  // The pause of the inner call is skipped: the outer call continues the list at once. At the tick it is over.
   EXPECT_WIRE("0ms text TEXT:b", "0ms text TEXT:c");
 }
 
-// Each of the keys releases F1, whose list begins again from the top and drops the presses of those that run already.
-// So it begins once, and once more for each key.
+// Each of the keys releases F1, whose list starts again from the top and drops the presses of those that are already
+// running. So it starts once, and once more for each key.
 TEST_F(MacroWorker, AFiniteProgramRunsWholeHoweverOftenItReleasesItself) {
   constexpr int kKeys = 300;
   QStringList list = {"text_inject:a"};
@@ -200,7 +200,7 @@ TEST_F(MacroWorker, CommandsComeInTheSameOrderHoweverDeep) {
   EXPECT_EQ(expected.join('\n').toStdString(), TakeWire().join('\n').toStdString());
 }
 
-// Two that release each other without end, and one that does so by its own wheel notch, each of which takes 50 ms.
+// Two that release each other endlessly, and one that does so with its own wheel notch, each of which takes 50 ms.
 TEST_F(MacroWorker, ReleaseListsThatReleaseEachOtherComeToAnEnd) {
   Macro({}, {"keyboard_release:59", "text_inject:b"}, "F2");
   Run({}, {"keyboard_release:60", "text_inject:a"});
@@ -232,7 +232,7 @@ TEST_F(MacroWorker, AReleaseListThatPausesAndReleasesItsOwnKeyComesToAnEnd) {
   EXPECT_WIRE("105ms text TEXT:a");
 }
 
-// Each of them finds the list at its end, so that none comes back to itself.
+// Each of them finds the list at its end, so that none recurses.
 TEST_F(MacroWorker, AnotherMacroMayReleaseItManyTimesInOneCommand) {
   Macro({"start_loop:10", "keyboard_release:59", "next", "stop_loop", "text_inject:b"}, {}, "F2");
   Run({"keyboard_press:60"}, {"text_inject:a"});

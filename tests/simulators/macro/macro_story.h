@@ -11,7 +11,7 @@ namespace taviinputmanager {
 // (0.75,0.5) is 960,360. The fingers of macros are the slots 18 to 25.
 class MacroStory : public Story {
  protected:
-  // Of the callbacks, these stories are about those that macros make.
+  // Of the callbacks, these stories use those that macros cause.
   MacroStory() {
     Host().table.OnEscapeKeyOccupied = nullptr;
     Host().table.OnMappedDeviceUsed = nullptr;
@@ -24,7 +24,7 @@ class MacroStory : public Story {
     item->release_commands = release;
     return item;
   }
-  // A keymap of one macro, whose key goes down at time zero.
+  // A keymap with one macro, whose key is pressed at time zero.
   void Run(const QStringList& press, const QStringList& release = {}) {
     Macro(press, release);
     Load();

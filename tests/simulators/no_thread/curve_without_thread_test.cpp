@@ -1,4 +1,4 @@
-// A system that has no thread to give for a while: a function in front of the C library's refuses them.
+// A system that has no threads left for a while: a function that overrides the C library's refuses them.
 #include <atomic>
 #include <cerrno>
 #include <dlfcn.h>
@@ -34,7 +34,7 @@ int argument_count = 1;
 char program_name[] = "curve_without_thread_test";
 char* arguments[] = {program_name, nullptr};
 
-// A notch plays a curve only where no run of one is alive.
+// A notch plays a curve only if no run of one exists.
 TEST(CurveWithoutThread, IsOverAndLeavesTheWayToTheNext) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argument_count, arguments);
@@ -57,7 +57,8 @@ TEST(CurveWithoutThread, IsOverAndLeavesTheWayToTheNext) {
     for (const auto& entry : host->TakeTimeline()) lines.append(entry.text);
     return lines.size() >= 3;
   }));
-  // (0.25 + 0.125) * 1280 = 480; Initialize loaded display 0. A busy loop may find the end told more than once.
+  // (0.25 + 0.125) * 1280 = 480; Initialize loaded display 0. A busy event loop may get the reported end more than
+  // once.
   EXPECT_EQ((QStringList{"0:SLOTPRESS:5:5:1:1:480:360", "0:SLOTPRESS:5:5:1:1:640:360", "0:SLOTRELEASE:5"}),
             lines.mid(0, 3));
 }

@@ -42,7 +42,7 @@ class BunchTap : public Story {
   const QPointF e_{0.5, 0.5};
 };
 
-// 20 taps a second: 500 / 20 = 25 ms down, 25 ms up.
+// 20 taps per second: 500 / 20 = 25 ms down, 25 ms up.
 TEST_F(BunchTap, TapsForAsLongAsItsKeyIsHeld) {
   AddContinue("W", w_, 20);
   Load();
@@ -85,7 +85,7 @@ TEST_F(BunchTap, APressAndReleaseInOneGoIsOneTap) {
   auto* simulator = BunchTapEventSimulator::GetInstance();
   simulator->Press(item, &item->key);
   simulator->Release(item, &item->key);
-  EXPECT_WIRE_NONE();  // the run begins when its starter has returned
+  EXPECT_WIRE_NONE();  // the run begins when the key handler has returned
   Wait(1000);
   EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:320:360", "0ms 1:SLOTRELEASE:11");
 }
@@ -131,7 +131,7 @@ TEST_F(BunchTap, AFrequencyWithoutAPeriodHoldsTheFinger) {
   }
 }
 
-// Two taps of 25 ms down and 25 ms up; the end comes with the last release and lifts once more.
+// Two taps of 25 ms down and 25 ms up; the end comes with the last release and releases again.
 TEST_F(BunchTap, AOneOffRunBeginsWhenItsKeyComesUp) {
   AddOneOff("W", w_, 2);
   Load();
@@ -185,7 +185,7 @@ TEST_F(BunchTap, EachHeldKeyHasItsOwnRhythmAndFinger) {
   Play("down W; wait 10; down E; wait 50");
   EXPECT_WIRE("0ms 1:SLOTPRESS:11:11:1:1:320:360", "10ms 1:SLOTPRESS:12:12:1:1:640:360", "25ms 1:SLOTRELEASE:11",
               "50ms 1:SLOTPRESS:11:11:1:1:320:360", "60ms 1:SLOTRELEASE:12");
-  Play("up W; wait 60");  // the other goes on
+  Play("up W; wait 60");  // the other continues
   EXPECT_WIRE("60ms 1:SLOTRELEASE:11", "110ms 1:SLOTPRESS:12:12:1:1:640:360");
   Play("up E; wait 100");
   EXPECT_WIRE("120ms 1:SLOTRELEASE:12");
@@ -256,7 +256,7 @@ TEST_F(BunchTap, AJoystickButtonTapsAndStopsByItsName) {
               "25ms 1:SLOTRELEASE:12");
 }
 
-// The fingers of the sweep itself are not of interest.
+// The lines of the sweep itself are ignored.
 TEST_F(BunchTap, AResetOfInputLetsAllRunsGoOn) {
   AddContinue("W", w_, 20);
   AddOneOff("E", e_, 3);
@@ -296,7 +296,7 @@ TEST_F(BunchTap, AKeymapLoadEndsAllRuns) {
   AddOneOff("E", e_, 5);
   Load();
   Play("down W; up E; wait 30");
-  Load();  // the items are gone
+  Load();  // the items are deleted
   Play("wait 1000");
   EXPECT_WIRE_NONE();
 }
@@ -306,7 +306,7 @@ TEST_F(BunchTap, AJoystickLoadLetsARunGoOnFromItsCopy) {
   AddOneOff("Pad A", w_, 2);
   LoadJoystick();
   Play("joy down A; joy up A; wait 10");
-  LoadJoystick();  // the item is gone, and time zero is now
+  LoadJoystick();  // the item is deleted, and time zero is now
   Play("wait 1000");
   EXPECT_WIRE("15ms 1:SLOTRELEASE:11", "40ms 1:SLOTPRESS:11:11:1:1:320:360", "65ms 1:SLOTRELEASE:11",
               "65ms 1:SLOTRELEASE:11");
@@ -330,7 +330,7 @@ TEST_F(BunchTap, AnItemOfAnotherClassDoesNothing) {
   EXPECT_WIRE_NONE();
 }
 
-// The log stands in the working directory.
+// The log is in the working directory.
 class BunchTapLog : public BunchTap {
  protected:
   BunchTapLog() : before_(QDir::currentPath()) { QDir::setCurrent(folder_.path()); }

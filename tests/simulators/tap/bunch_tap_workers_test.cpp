@@ -1,4 +1,4 @@
-// The workers of rapid taps without a run around them: what they signal, and what stops them.
+// The workers of rapid taps without a run: their signals, and what stops them.
 #include <memory>
 
 #include "simulators/tap/bunch_tap_continue_worker.h"
@@ -23,7 +23,7 @@ class BunchTapWorkers : public BunchWorkerStory {
   }
   void Listen(BunchTapContinueWorker* worker) { ListenToContinue(worker); }
   void Listen(BunchTapOneOffWorker* worker) { ListenToOneOff(worker); }
-  // A run of `taps` that has begun, without anything around it that would end it.
+  // A run of `taps` that has begun, without anything that would end it.
   std::unique_ptr<BunchTapOneOffWorker> StartOneOff(int taps) {
     BunchClickConfigItem item = ItemOf(Key("W"));
     item.bunch_count = taps;
@@ -119,7 +119,7 @@ TEST_F(BunchTapWorkers, AOneOffRunEndsWithTheReleaseOfItsLastTap) {
   EXPECT_EQ("release, finish", Said());
 }
 
-// Half taps 4 and 5 are both of two whole taps. The run of a worker keeps further ticks from it.
+// Half taps 4 and 5 both belong to two whole taps. In a run, further ticks do not reach the worker.
 TEST_F(BunchTapWorkers, TheTimerOfAOneOffRunRunsOn) {
   const auto worker = StartOneOff(2);
   Wait(75);
@@ -166,7 +166,7 @@ TEST_F(BunchTapWorkers, WithoutAnItemADefaultOneIsTapped) {
     pressed.append({x, y});
   });
   held.Process();
-  Wait(99);  // 10 taps a second
+  Wait(99);  // 10 taps per second
   EXPECT_EQ(QList<QPointF>({{0, 0}}), pressed);
   Wait(1);
   EXPECT_EQ(QList<QPointF>({{0, 0}, {0, 0}}), pressed);

@@ -116,7 +116,7 @@ TEST_F(Eye, SpeedIsRoundedToPixels) {
     int speed;
     int step;
   } rows[] = {
-      {0, 0},           // presses and stands still
+      {0, 0},           // presses and does not move
       {6, 0},           // 0.48
       {7, 1},           // 0.56
       {106, 8},         // 8.48
@@ -179,12 +179,12 @@ TEST_F(Eye, AResetEndsIt) {
   Forget();
   OnResetInputStatus(true, 2);
   const QStringList lines = TakeWire();
-  // On the display of live input, before the sweep, which goes where the reset was told.
+  // On the current display, before the sweep, which goes to the display of the reset.
   EXPECT_EQ(1, lines.count(Up(8)));
   EXPECT_LT(lines.indexOf(Up(8)), lines.indexOf("8ms 2:SLOTRELEASE:0"));
   Wait(100);
   EXPECT_WIRE_NONE();
-  Play("down W; wait 8");  // D is forgotten
+  Play("down W; wait 8");  // D is cleared
   EXPECT_WIRE(At(108, 640, 360), At(116, 640, 352));
 }
 

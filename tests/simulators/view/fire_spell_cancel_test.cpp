@@ -1,4 +1,4 @@
-// The way of a fire finger to the point that gives up a cast.
+// The path of a fire finger to the point that cancels a cast.
 #include <sstream>
 
 #include <Poco/AutoPtr.h>
@@ -60,14 +60,14 @@ TEST_F(Fire, AfterASpellCancelTheViewHasTheCountsAndTheKeyOnlyLifts) {
   PressSpellCancel(100);
   Play("rel 5,5");
   EXPECT_WIRE(FireAt(160, 180), kViewOnCentre);
-  PressSpellCancel(100);  // nobody listens any more
+  PressSpellCancel(100);  // nobody is connected anymore
   EXPECT_WIRE_NONE();
   signals_.clear();
   ReleaseFire();
   EXPECT_WIRE(kFireUp);
   EXPECT_TRUE(signals_.isEmpty());
   Wait(100);
-  EXPECT_WIRE("100ms 1:SLOTRELEASE:3");  // the time of the cancel runs on
+  EXPECT_WIRE("100ms 1:SLOTRELEASE:3");  // the time of the cancel continues
 }
 
 TEST_F(Fire, SpellCancelWithoutDelayLiftsAtOnce) {
@@ -192,13 +192,13 @@ TEST_F(Fire, TheSimulatorTakesASpellCancelInAnyStatus) {
   item->relative_mode = false;
   item->cancel_swipe_steps = 1;
   StartFiring();
-  Play("down F");  // off, with the fire finger still down
+  Play("down F");  // off, with the fire contact still down
   Forget();
   SpellCancelConfigItem cancel = SpellCancel(0);
   Press(&cancel);
   EXPECT_WIRE(FireAt(160, 180), kFireUp);
   EXPECT_TRUE(signals_.isEmpty());
-  Press(&cancel);  // nothing is fired any more
+  Press(&cancel);  // nothing is fired anymore
   EXPECT_WIRE_NONE();
 }
 

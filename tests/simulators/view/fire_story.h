@@ -9,14 +9,14 @@
 
 namespace taviinputmanager {
 
-// The fire finger at a point, at time zero.
+// The fire contact at a point, at time zero.
 inline QString FireAt(int x, int y) { return QStringLiteral("0ms 1:SLOTPRESS:3:3:1:1:%1:%2").arg(x).arg(y); }
 
 inline const QString kFireUp = QStringLiteral("0ms 1:SLOTRELEASE:3");
 inline const QString kViewUp = QStringLiteral("0ms 1:SLOTRELEASE:1");
 inline const QString kViewOnCentre = QStringLiteral("0ms 1:SLOTPRESS:1:1:1:1:640:360");
 
-// Writes down what the worker signals.
+// Records the worker's signals.
 class Fire : public ViewStory {
  protected:
   Fire() {
@@ -26,7 +26,7 @@ class Fire : public ViewStory {
     Note(&FireSyncWorker::sigUnSubscribeSpellCancelKey, "stop listening");
   }
 
-  // In view control, with the fire key down and its lines forgotten.
+  // In view control, with the fire key down and its lines cleared.
   void StartFiring() {
     Stare();
     PressFire();

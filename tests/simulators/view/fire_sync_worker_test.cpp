@@ -16,7 +16,7 @@ TEST_F(Fire, HoldsTheButtonForAsLongAsItsKey) {
   AddFire()->relative_mode = false;
   Stare();
   Play("rel 0,0; mouse down left 100,100; rel 5,5; mouse up left 100,100; rel 5,5");
-  // The view goes on under its own finger.
+  // The view continues with its own contact.
   EXPECT_WIRE(kViewOnCentre, FireAt(960, 540), "0ms 1:SLOTPRESS:1:1:1:1:645:365", kFireUp,
               "0ms 1:SLOTPRESS:1:1:1:1:650:370");
   EXPECT_TRUE(signals_.isEmpty());
@@ -35,7 +35,7 @@ TEST_F(Fire, InRelativeModeTheViewIsSteeredByTheFireFinger) {
   EXPECT_WIRE(FireAt(965, 546), FireAt(966, 545));  // all counts since the press
   signals_.clear();
   ReleaseFire();
-  EXPECT_WIRE(kFireUp);  // the view finger waits for counts
+  EXPECT_WIRE(kFireUp);  // the view contact waits for counts
   EXPECT_EQ(QStringList({"stop listening", "give counts back"}), signals_);
   Play("rel 7,7; rel 1,1");
   EXPECT_WIRE(kViewOnCentre, "0ms 1:SLOTPRESS:1:1:1:1:641:361");
@@ -60,7 +60,7 @@ TEST_F(Fire, CountsWithinTheIntervalAreSummedUp) {
   EXPECT_WIRE(FireAt(961, 541));
   Play("wait 1; rel 1,1");
   EXPECT_WIRE("10ms 1:SLOTPRESS:3:3:1:1:963:543");
-  // The interval runs on through a release. A press itself is not held up.
+  // The interval continues through a release. A press itself is not delayed.
   ReleaseFire();
   Play("wait 9");
   PressFire();
@@ -195,7 +195,7 @@ TEST_F(FireOffset, IsTakenOnceAtTheThreshold) {
   // 8 counts: 10 pixels. 9 counts: 11.25, the threshold itself; with the jump of 45, 960 + 45 + 11. 10: 12.5 rounds up.
   Play("rel 8,0; rel 1,0; rel 1,0");
   EXPECT_WIRE(FireAt(970, 540), FireAt(1016, 540), FireAt(1018, 540));
-  Play("rel -30,0");  // -20 counts, -25 pixels: the jump stays where it went
+  Play("rel -30,0");  // -20 counts, -25 pixels: the jump is not repeated
   EXPECT_WIRE(FireAt(980, 540));
 }
 

@@ -22,7 +22,7 @@ class Gravity : public Story {
     item->speed = speed;
     return item;
   }
-  // What SetGravity was given since the last look: "8ms 0 0 1; 16ms 0 0 3".
+  // The calls of SetGravity since the last call: "8ms 0 0 1; 16ms 0 0 3".
   std::string Tilts() {
     return TakeCalls().filter("gravity").replaceInStrings("gravity ", "").join("; ").toStdString();
   }
@@ -41,7 +41,7 @@ TEST_F(Gravity, TiltsFasterAndFaster) {
   EXPECT_EQ("24ms 0 0 0", Tilts());
   Wait(100);
   EXPECT_EQ("", Tilts());
-  EXPECT_WIRE_NONE();  // nothing of it touches the guest's screen
+  EXPECT_WIRE_NONE();  // it sends nothing to the guest's screen
 }
 
 TEST_F(Gravity, EachKeyHasItsDirection) {
@@ -165,7 +165,7 @@ TEST_F(Gravity, AResetEndsIt) {
   EXPECT_EQ("8ms 0 0 0", Tilts());
   Wait(100);
   EXPECT_EQ("", Tilts());
-  Play("down W; wait 8");  // D is forgotten, and so is what it built up
+  Play("down W; wait 8");  // D is cleared, and so is its offset
   EXPECT_EQ("116ms 1 0 0", Tilts());
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 using tavikeymapmanager::ObserveConfigItem;
 
-// The observing finger at a point, right after the pause of a press at time zero.
+// The observing contact at a point, right after the pause of a press at time zero.
 QString ObserverAt(int x, int y) { return QStringLiteral("40ms 1:SLOTPRESS:1:1:1:1:%1:%2").arg(x).arg(y); }
 
 class Observe : public ViewStory {
@@ -31,7 +31,7 @@ TEST_F(Observe, LiftsWaitsAndPressesOnItsOwnPointAtTheNextCounts) {
   EXPECT_EQ(40, Time().NowMs() - start);  // the caller was blocked
   Play("rel 5,5");
   EXPECT_WIRE("0ms 1:SLOTRELEASE:1", "40ms 1:SLOTPRESS:1:1:1:1:320:360");
-  // The five that pressed are spent by the next move.
+  // The next move includes the five counts that pressed.
   Play("wait 10; rel 1,2");
   EXPECT_WIRE("50ms 1:SLOTPRESS:1:1:1:1:326:367");
   Play("wait 10; up E");
@@ -65,7 +65,7 @@ TEST_F(Observe, TheIntervalHoldsForPressAndMoveAlike) {
   EXPECT_WIRE(ObserverAt(320, 360));
   Play("wait 1; rel 1,1");
   EXPECT_WIRE("50ms 1:SLOTPRESS:1:1:1:1:323:363");
-  // The interval runs on through a release; the pause of the next press is longer.
+  // The interval continues through a release; the pause of the next press is longer.
   Play("up E; down E; wait 1");
   EXPECT_WIRE("50ms 1:SLOTRELEASE:1", "50ms 1:SLOTRELEASE:1");
   Play("rel 1,1; wait 9; rel 1,1; wait 1; rel 1,1");
@@ -92,7 +92,7 @@ TEST_F(Observe, AFingerThatComesToTheCornerLiftsAndPressesAgain) {
   AddObserve();
   StartObserving();
   Play("rel 0,0; rel -320,-360; rel 1,1; rel 1,1");
-  // The counts of the press are spent by the move behind it.
+  // The move after the press includes the counts of the press.
   EXPECT_WIRE(ObserverAt(320, 360), "40ms 1:SLOTRELEASE:1", ObserverAt(320, 360), ObserverAt(322, 362));
 }
 

@@ -9,7 +9,7 @@ using tavikeymapmanager::StaringConfigItem;
 
 class ObservingInsideViewControl : public Story {};
 
-// The view's timer goes on while the eye icon is held inside view control, and lifts that finger too.
+// The view's timer continues while the eye icon is held during view control, and releases that contact too.
 TEST_F(ObservingInsideViewControl, IsLiftedByThePeriodicReset) {
   auto* view = Add<StaringConfigItem>("Staring", "F", {0.5, 0.5});
   view->range_mode = "Infinite";

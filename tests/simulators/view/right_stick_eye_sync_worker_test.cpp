@@ -10,8 +10,8 @@ namespace {
 
 using tavikeymapmanager::JoystickRightEyeConfigItem;
 
-// The area's centre is (640, 360). A full stick moves the finger by 0.005 * 1280 = 6.4 pixels an event at a sensitivity
-// of 100 per cent, and by 64 at 1000.
+// The area's centre is (640, 360). A full deflection moves the contact by 0.005 * 1280 = 6.4 pixels per event at a
+// sensitivity of 100 per cent, and by 64 at 1000.
 class RightStickEye : public Story {
  protected:
   void SetUp() override { Load(); }  // an empty keymap, for display 1
@@ -101,7 +101,7 @@ TEST_F(RightStickEye, EachModeHasItsEdge) {
 }
 
 TEST_F(RightStickEye, WithoutAutoResetItStaysAtTheBorder) {
-  auto* item = AddEye("Infinite");  // not looked at
+  auto* item = AddEye("Infinite");  // not used
   item->auto_reset = false;
   item->sensitivity = 1000;
   LoadJoystick();
@@ -109,7 +109,7 @@ TEST_F(RightStickEye, WithoutAutoResetItStaysAtTheBorder) {
   Forget();
   Play("joy axis 1 1,1");  // 640 + 320 and 360 + 180
   EXPECT_WIRE(At(960, 540));
-  Play("joy axis 1 -1,-1");  // back at once: nothing is saved up beyond the border
+  Play("joy axis 1 -1,-1");  // back at once: nothing is accumulated beyond the border
   EXPECT_WIRE(At(896, 476));
   Turn("joy axis 1 -1,-1", 20);
   EXPECT_EQ(At(320, 180), TakeWire().last());
@@ -158,7 +158,7 @@ TEST_F(RightStickEye, AResetLiftsAndAJoystickLoadDoesNot) {
   EXPECT_WIRE(At(640, 360));
 }
 
-// From a stick that is held when its item and the display change, to its next press.
+// From a stick that is held while its item and the display change, to its next press.
 TEST_F(RightStickEye, AreaAndSpeedAreThoseOfThePress) {
   AddEye("Range_User")->sensitivity = 1000;  // 64 pixels an event, up to 960
   LoadJoystick();

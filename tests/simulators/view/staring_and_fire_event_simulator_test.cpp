@@ -17,7 +17,7 @@ using tavikeymapmanager::ObserveConfigItem;
 using tavikeymapmanager::SpellCancelConfigItem;
 using tavikeymapmanager::StaringConfigItem;
 
-// The view finger, also the observing one, at a point.
+// The view contact, also the observing one, at a point.
 QString ViewAt(int ms, int x, int y) { return QStringLiteral("%1ms 1:SLOTPRESS:1:1:1:1:%2:%3").arg(ms).arg(x).arg(y); }
 QString ViewUp(int ms) { return QStringLiteral("%1ms 1:SLOTRELEASE:1").arg(ms); }
 QString FireAt(int ms, int x, int y) { return QStringLiteral("%1ms 1:SLOTPRESS:3:3:1:1:%2:%3").arg(ms).arg(x).arg(y); }
@@ -25,7 +25,7 @@ QString FireUp(int ms) { return QStringLiteral("%1ms 1:SLOTRELEASE:3").arg(ms); 
 
 class View : public ViewStory {
  protected:
-  // Items that no keymap of the story has.
+  // Items that are in no keymap of the story.
   static void Press(ConfigItem* item, const QString& key = "F") {
     ConfigKey pressed = Key(key);
     StaringAndFireEventSimulator::GetInstance()->Press(item, &pressed);
@@ -43,7 +43,7 @@ TEST_F(View, TheStaringKeyTurnsViewControlOnAndOffAtItsPress) {
   Load();
   Play("down F");
   EXPECT_CALLS("0ms status 1 F");
-  EXPECT_WIRE(ViewUp(0));  // whatever the finger was down for
+  EXPECT_WIRE(ViewUp(0));  // whatever the contact was down for
   Play("wait 5; up F");
   EXPECT_CALLS_NONE();
   EXPECT_WIRE_NONE();
@@ -78,7 +78,7 @@ TEST_F(View, ObservingIsAStatusOfItsOwnOutsideViewControl) {
   AddObserve();
   Load();
   Play("down E");
-  EXPECT_CALLS("0ms status 3 E");  // told before the pause
+  EXPECT_CALLS("0ms status 3 E");  // reported before the pause
   Play("rel 1,1; wait 10; up E");
   EXPECT_CALLS("50ms status 2 E");
   EXPECT_WIRE(ViewUp(0), ViewAt(40, 320, 360), ViewUp(50));
@@ -133,7 +133,7 @@ TEST_F(View, ViewControlMayBeginWhileObserving) {
   Play("down E; down F");
   EXPECT_CALLS("0ms status 3 E", "40ms status 1 F");
   EXPECT_WIRE(ViewUp(0), ViewUp(40));
-  Play("rel 1,1; up E; rel 1,1");  // the observe key has the counts until it goes up
+  Play("rel 1,1; up E; rel 1,1");  // the observe key gets the counts until it is released
   EXPECT_CALLS_NONE();
   EXPECT_WIRE(ViewAt(40, 320, 360), ViewUp(40), ViewAt(40, 640, 360));
 }
@@ -164,7 +164,7 @@ TEST_F(View, LeavingViewControlForgetsTheObservingThatWentBefore) {
 
 TEST_F(View, LeavingViewControlForgetsItsItem) {
   AddStaring();
-  Add<ComposableConfigItem>("Observe", "E");  // moves the status and takes no counts
+  Add<ComposableConfigItem>("Observe", "E");  // changes the status and uses no counts
   Load();
   Play("down F; rel 1,1; down F; down E");
   EXPECT_EQ(InputStatus::Observing, GetInputStatus());
@@ -222,7 +222,7 @@ TEST_F(View, TheKeyThatCameLastHasTheCounts) {
   PressFire();
   Play("down E; rel 0,0; rel 2,2");  // 40 ms: observing
   EXPECT_WIRE(FireAt(0, 960, 540), ViewUp(0), ViewUp(0), ViewAt(40, 320, 360), ViewAt(40, 322, 362));
-  Play("up E; rel 3,3");  // not the fire key's again, though it is still held
+  Play("up E; rel 3,3");  // the fire key does not get them back, though it is still held
   EXPECT_WIRE(ViewUp(40), ViewAt(40, 640, 360));
   ReleaseFire();
   EXPECT_WIRE(FireUp(40));
@@ -238,7 +238,7 @@ TEST_F(View, TheFirstKeyToGoUpGivesTheCountsToTheView) {
   Forget();
   Play("rel 2,2");  // firing
   ReleaseFire();
-  Play("rel 3,3");  // not the observe key's again
+  Play("rel 3,3");  // the observe key does not get them back
   EXPECT_WIRE(FireAt(40, 962, 542), FireUp(40), ViewAt(40, 640, 360));
 }
 
@@ -259,7 +259,7 @@ TEST_F(View, WorkersAreConnectedOnce) {
   PressFire();
   ReleaseFire();
   PressFire();
-  EXPECT_WIRE(FireAt(0, 960, 540), ViewUp(0), FireUp(0), FireAt(0, 960, 540), ViewUp(0));  // one lift a press
+  EXPECT_WIRE(FireAt(0, 960, 540), ViewUp(0), FireUp(0), FireAt(0, 960, 540), ViewUp(0));  // one release per press
 }
 
 TEST_F(View, ASpellCancelIsHeardOnceAPress) {
@@ -273,7 +273,7 @@ TEST_F(View, ASpellCancelIsHeardOnceAPress) {
   SpellCancelConfigItem cancel;
   cancel.type = "SpellCancel";
   Q_EMIT SpellEventSimulator::GetInstance()->sigSpellCancelPressed(cancel);
-  // The point (0, 0) is no place for a finger: the swipe lifts it, and the lift follows at once.
+  // The point (0, 0) means no contact: the swipe releases it, and the release follows at once.
   EXPECT_WIRE(FireUp(0), FireUp(0));
 }
 
@@ -322,9 +322,9 @@ TEST_F(View, AFireKeyHeldThroughALoadKeepsTheCountsUntilItsNextRelease) {
   PressFire();
   AddStaring();
   AddFire()->rel_x = 0.5;
-  Load();  // the old items are gone, and the fingers are up
+  Load();  // the old items are deleted, and the contacts are up
   ReleaseFire();
-  EXPECT_WIRE(ViewUp(0));  // outside view control the left button is the mouse's
+  EXPECT_WIRE(ViewUp(0));  // outside view control the left button belongs to the mouse
   Play("down F; rel 3,3");
   EXPECT_WIRE(ViewUp(0), FireAt(0, 963, 543));  // by the old button
   PressFire();                                  // one is held already
@@ -374,7 +374,7 @@ TEST_F(View, AnObserveKeyWhoseReleaseALoadTookAwayStaysInForce) {
   Play("down E");
   AddObserve("R")->rel_x = 0.75;
   Load();
-  Play("down R; rel 1,1; rel 2,2");  // without a pause, and on the old point: one is held already
+  Play("down R; rel 1,1; rel 2,2");  // without a pause, and at the old point: one is already held
   EXPECT_CALLS("0ms status 3 R");
   EXPECT_WIRE(ViewAt(0, 320, 360), ViewAt(0, 323, 363));
   Play("up R; down R; rel 1,1");
@@ -397,7 +397,7 @@ TEST_F(View, ViewControlEndsWithItsKeymapAndSoDoesItsTimer) {
 TEST_F(View, CountsThatStillReachAnOldItemFollowIt) {
   AddStaring();
   Stare();
-  Add<ComposableConfigItem>("Observe", "E");  // moves the status and takes no counts
+  Add<ComposableConfigItem>("Observe", "E");  // changes the status and uses no counts
   Load();
   Play("down E; rel 1,1; rel 2,2");
   EXPECT_WIRE(ViewAt(0, 640, 360), ViewAt(0, 642, 362));

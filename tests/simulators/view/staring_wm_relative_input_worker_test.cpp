@@ -12,7 +12,7 @@ namespace {
 
 using tavikeymapmanager::StaringConfigItem;
 
-// The line of the view finger at a point, at time zero.
+// The line of the view contact at a point, at time zero.
 QString ViewAt(int x, int y) { return QStringLiteral("0ms 1:SLOTPRESS:1:1:1:1:%1:%2").arg(x).arg(y); }
 
 const QString kViewUp = QStringLiteral("0ms 1:SLOTRELEASE:1");
@@ -95,7 +95,7 @@ TEST_F(Staring, TheHandyFactorSteersTheFingerAtOnce) {
   Stare();
   Play("rel 0,0; rel 10,10");
   SetHandyStaringSensitivity(2.0, 1.5);  // (200 - 100) * 0.5 + 100 = 150 per cent
-  Play("rel 0,0");                       // the same counts stand for another way
+  Play("rel 0,0");                       // the same counts move by another distance
   EXPECT_WIRE(ViewAt(640, 360), ViewAt(650, 370), ViewAt(660, 375));
 }
 
@@ -119,7 +119,7 @@ TEST_F(Staring, AnAxisWithoutValueKeepsTheSensitivityItHad) {
 
 // ---- The range ----
 
-// Each row goes to the four edges, which are inside, and one pixel further, which is not.
+// Each row moves to the four edges, which are inside, and one pixel further, which is not.
 TEST_F(Staring, AFingerThatLeavesTheRangeLiftsAndLandsOnTheCentre) {
   const struct {
     const char* name;
@@ -175,7 +175,7 @@ TEST_F(Staring, WithoutAutoResetTheFingerStopsAtTheUserRangeAndComesAllTheWayBac
     SCOPED_TRACE(mode);
     StaringConfigItem* item = AddStaring();
     item->auto_reset = false;
-    item->range_mode = mode;  // plays no part
+    item->range_mode = mode;  // not used
     Stare();
     // 400 - 50 counts are still beyond the 320 to the edge; 310 are not.
     Play("rel 0,0; rel 400,0; rel -50,0; rel -40,0");
@@ -217,7 +217,7 @@ TEST_F(Staring, ACentreInTheCornerCannotBeHeld) {
   item->rel_x = 0;
   item->rel_y = 0;
   Stare();
-  Play("rel 3,3; rel 3,3");  // each presses anew, at the place that means no finger
+  Play("rel 3,3; rel 3,3");  // each presses again, at the point that means no finger
   EXPECT_WIRE(kViewUp, kViewUp);
 }
 
@@ -267,7 +267,7 @@ TEST_F(Staring, AutoResetLiftsTheFingerEachPeriod) {
   EXPECT_WIRE("50ms 1:SLOTPRESS:1:1:1:1:640:360", "149ms 1:SLOTPRESS:1:1:1:1:645:365");
   Wait(1);
   EXPECT_WIRE("150ms 1:SLOTRELEASE:1");
-  Play("wait 49; rel 5,5");  // the press interval counts from the lift
+  Play("wait 49; rel 5,5");  // the press interval counts from the release
   EXPECT_WIRE_NONE();
   Play("wait 1; rel 5,5");
   EXPECT_WIRE("200ms 1:SLOTPRESS:1:1:1:1:640:360");

@@ -33,11 +33,11 @@ class LeftStickWalk : public Story {
 TEST_F(LeftStickWalk, DrawsAMovementInSteps) {
   AddWalk();
   LoadJoystick();
-  // 16 ms after the press a step each 8 ms; a step that would reach the target is the target.
+  // 16 ms after the press a step every 8 ms; a step that would reach the target is the target.
   Play("joy axis 0 1,0");
   EXPECT_WIRE(At(0, 320, 360), At(16, 336, 360), At(24, 352, 360), At(32, 368, 360), At(40, 384, 360), At(48, 400, 360),
               At(56, 416, 360), At(64, 432, 360), At(72, 448, 360));
-  // From where it is, after the pause of the last step: 320 + 64 is four steps back.
+  // From its position, after the pause of the last step: 320 + 64 is four steps back.
   Play("joy axis 0 0.5,0");
   EXPECT_WIRE(At(80, 432, 360), At(88, 416, 360), At(96, 400, 360), At(104, 384, 360));
   Play("joy axis 0 0,0");
@@ -78,7 +78,7 @@ TEST_F(LeftStickWalk, ASmoothStartHoldsAndJumps) {
   Play("joy axis 0 1,0");
   EXPECT_WIRE(At(0, 320, 360), At(30, 384, 360), At(38, 400, 360), At(46, 416, 360), At(54, 432, 360),
               At(62, 448, 360));
-  Play("joy axis 0 0.75,0");  // the jump is for the start only
+  Play("joy axis 0 0.75,0");  // the jump is only for the start
   EXPECT_WIRE(At(70, 432, 360), At(78, 416, 360));
 }
 
@@ -177,7 +177,7 @@ TEST_F(LeftStickWalk, WithADelayedStopTheRestCountsFromTheLift) {
   LoadJoystick();
   Play("joy axis 0 0.125,0");
   LeftStickWalkEventSimulator::GetInstance()->StopWalk();
-  Play("joy axis 0 0,0; wait 99; joy axis 0 1,0");  // cut short: still not rested
+  Play("joy axis 0 0,0; wait 99; joy axis 0 1,0");  // too short: not at rest yet
   Forget();
   Play("joy axis 0 0,0; wait 100");
   EXPECT_WIRE(Up(223));
@@ -237,7 +237,7 @@ TEST_F(LeftStickWalk, AJoystickLoadLeavesADelayedStopToItsEnd) {
   EXPECT_WIRE_NONE();
   Wait(1);
   EXPECT_WIRE(Up(50));
-  Play("joy axis 0 0.125,0");  // the pause is that of the item that is gone
+  Play("joy axis 0 0.125,0");  // the pause belongs to the deleted item
   EXPECT_WIRE(At(80, 320, 360), At(96, 336, 360));
 }
 
@@ -326,7 +326,7 @@ TEST_F(LeftStickWalk, ASenselessJumpComesToItsEnd) {
     item->smooth_start = true;
     item->start_jump = jump;
     LoadJoystick();
-    Play("joy axis 0 1,0");  // no more than the jump before the target
+    Play("joy axis 0 1,0");  // only the jump before the target
     EXPECT_EQ(At(8, 448, 360), TakeWire().last());
     Play("joy axis 0 0,0");
   }
@@ -336,7 +336,7 @@ TEST_F(LeftStickWalk, AnEndlessRadiusIsNoTrap) {
   AddWalk()->walk_radius = 1e300;
   LoadJoystick();
   Play("joy axis 0 1,1");
-  EXPECT_EQ(1, TakeWire().size());  // the press; a target out of reach of any number is not sent
+  EXPECT_EQ(1, TakeWire().size());  // the press; a target out of the range of numbers is not sent
 }
 
 TEST_F(LeftStickWalk, AKeyDoesNotWalk) {

@@ -41,9 +41,9 @@ TEST_F(RightWalk, SlidesFromTheCentreToTheEdge) {
 TEST_F(RightWalk, RoundsHalvesOfTheSlideUpwards) {
   AddWalk()->swipe_steps = 4;
   Load();
-  // (1024, 648) is (0.3, 0.4) from the character, 0.5 away: 0.1 / 0.5 = 0.2, and the target is
-  // (320 + 0.3 * 0.2 * 1280, 360 + 0.4 * 0.2 * 1280) = (396.8, 462.4), rounded (397, 462). On the way lie
-  // 320 + 77 * (1, 2, 3) / 4 = 339.25, 358.5, 377.75 and 360 + 102 * (1, 2, 3) / 4 = 385.5, 411, 436.5.
+  // (1024, 648) is (0.3, 0.4) from the character, at a distance of 0.5: 0.1 / 0.5 = 0.2, and the target is (320 + 0.3 *
+  // 0.2 * 1280, 360 + 0.4 * 0.2 * 1280) = (396.8, 462.4), rounded (397, 462). The steps are 320 + 77 * (1, 2, 3) / 4 =
+  // 339.25, 358.5, 377.75 and 360 + 102 * (1, 2, 3) / 4 = 385.5, 411, 436.5.
   Play("mouse down right 1024,648");
   EXPECT_WIRE(At(0, 320, 360), At(0, 339, 386), At(0, 359, 411), At(0, 378, 437), At(0, 397, 462));
 }
@@ -101,7 +101,7 @@ TEST_F(RightWalk, KeepsTheTargetOffTheDisplaysEdges) {
 TEST_F(RightWalk, AClickOnTheCharacterGoesWhereTheLimitsPutIt) {
   AddWalk();
   Load();
-  Play("mouse down right 640,360");  // no direction at all: the infinite factor times 0 is nowhere
+  Play("mouse down right 640,360");  // no direction at all: the infinite factor times 0 is undefined
   EXPECT_WIRE(At(0, 320, 360), At(0, 1, 1));
 }
 
@@ -165,7 +165,7 @@ TEST_F(RightWalk, AShortClickInsideTheRadiusLiftsAtOnce) {
   Load();
   Play("mouse down right 960,360; wait 10; mouse up right 960,360");  // exactly on it
   EXPECT_EQ(Up(10), TakeWire().last());
-  Play("mouse down right 960,360; wait 10; mouse up right 961,360");  // where it comes up counts
+  Play("mouse down right 960,360; wait 10; mouse up right 961,360");  // the position of the release counts
   Forget();
   Wait(1002);  // (961 / 1280 - 0.5) / 0.25 = 1.003125
   EXPECT_WIRE_NONE();
@@ -212,7 +212,7 @@ TEST_F(RightWalk, AStickWithoutRadiusStaysOnItsCentre) {
   Load();
   Play("mouse down right 960,360; wait 300; mouse up right 960,360");
   EXPECT_WIRE(At(0, 320, 360), At(0, 320, 360), Up(300));
-  Play("mouse down right 960,360; mouse up right 960,360");  // no time follows from endlessly many radii
+  Play("mouse down right 960,360; mouse up right 960,360");  // no duration follows from infinitely many radii
   EXPECT_WIRE(At(300, 320, 360), At(300, 320, 360), Up(300));
 }
 
@@ -241,7 +241,7 @@ TEST_F(RightWalk, AResetLiftsAndForgets) {
   Forget();
   OnResetInputStatus(true, 2);
   const QStringList lines = TakeWire();
-  // The walk ends on the display of live input, before the sweep, which goes where the reset was told.
+  // The walk ends on the current display, before the sweep, which goes to the display of the reset.
   EXPECT_EQ(1, lines.count(Up(0)));
   EXPECT_LT(lines.indexOf(Up(0)), lines.indexOf("0ms 2:SLOTRELEASE:0"));
   Wait(5000);

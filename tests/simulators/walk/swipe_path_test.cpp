@@ -66,7 +66,7 @@ const struct {
     {"one big step", 7, 1, kBig, {7}},
     {"two big steps", 7, 2, kBig, {3, 4}},  // 3.5 gives 4; 7 - 4 = 3
 
-    // Modes are looked for inside the word: each says one thing, so that one word may say both.
+    // Modes are searched within the word, so that one word may contain both.
     {"both, with travel", 128, 6, "Big_Variable|Small_Variable", {4, 4, 57, 21, 21, 21}},
     {"both, without", 0, 3, "Big_Variable|Small_Variable", {1, -1, 1}},
 
@@ -164,7 +164,7 @@ TEST(SwipePathTest, ClearedHasNoStep) {
   path.Clear();
   EXPECT_FALSE(path.HasStep());
   EXPECT_TRUE(path.x_steps.IsEmpty() && path.y_steps.IsEmpty());
-  path.Rebuild();  // a new target does not revive it
+  path.Rebuild();  // a new target does not restart it
   EXPECT_FALSE(path.HasStep());
 }
 

@@ -1,5 +1,5 @@
 // A walk on displays and windows of other shapes. The press on the centre is a fraction of the touch surface; every
-// other position is in pixels of the display and goes through the window.
+// other position is in pixels of the display and is converted with the window's size.
 #include "simulators/walk/swipehold_async_worker.h"
 #include "tests/simulators/walk/swipehold_story.h"
 
@@ -65,7 +65,7 @@ TEST_F(SwipeholdGeometry, ADisplayAndATouchSurfaceOfTheirOwn) {
   EXPECT_WIRE(At(0, 1024, 1440), At(32, 640, 720), At(48, 768, 720));
 }
 
-// A window that turns upright during a walk: the stick stays where the walk began, the way to the touch surface
+// A window that is rotated during a walk: the stick stays where the walk began, but its conversion to the touch surface
 // changes.
 TEST_F(SwipeholdGeometry, AWindowThatTurnsDuringAWalk) {
   AddShortWalk();
@@ -77,7 +77,7 @@ TEST_F(SwipeholdGeometry, AWindowThatTurnsDuringAWalk) {
   EXPECT_WIRE(At(48, 683, 203));
 }
 
-// The machine goes on; what cannot be mapped is not sent.
+// The state machine continues; positions that cannot be converted are not sent.
 TEST_F(SwipeholdGeometry, AWindowWithoutSizeSwallowsPositions) {
   AddShortWalk();
   Load();

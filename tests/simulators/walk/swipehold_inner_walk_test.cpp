@@ -1,4 +1,4 @@
-// The inner walk of a cast beside the ordinary one.
+// The inner walk of a cast, in parallel to the ordinary one.
 #include "simulators/walk/swipehold_async_worker.h"
 #include "simulators/walk/swipehold_event_simulator.h"
 #include "slots/swipehold_slot_manager.h"
@@ -24,7 +24,7 @@ class SwipeholdInnerWalk : public SwipeholdStory {
     SetKeys(&item, "W", "A", "S", "D");
     return item;
   }
-  // As a cast does that begins to aim. Neither item outlives the call.
+  // Like a cast that begins to aim. Neither item outlives the call.
   void Entrust(bool exclusive, const SwipeholdConfigItem& item = MakeInner()) {
     simulator_->SetExclusiveInner(exclusive);
     inner_->SetItem(&item);
@@ -145,7 +145,7 @@ TEST_F(SwipeholdInnerWalk, TheWalkTakesItsKeysBack) {
   Entrust(true);
   Play("wait 200; down D; wait 100");
   Forget();
-  simulator_->CancelEntrustToInner();  // an honest new walk, up first and then right
+  simulator_->CancelEntrustToInner();  // a new walk of its own, first up and then right
   EXPECT_WIRE(At(500, 256, 360), Up(500, kInnerSlot));
   Play("wait 112");
   EXPECT_WIRE(At(532, 271, 345), At(548, 286, 330), At(564, 301, 315), At(580, 316, 300), At(596, 331, 285),
@@ -158,7 +158,7 @@ TEST_F(SwipeholdInnerWalk, AWalkThatHasTheSameKeysGoesOn) {
   RestAt("W");
   Entrust(false);
   Forget();
-  simulator_->CancelEntrustToInner();  // its slide is cut off as well
+  simulator_->CancelEntrustToInner();  // its slide is cut short as well
   EXPECT_WIRE(Up(200, kInnerSlot));
   Play("wait 500");
   EXPECT_WIRE_NONE();
@@ -227,7 +227,7 @@ TEST_F(SwipeholdInnerWalk, NoItemIsNoEntry) {
   AddWalk();
   Load();
   simulator_->AddWorker(inner_, nullptr);
-  inner_->ReplayDirections({0, 16});  // there is no item to press keys of
+  inner_->ReplayDirections({0, 16});  // there is no item whose keys could be pressed
   Play("down W");
   EXPECT_WIRE(At(0, 256, 360));
 }
@@ -243,11 +243,11 @@ TEST_F(SwipeholdInnerWalk, WorkersAreServedInOrderOfIndex) {
     QObject::connect(worker, &SwipeholdAsyncWorker::sigSwipeholdTargetPointChanged,
                      [&order, index](QPointF&) { order.append(index); });
   }
-  Play("down W; wait 32");  // equal times tick in order of their start
+  Play("down W; wait 32");  // timers that are due at the same time tick in the order of their start
   EXPECT_EQ((QVector<int>{0, 1, 2}), order);
 }
 
-// Keys are pressed as those of a keyboard: no key of a gamepad is among them, and what is not known is right.
+// Keys are pressed as those of a keyboard: gamepad keys are not among them, and an unknown key means right.
 TEST_F(SwipeholdInnerWalk, TheKeysOfAGamepadAreTakenOverAsRight) {
   AddWalk();
   Load();
@@ -310,7 +310,7 @@ TEST_F(SwipeholdInnerWalk, OfOppositeKeysDownAndRightAreTheLast) {
   EXPECT_WIRE(Up(32, kInnerSlot), In(32, 1024, 360), In(64, 1088, 360));
 }
 
-// It forgets all keys, and presses those of the axes that differ.
+// It clears all keys, and presses those of the axes that differ.
 TEST_F(SwipeholdInnerWalk, TakesOverOnlyTheAxisThatDiffers) {
   Load();
   RestInside({0, 16});

@@ -1,5 +1,5 @@
-// Resets and keymap loads in the middle of a walk. They forget the keys and stop no timer; what still ticks belongs to
-// a walk whose item is gone.
+// Resets and keymap loads in the middle of a walk. They clear the keys and stop no timer; the remaining ticks belong to
+// a walk whose item was deleted.
 #include <memory>
 
 #include "core/input_status_manager.h"
@@ -87,7 +87,7 @@ TEST_F(SwipeholdLifetime, AKeyAfterAResetBeginsANewWalk) {
   EXPECT_WIRE(At(200, 256, 360), At(232, 277, 360));
 }
 
-// The old move ends where the new key points, and the slide goes on from its own place.
+// The old move ends at the target of the new key, and the slide continues from its own position.
 TEST_F(SwipeholdLifetime, ANewWalkLeavesAMoveThatGoesOnToItsTime) {
   AddWalk();
   Load();
@@ -179,7 +179,7 @@ TEST_F(SwipeholdLifetime, ALoadEndsASlideAtItsNextTick) {
   EXPECT_WIRE_NONE();
   Play("wait 1");
   EXPECT_WIRE(Up(8));
-  Play("up W; wait 500");  // its press was another keymap's
+  Play("up W; wait 500");  // its press belonged to another keymap
   EXPECT_WIRE_NONE();
 }
 
@@ -206,7 +206,7 @@ TEST_F(SwipeholdLifetime, ALoadLetsAMoveGoOnToItsTime) {
   Load();
   RestAt("W");
   Play("down D; wait 10");
-  LoadAnother()->subsequent_steps = 100;  // not of this move
+  LoadAnother()->subsequent_steps = 100;  // not part of this move
   Play("wait 500");
   EXPECT_WIRE(At(6, 302, 251), At(14, 324, 260), Up(22));
 }
@@ -235,7 +235,7 @@ TEST_F(SwipeholdLifetime, ALoadLetsAWiggleGoOn) {
   EXPECT_WIRE(At(4, 352, 360), At(12, 384, 360));
 }
 
-// The walk begun before the load says how long the next must wait; it had no rest on the centre.
+// The walk that began before the load determines how long the next must wait; it had no rest on the centre.
 TEST_F(SwipeholdLifetime, TheGapIsKeptAcrossALoad) {
   AddWalk();
   Load();
@@ -246,7 +246,7 @@ TEST_F(SwipeholdLifetime, TheGapIsKeptAcrossALoad) {
   EXPECT_WIRE(At(40, 768, 360));
 }
 
-// An inner walk is entered, its item and the walk's are deleted, and then keys come and are taken back.
+// An inner walk is entered, its item and the walk's are deleted, and then keys are pressed and released.
 TEST_F(SwipeholdLifetime, NoEntryOutlivesItsItem) {
   SwipeholdEventSimulator* simulator = SwipeholdEventSimulator::GetInstance();
   SwipeholdAsyncWorker* inner = SwipeholdAsyncWorker::GetInstance(1);
@@ -263,7 +263,7 @@ TEST_F(SwipeholdLifetime, NoEntryOutlivesItsItem) {
   simulator->EntrustToInner();
   LoadAnother();  // the inner walk's keys outlive the reset
   simulator->CancelEntrustToInner();
-  EXPECT_WIRE(At(0, 256, 360), Up(0, 6));  // by the copy of the old item
+  EXPECT_WIRE(At(0, 256, 360), Up(0, 6));  // with the copy of the old item
   Play("wait 1; down D; wait 31");         // within a walk, so that the stick stays; the entry begins a walk
   EXPECT_WIRE(At(1, 1024, 360, 6), At(32, 271, 345));
   simulator->RemoveWorker(inner);

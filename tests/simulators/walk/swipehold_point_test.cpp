@@ -1,4 +1,4 @@
-// Where a stick is, for those who listen or ask: in radii from its centre.
+// The position of a stick for listeners and queries: in radii from its centre.
 #include "simulators/walk/swipehold_async_worker.h"
 #include "simulators/walk/swipehold_event_simulator.h"
 #include "tests/simulators/walk/swipehold_story.h"
@@ -45,7 +45,7 @@ TEST_F(SwipeholdPoint, FollowsASlide) {
   AddWalk();
   Load();
   Play("down W; wait 31");
-  EXPECT_EQ(Points(), TakePoints());  // the press on the centre is no news
+  EXPECT_EQ(Points(), TakePoints());  // the press on the centre is not reported
   Play("wait 81");
   EXPECT_EQ(
       (Points{{0, -21 / 128.0}, {0, -42 / 128.0}, {0, -63 / 128.0}, {0, -84 / 128.0}, {0, -105 / 128.0}, {0, -1}}),
@@ -101,7 +101,7 @@ TEST_F(SwipeholdPoint, AWiggleIsNoNews) {
   EXPECT_EQ(Points(), TakePoints());
 }
 
-// Points are in radii of the moment.
+// Points are in current radii.
 TEST_F(SwipeholdPoint, TheRadiusSwitchIsNoNewDirection) {
   AddWalk();
   Load();
@@ -157,7 +157,7 @@ TEST_F(SwipeholdPoint, AQuestionForTheVirtualStickCountsToo) {
   EXPECT_EQ((Points{{21 / 128.0, 0}}), TakePoints());
 }
 
-// The whole machine runs: slide, move, rest and end, with the times of a walk.
+// The complete state machine runs: slide, move, rest and end, with the times of a walk.
 TEST_F(SwipeholdPoint, AStickWithoutSlotIsHeardAndNotSeen) {
   for (const int index : {2, 3}) {
     SwipeholdConfigItem item;

@@ -258,7 +258,7 @@ TEST_F(SwipeholdSlide, AClickLetGoInTimeMakesNoMove) {
   EXPECT_WIRE(Up(32));
 }
 
-// Whether it is a click says the item that the walk began with: the other's is at (768, 360).
+// The item that the walk began with determines whether it is a click: the other's is at (768, 360).
 TEST_F(SwipeholdSlide, AKeyOfAnotherItemMakesNoClickOfItNorASlideOfAClick) {
   for (const bool is_click : {false, true}) {
     AddWalk()->press_mode = is_click ? "Move" : "Click";

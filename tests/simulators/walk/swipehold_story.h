@@ -1,4 +1,4 @@
-// Stories of a walk by four keys.
+// Stories of a walk with four keys.
 #ifndef TESTS_SIMULATORS_WALK_SWIPEHOLD_STORY_H_
 #define TESTS_SIMULATORS_WALK_SWIPEHOLD_STORY_H_
 
@@ -31,7 +31,7 @@ class SwipeholdStory : public Story {
     item->key_right = Key(right);
   }
 
-  // W is held, and the finger rests at (256, 232); or D, at (384, 360). It is 200 ms.
+  // W is held, and the contact rests at (256, 232); or D, at (384, 360). It is 200 ms.
   void RestAt(const QString& key) {
     Play("down " + key + "; wait 200");
     Forget();

@@ -37,8 +37,8 @@ TEST_F(SwipeholdWalk, AReleaseSlidesBack) {
   EXPECT_WIRE(At(208, 324, 260), At(216, 302, 251), At(224, 279, 241), At(232, 256, 232));
 }
 
-// After two ticks the finger is at (301.5, 250.5); W goes up: to (384, 360), (20.625, 27.375) a tick. The timer runs
-// on, so that the next tick is 8 ms after the last, and the count begins again.
+// After two ticks the contact is at (301.5, 250.5); W is released: to (384, 360), (20.625, 27.375) per tick. The timer
+// continues, so that the next tick is 8 ms after the last, and the count starts again.
 TEST_F(SwipeholdWalk, AChangeOnTheWayStartsFromWhereTheFingerIs) {
   AddWalk();
   Load();
@@ -94,8 +94,8 @@ TEST_F(SwipeholdWalk, AnyOtherModeJumpsAtOnce) {
   EXPECT_WIRE(At(200, 347, 269), At(210, 256, 232), Up(220));
 }
 
-// A press goes by the mode of its own item, everything else by that of the item that the walk began with; and so does
-// the stick, which stays where it is.
+// A press depends on the mode of its own item, everything else on that of the item that the walk began with; and so
+// does the stick, which does not move.
 TEST_F(SwipeholdWalk, TwoItemsShareOneFinger) {
   AddWalk();
   SwipeholdConfigItem* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});
@@ -205,7 +205,7 @@ TEST_F(SwipeholdWalk, AWalkThatRestedOnTheCentreLeavesNoGap) {
   EXPECT_WIRE(At(700, 256, 360), Up(750), At(760, 256, 360));
 }
 
-// It is the walk before that is asked for its rest.
+// The previous walk's rest is what matters.
 TEST_F(SwipeholdWalk, AWalkWithoutRestLeavesAGapToOneThatHasIt) {
   AddWalk();
   SwipeholdConfigItem* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});
@@ -239,8 +239,8 @@ TEST_F(SwipeholdWalk, AWalkStoppedFromOutsideLeavesNoGap) {
   EXPECT_WIRE(Up(250), At(250, 256, 360));
 }
 
-// The rest on the centre ends at 250. The walk at 260 keeps no gap after it, since the one before rested; that at 270
-// keeps none either, since the rest's end is no release to count from.
+// The rest on the centre ends at 250. The walk at 260 keeps no gap after it, because the previous one rested; that at
+// 270 keeps none either, because the end of the rest is not a release to count from.
 TEST_F(SwipeholdWalk, TheEndOfTheRestStartsNoGap) {
   AddWalk()->hold_center_ms = 50;
   auto* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});

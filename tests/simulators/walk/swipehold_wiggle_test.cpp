@@ -1,4 +1,4 @@
-// The wiggle of a finger that has reached its target.
+// The wiggle of a contact that has reached its target.
 #include "core/input_status_manager.h"
 #include "simulators/walk/swipehold_async_worker.h"
 #include "tests/simulators/walk/swipehold_story.h"
@@ -20,7 +20,7 @@ class SwipeholdWiggle : public SwipeholdStory {
     item->compensate_interval_ms = 8;
     return item;
   }
-  // The finger has just come to (384, 360). It is 112 ms.
+  // The contact has just arrived at (384, 360). It is 112 ms.
   void Arrive() {
     Play("down D; wait 112");
     Forget();
@@ -140,7 +140,7 @@ TEST_F(SwipeholdWiggle, AReleaseThatLeavesAKeyStartsItAnewAtTheNewTarget) {
   EXPECT_WIRE(At(162, 384, 360), At(170, 352, 360));
 }
 
-// The press at 123 does not stop it; its own tick at 128 does, since a move is under way.
+// The press at 123 does not stop it; its own tick at 128 does, because a move is in progress.
 TEST_F(SwipeholdWiggle, AMoveStopsIt) {
   AddWigglingWalk();
   Load();
@@ -151,7 +151,7 @@ TEST_F(SwipeholdWiggle, AMoveStopsIt) {
   EXPECT_WIRE(At(163, 347, 269), At(171, 324, 292));
 }
 
-// It has put the finger on (352, 360), and the move sets out from (384, 360) all the same: (-9.25, -22.75) a tick.
+// It has put the contact on (352, 360), but the move starts at (384, 360): (-9.25, -22.75) per tick.
 TEST_F(SwipeholdWiggle, AMoveStartsFromWhereTheFingerRested) {
   AddWigglingWalk();
   Load();
@@ -204,7 +204,7 @@ TEST_F(SwipeholdWiggle, TheRestOnTheCentreStopsIt) {
   EXPECT_WIRE(At(166, 366, 315), At(174, 356, 292), At(182, 256, 360), Up(282));
 }
 
-// Its tick at 212 finds the finger of the new walk at rest.
+// Its tick at 212 finds the contact of the new walk at rest.
 TEST_F(SwipeholdWiggle, EndsInANewWalkThatHasNone) {
   AddWigglingWalk()->compensate_interval_ms = 100;
   auto* other = Add<SwipeholdConfigItem>("Swipehold", {}, {0.6, 0.5});

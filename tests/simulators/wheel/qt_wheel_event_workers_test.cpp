@@ -1,4 +1,4 @@
-// Turns of the wheel as a swipe of one finger, and as a pinch of two.
+// Wheel movements as a swipe of one contact, and as a pinch of two.
 #include "keymap/tavikeymapmanager.h"
 #include "simulators/wheel/qt_wheel_event_async_worker.h"
 #include "simulators/wheel/qt_wheel_event_zoom_worker.h"
@@ -156,19 +156,18 @@ TEST_F(Pinch, ATurnInTheRestGoesOnInTheSamePinch) {
   EXPECT_WIRE("60ms 1:SLOTMULTIPRESS:0:0:562:360:10:10:718:360");  // from 568
 }
 
-// The way ends (10 + 4 * 2) * 6 = 108 pixels from the pointer, at 532: 8 moves from 580. The 8th is not inside any
-// more.
+// The path ends (10 + 4 * 2) * 6 = 108 pixels from the pointer, at 532: 8 moves from 580. The 8th is no longer inside.
 TEST_F(Pinch, AtTheEndOfItsWayItLiftsAtOnce) {
   LoadPinch();
   Play("wheel +120 640,360; wheel +120 640,360; wheel +120 640,360; wheel +120 640,360; wheel +120 640,360; wait 500");
   const QStringList wire = TakeWire();
-  // The turns after the first start the timer with 10 ms: moves at 10, 20, ... 70; at 80 the end.
+  // Movements after the first start the timer with 10 ms: moves at 10, 20, ... 70; at 80 the end.
   EXPECT_EQ("70ms 1:SLOTMULTIPRESS:0:0:538:360:10:10:742:360", wire.value(7).toStdString());
   EXPECT_EQ("80ms 1:SLOTMULTIRELEASE:10:0", wire.value(8).toStdString());
   EXPECT_EQ(9, wire.size());
 }
 
-// Inwards from 544 the way ends at 580: the 6th move is not inside any more.
+// Inwards from 544 the path ends at 580: the 6th move is no longer inside.
 TEST_F(Pinch, AndSoItDoesInwards) {
   LoadPinch();
   Play("wheel -120 640,360; wheel -120 640,360; wheel -120 640,360; wheel -120 640,360; wait 500");
@@ -189,7 +188,7 @@ TEST_F(Pinch, WithoutARestTheNextTickLifts) {
   Wheel().zoom_release_ms = 0;
   Load();
   Play("wheel +120 640,360; wait 500");
-  // A move at 16, the decision at 26, the release one more tick behind it.
+  // A move at 16, the decision at 26, the release one tick later.
   EXPECT_EQ("36ms 1:SLOTMULTIRELEASE:10:0", TakeWire().last().toStdString());
 }
 
@@ -211,7 +210,7 @@ TEST_F(Pinch, TheLineIsTurned) {
   EXPECT_WIRE("0ms 1:SLOTMULTIPRESS:0:0:640:420:10:10:640:300");
 }
 
-// At 180 degrees finger a begins 60 pixels to the right of the pointer, and goes on to the right.
+// At 180 degrees contact a begins 60 pixels to the right of the pointer, and moves further to the right.
 TEST_F(Pinch, TheLineMayPointTheOtherWay) {
   LoadPinch();
   Wheel().wheel_zoom = true;

@@ -61,7 +61,7 @@ TEST_F(WheelKey, AHeldKeyRepeatsItsRun) {
   AddWheel("W", 1, "vertical", 8);  // two ticks
   Load();
   Play("down W; wait 20; up W; wait 100");
-  // The second run begins when the first has ended, at 16 ms, and plays out though the key is up at 20 ms.
+  // The second run begins when the first has ended, at 16 ms, and is completed although the key is released at 20 ms.
   EXPECT_WIRE("8ms 1:SLOTPRESS:11:11:1:1:5000:5000", "16ms 1:SLOTPRESS:11:11:1:1:5000:5010", "16ms 1:SLOTRELEASE:11",
               "24ms 1:SLOTPRESS:11:11:1:1:5000:5000", "32ms 1:SLOTPRESS:11:11:1:1:5000:5010", "32ms 1:SLOTRELEASE:11");
 }
@@ -141,7 +141,8 @@ TEST_F(WheelKey, TwoStopsEndARunOnceAndOneFollows) {
   EXPECT_WIRE("20ms 1:SLOTRELEASE:11", "28ms 1:SLOTPRESS:11:11:1:1:5000:5000");
 }
 
-// steps: 8 / 8 = 1, so the second move is the last of a run. By itself the worker moves on and says so each time.
+// steps: 8 / 8 = 1, so the second move is the last of a run. The worker by itself continues and reports the end each
+// time.
 TEST_F(WheelKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
   WheelConfigItem item;
   item.direction = 1;

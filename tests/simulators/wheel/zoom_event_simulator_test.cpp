@@ -141,7 +141,7 @@ TEST_F(ZoomKey, AKeyHeldDuringAResetStartsItsNextPinch) {
   EXPECT_WIRE("32ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
 }
 
-// The slots of a pinch are given back once, and one follows.
+// The slots of a pinch are returned once, and one pinch follows.
 TEST_F(ZoomKey, TwoResetsEndAPinchOnce) {
   AddZoom("W", 1, "horizontal", 120);
   Load();
@@ -153,7 +153,8 @@ TEST_F(ZoomKey, TwoResetsEndAPinchOnce) {
   EXPECT_WIRE("20ms 1:SLOTMULTIRELEASE:19:18", "32ms 1:SLOTMULTIPRESS:18:18:6000:5000:19:19:4000:5000");
 }
 
-// steps: 12 / 12 = 1, so the second move is the last of a run. By itself the worker moves on and says so each time.
+// steps: 12 / 12 = 1, so the second move is the last of a run. The worker by itself continues and reports the end each
+// time.
 TEST_F(ZoomKey, ABareWorkerTellsItsEndAtEachMoveAndStop) {
   ZoomConfigItem item;
   item.direction = 1;

@@ -1,5 +1,5 @@
-// The least that there can be between a keyboard and a touch screen: one loop that reads the one and writes the other.
-// What a player adds to it is measured beside this.
+// The minimum between a keyboard and a touch screen: one loop that reads the one and writes the other. The latency of a
+// player is compared with this.
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kLast = 10;  // of slots, of the race's places
+constexpr int kLast = 10;  // of slots, of positions of the race
 
 int OpenBoard() {
   DIR* folder = ::opendir("/dev/input");

@@ -1,9 +1,9 @@
-// Another program that reads input devices, by evdev as they are: a line for each event, "NAME|TYPE CODE VALUE US" with
-// the kernel's time in microseconds, at once.
+// Another program that reads input devices with plain evdev: prints a line for each event, "NAME|TYPE CODE VALUE US"
+// with the kernel's time in microseconds, at once.
 //
 //   eyes NAME...      reads each device of such a name, from the moment that there is one
 //
-// Says "gone" behind the name when a device goes.
+// Prints "gone" after the name when a device is removed.
 #include <chrono>
 #include <cstdio>
 #include <dirent.h>
@@ -50,7 +50,7 @@ void Look(const std::set<std::string>& wanted, std::map<std::string, Seen>* seen
   ::closedir(folder);
 }
 
-// False when the device is gone.
+// False when the device is removed.
 bool Drain(const Seen& device) {
   input_event event{};
   ssize_t count = 0;

@@ -5,7 +5,8 @@
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
 //   wait MS           at least: a machine that is slow makes no gesture shorter
-//   race CODE TIMES   a key, 8 ms down and 8 ms up again and again; prints "press US" for each, in microseconds
+//   flood CODE TIMES  a key, down and up repeatedly, as fast as possible
+//   race CODE TIMES   a key, 8 ms down and 8 ms up repeatedly; prints "press US" for each, in microseconds
 //   unplug            takes the keyboard away
 //   plug_pad          makes a gamepad, which is not there at first
 //   pad CODE VALUE    a button of the gamepad
@@ -13,7 +14,7 @@
 //   unplug_pad        takes the gamepad away
 //   done WORD         prints WORD
 //
-// Prints "ready" when the devices are there; they go with the program.
+// Prints "ready" when the devices exist; they are removed with the program.
 #include <chrono>
 #include <cstring>
 #include <ctime>
@@ -31,7 +32,7 @@ namespace {
 
 constexpr int kLastKey = KEY_MICMUTE;
 
-// Whatever fails here fails for the reader of the events, too.
+// An error here would be an error for the reader of the events, too.
 void Emit(int file, int type, int code, int value) {
   input_event event{};
   event.type = static_cast<unsigned short>(type);
@@ -109,6 +110,7 @@ class Hands {
     if (verb == "rel") Move(a, b);
     if (verb == "wheel") Turn(a);
     if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
+    if (verb == "flood") Flood(a, b);
     if (verb == "race") Race(a, b);
     if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
     if (verb == "plug_pad") pad_ = MakePad();
@@ -127,7 +129,10 @@ class Hands {
     Emit(pad_, type, code, value);
     Report(pad_);
   }
-  // Printed at the end: what is measured is not to wait for it.
+  void Flood(int code, int times) {
+    for (int i = 0; i < 2 * times; ++i) Key(code, (i + 1) % 2);
+  }
+  // Printed at the end, so that the printing does not delay what is measured.
   void Race(int code, int times) {
     std::vector<long long> presses;
     for (int i = 0; i < times; ++i) {

@@ -1,4 +1,4 @@
-// The window on a real X server, another program behind it, and a hand at mouse and keyboard. Time is real.
+// The window on a real X server, in front of another program, and a simulated hand on mouse and keyboard. Time is real.
 #ifndef TESTS_HOST_WINDOW_POINTER_DESKTOP_FIXTURE_H_
 #define TESTS_HOST_WINDOW_POINTER_DESKTOP_FIXTURE_H_
 
@@ -49,7 +49,7 @@ class DesktopFixture : public testing::Test {
     application_.reset();
   }
 
-  // Lets the application run until it is so.
+  // Runs the application until the condition holds.
   static bool WaitFor(const std::function<bool()>& is_so) {
     QElapsedTimer waiting;
     waiting.start();
@@ -88,7 +88,7 @@ class DesktopFixture : public testing::Test {
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<OtherProgram> other_;
   std::unique_ptr<Hand> hand_;
-  QPoint way_;       // counts that the library was given
+  QPoint way_;       // counts that the library received
   int presses_ = 0;  // of mouse buttons
   int turns_ = 0;    // of the wheel
   int key_releases_ = 0;

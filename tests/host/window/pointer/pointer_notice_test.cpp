@@ -1,4 +1,4 @@
-// What the window tells where view control does not get the mouse.
+// The window's message when view control does not get the mouse.
 #include "host/window/pointer/pointer_notice.h"
 
 #include <dlfcn.h>
@@ -17,7 +17,7 @@ bool has_input_extension = true;
 
 }  // namespace
 
-// In front of libxcb's, for what is linked into the test.
+// Overrides libxcb's function for the test program.
 extern "C" const xcb_query_extension_reply_t* xcb_get_extension_data(xcb_connection_t* connection,
                                                                      xcb_extension_t* extension) {
   static const xcb_query_extension_reply_t nothing = {};
@@ -52,7 +52,7 @@ TEST_F(Notice, APointerThatIsTaken) {
   EXPECT_TRUE(WaitFor([this] { return Text().isEmpty(); }));
 }
 
-// Neither is the pointer hidden nor its moves kept from anyone.
+// The pointer is neither hidden nor are its moves kept from other programs.
 TEST_F(Notice, AServerThatTellsNoWays) {
   has_input_extension = false;
   Load(kViewControl);

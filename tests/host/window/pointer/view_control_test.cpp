@@ -1,4 +1,4 @@
-// View control by a mouse, on a real X server.
+// View control with a mouse, on a real X server.
 #include <atomic>
 #include <chrono>
 #include <thread>
@@ -16,16 +16,16 @@ constexpr int kMiddle = 2;
 constexpr int kRight = 3;
 constexpr QPoint kWay(8, -3);  // of one move
 
-// What a hand did on its own thread.
+// The actions of a hand on its own thread.
 struct Work {
   int moves = 0;
   int clicks = 0;
-  int moves_outside = 0;  // after which the pointer was not in the view
+  int moves_outside = 0;  // the number of moves after which the pointer was outside the view
 };
 
 class ViewControl : public DesktopFixture {
  protected:
-  // Moves at a pace for a while, with a click now and then, while the application runs.
+  // Moves steadily for a while, with occasional clicks, while the application runs.
   Work Turn(int moves_a_second, int seconds) {
     Work work;
     std::atomic<bool> is_done = false;
@@ -51,7 +51,7 @@ class ViewControl : public DesktopFixture {
 
 class Pace : public ViewControl, public testing::WithParamInterface<int> {};
 
-// TAVI_TEST_SECONDS=10 for the whole trial by hand.
+// Set TAVI_TEST_SECONDS=10 for a long run by hand.
 TEST_P(Pace, EveryCountArrivesAndNothingGetsOut) {
   Load(kViewControl);
   BeginViewControl();
@@ -87,7 +87,7 @@ TEST_F(ViewControl, TheWheelTurns) {
   EXPECT_EQ(presses_, 0);
 }
 
-// The pointer is held while the button is down, and given back likewise.
+// The pointer is held while the button is down, and released likewise.
 TEST_F(ViewControl, AButtonSwitches) {
   Load("{type: Staring, key: Mouse Middle, point: [0.6, 0.4]}");
   hand_->MoveTo(NearCorner());
@@ -123,7 +123,7 @@ TEST_F(ViewControl, AViewThatIsResizedKeepsThePointerInItsMiddle) {
 
 // ---- The pointer comes back
 
-// Where it was when view control began, shown, and other programs get it.
+// Where it was when view control began, visible, and other programs get it.
 class GivenBack : public ViewControl {
  protected:
   void SetUp() override {
@@ -192,7 +192,7 @@ TEST_F(GivenBack, ByTheEndOfTheWindow) {
   ExpectBack();
 }
 
-// That a view gets, whatever it does about them.
+// Events that a view gets, whatever it does with them.
 class KeyReleases : public QObject {
  public:
   explicit KeyReleases(QObject* view) { view->installEventFilter(this); }
@@ -207,7 +207,7 @@ class KeyReleases : public QObject {
   int count_ = 0;
 };
 
-// A release waits for a moment, since it may belong to a key that repeats.
+// A release waits for a moment, because it may belong to a key repeat.
 TEST_F(ViewControl, AReleaseThatWaitsAtTheEndOfTheWindow) {
   Load(kViewControl);
   hand_->PressKey(kGrave);
@@ -235,7 +235,7 @@ class Taken : public ViewControl {
 
 TEST_F(Taken, ItIsToldAndWaitedFor) {
   const PointerCapture& capture = View()->Capture();
-  EXPECT_EQ(capture.Problem(), "Another program holds the mouse. View control begins when that lets go of it.");
+  EXPECT_EQ(capture.Problem(), "Another program holds the mouse. View control begins when it releases it.");
   EXPECT_TRUE(hand_->SeesPointer());
   EXPECT_FALSE(capture.IsHeld());
   hand_->MoveBy(30, 0);
@@ -257,7 +257,7 @@ TEST_F(Taken, AWaitEndsWithTheWish) {
   EXPECT_TRUE(other_->GrabPointer());
 }
 
-// A macro may hold all input while another window is in front: then the view goes on turning afterwards.
+// A macro may hold all input while another window is in front: afterwards the view keeps turning.
 TEST_F(ViewControl, AWindowThatComesBackTakesItAgain) {
   Load("{type: Staring, key: Grave, point: [0.6, 0.4]}, {type: Macro, key: E, press_commands: ['hold_switch']}");
   hand_->ClickKey(18);  // E

@@ -7,7 +7,7 @@ namespace {
 
 // ---- Ways
 
-// As the server sends it: the valuators that the mask names, accelerated, then as the device counted them.
+// In the server's format: the valuators in the mask, accelerated, then as the device counted them.
 struct Motion {
   xcb_input_raw_motion_event_t head;
   uint32_t mask;

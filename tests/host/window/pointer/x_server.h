@@ -1,4 +1,4 @@
-// An X server of the test's own, and what stands around the window there: a hand at mouse and keyboard, another
+// An X server for the test, and its contents besides the window: a simulated hand on mouse and keyboard, another
 // program.
 #ifndef TESTS_HOST_WINDOW_POINTER_X_SERVER_H_
 #define TESTS_HOST_WINDOW_POINTER_X_SERVER_H_
@@ -11,14 +11,14 @@
 
 namespace tavi {
 
-// A server with one screen and nothing on it, which the application made after it uses, and which is no session of a
-// desktop. It ends with the object.
+// A server with an empty screen, which an application that is created afterwards uses, and which is not a desktop
+// session. It ends with the object.
 class XServer {
  public:
   XServer();
   ~XServer();
 
-  // Empty where Xvfb is not installed.
+  // Empty if Xvfb is not installed.
   const QByteArray& Display() const { return display_; }
 
  private:
@@ -35,14 +35,14 @@ class XClient {
   XClient& operator=(const XClient&) = delete;
 
  protected:
-  // Until the server has done all that was asked for.
+  // Waits until the server has handled all requests.
   void Sync();
 
   xcb_connection_t* connection_;
   xcb_window_t root_;
 };
 
-// Moves and presses as devices do. May be used on a thread of its own.
+// Moves and presses like devices. May be used on a thread of its own.
 class Hand : public XClient {
  public:
   void MoveBy(int dx, int dy);
@@ -50,7 +50,7 @@ class Hand : public XClient {
   void Press(int button);
   void Release(int button);
   void Click(int button);
-  // `code` is Linux'.
+  // `code` is the Linux code.
   void ClickKey(int code);
   void PressKey(int code);
   void ReleaseKey(int code);
@@ -60,13 +60,13 @@ class Hand : public XClient {
   bool SeesPointer();
 };
 
-// A window that covers the whole screen, behind what is opened after it.
+// A window that covers the whole screen, behind those opened later.
 class OtherProgram : public XClient {
  public:
   OtherProgram();
 
   xcb_window_t Window() const { return window_; }
-  // Buttons that went down here.
+  // The buttons that were pressed here.
   int Clicks();
   bool GrabPointer();
   void UngrabPointer();

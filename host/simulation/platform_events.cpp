@@ -1,17 +1,18 @@
+#include "host/simulation/platform_events.h"
+
 #include <QAbstractEventDispatcher>
 #include <QGuiApplication>
 
-#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr char kWithoutGlib[] = "QT_NO_GLIB";  // a variable of Qt's
+constexpr char kWithoutGlib[] = "QT_NO_GLIB";  // an environment variable of Qt
 
 std::unique_ptr<QAbstractEventDispatcher> TakeDispatcher() {
-  // Glib's delivers a part of what there is at each call, which part depends on what else is posted.
+  // GLib's dispatcher delivers only some of the events at each call, depending on what else is posted.
   const QByteArray without_glib = qgetenv(kWithoutGlib);
   qputenv(kWithoutGlib, "1");
   int argument_count = 0;
@@ -23,7 +24,7 @@ std::unique_ptr<QAbstractEventDispatcher> TakeDispatcher() {
     qputenv(kWithoutGlib, without_glib);
   }
   QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
-  dispatcher->setParent(nullptr);  // else the application would take it along
+  dispatcher->setParent(nullptr);  // otherwise the application would delete it
   return std::unique_ptr<QAbstractEventDispatcher>(dispatcher);
 }
 
