@@ -11,7 +11,9 @@ if(NOT cache)
   set(cache $ENV{HOME}/.cache/tavi)
 endif()
 set(CMAKE_SYSROOT ${cache}/arm64)
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${CMAKE_SYSROOT})
+# qemu shows a program the files in the folder as those of its machine, but lists no folders.
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${CMAKE_SYSROOT}
+  -E QT_PLUGIN_PATH=${CMAKE_SYSROOT}/usr/lib/aarch64-linux-gnu/qt5/plugins)
 
 # Libraries and headers are the other machine's, programs are this one's.
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
