@@ -8,6 +8,7 @@
 
 #include <Poco/Exception.h>
 
+#include "qt/json_text.h"
 #include "record/json/file_layout.h"
 #include "record/json/poco_json.h"
 #include "record/merge_record_actions.h"
@@ -34,7 +35,9 @@ QJsonObject ActionsAsJson(const RecordActions* actions) {
   return {{"control", Utils()->WriteControlParam(actions->control)}, {"items", list}};
 }
 
-std::string Told(const QJsonObject& json) { return QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString(); }
+std::string Told(const QJsonObject& json) {
+  return qt::JsonText(QJsonDocument(json), QJsonDocument::Compact).toStdString();
+}
 
 std::string Told(const RecordContents& contents) {
   return Told(QJsonObject{{"info", contents.info}, {"record", ActionsAsJson(contents.actions.get())}});
@@ -87,8 +90,8 @@ std::string DifferenceInMergedCopy(const QByteArray& bytes, int window_bytes, in
   ++*copied_count;
   const QJsonDocument document = QJsonDocument::fromJson(bytes);
   const QJsonObject json = document.object();
-  if (WithoutEnd(document.toJson()) != WithoutEnd(bytes))
-    return "the library writes " + document.toJson().toStdString();
+  if (WithoutEnd(qt::JsonText(document)) != WithoutEnd(bytes))
+    return "the library writes " + qt::JsonText(document).toStdString();
   if (QJsonDocument::fromJson(places.info).object() != json.value("info").toObject()) return "another header";
   if (!IsAt(places.actions, bytes, json.value("actions"))) return "other actions";
   if (!IsAt(places.merged_actions, bytes, json.value("merged_actions"))) return "other merged actions";
@@ -120,7 +123,7 @@ QByteArray Stamped(const QByteArray& bytes) {
 }  // namespace
 
 std::string DifferenceInCopying(const QByteArray& bytes, int window_bytes, int* copied_count) {
-  for (const QByteArray& file : {bytes, QJsonDocument::fromJson(bytes).toJson(), Stamped(bytes)}) {
+  for (const QByteArray& file : {bytes, qt::JsonText(QJsonDocument::fromJson(bytes)), Stamped(bytes)}) {
     std::string difference = DifferenceInMergedCopy(file, window_bytes, copied_count);
     if (difference.empty()) difference = DifferenceInStampedCopy(file, window_bytes, copied_count);
     if (!difference.empty()) return difference + "\n  of " + file.toStdString();
@@ -142,7 +145,7 @@ QByteArray MergedByLibrary(const QVector<MergeParam>& params, qint64 create_time
   // For items that are played once, without a gap: a sum of ints, which wraps beyond their range.
   const quint32 total = static_cast<quint32>(info.total_running_time) * static_cast<quint32>(params.size());
   info.total_running_time = static_cast<quint64>(static_cast<int>(total));
-  return QJsonDocument(QJsonObject{{"info", Utils()->WriteRecordInfo(info)}, {"merged_actions", items}}).toJson();
+  return qt::JsonText(QJsonDocument(QJsonObject{{"info", Utils()->WriteRecordInfo(info)}, {"merged_actions", items}}));
 }
 
 std::string DifferenceInReading(const QByteArray& bytes, int window_bytes, int* read_count) {
@@ -167,7 +170,7 @@ std::string DifferenceInReading(const QByteArray& bytes, int window_bytes, int* 
 QByteArray WrittenByLibrary(const QJsonObject& info, const QList<RecordAction*>& actions) {
   QJsonArray list;
   for (const RecordAction* action : actions) list.append(Utils()->WriteAction(*action));
-  return QJsonDocument(QJsonObject{{"info", info}, {"actions", list}}).toJson();
+  return qt::JsonText(QJsonDocument(QJsonObject{{"info", info}, {"actions", list}}));
 }
 
 }  // namespace taviinputmanager
