@@ -49,8 +49,15 @@ if(WIN32 AND TAVI_LIBRARY_TYPE STREQUAL STATIC)
   set(TAVI_STATIC_ON_WINDOWS ON)
 endif()
 
+# Warnings, and what the compiler has to be told to take this code. Of Microsoft's nobody has tried it.
+if(MSVC)
+  set(tavi_compile_options /W4 $<$<BOOL:${TAVI_WERROR}>:/WX> /utf-8 /permissive- /Zc:__cplusplus /EHsc)
+else()
+  set(tavi_compile_options -Wall -Wextra -Wpedantic $<$<BOOL:${TAVI_WERROR}>:-Werror>)
+endif()
+
 function(tavi_target_defaults target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${TAVI_WERROR}>:-Werror>)
+  target_compile_options(${target} PRIVATE ${tavi_compile_options})
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")

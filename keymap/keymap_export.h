@@ -5,7 +5,8 @@
 
 #include <QtGlobal>
 
-#if defined(TAVI_STATIC)
+// Whoever defines TAVI_KEYMAP_BY_LINKER calls functions that may be in the same program or in a library, on Windows too.
+#if defined(TAVI_STATIC) || defined(TAVI_KEYMAP_BY_LINKER)
 #define TAVI_KEYMAP_EXPORT
 #elif defined(TAVI_BUILDING_KEYMAPMANAGER)
 #define TAVI_KEYMAP_EXPORT Q_DECL_EXPORT

@@ -74,10 +74,6 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
   bool unregisterTimers(QObject* object) override;
   QList<TimerInfo> registeredTimers(QObject* object) const override;
   int remainingTime(int id) override;
-#ifdef Q_OS_WIN
-  bool registerEventNotifier(QWinEventNotifier* /*notifier*/) override { return false; }
-  void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) override {}
-#endif
   void wakeUp() override;
   void interrupt() override;
 

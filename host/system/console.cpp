@@ -47,6 +47,9 @@ void PrintError(const QString& text) {
   std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
 }
 
+// Lines are printed as a whole, and not every system knows buffers of one line.
+void PrintAtOnce() { std::setvbuf(stdout, nullptr, _IONBF, 0); }
+
 // A pipe gives what is in it so far; only nothing at all is its end.
 QByteArray ReadStandardInput(qint64 most) {
   QByteArray content;

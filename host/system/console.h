@@ -20,6 +20,8 @@ constexpr char kStandardStream[] = "-";
 void Print(const QString& text);           // to standard output, as UTF-8
 void PrintBytes(const QByteArray& bytes);  // to standard output
 void PrintError(const QString& text);      // to standard error
+// From here on each print is seen at once. Before the first one.
+void PrintAtOnce();
 
 // What went wrong with standard output up to here, or nothing. Where nobody reads it any more, each of these ends the
 // program without a word.

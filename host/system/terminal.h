@@ -33,8 +33,9 @@ void SetInterruptionTaker(std::function<void(int number)> take);
 // The exit status of a program that ended because of a signal.
 constexpr int ExitStatusOfSignal(int number) { return 128 + number; }
 
-// From here on what is written to standard output arrives as it is.
-void MakeOutputBinary();
+// What is read from the standard streams and written to them goes through as it is, and a terminal shows it as UTF-8.
+// To be called first.
+void MakeStreamsPlain();
 
 }  // namespace tavi
 
