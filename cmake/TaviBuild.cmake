@@ -37,6 +37,11 @@ macro(tavi_find_qt)
   find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
 endmacro()
 
+# Windows looks for libraries beside the program.
+if(WIN32 AND PROJECT_IS_TOP_LEVEL)
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
+
 set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
 # Shared libraries, unless static ones are asked for. No cache entry: it would decide for the project around this one.
@@ -110,13 +115,13 @@ function(tavi_shared_library target version_script)
 endfunction()
 
 # Platform code stands in pairs *_posix.cpp, *_windows.cpp behind one header, and so does what a Qt has its own way of,
-# *_qt5.cpp and *_qt6.cpp.
+# *_qt5.cpp and *_qt6.cpp. A test of one platform alone is a *_posix_test.cpp or a *_windows_test.cpp.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
   if(WIN32)
-    list(FILTER files EXCLUDE REGEX "_posix\\.cpp$")
+    list(FILTER files EXCLUDE REGEX "_posix(_test)?\\.cpp$")
   else()
-    list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
+    list(FILTER files EXCLUDE REGEX "_windows(_test)?\\.cpp$")
   endif()
   math(EXPR other_qt "11 - ${TAVI_QT}")
   list(FILTER files EXCLUDE REGEX "_qt${other_qt}\\.cpp$")

@@ -30,6 +30,8 @@ if(TAVI_BUILD_HOST)
     set(zsh_dir ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
   endif()
   install(TARGETS tavi COMPONENT tools)
+endif()
+if(TAVI_BUILD_HOST AND NOT WIN32)
   install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES completions/tavi.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME tavi
     COMPONENT tools)

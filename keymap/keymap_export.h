@@ -5,8 +5,7 @@
 
 #include <QtGlobal>
 
-// Whoever defines TAVI_KEYMAP_BY_LINKER calls functions that may be in the same program or in a library, on Windows too.
-#if defined(TAVI_STATIC) || defined(TAVI_KEYMAP_BY_LINKER)
+#if defined(TAVI_STATIC) || defined(TAVI_KEYMAP_BY_LINKER)  // the latter: in whichever library the linker finds them
 #define TAVI_KEYMAP_EXPORT
 #elif defined(TAVI_BUILDING_KEYMAPMANAGER)
 #define TAVI_KEYMAP_EXPORT Q_DECL_EXPORT

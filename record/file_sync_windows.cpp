@@ -10,9 +10,9 @@ namespace taviinputmanager {
 
 // By a handle of its own, which reaches what was written through any.
 bool SyncFile(const QFileDevice& file) {
-  const HANDLE handle = CreateFileW(windows::NativePath(file.fileName()).c_str(), GENERIC_WRITE,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                                    nullptr);
+  const HANDLE handle =
+      CreateFileW(windows::NativePath(file.fileName()).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return false;
   const bool is_synced = FlushFileBuffers(handle) != FALSE;
   CloseHandle(handle);

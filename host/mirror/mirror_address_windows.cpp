@@ -1,5 +1,5 @@
-#include <optional>
 #include <windows.h>
+#include <optional>
 
 #include <QByteArray>
 #include <QLocalSocket>

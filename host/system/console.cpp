@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include "host/system/plain_file.h"
+
 namespace tavi {
 
 namespace {
@@ -32,7 +34,7 @@ void PrintBytes(const QByteArray& bytes) {
 
 QString FlushOutput() {
   if (std::fflush(stdout) != 0) TakeOutputError(errno);
-  return output_error == 0 ? QString() : qt_error_string(output_error);
+  return output_error == 0 ? QString() : ErrorText(output_error);
 }
 
 int FinishOutput(int status) {

@@ -8,6 +8,9 @@
 
 namespace tavi {
 
+// An error of the C library ("No such file or directory"), which is no error of the system's own everywhere.
+QString ErrorText(int error);
+
 // Why what is there under this name is no file: "it is a folder", or "not a plain file" for a pipe or a device. Empty
 // for a file, and where there is nothing.
 QString NoFileProblem(const QString& name);

@@ -1,7 +1,5 @@
-#include <memory>
 #include <windows.h>
-
-#include <shellapi.h>
+#include <memory>
 
 #include "host/system/program_arguments.h"
 

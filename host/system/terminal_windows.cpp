@@ -1,3 +1,4 @@
+#include <windows.h>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -5,7 +6,6 @@
 #include <io.h>
 #include <mutex>
 #include <utility>
-#include <windows.h>
 
 #include "host/system/terminal.h"
 

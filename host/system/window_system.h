@@ -13,6 +13,9 @@ bool HasWindowSystem(const QStringList& arguments);
 // does not tell of a session that has no folder for its sockets, since it opens none.
 void DoWithoutWindowSystem();
 
+// Names the system's folder of fonts, where a program without a window system would find none.
+void NameFontFolder();
+
 // What windows are on, as far as it matters to who holds a pointer.
 enum class WindowSystem {
   kXWayland,  // an X server that is itself a client of Wayland

@@ -97,6 +97,8 @@ WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
 # What one Qt does otherwise than the other: "qt/x.h" is in two folders, of which a build includes one. Stands on Qt alone.
 # All may use it but the installed headers.
 QTS = ["qt/5", "qt/6"]
+# What the calls of one system take. Only its own files use it: *_windows.cpp.
+SYSTEMS = ["windows"]
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
 # The most files that a folder of sources holds; more want parting.
 MOST_FILES = 45
@@ -105,7 +107,7 @@ def rooms_of(floors):
     return [room for floor in floors for room in floor]
 
 
-ALL_ROOMS = QTS + rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(GUEST) + rooms_of(HOST) + FREE
+ALL_ROOMS = QTS + SYSTEMS + rooms_of(LIBRARY) + rooms_of(KEYMAPS[1:]) + rooms_of(GUEST) + rooms_of(HOST) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -153,7 +155,7 @@ def allowed(room):
     """Rooms and single files that `room` may include, apart from itself."""
     if room in rooms_of(GUEST):
         return below(room, GUEST)
-    if room in QTS:
+    if room in QTS + SYSTEMS:
         return []
     if room in rooms_of(KEYMAPS[1:]):
         return below(room, KEYMAPS) + FACE_OF_KEYMAPS
@@ -166,6 +168,8 @@ def may_include(source, target):
     room = room_of(source)
     if room in FREE or (room_of(target) in QTS and room not in GROUND):
         return True
+    if room_of(target) in SYSTEMS:
+        return source.endswith(f"_{room_of(target)}.cpp")
     return room_of(target) == room or any(target == entry or room_of(target) == entry for entry in allowed(room))
 
 

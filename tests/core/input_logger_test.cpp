@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
-#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -162,7 +161,8 @@ TEST(LogOfTwoProcesses, HasTwoFiles) {
   SetInputEventSendFunc(nullptr);
   const QFileInfoList files = QDir().entryInfoList({QStringLiteral("input_looger.txt_*")}, QDir::Files, QDir::Size);
   ASSERT_EQ(2, files.size());
-  EXPECT_EQ(QStringLiteral("input_looger.txt_%1").arg(getpid()), files[0].fileName());  // the larger, of two lines
+  EXPECT_EQ(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()),
+            files[0].fileName());  // the larger, of two lines
   QDir::setCurrent(QStringLiteral("/"));
 }
 
