@@ -30,7 +30,7 @@ class Log : public Story {
 
   QStringList Lines() {
     QFile file(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()));
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
     return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
   }
   static void ShowDebugLines() {
