@@ -37,6 +37,11 @@ macro(tavi_find_qt)
   find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
 endmacro()
 
+# Windows looks for libraries beside the program.
+if(WIN32 AND PROJECT_IS_TOP_LEVEL)
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
+
 set(TAVI_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
 # Shared libraries by default. Not a cache entry, which would affect the outer project.
@@ -49,8 +54,15 @@ if(WIN32 AND TAVI_LIBRARY_TYPE STREQUAL STATIC)
   set(TAVI_STATIC_ON_WINDOWS ON)
 endif()
 
+# Warnings, and what the compiler has to be told to take this code. Of Microsoft's nobody has tried it.
+if(MSVC)
+  set(tavi_compile_options /W4 $<$<BOOL:${TAVI_WERROR}>:/WX> /utf-8 /permissive- /Zc:__cplusplus /EHsc)
+else()
+  set(tavi_compile_options -Wall -Wextra -Wpedantic $<$<BOOL:${TAVI_WERROR}>:-Werror>)
+endif()
+
 function(tavi_target_defaults target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${TAVI_WERROR}>:-Werror>)
+  target_compile_options(${target} PRIVATE ${tavi_compile_options})
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -112,13 +124,14 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code is in pairs *_posix.cpp, *_windows.cpp behind one header.
+# Platform code is in pairs *_posix.cpp, *_windows.cpp behind one header. A test for one platform is a *_posix_test.cpp or
+# a *_windows_test.cpp.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
   if(WIN32)
-    list(FILTER files EXCLUDE REGEX "_posix\\.cpp$")
+    list(FILTER files EXCLUDE REGEX "_posix(_test)?\\.cpp$")
   else()
-    list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
+    list(FILTER files EXCLUDE REGEX "_windows(_test)?\\.cpp$")
   endif()
   set(${list_name} ${files} PARENT_SCOPE)
 endfunction()

@@ -15,6 +15,8 @@ if(TAVI_BUILD_HOST)
   set(TAVI_ZSH_DIR ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING
     "Where zsh finds completion functions of programs")
   install(TARGETS tavi COMPONENT tools)
+endif()
+if(TAVI_BUILD_HOST AND NOT WIN32)
   install(FILES docs/man/tavi.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES completions/tavi.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME tavi
     COMPONENT tools)

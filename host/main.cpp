@@ -4,5 +4,6 @@
 
 int main(int argc, char** argv) {
   tavi::EndWithReader();
+  tavi::MakeStreamsPlain();
   return tavi::RunProgram(argc, argv);
 }

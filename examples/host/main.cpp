@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
   tavi::SetInputEventSendFunc(reinterpret_cast<void*>(&Print));
   tavi::SetInputTextSendFunc(reinterpret_cast<void*>(&Print));
   tavi::Initialize(&callbacks, 0, 0);
-  tavi::OnLoadKeymapConfigAndInfo(QString::fromLocal8Bit(argv[1]), "com.example.game", QString(), 1);
+  tavi::OnLoadKeymapConfigAndInfo(QGuiApplication::arguments().value(1), "com.example.game", QString(), 1);
   SendKey(QEvent::KeyPress, 33);  // F
   SendKey(QEvent::KeyRelease, 33);
 }

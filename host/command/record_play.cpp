@@ -1,7 +1,6 @@
 #include "host/command/record_play.h"
 
 #include <atomic>
-#include <cstdio>
 
 #include <QAbstractEventDispatcher>
 #include <QDateTime>
@@ -233,7 +232,7 @@ int Run(const Invocation& invocation) {
     SetCleanUp({});  // signals have a thread of their own, which must start before others
   }
   if (!options.is_live) QCoreApplication::setEventDispatcher(new VirtualEventDispatcher);
-  if (options.is_live) std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // each line is visible when it is due
+  if (options.is_live) PrintAtOnce();  // each line is visible when it is due
   const QGuiApplication application(invocation.argc, invocation.argv);
   const QSize surface = GuestSize(options);
   GuestsInUse guests(options.targets, surface);

@@ -16,6 +16,7 @@
 #include "host/command/simulate_command.h"
 #include "host/command/window_command.h"
 #include "host/system/console.h"
+#include "host/system/program_arguments.h"
 
 namespace tavi {
 
@@ -147,8 +148,7 @@ int RunNamed(const QString& name, const Invocation& invocation) {
 bool IsHelp(const QString& word) { return word == QLatin1String("--help") || word == QLatin1String("-h"); }
 
 int RunWords(int& argc, char** argv) {
-  QStringList words;
-  for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
+  QStringList words = ProgramArguments(argc, argv);
   if (words.isEmpty()) return FailUsage({}, QStringLiteral("a command is missing"));
   // "tavi help check" is "tavi check --help".
   if (words.first() == kHelpWord) words = words.mid(1) << QStringLiteral("--help");

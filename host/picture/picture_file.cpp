@@ -4,7 +4,6 @@
 #include <QStringList>
 
 #include "host/system/console.h"
-#include "host/system/terminal.h"
 #include "host/system/whole_file.h"
 
 namespace tavi {
@@ -13,7 +12,6 @@ namespace {
 
 // Errors there are reported at the end of the program.
 int WriteToOutput(const QByteArray& picture) {
-  MakeOutputBinary();
   PrintBytes(picture);
   return FlushOutput().isEmpty() ? kExitDone : kExitProblem;
 }

@@ -65,10 +65,6 @@ class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
   void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
   void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
-#ifdef Q_OS_WIN
-  bool registerEventNotifier(QWinEventNotifier* /*notifier*/) override { return false; }
-  void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) override {}
-#endif
   void wakeUp() override;
   void interrupt() override;
 

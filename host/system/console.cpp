@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include "host/system/plain_file.h"
+
 namespace tavi {
 
 namespace {
@@ -32,7 +34,7 @@ void PrintBytes(const QByteArray& bytes) {
 
 QString FlushOutput() {
   if (std::fflush(stdout) != 0) TakeOutputError(errno);
-  return output_error == 0 ? QString() : qt_error_string(output_error);
+  return output_error == 0 ? QString() : ErrorText(output_error);
 }
 
 int FinishOutput(int status) {
@@ -46,6 +48,9 @@ void PrintError(const QString& text) {
   const QByteArray bytes = text.toUtf8();
   std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
 }
+
+// Lines are printed as a whole, and not every system has line buffers.
+void PrintAtOnce() { std::setvbuf(stdout, nullptr, _IONBF, 0); }
 
 // A read from a pipe returns what is in it so far; only an empty read is its end.
 QByteArray ReadStandardInput(qint64 most) {

@@ -1,18 +1,16 @@
-#include <io.h>
 #include <windows.h>
+#include <io.h>
 
-#include <QDir>
 #include <QFile>
 
 #include "host/system/file_commit.h"
+#include "windows/native_path.h"
 
 namespace tavi {
 
 namespace {
 
 QString LastProblem() { return qt_error_string(static_cast<int>(GetLastError())); }
-
-std::wstring Wide(const QString& name) { return QDir::toNativeSeparators(name).toStdWString(); }
 
 }  // namespace
 
@@ -32,7 +30,8 @@ QString ReserveRoom(QFile* file, qint64 bytes) {
 
 QString MoveOver(const QString& from, const QString& to) {
   const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-  return MoveFileExW(Wide(from).c_str(), Wide(to).c_str(), how) != 0 ? QString() : LastProblem();
+  const bool is_moved = MoveFileExW(windows::NativePath(from).c_str(), windows::NativePath(to).c_str(), how) != 0;
+  return is_moved ? QString() : LastProblem();
 }
 
 void TakeOwnership(const QString& model, const QString& file) {

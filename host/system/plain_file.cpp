@@ -1,9 +1,13 @@
 #include "host/system/plain_file.h"
 
+#include <cstring>
+
 #include <QFile>
 #include <QFileInfo>
 
 namespace tavi {
+
+QString ErrorText(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
 
 QString NoFileProblem(const QString& name) {
   const QFileInfo info(name);

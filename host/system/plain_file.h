@@ -8,6 +8,10 @@
 
 namespace tavi {
 
+// The text of an error of the C library, such as "No such file or directory". On some systems it differs from the
+// system's own errors.
+QString ErrorText(int error);
+
 // Why this name is not a file: "it is a folder", or "not a plain file" for a pipe or a device. Empty for a file, and if
 // nothing exists.
 QString NoFileProblem(const QString& name);

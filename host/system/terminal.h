@@ -33,8 +33,8 @@ void SetInterruptionTaker(std::function<void(int number)> take);
 // The exit status of a program that was ended by a signal.
 constexpr int ExitStatusOfSignal(int number) { return 128 + number; }
 
-// From now on standard output is written unchanged.
-void MakeOutputBinary();
+// From now on the standard streams are read and written unchanged, and a terminal shows them as UTF-8. Call it first.
+void MakeStreamsPlain();
 
 }  // namespace tavi
 

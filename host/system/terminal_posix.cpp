@@ -90,6 +90,6 @@ void SetCleanUp(std::function<void()> clean_up) { SetReaction(&Reactions::clean_
 
 void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&Reactions::take, std::move(take)); }
 
-void MakeOutputBinary() {}
+void MakeStreamsPlain() {}
 
 }  // namespace tavi

@@ -1,10 +1,11 @@
+#include <windows.h>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <mutex>
 #include <utility>
-#include <windows.h>
 
 #include "host/system/terminal.h"
 
@@ -39,6 +40,10 @@ BOOL WINAPI TakeInterrupt(DWORD kind) {
   return TRUE;
 }
 
+UINT encoding_before = 0;  // of what the console shows, which goes on when this program has ended
+
+void RestoreEncoding() { SetConsoleOutputCP(encoding_before); }
+
 template <typename Reaction>
 void SetReaction(Reaction* which, Reaction reaction) {
   std::call_once(listens, [] { SetConsoleCtrlHandler(TakeInterrupt, TRUE); });
@@ -58,6 +63,12 @@ void SetCleanUp(std::function<void()> clean_up) { SetReaction(&clean_up_reaction
 
 void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&take_reaction, std::move(take)); }
 
-void MakeOutputBinary() { _setmode(_fileno(stdout), _O_BINARY); }
+// No line end becomes another one, and no letter is the end of a file.
+void MakeStreamsPlain() {
+  for (FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  encoding_before = GetConsoleOutputCP();
+  if (encoding_before == 0 || !SetConsoleOutputCP(CP_UTF8)) return;  // no console
+  std::atexit(RestoreEncoding);
+}
 
 }  // namespace tavi

@@ -106,9 +106,9 @@ void WholeFile::FindPlace() {
   if (info.isDir()) {
     problem_ = NoFileProblem(target_);
   } else if (!info.dir().exists()) {
-    problem_ = qt_error_string(ENOENT);
+    problem_ = ErrorText(ENOENT);
   } else if (info.exists() && !info.isWritable()) {
-    problem_ = qt_error_string(EACCES);
+    problem_ = ErrorText(EACCES);
   }
 }
 

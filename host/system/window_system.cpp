@@ -17,6 +17,7 @@ void DropSessionWarning(QtMsgType type, const QMessageLogContext& context, const
 
 void DoWithoutWindowSystem() {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  NameFontFolder();
   next_handler = qInstallMessageHandler(DropSessionWarning);
 }
 

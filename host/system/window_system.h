@@ -13,6 +13,9 @@ bool HasWindowSystem(const QStringList& arguments);
 // says, and does not complain about a session without a folder for its sockets, because it opens none.
 void DoWithoutWindowSystem();
 
+// Sets the system's font folder, if a program without a window system would find none.
+void NameFontFolder();
+
 // The window systems that differ in how a program can hold the pointer.
 enum class WindowSystem {
   kXWayland,  // an X server that is itself a client of Wayland

@@ -11,4 +11,6 @@ bool HasWindowSystem(const QStringList& arguments) {
   return arguments.contains(QLatin1String("-platform"));
 }
 
+void NameFontFolder() {}
+
 }  // namespace tavi

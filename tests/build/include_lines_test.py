@@ -97,6 +97,8 @@ WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
 # Differences between the Qts: "qt/x.h" is in two folders, one of which a build includes. They depend on Qt alone. All
 # folders except the installed headers may use them.
 QTS = ["qt/5", "qt/6"]
+# Helpers for the calls of one system. Only its own files, *_windows.cpp, use them.
+SYSTEMS = ["windows"]
 FREE = ["tests", "benchmarks", "fuzz", "examples", "cmake"]
 # The maximum number of files in a folder; split larger ones.
 MOST_FILES = 45
@@ -105,7 +107,7 @@ def folders_of(layers):
     return [folder for layer in layers for folder in layer]
 
 
-ALL_FOLDERS = QTS + folders_of(LIBRARY) + folders_of(KEYMAPS[1:]) + folders_of(GUEST) + folders_of(HOST) + FREE
+ALL_FOLDERS = QTS + SYSTEMS + folders_of(LIBRARY) + folders_of(KEYMAPS[1:]) + folders_of(GUEST) + folders_of(HOST) + FREE
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -153,7 +155,7 @@ def allowed(folder):
     """Folders and single files that `folder` may include, apart from itself."""
     if folder in folders_of(GUEST):
         return below(folder, GUEST)
-    if folder in QTS:
+    if folder in QTS + SYSTEMS:
         return []
     if folder in folders_of(KEYMAPS[1:]):
         return below(folder, KEYMAPS) + FACE_OF_KEYMAPS
@@ -166,6 +168,8 @@ def may_include(source, target):
     folder = folder_of(source)
     if folder in FREE or (folder_of(target) in QTS and folder not in GROUND):
         return True
+    if folder_of(target) in SYSTEMS:
+        return source.endswith(f"_{folder_of(target)}.cpp")
     return folder_of(target) == folder or any(target == entry or folder_of(target) == entry for entry in allowed(folder))
 
 

@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
-#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -31,7 +30,7 @@ class Log : public Story {
 
   QStringList Lines() {
     QFile file(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()));
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
     return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
   }
   static void ShowDebugLines() {
@@ -162,7 +161,8 @@ TEST(LogOfTwoProcesses, HasTwoFiles) {
   SetInputEventSendFunc(nullptr);
   const QFileInfoList files = QDir().entryInfoList({QStringLiteral("input_looger.txt_*")}, QDir::Files, QDir::Size);
   ASSERT_EQ(2, files.size());
-  EXPECT_EQ(QStringLiteral("input_looger.txt_%1").arg(getpid()), files[0].fileName());  // the larger, of two lines
+  EXPECT_EQ(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()),
+            files[0].fileName());  // the larger, of two lines
   QDir::setCurrent(QStringLiteral("/"));
 }
 

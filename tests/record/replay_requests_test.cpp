@@ -1,10 +1,5 @@
-// Which replays a request reaches, how replays stop, and which files they lock.
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
-#include <QDir>
-#include <QFileInfo>
+// Whom a request reaches, and how replays stop.
+#include <QFile>
 
 #include "record/replay_manager.h"
 #include "record/replay_worker.h"
@@ -13,26 +8,7 @@
 namespace taviinputmanager {
 namespace {
 
-class ReplayRequests : public ReplayStory {
- protected:
-  // How many open files of this process are this one.
-  int Handles(const QString& name) const {
-    const QString path = QFileInfo(Path(name)).canonicalFilePath();
-    int count = 0;
-    for (const QFileInfo& file : QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System | QDir::Hidden)) {
-      count += file.symLinkTarget() == path;
-    }
-    return count;
-  }
-  // Whether a program that uses locks may write.
-  bool MayWrite(const QString& name) const {
-    const int file = open(Path(name).toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
-    EXPECT_GE(file, 0);
-    const bool may = flock(file, LOCK_EX | LOCK_NB) == 0;
-    close(file);
-    return may;
-  }
-};
+class ReplayRequests : public ReplayStory {};
 
 // ---- Names ----
 
@@ -349,81 +325,6 @@ TEST_F(ReplayRequests, AReplayKeepsItsTable) {
   Wait(50);
   Pause(7, "a.json");
   EXPECT_REPLAY_CALLS("0ms > started 7 a.json", "50ms > paused 7 a.json");
-}
-
-// ---- Files that are held ----
-
-TEST_F(ReplayRequests, AFileIsHeldUntilTheStop) {
-  Save("a.json", {KeyDown(10, 30)});
-  EXPECT_TRUE(MayWrite("a.json"));
-  Start(7, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));
-  EXPECT_FALSE(MayWrite("a.json"));
-  Wait(100);  // it has ended, and can be restarted
-  EXPECT_EQ(1, Handles("a.json"));
-  EXPECT_FALSE(MayWrite("a.json"));
-  Stop(7, "a.json");
-  EXPECT_EQ(0, Handles("a.json"));
-  EXPECT_TRUE(MayWrite("a.json"));
-}
-
-TEST_F(ReplayRequests, AFileIsHeldWhilePaused) {
-  Save("a.json", {KeyDown(1000, 30)});
-  Start(7, "a.json");
-  Pause(7, "a.json");
-  EXPECT_FALSE(MayWrite("a.json"));
-  StopAll();
-  EXPECT_TRUE(MayWrite("a.json"));
-}
-
-TEST_F(ReplayRequests, ReadersAreWelcome) {
-  Save("a.json", {KeyDown(1000, 30)});
-  Start(7, "a.json");
-  RecordInfo info;
-  EXPECT_TRUE(GetRecordInfo(Path("a.json"), &info));
-  const int file = open(Path("a.json").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
-  EXPECT_EQ(0, flock(file, LOCK_SH | LOCK_NB));
-  close(file);
-}
-
-TEST_F(ReplayRequests, TheSecondReplayOfAFileTakesTheEntry) {
-  Save("a.json", {KeyDown(1000, 30)});
-  Start(7, "a.json");
-  Start(8, "a.json");
-  EXPECT_EQ(2, Handles("a.json"));
-  Stop(7, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));
-  Stop(8, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));  // the first one's stays open permanently
-  EXPECT_FALSE(MayWrite("a.json"));
-}
-
-TEST_F(ReplayRequests, FilesAreHeldOneByOne) {
-  Save("a.json", {KeyDown(1000, 30)});
-  Save("b.json", {KeyDown(1000, 30)});
-  Start(7, "a.json");
-  Start(7, "b.json");
-  Stop(7, "a.json");
-  EXPECT_TRUE(MayWrite("a.json"));
-  EXPECT_FALSE(MayWrite("b.json"));
-}
-
-TEST_F(ReplayRequests, AFileThatSomebodyWritesIsPlayedAllTheSame) {
-  Save("a.json", {KeyDown(10, 30), KeyUp(1000, 30)});
-  const int file = open(Path("a.json").toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
-  ASSERT_EQ(0, flock(file, LOCK_EX));
-  Start(7, "a.json");
-  Wait(50);
-  EXPECT_STORY("0ms > started 7 a.json", "10ms 2:KBDPR:30:1");
-  Stop(7, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));  // this test's own
-  close(file);
-}
-
-TEST_F(ReplayRequests, AFailedLoadHoldsNothing) {
-  QFile(Save("a.json", {})).resize(1);  // "{"
-  Start(7, "a.json");
-  EXPECT_EQ(0, Handles("a.json"));
 }
 
 }  // namespace

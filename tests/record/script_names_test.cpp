@@ -1,8 +1,5 @@
 // The names of app and package in the start marker of a record.
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/time.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -87,29 +84,6 @@ TEST_F(ScriptNames, AreLookedForDownTheFirstItemOfEachLevel) {
 TEST_F(ScriptNames, OnlyTheFirstActionIsLookedAt) {
   const QByteArray marker = "{'data': '{\\'params\\':{\\'app\\':\\'A\\'}}'}";
   EXPECT_EQ("-|-", NamesIn(Text("{'actions': [{'data': 'release'}, " + marker + "]}")));
-}
-
-// A call that does not return is ended by a limit of processor time, which is independent of the machine's load.
-TEST_F(ScriptNames, AreLookedForForEverWhereTheFirstActionHasNoData) {
-  const struct {
-    const char* name;
-    const char* json;
-  } rows[] = {
-      {"no actions", "{'actions': []}"},
-      {"no data", "{'actions': [{'type': 'touch'}]}"},
-      {"empty data", "{'actions': [{'data': ''}, {'data': '{}'}]}"},
-      {"data that is no text", "{'actions': [{'data': 5}]}"},
-      {"actions that are no list", "{'actions': {'data': '{}'}}"},
-      {"in the first item", "{'merged_actions': [{'actions': []}, {'actions': [{'data': '{}'}]}]}"},
-  };
-  const auto look = [this](const char* json) {
-    itimerval limit{};
-    limit.it_value.tv_usec = 20000;
-    setitimer(ITIMER_VIRTUAL, &limit, nullptr);
-    NamesIn(Text(json));
-    std::exit(0);
-  };
-  for (const auto& row : rows) EXPECT_EXIT(look(row.json), testing::KilledBySignal(SIGVTALRM), "") << row.name;
 }
 
 }  // namespace

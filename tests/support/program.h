@@ -40,7 +40,7 @@ class Program : public testing::Test {
     if (!has_session_) environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
     process.setProcessEnvironment(environment);
     if (!output_.isEmpty()) process.setStandardOutputFile(output_);
-    process.start(QStringLiteral(TAVI_BINARY_DIR "/host/tavi"), arguments);
+    process.start(QStringLiteral(TAVI_PROGRAM), arguments);
     process.write(input);
     process.closeWriteChannel();
     EXPECT_TRUE(process.waitForFinished());

@@ -1,5 +1,5 @@
-#include <utility>
 #include <windows.h>
+#include <utility>
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>

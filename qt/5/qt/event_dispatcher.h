@@ -4,6 +4,8 @@
 
 #include <QAbstractEventDispatcher>
 
+class QWinEventNotifier;
+
 namespace qt {
 
 class EventDispatcher : public QAbstractEventDispatcher {
@@ -12,6 +14,9 @@ class EventDispatcher : public QAbstractEventDispatcher {
 
   bool hasPendingEvents() override { return HasPosted(); }
   void flush() override {}
+  // These two override on Windows alone. Its handles are not served.
+  virtual bool registerEventNotifier(QWinEventNotifier* /*notifier*/) { return false; }
+  virtual void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) {}
 
  private:
   // Whether there are undelivered posted events.

@@ -5,8 +5,8 @@
 #include <QXmlStreamReader>
 
 #include "tests/host/record/record_text.h"
-#include "tests/support/full_disk.h"
 #include "tests/support/program.h"
+#include "tests/support/system/full_disk.h"
 
 namespace tavi {
 namespace {

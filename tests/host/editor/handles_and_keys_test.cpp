@@ -6,6 +6,7 @@
 #include "host/editor/key_capture.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/host/editor/document_fixture.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 namespace {
@@ -127,7 +128,7 @@ TEST(KeyCapture, ASecondKeyMakesAChord) {
 }
 
 TEST(KeyNames, AreThoseOfKeymaps) {
-  const QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, 57 + 8, 0, 0);
+  const QKeyEvent space = NativeKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, 57);
   EXPECT_EQ(NameOfKeyEvent(space), "Space");
   EXPECT_EQ(NameOfKeyEvent(QKeyEvent(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, 0, 0, 0)), "");
   EXPECT_EQ(NameOfMouseButton(Qt::RightButton), "Mouse Right");

@@ -2,7 +2,6 @@
 #include "host/session/keymap_source.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -11,6 +10,7 @@
 #include "host/session/keymap_watch.h"
 #include "keymapmanager/keymap_file.h"
 #include "tests/support/run_until.h"
+#include "tests/support/system/make_pipe.h"
 
 namespace tavi {
 namespace {
@@ -67,7 +67,7 @@ TEST_F(KeymapSourceTest, NoKeymapIsNoFile) {
 }
 
 TEST_F(KeymapSourceTest, APipeIsNotWaitedFor) {
-  ASSERT_EQ(mkfifo(QFile::encodeName(Path()).constData(), 0600), 0);
+  ASSERT_TRUE(MakePipe(QFile::encodeName(Path()).constData()));
   KeymapSource source;
   source.Read(Path());
   EXPECT_TRUE(source.InUse().HasErrors());

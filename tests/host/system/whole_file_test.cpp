@@ -1,51 +1,11 @@
 // Files that are written completely or not at all.
 #include "host/system/whole_file.h"
 
-#include <atomic>
-#include <csignal>
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <thread>
-#include <unistd.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include "host/system/file_commit.h"
 #include "host/system/progress_line.h"
-#include "host/system/terminal.h"
-#include "tests/support/full_disk.h"
-#include "tests/support/program.h"
+#include "tests/host/system/whole_file_story.h"
 
 namespace tavi {
 namespace {
-
-constexpr char kRecord[] =
-    R"~({"info": {"total_running_time": 10},)~"
-    R"~( "actions": [{"timing": 10, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"}]})~";
-
-QStringList FilesIn(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
-void Fill(const QString& name, const char* text) {
-  QFile file(name);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(text);
-}
-
-QByteArray ContentOf(const QString& name) {
-  QFile file(name);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  return file.readAll();
-}
-
-class WholeFileTest : public testing::Test {
- protected:
-  QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
-  QTemporaryDir folder_;
-};
 
 TEST_F(WholeFileTest, IsInItsPlaceWhenItIsKept) {
   Fill(Path("day.json"), "before");
@@ -67,50 +27,6 @@ TEST_F(WholeFileTest, IsGoneWhenItIsNot) {
   EXPECT_EQ(FilesIn(folder_.path()), QStringList());
 }
 
-// The work is interrupted, by Ctrl+C or by a termination signal.
-TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
-  Fill(Path("day.json"), "before");
-  for (const int signal : {SIGINT, SIGTERM}) {
-    const auto work = [&] {
-      const WholeFile file(Path("day.json"));
-      Fill(file.WorkingName(), "a part");
-      kill(getpid(), signal);
-      for (;;) pause();
-    };
-    EXPECT_EXIT(work(), testing::KilledBySignal(signal), "");
-    EXPECT_EQ(FilesIn(folder_.path()), QStringList("day.json"));
-    EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
-  }
-}
-
-// This is how a script starts a background job.
-TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
-  const auto work = [&] {
-    std::signal(SIGINT, SIG_IGN);
-    WholeFile file(Path("day.json"));
-    Fill(file.WorkingName(), "whole");
-    kill(getpid(), SIGINT);
-    std::_Exit(file.Keep() ? 0 : 1);
-  };
-  EXPECT_EXIT(work(), testing::ExitedWithCode(0), "");
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
-}
-
-// Between two tasks nothing is cleaned up, and Ctrl+C ends the program all the same.
-TEST_F(WholeFileTest, WhatIsKeptStaysWhenTheProgramIsInterruptedLater) {
-  const auto work = [&] {
-    {
-      WholeFile file(Path("day.json"));
-      Fill(file.WorkingName(), "whole");
-      file.Keep();
-    }
-    kill(getpid(), SIGINT);
-    for (;;) pause();
-  };
-  EXPECT_EXIT(work(), testing::KilledBySignal(SIGINT), "");
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
-}
-
 // ---- What cannot be written
 
 TEST_F(WholeFileTest, WhatCannotBeWrittenIsKnownBeforehand) {
@@ -120,29 +36,11 @@ TEST_F(WholeFileTest, WhatCannotBeWrittenIsKnownBeforehand) {
     const char* problem;
   } rows[] = {
       {"a new file", Path("day.json"), ""},
-      {"a device", "/dev/null", ""},
       {"no such folder", Path("none/day.json"), "No such file or directory"},
       {"a folder", folder_.path(), "it is a folder"},
   };
   for (const auto& row : rows) EXPECT_EQ(TryWholeFile(row.target), QString(row.problem)) << row.name;
   EXPECT_EQ(FilesIn(folder_.path()), QStringList());
-}
-
-TEST_F(WholeFileTest, AFullDiskLeavesWhatWasThere) {
-  Fill(Path("day.json"), "before");
-  {
-    const FileSizeLimit full(100);
-    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(101, 'x')), QString("File too large"));
-    EXPECT_EQ(WriteWholeFile(Path("new.json"), QByteArray(101, 'x')), QString("File too large"));
-    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(100, 'x')), QString());
-  }
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray(100, 'x'));
-  EXPECT_EQ(FilesIn(folder_.path()), QStringList("day.json"));
-}
-
-TEST_F(WholeFileTest, ADeviceThatIsFullIsTold) {
-  EXPECT_EQ(WriteWholeFile("/dev/full", "short"), QString("No space left on device"));
-  EXPECT_EQ(WriteWholeFile("/dev/null", "short"), QString());
 }
 
 TEST_F(WholeFileTest, WhatCannotBeReadIsNotCopied) {
@@ -155,117 +53,11 @@ TEST_F(WholeFileTest, WhatCannotBeReadIsNotCopied) {
 
 // ---- What stays of the file that was there
 
-TEST_F(WholeFileTest, ALinkGoesOnToPointAtItsFile) {
-  Fill(Path("day.json"), "before");
-  QDir(folder_.path()).mkdir("links");
-  ASSERT_TRUE(QFile::link("../day.json", Path("links/day.json")));
-  EXPECT_EQ(WriteWholeFile(Path("links/day.json"), "after"), QString());
-  EXPECT_TRUE(QFileInfo(Path("links/day.json")).isSymLink());
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
-
-  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that does not exist yet
-  EXPECT_EQ(WriteWholeFile(Path("links/new.json"), "new"), QString());
-  EXPECT_EQ(ContentOf(Path("new.json")), QByteArray("new"));
-  EXPECT_EQ(FilesIn(Path("links")), (QStringList{"day.json", "new.json"}));
-}
-
-TEST_F(WholeFileTest, AFileStaysItsOwners) {
-  if (!IsRoot()) GTEST_SKIP() << "only root has files of others";
-  Fill(Path("day.json"), "before");
-  ASSERT_EQ(chown(QFile::encodeName(Path("day.json")).constData(), kNobody, kNobody), 0);
-  EXPECT_EQ(WriteWholeFile(Path("day.json"), "after"), QString());
-  EXPECT_EQ(QFileInfo(Path("day.json")).ownerId(), kNobody);
-}
-
-// The file may be written, but its folder accepts no new ones.
-TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
-  if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
-  Fill(Path("day.json"), "a long day before");
-  ASSERT_EQ(chmod(QFile::encodeName(folder_.path()).constData(), 0755), 0);
-  ASSERT_EQ(chown(QFile::encodeName(Path("day.json")).constData(), kNobody, kNobody), 0);
-  const AsNobody nobody;
-  {
-    const FileSizeLimit full(100);
-    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(101, 'x')), QString("File too large"));
-  }
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("a long day before"));
-  EXPECT_EQ(WriteWholeFile(Path("day.json"), "after"), QString());
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
-}
-
-// An existing file is not changed before there is space for all of the content.
-TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
-  Fill(Path("day.json"), "before");
-  QFile file(Path("day.json"));
-  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-  const FileSizeLimit full(100);
-  EXPECT_EQ(ReserveRoom(&file, 101), QString("File too large"));
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
-  EXPECT_EQ(ReserveRoom(&file, 100), QString());
-}
-
-// A program with a window ends by itself, after it has saved its data.
-TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
-  const auto work = [&] {
-    static std::atomic<int> taken{0};
-    SetInterruptionTaker([](int number) { taken = number; });
-    const WholeFile file(Path("day.json"));
-    kill(getpid(), SIGTERM);
-    while (taken == 0) std::this_thread::yield();
-    std::_Exit(ExitStatusOfSignal(taken));
-  };
-  EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGTERM), "");
-}
-
-// A test's standard error is not a terminal.
+// Standard error of a test is no terminal.
 TEST(ProgressLineTest, NothingIsToldWhereNobodyReads) {
   testing::internal::CaptureStderr();
   { const ProgressLine progress("reading day.json"); }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-}
-
-class WholeRecords : public Program {};
-
-// The library reports success then.
-TEST_F(WholeRecords, AFullDiskLeavesTheRecordThatWasThere) {
-  Write("tap.json", kRecord);
-  Write("day.json", "before");
-  const FileSizeLimit full(100);
-  const Outcome outcome = Run({"record", "merge", "-o", "day.json", "tap.json"});
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it was truncated"))
-      << outcome.errors.toStdString();
-  EXPECT_EQ(Content("day.json"), QByteArray("before"));
-  EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));
-}
-
-TEST_F(WholeRecords, AFullDiskLeavesThePictureThatWasThere) {
-  Write("tap.json", kRecord);
-  Write("tap.svg", "before");
-  const FileSizeLimit full(100);
-  const Outcome outcome = Run({"record", "draw", "-o", "tap.svg", "tap.json"});
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.errors, QString("tavi record draw: cannot write tap.svg: File too large\n"));
-  EXPECT_EQ(Content("tap.svg"), QByteArray("before"));
-}
-
-TEST_F(WholeRecords, ATargetKeepsItsPermissions) {
-  Write("tap.json", kRecord);
-  Write("day.json", "before");
-  const QString day = Folder() + "/day.json";
-  QFile::setPermissions(day, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
-  const QFile::Permissions before = QFile::permissions(day);
-  EXPECT_EQ(Run({"record", "merge", "-o", "day.json", "tap.json"}).status, 0);
-  EXPECT_EQ(QFile::permissions(day), before);
-  EXPECT_TRUE(Content("day.json").contains("merged_actions"));
-  EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));
-}
-
-TEST_F(WholeRecords, WhatIsNoPlainFileIsWrittenWhereItIs) {
-  Write("tap.json", kRecord);
-  const Outcome outcome = Run({"record", "draw", "-o", "/dev/stdout", "tap.json"});
-  EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
-  EXPECT_TRUE(outcome.output.contains("<svg"));
 }
 
 }  // namespace

@@ -33,6 +33,7 @@
 #include "host/window/records/record_bar.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 namespace {
@@ -100,7 +101,7 @@ class Controls : public WindowFixture {
   // To the focused widget, and all its parents.
   void Type(int key, int linux_code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent event(type, key, modifiers, static_cast<quint32>(linux_code + 8), 0, 0);
+      QKeyEvent event = NativeKeyEvent(type, key, modifiers, linux_code);
       QWidget* receiver = QApplication::focusWidget();
       ASSERT_NE(receiver, nullptr);
       QCoreApplication::sendEvent(receiver, &event);
@@ -303,7 +304,7 @@ TEST_F(Controls, AKeyThatIsHeldOverTheGuestRepeatsNowhereElse) {
   field.show();
   field.setFocus();
   const auto type = [&field](QEvent::Type type, bool repeats) {
-    QKeyEvent event(type, Qt::Key_W, Qt::NoModifier, kW + 8, 0, 0, "w", repeats);
+    QKeyEvent event = NativeKeyEvent(type, Qt::Key_W, Qt::NoModifier, kW, "w", repeats);
     QCoreApplication::sendEvent(&field, &event);
   };
   type(QEvent::KeyPress, true);
@@ -457,7 +458,7 @@ TEST_F(Controls, AnEscapeThatEndsAMenuLeadsNowhere) {
   Load(kItems);
   QWidget* look = ButtonOf(Window()->Tools(), "Look");
   look->setFocus(Qt::TabFocusReason);
-  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier, kEscape + 8, 0, 0);
+  QKeyEvent release = NativeKeyEvent(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier, kEscape);
   QCoreApplication::sendEvent(look, &release);  // the menu got the press
   EXPECT_TRUE(look->hasFocus());
 }

@@ -15,7 +15,8 @@
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/joystick_event.h"
 #include "tests/host/window/window_fixture.h"
-#include "tests/support/full_disk.h"
+#include "tests/support/system/full_disk.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 namespace {
@@ -75,7 +76,7 @@ class EditingInTheWindow : public WindowFixture {
     QCoreApplication::sendEvent(Layer(), &event);
   }
   static void HostKey(QWidget* widget, QEvent::Type type, int linux_code) {
-    QKeyEvent event(type, 0, Qt::NoModifier, static_cast<quint32>(linux_code + 8), 0, 0);
+    QKeyEvent event = NativeKeyEvent(type, 0, Qt::NoModifier, linux_code);
     QCoreApplication::sendEvent(widget, &event);
   }
   void Bind(const char* field, int linux_code) {
@@ -261,7 +262,7 @@ TEST_F(EditingInTheWindow, EscapeBindsNothing) {
   Layer()->Select(0);
   KeyListener* listener = Inspector()->Editor("key")->Listener();
   listener->Listen();
-  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1 + 8, 0, 0);
+  QKeyEvent escape = NativeKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1);
   QCoreApplication::sendEvent(listener, &escape);
   EXPECT_FALSE(listener->IsListening());
   EXPECT_EQ(Document()->Text(), before_);

@@ -15,6 +15,7 @@
 #include "host/window/records/record_bar.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 namespace {
@@ -27,7 +28,7 @@ constexpr int kF12 = 88;
 class MappingTest : public WindowFixture {
  protected:
   void KeyWith(QEvent::Type type, int linux_code, Qt::KeyboardModifiers modifiers, ulong timestamp = 0) {
-    QKeyEvent event(type, 0, modifiers, static_cast<quint32>(linux_code + 8), 0, 0);
+    QKeyEvent event = NativeKeyEvent(type, 0, modifiers, linux_code);
     event.setTimestamp(timestamp);
     Send(&event);
   }

@@ -1,6 +1,5 @@
 // Records in the window: a user records, saves, opens and replays.
 #include <functional>
-#include <sys/stat.h>
 #include <utility>
 
 #include <QAction>
@@ -15,7 +14,8 @@
 #include "host/window/view/guest_screen.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
-#include "tests/support/full_disk.h"
+#include "tests/support/system/full_disk.h"
+#include "tests/support/system/make_pipe.h"
 
 namespace tavi {
 namespace {
@@ -462,7 +462,7 @@ TEST_F(RecordsInTheWindow, ANameWithoutSuffixGetsOneThatOpenRecordLists) {
 }
 
 TEST_F(RecordsInTheWindow, APipeIsNoRecord) {
-  ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), 0600), 0);
+  ASSERT_TRUE(MakePipe(QFile::encodeName(Path("pipe")).constData()));
   EXPECT_FALSE(Records()->OpenRecord(Path("pipe")));
   EXPECT_EQ(problem_, Path("pipe") + " cannot be read: not a plain file");
 }

@@ -6,6 +6,7 @@
 #include <QInputMethodEvent>
 
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 namespace {
@@ -20,7 +21,7 @@ constexpr int kLeftArrow = 105;
 class TextField : public WindowFixture {
  protected:
   void KeyWithCtrl(QEvent::Type type, int linux_code, const QString& text) {
-    QKeyEvent event(type, 0, Qt::ControlModifier, static_cast<quint32>(linux_code + 8), 0, 0, text);
+    QKeyEvent event = NativeKeyEvent(type, 0, Qt::ControlModifier, linux_code, text);
     Send(&event);
   }
   void Compose(const QString& preedit, const QString& commit) {

@@ -21,6 +21,7 @@
 #include "host/window/main_window.h"
 #include "host/window/view/guest_display.h"
 #include "host/window/view/guest_view.h"
+#include "tests/support/system/native_key.h"
 
 namespace tavi {
 
@@ -51,7 +52,7 @@ class WindowFixture : public testing::Test {
 
   void Send(QEvent* event) { QCoreApplication::sendEvent(View(), event); }
   void Key(QEvent::Type type, int linux_code, const QString& text = {}, bool repeat = false) {
-    QKeyEvent event(type, 0, Qt::NoModifier, static_cast<quint32>(linux_code + 8), 0, 0, text, repeat);
+    QKeyEvent event = NativeKeyEvent(type, 0, Qt::NoModifier, linux_code, text, repeat);
     Send(&event);
   }
   void Press(int linux_code) { Key(QEvent::KeyPress, linux_code); }

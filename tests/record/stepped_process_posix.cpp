@@ -1,10 +1,10 @@
-#include "tests/record/stepped_process.h"
-
 #include <csignal>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/record/stepped_process.h"
 
 namespace taviinputmanager {
 

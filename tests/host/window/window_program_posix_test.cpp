@@ -52,7 +52,7 @@ class WindowProgram : public testing::Test {
   // Starts a window that replays the record with the finger, and waits until the finger is down.
   void StartWithAFingerDown(const QStringList& options) {
     const QStringList usual{"window", "-platform", "offscreen", "--replay", Path("held.json"), "--mirror", "guest"};
-    program_.start(TAVI_BINARY_DIR "/host/tavi", usual + options);
+    program_.start(TAVI_PROGRAM, usual + options);
     ASSERT_TRUE(RunEventsUntil([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
   }
 
@@ -186,7 +186,7 @@ TEST_F(WindowProgram, ItsWordsNeedNoReaderFromTheStart) {
       "{ read x <gone; \"$0\" window -platform offscreen --record a.json --picture a.png --after 0 2>&1; echo $? "
       ">status; "
       "} | { exec <&-; echo x >gone; }";
-  program_.start("sh", {"-c", line, TAVI_BINARY_DIR "/host/tavi"});
+  program_.start("sh", {"-c", line, TAVI_PROGRAM});
   ASSERT_TRUE(program_.waitForFinished());
   QFile status(Path("status"));
   ASSERT_TRUE(status.open(QIODevice::ReadOnly));
@@ -208,7 +208,7 @@ TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.error.toStdString());
-    program_.start(TAVI_BINARY_DIR "/host/tavi", QStringList{"window", "-platform", "offscreen"} + row.arguments);
+    program_.start(TAVI_PROGRAM, QStringList{"window", "-platform", "offscreen"} + row.arguments);
     ASSERT_TRUE(program_.waitForFinished());
     EXPECT_EQ(program_.exitCode(), row.status);
     const QString told = QString::fromUtf8(program_.readAllStandardError());
@@ -218,14 +218,12 @@ TEST_F(WindowProgram, WhatCannotBeRecordedOrListenedAsIsToldAtTheStart) {
 }
 
 TEST_F(WindowProgram, APictureThatCannotBeWrittenLeavesTheOneThatWasThere) {
-  program_.start(TAVI_BINARY_DIR "/host/tavi",
-                 {"window", "-platform", "offscreen", "--picture", "/dev/full", "--after", "0"});
+  program_.start(TAVI_PROGRAM, {"window", "-platform", "offscreen", "--picture", "/dev/full", "--after", "0"});
   ASSERT_TRUE(program_.waitForFinished());
   EXPECT_EQ(program_.exitCode(), 1);
   EXPECT_TRUE(
       program_.readAllStandardError().contains("tavi window: cannot write /dev/full: No space left on device\n"));
-  program_.start(TAVI_BINARY_DIR "/host/tavi",
-                 {"window", "-platform", "offscreen", "--picture", Path("a.png"), "--after", "0"});
+  program_.start(TAVI_PROGRAM, {"window", "-platform", "offscreen", "--picture", Path("a.png"), "--after", "0"});
   ASSERT_TRUE(program_.waitForFinished());
   EXPECT_EQ(program_.exitCode(), 0);
   EXPECT_GT(QFileInfo(Path("a.png")).size(), 1000);

@@ -1,9 +1,9 @@
-#include "record/file_sync.h"
-
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <QFile>
+
+#include "record/file_sync.h"
 
 namespace taviinputmanager {
 namespace {

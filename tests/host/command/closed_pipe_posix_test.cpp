@@ -28,7 +28,7 @@ Pipe MakePipe() {
   sigprocmask(is_blocked ? SIG_BLOCK : SIG_UNBLOCK, &only, nullptr);
   dup2(output, STDOUT_FILENO);
   dup2(errors, STDERR_FILENO);
-  execl(TAVI_BINARY_DIR "/host/tavi", "tavi", "keys", nullptr);
+  execl(TAVI_PROGRAM, "tavi", "keys", nullptr);
   _exit(127);
 }
 

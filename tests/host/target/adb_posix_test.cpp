@@ -34,7 +34,7 @@ class Adb : public testing::Test {
   void PushGuest() {
     QFile program(folder_.filePath("tavi-guest"));
     ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\necho ready\nexec '" TAVI_BINARY_DIR "/host/tavi' guest-uinput \"$@\"\n");
+    program.write("#!/bin/sh\necho ready\nexec '" TAVI_PROGRAM "' guest-uinput \"$@\"\n");
     program.close();
     ASSERT_TRUE(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     EXPECT_TRUE(Run({"push", program.fileName(), "/data/local/tmp/"}).endsWith("1 file pushed, 0 skipped."));

@@ -1,6 +1,4 @@
 // Lines for real commands, sockets and ports.
-#include "host/target/guest_targets.h"
-
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -17,6 +15,7 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 
+#include "host/target/guest_targets.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {

@@ -1,0 +1,23 @@
+# Toolchain file: builds for Windows on Debian, with mingw and what tools/windows/build_dependencies has built.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+set(tavi_mingw x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER ${tavi_mingw}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${tavi_mingw}-g++-posix)
+set(CMAKE_RC_COMPILER ${tavi_mingw}-windres)
+
+if(DEFINED ENV{TAVI_WINDOWS_CACHE})
+  set(tavi_windows_root $ENV{TAVI_WINDOWS_CACHE}/root)
+else()
+  set(tavi_windows_root $ENV{HOME}/.cache/tavi/windows/root)
+endif()
+
+# Libraries, headers and packages are Windows' own; programs are this machine's.
+set(CMAKE_FIND_ROOT_PATH ${tavi_windows_root} /usr/${tavi_mingw})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/windows/run)
+set(ENV{PKG_CONFIG_LIBDIR} ${tavi_windows_root}/lib/pkgconfig)

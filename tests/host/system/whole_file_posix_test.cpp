@@ -1,0 +1,186 @@
+// Files that are made whole or not at all, where there are signals, links, owners, devices and limits.
+#include <atomic>
+#include <csignal>
+#include <thread>
+#include <unistd.h>
+
+#include <QFileInfo>
+
+#include "host/system/file_commit.h"
+#include "host/system/terminal.h"
+#include "host/system/whole_file.h"
+#include "tests/host/system/whole_file_story.h"
+#include "tests/support/system/full_disk.h"
+#include "tests/support/system/other_user.h"
+
+namespace tavi {
+namespace {
+
+// The work is interrupted in its middle, by Ctrl+C or by being told to end.
+TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
+  Fill(Path("day.json"), "before");
+  for (const int signal : {SIGINT, SIGTERM}) {
+    const auto work = [&] {
+      const WholeFile file(Path("day.json"));
+      Fill(file.WorkingName(), "a part");
+      kill(getpid(), signal);
+      for (;;) pause();
+    };
+    EXPECT_EXIT(work(), testing::KilledBySignal(signal), "");
+    EXPECT_EQ(FilesIn(folder_.path()), QStringList("day.json"));
+    EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
+  }
+}
+
+// A job in the background of a script is started so.
+TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
+  const auto work = [&] {
+    std::signal(SIGINT, SIG_IGN);
+    WholeFile file(Path("day.json"));
+    Fill(file.WorkingName(), "whole");
+    kill(getpid(), SIGINT);
+    std::_Exit(file.Keep() ? 0 : 1);
+  };
+  EXPECT_EXIT(work(), testing::ExitedWithCode(0), "");
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
+}
+
+// Between two pieces of work nothing is cleaned up, and Ctrl+C ends the program all the same.
+TEST_F(WholeFileTest, WhatIsKeptStaysWhenTheProgramIsInterruptedLater) {
+  const auto work = [&] {
+    {
+      WholeFile file(Path("day.json"));
+      Fill(file.WorkingName(), "whole");
+      file.Keep();
+    }
+    kill(getpid(), SIGINT);
+    for (;;) pause();
+  };
+  EXPECT_EXIT(work(), testing::KilledBySignal(SIGINT), "");
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
+}
+
+TEST_F(WholeFileTest, AFullDiskLeavesWhatWasThere) {
+  Fill(Path("day.json"), "before");
+  {
+    const FileSizeLimit full(100);
+    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(101, 'x')), QString("File too large"));
+    EXPECT_EQ(WriteWholeFile(Path("new.json"), QByteArray(101, 'x')), QString("File too large"));
+    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(100, 'x')), QString());
+  }
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray(100, 'x'));
+  EXPECT_EQ(FilesIn(folder_.path()), QStringList("day.json"));
+}
+
+TEST_F(WholeFileTest, ADeviceThatIsFullIsTold) {
+  EXPECT_EQ(TryWholeFile("/dev/null"), QString());
+  EXPECT_EQ(WriteWholeFile("/dev/full", "short"), QString("No space left on device"));
+  EXPECT_EQ(WriteWholeFile("/dev/null", "short"), QString());
+}
+
+TEST_F(WholeFileTest, ALinkGoesOnToPointAtItsFile) {
+  Fill(Path("day.json"), "before");
+  QDir(folder_.path()).mkdir("links");
+  ASSERT_TRUE(QFile::link("../day.json", Path("links/day.json")));
+  EXPECT_EQ(WriteWholeFile(Path("links/day.json"), "after"), QString());
+  EXPECT_TRUE(QFileInfo(Path("links/day.json")).isSymLink());
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
+
+  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that is not there yet
+  EXPECT_EQ(WriteWholeFile(Path("links/new.json"), "new"), QString());
+  EXPECT_EQ(ContentOf(Path("new.json")), QByteArray("new"));
+  EXPECT_EQ(FilesIn(Path("links")), (QStringList{"day.json", "new.json"}));
+}
+
+TEST_F(WholeFileTest, AFileStaysItsOwners) {
+  if (!IsRoot()) GTEST_SKIP() << "only root has files of others";
+  Fill(Path("day.json"), "before");
+  ASSERT_EQ(chown(QFile::encodeName(Path("day.json")).constData(), kNobody, kNobody), 0);
+  EXPECT_EQ(WriteWholeFile(Path("day.json"), "after"), QString());
+  EXPECT_EQ(QFileInfo(Path("day.json")).ownerId(), kNobody);
+}
+
+// The file may be written, its folder takes no new ones.
+TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
+  if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
+  Fill(Path("day.json"), "a long day before");
+  ASSERT_EQ(chmod(QFile::encodeName(folder_.path()).constData(), 0755), 0);
+  ASSERT_EQ(chown(QFile::encodeName(Path("day.json")).constData(), kNobody, kNobody), 0);
+  const AsNobody nobody;
+  {
+    const FileSizeLimit full(100);
+    EXPECT_EQ(WriteWholeFile(Path("day.json"), QByteArray(101, 'x')), QString("File too large"));
+  }
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("a long day before"));
+  EXPECT_EQ(WriteWholeFile(Path("day.json"), "after"), QString());
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
+}
+
+// What is written over is not touched before there is room for the whole.
+TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
+  Fill(Path("day.json"), "before");
+  QFile file(Path("day.json"));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  const FileSizeLimit full(100);
+  EXPECT_EQ(ReserveRoom(&file, 101), QString("File too large"));
+  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
+  EXPECT_EQ(ReserveRoom(&file, 100), QString());
+}
+
+// A program with a window ends by itself, after it has saved what there is.
+TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
+  const auto work = [&] {
+    static std::atomic<int> taken{0};
+    SetInterruptionTaker([](int number) { taken = number; });
+    const WholeFile file(Path("day.json"));
+    kill(getpid(), SIGTERM);
+    while (taken == 0) std::this_thread::yield();
+    std::_Exit(ExitStatusOfSignal(taken));
+  };
+  EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGTERM), "");
+}
+
+// The library says that all is well then.
+TEST_F(WholeRecords, AFullDiskLeavesTheRecordThatWasThere) {
+  Write("tap.json", kRecord);
+  Write("day.json", "before");
+  const FileSizeLimit full(100);
+  const Outcome outcome = Run({"record", "merge", "-o", "day.json", "tap.json"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it came out short"))
+      << outcome.errors.toStdString();
+  EXPECT_EQ(Content("day.json"), QByteArray("before"));
+  EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));
+}
+
+TEST_F(WholeRecords, AFullDiskLeavesThePictureThatWasThere) {
+  Write("tap.json", kRecord);
+  Write("tap.svg", "before");
+  const FileSizeLimit full(100);
+  const Outcome outcome = Run({"record", "draw", "-o", "tap.svg", "tap.json"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.errors, QString("tavi record draw: cannot write tap.svg: File too large\n"));
+  EXPECT_EQ(Content("tap.svg"), QByteArray("before"));
+}
+
+TEST_F(WholeRecords, ATargetKeepsItsPermissions) {
+  Write("tap.json", kRecord);
+  Write("day.json", "before");
+  const QString day = Folder() + "/day.json";
+  QFile::setPermissions(day, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+  const QFile::Permissions before = QFile::permissions(day);
+  EXPECT_EQ(Run({"record", "merge", "-o", "day.json", "tap.json"}).status, 0);
+  EXPECT_EQ(QFile::permissions(day), before);
+  EXPECT_TRUE(Content("day.json").contains("merged_actions"));
+  EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));
+}
+
+TEST_F(WholeRecords, WhatIsNoPlainFileIsWrittenWhereItIs) {
+  Write("tap.json", kRecord);
+  const Outcome outcome = Run({"record", "draw", "-o", "/dev/stdout", "tap.json"});
+  EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+  EXPECT_TRUE(outcome.output.contains("<svg"));
+}
+
+}  // namespace
+}  // namespace tavi

@@ -1,0 +1,45 @@
+// Files of a test, in a folder of its own, and records that the program makes of others.
+#ifndef TESTS_HOST_SYSTEM_WHOLE_FILE_STORY_H_
+#define TESTS_HOST_SYSTEM_WHOLE_FILE_STORY_H_
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "tests/support/program.h"
+
+namespace tavi {
+
+constexpr char kRecord[] =
+    R"~({"info": {"total_running_time": 10},)~"
+    R"~( "actions": [{"timing": 10, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"}]})~";
+
+inline QStringList FilesIn(const QString& folder) {
+  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+inline void Fill(const QString& name, const char* text) {
+  QFile file(name);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(text);
+}
+
+inline QByteArray ContentOf(const QString& name) {
+  QFile file(name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
+}
+
+class WholeFileTest : public testing::Test {
+ protected:
+  QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+  QTemporaryDir folder_;
+};
+
+class WholeRecords : public Program {};
+
+}  // namespace tavi
+
+#endif  // TESTS_HOST_SYSTEM_WHOLE_FILE_STORY_H_
