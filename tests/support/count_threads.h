@@ -7,7 +7,7 @@ namespace taviinputmanager {
 // Of this process, with those of its libraries and of a sanitizer.
 int CountThreads();
 
-// Whether no more than `count` are left. Qt tells that a thread is through a moment before it is gone.
+// Whether at most `count` are left. Qt reports that a thread has finished a moment before it is gone.
 bool ThreadsComeDownTo(int count);
 
 }  // namespace taviinputmanager

@@ -39,7 +39,7 @@ int BindTo(const QString& name, sockaddr_un* address) {
   return file;
 }
 
-// A socket that whoever listened by has left behind.
+// A socket file that was left by its program.
 void LeaveSocket(const QString& name) {
   sockaddr_un address{};
   const int file = BindTo(name, &address);
@@ -130,7 +130,7 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
   sockaddr_un address{};
   const int other = BindTo("other", &address);
   {
-    const AsNobody nobody;  // whoever calls listen is who listens
+    const AsNobody nobody;  // the caller of listen is the owner of the socket
     ASSERT_EQ(listen(other, 1), 0);
   }
   MirrorTargets* targets = MirrorTargets::GetInstance();

@@ -36,7 +36,7 @@ class Mirror : public testing::Test {
     });
   }
 
-  // Sends lines to whoever listens under these names.
+  // Sends lines to the instances that listen under these names.
   void Reach(const QStringList& names) {
     for (const QString& name : names) MirrorTargets::GetInstance()->Add(name);
     ASSERT_TRUE(taviinputmanager::RunEventsUntil([&] { return reached_ == names.size(); }));

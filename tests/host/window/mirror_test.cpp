@@ -138,7 +138,7 @@ TEST_F(Mirror, NamesAreWords) {
   EXPECT_EQ(server.Listen("keymap.yaml"), MirrorNameProblem("keymap.yaml"));
 }
 
-// Whoever asks whether a name is in use is no instance that sends lines.
+// A program that only checks whether a name is in use is not an instance that sends lines.
 TEST_F(Mirror, WhoIsGoneAgainIsNobody) {
   MirrorServer server(LiveHost::kDisplay);
   ASSERT_EQ(server.Listen("server"), QString());

@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// Whoever writes more is told, and not ended by a signal.
+// Writing more fails, without a signal.
 FileSizeLimit::FileSizeLimit(unsigned bytes) {
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
