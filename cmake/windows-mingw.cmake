@@ -14,7 +14,7 @@ else()
 endif()
 
 # Libraries, headers and packages are Windows' own; programs are this machine's.
-set(CMAKE_FIND_ROOT_PATH ${tavi_windows_root} /usr/${tavi_mingw})
+set(CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH} ${tavi_windows_root} /usr/${tavi_mingw})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

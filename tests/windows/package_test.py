@@ -39,7 +39,7 @@ def build(source, name):
     """A project of its own, which finds the unpacked tree as a CMake package."""
     folder = WORK / name
     run(CMAKE, "-G", GENERATOR, "-S", source, "-B", folder, f"-DCMAKE_TOOLCHAIN_FILE={TOOLCHAIN}",
-        f"-Dtaviinputmanager_DIR={UNPACKED / 'lib' / 'cmake' / 'taviinputmanager'}")
+        f"-DCMAKE_PREFIX_PATH={UNPACKED}")
     run(CMAKE, "--build", folder)
     return folder
 
@@ -57,7 +57,7 @@ def setUpModule():
 class Package(unittest.TestCase):
     def test_holds_libraries_program_headers_and_documents(self):
         for name in ["bin/tavi.exe", "bin/libtaviinputmanager.dll", "bin/libtavi-keymapmanager.dll", "bin/Qt5Widgets.dll",
-                     "bin/platforms/qwindows.dll", "lib/libtaviinputmanager.dll.a", "lib/libtavi-keymapmanager.dll.a",
+                     "plugins/platforms/qwindows.dll", "lib/libtaviinputmanager.dll.a", "lib/libtavi-keymapmanager.dll.a",
                      "lib/cmake/taviinputmanager/taviinputmanagerConfig.cmake",
                      "include/taviinputmanager/taviinputmanager.h", "include/keymap/keymap_functions.h",
                      "share/doc/taviinputmanager/docs/keymap.md", "share/doc/taviinputmanager/docs/embedding.md"]:
