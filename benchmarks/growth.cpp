@@ -65,6 +65,20 @@ void TapByWorkers(benchmark::State& state) {
   Load(MakeKeymap(1));
 }
 
+// Lines and text lines go to mirrors by functions of one type.
+void TakeMirrored(const QString& command, const QVector<QString>& targets) {
+  benchmark::DoNotOptimize(command.constData());
+  benchmark::DoNotOptimize(targets.constData());
+}
+
+void TapByTargets(benchmark::State& state) {
+  Load(MakeKeymap(30));
+  SetInputEventSyncFunc(reinterpret_cast<void*>(&TakeMirrored));
+  for (int i = 0; i < state.range(0); ++i) StartSync(QString::number(i), QString(), QString());
+  MeasureKey(state, kLastScanCode);
+  for (int i = 0; i < state.range(0); ++i) StopSync(QString::number(i));
+}
+
 void TickByWorkers(benchmark::State& state) {
   LoadWithWorkers(static_cast<int>(state.range(0)));
   SendKey(QEvent::KeyPress, kWalkUpScanCode);
@@ -86,6 +100,7 @@ void RegisterGrowth() {
   Register("growth/pass_through/items", PassThroughByItems);
   Register("growth/tap/workers", TapByWorkers);
   Register("growth/walk_tick/workers", TickByWorkers);
+  Register("growth/tap/targets", TapByTargets);
 }
 
 }  // namespace taviinputmanager::bench

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws how cost grows: keymap size, live workers and the length of a record.
+"""Draws how cost grows: keymap size, live workers, mirrors and the length of a record.
 
     plot.py TIMES.json RECORDS.jsonl PICTURE.svg
 
@@ -22,8 +22,14 @@ TITLES = {
     "walk_tick": "tick of a walk, event loop included",
 }
 LINES = {"tap": 2, "pass_through": 2, "walk_tick": 1}
-AXES = {"items": "items of the keymap", "workers": "macros asleep beside it", "actions": "actions of a record"}
+AXES = {
+    "items": "items of the keymap",
+    "workers": "macros asleep beside it",
+    "targets": "mirrors",
+    "actions": "actions of a record",
+}
 RECORD_TITLES = {
+    "save_s": "saving, an action",
     "parse_s": "bare parse of its bytes, an action",
     "load_s": "loading, an action",
     "replay_s": "replaying, an action",
@@ -51,7 +57,7 @@ def read_record_curves(lines):
 
 def draw(curves, picture):
     titles = {**TITLES, **RECORD_TITLES}
-    figure, panels = plt.subplots(1, len(AXES), figsize=(14, 3.8), layout="constrained")
+    figure, panels = plt.subplots(1, len(AXES), figsize=(18, 3.8), layout="constrained")
     for panel, (by, title) in zip(panels, AXES.items()):
         for what, curve in sorted(curves[by].items()):
             sizes = sorted(curve)

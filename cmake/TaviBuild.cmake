@@ -55,6 +55,9 @@ function(tavi_target_defaults target)
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
+  elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # Macros of Qt's and of GoogleTest's are written with an extension.
+    target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
   endif()
   if(TAVI_SANITIZE)
     list(JOIN TAVI_SANITIZE "," sanitizers)
@@ -67,6 +70,13 @@ function(tavi_target_defaults target)
   get_target_property(type ${target} TYPE)
   if(TAVI_SANITIZE AND type STREQUAL EXECUTABLE)
     target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/sanitizer_options.cpp)
+  endif()
+endfunction()
+
+# For the libraries: no implicit conversion that may change a value, and no hidden name.
+function(tavi_strict_warnings target)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "^(GNU|Clang)$")
+    target_compile_options(${target} PRIVATE -Wshadow -Wconversion -Wsign-conversion)
   endif()
 endfunction()
 
@@ -102,8 +112,7 @@ function(tavi_shared_library target version_script)
   set_property(TARGET ${target} PROPERTY LINK_DEPENDS ${version_script})
 endfunction()
 
-# Platform code is in pairs *_posix.cpp, *_windows.cpp behind one header; code for a specific Qt is in *_qt5.cpp,
-# *_qt6.cpp.
+# Platform code is in pairs *_posix.cpp, *_windows.cpp behind one header.
 function(tavi_exclude_other_platforms list_name)
   set(files ${${list_name}})
   if(WIN32)
@@ -111,7 +120,5 @@ function(tavi_exclude_other_platforms list_name)
   else()
     list(FILTER files EXCLUDE REGEX "_windows\\.cpp$")
   endif()
-  math(EXPR other_qt "11 - ${TAVI_QT}")
-  list(FILTER files EXCLUDE REGEX "_qt${other_qt}\\.cpp$")
   set(${list_name} ${files} PARENT_SCOPE)
 endfunction()

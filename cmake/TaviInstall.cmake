@@ -1,19 +1,9 @@
 # The installed tree: both libraries with their headers, the program, documents and examples, and the files for CMake
 # (find_package(taviinputmanager)) and pkg-config. The tree can be moved: no file in it contains the prefix.
 #
-# The components are the packages of TaviPackage.cmake: `runtime`, the libraries; `development`, what other projects
-# need; `tools`, the program.
+# The components are the packages of debian/rules: `runtime`, the libraries; `development`, what other projects need;
+# `tools`, the program.
 include(CMakePackageConfigHelpers)
-
-# Sets `result` to the path of a compressed copy of `file`, in the build folder.
-function(tavi_compress file result)
-  find_program(TAVI_GZIP gzip REQUIRED)
-  get_filename_component(name ${file} NAME)
-  set(copy ${PROJECT_BINARY_DIR}/packaging/${name})
-  configure_file(${file} ${copy} COPYONLY)
-  execute_process(COMMAND ${TAVI_GZIP} -9nkf ${copy} COMMAND_ERROR_IS_FATAL ANY)
-  set(${result} ${copy}.gz PARENT_SCOPE)
-endfunction()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/taviinputmanager)
 
@@ -22,18 +12,13 @@ install(TARGETS taviinputmanager tavi-keymapmanager EXPORT taviinputmanagerTarge
   RUNTIME COMPONENT runtime
   ARCHIVE COMPONENT development)
 if(TAVI_BUILD_HOST)
-  # Debian has another folder for zsh functions of packages, and requires compressed manual pages.
-  set(man_page docs/man/tavi.1)
-  set(zsh_dir ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
-  if(TAVI_FOR_DEBIAN)
-    tavi_compress(docs/man/tavi.1 man_page)
-    set(zsh_dir ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
-  endif()
+  set(TAVI_ZSH_DIR ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING
+    "Where zsh finds completion functions of programs")
   install(TARGETS tavi COMPONENT tools)
-  install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  install(FILES docs/man/tavi.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES completions/tavi.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME tavi
     COMPONENT tools)
-  install(FILES completions/_tavi DESTINATION ${zsh_dir} COMPONENT tools)
+  install(FILES completions/_tavi DESTINATION ${TAVI_ZSH_DIR} COMPONENT tools)
   install(FILES completions/tavi.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
   # `tavi play` exists only with libevdev.
   if(libevdev_FOUND)
@@ -42,7 +27,7 @@ if(TAVI_BUILD_HOST)
 endif()
 
 # The guest for phones and other machines, for users of tavi to copy there.
-option(TAVI_INSTALL_GUESTS "Install the static guests that tools/build_guest has built" ${TAVI_FOR_DEBIAN})
+option(TAVI_INSTALL_GUESTS "Install the static guests that tools/build_guest has built" OFF)
 set(TAVI_GUESTS ${PROJECT_SOURCE_DIR}/build/guest CACHE PATH "Where tools/build_guest has put the static guests")
 function(tavi_install_guests)
   foreach(architecture IN ITEMS aarch64 armv7 x86_64)

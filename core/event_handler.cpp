@@ -1,7 +1,6 @@
 #include "core/event_handler.h"
 
 #include "core/input_event_sender.h"
-#include "core/input_status_manager.h"
 #include "core/line_buffer.h"
 
 namespace taviinputmanager {
@@ -10,13 +9,9 @@ EventHandler::EventHandler() : sender_(InputEventSender::GetInstance()) {}
 
 EventHandler::~EventHandler() = default;
 
-void EventHandler::SendEvent(const LineBuffer& command) {
-  SendEventTo(command, InputStatusManager::GetInstance()->GetDisplayId());
-}
+void EventHandler::SendEvent(const LineBuffer& command) { SendEventTo(command, sender_->GetLiveDisplay()); }
 
-void EventHandler::SendEvent(const QString& command) {
-  SendEventTo(command, InputStatusManager::GetInstance()->GetDisplayId());
-}
+void EventHandler::SendEvent(const QString& command) { SendEventTo(command, sender_->GetLiveDisplay()); }
 
 void EventHandler::SendEventTo(const LineBuffer& command, int display) {
   if (!command.isEmpty()) sender_->SendEvent(command, display);

@@ -10,10 +10,10 @@
 namespace taviinputmanager::guest_command {
 namespace {
 
-template <typename... Fields>
-LineBuffer Line(QLatin1String word, Fields... fields) {
+template <typename... Values>
+LineBuffer Line(QLatin1String word, Values... values) {
   LineBuffer line;
-  line.Line(word, fields...);
+  line.Line(word, values...);
   return line;
 }
 
@@ -38,7 +38,7 @@ LineBuffer SlotMultiPress(const Contacts& contacts) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiPress);
   for (const Contact& contact : contacts) {
-    line.Field(contact.slot).Field(contact.slot).Field(contact.x).Field(contact.y);
+    line.Fields(contact.slot, contact.slot, contact.x, contact.y);
   }
   line.Byte('\n');
   return line;
@@ -52,13 +52,13 @@ QString SlotMultiPressOf(const QStringList& groups) {
 
 QString ContactGroup(int slot, const QPointF& place) {
   LineBuffer group;
-  return group.Number(slot).Field(slot).Field(place.x()).Field(place.y()).ToString();
+  return group.Number(slot).Fields(slot, place.x(), place.y()).ToString();
 }
 
 LineBuffer SlotMultiRelease(const Slots& slots) {
   LineBuffer line;
   line.Text(guest_words::kSlotMultiRelease);
-  for (const int slot : slots) line.Field(slot);
+  for (const int slot : slots) line.Fields(slot);
   line.Byte('\n');
   return line;
 }

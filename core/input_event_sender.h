@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include "core/input_status_manager.h"
+
 namespace taviinputmanager {
 
 struct InputManagerCallbacks;
@@ -20,6 +22,8 @@ class InputEventSender {
     return &instance;
   }
 
+  // Where live input goes.
+  int GetLiveDisplay() const { return status_->GetDisplayId(); }
   void SetCallbacks(InputManagerCallbacks* callbacks) { callbacks_ = callbacks; }
 
   // Sends `command` to `display`, prefixed with the display's number. The lines of a primary display are then mirrored
@@ -30,6 +34,9 @@ class InputEventSender {
   void SendText(const QString& command);
 
  private:
+  InputEventSender() : status_(InputStatusManager::GetInstance()) {}
+
+  const InputStatusManager* const status_;
   std::atomic<InputManagerCallbacks*> callbacks_{nullptr};  // owned by the host
 };
 

@@ -20,7 +20,11 @@ struct KeymapConfig;
 namespace taviinputmanager {
 
 struct InputManagerCallbacks;
+class InputStatusManager;
+class QtKeyboardMouseEventSimulateHandler;
 class QtMouseEventHandler;
+class RecordManager;
+class WindowsWmRelativeInputEventHandler;
 
 constexpr int kMacroJoystickDevice = 999;  // the gamepad whose buttons macros press
 
@@ -70,6 +74,7 @@ class InputManager {
   InputManager();
   ~InputManager();
 
+  void RouteOther(QEvent* event);  // neither key nor mouse
   void RouteKey(QKeyEvent* event);
   void RouteMouseButton(QMouseEvent* event);
   void RouteMouseMove(QMouseEvent* event);
@@ -79,6 +84,12 @@ class InputManager {
   bool IsForcedTransparent() const;
   void DispatchVirtualMouse(qint64 id, int code, bool press, const QPointF& point);
   void DispatchWheelAt(const QPointF& point, int delta);
+
+  // The singletons that handle most events.
+  InputStatusManager* const status_;
+  RecordManager* const recorder_;
+  QtKeyboardMouseEventSimulateHandler* const simulate_;
+  WindowsWmRelativeInputEventHandler* const relative_;
 
   InputManagerCallbacks* callbacks_ = nullptr;  // owned by the host
   std::unique_ptr<tavikeymapmanager::KeymapConfig> keymap_config_;

@@ -1,6 +1,7 @@
 #include "core/key_code_converter.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 
 namespace taviinputmanager {
@@ -43,7 +44,7 @@ constexpr CodePair kButtonToGuest[] = {
 
 constexpr int kControlKeys[] = {14, 15, 28, 69, 96, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 119, 139, 158};
 
-template <int N>
+template <std::size_t N>
 int LookUp(const CodePair (&table)[N], int host, int otherwise) {
   const auto row =
       std::find_if(std::begin(table), std::end(table), [host](CodePair pair) { return pair.host == host; });

@@ -16,6 +16,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "core/decimal.h"
+
 namespace taviinputmanager {
 
 // Uses the heap if a line has no maximum length. There is room before it for the number of a display and after it for a
@@ -33,19 +35,19 @@ class LineBuffer {
     end_ = Write(Room(kLongest<Value>), value);
     return *this;
   }
-  // A separator and a field.
-  template <typename Value>
-  LineBuffer& Field(Value value) {
-    return Byte(':').Number(value);
+  // Each with a separator in front.
+  template <typename... Values>
+  LineBuffer& Fields(Values... values) {
+    end_ = WriteFields(Room((kLongest<Values> + ... + sizeof...(values))), values...);
+    return *this;
   }
   // A whole line: a word, its fields, and the end.
-  template <typename... Fields>
-  LineBuffer& Line(QLatin1String word, Fields... fields) {
+  template <typename... Values>
+  LineBuffer& Line(QLatin1String word, Values... values) {
     const auto length = static_cast<std::size_t>(word.size());
-    char* at = Room(length + (kLongest<Fields> + ... + (sizeof...(fields) + 1)));
+    char* at = Room(length + (kLongest<Values> + ... + (sizeof...(values) + 1)));
     std::memcpy(at, word.data(), length);
-    at += length;
-    ((*at = ':', at = Write(at + 1, fields)), ...);
+    at = WriteFields(at + length, values...);
     *at = '\n';
     end_ = at + 1;
     return *this;
@@ -89,13 +91,7 @@ class LineBuffer {
   const char* ForDisplay(int display, int* length) const {
     char* start = begin_;
     *--start = ':';
-    const bool is_negative = display < 0;
-    unsigned rest = is_negative ? 0U - static_cast<unsigned>(display) : static_cast<unsigned>(display);
-    do {
-      *--start = static_cast<char>('0' + rest % kTen);
-      rest /= kTen;
-    } while (rest != 0);
-    if (is_negative) *--start = '-';
+    start = WriteDecimalBefore(start, display);
     *end_ = '\0';
     *length = static_cast<int>(end_ - start);
     return start;
@@ -103,16 +99,19 @@ class LineBuffer {
 
  private:
   static constexpr std::size_t kUsualLength = 192;
-  static constexpr std::size_t kLongestInt = 11;
   static constexpr std::size_t kLongestDouble = 32;
   template <typename Value>
-  static constexpr std::size_t kLongest = std::is_integral_v<Value> ? kLongestInt : kLongestDouble;
-  static constexpr std::size_t kHeadroom = kLongestInt + 1;
+  static constexpr std::size_t kLongest = std::is_integral_v<Value> ? kLongestDecimal : kLongestDouble;
+  static constexpr std::size_t kHeadroom = kLongestDecimal + 1;
   static constexpr int kSignificantDigits = 6;
-  static constexpr unsigned kTen = 10;
   static constexpr unsigned kLastAscii = 0x7F;
 
-  static char* Write(char* at, int value) { return std::to_chars(at, at + kLongestInt, value).ptr; }
+  template <typename... Values>
+  static char* WriteFields(char* at, Values... values) {
+    ((*at = ':', at = Write(at + 1, values)), ...);
+    return at;
+  }
+  static char* Write(char* at, int value) { return WriteDecimal(at, value); }
   // Like QString::arg(double): six significant digits, fixed or exponent form, -0 as 0.
   static char* Write(char* at, double value) {
     constexpr char kNoNumber[] = "nan";

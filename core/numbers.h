@@ -34,7 +34,8 @@ Wide TruncateTo(double v) {
 
 // Rounds to nearest, halves up: -0.5 gives 0, -1.5 gives -1. The same limits as Truncate.
 inline int Round(double v) {
-  if (v >= 0) return Truncate(v + 0.5);
+  constexpr int kHighest = std::numeric_limits<int>::max();
+  if (v >= 0) return v + 0.5 < kHighest ? static_cast<int>(v + 0.5) : kHighest;
   const double k = Truncate(v - 1);
   return Truncate(static_cast<double>(Truncate(v - k + 0.5)) + k);
 }

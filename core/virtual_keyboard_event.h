@@ -16,17 +16,17 @@ class VirtualKeyboardEvent : public QKeyEvent {
   // The constructor with native codes, followed by the pointer.
   VirtualKeyboardEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, quint32 native_scan_code,
                        quint32 native_virtual_key, quint32 native_modifiers, const QString& text, bool auto_repeat,
-                       ushort count, qint64 slot_index)
+                       ushort count, qint64 slot)
       : QKeyEvent(type, key, modifiers, native_scan_code, native_virtual_key, native_modifiers, text, auto_repeat,
                   count),
-        slot_index(slot_index) {}
+        slot_index(slot) {}
 
   // `code` stands as key, native scan code and native virtual key alike. A template, so that a modifier, which converts
   // to any number, is not taken for a pointer.
   template <typename Slot, typename = std::enable_if_t<std::is_integral_v<Slot>>>
-  VirtualKeyboardEvent(QEvent::Type type, int code, Slot slot_index)
+  VirtualKeyboardEvent(QEvent::Type type, int code, Slot slot)
       : VirtualKeyboardEvent(type, code, Qt::NoModifier, static_cast<quint32>(code), static_cast<quint32>(code), 0,
-                             QString(), false, 1, slot_index) {}
+                             QString(), false, 1, slot) {}
 
   qint64 slot_index = 0;  // the virtual pointer that its macro works with
 };

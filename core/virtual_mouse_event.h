@@ -20,14 +20,14 @@ class VirtualMouseEvent final : public QMouseEvent {
                     Qt::KeyboardModifiers modifiers)
       : VirtualMouseEvent(type, position, button, buttons, modifiers, qint64{0}) {}
   VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
-                    Qt::KeyboardModifiers modifiers, qint64 slot_index)
-      : QMouseEvent(type, position, position, button, buttons, modifiers), slot_index(slot_index) {}
+                    Qt::KeyboardModifiers modifiers, qint64 slot)
+      : QMouseEvent(type, position, position, button, buttons, modifiers), slot_index(slot) {}
 
   // Without modifiers. A template, so that a modifier, which converts to any number, is not taken for a pointer.
   template <typename Slot, typename = std::enable_if_t<std::is_integral_v<Slot>>>
   VirtualMouseEvent(QEvent::Type type, const QPointF& position, Qt::MouseButton button, Qt::MouseButtons buttons,
-                    Slot slot_index)
-      : VirtualMouseEvent(type, position, button, buttons, Qt::NoModifier, slot_index) {}
+                    Slot slot)
+      : VirtualMouseEvent(type, position, button, buttons, Qt::NoModifier, slot) {}
 
   qint64 slot_index = 0;  // the virtual pointer that its macro uses; 0 is the real mouse
 };

@@ -15,7 +15,6 @@
 #include "core/input_logger.h"
 #include "core/input_status_manager.h"
 #include "core/keymap_access.h"
-#include "core/virtual_keyboard_event.h"
 #include "core/virtual_mouse_event.h"
 #include "handlers/joystick_event_simulate_handler.h"
 #include "handlers/joystick_event_transparent_handler.h"
@@ -23,9 +22,11 @@
 #include "handlers/qt_keyboard_event_transparent_handler.h"
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 #include "handlers/qt_wheel_event_simulate_handler.h"
+#include "handlers/windows_wm_relative_input_event_handler.h"
 #include "keymap/joystick_event.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
+#include "record/record_manager.h"
 #include "taviinputmanager/callbacks.h"
 #include "taviinputmanager/joystick_event.h"
 
@@ -53,7 +54,12 @@ void LogLoad(const QString& path, bool is_system, const QString& package, int di
 
 }  // namespace
 
-InputManager::InputManager() : last_mouse_move_ms_(Clock::NowMs()) {}
+InputManager::InputManager()
+    : status_(InputStatusManager::GetInstance()),
+      recorder_(RecordManager::GetInstance()),
+      simulate_(QtKeyboardMouseEventSimulateHandler::GetInstance()),
+      relative_(WindowsWmRelativeInputEventHandler::GetInstance()),
+      last_mouse_move_ms_(Clock::NowMs()) {}
 
 InputManager::~InputManager() = default;
 
@@ -61,10 +67,10 @@ void InputManager::Initialize(InputManagerCallbacks* callbacks) {
   callbacks_ = callbacks;
   last_mouse_move_ms_ = std::min(last_mouse_move_ms_, Clock::NowMs());  // virtual time may precede real time
   DisplayGeometry::GetInstance()->SetCallbacks(callbacks);
-  InputStatusManager::GetInstance()->SetCallbacks(callbacks);
+  status_->SetCallbacks(callbacks);
   JoystickEventTransparentHandler::GetInstance()->SetCallbacks(callbacks);
   JoystickEventSimulateHandler::GetInstance()->SetCallbacks(callbacks);
-  QtKeyboardMouseEventSimulateHandler::GetInstance()->Initialize(callbacks);
+  simulate_->Initialize(callbacks);
   InputEventSender::GetInstance()->SetCallbacks(callbacks);
   OnLoadKeymapConfigAndInfo(QString(), QString(), QString(), 0);
   OnLoadJoystickConfigAndInfo(QString());
@@ -81,7 +87,7 @@ void InputManager::OnLoadKeymapConfigAndInfo(const QString& path, const QString&
   const QString source = is_system ? keywords::kSystemKeymap : path;
   LogLoad(path, is_system, package, display);
 
-  QtKeyboardMouseEventSimulateHandler::GetInstance()->ForgetConfig();
+  simulate_->ForgetConfig();
   QtWheelEventSimulateHandler::GetInstance()->ForgetConfig();
   keymap_config_.reset();
   keymap_config_.reset(tavikeymapmanager::LoadKeymapConfigAndInfo(source));
@@ -92,9 +98,9 @@ void InputManager::OnLoadKeymapConfigAndInfo(const QString& path, const QString&
     JoystickEventTransparentHandler::GetInstance()->SetVirtualJoystick(wheel_settings.virtual_joystick);
     callbacks_->OnVirtualJoystickChanged(wheel_settings.virtual_joystick);
   }
-  QtKeyboardMouseEventSimulateHandler::GetInstance()->SetConfig(keymap_config_.get());
-  InputStatusManager::GetInstance()->ResetForKeymap(keymap_config_.get(), package, extra, !source.isEmpty(),
-                                                    wheel_settings.simulate_mode, display);
+  simulate_->SetConfig(keymap_config_.get());
+  status_->ResetForKeymap(keymap_config_.get(), package, extra, !source.isEmpty(), wheel_settings.simulate_mode,
+                          display);
   QtWheelEventSimulateHandler::GetInstance()->SetConfig(keymap_config_.get());
 }
 
@@ -111,15 +117,14 @@ bool InputManager::isConfigHasSpeicalTypeKey(const QString& type) const {
 }
 
 void InputManager::SwitchStaring(bool enter) {
-  const InputStatusManager* status = InputStatusManager::GetInstance();
-  const auto& key = status->GetStaringKey();
+  const auto& key = status_->GetStaringKey();
   if (key.device.isEmpty()) return;  // the keymap has no view control
   if (key.device == keywords::kDeviceJoystick) {
     if (key.text.isEmpty()) return;
   } else if (key.virtual_key == kUnsetCode || key.scancode == kUnsetCode) {
     return;
   }
-  if (status->GetStatus() != (enter ? InputStatus::StaringOff : InputStatus::Staring)) return;
+  if (status_->GetStatus() != (enter ? InputStatus::StaringOff : InputStatus::Staring)) return;
   DispatchVirtualEvent(key.device, 0, key.scancode, true, QPointF());  // never released: only its press has an effect
 }
 
@@ -132,10 +137,9 @@ void InputManager::InjectText(const QString& text) {
 void InputManager::DispatchVirtualEvent(const QString& device, qint64 id, int code, bool press, const QPointF& point) {
   if (IsSameText(device, keywords::kDeviceMouse)) return DispatchVirtualMouse(id, code, press, point);
   if (!IsSameText(device, keywords::kDeviceKeyboard)) return;
-  // Bypasses recording, text mode and forced transparency: this is not the user.
-  VirtualKeyboardEvent event(press ? QEvent::KeyPress : QEvent::KeyRelease, code, id);
-  if (QtKeyboardMouseEventSimulateHandler::GetInstance()->HandleKeyEvent(&event)) return;
-  QtKeyboardEventTransparentHandler::GetInstance()->HandleKeyEvent(&event);
+  // Bypasses recording, text mode and forced transparency: this is not the user. Keys have no pointer.
+  if (simulate_->SetVirtualKey(code, press)) return;
+  QtKeyboardEventTransparentHandler::GetInstance()->SetVirtualKey(code, press);
 }
 
 void InputManager::DispatchVirtualMouse(qint64 id, int code, bool press, const QPointF& point) {

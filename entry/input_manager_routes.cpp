@@ -36,8 +36,6 @@ namespace {
 
 constexpr int kMouseMoveFloorMs = 2;  // moves that are closer in time are dropped
 
-QtMouseEventHandler* SimulateMouseSide() { return QtKeyboardMouseEventSimulateHandler::GetInstance(); }
-
 bool IsLeft(const QMouseEvent* event) {
   return event->button() == Qt::LeftButton || event->buttons().testFlag(Qt::LeftButton);
 }
@@ -46,7 +44,7 @@ bool IsLeft(const QMouseEvent* event) {
 
 void InputManager::OnQtInputEvent(QEvent* event) {
   if (!keymap_config_ || !event) return;
-  RecordManager::GetInstance()->OnQtInputEvent(event);
+  recorder_->OnQtInputEvent(event);
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease: return RouteMouseButton(static_cast<QMouseEvent*>(event));
@@ -54,8 +52,14 @@ void InputManager::OnQtInputEvent(QEvent* event) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease: return RouteKey(static_cast<QKeyEvent*>(event));
     case QEvent::Wheel: return RouteWheel(static_cast<QWheelEvent*>(event));
+    default: return RouteOther(event);
+  }
+}
+
+void InputManager::RouteOther(QEvent* event) {
+  switch (event->type()) {
     case QEvent::InputMethod:
-      InputStatusManager::GetInstance()->ReleaseHeldKeys();
+      status_->ReleaseHeldKeys();
       return QtInputMethodEventHandler::GetInstance()->OnInputMethod(static_cast<QInputMethodEvent*>(event));
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
@@ -65,17 +69,14 @@ void InputManager::OnQtInputEvent(QEvent* event) {
   }
 }
 
-bool InputManager::IsForcedTransparent() const {
-  const InputStatusManager* status = InputStatusManager::GetInstance();
-  return status->IsDisplayForceTransparent(status->GetDisplayId());
-}
+bool InputManager::IsForcedTransparent() const { return status_->IsDisplayForceTransparent(status_->GetDisplayId()); }
 
 void InputManager::RouteKey(QKeyEvent* event) {
-  QtKeyboardEventHandler* target = QtKeyboardMouseEventSimulateHandler::GetInstance();
+  QtKeyboardEventHandler* target = simulate_;
   if (IsForcedTransparent()) {
     target = QtKeyboardEventTransparentHandler::GetInstance();
   } else if (callbacks_ && callbacks_->IsTextInputActive()) {
-    InputStatusManager::GetInstance()->ReleaseHeldKeys();
+    status_->ReleaseHeldKeys();
     target = QtKeyboardEventTextHandler::GetInstance();
   }
   if (target->HandleKeyEvent(event)) return;
@@ -85,8 +86,8 @@ void InputManager::RouteKey(QKeyEvent* event) {
 
 void InputManager::RouteMouseButton(QMouseEvent* event) {
   if (SpellEventSimulator::GetInstance()->OnMouseEvent(event)) return;
-  const bool is_mapped = QtKeyboardMouseEventSimulateHandler::GetInstance()->IsMouseButtonMapped(event);
-  QtMouseEventHandler* target = is_mapped ? SimulateMouseSide() : SelectMouseHandler(event);
+  const bool is_mapped = simulate_->IsMouseButtonMapped(event);
+  QtMouseEventHandler* target = is_mapped ? simulate_ : SelectMouseHandler(event);
   target->HandleMouseEvent(event);
 }
 
@@ -99,7 +100,7 @@ void InputManager::RouteMouseMove(QMouseEvent* event) {
 
 // Null while a gesture of the wheel swallows moves.
 QtMouseEventHandler* InputManager::SelectMoveHandler(QMouseEvent* event) const {
-  if (QtKeyboardMouseEventSimulateHandler::GetInstance()->IsHeldLeftMapped(event)) return SimulateMouseSide();
+  if (simulate_->IsHeldLeftMapped(event)) return simulate_;
   if (QtWheelEventSimulateHandler::GetInstance()->IsWheelWorkerRunning()) return nullptr;
   return SelectMouseHandler(event);
 }
@@ -107,11 +108,11 @@ QtMouseEventHandler* InputManager::SelectMoveHandler(QMouseEvent* event) const {
 // The left button touches even on a display that is forced to be transparent.
 QtMouseEventHandler* InputManager::SelectMouseHandler(const QMouseEvent* event) const {
   QtMouseEventHandler* transparent = QtMouseEventTransparentHandler::GetInstance();
-  if (IsForcedTransparent()) return IsLeft(event) ? SimulateMouseSide() : transparent;
+  if (IsForcedTransparent()) return IsLeft(event) ? simulate_ : transparent;
   const QString& mode = SettingsOf(keymap_config_.get()).mouse_mode;
   const bool passes = IsLeft(event) ? IsSameText(mode, keywords::kMouseAllTransparent)
                                     : !IsSameText(mode, keywords::kMouseNoTransparent);
-  return passes ? transparent : SimulateMouseSide();
+  return passes ? transparent : simulate_;
 }
 
 void InputManager::RouteWheel(QWheelEvent* event) {
@@ -141,8 +142,7 @@ void InputManager::OnJoystickEvent(QEvent* event) {
 void InputManager::OnWindowsWmRelativeInputEvent(int dx, int dy) {
   if (!keymap_config_) return;
   const auto& settings = SettingsOf(keymap_config_.get());
-  WindowsWmRelativeInputEventHandler::GetInstance()->OnRelativeInput(dx, dy, settings.relative_interval_ms,
-                                                                     settings.relative_factor);
+  relative_->OnRelativeInput(dx, dy, settings.relative_interval_ms, settings.relative_factor);
 }
 
 void InputManager::UpdateMousePosition(int x, int y) {

@@ -12,33 +12,45 @@
 namespace taviinputmanager {
 namespace {
 
-int GuestCodeOf(const QKeyEvent* event) {
-  return KeyCodeConverter::GetInstance()->KeyToGuestCode(static_cast<int>(event->nativeScanCode()));
-}
+int ScanCodeOf(const QKeyEvent* event) { return static_cast<int>(event->nativeScanCode()); }
 
-void LogKey(const QKeyEvent* event) {
+void LogKey(int qt_key, unsigned virtual_key, unsigned scancode) {
   InputLogger* log = InputLogger::GetInstance();
   if (!log->IsDebugOn()) return;
-  log->Debug("keyboard press, qt key: " + std::to_string(event->key()));
-  log->Debug("keyboard press, windows virtual key: " + std::to_string(event->nativeVirtualKey()));
-  log->Debug("keyboard press, scan code: " + std::to_string(event->nativeScanCode()));
+  log->Debug("keyboard press, qt key: " + std::to_string(qt_key));
+  log->Debug("keyboard press, windows virtual key: " + std::to_string(virtual_key));
+  log->Debug("keyboard press, scan code: " + std::to_string(scancode));
 }
 
 }  // namespace
 
 bool QtKeyboardEventTransparentHandler::OnKeyPress(QKeyEvent* event) {
-  LogKey(event);
-  const int code = GuestCodeOf(event);
-  InputStatusManager::GetInstance()->AddHeldKey(code);  // first, because its release may come during the call
-  SendEvent(guest_command::KeyPress(code));
+  LogKey(event->key(), event->nativeVirtualKey(), event->nativeScanCode());
+  Press(ScanCodeOf(event));
   return true;
 }
 
 bool QtKeyboardEventTransparentHandler::OnKeyRelease(QKeyEvent* event) {
-  const int code = GuestCodeOf(event);
+  Release(ScanCodeOf(event));
+  return true;
+}
+
+void QtKeyboardEventTransparentHandler::SetVirtualKey(int code, bool press) {
+  if (!press) return Release(code);
+  LogKey(code, static_cast<unsigned>(code), static_cast<unsigned>(code));
+  Press(code);
+}
+
+void QtKeyboardEventTransparentHandler::Press(int scancode) {
+  const int code = KeyCodeConverter::GetInstance()->KeyToGuestCode(scancode);
+  InputStatusManager::GetInstance()->AddHeldKey(code);  // first, because its release may come during the call
+  SendEvent(guest_command::KeyPress(code));
+}
+
+void QtKeyboardEventTransparentHandler::Release(int scancode) {
+  const int code = KeyCodeConverter::GetInstance()->KeyToGuestCode(scancode);
   InputStatusManager::GetInstance()->RemoveHeldKey(code);
   SendEvent(guest_command::KeyRelease(code));
-  return true;
 }
 
 bool QtKeyboardEventTransparentHandler::AcceptsAutoRepeat(QKeyEvent* /*event*/) { return false; }

@@ -14,12 +14,18 @@ class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
     return &instance;
   }
 
+  // A macro's press or release of a key, which has one number for all its codes.
+  void SetVirtualKey(int code, bool press);
+
   bool OnKeyPress(QKeyEvent* event) override;
   bool OnKeyRelease(QKeyEvent* event) override;
   bool AcceptsAutoRepeat(QKeyEvent* event) override;
 
  private:
   QtKeyboardEventTransparentHandler() = default;
+
+  void Press(int scancode);
+  void Release(int scancode);
 };
 
 }  // namespace taviinputmanager

@@ -1,15 +1,11 @@
 #include "handlers/qt_keyboard_mouse_event_simulate_handler.h"
 
-#include <utility>
-
-#include <QKeyEvent>
-
 #include "core/guest_command.h"
 #include "core/input_status_manager.h"
 #include "core/key_code_converter.h"
 #include "core/keymap_access.h"
 #include "core/virtual_keyboard_event.h"
-#include "handlers/key_match_origin.h"
+#include "handlers/keymap_origin.h"
 #include "handlers/simulator_table.h"
 #include "keymap/keymap_config.h"
 #include "keymap/keymap_functions.h"
@@ -31,17 +27,23 @@ namespace {
 
 constexpr int kEscapeScanCode = 1;
 
-ConfigKey KeyOf(const QKeyEvent* event) {
-  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceKeyboard,
-                                            static_cast<int>(event->nativeVirtualKey()),
-                                            static_cast<int>(event->nativeScanCode()));
+int VirtualKeyOf(const QKeyEvent* event) { return static_cast<int>(event->nativeVirtualKey()); }
+
+int ScanCodeOf(const QKeyEvent* event) { return static_cast<int>(event->nativeScanCode()); }
+
+// A macro's key, which may come without an event.
+bool IsVirtual(const QKeyEvent* event) { return !event || dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
+
+// Passes copies, because the function may write to its arguments.
+Q_NEVER_INLINE bool AskKeyMatch(KeymapConfig* config, const ConfigKey& configured, const ConfigKey& pressed) {
+  ConfigKey first = configured;
+  ConfigKey second = pressed;
+  return tavikeymapmanager::isConfigKeyMatch(config, &first, &second);
 }
 
 bool IsEscape(const ConfigKey& key) {
   return KeyCodeConverter::GetInstance()->KeyToGuestCode(key.scancode) == kEscapeCode;
 }
-
-bool IsVirtual(const QKeyEvent* event) { return dynamic_cast<const VirtualKeyboardEvent*>(event) != nullptr; }
 
 }  // namespace
 
@@ -110,27 +112,38 @@ ConfigItem* QtKeyboardMouseEventSimulateHandler::FindReleasedItem(const ConfigKe
 }
 
 bool QtKeyboardMouseEventSimulateHandler::OnKeyPress(QKeyEvent* event) {
-  ConfigKey key = KeyOf(event);
-  ConfigItem* item = FindPressedItem(key);
+  return keys_.With(VirtualKeyOf(event), ScanCodeOf(event), [&](ConfigKey* key) { return PressKey(key, event); });
+}
+
+bool QtKeyboardMouseEventSimulateHandler::OnKeyRelease(QKeyEvent* event) {
+  return keys_.With(VirtualKeyOf(event), ScanCodeOf(event), [&](ConfigKey* key) { return ReleaseKey(key, event); });
+}
+
+bool QtKeyboardMouseEventSimulateHandler::SetVirtualKey(int code, bool press) {
+  return keys_.With(code, code,
+                    [&](ConfigKey* key) { return press ? PressKey(key, nullptr) : ReleaseKey(key, nullptr); });
+}
+
+bool QtKeyboardMouseEventSimulateHandler::PressKey(ConfigKey* key, const QKeyEvent* event) {
+  ConfigItem* item = FindPressedItem(*key);
   if (EventSimulator* simulator = item ? GetSimulator(item) : nullptr) {
-    simulator->Press(item, &key);
+    simulator->Press(item, key);
     return true;
   }
-  if (IsEscape(key) && PressEscape(event)) return true;
-  current_key_ = std::move(key);
+  if (IsEscape(*key) && PressEscape(event)) return true;
+  current_key_ = ConfigKey(*key);
   UpdateEscapeState();
   return false;
 }
 
-bool QtKeyboardMouseEventSimulateHandler::OnKeyRelease(QKeyEvent* event) {
-  ConfigKey key = KeyOf(event);
-  ConfigItem* item = FindReleasedItem(key);
+bool QtKeyboardMouseEventSimulateHandler::ReleaseKey(ConfigKey* key, const QKeyEvent* event) {
+  ConfigItem* item = FindReleasedItem(*key);
   if (EventSimulator* simulator = item ? GetSimulator(item) : nullptr) {
-    simulator->Release(item, &key);
+    simulator->Release(item, key);
     return true;
   }
-  if (IsEscape(key) && ReleaseEscape(event)) return true;
-  if (IsSameKey(key, current_key_)) ClearCurrentKey();
+  if (IsEscape(*key) && ReleaseEscape(event)) return true;
+  if (IsSameKey(*key, current_key_)) ClearCurrentKey();
   return false;
 }
 
@@ -181,10 +194,7 @@ void QtKeyboardMouseEventSimulateHandler::ClearCurrentKey() {
 
 // A function of the host is called for each key; the library's own gives the same result as this index.
 bool QtKeyboardMouseEventSimulateHandler::IsKeyMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
-  if (is_key_match_own_) return Index().IsFound(configured, pressed);
-  ConfigKey first = configured;
-  ConfigKey second = pressed;
-  return tavikeymapmanager::isConfigKeyMatch(config_, &first, &second);
+  return is_key_match_own_ ? Index().IsFound(configured, pressed) : AskKeyMatch(config_, configured, pressed);
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsEscapeOccupied() const {

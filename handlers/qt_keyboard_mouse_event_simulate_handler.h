@@ -7,6 +7,7 @@
 
 #include <QMap>
 
+#include "handlers/known_keys.h"
 #include "handlers/qt_keyboard_event_handler.h"
 #include "handlers/qt_mouse_event_handler.h"
 #include "keymap/config_key.h"
@@ -47,6 +48,9 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // The simulator of an item; null for an item without an effect of its own.
   static EventSimulator* GetSimulator(const tavikeymapmanager::ConfigItem* item);
 
+  // A macro's press or release of a key, which has one number for both codes; whether it was consumed.
+  bool SetVirtualKey(int code, bool press);
+
   // For a press or release: whether an item matches the button.
   bool IsMouseButtonMapped(QMouseEvent* event) const;
   // For a move: whether the left button is held and an item matches it.
@@ -74,7 +78,10 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   bool IsEscapeToGuest() const;
   // Whether an unmapped Escape acts as back, for a real key.
   bool IsEscapeBack() const;
-  // Both get the event of an unmapped Escape, and return whether it was consumed.
+  // The event is null if a macro presses the key.
+  bool PressKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  bool ReleaseKey(tavikeymapmanager::ConfigKey* key, const QKeyEvent* event);
+  // Both handle an unmapped Escape, and return whether it was consumed.
   bool PressEscape(const QKeyEvent* event);
   bool ReleaseEscape(const QKeyEvent* event);
   void ClearCurrentKey();
@@ -85,6 +92,9 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   // Reports to the host whether Escape is taken.
   void UpdateEscapeState();
 
+  bool IsMapped(Qt::MouseButton button) const;
+  void PressButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
+  void ReleaseButton(QMouseEvent* event, tavikeymapmanager::ConfigKey* key);
   void PressLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void ReleaseLeft(QMouseEvent* event, tavikeymapmanager::ConfigItem* item, tavikeymapmanager::ConfigKey* key);
   void MoveLeftFinger(QMouseEvent* event);
@@ -107,6 +117,8 @@ class QtKeyboardMouseEventSimulateHandler : public QtKeyboardEventHandler, publi
   tavikeymapmanager::ConfigKey current_key_;  // pressed last without an effect: may be the first key of a chord
   QMap<int, tavikeymapmanager::ConfigItem*> chord_items_;  // by scan code of the second key, while that is down
   QMap<qint64, unsigned> mouse_buttons_;                   // Qt::MouseButton bits held, by pointer; 0 is the real mouse
+  mutable KnownKeys keys_{tavikeymapmanager::keywords::kDeviceKeyboard};
+  mutable KnownKeys buttons_{tavikeymapmanager::keywords::kDeviceMouse};
 };
 
 }  // namespace taviinputmanager

@@ -22,9 +22,7 @@ using tavikeymapmanager::ConfigKey;
 
 namespace {
 
-ConfigKey KeyOf(Qt::MouseButton button) {
-  return tavikeymapmanager::CreateConfigKey(tavikeymapmanager::keywords::kDeviceMouse, button, button);
-}
+int CodeOf(Qt::MouseButton button) { return static_cast<int>(button); }
 
 // The class is final and belongs to this library, so comparing the types' addresses is enough; operator== would compare
 // their names.
@@ -46,38 +44,49 @@ bool IsFire(const ConfigItem* item) { return item && item->type == tavikeymapman
 
 bool QtKeyboardMouseEventSimulateHandler::IsMouseButtonMapped(QMouseEvent* event) const {
   if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) return false;
-  return FindConfigItem(KeyOf(event->button())) != nullptr;
+  return IsMapped(event->button());
 }
 
 bool QtKeyboardMouseEventSimulateHandler::IsHeldLeftMapped(QMouseEvent* event) const {
-  return IsButtonHeld(PointerOf(event), Qt::LeftButton) && FindConfigItem(KeyOf(Qt::LeftButton)) != nullptr;
+  return IsButtonHeld(PointerOf(event), Qt::LeftButton) && IsMapped(Qt::LeftButton);
+}
+
+bool QtKeyboardMouseEventSimulateHandler::IsMapped(Qt::MouseButton button) const {
+  return buttons_.With(CodeOf(button), CodeOf(button),
+                       [this](const ConfigKey* key) { return FindConfigItem(*key) != nullptr; });
 }
 
 void QtKeyboardMouseEventSimulateHandler::OnMousePress(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), true);
-  ConfigKey key = KeyOf(event->button());
-  ConfigItem* item = FindConfigItem(key);
-  if (event->button() == Qt::LeftButton) return PressLeft(event, item, &key);
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { PressButton(event, key); });
+}
+
+void QtKeyboardMouseEventSimulateHandler::PressButton(QMouseEvent* event, ConfigKey* key) {
+  ConfigItem* item = FindConfigItem(*key);
+  if (event->button() == Qt::LeftButton) return PressLeft(event, item, key);
   EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
   if (!simulator) return;
   if (simulator == RightWalkEventSimulator::GetInstance()) {
     RightWalkEventSimulator::GetInstance()->OnMousePress(item, event);
   } else {
-    simulator->Press(item, &key);
+    simulator->Press(item, key);
   }
 }
 
 void QtKeyboardMouseEventSimulateHandler::OnMouseRelease(QMouseEvent* event) {
   SetButton(PointerOf(event), event->button(), false);
-  ConfigKey key = KeyOf(event->button());
-  ConfigItem* item = FindConfigItem(key);
-  if (event->button() == Qt::LeftButton) return ReleaseLeft(event, item, &key);
+  buttons_.With(CodeOf(event->button()), CodeOf(event->button()), [&](ConfigKey* key) { ReleaseButton(event, key); });
+}
+
+void QtKeyboardMouseEventSimulateHandler::ReleaseButton(QMouseEvent* event, ConfigKey* key) {
+  ConfigItem* item = FindConfigItem(*key);
+  if (event->button() == Qt::LeftButton) return ReleaseLeft(event, item, key);
   EventSimulator* simulator = item ? GetSimulator(item) : nullptr;
   if (!simulator) return;
   if (simulator == RightWalkEventSimulator::GetInstance()) {
     RightWalkEventSimulator::GetInstance()->OnMouseRelease(item, event);
   } else {
-    simulator->Release(item, &key);
+    simulator->Release(item, key);
   }
 }
 

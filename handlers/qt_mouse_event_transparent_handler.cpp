@@ -27,11 +27,11 @@ void QtMouseEventTransparentHandler::OnRelativeInput(int dx, int dy, int interva
 }
 
 void QtMouseEventTransparentHandler::OnMousePress(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->ButtonPressLine(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonPressLine(static_cast<int>(event->button())));
 }
 
 void QtMouseEventTransparentHandler::OnMouseRelease(QMouseEvent* event) {
-  SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(event->button()));
+  SendEvent(MouseTransparentManager::GetInstance()->ButtonReleaseLine(static_cast<int>(event->button())));
 }
 
 void QtMouseEventTransparentHandler::OnMouseMove(QMouseEvent* event) {

@@ -7,16 +7,18 @@
 
 namespace taviinputmanager {
 
-WindowsWmRelativeInputEventHandler::WindowsWmRelativeInputEventHandler() = default;
+WindowsWmRelativeInputEventHandler::WindowsWmRelativeInputEventHandler()
+    : status_(InputStatusManager::GetInstance()),
+      spell_(SpellEventSimulator::GetInstance()),
+      view_(StaringAndFireEventSimulator::GetInstance()) {}
 
 void WindowsWmRelativeInputEventHandler::OnRelativeInput(int dx, int dy, int interval_ms, double factor) {
-  const InputStatus status = InputStatusManager::GetInstance()->GetStatus();
+  const InputStatus status = status_->GetStatus();
   if (status != InputStatus::Staring && status != InputStatus::Observing) {
     return QtMouseEventTransparentHandler::GetInstance()->OnRelativeInput(dx, dy, interval_ms, factor);
   }
-  SpellEventSimulator* spell = SpellEventSimulator::GetInstance();
-  if (spell->IsSpellActive()) return spell->OnRelativeInput(dx, dy);
-  StaringAndFireEventSimulator::GetInstance()->OnRelativeInput(dx, dy);
+  if (spell_->IsSpellActive()) return spell_->OnRelativeInput(dx, dy);
+  view_->OnRelativeInput(dx, dy);
 }
 
 }  // namespace taviinputmanager

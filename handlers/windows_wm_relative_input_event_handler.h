@@ -6,6 +6,10 @@
 
 namespace taviinputmanager {
 
+class InputStatusManager;
+class SpellEventSimulator;
+class StaringAndFireEventSimulator;
+
 // Stateless. Main thread.
 class WindowsWmRelativeInputEventHandler : public EventHandler {
  public:
@@ -21,6 +25,11 @@ class WindowsWmRelativeInputEventHandler : public EventHandler {
 
  private:
   WindowsWmRelativeInputEventHandler();
+
+  // The singletons.
+  const InputStatusManager* const status_;
+  SpellEventSimulator* const spell_;
+  StaringAndFireEventSimulator* const view_;
 };
 
 }  // namespace taviinputmanager

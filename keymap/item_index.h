@@ -29,8 +29,7 @@ class ItemIndex {
 
   // The first item that `key` alone triggers, or null.
   ConfigItem* FindAlone(const ConfigKey& key) const {
-    const Entry* entry = FirstAloneEntry(key);
-    return strangers_.empty() ? ItemOf(entry) : FindAloneAmongStrangers(key, entry);
+    return strangers_.empty() ? ItemOf(FirstAloneEntry(key)) : FindAloneAmongStrangers(key);
   }
 
   // The first item that the chord of `armed` and then `pressed` triggers, or null.
@@ -46,8 +45,9 @@ class ItemIndex {
   // Whether `configured` alone, or the chord of `configured` and then `pressed`, triggers an item: whether one of the
   // searches would find it.
   bool IsFound(const ConfigKey& configured, const ConfigKey& pressed) const {
-    if (!strangers_.empty()) return IsMatchInList(configured, pressed);  // each is called for both, at its position
-    return FirstAloneEntry(configured) != nullptr || FirstChordEntry(configured, pressed) != nullptr;
+    if (!strangers_.empty()) return IsMatchInList(configured, pressed);          // each is called for both
+    if (HeadOf(configured) == kNone && !MayBeInChord(configured)) return false;  // as for most keys
+    return IsFoundInEntries(configured, pressed);
   }
 
   // The same for the current keys: checks every item.
@@ -56,14 +56,35 @@ class ItemIndex {
   }
 
  private:
+  // A key. Equal device names share their data, so that comparing them is one comparison of pointers.
+  struct KnownKey {
+    explicit KnownKey(const ConfigKey& its_key)
+        : device(Shared(its_key.device)),
+          text(its_key.text),
+          scancode(its_key.scancode),
+          is_joystick(IsJoystickKey(its_key)) {}
+
+    // As IsSameKey.
+    bool Is(const ConfigKey& key) const {
+      if (!IsSameText(device, key.device)) return false;
+      return is_joystick ? IsSameText(text, key.text) : scancode == key.scancode;
+    }
+
+    QString device;
+    QString text;
+    int scancode;
+    bool is_joystick;
+  };
+
   // One key of one item.
   struct Entry {
     ConfigItem* item;
-    const ConfigKey* key;
-    const ConfigKey* first_key;  // of a ComposableConfigItem, set or not; otherwise null
-    int position;                // in the list
-    bool is_chord;               // `first_key` is set
-    int next;                    // next entry in the bucket, further back in the list; -1 at the end
+    KnownKey key;
+    KnownKey first_key;  // of a ComposableConfigItem, set or not
+    bool has_first_key;  // the item is one
+    bool is_chord;       // `first_key` is set
+    int position;        // in the list
+    int next;            // next entry in the bucket, further back in the list; -1 at the end
   };
 
   // An item with its own matching.
@@ -75,6 +96,12 @@ class ItemIndex {
     bool IsChord() const { return composable && IsKeySet(composable->first_key); }
   };
 
+  static const QString& Shared(const QString& device) {
+    for (const QString* known : {&keywords::kDeviceKeyboard, &keywords::kDeviceMouse}) {
+      if (IsSameText(device, *known)) return *known;
+    }
+    return device;
+  }
   static ConfigItem* ItemOf(const Entry* entry) { return entry ? entry->item : nullptr; }
 
   // Rare work stays out of the hot path: a key without an item is recognised by its empty bucket.
@@ -84,7 +111,8 @@ class ItemIndex {
     for (int i = 0; i < items_.size(); ++i) Add(items_.at(i), i);
     Link();
   }
-  Q_NEVER_INLINE ConfigItem* FindAloneAmongStrangers(const ConfigKey& key, const Entry* entry) const {
+  Q_NEVER_INLINE ConfigItem* FindAloneAmongStrangers(const ConfigKey& key) const {
+    const Entry* entry = FirstAloneEntry(key);
     for (const Stranger& stranger : strangers_) {
       if (entry && stranger.position > entry->position) break;
       if (stranger.item->IsKeyMatch(key) && !stranger.IsChord()) return stranger.item;
@@ -101,6 +129,12 @@ class ItemIndex {
     });
   }
 
+  Q_NEVER_INLINE bool IsFoundInEntries(const ConfigKey& configured, const ConfigKey& pressed) const {
+    return FirstAloneEntry(configured) != nullptr || FirstChordEntry(configured, pressed) != nullptr;
+  }
+  // Without chords, no first key of an item can match a key of a device.
+  bool MayBeInChord(const ConfigKey& armed) const { return has_chords_ || armed.device.isEmpty(); }
+
   // False if no entry's key can be either of the two.
   bool MayMatch(const ConfigKey& configured, const ConfigKey& pressed) const {
     if (IsJoystickKey(configured) || IsJoystickKey(pressed)) return true;  // compared by name
@@ -111,22 +145,26 @@ class ItemIndex {
     });
   }
 
-  static unsigned HashOf(const ConfigKey& key) {
-    if (IsJoystickKey(key)) return qHash(key.text);
+  static std::size_t HashOf(int scancode) {
     constexpr unsigned kSpread = 0x9E3779B1U;  // 2^32 divided by the golden ratio: spreads adjacent codes
-    const unsigned spread = static_cast<unsigned>(key.scancode) * kSpread;
+    const unsigned spread = static_cast<unsigned>(scancode) * kSpread;
     return spread ^ (spread >> 15U);
+  }
+  // If no entry has a joystick key, none is found whatever its hash.
+  std::size_t HashOf(const ConfigKey& key) const {
+    return has_joystick_keys_ && IsJoystickKey(key) ? qHash(key.text) : HashOf(key.scancode);
   }
 
   void Add(ConfigItem* item, int position) {
     if (!item || dynamic_cast<const TipConfigItem*>(item)) return;  // a label matches no key
     const auto* composable = dynamic_cast<const ComposableConfigItem*>(item);
     if (!IsContractClass(*item)) return strangers_.push_back({item, composable, position});
-    const ConfigKey* first_key = composable ? &composable->first_key : nullptr;
-    const bool is_chord = first_key && IsKeySet(*first_key);
-    if (first_key && !first_key->device.isEmpty()) has_chords_ = true;
+    const ConfigKey first_key = composable ? composable->first_key : ConfigKey();
+    if (!first_key.device.isEmpty()) has_chords_ = true;
     for (const ConfigKey* key : KeysOf(*item)) {
-      entries_.push_back({item, key, first_key, position, is_chord, kNone});
+      if (IsJoystickKey(*key)) has_joystick_keys_ = true;
+      entries_.push_back(
+          {item, KnownKey(*key), KnownKey(first_key), composable != nullptr, IsKeySet(first_key), position, kNone});
       keys_.push_back(key);
     }
   }
@@ -134,25 +172,25 @@ class ItemIndex {
   // From the end, so that each bucket is in list order.
   void Link() {
     std::size_t size = 1;
-    while (size < 2 * entries_.size()) size *= 2;
+    while (size < 4 * entries_.size()) size *= 2;
     buckets_.assign(size, kNone);
+    last_bucket_ = size - 1;
     for (std::size_t i = entries_.size(); i-- > 0;) {
-      int& head = buckets_[HashOf(*entries_[i].key) & (size - 1)];
+      const KnownKey& key = entries_[i].key;
+      int& head = buckets_[(key.is_joystick ? qHash(key.text) : HashOf(key.scancode)) & last_bucket_];
       entries_[i].next = head;
       head = static_cast<int>(i);
     }
   }
 
   // The first entry in the bucket of `key`; kNone if it is empty.
-  int HeadOf(const ConfigKey& key) const {
-    return buckets_.empty() ? kNone : buckets_[HashOf(key) & (buckets_.size() - 1)];
-  }
+  int HeadOf(const ConfigKey& key) const { return buckets_[HashOf(key) & last_bucket_]; }
   // Starts at entry `i`.
   template <typename Condition>
   Q_NEVER_INLINE const Entry* FirstOf(int i, const ConfigKey& key, Condition condition) const {
     while (i != kNone) {
       const Entry& entry = entries_[static_cast<std::size_t>(i)];
-      if (IsSameKey(*entry.key, key) && condition(entry)) return &entry;
+      if (entry.key.Is(key) && condition(entry)) return &entry;
       i = entry.next;
     }
     return nullptr;
@@ -163,10 +201,10 @@ class ItemIndex {
     return head == kNone ? nullptr : FirstOf(head, key, [](const Entry& e) { return !e.is_chord; });
   }
   const Entry* FirstChordEntry(const ConfigKey& armed, const ConfigKey& pressed) const {
-    if (!has_chords_ && !armed.device.isEmpty()) return nullptr;  // without chords, no first key can match
+    if (!MayBeInChord(armed)) return nullptr;
     const int head = HeadOf(pressed);
     if (head == kNone) return nullptr;
-    return FirstOf(head, pressed, [&armed](const Entry& e) { return e.first_key && IsSameKey(*e.first_key, armed); });
+    return FirstOf(head, pressed, [&armed](const Entry& e) { return e.has_first_key && e.first_key.Is(armed); });
   }
 
   static constexpr int kNone = -1;
@@ -174,9 +212,11 @@ class ItemIndex {
   QList<ConfigItem*> items_;
   std::vector<Entry> entries_;
   std::vector<const ConfigKey*> keys_;  // of the entries, contiguous: MayMatch scans all of them
-  std::vector<int> buckets_;            // index of the first entry, or kNone; a power of two in number
+  std::vector<int> buckets_{kNone};     // index of the first entry, or kNone; a power of two in number
+  std::size_t last_bucket_ = 0;
   std::vector<Stranger> strangers_;
   bool has_chords_ = false;
+  bool has_joystick_keys_ = false;
 };
 
 }  // namespace tavikeymapmanager

@@ -1,5 +1,7 @@
 #include "keymapmanager/item_types.h"
 
+#include <tuple>
+
 #include <QLocale>
 
 #include "keymapmanager/fields/record_tables.h"
@@ -39,6 +41,16 @@ QVector<double> NumbersAt(const FieldTarget& target) {
   return {};
 }
 
+// As many as that gives.
+void SetNumbersAt(const FieldTarget& target, const QVector<double>& numbers) {
+  if (const auto* integer = std::get_if<int*>(&target)) **integer = static_cast<int>(numbers[0]);
+  if (const auto* number = std::get_if<double*>(&target)) **number = numbers[0];
+  if (const auto* pair = std::get_if<PairTarget>(&target))
+    std::tie(*pair->x, *pair->y) = std::tie(numbers[0], numbers[1]);
+  if (const auto* point = std::get_if<QPointF*>(&target)) **point = {numbers[0], numbers[1]};
+  if (const auto* size = std::get_if<QSizeF*>(&target)) **size = {numbers[0], numbers[1]};
+}
+
 QString ShortestText(double value) { return QString::number(value, 'g', QLocale::FloatingPointShortest); }
 
 }  // namespace
@@ -56,6 +68,13 @@ QVector<ItemTypeInfo> DescribeItemTypes() {
 QVector<double> NumbersOfField(const ConfigItem& item, const QString& name) {
   const Field* field = FindField(item, name);
   return field == nullptr ? QVector<double>() : NumbersAt(field->target(RefOf(item)));
+}
+
+void SetNumbersOfField(ConfigItem* item, const QString& name, const QVector<double>& numbers) {
+  const Field* field = FindField(*item, name);
+  if (field == nullptr) return;
+  const FieldTarget target = field->target(item);
+  if (NumbersAt(target).size() == numbers.size()) SetNumbersAt(target, numbers);
 }
 
 QString TextOfField(const ConfigItem& item, const QString& name) {

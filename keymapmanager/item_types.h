@@ -65,6 +65,10 @@ TAVI_KEYMAP_EXPORT QVector<ItemTypeInfo> DescribeItemTypes();
 // not. Empty for other kinds and for fields that the item's type does not have.
 TAVI_KEYMAP_EXPORT QVector<double> NumbersOfField(const ConfigItem& item, const QString& field);
 
+// Gives such a field of the item other numbers, as many as it has; otherwise nothing happens. The file stays as it is,
+// and no range is checked: an editor shows with it what an edit would give.
+TAVI_KEYMAP_EXPORT void SetNumbersOfField(ConfigItem* item, const QString& field, const QVector<double>& numbers);
+
 // The value of a field of kind kFlag, kInteger, kNumber, kPadButton, kWord or kPair in the notation of keymap files:
 // "true", "0.5", "[0.5, 1]". Empty for other kinds.
 TAVI_KEYMAP_EXPORT QString TextOfField(const ConfigItem& item, const QString& field);

@@ -26,11 +26,6 @@ KeymapConfig* LoadKeymapConfigAndInfo(const QString& path) { return Load(path); 
 
 KeymapConfig* LoadJoystickConfigAndInfo(const QString& path) { return Load(path); }
 
-ConfigKey CreateConfigKey(QString device, int virtual_key, int scancode) {
-  const QString& text = KeyIndex::Get().TextOf(device, virtual_key, scancode);
-  return ConfigKey{std::move(device), text, virtual_key, scancode};
-}
-
 void SetTextForConfigKey(ConfigKey* key) {
   if (key == nullptr) return;
   if (key->device == keywords::kDeviceJoystick) return;  // identified by its text
@@ -45,7 +40,7 @@ int getMacroConfigKeyCode(QEvent* event) {
     case QEvent::KeyRelease: return static_cast<int>(static_cast<QKeyEvent*>(event)->nativeScanCode());
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick: return static_cast<QMouseEvent*>(event)->button();
+    case QEvent::MouseButtonDblClick: return static_cast<int>(static_cast<QMouseEvent*>(event)->button());
     default: return kNoCode;
   }
 }

@@ -15,12 +15,13 @@ bool IsSpace(char byte) { return byte == ' ' || byte == '\t' || byte == '\r' || 
 class Outliner {
  public:
   explicit Outliner(const QByteArray& text) : text_(text) {
-    bytes_.reserve(text.size() + 1);
-    for (int i = text.startsWith(kByteOrderMark) ? 3 : 0; i < text.size(); ++i) {
+    const int end = static_cast<int>(text.size());
+    bytes_.reserve(end + 1);
+    for (int i = text.startsWith(kByteOrderMark) ? 3 : 0; i < end; ++i) {
       const bool is_continuation = (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
       if (!is_continuation) bytes_.append(i);
     }
-    bytes_.append(text.size());
+    bytes_.append(end);
   }
 
   RecordOutline Record(const YamlNode& node) const {

@@ -1,7 +1,8 @@
 #include "keymapmanager/nearest_word.h"
 
 #include <algorithm>
-#include <vector>
+
+#include <QVector>
 
 namespace tavikeymapmanager {
 
@@ -9,12 +10,12 @@ namespace {
 
 constexpr int kLongestWord = 64;  // much longer than any known word: not compared
 
-int ToThirds(int length) { return std::max(1, (length + 2) / 3); }
+qsizetype ToThirds(qsizetype length) { return std::max<qsizetype>(1, (length + 2) / 3); }
 
 // Edit distance with swaps of neighbours, each counted as 1.
 int Distance(const QString& a, const QString& b) {
-  const int width = b.size() + 1;
-  std::vector<int> before(width), above(width), row(width);
+  const int width = static_cast<int>(b.size()) + 1;
+  QVector<int> before(width), above(width), row(width);
   for (int j = 0; j < width; ++j) above[j] = j;
   for (int i = 1; i <= a.size(); ++i) {
     row[0] = i;
@@ -38,7 +39,7 @@ QString NearestWord(const QString& word, const QStringList& known) {
   QString nearest;
   int nearest_distance = kLongestWord;
   for (const QString& candidate : known) {
-    const int limit = ToThirds(candidate.size());
+    const qsizetype limit = ToThirds(candidate.size());
     if (std::abs(candidate.size() - word.size()) > limit) continue;
     const int distance = Distance(folded, candidate.toLower());
     // A word of one letter is close to every other: only its case may differ.

@@ -16,13 +16,15 @@ void ActionTrack::Start() {
   Clear();
 }
 
-void ActionTrack::Add(RecordAction action) {
+void ActionTrack::Add(RecordAction action) { Add(std::make_unique<RecordAction>(std::move(action))); }
+
+void ActionTrack::Add(std::unique_ptr<RecordAction> action) {
   const qint64 now = Clock::NowMs();
-  auto* added = new RecordAction(std::move(action));
-  added->timing = LowDistance(last_time_, now);
+  action->timing = LowDistance(last_time_, now);
   last_time_ = now;
-  for (QString* text : {&added->type, &added->data, &added->extra1, &added->extra2}) *text = texts_.Of(*text);
-  actions_.append(added);
+  for (QString* text : {&action->type, &action->data, &action->extra1, &action->extra2}) texts_.Share(text);
+  actions_.append(action.get());
+  action.release();
 }
 
 void ActionTrack::Clear() {

@@ -2,6 +2,7 @@
 #ifndef RECORD_ACTION_TRACK_H_
 #define RECORD_ACTION_TRACK_H_
 
+#include <memory>
 #include <utility>
 
 #include <QList>
@@ -23,6 +24,7 @@ class ActionTrack {
   void Start();
   // Adds `action` unchanged, except its timing.
   void Add(RecordAction action);
+  void Add(std::unique_ptr<RecordAction> action);
   void Clear();
   // Returns the recording, which the caller then owns; the list is empty afterwards.
   QList<RecordAction*> Take() { return std::exchange(actions_, {}); }

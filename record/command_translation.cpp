@@ -1,22 +1,22 @@
 #include "record/command_translation.h"
 
-#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <cstring>
 #include <functional>
-#include <iterator>
 #include <optional>
-#include <system_error>
 
 #include <QPointF>
 #include <QString>
 #include <QStringView>
 #include <QVarLengthArray>
 
+#include "core/decimal.h"
 #include "core/display_geometry.h"
 #include "core/guest_words.h"
 #include "core/line_buffer.h"
+#include "qt/lasting_text.h"
+#include "qt/numbers.h"
 #include "record/point_text.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -28,11 +28,13 @@ using namespace record_format;  // NOLINT(google-build-using-namespace): words o
 namespace {
 
 // A part of a line, or a whole one: of a text in any script, or of a line that was built here.
-int IntOf(const QStringView& part) { return part.toInt(); }
-int IntOf(QLatin1String part) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(part.begin(), part.end(), number);
-  return error == std::errc() && end == part.end() ? number : 0;
+int IntOf(const QStringView& part) { return qt::ToInt(part); }
+int IntOf(QLatin1String part) { return ReadDecimal(part.begin(), part.end()); }
+
+bool StartsWith(const QStringView& line, QLatin1String word) { return line.startsWith(word); }
+bool StartsWith(QLatin1String line, QLatin1String word) {
+  const auto length = static_cast<std::size_t>(word.size());
+  return line.size() >= word.size() && std::memcmp(line.data(), word.data(), length) == 0;
 }
 
 QString ToString(const QStringView& part) { return part.toString(); }
@@ -54,11 +56,21 @@ QVarLengthArray<Text, 16> PartsOf(const Text& line) {
   return parts;
 }
 
-// Words whose texts all actions share.
-const QString& TextOf(QLatin1String word) {
-  static const QString texts[] = {kTypeTouch,       kTypeKeyboard, kTypeMouse,    kTypeJoystick,
-                                  kTypeInputMethod, kRelease,      kReleaseMulti, kReset};
-  return *std::find(std::begin(texts), std::end(texts), word);
+// Texts that all actions share.
+struct Texts {
+  QString touch = qt::Lasting(kTypeTouch);
+  QString keyboard = qt::Lasting(kTypeKeyboard);
+  QString mouse = qt::Lasting(kTypeMouse);
+  QString joystick = qt::Lasting(kTypeJoystick);
+  QString input_method = qt::Lasting(kTypeInputMethod);
+  QString release = qt::Lasting(kRelease);
+  QString release_multi = qt::Lasting(kReleaseMulti);
+  QString reset = qt::Lasting(kReset);
+};
+
+const Texts& KnownTexts() {
+  static const Texts texts;
+  return texts;
 }
 
 QString Joined(QLatin1String word, const QString& argument) {
@@ -72,7 +84,7 @@ QString SlotText(int slot) {
   constexpr int kSlots = 26;
   static const auto texts = [] {
     std::array<QString, kSlots> all;
-    for (int i = 0; i < kSlots; ++i) all[static_cast<std::size_t>(i)] = QString::number(i);
+    for (int i = 0; i < kSlots; ++i) all[static_cast<std::size_t>(i)] = qt::Lasting(QString::number(i));
     return all;
   }();
   return slot >= 0 && slot < kSlots ? texts[static_cast<std::size_t>(slot)] : QString::number(slot);
@@ -125,7 +137,7 @@ template <typename Text>
 bool TouchRelease(const Text& line, RecordAction* action) {
   const auto parts = PartsOf(line);
   if (parts.size() != 2) return false;
-  action->data = TextOf(kRelease);
+  action->data = KnownTexts().release;
   action->extra1 = SlotText(IntOf(parts[1]));
   return true;
 }
@@ -152,14 +164,14 @@ template <typename Text>
 bool TouchMultiRelease(const Text& line, RecordAction* action) {
   const int word = guest_words::kSlotMultiRelease.size();
   if (line.size() <= word) return false;
-  action->data = TextOf(kReleaseMulti);
+  action->data = KnownTexts().release_multi;
   action->extra1 = ToString(line.mid(word + 1));
   return true;
 }
 
 template <typename Text>
 bool TouchReset(const Text& /*line*/, RecordAction* action) {
-  action->data = TextOf(kReset);
+  action->data = KnownTexts().reset;
   return true;
 }
 
@@ -210,14 +222,14 @@ template <typename Text>
 struct Rule {
   QLatin1String word;
   Match match = Match::kWord;
-  QLatin1String type;  // one of TextOf's
+  QString Texts::*type = nullptr;
   bool (*translate)(const Text& line, RecordAction* action) = nullptr;
 };
 
 template <typename Text>
 bool Fits(const Text& line, const Rule<Text>& rule) {
-  if (!line.startsWith(rule.word)) return false;
-  const int end = rule.word.size();
+  if (!StartsWith(line, rule.word)) return false;
+  const auto end = rule.word.size();
   switch (rule.match) {
     case Match::kWord: return true;
     case Match::kWordColon: return line.size() > end && line.at(end) == kColon;
@@ -229,27 +241,27 @@ bool Fits(const Text& line, const Rule<Text>& rule) {
 // In this order; the first that matches decides.
 template <typename Text>
 constexpr Rule<Text> kRules[] = {
-    {guest_words::kSlotPress, Match::kWordColon, kTypeTouch, TouchPress<Text>},
-    {guest_words::kSlotRelease, Match::kWordColon, kTypeTouch, TouchRelease<Text>},
-    {guest_words::kKeyPress, Match::kWordColon, kTypeKeyboard, KeyPress<Text>},
-    {guest_words::kKeyRelease, Match::kWordColon, kTypeKeyboard, KeyRelease<Text>},
-    {guest_words::kSlotMultiPress, Match::kWord, kTypeTouch, TouchMultiPress<Text>},
-    {guest_words::kSlotMultiRelease, Match::kWord, kTypeTouch, TouchMultiRelease<Text>},
-    {guest_words::kWheel, Match::kWordColon, kTypeMouse, MouseWheel<Text>},
-    {guest_words::kMouseMove, Match::kWordColon, kTypeMouse, MouseMove<Text>},
-    {guest_words::kSlotReleaseAll, Match::kLine, kTypeTouch, TouchReset<Text>},
-    {guest_words::kGamepadButton, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
-    {guest_words::kLeftStickAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
-    {guest_words::kRightStickAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
-    {guest_words::kLeftTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
-    {guest_words::kRightTriggerAxis, Match::kWordColon, kTypeJoystick, Gamepad<Text>},
+    {guest_words::kSlotPress, Match::kWordColon, &Texts::touch, TouchPress<Text>},
+    {guest_words::kSlotRelease, Match::kWordColon, &Texts::touch, TouchRelease<Text>},
+    {guest_words::kKeyPress, Match::kWordColon, &Texts::keyboard, KeyPress<Text>},
+    {guest_words::kKeyRelease, Match::kWordColon, &Texts::keyboard, KeyRelease<Text>},
+    {guest_words::kSlotMultiPress, Match::kWord, &Texts::touch, TouchMultiPress<Text>},
+    {guest_words::kSlotMultiRelease, Match::kWord, &Texts::touch, TouchMultiRelease<Text>},
+    {guest_words::kWheel, Match::kWordColon, &Texts::mouse, MouseWheel<Text>},
+    {guest_words::kMouseMove, Match::kWordColon, &Texts::mouse, MouseMove<Text>},
+    {guest_words::kSlotReleaseAll, Match::kLine, &Texts::touch, TouchReset<Text>},
+    {guest_words::kGamepadButton, Match::kWordColon, &Texts::joystick, Gamepad<Text>},
+    {guest_words::kLeftStickAxis, Match::kWordColon, &Texts::joystick, Gamepad<Text>},
+    {guest_words::kRightStickAxis, Match::kWordColon, &Texts::joystick, Gamepad<Text>},
+    {guest_words::kLeftTriggerAxis, Match::kWordColon, &Texts::joystick, Gamepad<Text>},
+    {guest_words::kRightTriggerAxis, Match::kWordColon, &Texts::joystick, Gamepad<Text>},
 };
 
 template <typename Text>
 bool Translate(const Text& line, RecordAction* action) {
   for (const auto& rule : kRules<Text>) {
     if (!Fits(line, rule)) continue;
-    action->type = TextOf(rule.type);
+    action->type = KnownTexts().*rule.type;
     return rule.translate(line, action);
   }
   return false;
@@ -257,9 +269,9 @@ bool Translate(const Text& line, RecordAction* action) {
 
 // False if it is another line, or if there is no text.
 bool TranslateText(const QString& command, QLatin1String line_word, QLatin1String word, RecordAction* action) {
-  const int end = line_word.size();
+  const auto end = line_word.size();
   if (!command.startsWith(line_word) || command.size() <= end + 1 || command.at(end) != kColon) return false;
-  action->type = TextOf(kTypeInputMethod);
+  action->type = KnownTexts().input_method;
   action->data = Joined(word, command.mid(end + 1));
   return true;
 }

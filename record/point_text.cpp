@@ -1,5 +1,6 @@
 #include "record/point_text.h"
 
+#include <QList>
 #include <QPointF>
 #include <QString>
 #include <QStringView>

@@ -11,6 +11,7 @@
 #include "core/clock.h"
 #include "core/display_geometry.h"
 #include "core/numbers.h"
+#include "qt/json_text.h"
 #include "record/file_replacement.h"
 #include "record/json/json_output.h"
 #include "record/json/merged_writer.h"
@@ -50,7 +51,7 @@ int RunningTime(const RecordInfo& info, const MergeParam& param, bool is_last) {
 // The header of a merged record: the names of its first item, and the duration of all.
 class MergedHeader {
  public:
-  explicit MergedHeader(int item_count) : item_count_(item_count) {}
+  explicit MergedHeader(qsizetype item_count) : item_count_(item_count) {}
 
   void Add(const QJsonObject& header, const MergeParam& param) {
     RecordInfo info;
@@ -66,8 +67,8 @@ class MergedHeader {
   }
 
  private:
-  const int item_count_;
-  int count_ = 0;
+  const qsizetype item_count_;
+  qsizetype count_ = 0;
   int total_ = 0;
   RecordInfo result_;
 };
@@ -99,7 +100,7 @@ bool MergeByLibrary(const QString& file, const QVector<MergeParam>& params) {
     items.append(QJsonObject{{kControl, utils->WriteControlParam(param)}, {list, source.value(list)}});
   }
   const QJsonDocument document(QJsonObject{{kInfo, header.Json()}, {kMergedActions, items}});
-  return ReplaceFile(file, document.toJson());
+  return ReplaceFile(file, qt::JsonText(document));
 }
 
 // The same two cases.

@@ -75,31 +75,31 @@ void RecordManager::AddVControlCommand(const QString& data, const QString& extra
 }
 
 void RecordManager::AddAction(const QString& type, const QString& data, const QString& extra1, const QString& extra2) {
-  Add({0, type, data, extra1, extra2});
+  Add(Action(new RecordAction{0, type, data, extra1, extra2}));
 }
 
-void RecordManager::Add(RecordAction action) {
-  if (action.data.isEmpty()) return;
+void RecordManager::Add(Action action) {
+  if (action->data.isEmpty()) return;
   const std::lock_guard<std::mutex> lock(mutex_);
   if (GetStatus() == RecordStatus::Recording) actions_.Add(std::move(action));
 }
 
 void RecordManager::OnEventCommand(const QString& command) {
   if (macro_recording_ || command.isEmpty()) return;
-  RecordAction action;
-  if (TranslateEventCommand(command, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateEventCommand(command, action.get())) Add(std::move(action));
 }
 
 void RecordManager::OnEventLine(QLatin1String line) {
   if (macro_recording_ || line.isEmpty()) return;
-  RecordAction action;
-  if (TranslateEventLine(line, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateEventLine(line, action.get())) Add(std::move(action));
 }
 
 void RecordManager::OnTextCommand(const QString& command) {
   if (command.isEmpty()) return;
-  RecordAction action;
-  if (TranslateTextCommand(command, &action)) Add(std::move(action));
+  auto action = std::make_unique<RecordAction>();
+  if (TranslateTextCommand(command, action.get())) Add(std::move(action));
 }
 
 void RecordManager::StartRecordMacroInstruction(const QString& name) {

@@ -4,6 +4,7 @@
 
 #include <QLatin1String>
 #include <atomic>
+#include <memory>
 #include <mutex>
 
 #include <QString>
@@ -61,6 +62,8 @@ class RecordManager {
   }
 
  private:
+  using Action = std::unique_ptr<RecordAction>;
+
   RecordManager();
 
   // After its return nothing is added, and only the main thread uses the record.
@@ -69,7 +72,7 @@ class RecordManager {
   void CaptureEvent(QEvent* event);
   void AddMacroAction(const QString& data);
   // Like AddAction.
-  void Add(RecordAction action);
+  void Add(Action action);
   void AddMacroMove(const QPoint& window_position);
 
   // Guards actions_ while status_ is Recording, and all changes of status_. Not locked while a file is written or the

@@ -9,6 +9,7 @@
 #include "core/display_geometry.h"
 #include "core/guest_command.h"
 #include "core/input_status_manager.h"
+#include "qt/numbers.h"
 #include "record/point_text.h"
 #include "record/record_format.h"
 #include "slots/macro_slot_manager.h"
@@ -71,7 +72,7 @@ void ReplayEventHandler::OnKeyboardAction(const QString& data, const QString& /*
   if (!is_press && !data.startsWith(kKeyboardRelease)) return;
   QString argument;
   if (!OneArgument(data, &argument)) return;
-  const int code = argument.toInt();
+  const int code = qt::ToInt(argument);
   CodeSet& held = InputStatusManager::GetInstance()->ReplayHeldKeys();
   if (is_press) {
     held.Add(code);
@@ -101,14 +102,14 @@ void ReplayEventHandler::Press(const QString& data, const QString& slot_text, bo
   QPointF place = DisplayPoint(argument);
   if (emulation_mode) place = Disturbed(place);
   if (place.isNull()) return;
-  const int id = MapSlot(slot_text.toInt());
+  const int id = MapSlot(qt::ToInt(slot_text));
   const QString command = guest_command::SlotPress(id, place);
   pressed_slots_.insert(id, command);
   SendToReplay(command);
 }
 
 void ReplayEventHandler::Release(const QString& slot_text) {
-  const int original = slot_text.toInt();
+  const int original = qt::ToInt(slot_text);
   const int id = MapSlot(original);
   pressed_slots_.remove(id);
   UnmapSlot(original, id);
@@ -122,7 +123,7 @@ void ReplayEventHandler::MultiPress(const QString& data, const QString& slot_tex
   QStringList groups;
   for (int i = 0; i < ids.size(); ++i) {
     const QPointF place = DisplayPoint(points.at(i + 1));
-    const int id = MapSlot(ids.at(i).toInt());
+    const int id = MapSlot(qt::ToInt(ids.at(i)));
     if (place.isNull()) continue;  // its slot stays mapped
     groups.append(guest_command::ContactGroup(id, place));
     pressed_multi_slots_.insert(id, groups.last());
@@ -134,7 +135,7 @@ void ReplayEventHandler::MultiPress(const QString& data, const QString& slot_tex
 void ReplayEventHandler::MultiRelease(const QString& slot_texts) {
   if (slot_texts.isEmpty()) return;
   for (const QString& slot_text : slot_texts.split(QLatin1Char(':'))) {
-    const int original = slot_text.toInt();
+    const int original = qt::ToInt(slot_text);
     const int id = MapSlot(original);
     pressed_multi_slots_.remove(id);
     UnmapSlot(original, id);

@@ -10,7 +10,7 @@ namespace taviinputmanager {
 
 // A contact is identified by its position, not by who requested it: press and release are paired by comparing points,
 // exactly. Points are fractions of the display. Commands are about the slot used last; -1 before that.
-class MultipointSlotManager : public SlotManager {
+class MultipointSlotManager final : public SlotManager {
  public:
   static MultipointSlotManager* GetInstance() {
     static MultipointSlotManager instance;

@@ -12,7 +12,10 @@ SlotManager::~SlotManager() = default;
 LineBuffer SlotManager::UpdateLine() {
   const int id = slot_id_;
   if (id == kNoSlot) return {};
-  if (!HasTouch()) return ReleaseLine();
+  return HasTouch() ? CheckedPressLine(id) : ReleaseLine();
+}
+
+LineBuffer SlotManager::CheckedPressLine(int id) {
   LineBuffer line = PressLine();
   if (!IsDown(id)) line.Clear();
   return line;

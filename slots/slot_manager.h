@@ -57,6 +57,9 @@ class SlotManager {
   void SetSlotId(int slot_id) { slot_id_ = slot_id; }
 
  private:
+  // Empty if contact `id` is up by then.
+  LineBuffer CheckedPressLine(int id);
+
   int slot_id_;
   const DisplayGeometry* display_;  // the singleton
 };

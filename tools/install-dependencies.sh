@@ -1,21 +1,26 @@
 #!/usr/bin/env bash
-# Installs what this tree needs on a Debian 12 machine. The only list of packages; apt is asked only for what is
+# Installs what this tree needs on a machine with Debian 12 or 13. The only list of packages; apt is asked only for what is
 # missing.
 #
 #   tools/install-dependencies.sh [GROUP...]      without a word: build
+#   tools/install-dependencies.sh names GROUP...  installs nothing, and prints the packages' names
 #
-# Groups: build test qt6 docs packaging lint bench plot guest guest-programs windows coverage valgrind fuzz mutants
+# Groups: arm64 arm64-libraries build test qt6 clang docs packaging lint bench plot guest guest-programs windows coverage
+# valgrind fuzz mutants
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5x11extras5-dev libxcb-xinput-dev libpoco-dev
   libyaml-dev libsdl2-dev libevdev-dev)
 test=(groff-base libgtest-dev libxcb-xfixes0-dev libxcb-xtest0-dev python3 python3-jsonschema python3-yaml xvfb)
 qt6=(qt6-base-dev)
+clang=(clang)
 docs=(doxygen)
-packaging=(debootstrap lintian dpkg-dev file)
+packaging=(autopkgtest debhelper debootstrap dpkg-dev lintian)
 lint=(clang-format-14 clang-tidy-14)
 guest=(qemu-system-x86 qemu-system-arm busybox-static cpio)
 guest_programs=(g++-aarch64-linux-gnu g++-arm-linux-gnueabihf qemu-user-static)
+arm64=(g++-aarch64-linux-gnu qemu-user-static)
+arm64_libraries=(libc6-dev libgtest-dev libpoco-dev libyaml-dev qtbase5-dev)
 windows=(g++-mingw-w64-x86-64-posix wine64)
 coverage=(gcovr python3)
 valgrind=(valgrind)
@@ -24,17 +29,26 @@ plot=(python3 python3-matplotlib)
 mutants=(binutils git python3)
 fuzz=(clang-14 libclang-rt-14-dev llvm-14)
 
+names=
+if [ "${1:-}" = names ]; then
+  names=yes
+  shift
+fi
+
 packages=()
 for group in "${@:-build}"; do
   case $group in
     build) packages+=("${build[@]}") ;;
     test) packages+=("${test[@]}") ;;
     qt6) packages+=("${qt6[@]}") ;;
+    clang) packages+=("${clang[@]}") ;;
     docs) packages+=("${docs[@]}") ;;
     packaging) packages+=("${packaging[@]}") ;;
     lint) packages+=("${lint[@]}") ;;
     guest) packages+=("${guest[@]}") ;;
     guest-programs) packages+=("${guest_programs[@]}") ;;
+    arm64) packages+=("${arm64[@]}") ;;
+    arm64-libraries) packages+=("${arm64_libraries[@]}") ;;
     windows) packages+=("${windows[@]}") ;;
     coverage) packages+=("${coverage[@]}") ;;
     valgrind) packages+=("${valgrind[@]}") ;;
@@ -46,6 +60,10 @@ for group in "${@:-build}"; do
   esac
 done
 
+if [ -n "$names" ]; then
+  printf '%s\n' "${packages[@]}"
+  exit 0
+fi
 if ! command -v apt-get >/dev/null; then
   echo "install-dependencies: not a Debian machine; these packages or their like have to be there: ${packages[*]}" >&2
   exit 0

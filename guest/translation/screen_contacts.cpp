@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "guest/line/guest_line.h"
-#include "guest/translation/device_description.h"
 
 namespace taviguest {
 
@@ -28,9 +27,9 @@ ScreenContacts::ScreenContacts(const GuestOptions& options)
 
 std::string ScreenContacts::Report(const GuestLine& line, KernelEvents* events) {
   EventFrame frame(KernelDevice::kScreen);
-  const bool was_touched = !down_.empty();
+  const bool was_touched = down_.any();
   ReportContacts(line, &frame);
-  const bool is_touched = !down_.empty();
+  const bool is_touched = down_.any();
   if (is_touched != was_touched) frame.Key(BTN_TOUCH, is_touched);
   Append(frame.Close(), events);
   return std::exchange(problem_, {});
@@ -62,19 +61,21 @@ void ScreenContacts::Press(const GuestLine& line, size_t slot_index, size_t plac
   if (!HasRoomFor(slot)) return;
   const Point point = PlaceOnSurface(line.PointAt(place_index), surface_);
   frame->Axis(ABS_MT_SLOT, slot);
-  if (down_.insert(slot).second) frame->Axis(ABS_MT_TRACKING_ID, tracking_id);
+  if (!down_[slot]) frame->Axis(ABS_MT_TRACKING_ID, tracking_id);
+  down_.set(slot);
   frame->Axis(ABS_MT_POSITION_X, point.x).Axis(ABS_MT_POSITION_Y, point.y);
 }
 
 // A contact without a free place is reported once, not with each of its moves.
 bool ScreenContacts::HasRoomFor(int slot) {
-  if (down_.count(slot) > 0 || down_.size() < most_fingers_) {
-    refused_.erase(slot);
+  if (down_[slot] || down_.count() < most_fingers_) {
+    refused_.reset(slot);
     return true;
   }
-  if (refused_.insert(slot).second) {
+  if (!refused_[slot]) {
     problem_ = "more than " + std::to_string(most_fingers_) + " fingers at once are not supported; ignored";
   }
+  refused_.set(slot);
   return false;
 }
 
@@ -87,8 +88,9 @@ void ScreenContacts::Release(int slot, EventFrame* frame) {
     problem_ = kNoSuchSlot;
     return;
   }
-  refused_.erase(slot);
-  if (down_.erase(slot) == 0) return;  // already up, like most slots that a reset sweeps
+  refused_.reset(slot);
+  if (!down_[slot]) return;  // already up, like most slots that a reset sweeps
+  down_.reset(slot);
   frame->Axis(ABS_MT_SLOT, slot).Axis(ABS_MT_TRACKING_ID, kNoTrackingId);
 }
 
@@ -97,9 +99,8 @@ void ScreenContacts::ReleaseEach(const GuestLine& line, EventFrame* frame) {
 }
 
 void ScreenContacts::ReleaseAll(EventFrame* frame) {
-  refused_.clear();
-  const std::set<int> slots = down_;
-  for (const int slot : slots) Release(slot, frame);
+  refused_.reset();
+  for (int slot = 0; slot < kSlotCount; ++slot) Release(slot, frame);
 }
 
 }  // namespace taviguest

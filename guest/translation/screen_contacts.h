@@ -2,10 +2,11 @@
 #ifndef GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 #define GUEST_TRANSLATION_SCREEN_CONTACTS_H_
 
-#include <set>
+#include <bitset>
 #include <string>
 
 #include "guest/line/guest_options.h"
+#include "guest/translation/device_description.h"
 #include "guest/translation/event_frame.h"
 
 namespace taviguest {
@@ -36,9 +37,9 @@ class ScreenContacts {
 
   const Size surface_;
   const size_t most_fingers_;
-  std::set<int> down_;     // slots
-  std::set<int> refused_;  // slots that the line pressed although there was no place for them; reported already
-  std::string problem_;    // of the current line
+  std::bitset<kSlotCount> down_;     // slots
+  std::bitset<kSlotCount> refused_;  // slots that the line pressed without a free place; already reported
+  std::string problem_;              // of the current line
 };
 
 }  // namespace taviguest

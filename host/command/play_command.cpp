@@ -1,5 +1,6 @@
 #include "host/command/play_command.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <memory>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "host/play/control_socket.h"
 #include "host/play/control_words.h"
 #include "host/play/device_folder.h"
+#include "host/play/epoll_dispatcher.h"
 #include "host/play/play_control.h"
 #include "host/play/play_session.h"
 #include "host/play/rights_advice.h"
@@ -249,16 +251,17 @@ std::unique_ptr<GuestOutlet> MakeOutlet(const PlayOptions& options) {
   return std::make_unique<TargetsOutlet>(options.targets, Tell);
 }
 
+void ExitLater(int status) {
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
+void ExitBySignal(int number) { ExitLater(ExitStatusOfSignal(number)); }
+
 // While it exists, a signal that ends the program makes it quit the event loop and clean up.
 class InterruptionWatch {
  public:
-  InterruptionWatch() {
-    SetInterruptionTaker([](int number) {
-      QMetaObject::invokeMethod(
-          QCoreApplication::instance(), [number] { QCoreApplication::exit(ExitStatusOfSignal(number)); },
-          Qt::QueuedConnection);
-    });
-  }
+  InterruptionWatch() { SetInterruptionTaker(ExitBySignal); }
   ~InterruptionWatch() { SetInterruptionTaker({}); }
   InterruptionWatch(const InterruptionWatch&) = delete;
   InterruptionWatch& operator=(const InterruptionWatch&) = delete;
@@ -307,29 +310,36 @@ void TellState(const QString& state) {
 }
 
 // When the process ends, the kernel releases the devices, and the guest's keeper lifts what is down.
-void EndAtOnce() {
-  Tell(QStringLiteral(
-      "no input was handled for ten seconds, as with an endless macro; exiting to give the devices back"));
-  std::_Exit(kExitProblem);
+void EndAtOnce(int status) {
+  Tell(QStringLiteral("input is no longer handled, as with an endless macro; exiting to give the devices back"));
+  std::_Exit(status);
+}
+
+// Runs the event loop under a watchdog, which has less patience once a signal has asked the program to end.
+int RunWatched() {
+  std::atomic<int> bitten_status{kExitProblem};
+  Watchdog watchdog(kLookMs, kPatience, [&bitten_status] { EndAtOnce(bitten_status); });
+  SetInterruptionTaker([&](int number) {
+    bitten_status = ExitStatusOfSignal(number);
+    watchdog.Hurry();
+    ExitBySignal(number);
+  });
+  const int status = QCoreApplication::exec();
+  SetInterruptionTaker(ExitBySignal);
+  return status;
 }
 
 // Returns the exit status.
 int PlayToTheEnd(PlaySession* session, PlayControl* control) {
   session->ReadGamepads();
-  const int status = [] {
-    const Watchdog watchdog(kLookMs, kPatience, EndAtOnce);
-    return QCoreApplication::exec();
-  }();
+  const int status = RunWatched();
   session->End();
   const QString problem = control->Records()->SaveAtEnd();
   Tell(problem);
   return status == kExitDone && !problem.isEmpty() ? kExitProblem : status;
 }
 
-void Quit() {
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [] { QCoreApplication::exit(kExitDone); }, Qt::QueuedConnection);
-}
+void Quit() { ExitLater(kExitDone); }
 
 int PlayOn(PlayOptions options) {
   if (IsAnythingMissing(options)) return kExitProblem;
@@ -368,7 +378,7 @@ int Run(const Invocation& invocation) {
     const QCoreApplication application(invocation.argc, invocation.argv);
     return options.is_list ? ListDevices(options) : AskForControl(options);
   }
-  qputenv("QT_NO_GLIB", "1");                                           // Qt's own event loop has less latency
+  QCoreApplication::setEventDispatcher(new EpollDispatcher);
   const QGuiApplication application(invocation.argc, invocation.argv);  // the library reads the pointer from it
   return PlayOn(options);
 }

@@ -1,5 +1,5 @@
-// Parses the lines that the guest gets, from the guest's point of view, for windows and checks that show what a guest
-// does with its input.
+// Parses the lines that the guest gets with the guest's own parser, for windows and checks that show what a guest does
+// with its input.
 #ifndef HOST_GUEST_GUEST_LINE_H_
 #define HOST_GUEST_GUEST_LINE_H_
 
@@ -8,37 +8,14 @@
 #include <QString>
 #include <QVector>
 
+#include "guest/line/guest_line.h"
 #include "host/guest/rounding.h"
 
 namespace tavi {
 
+// Like taviguest::GuestLine, which documents the numbers of each kind.
 struct GuestLine {
-  // With the numbers of each. Positions are touch coordinates; those of a replay have fractions.
-  enum class Kind {
-    kUnknown,         // not understood; no numbers
-    kSlotPress,       // slot, tracking id, 1, 1, x, y
-    kSlotRelease,     // slot
-    kSlotReleaseAll,  // none
-    kMultiPress,      // slot, tracking id, x, y; repeated for each contact
-    kMultiRelease,    // slot; repeated for each contact
-    kKeyPress,        // guest key code, 1
-    kKeyRelease,      // guest key code, 0
-    kMouseMove,       // x, y: the absolute position of the pointer, despite the line's name
-    kWheel,           // x, y, amount, 0
-    kWheelWithDelta,  // x, y, amount with fraction, 0
-    kText,            // none; text
-    kTextControl,     // none; text: the control's name
-    kLeftStick,       // x, y in millionths
-    kRightStick,      // x, y in millionths
-    kLeftTrigger,     // value
-    kRightTrigger,    // value
-    kGamepadButton,   // code, value
-    kHatX,            // -1 left, 1 right
-    kHatY,            // -1 up, 1 down
-    kTouchpadTouch,   // x, y
-    kTouchpadPress,   // none
-    kTouchpadRelease  // none
-  };
+  using Kind = taviguest::GuestLine::Kind;
 
   // Whole numbers in the range of int.
   int Integer(int index) const { return static_cast<int>(Bounded(index)); }

@@ -1,7 +1,6 @@
 #include "host/play/evdev_device.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <libevdev/libevdev.h>
@@ -16,7 +15,19 @@ namespace tavi {
 
 namespace {
 
-constexpr int kBitsInByte = 8;
+constexpr std::size_t kBitsInByte = 8;
+constexpr std::size_t kMostAtOnce = 64;  // events; the kernel has more ready where nobody read for long
+
+// Of one device, none when it is gone.
+std::bitset<KEY_CNT> KeysDown(int file) {
+  unsigned char bytes[KEY_CNT / kBitsInByte] = {};
+  std::bitset<KEY_CNT> keys;
+  if (::ioctl(file, EVIOCGKEY(sizeof(bytes)), bytes) < 0) return keys;
+  for (std::size_t code = 0; code < keys.size(); ++code) {
+    keys[code] = (bytes[code / kBitsInByte] >> (code % kBitsInByte) & 1) != 0;
+  }
+  return keys;
+}
 
 bool HasAll(const libevdev* device, unsigned type, unsigned first, unsigned last) {
   for (unsigned code = first; code <= last; ++code) {
@@ -72,28 +83,45 @@ EvdevDevice::~EvdevDevice() {
 }
 
 bool EvdevDevice::Read(const FrameTaker& take) {
-  unsigned flag = LIBEVDEV_READ_FLAG_NORMAL;
   for (;;) {
-    input_event event{};
-    const int result = libevdev_next_event(device_, flag, &event);
-    if (result == -EAGAIN && flag == LIBEVDEV_READ_FLAG_SYNC) {
-      flag = LIBEVDEV_READ_FLAG_NORMAL;
-      continue;
-    }
-    if (result < 0) return result == -EAGAIN || result == -EINTR;
-    if (result == LIBEVDEV_READ_STATUS_SYNC) flag = LIBEVDEV_READ_FLAG_SYNC;
-    if (event.type != EV_SYN) {
-      frame_.push_back({event.type, event.code, event.value});
-    } else if (event.code == SYN_REPORT && !frame_.empty()) {
-      take(std::exchange(frame_, {}));
-    }
+    input_event events[kMostAtOnce];
+    const ssize_t size = ::read(file_, events, sizeof(events));
+    if (size < 0) return errno == EAGAIN || errno == EINTR;
+    const std::size_t count = static_cast<std::size_t>(size) / sizeof(input_event);
+    std::for_each(events, events + count, [&](const input_event& event) { Take(event, take); });
+    if (count < kMostAtOnce) return true;
   }
 }
 
+void EvdevDevice::Take(const input_event& event, const FrameTaker& take) {
+  if (event.type == EV_SYN && event.code == SYN_DROPPED) {
+    is_passed_over_ = is_behind_ = true;
+    frame_.clear();
+  } else if (event.type != EV_SYN) {
+    if (is_passed_over_) return;
+    if (event.type == EV_KEY) down_[event.code] = event.value != 0;
+    frame_.push_back({event.type, event.code, event.value});
+  } else if (event.code == SYN_REPORT) {
+    is_passed_over_ = false;
+    if (std::exchange(is_behind_, false)) CatchUp();
+    if (!frame_.empty()) take(frame_);
+    frame_.clear();
+  }
+}
+
+// The kernel takes the events of keys back that it had ready for us, so that none of them comes behind what it says.
+void EvdevDevice::CatchUp() {
+  const std::bitset<KEY_CNT> now = KeysDown(file_);
+  const std::bitset<KEY_CNT> changed = now ^ down_;
+  for (std::size_t code = 0; code < changed.size(); ++code) {
+    if (changed[code]) frame_.push_back({EV_KEY, static_cast<int>(code), now[code] ? 1 : 0});
+  }
+  down_ = now;
+}
+
 bool EvdevDevice::IsAnyKeyDown() const {
-  std::array<unsigned char, KEY_CNT / kBitsInByte> keys{};
-  if (::ioctl(file_, EVIOCGKEY(keys.size()), keys.data()) < 0) return false;  // disconnected: no key can be stuck
-  return std::any_of(keys.begin(), keys.end(), [](unsigned char byte) { return byte != 0; });
+  is_behind_ = true;  // the ioctl drops queued events
+  return KeysDown(file_).any();
 }
 
 QString EvdevDevice::Grab() {

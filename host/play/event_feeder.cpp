@@ -1,5 +1,6 @@
 #include "host/play/event_feeder.h"
 
+#include <algorithm>
 #include <linux/input.h>
 
 #include <QKeyEvent>
@@ -98,31 +99,31 @@ void EventFeeder::Take(int device, const InputFrame& frame, bool is_fed) {
 
 // A key that is down on two keyboards is one key, which is down until it is released on both.
 bool EventFeeder::TakeKey(int device, const DeviceEvent& event, bool is_fed) {
-  if (event.value != 0) {
-    Key* key = &keys_[event.code];
-    const bool is_news = key->devices.insert(device).second && key->devices.size() == 1;
-    return !is_news || Press(event.code, key, is_fed);
+  std::vector<int>& devices = keys_[event.code].devices;
+  const auto found = std::find(devices.begin(), devices.end(), device);
+  const bool is_down = event.value != 0;
+  if (is_down == (found != devices.end())) return true;
+  if (is_down) {
+    devices.push_back(device);
+    return devices.size() > 1 || Press(event.code, is_fed);
   }
-  const auto key = keys_.find(event.code);
-  if (key == keys_.end() || key->second.devices.erase(device) == 0 || !key->second.devices.empty()) return true;
-  const bool was_told = key->second.is_told;
-  keys_.erase(key);
-  Release(event.code, was_told);
+  devices.erase(found);
+  if (devices.empty()) Release(event.code);
   return true;
 }
 
-bool EventFeeder::Press(int code, Key* key, bool is_fed) {
+bool EventFeeder::Press(int code, bool is_fed) {
   QKeyEvent event = WindowSystemEvent(code, true, Modifiers());
   if (ButtonOf(code) == Qt::NoButton && reserved_->Take(&event)) return false;
-  key->is_told = is_fed;
+  keys_[code].is_told = is_fed;
   if (is_fed) Tell(code, true);
   return true;
 }
 
-void EventFeeder::Release(int code, bool was_told) {
+void EventFeeder::Release(int code) {
   QKeyEvent event = WindowSystemEvent(code, false, Modifiers());
   if (ButtonOf(code) == Qt::NoButton) reserved_->Take(&event);
-  if (was_told) Tell(code, false);
+  if (std::exchange(keys_[code].is_told, false)) Tell(code, false);
 }
 
 void EventFeeder::Tell(int code, bool is_down) {
@@ -173,14 +174,12 @@ void EventFeeder::Turn(int parts) {
 
 void EventFeeder::Forget(int device) {
   InputFrame releases;
-  for (const auto& [code, key] : keys_) {
-    if (key.devices.count(device) != 0) releases.push_back({EV_KEY, code, 0});
-  }
+  for (int code = 0; code < KEY_CNT; ++code) releases.push_back({EV_KEY, code, 0});
   Take(device, releases, true);
 }
 
 void EventFeeder::LetGo() {
-  for (auto& [code, key] : keys_) key.is_told = false;
+  for (Key& key : keys_) key.is_told = false;
   turned_ = 0;
 }
 
@@ -203,7 +202,7 @@ QString EventFeeder::TextOf(int code) const {
 Qt::KeyboardModifiers EventFeeder::Modifiers() const {
   Qt::KeyboardModifiers modifiers;
   for (const ModifierRow& row : kModifiers) {
-    if (keys_.count(row.code) != 0) modifiers |= row.modifier;
+    if (IsDown(row.code)) modifiers |= row.modifier;
   }
   return modifiers;
 }
@@ -211,8 +210,7 @@ Qt::KeyboardModifiers EventFeeder::Modifiers() const {
 Qt::MouseButtons EventFeeder::Buttons() const {
   Qt::MouseButtons buttons;
   for (const ButtonRow& row : kButtons) {
-    const auto key = keys_.find(row.code);
-    if (key != keys_.end() && key->second.is_told) buttons |= row.button;
+    if (keys_[row.code].is_told) buttons |= row.button;
   }
   return buttons;
 }

@@ -1,9 +1,10 @@
 #ifndef HOST_PLAY_EVENT_FEEDER_H_
 #define HOST_PLAY_EVENT_FEEDER_H_
 
-#include <map>
-#include <set>
+#include <array>
+#include <linux/input-event-codes.h>
 #include <utility>
+#include <vector>
 
 #include <QHash>
 #include <QObject>
@@ -46,8 +47,8 @@ class EventFeeder : public QObject {
 
  private:
   struct Key {
-    std::set<int> devices;  // the devices on which it is down
-    bool is_told = false;   // it is down for the library
+    std::vector<int> devices;  // the devices on which it is down
+    bool is_told = false;      // it is down for the library
   };
   struct Motion {
     int dx = 0;
@@ -57,9 +58,10 @@ class EventFeeder : public QObject {
 
   // False if a reserved key acted, so that the event is not passed on.
   bool TakeKey(int device, const DeviceEvent& event, bool is_fed);
-  bool Press(int code, Key* key, bool is_fed);
-  void Release(int code, bool was_told);
+  bool Press(int code, bool is_fed);
+  void Release(int code);
   void Tell(int code, bool is_down);
+  bool IsDown(int code) const { return !keys_[code].devices.empty(); }
   void SendKey(int code, bool is_down);
   void SendButton(Qt::MouseButton button, bool is_down);
   void Move(const Motion& motion);
@@ -73,7 +75,7 @@ class EventFeeder : public QObject {
 
   ReservedKeys* const reserved_;
   double speed_ = 1;
-  std::map<int, Key> keys_;        // the keys that are down, by the kernel's code
+  std::array<Key, KEY_CNT> keys_;  // by the kernel's code
   QPointF place_{0.5, 0.5};        // of the pointer, as a fraction of the display, whose size may change
   int turned_ = 0;                 // of the wheel, less than a notch
   QHash<int, NativeKey> natives_;  // by the kernel's code

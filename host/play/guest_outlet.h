@@ -12,7 +12,7 @@ class GuestOutlet {
   virtual ~GuestOutlet() = default;
 
   // The guest's touch surface from now on. If it cannot be changed, releases what is down and creates the devices
-  // again. Returns the error, for display, or an empty string.
+  // again. Returns the error, for display, or an empty string; after an error the old guest stays.
   virtual QString Open(const QSize& surface) = 0;
 
   // A line in the form of the library's send functions. Any thread.

@@ -1,5 +1,6 @@
 #include "host/play/rights_advice.h"
 
+#include <algorithm>
 #include <grp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,14 +21,10 @@ bool FindGroup(const char* name, gid_t* number) {
 
 // Of this process: a group that the user was added to takes effect at the next login.
 bool IsMember(gid_t group) {
-  const int count = getgroups(0, nullptr);
-  if (count < 0) return false;
-  std::vector<gid_t> groups(static_cast<std::size_t>(count));
-  getgroups(count, groups.data());
-  for (const gid_t mine : groups) {
-    if (mine == group) return true;
-  }
-  return getegid() == group;
+  std::vector<gid_t> groups(static_cast<std::size_t>(std::max(getgroups(0, nullptr), 0)));
+  const int count = getgroups(static_cast<int>(groups.size()), groups.data());
+  groups.resize(static_cast<std::size_t>(std::max(count, 0)));
+  return getegid() == group || std::find(groups.begin(), groups.end(), group) != groups.end();
 }
 
 bool IsUinputThere() { return access(kUinput, F_OK) == 0; }

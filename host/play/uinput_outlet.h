@@ -4,6 +4,9 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "guest/uinput_guest.h"
 #include "host/play/guest_outlet.h"
@@ -11,6 +14,7 @@
 namespace tavi {
 
 // Plays the lines on devices of this machine's kernel, in this process: a line is on its device before Send returns.
+// Devices cannot change their size: new ones replace them once they exist.
 class UinputOutlet : public GuestOutlet {
  public:
   // `tell` gets the errors, for display, on the thread of Send.
@@ -25,7 +29,10 @@ class UinputOutlet : public GuestOutlet {
 
  private:
   const std::function<void(const QString&)> tell_;
-  std::mutex lock_;  // for the guest: a replay ends on a thread of its own
+  // Returns what could not be played of the line, for display, or an empty string.
+  std::string Play(std::string_view line);
+
+  std::mutex lock_;  // for the guest, never held during a callback: a replay ends on a thread of its own
   std::unique_ptr<taviguest::UinputGuest> guest_;
 };
 

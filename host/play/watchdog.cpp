@@ -25,7 +25,7 @@ void Watchdog::Watch() {
   int still = 0;
   while (WaitForTheNextLook()) {
     still = has_pulse_.exchange(false) ? 0 : still + 1;
-    if (still == patience_) return bite_();
+    if (still >= patience_) return bite_();
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "host/record/record_file.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -20,7 +21,7 @@ const QString kNoNumber = QStringLiteral("%1: \"%2\" is not a whole number and r
 
 bool IsWholeNumber(const QString& text) {
   bool is_number = false;
-  text.toInt(&is_number);
+  qt::ToInt(text, &is_number);
   return is_number;
 }
 
@@ -63,7 +64,7 @@ RecordTouch ReadPress(const RecordAction& action) {
   const PointText point = ReadPoint(*text);
   if (point.is_dropped) return Dropped(point.problem);
   const QString problem = point.problem.isEmpty() ? SlotProblem(action.extra1) : point.problem;
-  return {Kind::kPress, {{action.extra1.toInt(), point.point}}, problem};
+  return {Kind::kPress, {{qt::ToInt(action.extra1), point.point}}, problem};
 }
 
 RecordTouch ReadMultiPress(const RecordAction& action) {
@@ -76,7 +77,7 @@ RecordTouch ReadMultiPress(const RecordAction& action) {
   RecordTouch touch{Kind::kPress, {}, {}};
   for (int i = 0; i < points.size(); ++i) {
     const PointText point = ReadPoint(points[i]);
-    if (!point.is_dropped) touch.contacts.append(RecordContact{numbers[i].toInt(), point.point});
+    if (!point.is_dropped) touch.contacts.append(RecordContact{qt::ToInt(numbers[i]), point.point});
     if (touch.problem.isEmpty()) touch.problem = point.problem.isEmpty() ? SlotProblem(numbers[i]) : point.problem;
   }
   return touch;
@@ -86,7 +87,7 @@ RecordTouch ReadMultiRelease(const RecordAction& action) {
   if (action.extra1.isEmpty()) return Dropped(QStringLiteral("extra1: no slots; dropped"));
   RecordTouch touch{Kind::kRelease, {}, {}};
   for (const QString& number : action.extra1.split(QLatin1Char(':'))) {
-    touch.contacts.append(RecordContact{number.toInt(), {}});
+    touch.contacts.append(RecordContact{qt::ToInt(number), {}});
     if (touch.problem.isEmpty()) touch.problem = SlotProblem(number);
   }
   return touch;
@@ -137,7 +138,7 @@ constexpr ActionType kTypes[] = {
 RecordTouch ReadTouch(const RecordAction& action) {
   if (action.data.startsWith(QLatin1String("press_rel"))) return ReadPress(action);
   if (action.data == QLatin1String("release")) {
-    return {Kind::kRelease, {{action.extra1.toInt(), {}}}, SlotProblem(action.extra1)};
+    return {Kind::kRelease, {{qt::ToInt(action.extra1), {}}}, SlotProblem(action.extra1)};
   }
   if (action.data.startsWith(QLatin1String("press_multi_rel"))) return ReadMultiPress(action);
   if (action.data == QLatin1String("release_multi")) return ReadMultiRelease(action);

@@ -20,29 +20,27 @@ InputPort* InputPort::GetInstance() {
   return &instance;
 }
 
-// If nobody listens, describing events would be the most expensive part of handling them.
-bool InputPort::IsHeard() const {
-  static const QMetaMethod began = QMetaMethod::fromSignal(&InputPort::Began);
-  return isSignalConnected(began);
+void InputPort::connectNotify(const QMetaMethod& signal) {
+  if (signal == QMetaMethod::fromSignal(&InputPort::Began)) is_heard_ = true;
 }
 
 void InputPort::Send(QEvent* event) {
   if (event->type() == QEvent::TouchBegin) is_touched_ = true;
   if (IsTouch(*event) && !is_touched_) return;
   if (event->type() == QEvent::TouchEnd) is_touched_ = false;
-  if (IsHeard()) Q_EMIT Began(DescribeEvent(*event));
+  if (is_heard_) Q_EMIT Began(DescribeEvent(*event));
   taviinputmanager::OnQtInputEvent(event);
   Q_EMIT Ended();
 }
 
 void InputPort::SendJoystick(QEvent* event) {
-  if (IsHeard()) Q_EMIT Began(DescribeJoystickEvent(*event));
+  if (is_heard_) Q_EMIT Began(DescribeJoystickEvent(*event));
   taviinputmanager::OnJoystickEvent(event);
   Q_EMIT Ended();
 }
 
 void InputPort::SendRelative(int dx, int dy) {
-  if (IsHeard()) Q_EMIT Began(DescribeMovement(dx, dy));
+  if (is_heard_) Q_EMIT Began(DescribeMovement(dx, dy));
   taviinputmanager::OnWindowsWmRelativeInputEvent(dx, dy);
   Q_EMIT Ended();
 }

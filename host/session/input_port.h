@@ -40,9 +40,11 @@ class InputPort : public QObject {
  private:
   InputPort() = default;
 
-  bool IsHeard() const;
+  // Notes that Began is connected: checking at each event would be a large part of its cost.
+  void connectNotify(const QMetaMethod& signal) override;
   void LiftTouches();
 
+  bool is_heard_ = false;    // Began was ever connected; otherwise events are not described, which is expensive
   bool is_touched_ = false;  // the library has contacts of a touch that are down
 };
 

@@ -98,9 +98,8 @@ void LiveHost::SendLine(const char* data, int length) {
   targets_.Send(data, length);
 }
 
-bool LiveHost::IsHeard() const {
-  static const QMetaMethod entry_added = QMetaMethod::fromSignal(&LiveHost::EntryAdded);
-  return isSignalConnected(entry_added);
+void LiveHost::connectNotify(const QMetaMethod& signal) {
+  if (signal == QMetaMethod::fromSignal(&LiveHost::EntryAdded)) is_heard_ = true;
 }
 
 void LiveHost::Add(Source source, const QString& text) {

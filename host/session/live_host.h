@@ -88,8 +88,10 @@ class LiveHost : public QObject {
   LiveHost();
 
   void SendLine(const char* data, int length);
-  // Whether anybody listens to EntryAdded.
-  bool IsHeard() const;
+  // Whether EntryAdded was ever connected. Checking at each line whether it still is would be a large part of the
+  // line's cost, and disconnections are notified under locks of Qt, where nothing may be called.
+  bool IsHeard() const { return is_heard_; }
+  void connectNotify(const QMetaMethod& signal) override;
   void Add(TimelineEntry::Source source, const QString& text);
   void SetInputStatus(int status, const QString& key);
   void SetGravity(double x, double y, double z);
@@ -102,6 +104,7 @@ class LiveHost : public QObject {
   GuestTargets targets_;
   bool text_field_ = false;
   int status_ = 0;
+  std::atomic<bool> is_heard_{false};
   std::atomic<quint64> guest_size_;  // width << 32 | height; also read on threads of the library
   std::atomic<int> rotation_{0};     // the same
   double pixel_ratio_ = 1;

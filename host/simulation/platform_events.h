@@ -27,11 +27,12 @@ class PlatformEvents {
   PlatformEvents(const PlatformEvents&) = delete;
   PlatformEvents& operator=(const PlatformEvents&) = delete;
 
-  // They are delivered with the posted events.
+  // They are delivered with the posted events, and behind those that are there, as Qt's own dispatchers do: what is
+  // posted before a dialog opens comes before the dialog is active.
   void DeliverBy(VirtualEventDispatcher* time) const;
 
  private:
-  std::unique_ptr<QAbstractEventDispatcher> dispatcher_;  // the platform's dispatcher; null on Qt 5, which needs none
+  std::unique_ptr<QAbstractEventDispatcher> dispatcher_;  // of the platform
 };
 
 }  // namespace tavi

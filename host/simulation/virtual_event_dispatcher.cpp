@@ -1,23 +1,14 @@
 #include "host/simulation/virtual_event_dispatcher.h"
 
 #include <algorithm>
-#include <limits>
-#include <tuple>
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
-#include <QTimerEvent>
 #include <QVariant>
 
 namespace tavi {
 
-namespace {
-
-constexpr qint64 kEver = std::numeric_limits<qint64>::max();
-
-}  // namespace
-
-VirtualEventDispatcher::VirtualEventDispatcher(qint64 start_ms) : now_ms_(start_ms) {}
+VirtualEventDispatcher::VirtualEventDispatcher(qint64 start_ms) : TimedDispatcher(1), now_ms_(start_ms) {}
 
 void VirtualEventDispatcher::Advance(int ms) { RunUntil(NowMs() + std::max(ms, 0), Scope::kAll); }
 
@@ -42,9 +33,9 @@ void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
   for (;;) {
     if (scope == Scope::kAll) Settle();
     // A pass with only 0 ms timers takes a millisecond.
-    const Timer* next = Earliest(end_ms, scope, NowMs() < end_ms ? next_order_ : 0);
+    const Timer* next = EarliestOf(scope, end_ms, NowMs() < end_ms ? NextOrder() : 0);
     if (!next) break;
-    now_ms_ = std::max(NowMs(), next->due_ms);
+    now_ms_ = std::max(NowMs(), next->due);
     RunPass(std::min(NowMs(), end_ms), scope);
   }
   now_ms_ = std::max(NowMs(), end_ms);
@@ -52,13 +43,13 @@ void VirtualEventDispatcher::RunUntil(qint64 end_ms, Scope scope) {
 
 // Fires what is due by `limit_ms`, and returns whether there was anything.
 bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
-  const quint64 pass_order = next_order_;
+  const quint64 pass_order = NextOrder();
   const qint64 pass_ms = NowMs();  // a handler that sleeps does not delay its pass
   bool any = false;
   bool only_idle = true;
   for (;;) {
     if (scope == Scope::kAll) Settle();
-    Timer* timer = Earliest(limit_ms, scope, pass_order);
+    Timer* timer = EarliestOf(scope, limit_ms, pass_order);
     if (!timer) break;
     any = true;
     only_idle = only_idle && timer->interval_ms == 0;
@@ -68,31 +59,12 @@ bool VirtualEventDispatcher::RunPass(qint64 limit_ms, Scope scope) {
   return any;
 }
 
-// The first timer that is due by `limit_ms`; those of 0 ms count only if they were started before `idle_before`.
-VirtualEventDispatcher::Timer* VirtualEventDispatcher::Earliest(qint64 limit_ms, Scope scope, quint64 idle_before) {
-  Timer* first = nullptr;
-  for (auto& entry : timers_) {
-    Timer& timer = entry.second;
-    if (timer.due_ms > limit_ms) continue;
-    if (timer.interval_ms == 0 && timer.order >= idle_before) continue;
-    if (first && std::tie(first->due_ms, first->order) < std::tie(timer.due_ms, timer.order)) continue;
-    if (scope == Scope::kWorkers && !timer.object->property(taviinputmanager::kWorkerTimerProperty).toBool()) continue;
-    first = &timer;
-  }
-  return first;
+VirtualEventDispatcher::Timer* VirtualEventDispatcher::EarliestOf(Scope scope, qint64 limit_ms, quint64 idle_before) {
+  return Earliest(limit_ms, idle_before, scope == Scope::kAll ? IsAny : IsWorkers);
 }
 
-void VirtualEventDispatcher::Fire(Timer* timer, qint64 pass_ms) {
-  timer->due_ms += timer->interval_ms;
-  if (timer->due_ms < pass_ms) timer->due_ms = pass_ms + timer->interval_ms;
-  timer->order = next_order_++;
-  if (timer->in_handler) return;
-  timer->in_handler = true;
-  QTimerEvent event(timer->id);
-  QCoreApplication::sendEvent(timer->object, &event);
-  // The handler may have stopped the timer, or deleted its object.
-  const auto found = timers_.find(event.timerId());
-  if (found != timers_.end()) found->second.in_handler = false;
+bool VirtualEventDispatcher::IsWorkers(const Timer& timer) {
+  return timer.object->property(taviinputmanager::kWorkerTimerProperty).toBool();
 }
 
 bool VirtualEventDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags) {
@@ -105,12 +77,12 @@ bool VirtualEventDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
 }
 
 bool VirtualEventDispatcher::RunNextPass() {
-  const Timer* next = Earliest(kEver, Scope::kAll, next_order_);
+  const Timer* next = EarliestOf(Scope::kAll, kEver, NextOrder());
   if (!next) {
     WaitForOtherThreads();
     return true;
   }
-  now_ms_ = std::max(NowMs(), next->due_ms);
+  now_ms_ = std::max(NowMs(), next->due);
   return RunPass(NowMs(), Scope::kAll);
 }
 
@@ -130,35 +102,6 @@ void VirtualEventDispatcher::wakeUp() {
 void VirtualEventDispatcher::interrupt() {
   interrupted_ = true;
   wakeUp();
-}
-
-void VirtualEventDispatcher::registerTimer(int id, Interval interval_ms, Qt::TimerType type, QObject* object) {
-  timers_[id] = {id, interval_ms, type, object, NowMs() + interval_ms, next_order_++};
-}
-
-bool VirtualEventDispatcher::unregisterTimer(int id) { return timers_.erase(id) > 0; }
-
-bool VirtualEventDispatcher::unregisterTimers(QObject* object) {
-  const size_t before = timers_.size();
-  for (auto it = timers_.begin(); it != timers_.end();) {
-    it = it->second.object == object ? timers_.erase(it) : std::next(it);
-  }
-  return timers_.size() < before;
-}
-
-QList<QAbstractEventDispatcher::TimerInfo> VirtualEventDispatcher::registeredTimers(QObject* object) const {
-  QList<TimerInfo> found;
-  for (const auto& entry : timers_) {
-    const Timer& timer = entry.second;
-    if (timer.object == object) found.append(TimerInfo(timer.id, static_cast<int>(timer.interval_ms), timer.type));
-  }
-  return found;
-}
-
-int VirtualEventDispatcher::remainingTime(int id) {
-  const auto found = timers_.find(id);
-  if (found == timers_.end()) return -1;
-  return static_cast<int>(std::max<qint64>(found->second.due_ms - NowMs(), 0));
 }
 
 }  // namespace tavi

@@ -5,11 +5,10 @@
 #include <atomic>
 #include <condition_variable>
 #include <functional>
-#include <map>
 #include <mutex>
 #include <utility>
 
-#include "qt/event_dispatcher.h"
+#include "host/system/timed_dispatcher.h"
 #include "taviinputmanager/virtual_time.h"
 
 namespace tavi {
@@ -28,9 +27,7 @@ namespace tavi {
 //
 // The order is the same in every run:
 // - Before each timer all posted events and deferred deletes are delivered, until nothing is left.
-// - Timers fire by due time, those with equal due times by the time of their last start or timeout. On a timeout,
-//   before the timer event, the due time advances by the interval; if that is in the past as well, it becomes one
-//   interval from now. A timer does not fire inside its own handler.
+// - Timers fire in the order of TimedDispatcher.
 // - A pass is everything that is due at one moment. A timer of 0 ms fires once per pass (if started in a pass, in the
 //   next one), and a pass that fired nothing else takes 1 ms.
 //
@@ -38,7 +35,7 @@ namespace tavi {
 //
 // Threads: the main thread; wakeUp, interrupt and NowMs may be called on any thread, so that other threads can post to
 // the main thread as usual.
-class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanager::VirtualTime {
+class VirtualEventDispatcher : public TimedDispatcher, public taviinputmanager::VirtualTime {
   Q_OBJECT
   Q_INTERFACES(taviinputmanager::VirtualTime)
 
@@ -68,11 +65,6 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
   void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
   void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
-  void registerTimer(int id, Interval interval_ms, Qt::TimerType type, QObject* object) override;
-  bool unregisterTimer(int id) override;
-  bool unregisterTimers(QObject* object) override;
-  QList<TimerInfo> registeredTimers(QObject* object) const override;
-  int remainingTime(int id) override;
 #ifdef Q_OS_WIN
   bool registerEventNotifier(QWinEventNotifier* /*notifier*/) override { return false; }
   void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) override {}
@@ -81,30 +73,21 @@ class VirtualEventDispatcher : public qt::EventDispatcher, public taviinputmanag
   void interrupt() override;
 
  private:
-  struct Timer {
-    int id = 0;
-    Interval interval_ms = 0;
-    Qt::TimerType type = Qt::CoarseTimer;
-    QObject* object = nullptr;
-    qint64 due_ms = 0;
-    quint64 order = 0;  // counts all starts and timeouts
-    bool in_handler = false;
-  };
   enum class Scope { kAll, kWorkers };
 
+  static bool IsAny(const Timer& /*timer*/) { return true; }
+  static bool IsWorkers(const Timer& timer);
   bool HasPosted() const override { return posted_.load(); }
+  qint64 Now() const override { return now_ms_.load(); }
   void RunUntil(qint64 end_ms, Scope scope);
   bool RunPass(qint64 limit_ms, Scope scope);
   bool RunNextPass();
-  Timer* Earliest(qint64 limit_ms, Scope scope, quint64 idle_before);
-  void Fire(Timer* timer, qint64 pass_ms);
+  Timer* EarliestOf(Scope scope, qint64 limit_ms, quint64 idle_before);
   void WaitForOtherThreads();
 
   std::atomic<qint64> now_ms_;
   QPoint pointer_;
   std::function<void()> also_deliver_ = [] {};
-  std::map<int, Timer> timers_;  // by id
-  quint64 next_order_ = 1;
   int loop_depth_ = 0;  // nested event loops
 
   std::atomic<bool> interrupted_{false};

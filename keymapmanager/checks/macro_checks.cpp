@@ -10,6 +10,7 @@
 #include "keymapmanager/fields/record_reader.h"
 #include "keymapmanager/nearest_word.h"
 #include "keymapmanager/yaml/yaml_scalar.h"
+#include "qt/numbers.h"
 
 namespace tavikeymapmanager {
 
@@ -38,13 +39,13 @@ const MacroWord* FindWord(const QString& word, bool has_argument) {
 
 bool IsInteger(const QString& text) {
   bool is_number = false;
-  text.toInt(&is_number);
+  qt::ToInt(text, &is_number);
   return is_number;
 }
 
 // A negative pause; its timer would never fire.
 bool IsEndlessPause(MacroVerb verb, const QString& argument) {
-  return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && argument.toInt() < 0;
+  return (verb == MacroVerb::kSleep || verb == MacroVerb::kDefaultSleepTime) && qt::ToInt(argument) < 0;
 }
 
 bool HasBlank(const QString& text) {

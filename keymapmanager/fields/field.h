@@ -128,9 +128,9 @@ inline Field Required(Field field) {
 
 // A record and its fields, in the order of docs/keymap.md.
 struct RecordTable {
-  const Field* Find(const QString& name) const {
+  const Field* Find(const QString& wanted) const {
     for (const Field& field : fields) {
-      if (field.name == name) return &field;
+      if (field.name == wanted) return &field;
     }
     return nullptr;
   }

@@ -164,7 +164,7 @@ bool RecordReader::ReadNumber(const Field& field, const YamlNode& node, double* 
 bool RecordReader::ReadWord(const Field& field, const YamlNode& node, QString* value) {
   const auto read = TextOf(node);
   if (!read) return false;
-  const int index = field.words.indexOf(*read);
+  const auto index = field.words.indexOf(*read);
   if (index >= 0) {
     *value = field.words[index];  // the shared constant
     return true;

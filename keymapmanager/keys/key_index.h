@@ -2,8 +2,8 @@
 #ifndef KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 #define KEYMAPMANAGER_KEYS_KEY_INDEX_H_
 
-#include <array>
 #include <optional>
+#include <utility>
 
 #include <QHash>
 #include <QString>
@@ -24,6 +24,11 @@ class KeyIndex {
 
   // The key with a name or alias, except gamepads and `Scan 200`.
   std::optional<ConfigKey> Find(const QString& name) const;
+  // Implements CreateConfigKey.
+  ConfigKey MakeKey(QString device, int virtual_key, int scancode) const {
+    const QString& text = TextOf(device, virtual_key, scancode);
+    return {std::move(device), text, virtual_key, scancode};
+  }
   // The keyboard key with a scan code from 0 to 511.
   ConfigKey KeyboardKey(int scancode) const;
   // The shared name of a key by its codes: the scan code, or, if that is unset, the virtual key. Empty for a gamepad
@@ -48,8 +53,8 @@ class KeyIndex {
   // Of a mouse button or wheel direction; empty for other devices.
   const QString& MouseText(const QString& device, int scancode) const;
 
-  std::array<QString, kScancodeCount> keyboard_names_;  // by scan code; `Scan <code>` if it is not in the table
-  std::array<int, kScancodeCount> virtual_keys_{};      // by scan code; 0 if it is not in the table
+  QString keyboard_names_[kScancodeCount];  // by scan code; `Scan <code>` if it is not in the table
+  int virtual_keys_[kScancodeCount] = {};   // by scan code; 0 if it is not in the table
   QHash<int, QString> names_by_virtual_key_;
   QHash<int, QString> mouse_names_;
   QHash<QString, ConfigKey> keys_;

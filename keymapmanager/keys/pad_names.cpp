@@ -1,6 +1,7 @@
 #include "keymapmanager/keys/pad_names.h"
 
 #include "keymapmanager/keys/key_table.h"
+#include "qt/numbers.h"
 
 namespace tavikeymapmanager {
 
@@ -35,7 +36,7 @@ bool IsUsualPadText(const QString& text) {
     if (row.text == text) return true;
   }
   bool is_number = false;
-  const int number = text.toInt(&is_number);
+  const int number = qt::ToInt(text, &is_number);
   return is_number && number >= 0 && number <= kLastButtonNumber;
 }
 

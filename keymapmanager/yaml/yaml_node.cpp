@@ -60,7 +60,8 @@ class Parser {
  public:
   Parser(const QByteArray& text, YamlError* error) : text_(text), error_(error) {
     yaml_parser_initialize(&parser_);
-    yaml_parser_set_input_string(&parser_, reinterpret_cast<const unsigned char*>(text.constData()), text.size());
+    yaml_parser_set_input_string(&parser_, reinterpret_cast<const unsigned char*>(text.constData()),
+                                 static_cast<size_t>(text.size()));
   }
   Parser(const Parser&) = delete;
   Parser& operator=(const Parser&) = delete;
@@ -184,7 +185,7 @@ bool Parser::FailAtProblem() {
 // The reader has no marks: counts lines and UTF-8 characters up to a byte.
 YamlSpan Parser::SpanOfByte(size_t offset) const {
   YamlSpan span;
-  const auto end = text_.begin() + std::min<size_t>(offset, text_.size());
+  const auto end = text_.begin() + std::min(offset, static_cast<size_t>(text_.size()));
   for (auto byte = text_.begin(); byte != end; ++byte) {
     const bool is_continuation = (static_cast<unsigned char>(*byte) & 0xC0) == 0x80;
     if (*byte == '\n') {

@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "qt/json_text.h"
+
 namespace taviinputmanager::library_json {
 namespace {
 
@@ -21,7 +23,7 @@ QJsonValue ReadText(std::string_view text) {
 }
 
 QByteArray Write(const QJsonValue& value) {
-  const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+  const QByteArray list = qt::JsonText(QJsonDocument(QJsonArray{value}), QJsonDocument::Compact);
   return list.mid(1, list.size() - 2);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QJsonDocument>
 
+#include "qt/json_text.h"
 #include "record/json/json_output.h"
 #include "record/record_format.h"
 
@@ -35,7 +36,8 @@ bool MergedWriter::Add(const QString& file, const QJsonObject& control) {
 }
 
 bool MergedWriter::Write(const QJsonObject& info, QIODevice* target) {
-  const std::string frame = QJsonDocument(QJsonObject{{kInfo, info}, {kMergedActions, items_}}).toJson().toStdString();
+  const QJsonDocument document(QJsonObject{{kInfo, info}, {kMergedActions, items_}});
+  const std::string frame = qt::JsonText(document).toStdString();
   std::string_view rest = frame;
   JsonOutput output(target);
   for (RecordSource& source : sources_) {

@@ -22,7 +22,6 @@ class MergedWriter {
   bool Add(const QString& file, const QJsonObject& control);
   // The header of the item that was added last.
   QJsonObject LastInfo() const { return sources_.back().Info(); }
-  int Count() const { return items_.size(); }
 
   // False if the device does not accept everything, or if a file has changed since it was added.
   bool Write(const QJsonObject& info, QIODevice* target);

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "qt/json_text.h"
 #include "record/json/json_output.h"
 #include "record/record_action.h"
 #include "record/record_format.h"
@@ -53,8 +54,8 @@ class ActionWriter {
 
 bool WriteRecord(const QJsonObject& info, const QList<RecordAction*>& actions, QIODevice* target) {
   // The library writes everything around the actions. Their list is the first.
-  const QByteArray frame = QJsonDocument(QJsonObject{{kActions, QJsonArray()}, {kInfo, info}}).toJson();
-  const int place = frame.indexOf("[\n") + 2;
+  const QByteArray frame = qt::JsonText(QJsonDocument(QJsonObject{{kActions, QJsonArray()}, {kInfo, info}}));
+  const auto place = frame.indexOf("[\n") + 2;
 
   JsonOutput output(target);
   output.Add(ViewOf(frame.left(place)));

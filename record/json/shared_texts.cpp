@@ -28,10 +28,20 @@ QString SharedTexts::Of(std::string_view ascii) {
 }
 
 QString SharedTexts::Of(const QString& text) {
-  if (text.isEmpty() || text.size() > static_cast<int>(kMostShared)) return text;
-  QString& place = PlaceOf(text);
-  if (place != text) place = text;
-  return place;
+  QString shared = text;
+  Share(&shared);
+  return shared;
+}
+
+void SharedTexts::Share(QString* text) {
+  if (text->isEmpty() || text->size() > static_cast<int>(kMostShared)) return;
+  QString& place = PlaceOf(*text);
+  if (place.isSharedWith(*text)) return;
+  if (place == *text) {
+    *text = place;
+  } else {
+    place = *text;
+  }
 }
 
 }  // namespace taviinputmanager

@@ -17,6 +17,8 @@ class SharedTexts {
   QString Of(std::string_view ascii);
   // The same text, shared with an equal one.
   QString Of(const QString& text);
+  // Makes it that one.
+  void Share(QString* text);
 
  private:
   static constexpr std::size_t kMostShared = 16;  // letters; longer texts are hardly ever equal

@@ -2,7 +2,6 @@
 #ifndef SIMULATORS_CAST_GROUND_PROJECTION_H_
 #define SIMULATORS_CAST_GROUND_PROJECTION_H_
 
-#include <array>
 #include <optional>
 
 #include <QPoint>
@@ -30,7 +29,7 @@ class GroundView {
   QPointF Solve(const QPointF& normalised) const;
 
  private:
-  std::array<double, 16> m_{};  // row-major
+  double m_[16] = {};  // row-major
 };
 
 // Converts display pixels to normalized coordinates.

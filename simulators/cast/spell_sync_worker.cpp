@@ -194,7 +194,8 @@ void SpellSyncWorker::SwipeToCancel(const SpellConfigItem* item, const QPoint& f
   const double step_y = (static_cast<double>(to.y()) - from.y()) / item->swipe_steps;
   const unsigned cast = CurrentCast();
   for (qint64 i = 1; i <= item->swipe_steps; ++i) {
-    StepTo({Round(from.x() + i * step_x), Round(from.y() + i * step_y)}, item->swipe_step_ms, cast);
+    const auto done = static_cast<double>(i);
+    StepTo({Round(from.x() + done * step_x), Round(from.y() + done * step_y)}, item->swipe_step_ms, cast);
   }
 }
 

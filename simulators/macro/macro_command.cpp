@@ -41,7 +41,7 @@ std::optional<MacroCommand> ParseMacroCommand(const QString& text) {
   const MacroWord* row = FindWord(text);
   if (!row) return std::nullopt;
   if (!TakesArgument(*row)) return MacroCommand{row->verb, QString()};
-  const int colon = text.indexOf(kColon);
+  const auto colon = text.indexOf(kColon);
   if (colon < 0) return std::nullopt;                             // no argument
   if (text.indexOf(kColon, colon + 1) >= 0) return std::nullopt;  // two
   MacroCommand command{row->verb, text.mid(colon + 1)};

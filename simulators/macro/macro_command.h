@@ -7,13 +7,14 @@
 #include <QString>
 
 #include "keymap/macro_words.h"
+#include "qt/numbers.h"
 #include "simulators/macro/macro_points.h"
 
 namespace taviinputmanager {
 
 struct MacroCommand {
   MacroCommand(tavikeymapmanager::MacroVerb its_verb, const QString& its_argument)
-      : verb(its_verb), argument(its_argument), integer(its_argument.toInt()) {}
+      : verb(its_verb), argument(its_argument), integer(qt::ToInt(its_argument)) {}
 
   tavikeymapmanager::MacroVerb verb;
   QString argument;    // the text after the ":"; empty for a command without argument

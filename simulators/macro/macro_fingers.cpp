@@ -44,9 +44,7 @@ auto CountOf(const QString& text, const QStringList& texts) {
 
 LineBuffer MacroFingers::Press(const MacroPoints& list) {
   MacroSlotManager* pool = MacroSlotManager::GetInstance();
-  // At the end, each press releases one contact that is at its point. A loop may press for hours, but never more
-  // contacts than the pool has can be at one point.
-  if (CountOf(list.text, pressed_points_) < MacroSlotManager::kSlotCount) pressed_points_.append(list.text);
+  if (!tavikeymapmanager::IsSameText(list.text, full_points_)) Remember(list.text);
   Contacts contacts;
   for (const Place& place : PlacesOf(list)) {
     const int slot = pool->Allocate(place.point);
@@ -57,10 +55,21 @@ LineBuffer MacroFingers::Press(const MacroPoints& list) {
   return contacts.isEmpty() ? LineBuffer() : guest_command::SlotMultiPress(contacts);
 }
 
+// At the end, each press releases one contact that is at its point. A loop may press for hours, but never more contacts
+// than the pool has can be at one point.
+void MacroFingers::Remember(const QString& list) {
+  if (CountOf(list, pressed_points_) < MacroSlotManager::kSlotCount) {
+    pressed_points_.append(list);
+  } else {
+    full_points_ = list;
+  }
+}
+
 LineBuffer MacroFingers::Release(const MacroPoints& list) { return ReleaseElements(list.elements); }
 
 LineBuffer MacroFingers::ReleasePressed() {
   QVector<MacroPoint> pressed;
+  full_points_.clear();
   for (const QString& list : std::exchange(pressed_points_, {})) pressed.append(ParseMacroPoint(list));
   return ReleaseElements(pressed);
 }

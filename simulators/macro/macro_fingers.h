@@ -38,11 +38,13 @@ class MacroFingers {
   LineBuffer ReleasePressed();
 
  private:
+  void Remember(const QString& list);
   QPointF TakeReleasePoint(const MacroPoint& element);
   LineBuffer ReleaseElements(const QVector<MacroPoint>& elements);
 
   QPointF mouse_point_;         // of the last press at "mouse"; null if none is held
   QStringList pressed_points_;  // the list of each press, as a whole; of equal lists, as many as can matter
+  QString full_points_;         // the last list found to be there that often
 };
 
 }  // namespace taviinputmanager

@@ -8,6 +8,7 @@
 #include "keymap/keywords.h"
 #include "keymap/macro_config_item.h"
 #include "keymap/operation_recorder_config_item.h"
+#include "qt/numbers.h"
 #include "simulators/macro/macro_calls.h"
 #include "simulators/macro/macro_command.h"
 #include "simulators/macro/macro_key_text.h"
@@ -236,7 +237,7 @@ void MacroSequentialTapAsyncWorker::SetLastCurveSleep(const QString& argument) {
   if (argument == QLatin1String("until_release_cmd")) {
     curve_.SetUntilRelease();
   } else {
-    curve_.SetLastSleep(argument.toInt());
+    curve_.SetLastSleep(qt::ToInt(argument));
   }
 }
 

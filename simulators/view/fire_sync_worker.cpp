@@ -105,7 +105,8 @@ void FireSyncWorker::SwipeFireFinger(const FireConfigItem* item, QPoint from, QP
   const double step_y = (static_cast<double>(to.y()) - from.y()) / steps;
   const unsigned turn = holds_.Current();
   for (qint64 i = 1; i <= steps && !holds_.IsOver(turn); ++i) {
-    FireSlotManager::GetInstance()->position = {Round(from.x() + i * step_x), Round(from.y() + i * step_y)};
+    const auto done = static_cast<double>(i);
+    FireSlotManager::GetInstance()->position = {Round(from.x() + done * step_x), Round(from.y() + done * step_y)};
     SendFinger();
   }
 }

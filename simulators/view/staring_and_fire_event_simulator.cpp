@@ -25,7 +25,9 @@ bool IsStaring() { return InputStatusManager::GetInstance()->GetStatus() == Inpu
 
 }  // namespace
 
-StaringAndFireEventSimulator::StaringAndFireEventSimulator() = default;
+StaringAndFireEventSimulator::StaringAndFireEventSimulator() : staring_(StaringWmRelativeInputWorker::GetInstance()) {}
+
+StaringAndFireEventSimulator::~StaringAndFireEventSimulator() = default;
 
 void StaringAndFireEventSimulator::ConnectWorkers() {
   FireSyncWorker* fire = FireSyncWorker::GetInstance();
@@ -85,9 +87,9 @@ void StaringAndFireEventSimulator::ToggleStaring(const ConfigItem* item, const Q
     status->SetStatus(InputStatus::StaringOff, key_text);
   } else {
     const auto* staring = dynamic_cast<const StaringConfigItem*>(item);
-    staring_item_ = staring ? std::make_shared<const StaringConfigItem>(*staring) : nullptr;
+    staring_item_ = staring ? std::make_unique<const StaringConfigItem>(*staring) : nullptr;
     status->SetStatus(InputStatus::Staring, key_text);
-    if (IsStaring()) StaringWmRelativeInputWorker::GetInstance()->StartStaring(staring);
+    if (IsStaring()) staring_->StartStaring(staring);
     if (!IsStaring()) StopAutoReset();  // the host turned it off during the call
   }
   LiftViewFinger();  // whatever it was down for
@@ -122,11 +124,10 @@ void StaringAndFireEventSimulator::OnRelativeInput(int dx, int dy) {
     case RelativeRoute::kStaring: break;
   }
   if (!staring_item_) return;
-  const auto item = staring_item_;  // view control may end during the call
-  StaringWmRelativeInputWorker::GetInstance()->OnStaringRelativeInput(item.get(), dx, dy);
+  staring_->OnStaringRelativeInput(staring_item_.get(), dx, dy);
 }
 
-void StaringAndFireEventSimulator::StopAutoReset() { StaringWmRelativeInputWorker::GetInstance()->StopAutoReset(); }
+void StaringAndFireEventSimulator::StopAutoReset() { staring_->StopAutoReset(); }
 
 void StaringAndFireEventSimulator::OnSpellCancelPressed(SpellCancelConfigItem& item) {
   ConfigKey key;

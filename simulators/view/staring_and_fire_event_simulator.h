@@ -14,6 +14,8 @@ struct StaringConfigItem;
 
 namespace taviinputmanager {
 
+class StaringWmRelativeInputWorker;
+
 // Switches the status of the input layer between view control, observing and neither, by keys, and passes the relative
 // counts to one of three workers: staring, unless a fire key in relative mode or an observe key is held. The key
 // pressed last gets the counts; the first of them to be released returns them to staring.
@@ -44,16 +46,17 @@ class StaringAndFireEventSimulator : public EventSimulator {
   enum class RelativeRoute { kFire = 1, kStaring = 2, kObserve = 3 };
 
   StaringAndFireEventSimulator();
+  ~StaringAndFireEventSimulator() override;
 
   void ConnectWorkers();
   void ToggleStaring(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void PressObserve(const tavikeymapmanager::ConfigItem* item, const QString& key_text);
   void LiftViewFinger();
 
-  std::once_flag connected_;  // connects the workers' signals, at the first press
-  // From the key that turned view control on. Immutable: code that sends lines keeps it without a copy of its own.
-  std::shared_ptr<const tavikeymapmanager::StaringConfigItem> staring_item_;
-  bool has_observe_item_ = false;  // observing started outside view control, and has not ended since
+  StaringWmRelativeInputWorker* const staring_;  // the singleton
+  std::once_flag connected_;                     // the workers' signals, at the first press
+  std::unique_ptr<const tavikeymapmanager::StaringConfigItem> staring_item_;  // of the key that turned view control on
+  bool has_observe_item_ = false;  // observing was entered from outside view control, since that was last left
   RelativeRoute relative_route_ = RelativeRoute::kStaring;
 };
 

@@ -21,7 +21,8 @@ double EffectiveSensitivity(double base, double factor, double present) {
 
 }  // namespace
 
-StaringWmRelativeInputWorker::StaringWmRelativeInputWorker() : last_send_ms_(Clock::NowMs()) {
+StaringWmRelativeInputWorker::StaringWmRelativeInputWorker()
+    : finger_(MouseSlotManager::GetInstance()), last_send_ms_(Clock::NowMs()) {
   auto_reset_timer_.setTimerType(Qt::PreciseTimer);
   connect(&auto_reset_timer_, &QTimer::timeout, this, &StaringWmRelativeInputWorker::OnPerioidAutoResetTimerOutOfTime);
 }
@@ -52,16 +53,15 @@ void StaringWmRelativeInputWorker::UpdateEffectiveSensitivity() {
 void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigItem* item, int dx, int dy) {
   if (!item) return;
   accumulated_.Add(dx, dy);
-  MouseSlotManager* finger = MouseSlotManager::GetInstance();
-  const bool is_down = finger->HasTouch();
+  const bool is_down = finger_->HasTouch();
   const qint64 now = Clock::NowMs();
   if (now - last_send_ms_ < (is_down ? item->move_interval_ms : item->press_interval_ms)) return;  // too early to send
   const QPoint& centre = range_.GetCentre();
   if (is_down) {
     const QPoint way = accumulated_.ToPixels(effective_sensitivity_);
-    finger->position = {AddSaturated(centre.x(), way.x()), AddSaturated(centre.y(), way.y())};
+    finger_->position = {AddSaturated(centre.x(), way.x()), AddSaturated(centre.y(), way.y())};
   } else {
-    finger->position = centre;
+    finger_->position = centre;
     accumulated_ = {};
   }
   last_send_ms_ = now;
@@ -70,16 +70,14 @@ void StaringWmRelativeInputWorker::OnStaringRelativeInput(const StaringConfigIte
 
 void StaringWmRelativeInputWorker::ApplyStaringRange(const StaringConfigItem* item) {
   if (!item) return;
-  MouseSlotManager* finger = MouseSlotManager::GetInstance();
-  range_.Apply(finger, item->auto_reset, item->range_mode);
-  SendEvent(finger->UpdateLine());
+  range_.Apply(finger_, item->auto_reset, item->range_mode);
+  SendEvent(finger_->UpdateLine());
 }
 
 void StaringWmRelativeInputWorker::OnPerioidAutoResetTimerOutOfTime() {
-  MouseSlotManager* finger = MouseSlotManager::GetInstance();
-  finger->Reset();
+  finger_->Reset();
   last_send_ms_ = Clock::NowMs();
-  SendEvent(finger->UpdateLine());
+  SendEvent(finger_->UpdateLine());
 }
 
 }  // namespace taviinputmanager

@@ -15,8 +15,10 @@ struct StaringConfigItem;
 
 namespace taviinputmanager {
 
-// Converts relative counts to one held contact, which is MouseSlotManager's while view control is on. Owns the view
-// sensitivity, which the fire contact and aimed casts use too. Main thread.
+class MouseSlotManager;
+
+// Turns relative counts into one held finger, which is MouseSlotManager's while view control is on. Owns the view
+// sensitivity, which the fire finger and aimed casts follow too. Main thread.
 //
 //   event 1     events 2 .. n          edge of the range             next event that is let through
 //   press on    centre + all counts    lift, or held at the edge     press on the centre again
@@ -37,7 +39,8 @@ class StaringWmRelativeInputWorker : public EventHandler {
   // contact, if the item has a period. Presses nothing. Does nothing for null.
   void StartStaring(const tavikeymapmanager::StaringConfigItem* item);
   void StopAutoReset();
-  // The counts of one host event. Does nothing for null.
+  // Counts of one host event. Reads `item` before it calls the host, during which view control may end and the item be
+  // deleted. Does nothing for null.
   void OnStaringRelativeInput(const tavikeymapmanager::StaringConfigItem* item, int dx, int dy);
   // Releases the contact outside the range or moves it back in, and sends its state. The range is that of the last
   // StartStaring; `item` says what happens to a contact outside. Does nothing for null.
@@ -59,7 +62,8 @@ class StaringWmRelativeInputWorker : public EventHandler {
   StaringWmRelativeInputWorker();
   ~StaringWmRelativeInputWorker() override;
 
-  RelativeCounts accumulated_;  // since the contact was last pressed at the centre
+  MouseSlotManager* const finger_;
+  RelativeCounts accumulated_;  // since the finger was last put on the centre
   qint64 last_send_ms_;         // since the epoch
   StaringRange range_;
   QPointF effective_sensitivity_;

@@ -1,18 +1,23 @@
 #!/usr/bin/env python3
-"""The input manager library exports the functions of its header and no other symbol. Both libraries have
-their version in their names and at each symbol.
+"""The input manager library exports the functions of its header and no other symbol, and a program can link each. Both
+libraries have their version in their names and at each symbol.
 
-    exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY HEADER VERSION
+    exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY INCLUDE_DIR VERSION WORK_DIR COMPILER QT_CORE
+        QT_INCLUDE_DIR...
 """
+import os
 import re
 import subprocess
 import sys
 import unittest
 from pathlib import Path
 
-NM, READELF, LIBRARY, KEYMAP_LIBRARY, HEADER, VERSION = sys.argv[1:7]
-del sys.argv[1:7]
+from commands import run
+
+NM, READELF, LIBRARY, KEYMAP_LIBRARY, INCLUDE, VERSION, WORK, COMPILER, QT_CORE, *QT = sys.argv[1:]
+del sys.argv[1:]
 NAMESPACE = "taviinputmanager::"
+HEADER = "taviinputmanager/taviinputmanager.h"
 
 
 def output_of(*command):
@@ -28,7 +33,14 @@ def exported(library):
 
 def declared():
     """The names of the functions that the header exports."""
-    return re.findall(r"^TAVI_EXPORT\s+[^;(]*?(\w+)\(", Path(HEADER).read_text(encoding="utf-8"), re.MULTILINE)
+    return re.findall(r"^TAVI_EXPORT\s+[^;(]*?(\w+)\(", Path(INCLUDE, HEADER).read_text(encoding="utf-8"), re.MULTILINE)
+
+
+def program_of_all():
+    """A program that has the address of each declared function, with the types of its compiler and its Qt."""
+    addresses = "".join(f"    reinterpret_cast<Function*>({NAMESPACE}{name}),\n" for name in declared())
+    return (f'#include "{HEADER}"\nusing Function = void();\nFunction* const volatile functions[] = {{\n{addresses}}};\n'
+            "int main() { return functions[0] ? 0 : 1; }\n")
 
 
 class ExportedSymbols(unittest.TestCase):
@@ -41,6 +53,15 @@ class ExportedSymbols(unittest.TestCase):
     def test_library_exports_exactly_these(self):
         names = sorted(symbol.split("(")[0] for symbol, _ in exported(LIBRARY))
         self.assertEqual(names, sorted(NAMESPACE + name for name in declared()))
+
+    def test_a_program_links_each(self):
+        os.makedirs(WORK, exist_ok=True)
+        source, program = Path(WORK, "all.cpp"), Path(WORK, "all")
+        source.write_text(program_of_all(), encoding="utf-8")
+        system = [word for folder in QT for word in ("-isystem", folder)]
+        run(COMPILER, "-std=c++17", "-fPIC", f"-I{INCLUDE}", *system, source, LIBRARY, QT_CORE,
+            f"-Wl,-rpath,{Path(LIBRARY).parent}", "-o", program)
+        run(program, env={**os.environ, "LD_BIND_NOW": "1"})
 
     def test_every_symbol_has_the_node_of_the_version(self):
         for library, node in [(LIBRARY, "TAVIINPUTMANAGER_"), (KEYMAP_LIBRARY, "TAVI_KEYMAPMANAGER_")]:

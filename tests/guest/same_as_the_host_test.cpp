@@ -18,6 +18,7 @@
 namespace taviguest {
 namespace {
 
+// The host reads lines by the guest's own reader, from another kind of text.
 void CompareLine(const std::string& text) {
   SCOPED_TRACE(text);
   const tavi::GuestLine theirs = tavi::ParseGuestLine(QString::fromStdString(text));

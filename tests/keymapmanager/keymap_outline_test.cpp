@@ -89,5 +89,23 @@ TEST(ItemTypes, TellWhatAnItemHas) {
   EXPECT_EQ(TextOfField(*items[3], "auto_reset"), "true");
 }
 
+TEST(ItemTypes, GiveAnItemOtherNumbers) {
+  const LoadResult keymap = ReadKeymapText(
+      "format: 1\nitems: [{type: Swipehold, point: [0.25, 0.5], key_up: W}, "
+      "{type: Staring, key: R, point: [0.5, 0.5], range_size: [0.5, 2]}]",
+      {});
+  const auto& items = keymap.config->items;
+  ASSERT_EQ(items.size(), 2);
+  SetNumbersOfField(items[0], "point", {0.125, 0.75});
+  SetNumbersOfField(items[0], "radius", {0.2});
+  SetNumbersOfField(items[1], "range_size", {1, 0.5});
+  EXPECT_EQ(NumbersOfField(*items[0], "point"), (QVector<double>{0.125, 0.75}));
+  EXPECT_EQ(NumbersOfField(*items[0], "radius"), QVector<double>{0.2});
+  EXPECT_EQ(NumbersOfField(*items[1], "range_size"), (QVector<double>{1, 0.5}));
+  SetNumbersOfField(items[0], "radius", {0.1, 0.1});  // it has one
+  SetNumbersOfField(items[0], "nothing", {0.1});
+  EXPECT_EQ(NumbersOfField(*items[0], "radius"), QVector<double>{0.2});
+}
+
 }  // namespace
 }  // namespace tavikeymapmanager

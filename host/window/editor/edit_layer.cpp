@@ -8,10 +8,12 @@
 #include "host/editor/keymap_document.h"
 #include "host/session/live_host.h"
 #include "host/window/editor/edit_painter.h"
+#include "keymapmanager/item_types.h"
 #include "qt/mouse_events.h"
 
 namespace tavi {
 
+namespace km = tavikeymapmanager;
 using Shape = ItemHandle::Shape;
 
 namespace {
@@ -55,6 +57,8 @@ bool EditLayer::eventFilter(QObject* watched, QEvent* event) {
 
 // After an undone deletion the same index may be another item.
 void EditLayer::TakeDocument() {
+  ForgetOthers();
+  drag_.is_active = false;  // it held what is gone
   const bool has_other_items = document_->ItemCount() != item_count_;
   item_count_ = document_->ItemCount();
   if (has_other_items) Select(-1);
@@ -65,6 +69,8 @@ void EditLayer::Select(int item) {
   if (item >= document_->ItemCount()) item = -1;
   update();
   if (item == selected_) return;
+  if (drag_.is_active) CancelDrag();
+  ForgetOthers();
   selected_ = item;
   nudged_index_ = -1;
   Q_EMIT SelectionChanged(item);
@@ -118,9 +124,9 @@ void EditLayer::mousePressEvent(QMouseEvent* event) {
   const QVector<ItemHandle> handles = HandlesAt(selected_);
   const ItemHandle* handle = HandleUnder(qt::PlaceOf(*event), handles);
   if (handle == nullptr) return;
-  drag_ = {
-      true, *handle, qt::PlaceOf(*event) - handle->place, false, qt::PlaceOf(*event), document_->UndoStack()->index()};
-  ++gesture_;
+  const QPointF place = qt::PlaceOf(*event);
+  const QVector<double> before = km::NumbersOfField(*document_->Item(selected_), handle->field);
+  drag_ = {true, *handle, place - handle->place, false, place, before, {}};
 }
 
 void EditLayer::mouseMoveEvent(QMouseEvent* event) {
@@ -142,7 +148,7 @@ void EditLayer::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void EditLayer::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) drag_.is_active = false;
+  if (event->button() == Qt::LeftButton && drag_.is_active) DropItem();
   update();
 }
 
@@ -151,15 +157,27 @@ void EditLayer::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void EditLayer::DragTo(const QPointF& place) {
-  const HandleValue value = ValueAt(drag_.handle, place - drag_.grip, size());
-  const QString& field = drag_.handle.field;
-  Report(value.pair ? document_->SetPair(selected_, field, *value.pair, gesture_)
-                    : document_->SetNumber(selected_, field, value.number, gesture_));
+  drag_.value = ValueAt(drag_.handle, place - drag_.grip, size());
+  const std::optional<QPointF>& pair = drag_.value.pair;
+  ShowNumbers(pair ? QVector<double>{pair->x(), pair->y()} : QVector<double>{drag_.value.number});
+}
+
+void EditLayer::ShowNumbers(const QVector<double>& numbers) {
+  km::SetNumbersOfField(document_->Item(selected_), drag_.handle.field, numbers);
+  update();
 }
 
 void EditLayer::CancelDrag() {
   drag_.is_active = false;
-  if (document_->UndoStack()->index() > drag_.steps_before) document_->UndoStack()->undo();
+  ShowNumbers(drag_.before);
+}
+
+void EditLayer::DropItem() {
+  CancelDrag();
+  if (!drag_.has_moved) return;
+  const QString& field = drag_.handle.field;
+  Report(drag_.value.pair ? document_->SetPair(selected_, field, *drag_.value.pair)
+                          : document_->SetNumber(selected_, field, drag_.value.number));
 }
 
 void EditLayer::Report(const QString& problem) {
@@ -219,14 +237,36 @@ void EditLayer::SelectNext(int step) {
 
 // ---- Drawing
 
+void EditLayer::hideEvent(QHideEvent* /*event*/) {
+  if (drag_.is_active) CancelDrag();
+}
+
+void EditLayer::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) ForgetOthers();  // with other colours
+  QWidget::changeEvent(event);
+}
+
 void EditLayer::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawPixmap(0, 0, Others());
+  if (selected_ >= 0) EditPainter(&painter, size()).PaintSelected(*document_->Item(selected_));
+}
+
+const QPixmap& EditLayer::Others() {
+  const double ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
+  if (others_.size() == pixels) return others_;
+  others_ = QPixmap(pixels);
+  others_.setDevicePixelRatio(ratio);
+  others_.fill(Qt::transparent);
+  QPainter painter(&others_);
   painter.setRenderHint(QPainter::Antialiasing);
   const EditPainter items(&painter, size());
   for (int item = 0; item < document_->ItemCount(); ++item) {
     if (item != selected_) items.PaintItem(*document_->Item(item));
   }
-  if (selected_ >= 0) items.PaintSelected(*document_->Item(selected_));
+  return others_;
 }
 
 }  // namespace tavi

@@ -1,7 +1,9 @@
 #ifndef HOST_WINDOW_EDITOR_EDIT_LAYER_H_
 #define HOST_WINDOW_EDITOR_EDIT_LAYER_H_
 
+#include <QPixmap>
 #include <QPointF>
+#include <QVector>
 #include <QWidget>
 
 #include "host/editor/item_handles.h"
@@ -38,6 +40,8 @@ class EditLayer : public QWidget {
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -52,7 +56,8 @@ class EditLayer : public QWidget {
     QPointF grip;  // from the handle to the pointer
     bool has_moved = false;
     QPointF pressed;
-    int steps_before = 0;  // on the undo stack
+    QVector<double> before;  // the field's numbers
+    HandleValue value;       // and what it is to have
   };
 
   void TakeDocument();
@@ -60,8 +65,15 @@ class EditLayer : public QWidget {
   // The selected item's handle at that point, or null.
   const ItemHandle* HandleUnder(const QPointF& place, const QVector<ItemHandle>& handles) const;
   int ItemUnder(const QPointF& place) const;
+  // Shows the item at its new place. The file is only written at the end, since it is read again after each change.
   void DragTo(const QPointF& place);
+  void ShowNumbers(const QVector<double>& numbers);
+  // Restores the item from the file.
   void CancelDrag();
+  void DropItem();
+  // A picture of all items but the selected one.
+  const QPixmap& Others();
+  void ForgetOthers() { others_ = QPixmap(); }
   bool Nudge(const QKeyEvent& event);
   void SelectNext(int step);
   void Report(const QString& problem);
@@ -70,6 +82,7 @@ class EditLayer : public QWidget {
   int selected_ = -1;
   int item_count_ = 0;
   Drag drag_;
+  QPixmap others_;         // null until drawn
   int gesture_ = 0;        // counts drags and runs of arrow keys; each is one undo step
   int nudged_index_ = -1;  // of the undo stack after the last nudge, while the next nudge may join it
 };

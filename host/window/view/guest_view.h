@@ -4,10 +4,10 @@
 #include <QEvent>
 #include <QSet>
 
-#include "host/picture/keymap_overlay.h"
 #include "host/session/key_repeat_filter.h"
 #include "host/window/controls/stale_repeats.h"
 #include "host/window/pointer/pointer_capture.h"
+#include "host/window/view/drawn_overlay.h"
 #include "host/window/view/guest_screen.h"
 
 namespace tavi {
@@ -75,7 +75,7 @@ class GuestView : public GuestScreen {
 
   void PaintHint(QPainter* painter) const;
 
-  KeymapOverlay overlay_;
+  DrawnOverlay overlay_;
   bool overlay_shown_ = true;
   bool overlay_dimmed_ = false;
   QString hint_;

@@ -5,7 +5,6 @@
 
 Boots a small machine in qemu, without acceleration. What is missing for that makes it skip, with exit status 77.
 """
-import lzma
 import re
 import shutil
 import subprocess
@@ -13,9 +12,13 @@ import sys
 import unittest
 from pathlib import Path
 
+sys.dont_write_bytecode = True
+
+import small_machine  # noqa: E402
+
 TAVI, READER, KERNEL, WORK, ROOT = (Path(argument) for argument in sys.argv[1:6])
 HERE = Path(__file__).parent
-QEMU = "qemu-system-x86_64"
+QEMU = small_machine.X86_64[0]
 BOOT_SECONDS = 100
 
 # F24, the end for the reader.
@@ -42,13 +45,6 @@ def missing():
     return None
 
 
-def libraries(*programs):
-    """All that the loader opens for the programs, itself included."""
-    text = "".join(subprocess.run(["ldd", program], check=True, capture_output=True, text=True).stdout
-                   for program in programs)
-    return sorted(set(re.findall(r"(?:=> |^\s*)(/\S+)", text, re.MULTILINE)))
-
-
 def timeline():
     keymap = ROOT / "examples" / "keymaps" / "shooter.yaml"
     played = subprocess.run([TAVI, "simulate", keymap, "-"], input=SCRIPT, check=True, capture_output=True, text=True)
@@ -58,7 +54,7 @@ def timeline():
 def make_file_system():
     root = WORK / "root"
     shutil.rmtree(root, ignore_errors=True)
-    for library in libraries(TAVI, READER):
+    for library in small_machine.libraries(TAVI, READER):
         (root / library[1:]).parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(library, root / library[1:])
     (root / "bin").mkdir(exist_ok=True)
@@ -70,32 +66,14 @@ def make_file_system():
     for module in ("evdev.ko", "uinput.ko"):
         shutil.copy(KERNEL / module, root)
     (root / "timeline").write_text(timeline(), encoding="utf-8")
-    with open(WORK / "root.cpio", "wb") as archive:
-        subprocess.run("find . | cpio --quiet -o -H newc", shell=True, cwd=root, stdout=archive, check=True)
-
-
-def kernel():
-    """The kernel without its own unpacking, which takes as long as all the rest: qemu starts an ELF file as it is."""
-    packed = (KERNEL / "vmlinuz").read_bytes()
-    start = packed.find(b"\xfd7zXZ\0")
-    if start < 0:
-        return KERNEL / "vmlinuz"
-    unpacked = WORK / "vmlinux"
-    unpacked.write_bytes(lzma.LZMADecompressor().decompress(packed[start:]))
-    return unpacked
 
 
 def boot():
     """What the machine prints between its marks, in lines."""
-    console = subprocess.run(
-        [QEMU, "-machine", "q35", "-cpu", "max", "-m", "768", "-nographic", "-no-reboot", "-nic", "none",
-         "-kernel", kernel(), "-initrd", WORK / "root.cpio", "-append",
-         "console=ttyS0 quiet panic=-1 mitigations=off nokaslr cryptomgr.notests tsc=reliable"],
-        stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace", timeout=BOOT_SECONDS).stdout
-    lines = console.replace("\r", "")
-    if "=== begin\n" not in lines or "=== end" not in lines:
-        raise AssertionError("the machine did not come to its end:\n" + console)
-    return lines.split("=== begin\n")[1].split("=== end")[0].splitlines()
+    make_file_system()
+    archive = small_machine.pack(WORK / "root", WORK / "root.cpio")
+    kernel = small_machine.unpacked(KERNEL / "vmlinuz", WORK / "vmlinux")
+    return small_machine.between_marks(small_machine.boot(kernel, archive, BOOT_SECONDS)).splitlines()
 
 
 def touch(*events):
@@ -132,7 +110,6 @@ class KernelGuest(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        make_file_system()
         cls.lines = boot()
 
     def test_every_line_was_played(self):

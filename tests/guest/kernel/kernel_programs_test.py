@@ -7,7 +7,6 @@ Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/gues
 what fetch_kernel.sh unpacks, BUILD_DIR/guest_programs what tools/build_guest makes. What is missing for all of them makes it skip, with exit status 77; what is missing for one
 is told.
 """
-import lzma
 import re
 import shutil
 import subprocess
@@ -16,6 +15,10 @@ import time
 import unittest
 from pathlib import Path
 
+sys.dont_write_bytecode = True
+
+import small_machine  # noqa: E402
+
 KERNELS, WORK, ROOT = (Path(argument) for argument in sys.argv[1:4])
 HERE = Path(__file__).parent
 PROGRAMS = KERNELS.resolve() / "guest_programs"
@@ -23,7 +26,7 @@ BOOT_SECONDS = 170
 
 # Compiler of the first process, folder of the kernel, the machine, its console, and the programs that it can run.
 MACHINES = {
-    "x86_64": ("x86_64-linux-gnu-g++", "guest_kernel", ["qemu-system-x86_64", "-machine", "q35", "-cpu", "max"],
+    "x86_64": ("x86_64-linux-gnu-g++", "guest_kernel", small_machine.X86_64,
                "ttyS0", ["x86_64"]),
     "arm64": ("aarch64-linux-gnu-g++", "guest_kernel_arm64",
               ["qemu-system-aarch64", "-machine", "virt", "-cpu", "cortex-a72"], "ttyAMA0", ["aarch64", "armv7"]),
@@ -79,34 +82,19 @@ def make_file_system(machine):
     for module in ("evdev.ko", "uinput.ko"):
         shutil.copy(KERNELS / kernel / module, root)
     (root / "lines").write_text(LINES, encoding="ascii")
-    archive = WORK / machine / "root.cpio"
-    with open(archive, "wb") as file:
-        subprocess.run("find . | cpio --quiet -o -H newc", shell=True, cwd=root, stdout=file, check=True)
-    return archive
-
-
-def unpacked_kernel(machine):
-    """The kernel without its own unpacking, which takes as long as all the rest. That of arm64 is not packed."""
-    packed = KERNELS / MACHINES[machine][1] / "vmlinuz"
-    start = packed.read_bytes().find(b"\xfd7zXZ\0") if machine == "x86_64" else -1
-    if start < 0:
-        return packed
-    kernel = WORK / machine / "vmlinux"
-    kernel.write_bytes(lzma.LZMADecompressor().decompress(packed.read_bytes()[start:]))
-    return kernel
+    return small_machine.pack(root, WORK / machine / "root.cpio")
 
 
 def boot(machine):
     """What the first process prints, by program, in lines."""
-    _, _, qemu, console, _ = MACHINES[machine]
-    archive, kernel = make_file_system(machine), unpacked_kernel(machine)
+    _, folder, qemu, console, _ = MACHINES[machine]
+    archive, kernel = make_file_system(machine), KERNELS / folder / "vmlinuz"
+    if machine == "x86_64":  # that of arm64 is not packed
+        kernel = small_machine.unpacked(kernel, WORK / machine / "vmlinux")
     start = time.monotonic()
-    text = subprocess.run(
-        [*qemu, "-m", "512", "-nographic", "-no-reboot", "-nic", "none", "-kernel", kernel, "-initrd", archive, "-append",
-         f"console={console} quiet panic=-1 mitigations=off nokaslr cryptomgr.notests tsc=reliable"],
-        stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace", timeout=BOOT_SECONDS).stdout
+    text = small_machine.boot(kernel, archive, BOOT_SECONDS, qemu, memory=512, console=console)
     print(f"{machine}: {time.monotonic() - start:.1f} s from boot to power-off")
-    found = re.findall(r"^begin (\w+)\n(.*?)^end\n", text.replace("\r", ""), re.M | re.S)
+    found = re.findall(r"^begin (\w+)\n(.*?)^end\n", text, re.M | re.S)
     if not found:
         raise AssertionError("the machine did not come to its end:\n" + text)
     return {name: lines.splitlines() for name, lines in found}

@@ -1,5 +1,5 @@
 // A host with a matching function of its own, which overrides the keymap library's: the state of Escape depends on it.
-#include "handlers/key_match_origin.h"
+#include "handlers/keymap_origin.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/support/story.h"
 

@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QThread>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -196,9 +195,7 @@ class Dialogs : public Controls {
   // A user works with the dialog that `show` opens, and closes it.
   void Use(const std::function<void()>& show, const std::function<void(QWidget* dialog)>& use) {
     bool is_seen = false;
-    QTimer::singleShot(0, Window(), [&] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
+    UseDialog([&](QWidget* dialog) {
       is_seen = true;
       ExpectNames(dialog);
       use(dialog);

@@ -2,12 +2,9 @@
 #include "host/window/editor/keymap_editor.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include "host/editor/item_handles.h"
 #include "host/window/editor/edit_layer.h"
@@ -146,6 +143,37 @@ TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
   LayerKey(Qt::Key_Escape);
   LayerMouse(QEvent::MouseMove, At(0.6, 0.25), Qt::NoButton, Qt::LeftButton);
   EXPECT_EQ(Document()->Text(), before_);
+}
+
+// Each edit has the whole file read again, which takes long in a large keymap.
+TEST_F(EditingInTheWindow, ADragIsShownOnItsWayAndWrittenAtItsEnd) {
+  Edit();
+  const QByteArray text = Document()->Text();
+  LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+  LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  EXPECT_EQ(text, Document()->Text());
+  EXPECT_FALSE(Document()->IsModified());
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  EXPECT_EQ(FileWith("[0.25, 0.75]", "[0.5, 0.25]"), Document()->Text().toStdString());
+  EXPECT_EQ(1, Document()->UndoStack()->count());
+}
+
+TEST_F(EditingInTheWindow, WhatEndsADragOtherwiseMovesNothing) {
+  Edit();
+  const auto drag = [this] {
+    LayerMouse(QEvent::MouseButtonPress, At(0.25, 0.75), Qt::LeftButton, Qt::LeftButton);
+    LayerMouse(QEvent::MouseMove, At(0.5, 0.25), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(0.5, Document()->Item(0)->rel_x);
+  };
+  drag();
+  Layer()->Select(1);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  LayerMouse(QEvent::MouseButtonRelease, At(0.5, 0.25), Qt::LeftButton, Qt::NoButton);
+  drag();
+  Edit(false);
+  EXPECT_EQ(0.25, Document()->Item(0)->rel_x);
+  EXPECT_FALSE(Document()->IsModified());
 }
 
 TEST_F(EditingInTheWindow, ArrowKeysMoveByPixelsOfTheGuest) {
@@ -539,12 +567,7 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
 TEST_F(EditingInTheWindow, ANameWithoutSuffixGetsOne) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   Edit();
-  QTimer::singleShot(0, Window(), [this] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder_.filePath("mine"));
-    QMetaObject::invokeMethod(dialog, "accept");
-  });
+  EnterName(folder_.filePath("mine"));
   EXPECT_TRUE(Editor()->SaveAs(QString()));
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
   EXPECT_TRUE(QFile::exists(folder_.filePath("mine.yaml")));

@@ -6,11 +6,8 @@
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QStatusBar>
-#include <QTimer>
 
 #include "host/session/recorder.h"
 #include "host/session/replayer.h"
@@ -458,12 +455,7 @@ TEST_F(RecordsInTheWindow, ASecondRecordingDoesNotTakeThePlaceOfTheFirst) {
 TEST_F(RecordsInTheWindow, ANameWithoutSuffixGetsOneThatOpenRecordLists) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   BeginATap(QString());
-  QTimer::singleShot(0, Window(), [this] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(Path("walk"));
-    QMetaObject::invokeMethod(dialog, "accept");
-  });
+  EnterName(Path("walk"));
   EXPECT_TRUE(Records()->SaveRecording());
   EXPECT_TRUE(IsRecord(Path("walk.json")));
   EXPECT_FALSE(QFileInfo::exists(Path("walk")));

@@ -3,14 +3,17 @@
 #ifndef TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
 #define TESTS_HOST_WINDOW_WINDOW_FIXTURE_H_
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
 #include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "host/session/live_host.h"
 #include "host/simulation/platform_events.h"
@@ -60,6 +63,22 @@ class WindowFixture : public testing::Test {
     clock_->Advance(5);  // of two moves within 2 ms the second is ignored
     QMouseEvent event(type, place, place, View()->mapToGlobal(place.toPoint()), button, buttons, Qt::NoModifier);
     Send(&event);
+  }
+
+  // What a person does with the dialog that opens next, once it is active. What is posted now comes before that.
+  void UseDialog(const std::function<void(QWidget* dialog)>& use) {
+    QTimer::singleShot(1, Window(), [use] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      use(dialog);
+    });
+  }
+  // Gives the file dialog that opens next a name, and accepts it.
+  void EnterName(const QString& name) {
+    UseDialog([name](QWidget* dialog) {
+      dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
   }
 
   MainWindow* Window() const { return window_.get(); }

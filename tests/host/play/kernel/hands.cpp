@@ -5,6 +5,7 @@
 //   rel DX DY         the mouse goes
 //   wheel PARTS       its wheel turns, 120 the notch
 //   wait MS           at least: a machine that is slow makes no gesture shorter
+//   flood CODE TIMES  a key, down and up repeatedly, as fast as possible
 //   race CODE TIMES   a key, 8 ms down and 8 ms up repeatedly; prints "press US" for each, in microseconds
 //   unplug            takes the keyboard away
 //   plug_pad          makes a gamepad, which is not there at first
@@ -109,6 +110,7 @@ class Hands {
     if (verb == "rel") Move(a, b);
     if (verb == "wheel") Turn(a);
     if (verb == "wait") std::this_thread::sleep_for(std::chrono::milliseconds(a));
+    if (verb == "flood") Flood(a, b);
     if (verb == "race") Race(a, b);
     if (verb == "unplug") ::ioctl(keyboard_, UI_DEV_DESTROY);
     if (verb == "plug_pad") pad_ = MakePad();
@@ -126,6 +128,9 @@ class Hands {
   void UsePad(int type, int code, int value) {
     Emit(pad_, type, code, value);
     Report(pad_);
+  }
+  void Flood(int code, int times) {
+    for (int i = 0; i < 2 * times; ++i) Key(code, (i + 1) % 2);
   }
   // Printed at the end, so that the printing does not delay what is measured.
   void Race(int code, int times) {

@@ -1,91 +1,7 @@
 #!/bin/busybox sh
 # The first process of the small machine that kernel_play_test.py boots: a player's hands play `tavi play`, and what
 # others see of it is printed at the end, file by file. Each step writes its name into what is seen.
-bb=/bin/busybox
-PATH=/bin
-$bb mkdir -p /proc /sys /dev /run /tmp
-$bb mount -t devtmpfs none /dev
-$bb mount -t proc none /proc
-$bb mount -t sysfs none /sys
-$bb mount -t tmpfs none /run
-$bb mount -t tmpfs none /tmp
-export HOME=/tmp XDG_RUNTIME_DIR=/run/player QT_NO_GLIB=1
-$bb mkdir -m 700 /run/player
-$bb ip link set lo up
-$bb insmod /evdev.ko
-$bb insmod /uinput.ko
-/lib/systemd/systemd-udevd --daemon --resolve-names=early
-/bin/udevadm trigger --action=add --subsystem-match=input
-/bin/udevadm trigger --action=add --subsystem-match=misc --sysname-match=uinput
-/bin/udevadm settle
-
-# wait_for WORDS FILE: until the file has a line with the words, or a minute is over
-wait_for() {
-  tries=0
-  until $bb grep -q "$1" "$2"; do
-    $bb sleep 0.05
-    tries=$((tries + 1))
-    [ $tries -lt 1200 ] || { echo "no \"$1\" in $2" >>/log/problems; return; }
-  done
-}
-# step NAME: what is seen belongs to it from here on. Readers have come to the end of what was before.
-step() {
-  seen=
-  until [ "$seen" = "$($bb wc -c /log/eyes /log/libinput)" ]; do
-    seen=$($bb wc -c /log/eyes /log/libinput)
-    $bb sleep 0.3
-  done
-  echo "step $1" >>/log/eyes
-  echo "step $1" >>/log/libinput
-}
-# wait_state WORDS: until the state that was told last begins so, or a minute is over
-wait_state() {
-  tries=0
-  until $bb tail -n 1 /log/play | $bb grep -q "^$1"; do
-    $bb sleep 0.05
-    tries=$((tries + 1))
-    [ $tries -lt 1200 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
-  done
-}
-# wait_touch STEP: until a finger is put down in this step, or a minute is over
-wait_touch() {
-  tries=0
-  until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do
-    $bb sleep 0.05
-    tries=$((tries + 1))
-    [ $tries -lt 1200 ] || { echo "no finger in step $1" >>/log/problems; return; }
-  done
-}
-# do_by_hand COMMANDS...: and returns when they are done
-done_count=0
-do_by_hand() {
-  done_count=$((done_count + 1))
-  { for command in "$@"; do echo "$command"; done; echo "done d$done_count."; } >&4
-  wait_for "d$done_count\\." /log/hands
-}
-take_hands() {
-  $bb rm -f /hands_in
-  $bb mkfifo /hands_in
-  /hands </hands_in >>/log/hands 2>>/log/problems &
-  hands=$!
-  exec 4>/hands_in
-}
-# The machine has a keyboard of its own, too.
-start_play() {
-  : >/log/play
-  /tavi play --size 1280x720 "$@" /keymap.yaml >>/log/play 2>>/log/news 4>&- &
-  play=$!
-  wait_for "^mapping on, keymap.yaml.*2 keyboards, 1 mouse" /log/play
-}
-ask() { echo "$1: $(/tavi play --control "$1" 2>&1)" >>/log/answers; }
-
-$bb mkdir /log
-for name in eyes libinput hands play news answers problems list rights status; do : >/log/$name; done
-take_hands
-wait_for ready /log/hands
-/bin/udevadm settle
-/eyes "Test Board" "tavi screen" "tavi keyboard" "bare screen" >>/log/eyes 2>>/log/problems 4>&- &
-eyes=$!
+. /machine.sh
 /usr/libexec/libinput/libinput-debug-events >>/log/libinput 2>>/log/problems 4>&- &
 libinput=$!
 /tavi play --list >>/log/list 2>&1
@@ -145,6 +61,31 @@ do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
 wait_touch control
 ask "keymap /keymap.yaml"
 
+step wheel
+do_by_hand "wheel 40" "wheel 40" "wait 200" "wheel 40" "wait 300"
+wait_touch wheel
+do_by_hand "wheel 90" "wheel -30" "wheel 30" "wait 300"
+# More than the kernel keeps for a reader: what is down when it reads again is what counts.
+step lost
+do_by_hand "key 17 1" "wait 200"
+wait_touch lost
+$bb kill -STOP $play
+do_by_hand "key 17 0" "key 57 1" "flood 183 50"
+$bb kill -CONT $play
+do_by_hand "wait 500" "key 57 0" "wait 300"
+# Without new devices the old ones go on.
+step size
+$bb mv /dev/uinput /dev/uinput.away
+ask "size 640x360"
+$bb mv /dev/uinput.away /dev/uinput
+do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
+wait_touch size
+ask "size 640x360"
+step smaller
+do_by_hand "key 57 1" "wait 50" "key 57 0" "wait 200"
+wait_touch smaller
+ask "size 1280x720"
+
 step unplug
 do_by_hand "key 17 1" "wait 300"
 wait_touch unplug
@@ -155,55 +96,44 @@ wait $hands
 take_hands
 wait_for "2 keyboards, 1 mouse" /log/play
 
-step term
-wait_state "mapping on"
-do_by_hand "key 17 1" "wait 300"
-wait_touch term
-$bb kill -TERM $play
-wait $play
-echo "after SIGTERM $?" >>/log/status
-do_by_hand "key 17 0" "wait 100"
-
+kill_while_walking TERM
 start_play
-step kill
-wait_state "mapping on"
-do_by_hand "key 17 1" "wait 300"
-wait_touch kill
-$bb kill -KILL $play
-wait $play
-echo "after SIGKILL $?" >>/log/status
-$bb sleep 0.5
-do_by_hand "key 17 0" "wait 100"
-# Rounds of a race between the player and the least that there can be; only for programs that are built to be fast.
-race() {
-  step "race $1"
-  echo "race $1" >>/log/hands
-  do_by_hand "race 57 150" "wait 200"
+kill_while_walking KILL
+
+# A macro that never ends takes the player's event loop away: it ends by itself, at a signal at once. $1: how.
+stick() {
+  start_play
+  ask "keymap /endless.yaml"
+  step "$1"
+  wait_state "mapping on, endless.yaml"
+  do_by_hand "key 30 1" "wait 300"
+  wait_touch "$1"
+  do_by_hand "key 57 1" "wait 300"
+  [ "$1" = stuck ] || $bb kill -TERM $play
+  wait $play
+  echo "$1 $?" >>/log/status
+  do_by_hand "key 57 0" "key 30 0" "wait 100" "key 57 1" "key 57 0" "wait 100"
 }
-if [ -e /race ]; then
-  for round in 1 2 3 4; do
-    /bare 2>>/log/problems 4>&- &
-    bare=$!
-    $bb sleep 1
-    race bare
-    $bb kill $bare
-    start_play
-    $bb sleep 1
-    race play
-    $bb kill $play
-    wait $play
-  done
-fi
+stick stuck
+stick "stuck at SIGTERM"
+
+# The other ways of lines to this kernel. The window's replay does not wait for the devices: its first tap may be lost.
+step record
+/tavi record play --live --guest uinput /record.json >/dev/null 2>>/log/news
+echo "record $?" >>/log/status
+step window
+QT_QPA_PLATFORM=offscreen /tavi window --fresh --guest uinput --replay /record.json /keymap.yaml >>/log/news 2>&1 4>&- &
+window=$!
+wait_touch window
+$bb sleep 6
+$bb kill -TERM $window
+wait $window
+echo "window $?" >>/log/status
+
 step end
 $bb sleep 0.3
 $bb kill -INT $libinput
 wait $libinput
 $bb kill $eyes
 
-echo "=== begin"
-for name in problems list rights news answers status hands eyes libinput; do
-  echo "=== file $name"
-  $bb cat /log/$name
-done
-echo "=== end"
-$bb poweroff -f
+tell problems list rights news answers status hands eyes libinput

@@ -1,7 +1,8 @@
+#include "host/simulation/platform_events.h"
+
 #include <QAbstractEventDispatcher>
 #include <QGuiApplication>
 
-#include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 
 namespace tavi {
