@@ -20,8 +20,8 @@ struct KeyCodePair {
   int scancode;    // of Windows
 };
 
-// All keys with a scan code whose codes differ. They are equal for Escape (1) to F10 (68), Scroll Lock and the keypad's
-// keys (70 to 83), `<` beside Left Shift (86), F11 and F12 (87, 88).
+// All keys whose scan code differs from their Linux code. The two are equal for Escape (1) to F10 (68), Scroll Lock and
+// the keypad's keys (70 to 83), `<` beside Left Shift (86), F11 and F12 (87, 88).
 constexpr KeyCodePair kDifferentKeyCodes[] = {
     {69, 325},   // Num Lock
     {89, 115},   // Ro

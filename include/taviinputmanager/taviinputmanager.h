@@ -127,8 +127,8 @@ TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 TAVI_EXPORT void UpdateMousePosition(int x, int y);
 
 // Scales a position in the guest view to the guest's touch surface, in place. Unlike positions in lines it is not
-// rotated. Both coordinates are scaled by the same factor: the view's width to that of the surface as the window shows
-// it.
+// rotated. Both coordinates are scaled by the same factor, which maps the view's width to the surface's width as the
+// window shows it.
 TAVI_EXPORT void ConvertWindowPositionToAndroid(int& x, int& y);
 
 // Scales the sensitivity of view control for each axis: 1 leaves it unchanged, 0 reduces it to 1 %, 2 raises it to

@@ -57,7 +57,7 @@ TEST(Hints, ADecimalCommaIsToldAsSuch) {
       "0.5",
       Said(ReadItems("- {key: A, type: Click, point: [0,5, 1]}\n")));
   EXPECT_EQ(
-      "4:10 error: 'walk_radius': expected a number from 0.001 to 1, got the text '0,1'; the decimal sign is a "
+      "4:10 error: 'walk_radius': expected a number from 0.001 to 1, got the text '0,1'; the decimal separator is a "
       "point: 0.1",
       Said(ReadItems("- walk_radius:\n         0,1\n  key: Mouse Right\n  type: RightWalk\n  point: [0.1, 0.1]\n")));
   EXPECT_EQ("3:32 error: 'point': expected [x, y], both from 0 to 1, got a list",

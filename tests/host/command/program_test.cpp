@@ -226,7 +226,7 @@ TEST_F(Program, WhatIsDrawnAsSvgAloneIsNotCalledOtherwise) {
   Write("good.yaml", kGood);
   const Outcome outcome = Run({"simulate", "--svg", "tap.png", "good.yaml", "-"});
   EXPECT_EQ(outcome.status, 2);
-  EXPECT_TRUE(outcome.errors.startsWith("tavi simulate: --svg draws SVG only")) << outcome.errors.toStdString();
+  EXPECT_TRUE(outcome.errors.startsWith("tavi simulate: --svg draws only SVG")) << outcome.errors.toStdString();
 }
 
 // ---- What is no plain file

@@ -136,7 +136,7 @@ TEST_F(RecordPicture, LeavesOutWhatIsFarOffTheDisplay) {
 TEST_F(RecordPicture, TellsWhenItIsNotAll) {
   Draw(WithHeader(
       R"("control": {"repeat_times": 2000000000}, "actions": [{"timing": 1, "type": "vcontrol", "data": "a"}])"));
-  EXPECT_TRUE(texts_.contains("drawn are the first 100000 steps; the record goes on"));
+  EXPECT_TRUE(texts_.contains("only the first 100000 steps are shown"));
 }
 
 TEST_F(RecordPicture, OfNothingIsAPictureToo) {

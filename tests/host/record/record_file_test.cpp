@@ -182,7 +182,7 @@ TEST(RecordFile, WarnsOfListsThatAreNotPlayed) {
 // Asking the library for the app of such a file would never return.
 TEST(RecordFile, WarnsWhenThereIsNoStartMarker) {
   const QString warning =
-      "f: warning: the first action has no data; a host that asks for the app of this file will hang\n";
+      "f: warning: the first action has no data; a host that reads the app of this file will hang\n";
   EXPECT_EQ(FindingsOf(WithHeader(R"("actions": [])")), warning);
   EXPECT_EQ(FindingsOf(WithHeader(R"("merged_actions": [{"actions": []}])")), warning);
   EXPECT_EQ(FindingsOf(WithHeader(R"("actions": [{"type": "vcontrol"}])")), warning);

@@ -180,10 +180,9 @@ TEST_F(GuestDisplay, APictureOfTheGuestsShapeFillsTheView) {
 
 TEST_F(GuestDisplay, APictureOfAnotherShapeKeepsItAndIsTold) {
   EXPECT_EQ(Window()->Display()->SetBackground(WritePicture("square.png", QSize(500, 500), Qt::red)), QString());
-  EXPECT_EQ(
-      Window()->statusBar()->currentMessage(),
-      QString("square.png is 500 \u00D7 500 and the guest 1280 \u00D7 720, which is another shape: it is shown with "
-              "bars"));
+  EXPECT_EQ(Window()->statusBar()->currentMessage(),
+            QString("square.png is 500 \u00D7 500, but the guest is 1280 \u00D7 720, which has another aspect "
+                    "ratio: it is shown with bars"));
   // As wide as the view is high: 720 of 1280, from 0.22 to 0.78 of the width.
   EXPECT_EQ(ColorAt(0.23, 0.5), QColor(Qt::red));
   EXPECT_EQ(ColorAt(0.77, 0.5), QColor(Qt::red));

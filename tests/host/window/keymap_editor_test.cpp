@@ -594,7 +594,7 @@ TEST_F(EditingInTheWindow, EditsThatNobodyIsAskedAboutAreKept) {
   Edit();
   DragFrom(At(0.25, 0.75), At(0.5, 0.25));
   const QString news = Window()->LeaveWithoutAsking().value(0);
-  const QString told = "the edits of keymap.yaml are kept as ";
+  const QString told = "the edits of keymap.yaml were saved as ";
   ASSERT_TRUE(news.startsWith(told + folder_.filePath("data/tavi/"))) << news.toStdString();
   QFile kept(news.mid(told.size()));
   ASSERT_TRUE(kept.open(QIODevice::ReadOnly));

@@ -71,7 +71,7 @@ TEST(KeyCombinationTest, WhatIsWrongIsTold) {
       {"unknown modifier", "Hyper+F5", "\"Hyper\" is not a modifier"},
       {"a button of the mouse", "Mouse Left", "\"Mouse Left\" is not a key of the keyboard"},
       {"no key", "Ctrl+", "\"\" is not a key of the keyboard"},
-      {"nothing", "", "no key of the keyboard"},
+      {"nothing", "", "\"\" is not a key of the keyboard"},
   };
   for (const auto& row : rows) {
     KeyCombination key;

@@ -311,7 +311,7 @@ TEST_F(RecordsInTheWindow, ATargetThatCannotBeWrittenIsToldAtTheStart) {
   Records()->ToggleRecording();
   EXPECT_EQ(Recorder::GetInstance()->Status(), RecordStatus::Stopped);
   EXPECT_EQ(problem_,
-            QString("Nothing is recorded: %1 cannot be written: No such file or directory").arg(Path("none/tap.json")));
+            QString("Not recording: %1 cannot be written: No such file or directory").arg(Path("none/tap.json")));
 }
 
 TEST_F(RecordsInTheWindow, WhatCannotBeSavedIsSavedElsewhere) {
