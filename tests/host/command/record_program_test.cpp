@@ -373,7 +373,7 @@ TEST_F(RecordProgram, DrawsToStandardOutputAndNoOtherKindOfPicture) {
   EXPECT_TRUE(Run({"record", "draw", "-o", "-", "tap.json"}).output.contains("<svg"));
   const Outcome png = Run({"record", "draw", "-o", "tap.png", "tap.json"});
   EXPECT_EQ(png.status, 2);
-  EXPECT_TRUE(png.errors.startsWith("tavi record draw: -o draws SVG only and needs a name that ends in .svg"))
+  EXPECT_TRUE(png.errors.startsWith("tavi record draw: -o draws only SVG and needs a name that ends in .svg"))
       << png.errors.toStdString();
   EXPECT_FALSE(Has("tap.png"));
 }

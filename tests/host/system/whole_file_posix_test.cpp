@@ -147,7 +147,7 @@ TEST_F(WholeRecords, AFullDiskLeavesTheRecordThatWasThere) {
   const FileSizeLimit full(100);
   const Outcome outcome = Run({"record", "merge", "-o", "day.json", "tap.json"});
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it came out short"))
+  EXPECT_TRUE(outcome.errors.startsWith("tavi record merge: cannot write day.json: it was truncated"))
       << outcome.errors.toStdString();
   EXPECT_EQ(Content("day.json"), QByteArray("before"));
   EXPECT_EQ(FilesIn(Folder()), (QStringList{"day.json", "tap.json"}));

@@ -91,7 +91,7 @@ TEST_F(Mirror, WhatIsNoSocketStays) {
   file.close();
   {
     MirrorServer server(LiveHost::kDisplay);
-    EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+    EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   }
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), QByteArray("dear"));
@@ -103,7 +103,7 @@ TEST_F(Mirror, ASocketOfAnotherUserStays) {
   const QByteArray address = QFile::encodeName(MirrorAddressOf("server"));
   ASSERT_EQ(chown(address.constData(), kNobody, kNobody), 0);
   MirrorServer server(LiveHost::kDisplay);
-  EXPECT_TRUE(server.Listen("server").endsWith("is no socket of this user"));
+  EXPECT_TRUE(server.Listen("server").endsWith("is not a socket of this user"));
   EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("server")));
 }
 
@@ -136,7 +136,7 @@ TEST_F(Mirror, NothingGoesToAnotherUser) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   targets->Add("other");
   ASSERT_TRUE(RunEventsUntil([&] { return !lost_.isEmpty(); }));
-  EXPECT_EQ(lost_, QStringList({"other", "another user listens as that"}));
+  EXPECT_EQ(lost_, QStringList({"other", "another user listens under that name"}));
   close(other);
 }
 
@@ -152,7 +152,7 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
     taviinputmanager::OnInputRawTextData(text);
     QCoreApplication::processEvents();
   }
-  EXPECT_EQ(lost_, QStringList({"silent", "it takes no more lines"}));
+  EXPECT_EQ(lost_, QStringList({"silent", "it stopped reading lines"}));
   EXPECT_TRUE(targets->Names().isEmpty());
   close(silent);
 }
