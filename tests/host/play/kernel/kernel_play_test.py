@@ -407,7 +407,7 @@ class KernelPlay(unittest.TestCase):
             with self.subTest(step):
                 self.assertEqual(self.screen(step), [{"places": [(384, 288)], "up": True}])  # 0.3 of 1280, 0.4 of 720
                 self.assertEqual(self.board(step)[-2:], [(57, 1), (57, 0)])
-        told = [line for line in self.files["news"] if "does not get to its devices any more" in line]
+        told = [line for line in self.files["news"] if "input is no longer handled" in line]
         self.assertEqual(len(told), 2)
 
     def test_records_and_the_window_reach_the_same_devices(self):
