@@ -5,8 +5,8 @@
 //
 // Call order: SetInputEventSendFunc and SetInputTextSendFunc (and SetInputEventSyncFunc and SetInputTextSyncFunc to
 // mirror input), Initialize, InitializeRecordCallbacks and InitializeReplayCallbacks, then OnLoadKeymapConfigAndInfo
-// each time another app comes to the front, then events. The send functions are not checked for null: setting them
-// before the first line is the host's duty.
+// each time another app comes to the front, then events. The send functions are not checked for null: set them before
+// the first line is sent.
 //
 // Threads: call a function on the host's main thread, the one of QCoreApplication, unless its comment says "any
 // thread". Lines are sent on the main thread too, with one exception listed under hazards. Debug builds assert the
