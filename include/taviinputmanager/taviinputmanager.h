@@ -118,8 +118,8 @@ TAVI_EXPORT InputStatus GetInputStatus();
 // it from inside a callback.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
-// While on, keys and the wheel on `display` pass through regardless of the keymap, as do moves and all mouse buttons
-// that the keymap does not map, except the left one. Reset input when you change this.
+// While on, keys and the wheel on `display` pass through regardless of the keymap. So do mouse moves, and all mouse
+// buttons that the keymap does not map except the left one. Reset input when you change this.
 TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 
 // Moves the guest's pointer to a position in the guest view, in window pixels. Relative counts move it on from there.
