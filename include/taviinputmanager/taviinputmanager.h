@@ -5,8 +5,8 @@
 //
 // Call order: SetInputEventSendFunc and SetInputTextSendFunc (and SetInputEventSyncFunc and SetInputTextSyncFunc to
 // mirror input), Initialize, InitializeRecordCallbacks and InitializeReplayCallbacks, then OnLoadKeymapConfigAndInfo
-// each time another app comes to the front, then events. The send functions are not checked for null: setting them
-// before the first line is the host's duty.
+// each time another app comes to the front, then events. The send functions are not checked for null: set them before
+// the first line is sent.
 //
 // Threads: call a function on the host's main thread, the one of QCoreApplication, unless its comment says "any
 // thread". Lines are sent on the main thread too, with one exception listed under hazards. Debug builds assert the
@@ -118,8 +118,8 @@ TAVI_EXPORT InputStatus GetInputStatus();
 // it from inside a callback.
 TAVI_EXPORT void UpdateDisplayId(int display);
 
-// While on, keys and the wheel on `display` pass through regardless of the keymap, as do moves and all mouse buttons
-// that the keymap does not map, except the left one. Reset input when you change this.
+// While on, keys and the wheel on `display` pass through regardless of the keymap. So do mouse moves, and all mouse
+// buttons that the keymap does not map except the left one. Reset input when you change this.
 TAVI_EXPORT void UpdateDisplayForceTransparent(int display, bool on);
 
 // Moves the guest's pointer to a position in the guest view, in window pixels. Relative counts move it on from there.
