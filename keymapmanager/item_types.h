@@ -65,8 +65,8 @@ TAVI_KEYMAP_EXPORT QVector<ItemTypeInfo> DescribeItemTypes();
 // not. Empty for other kinds and for fields that the item's type does not have.
 TAVI_KEYMAP_EXPORT QVector<double> NumbersOfField(const ConfigItem& item, const QString& field);
 
-// Gives such a field of the item other numbers, as many as it has; otherwise nothing happens. The file stays as it is,
-// and no range is checked: an editor shows with it what an edit would give.
+// Sets the numbers of such a field. Does nothing if their count differs from that of NumbersOfField. It neither changes
+// the file nor checks ranges: an editor uses it to preview an edit.
 TAVI_KEYMAP_EXPORT void SetNumbersOfField(ConfigItem* item, const QString& field, const QVector<double>& numbers);
 
 // The value of a field of kind kFlag, kInteger, kNumber, kPadButton, kWord or kPair in the notation of keymap files:

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The input manager library exports the functions of its header and no other symbol, and a program can link each. Both
-libraries have their version in their names and at each symbol.
+"""The input manager library exports exactly the functions of its header, and a program can link each of them. Both
+libraries have their version in their names and on each symbol.
 
     exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY INCLUDE_DIR VERSION WORK_DIR COMPILER QT_CORE
         QT_INCLUDE_DIR...

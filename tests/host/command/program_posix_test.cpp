@@ -1,4 +1,4 @@
-// The program where there are pipes and devices with names.
+// The program with named pipes and devices.
 #include <sys/stat.h>
 
 #include "tests/support/program.h"

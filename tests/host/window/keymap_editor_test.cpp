@@ -146,7 +146,7 @@ TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
   EXPECT_EQ(Document()->Text(), before_);
 }
 
-// Each edit has the whole file read again, which takes long in a large keymap.
+// Each edit parses the whole file again, which is slow for a large keymap.
 TEST_F(EditingInTheWindow, ADragIsShownOnItsWayAndWrittenAtItsEnd) {
   Edit();
   const QByteArray text = Document()->Text();
