@@ -13,7 +13,7 @@ class VirtualEventDispatcher;
 // On the platform "offscreen", windows are exposed, activated and resized only by the event dispatcher of the platform.
 // An application on virtual time has another dispatcher, so the platform's is taken from a temporary application:
 //
-//   const PlatformEvents events;  // no application is there yet
+//   const PlatformEvents events;  // before the application
 //   auto* time = new VirtualEventDispatcher;
 //   events.DeliverBy(time);
 //   QCoreApplication::setEventDispatcher(time);
