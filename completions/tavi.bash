@@ -14,7 +14,7 @@ _tavi_files() {
       [[ ${name,,} == *."$ending" ]] && COMPREPLY+=("$name")
     done
   done < <(compgen -f -- "$cur")
-  compopt -o filenames 2>/dev/null || true  # outside of a completion there is nothing to tell
+  compopt -o filenames 2>/dev/null || true  # fails outside a completion
 }
 
 _tavi_value() {

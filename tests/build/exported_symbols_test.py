@@ -25,7 +25,7 @@ def output_of(*command):
 
 
 def exported(library):
-    """(demangled name with arguments, version node) of what a library defines for others."""
+    """(demangled name with arguments, version node) of each symbol that a library exports."""
     lines = output_of(NM, "--dynamic", "--defined-only", "--demangle", library).splitlines()
     symbols = [line.split(" ", 2)[1:] for line in lines]
     return [symbol.rsplit("@@", 1) if "@@" in symbol else [symbol, None] for kind, symbol in symbols if kind != "A"]
@@ -37,7 +37,7 @@ def declared():
 
 
 def program_of_all():
-    """A program that has the address of each declared function, with the types of its compiler and its Qt."""
+    """A program that takes the address of each declared function, with the types of this compiler and this Qt."""
     addresses = "".join(f"    reinterpret_cast<Function*>({NAMESPACE}{name}),\n" for name in declared())
     return (f'#include "{HEADER}"\nusing Function = void();\nFunction* const volatile functions[] = {{\n{addresses}}};\n'
             "int main() { return functions[0] ? 0 : 1; }\n")

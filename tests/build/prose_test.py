@@ -20,7 +20,7 @@ WITHOUT_PROSE = ["completions", "docs/man", "docs/pictures", "fuzz/corpus", "pac
                  "tests/build/prose_test.py"]
 LINK_TARGET = re.compile(r"\]\([^)]*\)")
 
-# What is not written, and what is written instead.
+# Words to avoid, and their replacements.
 PHRASES = [
     (r"stands? (here|there|below|above|beside|behind|for|in front|in the|at the)", "is"),
     (r"here stands?|what stands|there stands?", "is"),

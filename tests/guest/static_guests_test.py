@@ -15,7 +15,7 @@ from pathlib import Path
 
 GUEST, WORK, ROOT = (Path(argument) for argument in sys.argv[1:4])
 
-# Each with its compiler, and with what runs it on another machine.
+# Each with its compiler, and the emulator that runs it on other machines.
 ARCHITECTURES = {
     "aarch64": ("aarch64-linux-gnu-g++", "qemu-aarch64-static"),
     "armv7": ("arm-linux-gnueabihf-g++", "qemu-arm-static"),
@@ -23,7 +23,7 @@ ARCHITECTURES = {
 }
 MOST_BYTES = 700_000
 
-# One of each form, texts, halves, blanks, exponents, and what is wrong.
+# One line of each form, texts, halves, blanks, exponents, and invalid lines.
 LINES = "\n".join("""
 1:SLOTPRESS:2:2:1:1:640:360
 1:SLOTPRESS:18:18:1:1:640.5:-0.5

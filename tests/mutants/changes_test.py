@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What tools/mutants changes of a source, and what it lets alone.
+"""What tools/mutants changes in a source, and what it leaves alone.
 
     changes_test.py SOURCE_DIR
 """

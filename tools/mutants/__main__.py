@@ -116,7 +116,7 @@ def try_all(trial, results, tried, wanted, unseen):
                 if verdict in (KILLED, SURVIVED, UNSEEN):
                     show(count.sampled(), change, verdict, by)
     finally:
-        pool.shutdown(cancel_futures=True)  # an interrupted run ends with what is under way
+        pool.shutdown(cancel_futures=True)  # an interrupted run finishes only the changes in progress
     return count
 
 

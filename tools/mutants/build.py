@@ -1,4 +1,4 @@
-"""Builds the copy of the tree, and, beside that build, what a change of one of its files requires.
+"""Builds the copy of the tree, and, outside that build, the targets that a change of one of its files requires.
 
 The state of the build is read once and never changes: any number of threads may try changes, each in a folder of its
 own.
@@ -98,7 +98,7 @@ class Build:
         text = (self.root / changed.path).read_text()
         return self._optimised(replace(changed, text=text)) == self._optimised(changed)
 
-    # ---- What the build says of itself ----
+    # ---- Queries about the build ----
 
     def _read_commands(self):
         entries = json.loads((self.folder / "compile_commands.json").read_text())
@@ -126,8 +126,8 @@ class Build:
     # ---- A changed file ----
 
     def _objects_of(self, changed, target):
-        """The target's objects that a change concerns. A header's function stands in many, of which the linker takes
-        the first: one of them is enough. A header's constant may be anywhere."""
+        """The target's objects that a change affects. A header's function is in many objects, of which the linker uses
+        the first: rebuilding that one is enough. A header's constant may be anywhere."""
         linked = self._link_command(target).split()
         dependents = [name for name in self._dependents.get(changed.path, ()) if name in linked]
         functions = self._functions.get(f"{changed.path}:{changed.line}", ())

@@ -14,7 +14,7 @@ _BINARY = {
 }
 _STEPS = {"++": "--", "--": "++"}
 _WORDS = {"true": "false", "false": "true"}
-# A minus or a star behind one of these has no left side.
+# A minus or a star after one of these is unary.
 _NO_OPERAND = {"(", "[", "{", ",", "=", "return", "?", ":", "<", ">", "<=", ">=", "==", "!=", "&&", "||", "+", "-", "*",
                "/", "%", "case"}
 
@@ -80,7 +80,7 @@ def _of_token(source, index):
 
 
 def _is_negated_by_its_sign(condition):
-    """Whether another sign in the place of its only one says the opposite: a change that is there already."""
+    """Whether replacing its only sign negates it, which another change already does."""
     texts = {token.text for token in condition}
     return not texts & {"&&", "||"} and (condition[0].text == "!" or bool(texts & {"<", "<=", ">", ">=", "==", "!="}))
 

@@ -1,4 +1,4 @@
-"""Changes that nobody can see, with the reason: tests/mutants/equivalent.txt. Paragraphs between empty lines:
+"""Changes without an observable effect, with the reason: tests/mutants/equivalent.txt. Paragraphs between empty lines:
 
     clock.cpp Sleep
     - if (ms < 0) ms = 0;

@@ -96,7 +96,7 @@ def finger(tracking_id):
 
 DOWN, UP = "EV_KEY BTN_TOUCH 1", "EV_KEY BTN_TOUCH 0"
 
-# The kernel leaves out what did not change: the slot of the frame before, the coordinate that a move keeps.
+# The kernel omits values that did not change: the slot of the frame before, the coordinate that a move keeps.
 TAP = touch(slot(11), finger(11), *place(1203, 533), DOWN) + touch(finger(-1), UP)
 WALK = (touch(slot(2), finger(2), *place(230, 518), DOWN) + touch(*place(y=489)) + touch(*place(y=460)) +
         touch(*place(y=431)) + touch(*place(y=403)) + touch(finger(-1), UP))

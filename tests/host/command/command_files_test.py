@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The manual page says what the pages of help say, and shells complete by them.
+"""The manual page has the content of the help pages, and shells complete from them.
 
     command_files_test.py TAVI SOURCE_DIR
 
@@ -170,7 +170,7 @@ class FishCompletion(Completion):
     def test_files(self):
         self.check_files()
 
-    # Fish offers the other names too, behind those that are meant.
+    # Fish offers other names too, after the matching ones.
     def check_names(self, offered, files):
         self.assertLessEqual(files, set(offered))
 
@@ -189,7 +189,7 @@ class ZshCompletion(unittest.TestCase):
                              [option.name for option in page.options] + ["--help"], name)
 
 
-# The base class has no tests of its own.
+# The base class has no tests.
 del Completion
 
 if __name__ == "__main__":

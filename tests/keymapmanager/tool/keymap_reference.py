@@ -61,7 +61,7 @@ def row(name, schema, is_required):
 
 
 def rows(record):
-    """Field name to table row; `type` and `label` are told once for all items."""
+    """Field name to table row; `type` and `label` are documented once for all items."""
     return {
         name: row(name, schema, name in record["required"])
         for name, schema in record["properties"].items()

@@ -39,7 +39,7 @@ def files(*folder):
 
 
 def reader_accepts(paths):
-    """What the library says of each file, as file to bool."""
+    """Whether the library accepts each file, as file to bool."""
     output = subprocess.run([CHECK] + paths, check=True, capture_output=True, text=True).stdout
     verdicts = dict(reversed(line.split(" ", 1)) for line in output.splitlines() if not line.startswith(" "))
     return {path: verdicts[path] != "error" for path in paths}

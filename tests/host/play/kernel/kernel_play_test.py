@@ -217,7 +217,7 @@ def make_file_system(first_process):
     (root / "lib/systemd/systemd-udevd").symlink_to("/bin/udevadm")
     for program in desktop:
         copy(program, root / program.relative_to(LIBINPUT))
-    (root / "usr/bin/Xwayland").symlink_to("/bin/busybox")  # has to be there; nobody starts it
+    (root / "usr/bin/Xwayland").symlink_to("/bin/busybox")  # must exist, but is never started
     shutil.copytree(LIBINPUT / "usr/share/X11", root / "usr/share/X11", symlinks=True)
     for helper in helpers:
         copy(helper, root / "lib/udev" / helper.name)
