@@ -1,5 +1,5 @@
 # Made by tools/make_command_files.py of what tavi --help says.
-# bash completion for tavi. Words are completed from the pages of help, files by what their names end in.
+# bash completion for tavi. Words are completed from the help pages, files by the endings of their names.
 
 _tavi_words() { mapfile -t COMPREPLY < <(compgen -W "$1" -- "$cur"); }
 
@@ -105,7 +105,7 @@ _tavi_operand() {
 _tavi() {
   local cur=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} first=2
   COMPREPLY=()
-  # "--size=1280x720" comes in three words.
+  # Bash splits "--size=1280x720" into three words.
   [ "$cur" = = ] && cur=
   [ "$previous" = = ] && previous=${COMP_WORDS[COMP_CWORD - 2]}
   if [ "$COMP_CWORD" -eq 1 ]; then

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Documents, comments, help pages and messages do not use the phrases that were taken out of them.
+"""Documents, comments, help pages and messages do not use the phrases listed here.
 
     prose_test.py SOURCE_DIR
 
@@ -127,7 +127,7 @@ class Prose(unittest.TestCase):
 
 
 class Text:
-    """A file that is only its text."""
+    """A file in memory."""
 
     def __init__(self, path, suffix, text):
         self.path, self.suffix, self.text = path, suffix, text

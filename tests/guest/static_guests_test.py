@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""The guest's static programs play lines as the one of this machine does.
+"""The guest's static programs play lines like this machine's own build.
 
     static_guests_test.py TAVI_GUEST WORK_DIR SOURCE_DIR
 
-tools/build_guest makes them, and qemu-user runs those of other machines. What is missing for all of them makes it skip,
-with exit status 77; what is missing for one is told.
+tools/build_guest builds them, and qemu-user runs those of other machines. If something that all of them need is missing,
+the test is skipped with exit status 77; if only one needs it, it is reported.
 """
 import platform
 import shutil
@@ -55,7 +55,7 @@ def play(*command):
 
 
 def how_to_run(architecture):
-    """The words in front of the program; None where it cannot run."""
+    """The command that starts the program; None if it cannot run."""
     machine = {"armv7l": "armv7"}.get(platform.machine(), platform.machine())
     if machine == architecture:
         return []

@@ -22,7 +22,7 @@ def of(text, path="core/a.cpp"):
 
 
 def lines_after(statement):
-    """The changed forms of a line in a function, by no order."""
+    """The changed forms of a line in a function, unordered."""
     text = FUNCTION.format(statement)
     return {change.after for change in of(text) if change.line == 3}
 

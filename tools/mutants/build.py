@@ -37,7 +37,7 @@ def _output_of(command):
 
 @dataclass
 class ChangedFile:
-    """A file of the tree and its new content. What is built from it goes to `spare`."""
+    """A file of the tree and its new content. Builds from it go to `spare`."""
     path: str  # from the root
     line: int  # the changed one
     text: str
@@ -89,7 +89,7 @@ class Build:
                 for target in targets if objects.keys() & set(self._link_command(target).split())}
 
     def includes(self, program, path):
-        """Whether an object of the program's own, not only the library, is compiled from the file."""
+        """Whether the program compiles the file itself, and not only the library does."""
         folder = f"/CMakeFiles/{program.name}.dir/"
         return any(folder in f"/{name}" for name in self._dependents.get(path, ()))
 
@@ -162,13 +162,13 @@ class Build:
 
     @staticmethod
     def _code(file, folder=None):
-        """An object's content without numbers of lines."""
+        """An object's content without line numbers."""
         bare = (folder or file.parent) / "bare.o"
         subprocess.run(["objcopy", "--strip-debug", file, bare], check=True)
         return bare.read_bytes()
 
     def _link(self, target, objects, spare):
-        """Objects that are new come first: of functions that several define the linker takes theirs."""
+        """New objects come first: if several define a function, the linker takes the first."""
         command = self._link_command(target)
         output = _output_of(command)
         soname = re.search(r"-soname,(\S+)", command)

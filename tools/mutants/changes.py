@@ -37,12 +37,12 @@ class Change:
 
     @property
     def key(self):
-        """What it is whatever the folder and the line: names of file and function, lines before and after."""
+        """Its identity, independent of folder and line: names of file and function, lines before and after."""
         return self.path.rsplit("/", 1)[-1], self.function, self.before, self.after
 
 
 def _numbers(text):
-    """Neighbours of a literal, written as it is."""
+    """Neighbours of a literal, in the same notation."""
     digits = text.replace("'", "")
     try:
         if any(sign in digits for sign in ".eE") and not digits.startswith("0x"):

@@ -26,6 +26,6 @@ class Listed:
         return change.key in self._reasons
 
     def stale(self, changes):
-        """Entries that no longer are a change of the tree."""
+        """Entries that no longer match a change of the tree."""
         offered = {change.key for change in changes}
         return [key for key in self._reasons if key not in offered]

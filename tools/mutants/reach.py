@@ -43,11 +43,11 @@ class Reach:
         return failed
 
     def state(self):
-        """Another one whenever the tests or the library are."""
+        """Changes whenever the tests or the library change."""
         return hashlib.sha256("".join(self._keys).encode()).hexdigest()
 
     def limit(self, test):
-        """Seconds after which it hangs. Other work may slow a machine down by a lot."""
+        """Seconds after which the test counts as hanging. Other work may slow the machine down a lot."""
         return 10 + 10 * self._seconds[test.name]
 
     def tests_of(self, change):

@@ -3,7 +3,8 @@
 
     kernel_guest_test.py TAVI READ_DEVICES KERNEL_DIR WORK_DIR SOURCE_DIR
 
-Boots a small machine in qemu, without acceleration. What is missing for that makes it skip, with exit status 77.
+Boots a small machine in qemu, without acceleration. If something that it needs is missing, the test is skipped with
+exit status 77.
 """
 import re
 import shutil
@@ -69,7 +70,7 @@ def make_file_system():
 
 
 def boot():
-    """What the machine prints between its marks, in lines."""
+    """The machine's output between the marks, in lines."""
     make_file_system()
     archive = small_machine.pack(WORK / "root", WORK / "root.cpio")
     kernel = small_machine.unpacked(KERNEL / "vmlinuz", WORK / "vmlinux")

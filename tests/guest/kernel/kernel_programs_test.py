@@ -3,9 +3,10 @@
 
     kernel_programs_test.py BUILD_DIR WORK_DIR SOURCE_DIR
 
-Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/guest_kernel and .../guest_kernel_arm64 hold
-the files that fetch_kernel.sh unpacks, BUILD_DIR/guest_programs the programs that tools/build_guest makes. If something
-that all machines need is missing, the test is skipped with exit status 77; if only one machine needs it, it is reported.
+Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/guest_kernel and .../guest_kernel_arm64
+hold the files that fetch_kernel.sh unpacks, BUILD_DIR/guest_programs the programs that tools/build_guest makes. If
+something that all machines need is missing, the test is skipped with exit status 77; if only one machine needs it, it
+is reported.
 """
 import re
 import shutil
@@ -86,7 +87,7 @@ def make_file_system(machine):
 
 
 def boot(machine):
-    """What the first process prints, by program, in lines."""
+    """The output of the first process, by program, in lines."""
     _, folder, qemu, console, _ = MACHINES[machine]
     archive, kernel = make_file_system(machine), KERNELS / folder / "vmlinuz"
     if machine == "x86_64":  # that of arm64 is not packed

@@ -3,7 +3,7 @@
 
     command_files_test.py TAVI SOURCE_DIR
 
-What needs groff, fish or zsh is skipped without them.
+Tests that need groff, fish or zsh are skipped without them.
 """
 import re
 import shutil
@@ -135,7 +135,7 @@ class BashCompletion(Completion):
     def test_files(self):
         self.check_files()
 
-    # Bash parts words at an equals sign.
+    # Bash splits words at an equals sign.
     def test_values_behind_an_equals_sign(self):
         self.assertEqual(self.offered("window", "--replay", "="), ["maps", "walk.json"])
         self.assertEqual(self.offered("window", "--replay", "=", "w"), ["walk.json"])
@@ -158,7 +158,7 @@ class FishCompletion(Completion):
         outcome = run("fish", "--no-config", "-c", 'source $argv[1]; complete -C $argv[2]', COMPLETIONS / "tavi.fish",
                       line, cwd=self.folder)
         self.assertEqual(outcome.stderr, "")
-        # Names are escaped as one would type them.
+        # Names are escaped as in a typed command.
         return [entry.split("\t")[0].replace("\\ ", " ") for entry in outcome.stdout.splitlines()]
 
     def test_commands(self):

@@ -76,7 +76,7 @@ class HelpPages(unittest.TestCase):
         examples = {name: page.example for name, page in HELP.pages.items()}
         examples[""] = HELP.overview.example
         examples["record"] = HELP.run("record", "--help").stdout.split("\nExample: ")[1]
-        # A window stays until someone closes it, unless it is to leave a picture.
+        # A window stays open until it is closed, unless it only saves a picture.
         examples["window"] = examples["window"].rstrip() + " --picture window.png --after 0"
         del examples["play"]  # would grab the keyboard of this computer; tested in a small machine
         for name, example in examples.items():

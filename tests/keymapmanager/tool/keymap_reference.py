@@ -1,4 +1,4 @@
-"""The reference's tables of fields, as the schema has them."""
+"""The reference's tables of fields, generated from the schema."""
 
 
 def number(value):
@@ -25,7 +25,7 @@ def list_form(schema):
 
 
 def form(schema):
-    """How the value of a field is written."""
+    """The notation of a field's value."""
     if "allOf" in schema:
         name = schema["allOf"][0]["$ref"].split("/")[-1]
         return {"key": "key", "chord": "key or chord", "inner_swipehold": "fields"}[name]
