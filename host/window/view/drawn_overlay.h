@@ -32,7 +32,7 @@ class DrawnOverlay {
 
   KeymapOverlay overlay_;
   QPixmap picture_;  // null if outdated
-  // The picture was drawn for these.
+  // The state that the picture was drawn with.
   QSizeF view_;
   QFont font_;
   double pixel_ratio_ = 0;

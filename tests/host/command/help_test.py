@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every command has a help page, and the pages are correct.
+"""Every command has a help page, and the pages are accurate.
 
     help_test.py TAVI SOURCE_DIR
 """
