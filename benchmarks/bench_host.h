@@ -1,4 +1,4 @@
-// The host of the benchmarks: a guest view that does nothing with what it gets.
+// The host of the benchmarks: a guest view that ignores its input.
 #ifndef BENCHMARKS_BENCH_HOST_H_
 #define BENCHMARKS_BENCH_HOST_H_
 

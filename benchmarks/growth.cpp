@@ -65,7 +65,7 @@ void TapByWorkers(benchmark::State& state) {
   Load(MakeKeymap(1));
 }
 
-// Lines and text lines go to mirrors by functions of one type.
+// Mirrors lines and text lines alike: both callbacks have the same type.
 void TakeMirrored(const QString& command, const QVector<QString>& targets) {
   benchmark::DoNotOptimize(command.constData());
   benchmark::DoNotOptimize(targets.constData());

@@ -62,7 +62,7 @@ int RunEvents(const std::string& what) {
       for (long i = 0; i < rounds; ++i) side.Round();
       std::printf("%ld\n", rounds * path.events);
       std::fflush(stdout);
-      std::_Exit(EXIT_SUCCESS);  // what a path tears down is no event's
+      std::_Exit(EXIT_SUCCESS);  // the teardown of a path belongs to no event
     }
   }
   std::fprintf(stderr, "tavi_bench: no such path: %s\n", name.c_str());

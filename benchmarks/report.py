@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""From the figures of tavi_bench to a table, and to what is missed.
+"""Prints the figures of tavi_bench as a table, and the goals that they miss.
 
     report.py TIMES.json REPORT.json [--instructions COUNTS.json] [--check]
 
@@ -13,7 +13,7 @@ import sys
 from pathlib import Path
 
 LIMITS = Path(__file__).with_name("limits.json")
-ALLOCATION_TOLERANCE = 0.01  # what is created once, spread over a run
+ALLOCATION_TOLERANCE = 0.01  # allocations at the start, spread over a run
 
 
 def read_sides(times):

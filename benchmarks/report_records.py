@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""From the figures of tavi_bench_records to a table, and to what is missed.
+"""Prints the figures of tavi_bench_records as a table, and the goals that they miss.
 
     report_records.py RECORDS.json [--check]
 """

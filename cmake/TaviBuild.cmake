@@ -37,7 +37,7 @@ macro(tavi_find_qt)
   find_package(Qt${TAVI_QT} ${TAVI_QT_LEAST} REQUIRED COMPONENTS ${ARGN})
 endmacro()
 
-# Windows looks for libraries beside the program.
+# Windows looks for libraries next to the program.
 if(WIN32 AND PROJECT_IS_TOP_LEVEL)
   set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 endif()
@@ -54,7 +54,7 @@ if(WIN32 AND TAVI_LIBRARY_TYPE STREQUAL STATIC)
   set(TAVI_STATIC_ON_WINDOWS ON)
 endif()
 
-# Warnings, and what the compiler has to be told to take this code. Of Microsoft's nobody has tried it.
+# Warnings, and the options that the compiler needs for this code. Those for Microsoft's compiler are untested.
 if(MSVC)
   set(tavi_compile_options /W4 $<$<BOOL:${TAVI_WERROR}>:/WX> /utf-8 /permissive- /Zc:__cplusplus /EHsc)
 else()
@@ -68,7 +68,7 @@ function(tavi_target_defaults target)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    # Macros of Qt's and of GoogleTest's are written with an extension.
+    # Macros of Qt and GoogleTest use this extension.
     target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
   endif()
   if(TAVI_SANITIZE)

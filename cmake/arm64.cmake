@@ -1,5 +1,5 @@
-# Toolchain file: builds for arm64 on another Debian machine, with the libraries that tools/fetch_arm64 has fetched. Tests
-# run under qemu.
+# Toolchain file: cross-builds for arm64 on Debian, with the libraries that tools/fetch_arm64 downloaded. Tests run under
+# qemu.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
@@ -11,11 +11,11 @@ if(NOT cache)
   set(cache $ENV{HOME}/.cache/tavi)
 endif()
 set(CMAKE_SYSROOT ${cache}/arm64)
-# qemu shows a program the files in the folder as those of its machine, but lists no folders.
+# With -L, qemu opens files of the sysroot first, but does not list its folders; so Qt does not find its plugins there.
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${CMAKE_SYSROOT}
   -E QT_PLUGIN_PATH=${CMAKE_SYSROOT}/usr/lib/aarch64-linux-gnu/qt5/plugins)
 
-# Libraries and headers are the other machine's, programs are this one's.
+# Libraries, headers and packages come from the sysroot, programs from this machine.
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

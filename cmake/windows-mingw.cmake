@@ -1,4 +1,5 @@
-# Toolchain file: builds for Windows on Debian, with mingw and what tools/windows/build_dependencies has built.
+# Toolchain file: cross-builds for Windows on Debian, with mingw and the libraries that tools/windows/build_dependencies
+# built.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -13,7 +14,7 @@ else()
   set(tavi_windows_root $ENV{HOME}/.cache/tavi/windows/root)
 endif()
 
-# Libraries, headers and packages are Windows' own; programs are this machine's.
+# Libraries, headers and packages are those for Windows, programs those of this machine.
 set(CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH} ${tavi_windows_root} /usr/${tavi_mingw})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -1,4 +1,4 @@
-// Ints as decimal digits.
+// Writes and reads ints in decimal.
 #ifndef CORE_DECIMAL_H_
 #define CORE_DECIMAL_H_
 
@@ -13,7 +13,7 @@ constexpr std::size_t kLongestDecimal = 11;  // of an int: ten digits and a sign
 
 namespace decimal_detail {
 
-// "00" to "99" in a row.
+// "00" to "99", concatenated.
 constexpr auto kPairs = [] {
   std::array<char, 200> digits{};
   for (std::size_t i = 0; i < 100; ++i) {
@@ -39,8 +39,8 @@ char* WriteLongDecimalBefore(char* end, int value);
 
 }  // namespace decimal_detail
 
-// Writes what std::to_chars writes, and returns the end. Needs room for kLongestDecimal characters. Slots, flags and
-// pixels are short: writing those costs a third.
+// Writes the same characters as std::to_chars, and returns the end. Needs room for kLongestDecimal characters. Slots,
+// flags and pixels are short numbers, which this writes in a third of the time.
 inline char* WriteDecimal(char* at, int value) {
   using namespace decimal_detail;  // NOLINT(google-build-using-namespace)
   const auto number = static_cast<unsigned>(value);

@@ -16,7 +16,7 @@ struct HeldAxis {
   Sint16 held;
 };
 
-// To the right and up, to the right alone, and the trigger that fires.
+// To the right and up, only to the right, and the trigger that fires.
 constexpr HeldAxis kAxes[] = {
     {SDL_CONTROLLER_AXIS_LEFTX, 0, 20000},
     {SDL_CONTROLLER_AXIS_LEFTY, 0, -20000},
@@ -27,7 +27,7 @@ constexpr HeldAxis kAxes[] = {
 
 SDL_Joystick* gamepad = nullptr;
 
-// SDL's own function, which the one of this file stands before.
+// SDL's own function, which the one in this file overrides.
 template <typename Function>
 Function* Next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -62,7 +62,7 @@ int SDL_PollEvent(SDL_Event* event) {
   if (gamepad && signal && access(signal, F_OK) == 0) {
     for (const HeldAxis& row : kAxes) SDL_JoystickSetVirtualAxis(gamepad, row.axis, row.held);
     SDL_JoystickSetVirtualButton(gamepad, SDL_CONTROLLER_BUTTON_A, SDL_PRESSED);
-    gamepad = nullptr;  // stays as it is
+    gamepad = nullptr;  // unchanged
   }
   return Next<int(SDL_Event*)>("SDL_PollEvent")(event);
 }

@@ -3,8 +3,8 @@
 namespace taviinputmanager {
 namespace {
 
-// The library stays in the process once it is loaded: timers, threads and objects that are destroyed at exit run its
-// code. Elsewhere the linker is told so.
+// Once loaded, the library stays in the process: timers, threads and objects destroyed at exit run its code. On other
+// systems a linker option does this.
 bool StayLoaded() {
   static const char here = 0;
   HMODULE library = nullptr;

@@ -6,8 +6,8 @@
 namespace taviinputmanager {
 namespace {
 
-// Our keymap library exports each function under a second name, which nothing overrides and no other library has. It is
-// looked up, so that it may be missing.
+// Our keymap library exports each function under a second name, which nothing overrides and no other library has. The
+// name is looked up at run time, because another keymap library does not have it.
 template <typename Function>
 bool IsOwn(Function* called, const char* second_name) {
   return dlsym(RTLD_DEFAULT, second_name) == reinterpret_cast<const void*>(called);

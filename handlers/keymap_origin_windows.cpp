@@ -2,7 +2,7 @@
 
 namespace taviinputmanager {
 
-// Nothing can override them, but the library may be another one.
+// No host function can override them, but another library may replace ours.
 bool IsKeyCreationOwn() { return false; }
 
 bool IsKeyMatchOwn() { return false; }

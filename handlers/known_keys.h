@@ -28,7 +28,7 @@ class KnownKeys {
   }
 
  private:
-  static constexpr std::size_t kPlaces = 512;  // as many as a keyboard has scan codes; buttons are bits
+  static constexpr std::size_t kPlaces = 512;  // the number of scan codes of a keyboard; buttons are bits
 
   // Null if the key has to be created.
   tavikeymapmanager::ConfigKey* Find(int virtual_key, int scancode) {

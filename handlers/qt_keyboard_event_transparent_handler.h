@@ -14,7 +14,7 @@ class QtKeyboardEventTransparentHandler : public QtKeyboardEventHandler {
     return &instance;
   }
 
-  // A macro's press or release of a key, which has one number for all its codes.
+  // A macro presses or releases a key; `code` serves as all of its codes.
   void SetVirtualKey(int code, bool press);
 
   bool OnKeyPress(QKeyEvent* event) override;

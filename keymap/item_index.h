@@ -64,7 +64,7 @@ class ItemIndex {
           scancode(its_key.scancode),
           is_joystick(IsJoystickKey(its_key)) {}
 
-    // As IsSameKey.
+    // Like IsSameKey.
     bool Is(const ConfigKey& key) const {
       if (!IsSameText(device, key.device)) return false;
       return is_joystick ? IsSameText(text, key.text) : scancode == key.scancode;
@@ -80,8 +80,8 @@ class ItemIndex {
   struct Entry {
     ConfigItem* item;
     KnownKey key;
-    KnownKey first_key;  // of a ComposableConfigItem, set or not
-    bool has_first_key;  // the item is one
+    KnownKey first_key;  // of a ComposableConfigItem; may be unset
+    bool has_first_key;  // the item is a ComposableConfigItem
     bool is_chord;       // `first_key` is set
     int position;        // in the list
     int next;            // next entry in the bucket, further back in the list; -1 at the end

@@ -5,7 +5,7 @@
 
 #include <QtGlobal>
 
-#if defined(TAVI_STATIC) || defined(TAVI_KEYMAP_BY_LINKER)  // the latter: in whichever library the linker finds them
+#if defined(TAVI_STATIC) || defined(TAVI_KEYMAP_BY_LINKER)  // the latter: whichever library the linker finds
 #define TAVI_KEYMAP_EXPORT
 #elif defined(TAVI_BUILDING_KEYMAPMANAGER)
 #define TAVI_KEYMAP_EXPORT Q_DECL_EXPORT

@@ -41,7 +41,7 @@ QVector<double> NumbersAt(const FieldTarget& target) {
   return {};
 }
 
-// As many as that gives.
+// `numbers` has as many elements as NumbersAt returns.
 void SetNumbersAt(const FieldTarget& target, const QVector<double>& numbers) {
   if (const auto* integer = std::get_if<int*>(&target)) **integer = static_cast<int>(numbers[0]);
   if (const auto* number = std::get_if<double*>(&target)) **number = numbers[0];

@@ -66,8 +66,7 @@ TAVI_KEYMAP_EXPORT QVector<ItemTypeInfo> DescribeItemTypes();
 TAVI_KEYMAP_EXPORT QVector<double> NumbersOfField(const ConfigItem& item, const QString& field);
 
 // Sets the numbers of such a field. Does nothing for any other field, or if `numbers` has another size than
-// NumbersOfField returns. The file stays as it is, and no range is checked: an editor uses this to show the result of
-// an edit before it writes it.
+// NumbersOfField returns. It neither changes the file nor checks ranges: an editor uses it to preview an edit.
 TAVI_KEYMAP_EXPORT void SetNumbersOfField(ConfigItem* item, const QString& field, const QVector<double>& numbers);
 
 // The value of a field of kind kFlag, kInteger, kNumber, kPadButton, kWord or kPair in the notation of keymap files:

@@ -12,8 +12,8 @@ bool isConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pr
   return IsKeyMatch(config, configured, pressed);
 }
 
-// The same functions, by their mangled names, under names that programs do not override: by these the input layer
-// recognizes whose functions it calls.
+// Aliases of the same functions, given by their mangled names. No program overrides the aliases, so the input layer
+// compares addresses to find out whether it calls our functions.
 TAVI_KEYMAP_EXPORT ConfigKey CreateOwnConfigKey(QString device, int virtual_key, int scancode)  //
     asm("tavi_CreateConfigKey") __attribute__((alias("_ZN17tavikeymapmanager15CreateConfigKeyE7QStringii")));
 TAVI_KEYMAP_EXPORT bool isOwnConfigKeyMatch(KeymapConfig* config, ConfigKey* configured, ConfigKey* pressed)  //

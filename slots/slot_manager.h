@@ -57,7 +57,7 @@ class SlotManager {
   void SetSlotId(int slot_id) { slot_id_ = slot_id; }
 
  private:
-  // Empty if contact `id` is up by then.
+  // Empty if contact `id` was released while the line was made.
   LineBuffer CheckedPressLine(int id);
 
   int slot_id_;

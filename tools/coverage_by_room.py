@@ -10,7 +10,7 @@ from itertools import groupby
 
 
 def spans(numbers):
-    """1, 2, 3, 7 as "1-3 7"."""
+    """Formats 1, 2, 3, 7 as "1-3 7"."""
     texts = []
     for _, group in groupby(enumerate(numbers), lambda pair: pair[1] - pair[0]):
         run = [number for _, number in group]

@@ -70,7 +70,7 @@ class Help:
 
     @property
     def groups(self):
-        """The first words of commands of two."""
+        """The first words of two-word commands."""
         return list(dict.fromkeys(name.split()[0] for name in self.pages if " " in name))
 
     def run(self, *arguments):

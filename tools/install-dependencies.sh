@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# Installs what this tree needs on a machine with Debian 12 or 13. The only list of packages; apt is asked only for what is
-# missing.
+# Installs the dependencies of this tree on Debian 12 or 13. The only list of packages; asks apt only for missing ones.
 #
-#   tools/install-dependencies.sh [GROUP...]      without a word: build
-#   tools/install-dependencies.sh names GROUP...  installs nothing, and prints the packages' names
+#   tools/install-dependencies.sh [GROUP...]      without a group: build
+#   tools/install-dependencies.sh names GROUP...  only prints the names of the packages
 #
 # Groups: arm64 arm64-libraries build test qt6 clang docs packaging lint bench plot guest guest-programs windows coverage
 # valgrind fuzz mutants

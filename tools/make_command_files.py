@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Generates the files from the help pages: the manual page and the completion of shells.
+"""Generates files from the help pages: the manual page and the shell completions.
 
     tools/make_command_files.py TAVI
 

@@ -1,4 +1,4 @@
-// Names of files, as the calls of Windows take them.
+// File names in the form that Windows calls accept.
 #ifndef WINDOWS_NATIVE_PATH_H_
 #define WINDOWS_NATIVE_PATH_H_
 
@@ -10,12 +10,12 @@
 
 namespace windows {
 
-// From this length on a call takes no name without the prefix that lifts the limit. A folder's has to leave room for a
-// file in it.
+// Names of this length or more need the prefix that lifts the length limit. The limit for folders is lower than that
+// for files, because a folder's name must leave room for a file in it.
 constexpr int kLongName = 248;
 
-// The prefix has the system take a name as it is: absolute, without dots, with its own separators. A short one stays
-// short, since devices have no other names ("NUL").
+// With the prefix the system does not parse the name: it must be absolute, without dots, and use backslashes. A short
+// name gets no prefix, because device names such as "NUL" do not work with one.
 inline std::wstring NativePath(const QString& path) {
   const QString whole = QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
   if (whole.size() < kLongName) return QDir::toNativeSeparators(path).toStdWString();

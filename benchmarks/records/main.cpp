@@ -4,7 +4,7 @@
 //   stamps
 //                                   them, and prints the figures as JSON
 //
-// Memory is what the system has given to the program: the maximum during a call, minus what stays allocated.
+// Memory is what the program has allocated from the system: the maximum during a call, minus what stays allocated.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>

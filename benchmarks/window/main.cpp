@@ -1,10 +1,10 @@
-// What the window of tavi costs, off screen.
+// The cost of tavi's window, off screen.
 //
-//   tavi_bench_window    opens the window with a keymap of 30 items and drags an item of one of 2,000, and prints the
+//   tavi_bench_window    opens the window with a keymap of 30 items, drags an item in a keymap of 2,000, and prints the
 //                        figures as JSON
 //
-// Seconds are those of the processor, so that what else the machine does falls out. The colours of a window system and
-// the copy to its screen are not in them.
+// Seconds are processor time, so other load on the machine does not count. They do not include the window system's
+// work: converting colours and copying to the screen.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -36,13 +36,13 @@ QPointF PlaceOf(int item) {
   return {(item % kColumns + 0.5) / kColumns, (item / kColumns % kColumns + 0.5) / kColumns};
 }
 
-// Of two keys, so that there is one for each item.
+// Two keys, so that there are enough chords for all items.
 QString ChordOf(int item) {
   const QStringList keys = tavikeymapmanager::AllKeyNames();
   return QStringLiteral("%1 + %2").arg(keys.at(item % kColumns), keys.at(kColumns + item / kColumns));
 }
 
-// Clicks side by side, each with a chord and a label.
+// Clicks in a grid, each with a chord and a label.
 QString WriteKeymap(const QTemporaryDir& folder, int items) {
   QFile file(folder.filePath(QStringLiteral("%1.yaml").arg(items)));
   if (!file.open(QIODevice::WriteOnly)) return {};
@@ -59,13 +59,13 @@ QString WriteKeymap(const QTemporaryDir& folder, int items) {
   return file.fileName();
 }
 
-// Until nothing is left to draw.
+// Returns when nothing is left to draw.
 void Settle() {
   QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents();
 }
 
-// Since the program began, until the window has drawn its first frame.
+// The time from the start of the program to the window's first frame.
 double FirstFrame(const QTemporaryDir& folder) {
   MainWindow window;
   window.LoadKeymap(WriteKeymap(folder, kUsualItems));

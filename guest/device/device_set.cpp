@@ -67,7 +67,7 @@ std::string DeviceSet::Make(KernelDevice device) {
 std::string DeviceSet::MakeMissing(const KernelEvents& events) {
   bool is_any_new = false;
   for (const KernelEvent& event : events) {
-    if (event.type != EV_SYN || devices_.count(event.device) > 0) continue;  // each frame has one
+    if (event.type != EV_SYN || devices_.count(event.device) > 0) continue;  // each frame ends with one
     const std::string error = Make(event.device);
     if (!error.empty()) return error;
     is_any_new = true;

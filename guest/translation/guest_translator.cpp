@@ -16,7 +16,7 @@ using Kind = GuestLine::Kind;
 namespace {
 
 constexpr double kAmountOfNotch = 100;
-constexpr double kMostNotches = 1000;  // per line; nobody scrolls further
+constexpr double kMostNotches = 1000;  // per line; far beyond any real scroll
 constexpr int kPartsOfNotch = 120;     // the kernel's unit of high-resolution wheels
 
 // A line with a number in its last field has the pointer's position in place of the amount, and is one notch.

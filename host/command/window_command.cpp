@@ -134,7 +134,7 @@ struct WindowOptions {
   QString record;  // empty: none
   QString replay;  // empty: none
   bool has_second_view = false;
-  QString listen;  // empty: to nobody
+  QString listen;  // empty: does not listen
   QStringList mirror;
   QVector<TargetAddress> targets;
   QString picture;  // empty: none

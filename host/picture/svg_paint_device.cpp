@@ -131,7 +131,7 @@ class SvgPaintEngine : public QPaintEngine {
     return lengths.isEmpty() ? QStringLiteral("none") : lengths.join(QLatin1Char(' '));
   }
 
-  // A clip is an element of its own that others refer to.
+  // A clip is a separate element that others refer to.
   void TakeClip() {
     clip_.clear();
     if (!painter()->hasClipping()) return;

@@ -28,9 +28,9 @@ struct ChartMark {
 
 struct ChartLane {
   enum class Group {
-    kInput,  // what the player does
-    kGuest,  // what the guest gets
-    kHost    // what the host is told
+    kInput,  // the player's input
+    kGuest,  // the guest's input
+    kHost    // notifications to the host
   };
 
   Group group = Group::kInput;

@@ -21,9 +21,9 @@ using Microseconds = std::chrono::microseconds;
 constexpr qint64 kTicksOfMs = 1000;  // the clock's ticks are microseconds
 constexpr qint64 kTicksOfSecond = 1'000'000;
 constexpr qint64 kNanosecondsOfTick = 1000;
-constexpr int kMostAtOnce = 16;  // files; others are returned by the next call
+constexpr int kMostAtOnce = 16;  // files; the next call returns the others
 
-// The events of a QSocketNotifier::Type. The end of a file and its errors are reported to all.
+// The events of each QSocketNotifier::Type. All types get the end of a file and its errors.
 constexpr std::uint32_t kAsked[] = {EPOLLIN, EPOLLOUT, EPOLLPRI};
 constexpr std::uint32_t kAlwaysReported = EPOLLHUP | EPOLLERR;
 
@@ -43,7 +43,7 @@ EpollDispatcher::~EpollDispatcher() {
   for (const int file : {alarm_, waking_, epoll_}) ::close(file);
 }
 
-// The same clock as the alarm's.
+// The alarm's clock.
 qint64 EpollDispatcher::Now() const {
   return std::chrono::duration_cast<Microseconds>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
@@ -84,7 +84,7 @@ std::uint32_t EpollDispatcher::EventsOf(const Notifiers& notifiers) {
   return events;
 }
 
-// The kernel has removed files that were closed, so a known number may be a new file.
+// The kernel removes closed files from its list, so a file number in `notifiers_` may belong to a new file.
 void EpollDispatcher::Watch(int file, std::uint32_t events) {
   epoll_event event{};
   event.events = events;
@@ -104,7 +104,7 @@ bool EpollDispatcher::ServeFiles(bool waits) {
   bool is_any_served = false;
   for (int i = 0; i < count; ++i) {
     const int file = ready[i].data.fd;
-    if (file == alarm_) continue;  // setting it again clears it
+    if (file == alarm_) continue;  // the next timerfd_settime clears it
     is_any_served = true;
     if (file == waking_) {
       TakeWakeUp();
@@ -115,14 +115,14 @@ bool EpollDispatcher::ServeFiles(bool waits) {
   return is_any_served;
 }
 
-// Events posted from now on wake the loop again; those posted before are delivered next.
+// Events posted after this wake the loop again; those posted earlier are delivered in the next pass.
 void EpollDispatcher::TakeWakeUp() {
   eventfd_t times = 0;
   ::eventfd_read(waking_, &times);
   is_woken_ = false;
 }
 
-// A receiver may delete any notifier.
+// A handler may delete any notifier.
 void EpollDispatcher::Serve(int file, std::uint32_t events) {
   for (std::size_t type = 0; type < std::size(kAsked); ++type) {
     if ((events & (kAsked[type] | kAlwaysReported)) == 0) continue;

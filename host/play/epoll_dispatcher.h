@@ -10,11 +10,11 @@
 
 namespace tavi {
 
-// The event dispatcher of `tavi play`, which has less latency than Qt's own: that passes all its files to poll() at
-// each event, which costs more than the rest of Qt's part in a key's path. Here the kernel keeps the list of files, and
-// returns the one that is ready.
+// The event dispatcher of `tavi play`. Its latency is lower than that of Qt's own, which passes all its files to poll()
+// at each event; that costs more than the rest of Qt's part in a key's path. With epoll the kernel keeps the list of
+// files, and returns only those that are ready.
 //
-// Install it before you create the application object, which then owns it. It does not serve windows, and ignores
+// Install it before you create the application object, which then owns it. It does not support windows, and ignores
 // QEventLoop::ExcludeSocketNotifiers and X11ExcludeTimers.
 //
 // Threads: the main thread; wakeUp and interrupt may be called on any thread.
@@ -38,7 +38,7 @@ class EpollDispatcher : public TimedDispatcher {
 
   bool HasPosted() const override { return is_woken_; }
   qint64 Now() const override;
-  // An event loop inside a timer's handler does not wait for that timer.
+  // A nested event loop in a timer's handler does not wait for that timer.
   static bool IsFree(const Timer& timer) { return !timer.in_handler; }
   static std::uint32_t EventsOf(const Notifiers& notifiers);
   // Without events, removes the file.

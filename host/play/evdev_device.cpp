@@ -16,9 +16,9 @@ namespace tavi {
 namespace {
 
 constexpr std::size_t kBitsInByte = 8;
-constexpr std::size_t kMostAtOnce = 64;  // events; the kernel has more ready where nobody read for long
+constexpr std::size_t kMostAtOnce = 64;  // events; after a long pause the kernel may have more
 
-// Of one device, none when it is gone.
+// The keys of a device that are down; none if the device is gone.
 std::bitset<KEY_CNT> KeysDown(int file) {
   unsigned char bytes[KEY_CNT / kBitsInByte] = {};
   std::bitset<KEY_CNT> keys;
@@ -109,7 +109,7 @@ void EvdevDevice::Take(const input_event& event, const FrameTaker& take) {
   }
 }
 
-// The kernel takes the events of keys back that it had ready for us, so that none of them comes behind what it says.
+// EVIOCGKEY also drops the queued key events of this reader, so no event older than the returned state follows it.
 void EvdevDevice::CatchUp() {
   const std::bitset<KEY_CNT> now = KeysDown(file_);
   const std::bitset<KEY_CNT> changed = now ^ down_;

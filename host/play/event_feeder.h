@@ -48,7 +48,7 @@ class EventFeeder : public QObject {
  private:
   struct Key {
     std::vector<int> devices;  // the devices on which it is down
-    bool is_told = false;      // it is down for the library
+    bool is_told = false;      // the library has it as down
   };
   struct Motion {
     int dx = 0;

@@ -28,7 +28,7 @@ QString PlayControl::UseApp(const QString& app) {
   if (!problem.isEmpty()) return problem;
   app_ = app;
   problem = apps_->Remember(app);
-  if (!problem.isEmpty()) session_->Tell(problem);  // it is played all the same
+  if (!problem.isEmpty()) session_->Tell(problem);  // played nevertheless
   return {};
 }
 

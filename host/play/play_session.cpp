@@ -229,7 +229,7 @@ void PlaySession::TakeFrame(int device, const InputFrame& frame, bool is_grabbed
 
 void PlaySession::TakeGone(int device) { feeder_.Forget(device); }
 
-// ---- What it tells
+// ---- Messages
 
 QString PlaySession::MappingText() const {
   if (mapping_.IsPaused()) return QStringLiteral("mapping off");

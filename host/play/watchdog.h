@@ -20,7 +20,7 @@ class Watchdog {
   // Checks every `look_ms` milliseconds, and bites after `patience` successive checks without any activity.
   Watchdog(int look_ms, int patience, std::function<void()> bite);
   ~Watchdog();
-  // From now on it bites after two checks, because somebody waits. Any thread.
+  // From now on it bites after two checks, because someone is waiting for the end. Any thread.
   void Hurry() { patience_ = kHurriedPatience; }
   Watchdog(const Watchdog&) = delete;
   Watchdog& operator=(const Watchdog&) = delete;

@@ -11,7 +11,7 @@ using End = WalkResult::End;
 
 namespace {
 
-// Each delay is truncated by itself, as in a replay; a value that is not a number counts as none.
+// Each delay is truncated separately, as in a replay; a value that is not a number counts as none.
 int AtSpeed(int ms, double speed) {
   const double delay = 1.0 / (speed > 0 ? speed : 1.0) * ms;
   if (!(delay > 0)) return 0;

@@ -1,4 +1,4 @@
-// Checks a record that the library was told to write. The library reports success even if the disk took only part of
+// Checks a record that the library was asked to write. The library reports success even if the disk took only part of
 // it, so the file itself is checked.
 #ifndef HOST_RECORD_WRITTEN_RECORD_H_
 #define HOST_RECORD_WRITTEN_RECORD_H_

@@ -13,7 +13,7 @@ class VirtualEventDispatcher;
 // On the platform "offscreen", windows are exposed, activated and resized only by the event dispatcher of the platform.
 // An application on virtual time has another dispatcher, so the platform's is taken from a temporary application:
 //
-//   const PlatformEvents events;  // no application is there yet
+//   const PlatformEvents events;  // before the application
 //   auto* time = new VirtualEventDispatcher;
 //   events.DeliverBy(time);
 //   QCoreApplication::setEventDispatcher(time);
@@ -27,8 +27,8 @@ class PlatformEvents {
   PlatformEvents(const PlatformEvents&) = delete;
   PlatformEvents& operator=(const PlatformEvents&) = delete;
 
-  // They are delivered with the posted events, and behind those that are there, as Qt's own dispatchers do: what is
-  // posted before a dialog opens comes before the dialog is active.
+  // Delivers the platform's events with the posted events, after those already queued, like Qt's own dispatchers: an
+  // event posted before a dialog opens is delivered before the dialog becomes active.
   void DeliverBy(VirtualEventDispatcher* time) const;
 
  private:

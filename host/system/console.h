@@ -20,7 +20,7 @@ constexpr char kStandardStream[] = "-";
 void Print(const QString& text);           // to standard output, as UTF-8
 void PrintBytes(const QByteArray& bytes);  // to standard output
 void PrintError(const QString& text);      // to standard error
-// From here on each print is seen at once. Before the first one.
+// Flushes each print from now on. Call it before the first print.
 void PrintAtOnce();
 
 // The first error of writing to standard output, or an empty string. If nobody reads it anymore, each of these

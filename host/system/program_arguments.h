@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// The words behind the program's name, whole where `argv` has not all of their letters.
+// The arguments after the program's name, complete even where `argv` cannot represent all of their characters.
 QStringList ProgramArguments(int argc, char** argv);
 
 }  // namespace tavi

@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// `argv` has only the letters of the system's code page.
+// `argv` can only represent characters of the system's code page.
 QStringList ProgramArguments(int /*argc*/, char** /*argv*/) {
   int count = 0;
   const std::unique_ptr<wchar_t*, decltype(&LocalFree)> all(CommandLineToArgvW(GetCommandLineW(), &count), LocalFree);

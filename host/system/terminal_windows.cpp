@@ -40,7 +40,7 @@ BOOL WINAPI TakeInterrupt(DWORD kind) {
   return TRUE;
 }
 
-UINT encoding_before = 0;  // of what the console shows, which goes on when this program has ended
+UINT encoding_before = 0;  // the console's code page, restored at exit: the console outlives this program
 
 void RestoreEncoding() { SetConsoleOutputCP(encoding_before); }
 
@@ -63,7 +63,7 @@ void SetCleanUp(std::function<void()> clean_up) { SetReaction(&clean_up_reaction
 
 void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&take_reaction, std::move(take)); }
 
-// No line end becomes another one, and no letter is the end of a file.
+// Binary mode: line ends are not translated, and Ctrl+Z does not end the input.
 void MakeStreamsPlain() {
   for (FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
   encoding_before = GetConsoleOutputCP();

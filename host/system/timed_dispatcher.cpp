@@ -32,7 +32,7 @@ QList<QAbstractEventDispatcher::TimerInfo> TimedDispatcher::registeredTimers(QOb
   return found;
 }
 
-// A part of a millisecond is a whole one.
+// Rounded up to whole milliseconds.
 int TimedDispatcher::remainingTime(int id) {
   const auto found = timers_.find(id);
   if (found == timers_.end()) return -1;

@@ -1,4 +1,4 @@
-// The timers of our own event dispatchers.
+// Timers for our own event dispatchers.
 #ifndef HOST_SYSTEM_TIMED_DISPATCHER_H_
 #define HOST_SYSTEM_TIMED_DISPATCHER_H_
 
@@ -9,11 +9,11 @@
 
 namespace tavi {
 
-// Timers fire by due time, those with equal due times by the time of their last start or timeout. On a timeout, before
-// the timer event, the due time advances by the interval; if that is in the past as well, it becomes one interval from
-// now. A timer does not fire inside its own handler. All timers are precise.
+// Timers fire in the order of their due times, and of their last start or timeout if those are equal. On a timeout, the
+// due time advances by the interval before the timer event is sent; if the new time has passed as well, it becomes one
+// interval from now. A timer does not fire inside its own handler. All timers are precise.
 //
-// Times are in ticks of the dispatcher's clock. Only the dispatcher's thread.
+// Times are in ticks of the dispatcher's clock. The dispatcher's thread only.
 class TimedDispatcher : public qt::EventDispatcher {
  public:
   // QAbstractEventDispatcher.

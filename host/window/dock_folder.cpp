@@ -61,7 +61,7 @@ void DockFolder::Fold(Entry* entry) {
   }
 }
 
-// Depends on the size of the window alone: the size of the view changes with what is done here.
+// Depends only on the size of the window, because the size of the view changes with the docks.
 bool DockFolder::IsCrowded(const QDockWidget* dock) const {
   const QSize least = dock->minimumSizeHint();
   const Qt::DockWidgetArea area = window_->dockWidgetArea(const_cast<QDockWidget*>(dock));

@@ -39,7 +39,7 @@ class MirrorLabel : public QLabel {
   void ShowMirrors();
 
   std::unique_ptr<MirrorServer> server_;
-  QString listens_as_;  // empty: nobody
+  QString listens_as_;  // empty: does not listen
   int sources_ = 0;
 };
 

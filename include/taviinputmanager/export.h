@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-// TAVI_STATIC is defined on Windows, where it makes a difference, for what is linked with static libraries.
+// On Windows, targets that link the static libraries define TAVI_STATIC. Elsewhere it makes no difference.
 #if defined(TAVI_STATIC)
 #define TAVI_EXPORT
 #elif defined(TAVI_BUILDING_INPUTMANAGER)

@@ -17,7 +17,7 @@ class SharedTexts {
   QString Of(std::string_view ascii);
   // The same text, shared with an equal one.
   QString Of(const QString& text);
-  // Makes it that one.
+  // Replaces the text with its shared copy.
   void Share(QString* text);
 
  private:

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The input manager library exports the functions of its header and no other symbol, and a program can link each. Both
-libraries have their version in their names and at each symbol.
+"""The input manager library exports exactly the functions of its header, and a program can link each of them. Both
+libraries have their version in their names and on each symbol.
 
     exported_symbols_test.py NM READELF LIBRARY KEYMAP_LIBRARY INCLUDE_DIR VERSION WORK_DIR COMPILER QT_CORE
         QT_INCLUDE_DIR...
@@ -25,7 +25,7 @@ def output_of(*command):
 
 
 def exported(library):
-    """(demangled name with arguments, version node) of what a library defines for others."""
+    """(demangled name with arguments, version node) of each symbol that a library exports."""
     lines = output_of(NM, "--dynamic", "--defined-only", "--demangle", library).splitlines()
     symbols = [line.split(" ", 2)[1:] for line in lines]
     return [symbol.rsplit("@@", 1) if "@@" in symbol else [symbol, None] for kind, symbol in symbols if kind != "A"]
@@ -37,7 +37,7 @@ def declared():
 
 
 def program_of_all():
-    """A program that has the address of each declared function, with the types of its compiler and its Qt."""
+    """A program that takes the address of each declared function, with the types of this compiler and this Qt."""
     addresses = "".join(f"    reinterpret_cast<Function*>({NAMESPACE}{name}),\n" for name in declared())
     return (f'#include "{HEADER}"\nusing Function = void();\nFunction* const volatile functions[] = {{\n{addresses}}};\n'
             "int main() { return functions[0] ? 0 : 1; }\n")

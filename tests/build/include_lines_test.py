@@ -94,7 +94,7 @@ WITHOUT_WIDGETS = ["host/gamepad", "host/guest", "host/mirror", "host/record", "
                    "host/target"]
 WIDGETS = re.compile(r"Q(Application|Widget|MainWindow|Dialog|Label|Menu|Action|\w*Button|\w*View|\w*Layout)$")
 WORKER = re.compile(r"_worker(_\w+)?\.(h|cpp)$")
-# Differences between the Qts: "qt/x.h" is in two folders, one of which a build includes. They depend on Qt alone. All
+# Differences between the Qts: "qt/x.h" is in two folders, one of which a build includes. They depend only on Qt. All
 # folders except the installed headers may use them.
 QTS = ["qt/5", "qt/6"]
 # Helpers for the calls of one system. Only its own files, *_windows.cpp, use them.

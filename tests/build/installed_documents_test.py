@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""No link of an installed document leads to what is not installed.
+"""Installed documents link only to installed files.
 
     installed_documents_test.py BUILD_DIR WORK_DIR CMAKE
 """

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""An installed tree is complete, can be moved, and others can build on it by CMake and by pkg-config.
+"""An installed tree is complete, can be moved, and others can build against it with CMake and with pkg-config.
 
     installed_tree_test.py BUILD_DIR SOURCE_DIR LIB_DIR WORK_DIR CMAKE GENERATOR COMPILER QT
 """

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Documents, comments, help pages and messages do not use the phrases that were taken out of them.
+"""Documents, comments, help pages and messages do not use the phrases listed here.
 
     prose_test.py SOURCE_DIR
 
@@ -20,7 +20,7 @@ WITHOUT_PROSE = ["completions", "docs/man", "docs/pictures", "fuzz/corpus", "pac
                  "tests/build/prose_test.py"]
 LINK_TARGET = re.compile(r"\]\([^)]*\)")
 
-# What is not written, and what is written instead.
+# Words to avoid, and their replacements.
 PHRASES = [
     (r"stands? (here|there|below|above|beside|behind|for|in front|in the|at the)", "is"),
     (r"here stands?|what stands|there stands?", "is"),
@@ -127,7 +127,7 @@ class Prose(unittest.TestCase):
 
 
 class Text:
-    """A file that is only its text."""
+    """A file in memory."""
 
     def __init__(self, path, suffix, text):
         self.path, self.suffix, self.text = path, suffix, text

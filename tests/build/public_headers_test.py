@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Each public header compiles by itself, also in a project that is stricter than ours about its own code.
+"""Each public header compiles by itself, also in a project with stricter warnings than ours.
 
     public_headers_test.py BUILD_DIR WORK_DIR CMAKE COMPILER QT_INCLUDE_DIR...
 """

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""With BUILD_SHARED_LIBS off there are static libraries, and others can build on them by CMake and by pkg-config.
+"""With BUILD_SHARED_LIBS off the libraries are static, and others can build against them with CMake and pkg-config.
 
     static_libraries_test.py SOURCE_DIR BUILD_DIR WORK_DIR LIB_DIR CMAKE GENERATOR COMPILER OPTION...
 
-BUILD_DIR should lie beside the build folder of the tree, and the options be those that it has: a compiler cache then
-knows all of the objects.
+BUILD_DIR should be next to the tree's build folder, and the options should be the same: then a compiler cache has all
+objects.
 """
 import os
 import shutil

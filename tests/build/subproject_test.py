@@ -18,7 +18,7 @@ PARENT = Path(__file__).with_name("subproject")
 
 
 class Project:
-    """The outer project, configured in a folder of its own."""
+    """The outer project, configured in a separate folder."""
 
     def __init__(self, name, *options):
         self.folder = Path(WORK) / name

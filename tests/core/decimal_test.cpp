@@ -44,7 +44,7 @@ TEST(Decimal, WhatIsNoIntReadsAsZero) {
   }
 }
 
-// As a number that was padded.
+// As in padded numbers.
 TEST(Decimal, LeadingZerosCountForNothing) { EXPECT_EQ(12, Read("0012")); }
 
 }  // namespace

@@ -103,7 +103,7 @@ class TickWorker : public QObject {
     if (count_ >= ticks_) Q_EMIT Finished();
   }
 
-  Journal* journal_;  // null: nobody reads
+  Journal* journal_;  // null: not read
   int ticks_;
   int interval_ms_;
   int count_ = 0;

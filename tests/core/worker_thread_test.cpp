@@ -55,7 +55,7 @@ TEST_P(WorkerRun, BeginsAndTicksWhileItsCallerBlocks) {
   for (int i = 0; i < kPatienceMs && journal_.Count(QStringLiteral("tick")) < 3; ++i) Clock::Sleep(1);
   EXPECT_GE(journal_.Count(QStringLiteral("tick")), 3);
   EXPECT_EQ(journal_.Take().substr(0, 13), "process, tick");
-  EXPECT_EQ(owner_.ticks, 0);  // what it signalled waits for the event loop
+  EXPECT_EQ(owner_.ticks, 0);  // its signals wait for the event loop
   EXPECT_TRUE(RunUntil([this] { return owner_.ticks >= 3; }));
   EXPECT_TRUE(owner_.ticks_came_in_order);
 }
@@ -334,7 +334,7 @@ TEST_P(RealRun, AnswersRequestsThatWereOnTheirWayWhenItsWorkerGaveItselfUp) {
 }
 
 TEST_P(RealRun, LosesNothingOfRequestsThatMeetTheEndOfItsWorker) {
-  // A leak checker would find what was lost.
+  // A leak checker would find a lost request.
   for (int i = 0; i < 300; ++i) {
     const QPointer<WorkerThread> run = owner_.StartRun(1, 0);
     while (run) {

@@ -60,7 +60,7 @@ TEST_F(VirtualInput, AVirtualPointerHasNoWheel) {
   Settings().wheel_transparent = true;
   Load();
   manager_->DispatchVirtualEvent("mouse", 77, 548, true, {100, 200});
-  EXPECT_WIRE_NONE();  // a button that nobody knows
+  EXPECT_WIRE_NONE();  // an unknown button
 }
 
 TEST_F(VirtualInput, ACodeBelowZeroIsNoButton) {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The commands in the documents print what the documents say.
+"""The commands in the documents print the output that the documents show.
 
     document_commands_test.py SOURCE_DIR TAVI
 

@@ -1,4 +1,4 @@
-// The end of a front end, or of the guest: what is down is lifted.
+// When a front end or the guest ends, everything that is down is lifted.
 #include "guest/translation/device_description.h"
 #include "tests/guest/played_lines.h"
 
@@ -58,7 +58,7 @@ TEST_F(LiftAll, ForgetsAPartOfANotch) {
   EXPECT_EQ(Play("WHEEL_WITH_DELTA:1:1:50:0").size(), 5u);  // the position, the parts and its report, but no REL_WHEEL
 }
 
-// Regardless of what was done before; the kernel drops what is already so. 26 slots and the touch; 248 keys.
+// Regardless of earlier lines; the kernel drops events that change nothing. 26 slots and the touch; 248 keys.
 TEST(RestFrame, LiftsAllThatADeviceCanHoldDown) {
   const Texts screen = TextsOf(RestFrame(KernelDevice::kScreen, {}));
   ASSERT_EQ(screen.size(), 26u * 2 + 2);

@@ -18,7 +18,7 @@
 namespace taviguest {
 namespace {
 
-// The host reads lines by the guest's own reader, from another kind of text.
+// The host uses the guest's parser, but converts its text from a QString.
 void CompareLine(const std::string& text) {
   SCOPED_TRACE(text);
   const tavi::GuestLine theirs = tavi::ParseGuestLine(QString::fromStdString(text));

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""The guest's static programs play lines as the one of this machine does.
+"""The guest's static programs play lines like this machine's own build.
 
     static_guests_test.py TAVI_GUEST WORK_DIR SOURCE_DIR
 
-tools/build_guest makes them, and qemu-user runs those of other machines. What is missing for all of them makes it skip,
-with exit status 77; what is missing for one is told.
+tools/build_guest builds them, and qemu-user runs those of other machines. If something that all of them need is missing,
+the test is skipped with exit status 77; if only one needs it, it is reported.
 """
 import platform
 import shutil
@@ -15,7 +15,7 @@ from pathlib import Path
 
 GUEST, WORK, ROOT = (Path(argument) for argument in sys.argv[1:4])
 
-# Each with its compiler, and with what runs it on another machine.
+# Each with its compiler, and the emulator that runs it on other machines.
 ARCHITECTURES = {
     "aarch64": ("aarch64-linux-gnu-g++", "qemu-aarch64-static"),
     "armv7": ("arm-linux-gnueabihf-g++", "qemu-arm-static"),
@@ -23,7 +23,7 @@ ARCHITECTURES = {
 }
 MOST_BYTES = 700_000
 
-# One of each form, texts, halves, blanks, exponents, and what is wrong.
+# One line of each form, texts, halves, blanks, exponents, and invalid lines.
 LINES = "\n".join("""
 1:SLOTPRESS:2:2:1:1:640:360
 1:SLOTPRESS:18:18:1:1:640.5:-0.5
@@ -55,7 +55,7 @@ def play(*command):
 
 
 def how_to_run(architecture):
-    """The words in front of the program; None where it cannot run."""
+    """The command that starts the program; None if it cannot run."""
     machine = {"armv7l": "armv7"}.get(platform.machine(), platform.machine())
     if machine == architecture:
         return []

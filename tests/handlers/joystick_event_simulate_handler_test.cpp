@@ -22,7 +22,7 @@ using tavikeymapmanager::JoystickEvent;
 using tavikeymapmanager::SpellCancelConfigItem;
 using tavikeymapmanager::TipConfigItem;
 
-// Each button taps at a point of its own: "A" at x = 128, "B" at 256, "A+B" at 384, "X+B" at 512.
+// Each button taps at its own point: "A" at x = 128, "B" at 256, "A+B" at 384, "X+B" at 512.
 class Gamepad : public Story {
  protected:
   void SetUp() override { Load(); }  // an empty keymap, for display 1

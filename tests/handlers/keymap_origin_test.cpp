@@ -5,7 +5,7 @@
 namespace taviinputmanager {
 namespace {
 
-// The tests include programs with functions that override them.
+// Other test programs override these functions.
 TEST(KeymapOrigin, IsTheLibraryInAnOrdinaryProgram) {
   EXPECT_TRUE(IsKeyCreationOwn());
   EXPECT_TRUE(IsKeyMatchOwn());

@@ -15,7 +15,7 @@ namespace {
 ConfigKey KeyboardKey(int scancode) { return {keywords::kDeviceKeyboard, QString(), scancode, scancode}; }
 ConfigKey JoystickKey(const QString& name) { return {keywords::kDeviceJoystick, name}; }
 
-// ---- What the index stands for: a walk over the list ----
+// ---- The index replaces a walk over the list ----
 
 bool IsTip(const ConfigItem* item) { return dynamic_cast<const TipConfigItem*>(item) != nullptr; }
 
@@ -39,7 +39,7 @@ ConfigItem* WalkChord(const QList<ConfigItem*>& items, const ConfigKey& armed, c
   return nullptr;
 }
 
-// ---- Items with a matching of their own ----
+// ---- Items with their own matching ----
 
 // The calls, in order.
 std::vector<std::string> asked;

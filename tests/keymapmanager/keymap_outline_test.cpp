@@ -102,7 +102,7 @@ TEST(ItemTypes, GiveAnItemOtherNumbers) {
   EXPECT_EQ(NumbersOfField(*items[0], "point"), (QVector<double>{0.125, 0.75}));
   EXPECT_EQ(NumbersOfField(*items[0], "radius"), QVector<double>{0.2});
   EXPECT_EQ(NumbersOfField(*items[1], "range_size"), (QVector<double>{1, 0.5}));
-  SetNumbersOfField(items[0], "radius", {0.1, 0.1});  // it has one
+  SetNumbersOfField(items[0], "radius", {0.1, 0.1});  // a radius is one number
   SetNumbersOfField(items[0], "nothing", {0.1});
   EXPECT_EQ(NumbersOfField(*items[0], "radius"), QVector<double>{0.2});
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What tools/mutants changes of a source, and what it lets alone.
+"""What tools/mutants changes in a source, and what it leaves alone.
 
     changes_test.py SOURCE_DIR
 """
@@ -22,7 +22,7 @@ def of(text, path="core/a.cpp"):
 
 
 def lines_after(statement):
-    """The changed forms of a line in a function, by no order."""
+    """The changed forms of a line in a function, unordered."""
     text = FUNCTION.format(statement)
     return {change.after for change in of(text) if change.line == 3}
 

@@ -1,4 +1,4 @@
-// The text of JSON documents, the same on each Qt: what is expected is what Qt 5.15 writes.
+// JSON documents are written alike on both Qt versions: the expected texts are those of Qt 5.15.
 #include "qt/json_text.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ TEST_P(NumbersOfJson, AreWrittenAsQt5WritesThem) {
   const QJsonDocument document = QJsonDocument::fromJson('[' + QByteArray(GetParam().read) + ']');
   const QByteArray expected = '[' + QByteArray(GetParam().written) + ']';
   EXPECT_EQ(qt::JsonText(document, QJsonDocument::Compact), expected) << GetParam().read;
-  // A number that was computed looks like one that was read.
+  // A computed number is written like one that was read.
   const QJsonArray computed{document.array().at(0).toDouble()};
   EXPECT_EQ(qt::JsonText(QJsonDocument(computed), QJsonDocument::Compact), expected) << GetParam().read;
 }
@@ -32,10 +32,10 @@ const Row kRows[] = {
     {"2.50", "2.5"},
     {"123456789.125", "123456789.125"},
     {"9007199254740991", "9007199254740991"},  // 2^53 - 1
-    {"9007199254740993", "9007199254740992"},  // beyond 2^53 a double has even numbers alone
+    {"9007199254740993", "9007199254740992"},  // beyond 2^53 a double holds only even integers
     {"-9007199254740993", "-9007199254740992"},
     {"1e16", "10000000000000000"},
-    {"9223372036854775807", "9223372036854776000"},  // 2^63 - 1: the fewest digits that tell its double
+    {"9223372036854775807", "9223372036854776000"},  // 2^63 - 1: the shortest digits that read back as its double
     {"-9223372036854775808", "-9223372036854776000"},
     {"1e19", "10000000000000000000"},
     {"18446744073709551616", "18446744073709552000"},  // 2^64

@@ -1,4 +1,4 @@
-// Whole numbers in texts, the same on each Qt: what is expected is what Qt 5.15 reads.
+// Integers in texts are read alike on both Qt versions: the expected values are those of Qt 5.15.
 #include "qt/numbers.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 namespace taviinputmanager {
 namespace {
 
-// A text of its own, like one that comes from a line.
+// A separate text, like one from a line.
 QString Own(const char* text) { return QString::fromLatin1(text); }
 
 TEST(ActionTrack, EqualShortTextsAreOne) {

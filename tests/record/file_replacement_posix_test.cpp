@@ -1,4 +1,4 @@
-// Files that are replaced, where there are permissions, links, devices and limits.
+// Replacing files that have permissions, links, devices or size limits.
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -15,7 +15,7 @@
 namespace taviinputmanager {
 namespace {
 
-// No file can grow beyond `bytes` while this lives, as on a disk that is full.
+// While this exists, no file can grow beyond `bytes`, like on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {
@@ -30,7 +30,7 @@ class FullDisk {
   rlimit before_{};
 };
 
-// Somebody without special rights while this lives: nothing is forbidden to root.
+// While this exists, the process has no special rights: root may do anything.
 class PlainUser {
  public:
   PlainUser() {
@@ -87,7 +87,7 @@ TEST_F(FileReplacementOnPosix, AFullDiskMakesNoHalfAFile) {
   EXPECT_EQ("", Names().join(' ').toStdString());
 }
 
-// The disk fills up when the copy is complete already.
+// The disk fills up after the copy is complete.
 TEST_F(FileReplacementOnPosix, AFileThatTakesAPartOnlyIsReplacedByItsCopy) {
   const QString file = Put("record", "before");
   SetMode(file, 0640);
@@ -116,7 +116,7 @@ TEST_F(FileReplacementOnPosix, AFileThatIsNotWholeAndCannotBeMovedAwayKeepsItsCo
   while (Bytes(file) == "before") {
     if (!save.Step()) GTEST_SKIP() << "this system forbids that too";
   }
-  Put("record", "what is longer");  // by somebody else, before it is written
+  Put("record", "what is longer");  // by another program, before it is written
   EXPECT_TRUE(save.Finish());
   EXPECT_EQ("and afteronger", Bytes(file));
   ASSERT_EQ(2, Names().size());
@@ -169,7 +169,7 @@ TEST_F(FileReplacementOnPosix, WhereNoFileCanBeMadeBesideItIsWrittenInPlace) {
   EXPECT_EQ("after", Bytes(file));
 }
 
-// In a folder like /tmp only its owner may move a file away.
+// In a folder like /tmp only its owner may rename a file.
 TEST_F(FileReplacementOnPosix, WhereAFileCannotBeMovedAwayIsWrittenInPlace) {
   if (geteuid() != 0) GTEST_SKIP() << "needs a file of somebody else";
   const QString file = Put("record", "before");

@@ -33,7 +33,7 @@ TEST_F(FileReplacement, WhoHoldsItOpenReadsWhatIsNew) {
   EXPECT_EQ("after", reader.readAll());
 }
 
-// As a full disk does.
+// Like a full disk.
 TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
   const FileContent half = [](QIODevice* target) {
     target->write("half");
@@ -58,7 +58,7 @@ TEST_F(FileReplacement, AContentMayBeMadeOfTheFileItself) {
   }
 }
 
-// A name that is like that of a copy, but is none.
+// A name that looks like that of a copy, but is none.
 TEST_F(FileReplacement, FilesOfOthersStay) {
   const QString file = Put("record", "before");
   for (const char* name : {"record.tavi-copy", "record.tavi-copy-", "record.tavi-copy-abcde",
@@ -81,7 +81,7 @@ TEST_F(FileReplacement, AFolderIsRefused) {
   EXPECT_EQ("folder", Names().join(' ').toStdString());
 }
 
-// One beside it would have a longer name, and no file has.
+// A copy beside it would have a longer name, which is impossible.
 TEST_F(FileReplacement, AFileOfTheLongestNameIsWrittenInPlace) {
   const QString file = Path(QString(255, 'n'));
   EXPECT_TRUE(ReplaceFile(file, "first"));

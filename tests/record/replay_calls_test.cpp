@@ -123,7 +123,7 @@ TEST_F(ReplayCalls, AChangeOfDisplayTakesItsPlaceInTheOrder) {
   EXPECT_EQ(1, program_.Count("2:KBDPR:30:1"));
 }
 
-// ---- The main thread goes on while the host is being told of the end ----
+// ---- The main thread continues during the host's callback for the end ----
 
 // Where the host blocks, and how many lines of the reset are recorded by then: slots 18 to 25 are released one by one,
 // and a line is recorded after it was sent and mirrored.

@@ -1,4 +1,4 @@
-// Which files replays hold: by locks, for those who ask for them.
+// Which files replays lock. The locks are advisory.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -14,7 +14,7 @@ namespace {
 
 class ReplayHolds : public ReplayStory {
  protected:
-  // How many open files of this process are that one.
+  // How many open files of this process are this one.
   int Handles(const QString& name) const {
     const QString path = QFileInfo(Path(name)).canonicalFilePath();
     int count = 0;
@@ -23,7 +23,7 @@ class ReplayHolds : public ReplayStory {
     }
     return count;
   }
-  // Whether one who asks for locks may write.
+  // Whether a program that uses locks may write.
   bool MayWrite(const QString& name) const {
     const int file = open(Path(name).toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
     EXPECT_GE(file, 0);
@@ -74,7 +74,7 @@ TEST_F(ReplayHolds, TheSecondReplayOfAFileTakesTheEntry) {
   Stop(7, "a.json");
   EXPECT_EQ(1, Handles("a.json"));
   Stop(8, "a.json");
-  EXPECT_EQ(1, Handles("a.json"));  // the first stays open for good
+  EXPECT_EQ(1, Handles("a.json"));  // the first one's stays open permanently
   EXPECT_FALSE(MayWrite("a.json"));
 }
 

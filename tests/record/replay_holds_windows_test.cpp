@@ -1,4 +1,4 @@
-// Which files replays hold: others may read them, and neither write nor delete them.
+// Which files replays hold: other programs may read them, but neither write nor delete them.
 #include <windows.h>
 
 #include <QDir>
@@ -13,7 +13,7 @@ namespace {
 
 class ReplayHolds : public ReplayStory {
  protected:
-  // What another program may do: "read write delete", as far as it is allowed. Nothing is deleted.
+  // The kinds of access that another program gets, of "read write delete". Deletes nothing.
   std::string Allowed(const QString& name) const {
     const struct {
       const char* name;
@@ -27,7 +27,7 @@ class ReplayHolds : public ReplayStory {
   }
 
  private:
-  // It shares everything, so that only the holder's wish can be in the way.
+  // Opens with full sharing, so that only the holder's share mode can deny access.
   bool Opens(const QString& name, DWORD access) const {
     const HANDLE file = CreateFileW(windows::NativePath(Path(name)).c_str(), access,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
@@ -75,7 +75,7 @@ TEST_F(ReplayHolds, FilesAreHeldOneByOne) {
   EXPECT_EQ(Allowed("b.json"), "read");
 }
 
-// It cannot be held then.
+// Then the replay cannot hold it.
 TEST_F(ReplayHolds, AFileThatSomebodyWritesIsPlayedAllTheSame) {
   Save("a.json", {KeyDown(10, 30), KeyUp(1000, 30)});
   QFile writer(Path("a.json"));
@@ -88,7 +88,7 @@ TEST_F(ReplayHolds, AFileThatSomebodyWritesIsPlayedAllTheSame) {
   EXPECT_EQ(Allowed("a.json"), "read write delete");
 }
 
-// A name of more than 260 characters, in letters that no code page of this system has.
+// A name of more than 260 characters, with characters outside all code pages of this system.
 TEST_F(ReplayHolds, AFileWithALongNameIsHeld) {
   const QString folder = QString(200, QChar(0x6E38));
   ASSERT_TRUE(QDir(Path(".")).mkdir(folder));

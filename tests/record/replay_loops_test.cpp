@@ -140,7 +140,7 @@ class ReplayLoops : public testing::Test {
       return quiet_turns == 3;
     });
   }
-  // All replays end, and what they left down is released.
+  // All replays end, and everything they left down is released.
   void ComeToRest() {
     TheEar().React({});
     ASSERT_TRUE(EndAllReplays());

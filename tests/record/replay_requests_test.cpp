@@ -1,4 +1,4 @@
-// Whom a request reaches, and how replays stop.
+// Which replays a request reaches, and how replays stop.
 #include <QFile>
 
 #include "record/replay_manager.h"

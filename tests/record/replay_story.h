@@ -65,7 +65,7 @@ class ReplayStory : public Story {
     TakeTimeline();
     return std::exchange(story_, {});
   }
-  // Only the lines, of what was not taken yet.
+  // Only the lines that were not taken yet.
   QStringList TakeLines() {
     const QStringList story = TakeStory();
     QStringList lines;

@@ -1,4 +1,4 @@
-// The names of app and package in a script that has none: the call does not return.
+// Asking for the names of app and package of a script without them: the call does not return.
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -12,7 +12,7 @@ namespace {
 
 class ScriptNamesForEver : public testing::Test, protected RecordFiles {};
 
-// A call that does not return is ended from outside, whatever the load of the machine: by computing time alone.
+// A call that does not return is ended by a limit of processor time, which is independent of the machine's load.
 TEST_F(ScriptNamesForEver, AreLookedForForEverWhereTheFirstActionHasNoData) {
   const struct {
     const char* name;

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every record that the library saves in its own tests is one by the schema.
+"""Every record that the library saves in its own tests is valid by the schema.
 
 usage: written_records_test.py TEST_RECORD SCHEMA
 

@@ -1,4 +1,4 @@
-// A timer's slot can be called by its name, as by code that knows nothing but the object.
+// A timer's slot can be called by name, by code that knows only the object.
 #include <QMetaObject>
 
 #include "simulators/cast/spell_event_simulator.h"

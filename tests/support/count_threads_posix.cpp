@@ -11,8 +11,8 @@ namespace taviinputmanager {
 
 namespace {
 
-// A sanitizer starts a thread of its own beside the first that a program starts. That first one is gone only a moment
-// after it was joined.
+// A sanitizer starts a thread of its own with the program's first one. The kernel removes a thread slightly later than
+// join returns, so wait for it.
 bool StartAFirstThread() {
   QString task;
   std::thread([&task] { task = QStringLiteral("/proc/self/task/%1").arg(syscall(SYS_gettid)); }).join();

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The zip for Windows is complete, can be unpacked anywhere, and others can build on it.
+"""The zip for Windows is complete, can be unpacked anywhere, and other projects can build against it.
 
     package_test.py BUILD_DIR SOURCE_DIR WORK_DIR CMAKE GENERATOR TOOLCHAIN
 """
@@ -29,14 +29,14 @@ def run(*command, env=None):
 
 
 def start(program, *arguments, libraries=()):
-    """What a program prints that finds libraries in its own folder and these alone."""
+    """The output of a program that finds libraries only in its own folder and in `libraries`."""
     paths = ";".join(f"Z:{folder}" for folder in libraries)
     environment = {**os.environ, "TAVI_WINE_PATH": paths, "QT_QPA_PLATFORM": "offscreen"}
     return run(SOURCE / "tools" / "windows" / "run", program, *arguments, env=environment)
 
 
 def build(source, name):
-    """A project of its own, which finds the unpacked tree as a CMake package."""
+    """Builds a separate project, which finds the unpacked tree as a CMake package."""
     folder = WORK / name
     run(CMAKE, "-G", GENERATOR, "-S", source, "-B", folder, f"-DCMAKE_TOOLCHAIN_FILE={TOOLCHAIN}",
         f"-DCMAKE_PREFIX_PATH={UNPACKED}")

@@ -81,7 +81,7 @@ class Trial:
 
 
 def drawn(offered, words):
-    """The changes to try, in order, and how many of them are wanted."""
+    """The changes to try, in order, and the number of changes wanted."""
     if words and ":" in words[0]:
         path, line = words[0].rsplit(":", 1)
         wanted = [change for change in offered if change.path == path and change.line == int(line)]
@@ -99,7 +99,7 @@ def show(number, change, verdict, by):
 
 
 def try_all(trial, results, tried, wanted, unseen):
-    """Tries changes until as many as wanted made a program. `unseen` are not tried, and count as such."""
+    """Tries changes until the wanted number of them compiled. `unseen` are not tried, and count as such."""
 
     def verdict_of(change):
         return (UNSEEN, "") if change in unseen else results.get(change) or trial.run(change)
@@ -116,7 +116,7 @@ def try_all(trial, results, tried, wanted, unseen):
                 if verdict in (KILLED, SURVIVED, UNSEEN):
                     show(count.sampled(), change, verdict, by)
     finally:
-        pool.shutdown(cancel_futures=True)  # an interrupted run ends with what is under way
+        pool.shutdown(cancel_futures=True)  # an interrupted run finishes only the changes in progress
     return count
 
 

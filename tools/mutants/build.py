@@ -1,4 +1,4 @@
-"""Builds the copy of the tree, and, beside that build, what a change of one of its files requires.
+"""Builds the copy of the tree, and, outside that build, the targets that a change of one of its files requires.
 
 The state of the build is read once and never changes: any number of threads may try changes, each in a folder of its
 own.
@@ -37,7 +37,7 @@ def _output_of(command):
 
 @dataclass
 class ChangedFile:
-    """A file of the tree and its new content. What is built from it goes to `spare`."""
+    """A file of the tree and its new content. Builds from it go to `spare`."""
     path: str  # from the root
     line: int  # the changed one
     text: str
@@ -89,7 +89,7 @@ class Build:
                 for target in targets if objects.keys() & set(self._link_command(target).split())}
 
     def includes(self, program, path):
-        """Whether an object of the program's own, not only the library, is compiled from the file."""
+        """Whether the program compiles the file itself, and not only the library does."""
         folder = f"/CMakeFiles/{program.name}.dir/"
         return any(folder in f"/{name}" for name in self._dependents.get(path, ()))
 
@@ -98,7 +98,7 @@ class Build:
         text = (self.root / changed.path).read_text()
         return self._optimised(replace(changed, text=text)) == self._optimised(changed)
 
-    # ---- What the build says of itself ----
+    # ---- Queries about the build ----
 
     def _read_commands(self):
         entries = json.loads((self.folder / "compile_commands.json").read_text())
@@ -126,8 +126,8 @@ class Build:
     # ---- A changed file ----
 
     def _objects_of(self, changed, target):
-        """The target's objects that a change concerns. A header's function stands in many, of which the linker takes
-        the first: one of them is enough. A header's constant may be anywhere."""
+        """The target's objects that a change affects. A header's function is in many objects, of which the linker uses
+        the first: rebuilding that one is enough. A header's constant may be anywhere."""
         linked = self._link_command(target).split()
         dependents = [name for name in self._dependents.get(changed.path, ()) if name in linked]
         functions = self._functions.get(f"{changed.path}:{changed.line}", ())
@@ -162,13 +162,13 @@ class Build:
 
     @staticmethod
     def _code(file, folder=None):
-        """An object's content without numbers of lines."""
+        """An object's content without line numbers."""
         bare = (folder or file.parent) / "bare.o"
         subprocess.run(["objcopy", "--strip-debug", file, bare], check=True)
         return bare.read_bytes()
 
     def _link(self, target, objects, spare):
-        """Objects that are new come first: of functions that several define the linker takes theirs."""
+        """New objects come first: if several define a function, the linker takes the first."""
         command = self._link_command(target)
         output = _output_of(command)
         soname = re.search(r"-soname,(\S+)", command)

@@ -14,7 +14,7 @@ _BINARY = {
 }
 _STEPS = {"++": "--", "--": "++"}
 _WORDS = {"true": "false", "false": "true"}
-# A minus or a star behind one of these has no left side.
+# A minus or a star after one of these is unary.
 _NO_OPERAND = {"(", "[", "{", ",", "=", "return", "?", ":", "<", ">", "<=", ">=", "==", "!=", "&&", "||", "+", "-", "*",
                "/", "%", "case"}
 
@@ -37,12 +37,12 @@ class Change:
 
     @property
     def key(self):
-        """What it is whatever the folder and the line: names of file and function, lines before and after."""
+        """Its identity, independent of folder and line: names of file and function, lines before and after."""
         return self.path.rsplit("/", 1)[-1], self.function, self.before, self.after
 
 
 def _numbers(text):
-    """Neighbours of a literal, written as it is."""
+    """Neighbours of a literal, in the same notation."""
     digits = text.replace("'", "")
     try:
         if any(sign in digits for sign in ".eE") and not digits.startswith("0x"):
@@ -80,7 +80,7 @@ def _of_token(source, index):
 
 
 def _is_negated_by_its_sign(condition):
-    """Whether another sign in the place of its only one says the opposite: a change that is there already."""
+    """Whether replacing its only sign negates it, which another change already does."""
     texts = {token.text for token in condition}
     return not texts & {"&&", "||"} and (condition[0].text == "!" or bool(texts & {"<", "<=", ">", ">=", "==", "!="}))
 

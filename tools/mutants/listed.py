@@ -1,4 +1,4 @@
-"""Changes that nobody can see, with the reason: tests/mutants/equivalent.txt. Paragraphs between empty lines:
+"""Changes without an observable effect, with the reason: tests/mutants/equivalent.txt. Paragraphs between empty lines:
 
     clock.cpp Sleep
     - if (ms < 0) ms = 0;
@@ -26,6 +26,6 @@ class Listed:
         return change.key in self._reasons
 
     def stale(self, changes):
-        """Entries that no longer are a change of the tree."""
+        """Entries that no longer match a change of the tree."""
         offered = {change.key for change in changes}
         return [key for key in self._reasons if key not in offered]

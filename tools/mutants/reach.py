@@ -1,4 +1,4 @@
-"""Which tests run which lines of the library, and how long each takes. Kept beside the build for the next time."""
+"""Which tests run which lines of the library, and how long each takes. Cached next to the build."""
 import functools
 import hashlib
 import json
@@ -24,8 +24,8 @@ class Reach:
         self._keys = []
 
     def collect(self, jobs, tell):
-        """Runs the tests that are not known yet, so many at a time. Names of those that fail, though nothing was
-        changed."""
+        """Runs the tests that are not known yet, in parallel. Returns the names of those that fail without any
+        change."""
         self._cache.mkdir(exist_ok=True)
         library, failed = hashlib.sha256(self._build.library().read_bytes()).hexdigest(), []
         for program in sorted({test.program for test in self._tests}):
@@ -43,16 +43,16 @@ class Reach:
         return failed
 
     def state(self):
-        """Another one whenever the tests or the library are."""
+        """Changes whenever the tests or the library change."""
         return hashlib.sha256("".join(self._keys).encode()).hexdigest()
 
     def limit(self, test):
-        """Seconds after which it hangs. Other work may slow a machine down by a lot."""
+        """Seconds after which the test counts as hanging. Other work may slow the machine down a lot."""
         return 10 + 10 * self._seconds[test.name]
 
     def tests_of(self, change):
-        """Tests that run the changed line, the nearest first. A line without code of its own, such as the constant of a
-        file, is run by every test that runs anything of the file."""
+        """Tests that run the changed line, the nearest first. For a line without code, such as a constant, all tests
+        that run any line of the file."""
         names = self._by_line.get(f"{change.path}:{change.line}")
         for above in range(1, 4):
             names = names or self._by_line.get(f"{change.path}:{change.line - above}")
@@ -61,7 +61,7 @@ class Reach:
         return sorted(tests, key=lambda test: self._distance(change, test))
 
     def tests_that_include(self, change):
-        """Tests of the programs that have the changed file in objects of their own, the nearest first."""
+        """Tests of the programs that compile the changed file themselves, the nearest first."""
         tests = [test for test in self._tests if self._build.includes(test.program, change.path)]
         return sorted(tests, key=lambda test: self._distance(change, test))
 

@@ -1,4 +1,4 @@
-"""What became of each change, kept from run to run: a run that was interrupted goes on where it was."""
+"""The result of each change, kept across runs: an interrupted run continues where it stopped."""
 import collections
 import json
 
@@ -6,7 +6,7 @@ KILLED, SURVIVED, UNSEEN, SAME_CODE, NO_PROGRAM = "killed", "survived", "unseen"
 
 
 class Results:
-    """A kill holds for a state of the library; what is no kill, for one of the library and the tests."""
+    """A kill is valid for a state of the library; any other result, for a state of the library and the tests."""
 
     def __init__(self, file, library, tests):
         self._file, self._library, self._tests = file, library, tests

@@ -1,4 +1,4 @@
-"""The tests as ctest lists them, each run as a process of its own."""
+"""The tests as ctest lists them, each run in a separate process."""
 import json
 import os
 import resource
@@ -31,7 +31,7 @@ class Test:
 def _read(entry):
     properties = {each["name"]: each["value"] for each in entry.get("properties", [])}
     environment = dict(text.split("=", 1) for text in properties.get("ENVIRONMENT", []))
-    name = entry["name"].split("  # ")[0]  # behind it stands the value of a parameter
+    name = entry["name"].split("  # ")[0]  # followed by the value of a parameter
     return Test(name, tuple(entry["command"]), properties.get("WORKING_DIRECTORY", "."), environment,
                 int(properties.get("SKIP_RETURN_CODE", 0)))
 
@@ -78,7 +78,7 @@ class Runner:
 
     @staticmethod
     def _end_group(process):
-        """What a test started and left behind ends with it."""
+        """Also ends the processes that the test left behind."""
         try:
             os.killpg(process.pid, signal.SIGKILL)
         except ProcessLookupError:

@@ -1,4 +1,4 @@
-"""Statements of function bodies, found by their tokens: what may be deleted, and the conditions of `if` and `while`."""
+"""Finds the statements of function bodies that may be deleted, and the conditions of `if` and `while`, in the tokens."""
 
 _NOT_AN_EXPRESSION = {
     "alignas", "auto", "bool", "case", "char", "class", "const", "constexpr", "default", "do", "double", "else", "enum",
@@ -10,7 +10,7 @@ _BODY_FOLLOWS = {")", "]", "const", "override", "noexcept", "mutable", "else", "
 
 
 def _block_depths(source):
-    """For each token, how many blocks of the innermost function it stands in: 0 outside of any, and in brackets."""
+    """For each token, how many blocks of the innermost function contain it: 0 outside functions, and in brackets."""
     tokens = source.tokens
     stack, depths = [0], []
     head = set()  # words since the last end of a statement
@@ -37,7 +37,7 @@ def _opens_block(tokens, index, depth, head):
     before = tokens[index - 1].text if index else ""
     if before in _BODY_FOLLOWS or (depth and before in (";", "{", "}", ":")):
         return True
-    # A constructor's body behind its last initialiser.
+    # A constructor's body after its last initialiser.
     return before == "}" and ":" in head and not head & {"class", "struct", "enum", "namespace"}
 
 
@@ -104,7 +104,7 @@ def deletable(source):
 
 
 def conditions(source):
-    """Pairs of token indexes, first and last, of what an `if` or a `while` asks."""
+    """Pairs of token indexes, first and last, of the conditions of `if` and `while`."""
     tokens = source.tokens
     for index, token in enumerate(tokens[:-2]):
         if token.text not in ("if", "while") or tokens[index + 1].text != "(":

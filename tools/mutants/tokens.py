@@ -1,4 +1,4 @@
-"""The tokens of a C++ source: comments, preprocessor lines and the text of literals are left out of what may change."""
+"""The tokens of a C++ source: comments, preprocessor lines and the text of literals are excluded from changes."""
 import re
 from bisect import bisect_right
 from dataclasses import dataclass

@@ -10,7 +10,7 @@ def _own_files(checkout):
 
 
 def update(checkout, copy):
-    """Makes `copy` what `checkout` is. Files that are the same keep their times, so that little is built again."""
+    """Makes `copy` equal to `checkout`. Identical files keep their times, so that little is rebuilt."""
     names = _own_files(checkout)
     for name in names:
         source, target = checkout / name, copy / name

@@ -58,7 +58,7 @@ bool EditLayer::eventFilter(QObject* watched, QEvent* event) {
 // After an undone deletion the same index may be another item.
 void EditLayer::TakeDocument() {
   ForgetOthers();
-  drag_.is_active = false;  // it held what is gone
+  drag_.is_active = false;  // its item may be gone
   const bool has_other_items = document_->ItemCount() != item_count_;
   item_count_ = document_->ItemCount();
   if (has_other_items) Select(-1);
@@ -242,7 +242,7 @@ void EditLayer::hideEvent(QHideEvent* /*event*/) {
 }
 
 void EditLayer::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange) ForgetOthers();  // with other colours
+  if (event->type() == QEvent::PaletteChange) ForgetOthers();  // drawn in the old colours
   QWidget::changeEvent(event);
 }
 

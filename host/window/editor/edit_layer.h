@@ -57,7 +57,7 @@ class EditLayer : public QWidget {
     bool has_moved = false;
     QPointF pressed;
     QVector<double> before;  // the field's numbers
-    HandleValue value;       // and what it is to have
+    HandleValue value;       // the field's new value
   };
 
   void TakeDocument();

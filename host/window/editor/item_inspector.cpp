@@ -29,7 +29,7 @@ namespace {
 constexpr int kListHeight = 150;
 const QString kLabel = QStringLiteral("label");
 
-// The blocks of a keymap beside its items, in the order of the file.
+// The blocks of a keymap other than its items, in the order of the file.
 struct BlockRow {
   const char* name;
   const char* doc;

@@ -78,7 +78,7 @@ class KeymapEditor : public QObject {
  Q_SIGNALS:
   // The keymap or its file is another one; see `Document`.
   void Edited();
-  // Mouse and keys go to the guest again, and the keymap in this file is to be used for them.
+  // Mouse and keys go to the guest again, with the keymap in this file.
   void Finished(const QString& file);
   // A message for the user; `is_problem`: an error.
   void Message(const QString& text, bool is_problem);

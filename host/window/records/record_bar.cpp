@@ -138,7 +138,7 @@ QMenu* RecordBar::MakeSpeedMenu() {
 
 double RecordBar::Speed() const { return speeds_->checkedAction()->data().toDouble(); }
 
-// ---- What a person does
+// ---- User actions
 
 void RecordBar::ToggleRecording() {
   Recorder* recorder = Recorder::GetInstance();

@@ -1,4 +1,4 @@
-// The keymap over the view, drawn once for all frames.
+// Caches the picture of the keymap over the view.
 #ifndef HOST_WINDOW_VIEW_DRAWN_OVERLAY_H_
 #define HOST_WINDOW_VIEW_DRAWN_OVERLAY_H_
 
@@ -18,11 +18,11 @@ namespace theme {
 struct ColorSet;
 }
 
-// To find a free place for each key of a large keymap takes as long as many frames, and every line for the guest is a
-// frame. So the picture is kept until something of it is another.
+// In a large keymap, finding a free place for each key takes as long as many frames, and every line for the guest
+// causes a frame. So the overlay is drawn once, and again only when something that affects the picture changes.
 class DrawnOverlay {
  public:
-  // As KeymapOverlay's.
+  // Like those of KeymapOverlay.
   void SetMarks(const QVector<OverlayMark>& marks);
   void SetCovered(const QRectF& covered);
   void Paint(QPainter* painter, const QSizeF& view);
@@ -31,8 +31,8 @@ class DrawnOverlay {
   void Draw(const QPainter& painter, const QSizeF& view);
 
   KeymapOverlay overlay_;
-  QPixmap picture_;  // null: to be drawn
-  // What it was drawn for.
+  QPixmap picture_;  // null if outdated
+  // The state that the picture was drawn with.
   QSizeF view_;
   QFont font_;
   double pixel_ratio_ = 0;

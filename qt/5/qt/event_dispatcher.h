@@ -14,7 +14,7 @@ class EventDispatcher : public QAbstractEventDispatcher {
 
   bool hasPendingEvents() override { return HasPosted(); }
   void flush() override {}
-  // These two override on Windows alone. Its handles are not served.
+  // These two override base class functions on Windows only. Windows handles are not supported.
   virtual bool registerEventNotifier(QWinEventNotifier* /*notifier*/) { return false; }
   virtual void unregisterEventNotifier(QWinEventNotifier* /*notifier*/) {}
 

@@ -1,4 +1,4 @@
-// The text of JSON documents: Qt 5.
+// Serializes JSON documents: Qt 5.
 #ifndef QT_5_QT_JSON_TEXT_H_
 #define QT_5_QT_JSON_TEXT_H_
 

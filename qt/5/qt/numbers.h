@@ -6,7 +6,7 @@
 
 namespace qt {
 
-// A whole number in a text, blanks around it allowed. 0 and not `ok` for any other text.
+// Reads an integer, which may have blanks around it. For any other text returns 0 and sets `ok` to false.
 inline int ToInt(QStringView text, bool* ok = nullptr) { return text.toInt(ok); }
 
 }  // namespace qt

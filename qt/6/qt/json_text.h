@@ -1,4 +1,4 @@
-// The text of JSON documents: Qt 6.
+// Serializes JSON documents: Qt 6.
 #ifndef QT_6_QT_JSON_TEXT_H_
 #define QT_6_QT_JSON_TEXT_H_
 
@@ -13,8 +13,8 @@
 
 namespace qt {
 
-// Writes a document as Qt 5 does. Qt 6 has more digits for whole numbers from 2^53 on that it has read, and an exponent
-// for those that it has computed and for small ones of one digit.
+// Writes a document like Qt 5. Qt 6 writes integers from 2^53 on differently: those it read with more digits, those it
+// computed with an exponent. It also writes small numbers of one digit with an exponent.
 class JsonWriter {
  public:
   static QByteArray TextOf(const QJsonDocument& document, QJsonDocument::JsonFormat format) {
@@ -58,12 +58,12 @@ class JsonWriter {
     }
     Close('}', object.isEmpty(), depth);
   }
-  // What both write alike. It stands alone in a list, since a document is a list or an object.
+  // Values that both versions write alike. Wrapped in an array, because a document is an array or an object.
   void AddPlain(const QJsonValue& value) {
     const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     text_ += list.mid(1, list.size() - 2);
   }
-  // By as few digits as tell it from its neighbours; from 0.0001 to 2^64 without an exponent.
+  // The shortest digits that read back as the same number; without an exponent from 0.0001 up to 2^64.
   void AddNumber(double number) {
     const double size = std::fabs(number);
     const bool has_exponent = size < 1e-4 || size >= 18446744073709551616.0;

@@ -7,10 +7,10 @@
 
 namespace qt {
 
-// A whole number in a text, blanks around it allowed. 0 and not `ok` for any other text.
+// Reads an integer, which may have blanks around it. For any other text returns 0 and sets `ok` to false.
 //
-// The text's own toInt takes what follows a zero character for nothing, and knows neither the minus sign U+2212 nor
-// blanks beyond ASCII. The locale "C" still reads as Qt 5 does.
+// QStringView::toInt ignores everything after a NUL character, and accepts neither the minus sign U+2212 nor blanks
+// outside ASCII. The "C" locale still parses like Qt 5.
 inline int ToInt(QStringView text, bool* ok = nullptr) {
   static const QLocale locale = [] {
     QLocale c(QLocale::C);

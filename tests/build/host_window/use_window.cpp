@@ -62,7 +62,7 @@ void Wheel(GuestView* view, const QPoint& turn) {
   QCoreApplication::sendEvent(view, &event);
 }
 
-// The table that is installed, beside that of a keyboard's makers.
+// The installed table, next to that of keyboard makers.
 void CompareScanCodes() {
   for (const tavi::KeyboardKey& key : tavi::kKeyboard105) {
     const int got = tavikeymapmanager::ScanCodeOfLinuxKey(key.linux_code);

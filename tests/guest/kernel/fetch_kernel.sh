@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Downloads Debian's kernel, without installing it, and unpacks what the tests boot.
+# Downloads Debian's kernel, without installing it, and unpacks the files that the tests boot.
 #
 #   fetch_kernel.sh DIR [ARCH]     makes DIR/vmlinuz, DIR/evdev.ko and DIR/uinput.ko, unless they are there; ARCH is
 #                                  amd64 (as without it) or arm64

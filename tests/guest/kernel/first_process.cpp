@@ -7,7 +7,7 @@
 //   3 47 2
 //   gone
 //
-// An event is its type, code and value. It stands alone, so that a machine needs nothing else.
+// An event is its type, code and value. The program uses no other file of the project.
 #include <algorithm>
 #include <csignal>
 #include <cstdio>

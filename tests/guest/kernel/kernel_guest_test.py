@@ -3,7 +3,8 @@
 
     kernel_guest_test.py TAVI READ_DEVICES KERNEL_DIR WORK_DIR SOURCE_DIR
 
-Boots a small machine in qemu, without acceleration. What is missing for that makes it skip, with exit status 77.
+Boots a small machine in qemu, without acceleration. If something that it needs is missing, the test is skipped with
+exit status 77.
 """
 import re
 import shutil
@@ -69,7 +70,7 @@ def make_file_system():
 
 
 def boot():
-    """What the machine prints between its marks, in lines."""
+    """The machine's output between the marks, in lines."""
     make_file_system()
     archive = small_machine.pack(WORK / "root", WORK / "root.cpio")
     kernel = small_machine.unpacked(KERNEL / "vmlinuz", WORK / "vmlinux")
@@ -96,7 +97,7 @@ def finger(tracking_id):
 
 DOWN, UP = "EV_KEY BTN_TOUCH 1", "EV_KEY BTN_TOUCH 0"
 
-# The kernel leaves out what did not change: the slot of the frame before, the coordinate that a move keeps.
+# The kernel omits values that did not change: the slot of the frame before, the coordinate that a move keeps.
 TAP = touch(slot(11), finger(11), *place(1203, 533), DOWN) + touch(finger(-1), UP)
 WALK = (touch(slot(2), finger(2), *place(230, 518), DOWN) + touch(*place(y=489)) + touch(*place(y=460)) +
         touch(*place(y=431)) + touch(*place(y=403)) + touch(finger(-1), UP))

@@ -3,9 +3,10 @@
 
     kernel_programs_test.py BUILD_DIR WORK_DIR SOURCE_DIR
 
-Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/guest_kernel and .../guest_kernel_arm64 hold
-what fetch_kernel.sh unpacks, BUILD_DIR/guest_programs what tools/build_guest makes. What is missing for all of them makes it skip, with exit status 77; what is missing for one
-is told.
+Boots a small machine of each kind in qemu, without acceleration. BUILD_DIR/guest_kernel and .../guest_kernel_arm64
+hold the files that fetch_kernel.sh unpacks, BUILD_DIR/guest_programs the programs that tools/build_guest makes. If
+something that all machines need is missing, the test is skipped with exit status 77; if only one machine needs it, it
+is reported.
 """
 import re
 import shutil
@@ -44,7 +45,7 @@ LINES = """\
 """
 
 NAMES = {(0, 0): "SYN", (1, 330): "TOUCH", (3, 47): "SLOT", (3, 53): "X", (3, 54): "Y", (3, 57): "ID"}
-# The kernel leaves out what did not change: the slot of the frame before, the coordinate that a finger's move keeps.
+# The kernel omits values that did not change: the slot of the frame before, the coordinate that a finger's move keeps.
 PLAYED = ["SLOT 11", "ID 11", "X 1203", "Y 533", "TOUCH 1", "SYN 0",
           "ID -1", "TOUCH 0", "SYN 0",
           "SLOT 2", "ID 2", "X 230", "Y 518", "TOUCH 1", "SYN 0",
@@ -86,7 +87,7 @@ def make_file_system(machine):
 
 
 def boot(machine):
-    """What the first process prints, by program, in lines."""
+    """The output of the first process, by program, in lines."""
     _, folder, qemu, console, _ = MACHINES[machine]
     archive, kernel = make_file_system(machine), KERNELS / folder / "vmlinuz"
     if machine == "x86_64":  # that of arm64 is not packed

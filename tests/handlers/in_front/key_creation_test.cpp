@@ -1,4 +1,4 @@
-// A host with a function of its own in front of the keymap library's that makes keys: it is asked at each event.
+// A host overrides the keymap library's function that creates keys: the override is called at each event.
 #include "handlers/keymap_origin.h"
 #include "keymap/tavikeymapmanager.h"
 #include "tests/support/story.h"
@@ -48,7 +48,7 @@ TEST_F(KeysByTheHost, AreMadeAnewForButtons) {
       << "a press and a release ask whether an item has the button, and which; the move whether one has it";
 }
 
-// Whatever was made before: 48 is B, 49 is N.
+// Earlier results do not count: 48 is B, 49 is N.
 TEST_F(KeysByTheHost, MayChangeTheirMind) {
   Add<ConfigItem>("Click", "N", {0.5, 0.5});
   Load();

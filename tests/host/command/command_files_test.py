@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""The manual page says what the pages of help say, and shells complete by them.
+"""The manual page has the content of the help pages, and shells complete from them.
 
     command_files_test.py TAVI SOURCE_DIR
 
-What needs groff, fish or zsh is skipped without them.
+Tests that need groff, fish or zsh are skipped without them.
 """
 import re
 import shutil
@@ -135,7 +135,7 @@ class BashCompletion(Completion):
     def test_files(self):
         self.check_files()
 
-    # Bash parts words at an equals sign.
+    # Bash splits words at an equals sign.
     def test_values_behind_an_equals_sign(self):
         self.assertEqual(self.offered("window", "--replay", "="), ["maps", "walk.json"])
         self.assertEqual(self.offered("window", "--replay", "=", "w"), ["walk.json"])
@@ -158,7 +158,7 @@ class FishCompletion(Completion):
         outcome = run("fish", "--no-config", "-c", 'source $argv[1]; complete -C $argv[2]', COMPLETIONS / "tavi.fish",
                       line, cwd=self.folder)
         self.assertEqual(outcome.stderr, "")
-        # Names are escaped as one would type them.
+        # Names are escaped as in a typed command.
         return [entry.split("\t")[0].replace("\\ ", " ") for entry in outcome.stdout.splitlines()]
 
     def test_commands(self):
@@ -170,7 +170,7 @@ class FishCompletion(Completion):
     def test_files(self):
         self.check_files()
 
-    # Fish offers the other names too, behind those that are meant.
+    # Fish offers other names too, after the matching ones.
     def check_names(self, offered, files):
         self.assertLessEqual(files, set(offered))
 
@@ -189,7 +189,7 @@ class ZshCompletion(unittest.TestCase):
                              [option.name for option in page.options] + ["--help"], name)
 
 
-# The base class has no tests of its own.
+# The base class has no tests.
 del Completion
 
 if __name__ == "__main__":

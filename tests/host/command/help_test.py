@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every command has a page of help, and what the pages say is so.
+"""Every command has a help page, and the pages are accurate.
 
     help_test.py TAVI SOURCE_DIR
 """
@@ -76,9 +76,9 @@ class HelpPages(unittest.TestCase):
         examples = {name: page.example for name, page in HELP.pages.items()}
         examples[""] = HELP.overview.example
         examples["record"] = HELP.run("record", "--help").stdout.split("\nExample: ")[1]
-        # A window stays until someone closes it, unless it is to leave a picture.
+        # A window stays open until it is closed, unless it only saves a picture.
         examples["window"] = examples["window"].rstrip() + " --picture window.png --after 0"
-        del examples["play"]  # would take the keyboard of whoever runs this; a small machine tries it
+        del examples["play"]  # would grab the keyboard of this computer; tested in a small machine
         for name, example in examples.items():
             with self.subTest(name), tempfile.TemporaryDirectory() as folder:
                 shutil.copytree(SOURCE / "examples", Path(folder) / "examples")

@@ -1,4 +1,4 @@
-// Names of files that no code page of the system has, and names that are longer than its calls take by themselves.
+// File names with characters outside all code pages of the system, and names beyond the length limit of its calls.
 #include <QDir>
 
 #include "tests/support/program.h"
@@ -44,7 +44,7 @@ TEST_F(Names, OfRecordsArePlain) {
   }
 }
 
-// Lines end as on every system, and are UTF-8.
+// Lines are UTF-8 and end in LF, as on every system.
 TEST_F(Names, ArePrintedAsUtf8) {
   const QString name = QStringLiteral("\u9375.yaml");
   Write(name, "format: 1\nitems: [\n");

@@ -1,4 +1,4 @@
-// The program where there are pipes and devices with names.
+// The program with named pipes and devices.
 #include <sys/stat.h>
 
 #include "tests/support/program.h"
@@ -27,7 +27,7 @@ TEST_F(Program, WhatStandardOutputDoesNotTakeIsTold) {
   }
 }
 
-// By the signal, or by itself if that is blocked.
+// By the signal, or by exit if the signal is blocked.
 TEST_F(Program, AReaderThatGoesEndsTheProgramQuietly) {
   ASSERT_EQ(mkfifo(QFile::encodeName(Folder() + "/gone").constData(), 0600), 0);
   QProcess shell;

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The schema accepts the record files that are written, and rejects what is not a record.
+"""The schema accepts record files of the library, and rejects other files.
 
 usage: record_schema_test.py TAVI SOURCE_DIR
 

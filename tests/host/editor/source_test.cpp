@@ -103,7 +103,7 @@ TEST_F(SourceTest, AnUneditedPartIsNoStep) {
   EXPECT_FALSE(document_.UndoStack()->canUndo());
 }
 
-// ---- The blocks beside the items
+// ---- The blocks other than the items
 
 TEST_F(SourceTest, SettingsAreEdited) {
   Open(kLines);

@@ -1,4 +1,4 @@
-// The event loop of a player, pass by pass: nothing here waits for time.
+// The event loop of a player, pass by pass.
 #include "host/play/epoll_dispatcher.h"
 
 #include <array>
@@ -18,7 +18,7 @@
 namespace tavi {
 namespace {
 
-// Two ends of a pipe: what is written to the one makes the other readable.
+// Both ends of a pipe: writing to one makes the other readable.
 class Pipe {
  public:
   Pipe() { EXPECT_EQ(::pipe(ends_.data()), 0); }
@@ -49,7 +49,7 @@ class EpollDispatcherTest : public testing::Test {
  protected:
   EpollDispatcherTest() : dispatcher_(Install()), application_(argument_count_, arguments_) {}
 
-  // Reads and counts what comes.
+  // Reads the pipe, and counts the reads.
   std::unique_ptr<QSocketNotifier> Listen(const Pipe& pipe) {
     auto notifier = std::make_unique<QSocketNotifier>(pipe.Reader(), QSocketNotifier::Read);
     QObject::connect(notifier.get(), &QSocketNotifier::activated, [this, &pipe] {
@@ -120,7 +120,7 @@ TEST_F(EpollDispatcherTest, ANotifierThatIsOffHearsNothing) {
   EXPECT_EQ(read_, 1);
 }
 
-// Both are ready; whichever is first takes the other away.
+// Both are ready; the first to be called deletes the other.
 TEST_F(EpollDispatcherTest, ANotifierThatEndsMeanwhileHearsNothing) {
   const Pipe pipes[2];
   std::unique_ptr<QSocketNotifier> notifiers[2];
@@ -155,7 +155,7 @@ TEST_F(EpollDispatcherTest, AFileWithRoomIsToldToItsWriter) {
   EXPECT_EQ(told, 1);
 }
 
-// The number of a file that was closed goes to the next one.
+// The next file to be opened gets the number of a closed one.
 TEST_F(EpollDispatcherTest, AFileThatTakesTheNumberOfAnotherIsHeard) {
   auto old = std::make_unique<Pipe>();
   const auto stale = Listen(*old);
@@ -203,7 +203,7 @@ TEST_F(EpollDispatcherTest, ATimerWakesItAndNeverTooSoon) {
   clock.start();
   timer.start(3);
   loop.exec();
-  EXPECT_GE(clock.nsecsElapsed(), 2'999'000);  // the dispatcher's clock has microseconds
+  EXPECT_GE(clock.nsecsElapsed(), 2'999'000);  // the dispatcher's clock counts microseconds
 }
 
 TEST_F(EpollDispatcherTest, TimersFireInTheOrderOfTheirTimes) {
@@ -219,7 +219,7 @@ TEST_F(EpollDispatcherTest, TimersFireInTheOrderOfTheirTimes) {
   EXPECT_EQ(order, "abc");
 }
 
-// Whose handler waits for something is not called again meanwhile, and the loop inside waits for a file all the same.
+// While the handler waits, it is not called again, and the nested loop still waits for files.
 TEST_F(EpollDispatcherTest, ATimerIsNotWaitedForInsideOfItsOwnHandler) {
   const Pipe pipe;
   const auto notifier = Listen(pipe);

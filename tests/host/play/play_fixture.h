@@ -98,7 +98,7 @@ class ToyBox : public DeviceSource {
   std::function<void()> watcher;
 };
 
-// A guest that records what it gets.
+// A guest that records its input.
 class Notebook : public GuestOutlet {
  public:
   explicit Notebook(VirtualEventDispatcher* clock) : clock_(clock) {}

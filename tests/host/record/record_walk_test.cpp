@@ -40,7 +40,7 @@ TEST(RecordWalk, AddsUpTheDelays) {
   EXPECT_EQ(Walk(root), QStringLiteral("10 a, 10 b, 30 c"));
 }
 
-// 33 / 2 = 16.5 and each delay is truncated by itself: 16 + 16. A delay below 0 is none.
+// 33 / 2 = 16.5 and each delay is truncated separately: 16 + 16. A delay below 0 is none.
 TEST(RecordWalk, CutsEachDelayByItself) {
   EXPECT_EQ(Walk(List({Action("a", 33), Action("b", 33), Action("c", -5)}), 2), QStringLiteral("16 a, 32 b, 32 c"));
 }

@@ -218,7 +218,7 @@ TEST_F(Timers, HeldUpOnesFireInOrderOfDueTime) {
 }
 
 TEST_F(Timers, AStepThatASleepOverrunsLeavesTheRestToTheNext) {
-  // The step ends at 10. What was due by then fires, at 30; what was due at 12 waits for the next step.
+  // The step ends at 10. Timers due by then fire, at 30; one due at 12 waits for the next step.
   const auto sleeper = Start("sleeper", 5, [this] { time_->Sleep(25); });
   sleeper->setSingleShot(true);
   const auto in_time = Start("in time", 10);

@@ -1,4 +1,4 @@
-// Files that are made whole or not at all, where there are signals, links, owners, devices and limits.
+// Files are written whole or not at all, even with signals, links, other owners, devices and size limits.
 #include <atomic>
 #include <csignal>
 #include <thread>
@@ -16,7 +16,7 @@
 namespace tavi {
 namespace {
 
-// The work is interrupted in its middle, by Ctrl+C or by being told to end.
+// The work is interrupted, by Ctrl+C or by a termination signal.
 TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
   Fill(Path("day.json"), "before");
   for (const int signal : {SIGINT, SIGTERM}) {
@@ -32,7 +32,7 @@ TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
   }
 }
 
-// A job in the background of a script is started so.
+// This is how a script starts a background job.
 TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
   const auto work = [&] {
     std::signal(SIGINT, SIG_IGN);
@@ -45,7 +45,7 @@ TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
 }
 
-// Between two pieces of work nothing is cleaned up, and Ctrl+C ends the program all the same.
+// Between two tasks nothing is cleaned up, and Ctrl+C ends the program all the same.
 TEST_F(WholeFileTest, WhatIsKeptStaysWhenTheProgramIsInterruptedLater) {
   const auto work = [&] {
     {
@@ -86,7 +86,7 @@ TEST_F(WholeFileTest, ALinkGoesOnToPointAtItsFile) {
   EXPECT_TRUE(QFileInfo(Path("links/day.json")).isSymLink());
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
 
-  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that is not there yet
+  ASSERT_TRUE(QFile::link("../new.json", Path("links/new.json")));  // to a file that does not exist yet
   EXPECT_EQ(WriteWholeFile(Path("links/new.json"), "new"), QString());
   EXPECT_EQ(ContentOf(Path("new.json")), QByteArray("new"));
   EXPECT_EQ(FilesIn(Path("links")), (QStringList{"day.json", "new.json"}));
@@ -100,7 +100,7 @@ TEST_F(WholeFileTest, AFileStaysItsOwners) {
   EXPECT_EQ(QFileInfo(Path("day.json")).ownerId(), kNobody);
 }
 
-// The file may be written, its folder takes no new ones.
+// The file may be written, but its folder accepts no new ones.
 TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
   if (!IsRoot()) GTEST_SKIP() << "only root is somebody else for a while";
   Fill(Path("day.json"), "a long day before");
@@ -116,7 +116,7 @@ TEST_F(WholeFileTest, WhereTheFolderTakesNothingTheFileIsWrittenOver) {
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("after"));
 }
 
-// What is written over is not touched before there is room for the whole.
+// An existing file is not changed before there is space for all of the content.
 TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
   Fill(Path("day.json"), "before");
   QFile file(Path("day.json"));
@@ -127,7 +127,7 @@ TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
   EXPECT_EQ(ReserveRoom(&file, 100), QString());
 }
 
-// A program with a window ends by itself, after it has saved what there is.
+// A program with a window ends by itself, after it has saved its data.
 TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
   const auto work = [&] {
     static std::atomic<int> taken{0};
@@ -140,7 +140,7 @@ TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
   EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGTERM), "");
 }
 
-// The library says that all is well then.
+// The library reports success then.
 TEST_F(WholeRecords, AFullDiskLeavesTheRecordThatWasThere) {
   Write("tap.json", kRecord);
   Write("day.json", "before");

@@ -1,4 +1,4 @@
-// Files of a test, in a folder of its own, and records that the program makes of others.
+// The files of a test in a temporary folder, and records that the program makes from other records.
 #ifndef TESTS_HOST_SYSTEM_WHOLE_FILE_STORY_H_
 #define TESTS_HOST_SYSTEM_WHOLE_FILE_STORY_H_
 

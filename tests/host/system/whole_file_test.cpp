@@ -53,7 +53,7 @@ TEST_F(WholeFileTest, WhatCannotBeReadIsNotCopied) {
 
 // ---- What stays of the file that was there
 
-// Standard error of a test is no terminal.
+// A test's standard error is not a terminal.
 TEST(ProgressLineTest, NothingIsToldWhereNobodyReads) {
   testing::internal::CaptureStderr();
   { const ProgressLine progress("reading day.json"); }

@@ -114,7 +114,7 @@ class SocketGuest {
   QByteArray got_;
 };
 
-// A socket that accepts connections, and reads nothing until it is told to.
+// A socket that accepts connections, and reads nothing until the test asks for it.
 class SilentGuest {
  public:
   explicit SilentGuest(const QString& path) : file_(socket(AF_UNIX, SOCK_STREAM, 0)) {

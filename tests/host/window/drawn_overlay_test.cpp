@@ -1,4 +1,4 @@
-// The keymap over the view is drawn once, and looks as if it were drawn each time.
+// The keymap over the view is drawn once, and looks the same as if it were drawn for each frame.
 #include "host/window/view/drawn_overlay.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ QImage Painted(Overlay* overlay, const QSize& view = kView) {
   return image;
 }
 
-// Rounding of what is half clear apart.
+// Blending translucent pixels twice rounds differently, so the images are not compared exactly.
 int LargestDifference(const QImage& a, const QImage& b) {
   int largest = 0;
   for (int y = 0; y < a.height(); ++y) {

@@ -146,7 +146,7 @@ TEST_F(EditingInTheWindow, EscapeGivesADragUp) {
   EXPECT_EQ(Document()->Text(), before_);
 }
 
-// Each edit has the whole file read again, which takes long in a large keymap.
+// Each edit parses the whole file again, which is slow for a large keymap.
 TEST_F(EditingInTheWindow, ADragIsShownOnItsWayAndWrittenAtItsEnd) {
   Edit();
   const QByteArray text = Document()->Text();
@@ -320,7 +320,7 @@ TEST_F(EditingInTheWindow, TextThatIsWrongStaysToBeCorrected) {
   EXPECT_EQ(Inspector()->Pane()->Problem(), "Line 1, column 20: unknown key 'Spcae'; did you mean 'Space'?");
   EXPECT_EQ(Text()->toPlainText(), "{type: Click, key: Spcae, point: [0.25, 0.75]}");
   EXPECT_EQ(Document()->Text(), before_);
-  DragFrom(At(0.5, 0.5), At(0.5, 0.25));  // another item: the typed text is discarded, and the user is told
+  DragFrom(At(0.5, 0.5), At(0.5, 0.25));  // another item: the typed text is discarded, with a message
   EXPECT_TRUE(problem_.contains("unknown key 'Spcae'")) << problem_.toStdString();
   EXPECT_EQ(Layer()->Selected(), 1);
   EXPECT_TRUE(Text()->toPlainText().startsWith("{type: Swipehold"));

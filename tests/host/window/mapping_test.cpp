@@ -115,7 +115,7 @@ TEST_F(MappingTest, AKeymapThatUsesTheKeyIsTold) {
   EXPECT_EQ(Window()->statusBar()->currentMessage(), QString());
 }
 
-// The window loads its keymap before it is shown; the message is alone all the same.
+// The window loads its keymap before it is shown; still there is only this message.
 TEST_F(MappingTest, WhatIsToldBeforeTheWindowIsSeenTakesThePlaceOfTheKeymapsName) {
   Window()->hide();
   Load("{type: Click, key: F12, point: [0.25, 0.75]}");

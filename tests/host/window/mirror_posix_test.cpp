@@ -1,4 +1,4 @@
-// Lines carried between instances by sockets that are files.
+// Lines between instances, over Unix sockets.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -32,7 +32,7 @@ int Unbound(const QString& name, sockaddr_un* address) {
   return socket(AF_UNIX, SOCK_STREAM, 0);
 }
 
-// A Unix socket that is bound to the name's address.
+// A Unix socket bound to the name's address.
 int BindTo(const QString& name, sockaddr_un* address) {
   const int file = Unbound(name, address);
   EXPECT_EQ(bind(file, reinterpret_cast<const sockaddr*>(address), sizeof(*address)), 0);
@@ -121,7 +121,7 @@ TEST_F(Mirror, AnotherUserIsNotHeard) {
     ASSERT_EQ(::connect(other, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
   }
   char byte = 0;
-  EXPECT_TRUE(RunEventsUntil([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is shut out
+  EXPECT_TRUE(RunEventsUntil([&] { return recv(other, &byte, 1, MSG_DONTWAIT) == 0; }));  // it is disconnected
   close(other);
 }
 
@@ -147,7 +147,7 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
   MirrorTargets* targets = MirrorTargets::GetInstance();
   Reach({"silent"});
   const QString text = "TEXT:" + QString(30000, 'a') + "\n";
-  // 60 kB each: the system holds some hundred kB, this instance one MB.
+  // 60 kB each: the system buffers some hundred kB, this instance one MB.
   for (int i = 0; i < 100 && lost_.isEmpty(); ++i) {
     taviinputmanager::OnInputRawTextData(text);
     QCoreApplication::processEvents();
@@ -164,7 +164,7 @@ TEST_F(Mirror, WithoutRoomForAConnectionItIsTakenLater) {
   QObject::connect(&server, &MirrorServer::SourcesChanged, &server, [&](int count) { sources = count; });
   sockaddr_un address{};
   const int other = Unbound("server", &address);
-  // The sanitizer looks each type up once, through a pipe of its own.
+  // The sanitizer looks up each type once, through a pipe of its own.
   QSocketNotifier(other, QSocketNotifier::Read).setEnabled(false);
   rlimit before{};
   getrlimit(RLIMIT_NOFILE, &before);

@@ -1,4 +1,4 @@
-// Lines carried between instances. The other instance is a bare socket here, which says and hears what one would.
+// Lines between instances. The other instance is a bare socket here, which sends and receives the same.
 #ifndef TESTS_HOST_WINDOW_MIRROR_STORY_H_
 #define TESTS_HOST_WINDOW_MIRROR_STORY_H_
 
@@ -27,7 +27,7 @@ class Mirror : public testing::Test {
     QObject::connect(targets, &MirrorTargets::Lost, &context_, [this](const QString& name, const QString& problem) {
       lost_.append({name, problem});
     });
-    // No other test has these names: of files, and of pipes.
+    // No other test uses these names of files and pipes.
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
     qputenv("USERNAME", QFileInfo(folder_.path()).fileName().toUtf8());
     LiveHost::GetInstance()->Start(nullptr);
@@ -58,7 +58,7 @@ class Mirror : public testing::Test {
   QTemporaryDir folder_;
   QStringList said_;  // lines for this instance's guest
   int reached_ = 0;   // instances that get lines
-  QStringList lost_;  // names of those that do not, each with what is wrong
+  QStringList lost_;  // names of those that do not, each with the reason
 
  private:
   int argument_count_ = 0;
@@ -98,7 +98,7 @@ class Listener {
 
  private:
   QLocalServer server_;
-  QLocalSocket* socket_ = nullptr;  // the server's
+  QLocalSocket* socket_ = nullptr;  // owned by the server
 };
 
 }  // namespace tavi

@@ -1,4 +1,4 @@
-// Lines carried between instances.
+// Lines between instances.
 #include <gtest/gtest.h>
 
 #include <QBuffer>

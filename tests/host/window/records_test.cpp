@@ -191,7 +191,7 @@ TEST_F(RecordsInTheWindow, ASecondViewTakesTheReplayAlone) {
   clock_->Advance(150);
   EXPECT_TRUE(Slots().isEmpty());
   EXPECT_EQ(SecondView()->Model().state().contacts.keys(), QList<int>{18});
-  Press(kSpace);  // the user plays on beside it
+  Press(kSpace);  // the user plays at the same time
   EXPECT_EQ(Slots(), QList<int>{11});
 }
 

@@ -66,7 +66,7 @@ class WindowFixture : public testing::Test {
     Send(&event);
   }
 
-  // What a person does with the dialog that opens next, once it is active. What is posted now comes before that.
+  // Calls `use` with the dialog that opens next, once it is active and the events posted so far are delivered.
   void UseDialog(const std::function<void(QWidget* dialog)>& use) {
     QTimer::singleShot(1, Window(), [use] {
       QWidget* dialog = QApplication::activeModalWidget();
@@ -74,7 +74,7 @@ class WindowFixture : public testing::Test {
       use(dialog);
     });
   }
-  // Gives the file dialog that opens next a name, and accepts it.
+  // Enters a name in the file dialog that opens next, and accepts it.
   void EnterName(const QString& name) {
     UseDialog([name](QWidget* dialog) {
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);

@@ -1,4 +1,4 @@
-"""The reference's tables of fields, as the schema has them."""
+"""The reference's tables of fields, generated from the schema."""
 
 
 def number(value):
@@ -25,7 +25,7 @@ def list_form(schema):
 
 
 def form(schema):
-    """How the value of a field is written."""
+    """The notation of a field's value."""
     if "allOf" in schema:
         name = schema["allOf"][0]["$ref"].split("/")[-1]
         return {"key": "key", "chord": "key or chord", "inner_swipehold": "fields"}[name]
@@ -61,7 +61,7 @@ def row(name, schema, is_required):
 
 
 def rows(record):
-    """Field name to table row; `type` and `label` are told once for all items."""
+    """Field name to table row; `type` and `label` are documented once for all items."""
     return {
         name: row(name, schema, name in record["required"])
         for name, schema in record["properties"].items()

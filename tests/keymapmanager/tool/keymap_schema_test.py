@@ -39,14 +39,14 @@ def files(*folder):
 
 
 def reader_accepts(paths):
-    """What the library says of each file, as file to bool."""
+    """Whether the library accepts each file, as file to bool."""
     output = subprocess.run([CHECK] + paths, check=True, capture_output=True, text=True).stdout
     verdicts = dict(reversed(line.split(" ", 1)) for line in output.splitlines() if not line.startswith(" "))
     return {path: verdicts[path] != "error" for path in paths}
 
 
 def snippets(text):
-    """The YAML blocks of a document, each made a whole file."""
+    """The YAML blocks of a document, each completed to a whole file."""
     for block in re.findall(r"^```yaml\n(.*?)^```$", text, re.MULTILINE | re.DOTALL):
         if re.search(r"^format:", block, re.MULTILINE):
             yield block
@@ -57,7 +57,7 @@ def snippets(text):
 
 
 def sections(text):
-    """Heading to text, of the headings of the second and third level."""
+    """Heading to text, for the headings of the second and third level."""
     parts = re.split(r"^##+ (.*)$", text, flags=re.MULTILINE)
     return dict(zip(parts[1::2], parts[2::2]))
 

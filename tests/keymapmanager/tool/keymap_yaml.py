@@ -1,4 +1,4 @@
-"""YAML as keymaps mean it: PyYAML with the scalars of YAML 1.2's core schema."""
+"""Reads YAML like the library: PyYAML with the scalars of YAML 1.2's core schema."""
 import re
 
 import yaml

@@ -15,7 +15,7 @@ using MacroPoints = Story;
 TEST_F(MacroPoints, APairIsTwoFractions) {
   EXPECT_EQ(QPointF(0.25, 0.5), ReadMacroPoint("(0.25,0.5)"));
   EXPECT_EQ(QPointF(-1, 2), ReadMacroPoint("(-1,2)"));
-  EXPECT_EQ(QPointF(0, 0.5), ReadMacroPoint("(x,0.5)"));  // what is no number is 0
+  EXPECT_EQ(QPointF(0, 0.5), ReadMacroPoint("(x,0.5)"));  // anything but a number is 0
 }
 
 TEST_F(MacroPoints, WhatIsNoPointIsNull) {

@@ -23,7 +23,7 @@ const char kSmall[] = "Small_Variable";
 const char kBig[] = "Big_Variable";
 
 // n steps over d pixels: base = round(d / n); tail = n / 2, one middle step, the rest head. In big steps the head is
-// round(base / 5) and the middle makes up for what is left.
+// round(base / 5) and the middle takes the remainder.
 const struct {
   const char* name;
   int delta;

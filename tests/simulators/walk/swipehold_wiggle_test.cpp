@@ -177,7 +177,7 @@ TEST_F(SwipeholdWiggle, EndsWhenANewWalkBegins) {
   EXPECT_WIRE(At(120, 384, 360), At(122, 256, 360), At(124, 256, 360));
 }
 
-// ---- A reset forgets the keys and lets it go on; what comes then ends it. ----
+// ---- A reset forgets the keys, but the wiggle continues until the walk's next phase ends it. ----
 
 // Its tick at 128 is within the slide of the new walk.
 TEST_F(SwipeholdWiggle, ASlideStopsIt) {

@@ -1,4 +1,4 @@
-// Disks that take only so much.
+// Simulates a full disk.
 #ifndef TESTS_SUPPORT_SYSTEM_FULL_DISK_H_
 #define TESTS_SUPPORT_SYSTEM_FULL_DISK_H_
 
@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-// While it lives, no file of this process and of those it starts grows beyond so many bytes. Windows knows no such
-// limit: the tests of full disks are left out there.
+// While it exists, no file that this process or its children write grows beyond `bytes`. Windows has no such limit: the
+// tests of full disks are left out there.
 class FileSizeLimit {
  public:
   explicit FileSizeLimit(unsigned bytes);

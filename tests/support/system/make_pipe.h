@@ -1,10 +1,10 @@
-// Pipes that have a name in a folder.
+// Named pipes in a folder.
 #ifndef TESTS_SUPPORT_SYSTEM_MAKE_PIPE_H_
 #define TESTS_SUPPORT_SYSTEM_MAKE_PIPE_H_
 
 namespace tavi {
 
-// False where the system has no such pipes.
+// False if the system has no such pipes.
 bool MakePipe(const char* path);
 
 }  // namespace tavi

@@ -1,4 +1,4 @@
-// Key events as the window system of this platform makes them.
+// Key events like those of this platform's window system.
 #ifndef TESTS_SUPPORT_SYSTEM_NATIVE_KEY_H_
 #define TESTS_SUPPORT_SYSTEM_NATIVE_KEY_H_
 
@@ -12,7 +12,7 @@ struct NativeCodes {
   quint32 virtual_key;
 };
 
-// Those of an event of this key.
+// The codes in an event of this key.
 NativeCodes NativeCodesOf(int linux_code);
 
 inline QKeyEvent NativeKeyEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, int linux_code,

@@ -2,7 +2,7 @@
 
 namespace tavi {
 
-// Those of X11, which calls a character of the layout a virtual key: nobody asks for it.
+// X11's codes. Its virtual key is a keysym, which no test reads.
 NativeCodes NativeCodesOf(int linux_code) { return {static_cast<quint32>(linux_code + 8), 0}; }
 
 }  // namespace tavi

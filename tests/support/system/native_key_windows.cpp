@@ -5,7 +5,7 @@
 
 namespace tavi {
 
-// Windows is asked with the prefix that the keyboard sends before a key whose extended bit is set.
+// MapVirtualKey expects the prefix byte that the keyboard sends before an extended key.
 NativeCodes NativeCodesOf(int linux_code) {
   const auto scancode = static_cast<quint32>(tavikeymapmanager::ScanCodeOfLinuxKey(linux_code));
   const quint32 sent = scancode & 0x100U ? 0xE000U | (scancode & 0xFFU) : scancode;

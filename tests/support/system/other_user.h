@@ -1,4 +1,4 @@
-// Files of other users, and what those may do: of POSIX alone.
+// Runs code as another user. POSIX only.
 #ifndef TESTS_SUPPORT_SYSTEM_OTHER_USER_H_
 #define TESTS_SUPPORT_SYSTEM_OTHER_USER_H_
 
@@ -11,7 +11,7 @@ constexpr uid_t kNobody = 65534;
 
 inline bool IsRoot() { return geteuid() == 0; }
 
-// While it lives, root is another user.
+// While it exists, root acts as another user.
 class AsNobody {
  public:
   AsNobody() : is_done_(seteuid(kNobody) == 0) {}

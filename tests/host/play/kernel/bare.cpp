@@ -1,5 +1,5 @@
-// The minimum between a keyboard and a touch screen: one loop that reads the one and writes the other. The latency of a
-// player is compared with this.
+// The minimum between a keyboard and a touch screen: one loop that reads the one and writes to the other. The player's
+// latency is compared with that of this loop.
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #!/bin/busybox sh
-# The first process of the small machine in which a Wayland client of a wlroots compositor without a screen sees the
-# contacts, as programs on a player's desktop do.
+# The first process of a small machine with a headless wlroots compositor. A Wayland client sees the contacts there,
+# like a program on a player's desktop.
 . /machine.sh
 
 $bb mkdir -m 1777 /dev/shm

@@ -1,7 +1,7 @@
 // Another program that reads input devices with plain evdev: prints a line for each event, "NAME|TYPE CODE VALUE US"
 // with the kernel's time in microseconds, at once.
 //
-//   eyes NAME...      reads each device of such a name, from the moment that there is one
+//   eyes NAME...      reads each device with one of these names, as soon as it exists
 //
 // Prints "gone" after the name when a device is removed.
 #include <chrono>

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Downloads Debian's udev, libinput and a compositor, without installing them, and unpacks what kernel_play_test.py
-# boots with.
+# Downloads Debian's udev, libinput and a compositor, without installing them, and unpacks the parts that
+# kernel_play_test.py boots with.
 #
 #   fetch_libinput.sh DIR      makes DIR/libinput, unless it is there
 set -euo pipefail

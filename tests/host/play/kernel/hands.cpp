@@ -1,20 +1,20 @@
-// The hands of a player: makes a keyboard and a mouse that pass for plugged-in ones, and plays on them what standard
-// input says, a command a line:
+// The hands of a player: makes a keyboard and a mouse that look like real ones, and plays on them the commands of
+// standard input, one per line:
 //
 //   key CODE VALUE    a key of the keyboard, or a button of the mouse from 272 on
-//   rel DX DY         the mouse goes
-//   wheel PARTS       its wheel turns, 120 the notch
-//   wait MS           at least: a machine that is slow makes no gesture shorter
+//   rel DX DY         moves the mouse
+//   wheel PARTS       turns its wheel, 120 a notch
+//   wait MS           waits at least this long, so that a slow machine shortens no gesture
 //   flood CODE TIMES  a key, down and up repeatedly, as fast as possible
 //   race CODE TIMES   a key, 8 ms down and 8 ms up repeatedly; prints "press US" for each, in microseconds
-//   unplug            takes the keyboard away
-//   plug_pad          makes a gamepad, which is not there at first
+//   unplug            removes the keyboard
+//   plug_pad          makes a gamepad; there is none at first
 //   pad CODE VALUE    a button of the gamepad
 //   axis CODE VALUE   an axis of the gamepad: a stick from -32768 to 32767, a trigger from 0 to 255
-//   unplug_pad        takes the gamepad away
+//   unplug_pad        removes the gamepad
 //   done WORD         prints WORD
 //
-// Prints "ready" when the devices exist; they are removed with the program.
+// Prints "ready" when the devices exist; they exist until the program ends.
 #include <chrono>
 #include <cstring>
 #include <ctime>
@@ -32,7 +32,7 @@ namespace {
 
 constexpr int kLastKey = KEY_MICMUTE;
 
-// An error here would be an error for the reader of the events, too.
+// An error here shows up as missing events at the reader, too.
 void Emit(int file, int type, int code, int value) {
   input_event event{};
   event.type = static_cast<unsigned short>(type);
@@ -132,7 +132,7 @@ class Hands {
   void Flood(int code, int times) {
     for (int i = 0; i < 2 * times; ++i) Key(code, (i + 1) % 2);
   }
-  // Printed at the end, so that the printing does not delay what is measured.
+  // Printed at the end, so that printing does not disturb the measurement.
   void Race(int code, int times) {
     std::vector<long long> presses;
     for (int i = 0; i < times; ++i) {

@@ -1,12 +1,12 @@
 #!/bin/busybox sh
-# The first process of the small machine that kernel_play_test.py boots: a player's hands play `tavi play`, and what
-# others see of it is printed at the end, file by file. Each step writes its name into what is seen.
+# The first process of the small machine that kernel_play_test.py boots: a simulated player uses `tavi play`, and the
+# events that other programs see are printed at the end, file by file. Each step writes its name into these files.
 . /machine.sh
 /usr/libexec/libinput/libinput-debug-events >>/log/libinput 2>>/log/problems 4>&- &
 libinput=$!
 /tavi play --list >>/log/list 2>&1
 
-# Somebody without rights, and somebody in the group that the rule of udev is for.
+# A user without rights, and one in the group of the udev rule.
 for name in nobody player; do
   echo "$name" >>/log/rights
   $bb mkdir -p "/run/of_$name" && $bb chown "$name" "/run/of_$name" && $bb chmod 700 "/run/of_$name"
@@ -65,7 +65,7 @@ step wheel
 do_by_hand "wheel 40" "wheel 40" "wait 200" "wheel 40" "wait 300"
 wait_touch wheel
 do_by_hand "wheel 90" "wheel -30" "wheel 30" "wait 300"
-# More than the kernel keeps for a reader: what is down when it reads again is what counts.
+# More events than the kernel buffers for a reader: the keys that are down at the next read count.
 step lost
 do_by_hand "key 17 1" "wait 200"
 wait_touch lost
@@ -73,7 +73,7 @@ $bb kill -STOP $play
 do_by_hand "key 17 0" "key 57 1" "flood 183 50"
 $bb kill -CONT $play
 do_by_hand "wait 500" "key 57 0" "wait 300"
-# Without new devices the old ones go on.
+# If new devices cannot be made, the old ones stay in use.
 step size
 $bb mv /dev/uinput /dev/uinput.away
 ask "size 640x360"
@@ -100,7 +100,8 @@ kill_while_walking TERM
 start_play
 kill_while_walking KILL
 
-# A macro that never ends takes the player's event loop away: it ends by itself, at a signal at once. $1: how.
+# An endless macro blocks the player's event loop: the player ends by itself, and at once on a signal. $1: stuck, or
+# stuck at SIGTERM.
 stick() {
   start_play
   ask "keymap /endless.yaml"
@@ -117,7 +118,8 @@ stick() {
 stick stuck
 stick "stuck at SIGTERM"
 
-# The other ways of lines to this kernel. The window's replay does not wait for the devices: its first tap may be lost.
+# Other commands that send lines to this kernel. The window's replay does not wait for the devices: its first tap may be
+# lost.
 step record
 /tavi record play --live --guest uinput /record.json >/dev/null 2>>/log/news
 echo "record $?" >>/log/status

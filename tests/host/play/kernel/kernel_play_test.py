@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
-"""`tavi play` on a real kernel: a keyboard, a mouse and a gamepad in, and what libinput and a reader of evdev see of it.
+"""`tavi play` on a real kernel, with a keyboard, a mouse and a gamepad: compares the events that libinput and a reader
+of evdev get with the simulation.
 
     kernel_play_test.py TAVI HANDS EYES KERNEL_DIR WORK_DIR SOURCE_DIR [BARE]
 
-With BARE, which is the least that there can be between a keyboard and a touch screen, the time from a key to its touch
-is measured too, beside that of BARE. TAVI is to be a release build then.
+With BARE, a minimal loop between a keyboard and a touch screen, also compares the time from a key to its touch with
+that of BARE. TAVI must be a release build then.
 
-Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script say what is to be
-seen, finger by finger. What is missing for that makes it skip, with exit status 77.
+Boots a small machine in qemu, without acceleration. The lines of `tavi simulate` for the same script give the expected
+events of each finger. If something that the test needs is missing, it is skipped with exit status 77.
 """
 import re
 import shutil
@@ -27,14 +28,13 @@ BARE = Path(sys.argv[7]).resolve() if len(sys.argv) > 7 else None
 HERE = Path(__file__).parent
 QEMU = small_machine.X86_64[0]
 BOOT_SECONDS = 900
-# For the race, a processor that takes 4 ns for each instruction, whatever the load of the computer that emulates it.
-# Without that, an emulated processor forgets the addresses of its code with each switch of processes, and finding those
-# again would be most of what is measured.
+# For the race, a processor that takes 4 ns for each instruction, whatever the host's load. Without this, the emulator
+# forgets its translated addresses at each process switch, and finding them again would be most of the measured time.
 STEADY = [*small_machine.X86_64, "-icount", "shift=2"]
 MOST_TIMES_BARE = 2.0  # 1.9 was measured
 LIBINPUT = KERNEL / "libinput"
 
-# The shooter with two gestures more: a chord, and a pinch by a key.
+# The shooter with two more gestures: a chord, and a pinch by a key.
 MORE_ITEMS = """
   - {type: Click, label: Chord, key: H + J, point: [0.5, 0.25]}
   - {type: Zoom, label: Pinch, key: Numpad Plus, point: [0.5, 0.5], speed: 50, duration_ms: 120, start_distance: 0.05}
@@ -65,10 +65,10 @@ joy down RT; wait 100; joy up RT; wait 150
 joy axis 0 1,0; wait 600; joy axis 0 0,0; wait 400
 """
 PAD_BUTTONS = {"A": "pad 304", "LB": "pad 310", "RT": "axis 5"}
-# And for a text field: what is typed, and the keys that type it on the keyboard in hand.
+# For a text field: the typed text, and the keys that type it on the player's keyboard.
 TYPED_SCRIPT = "textfield on; type hi!; wait 100; down Enter; wait 100; up Enter\n"
 TYPED_KEYS = ((35, 1), (35, 0), (23, 1), (23, 0), (42, 1), (2, 1), (2, 0), (42, 0), (28, 1), (28, 0))
-# What is recorded, to be played again.
+# Recorded, and then played.
 RECORD_SCRIPT = """
 down Space; wait 60; up Space; wait 3000
 down W; wait 300; down D; wait 300; up D; wait 300; up W; wait 200
@@ -89,7 +89,7 @@ def missing():
 
 
 def hand_commands():
-    """The script as the hands take it."""
+    """The script as commands of the hands."""
     commands = []
     for command in filter(None, (part.strip() for part in SCRIPT.replace("\n", ";").split(";"))):
         verb, _, rest = command.partition(" ")
@@ -126,7 +126,7 @@ NAMES = {"ABS_MT_POSITION_X": "x", "ABS_MT_POSITION_Y": "y", "ABS_MT_SLOT": "slo
 
 
 class Screen:
-    """Fingers of a touch screen, from its events. The kernel leaves out what did not change, also long before."""
+    """Fingers of a touch screen, from its events. The kernel omits values that did not change, however old they are."""
 
     def __init__(self):
         self.slot, self.down, self.places, self.moved = 0, {}, {}, set()
@@ -174,7 +174,7 @@ def fingers_of(timeline):
 
 
 def seen_fingers(lines):
-    """The same of what the eyes saw, by step."""
+    """The same for the events that the eyes saw, by step."""
     screen, step, fingers = Screen(), "", {}
     for line in lines:
         if line.startswith("step "):
@@ -217,7 +217,7 @@ def make_file_system(first_process):
     (root / "lib/systemd/systemd-udevd").symlink_to("/bin/udevadm")
     for program in desktop:
         copy(program, root / program.relative_to(LIBINPUT))
-    (root / "usr/bin/Xwayland").symlink_to("/bin/busybox")  # has to be there; nobody starts it
+    (root / "usr/bin/Xwayland").symlink_to("/bin/busybox")  # must exist, but is never started
     shutil.copytree(LIBINPUT / "usr/share/X11", root / "usr/share/X11", symlinks=True)
     for helper in helpers:
         copy(helper, root / "lib/udev" / helper.name)
@@ -251,7 +251,7 @@ def make_file_system(first_process):
 
 
 def boot(first_process, machine=small_machine.X86_64):
-    """What the machine printed between its marks: the lines of each file, by its name."""
+    """The machine's output between the marks: the lines of each file, by its name."""
     make_file_system(first_process)
     archive = small_machine.pack(WORK / "root", WORK / "root.cpio")
     kernel = small_machine.unpacked(KERNEL / "vmlinuz", WORK / "vmlinux")
@@ -262,7 +262,7 @@ def boot(first_process, machine=small_machine.X86_64):
 
 
 def latencies(files):
-    """The time from each key to its touch in microseconds: of the bare loop and of the player, a list a round."""
+    """The microseconds from each key to its touch, of the bare loop and of the player: one list per round."""
     pressed, touched, runner = {"bare": [], "play": []}, {"bare": [], "play": []}, ""
     for line in files["hands"]:
         if line.startswith("race "):
@@ -431,7 +431,7 @@ class KernelPlay(unittest.TestCase):
 
 
 class KernelCompositor(unittest.TestCase):
-    """A client of a compositor that forgets fingers of a device that goes."""
+    """A client of a compositor that forgets the fingers of a removed device."""
 
     def test_no_finger_stays_down_for_a_client(self):
         files = boot("compositor.sh")

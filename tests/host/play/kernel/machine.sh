@@ -1,5 +1,5 @@
-# The start of each first process of the small machine, to be sourced: its devices, the player's input, and a reader of
-# the events that others see.
+# Sourced by the first processes of the small machine: sets up its devices, the player's input, and a reader of the
+# events that other programs see.
 bb=/bin/busybox
 PATH=/bin
 $bb mkdir -p /proc /sys /dev /run /tmp
@@ -18,7 +18,7 @@ $bb insmod /uinput.ko
 /bin/udevadm trigger --action=add --subsystem-match=misc --sysname-match=uinput
 /bin/udevadm settle
 
-# wait_for WORDS FILE: until the file has a line with the words, or a minute is over
+# wait_for WORDS FILE: waits until the file has a line with the words, at most a minute
 wait_for() {
   tries=0
   until $bb grep -q "$1" "$2"; do
@@ -27,7 +27,8 @@ wait_for() {
     [ $tries -lt 1200 ] || { echo "no \"$1\" in $2" >>/log/problems; return; }
   done
 }
-# step NAME: what is seen belongs to it from here on. Readers have come to the end of what was before.
+# step NAME: starts a step, to which all further events belong. Waits first until the readers have logged the earlier
+# ones.
 step() {
   seen=
   until [ "$seen" = "$($bb wc -c /log/eyes /log/libinput)" ]; do
@@ -36,7 +37,7 @@ step() {
   done
   for name in eyes libinput client; do echo "step $1" >>/log/$name; done
 }
-# wait_state WORDS: until the state that was told last begins so, or a minute is over
+# wait_state WORDS: waits until the state printed last begins with the words, at most a minute
 wait_state() {
   tries=0
   until $bb tail -n 1 /log/play | $bb grep -q "^$1"; do
@@ -45,7 +46,7 @@ wait_state() {
     [ $tries -lt 1200 ] || { echo "the state is not \"$1\"" >>/log/problems; return; }
   done
 }
-# wait_touch STEP: until a contact is pressed in this step, or a minute is over
+# wait_touch STEP: waits until a contact is pressed in this step, at most a minute
 wait_touch() {
   tries=0
   until $bb sed -n "/^step $1\$/,\$p" /log/eyes | $bb grep -q "tavi screen|1 330 1"; do
@@ -54,7 +55,7 @@ wait_touch() {
     [ $tries -lt 1200 ] || { echo "no finger in step $1" >>/log/problems; return; }
   done
 }
-# do_by_hand COMMANDS...: and returns when they are done
+# do_by_hand COMMANDS...: runs commands of the player's hands, and returns when they are done
 done_count=0
 do_by_hand() {
   done_count=$((done_count + 1))
@@ -68,14 +69,15 @@ take_hands() {
   hands=$!
   exec 4>/hands_in
 }
-# The machine has a keyboard of its own, too.
+# The second keyboard is the machine's own.
 start_play() {
   : >/log/play
   /tavi play --size 1280x720 "$@" /keymap.yaml >>/log/play 2>>/log/news 4>&- &
   play=$!
   wait_for "^mapping on, keymap.yaml.*2 keyboards, 1 mouse" /log/play
 }
-# kill_while_walking SIGNAL: kills it while a contact is down, and returns when others have seen the result
+# kill_while_walking SIGNAL: kills the player while a contact is down, and returns when other programs have seen the
+# result
 kill_while_walking() {
   step "$1"
   wait_state "mapping on"
@@ -89,7 +91,7 @@ kill_while_walking() {
 }
 ask() { echo "$1: $(/tavi play --control "$1" 2>&1)" >>/log/answers; }
 
-# tell FILES: prints them, between the marks that the test looks for, and powers off
+# tell FILES: prints the files between the marks that the test looks for, and powers off
 tell() {
   echo "=== begin"
   for name in "$@"; do

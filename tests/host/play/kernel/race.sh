@@ -1,6 +1,6 @@
 #!/bin/busybox sh
-# The first process of the small machine in which kernel_play_test.py has the player race the least that there can be
-# between a keyboard and a touch screen, round by round.
+# The first process of the small machine in which kernel_play_test.py compares, round by round, the latency of the
+# player with that of a bare loop between a keyboard and a touch screen.
 . /machine.sh
 
 race() {

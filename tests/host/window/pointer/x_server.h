@@ -26,7 +26,7 @@ class XServer {
   QByteArray display_;
 };
 
-// A connection of its own to the server.
+// A separate connection to the server.
 class XClient {
  public:
   XClient();
