@@ -34,13 +34,13 @@ struct InputManagerCallbacks {
   // Where the guest view is. Event positions are relative to its top left corner.
   WindowGeometry (*GetWindowGeometry)() = nullptr;
   // Rotation of the guest display in degrees. All values except 90 and 270 mean no rotation. Also called on the thread
-  // of a zoom run.
+  // of a pinch that a key started.
   int (*GetDisplayRotation)() = nullptr;
   // Whether a text field of the guest has the focus, so that keys are typed as text. While true, keys bypass the
   // keymap; mouse, wheel and gamepads do not.
   bool (*IsTextInputActive)() = nullptr;
-  // `status` is an InputStatus. `message` is the name of a key: after a keymap load that of the first Staring item, and
-  // otherwise that of the Staring or Observe item whose key last changed the status. A reset, a display change and the
+  // `status` is an InputStatus. `message` names a key: after a keymap load the key of the first Staring item, and
+  // otherwise the key, of a Staring or Observe item, that last changed the status. A reset, a display change and the
   // load of a keymap without a Staring item repeat the previous name. Called each time the status is set, even to the
   // same value. Called on a replay's thread when that replay reaches the end of its record.
   void (*OnInputStatusChanged)(int status, const QString& message) = nullptr;
@@ -54,7 +54,7 @@ struct InputManagerCallbacks {
   // The guest display in display pixels, in the orientation shown in the window. Aimed skills and the macro point
   // `mouse` use QCursor::pos minus its top left corner.
   QRect (*GetDisplayRect)() = nullptr;
-  // The guest's unrotated touch surface. Also called on the thread of a zoom run.
+  // The guest's unrotated touch surface. Also called on the thread of a pinch that a key started.
   QRect (*GetTouchRect)() = nullptr;
   // A keymap item matched: true for keyboard and mouse, false for a gamepad. Called before the item acts. May be null.
   void (*OnMappedDeviceUsed)(bool keyboard_or_mouse) = nullptr;

@@ -33,7 +33,7 @@
 //   including mirrored ones, the status callback, IsPrimaryDisplay and `finished` arrive on that thread, possibly
 //   before the lines of the last action. The main thread may do anything meanwhile, including recording.
 // - On a replay's thread a host may call only the functions listed in the section Replay.
-// - GetTouchRect and GetDisplayRotation are also called on the thread of a zoom run.
+// - GetTouchRect and GetDisplayRotation are also called on the thread of a pinch that a key started.
 // - UpdateRecordTimestamp does not catch the exceptions of its JSON parser.
 // - A host that loads a keymap, resets input or changes the display from inside one of its own functions may crash; see
 //   Re-entrancy.
@@ -223,7 +223,8 @@ TAVI_EXPORT void InitializeReplayCallbacks(InputReplayerCallbacks* callbacks);
 // are ignored. A file that cannot be read starts nothing, and `started` is not called. Where the platform supports it,
 // the file is locked against writers until the replay is stopped. The first callbacks may come before this returns.
 TAVI_EXPORT void StartReplay(int, int task_id, const QString&, const QString& filename, ReplayParam param);
-// Pauses a replay, keeps the rest of the current delay, and fully resets all input on the live display.
+// Pauses a replay, keeps the rest of the current delay, and fully resets all input on the current display, which
+// need not be the one that replays send to.
 TAVI_EXPORT void PauseReplay(int task_id, const QString& file);
 // Presses what replays held down again, and resumes the replay.
 TAVI_EXPORT void ResumeReplay(int task_id, const QString& file);
