@@ -27,7 +27,7 @@
 //
 // Hazards:
 // - Several gestures block the calling thread for a few milliseconds on purpose (the swipe of a cast, a wheel notch).
-// - GetScriptAppAndPackage does not return for a file whose first action has no `data`.
+// - GetScriptAppAndPackage does not return for a file without actions, or whose first action has no `data`.
 // - A macro loop without a pause may never return.
 // - When a replay reaches the end of its record, the reset of its contacts runs on the replay's thread. Its lines,
 //   including mirrored ones, the status callback, IsPrimaryDisplay and `finished` arrive on that thread, possibly
