@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include "test_folders.h"
+#include "tests/support/application_object.h"
 
 namespace taviguest {
 namespace {
@@ -33,7 +34,7 @@ constexpr char kFingerLine[] = "1:SLOTPRESS:2:2:1:1:640:360\n";
 
 class ListeningGuest : public testing::Test {
  protected:
-  ListeningGuest() : application_(argument_count_, arguments_) {}
+  ListeningGuest() = default;
 
   ~ListeningGuest() override {
     guest_.kill();
@@ -84,9 +85,7 @@ class ListeningGuest : public testing::Test {
   QProcess guest_;
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  tavi::ApplicationObject<QCoreApplication> application_;
   QTemporaryDir folder_;
 };
 

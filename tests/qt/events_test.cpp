@@ -7,14 +7,13 @@
 #include "qt/mouse_events.h"
 #include "qt/touch_events.h"
 #include "qt/wheel_events.h"
+#include "tests/support/application_object.h"
 
 namespace {
 
 class Events : public testing::Test {
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QGuiApplication application_{argument_count_, arguments_};
+  tavi::ApplicationObject<QGuiApplication> application_;
 };
 
 int Turn(const QPoint& angle) {

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "test_folders.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 
@@ -22,7 +23,7 @@ struct Outcome {
 
 class Program : public testing::Test {
  protected:
-  Program() : application_(argument_count_, arguments_) {}
+  Program() = default;
 
   // Writes a file to the test's own folder, in which the program is started.
   void Write(const QString& name, const char* text) {
@@ -62,9 +63,7 @@ class Program : public testing::Test {
   QString output_;  // where standard output goes; empty: into the outcome
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
   QTemporaryDir folder_;
 };
 

@@ -10,6 +10,7 @@
 #include <QXmlStreamReader>
 
 #include "host/picture/svg_writer.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -47,9 +48,7 @@ class SvgPaint : public testing::Test {
     return elements;
   }
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QGuiApplication application_{argument_count_, arguments_};
+  ApplicationObject<QGuiApplication> application_;
 };
 
 TEST_F(SvgPaint, AFilledShapeHasItsColourAndOpacity) {

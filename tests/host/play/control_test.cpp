@@ -10,6 +10,7 @@
 #include "host/play/play_control.h"
 #include "host/play/screen_size.h"
 #include "tests/host/play/play_fixture.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -243,14 +244,10 @@ ControlAnswer AskFromElsewhere(const QString& name, const QString& line) {
 
 class ControlSocketTest : public testing::Test {
  protected:
-  ControlSocketTest() : application_(argument_count_, arguments_) {
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
-  }
+  ControlSocketTest() { qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path())); }
 
   QTemporaryDir folder_;
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 };
 
 TEST_F(ControlSocketTest, ALineGoesInAndItsAnswerComesBack) {

@@ -15,6 +15,8 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include "tests/support/application_object.h"
+
 namespace tavi {
 namespace {
 
@@ -47,7 +49,7 @@ class Pipe {
 
 class EpollDispatcherTest : public testing::Test {
  protected:
-  EpollDispatcherTest() : dispatcher_(Install()), application_(argument_count_, arguments_) {}
+  EpollDispatcherTest() : dispatcher_(Install()) {}
 
   // Reads the pipe, and counts the reads.
   std::unique_ptr<QSocketNotifier> Listen(const Pipe& pipe) {
@@ -71,9 +73,7 @@ class EpollDispatcherTest : public testing::Test {
     return dispatcher;
   }
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 };
 
 TEST_F(EpollDispatcherTest, AFileIsReadWhenItHasSomething) {

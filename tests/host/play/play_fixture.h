@@ -19,6 +19,7 @@
 #include "host/play/play_session.h"
 #include "host/session/live_host.h"
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 
@@ -136,7 +137,7 @@ using Lines = std::vector<std::string>;
 
 class PlayFixture : public testing::Test {
  protected:
-  PlayFixture() : clock_(InstallClock()), application_(argument_count_, arguments_), guest_(clock_) {
+  PlayFixture() : clock_(InstallClock()), guest_(clock_) {
     clock_->SetPointer(QCursor::pos());
     keyboard_ = box_.Add(kKeyboard, "Board", DeviceKind::kKeyboard);
     mouse_ = box_.Add(kMouse, "Rat", DeviceKind::kMouse);
@@ -210,9 +211,7 @@ class PlayFixture : public testing::Test {
     return clock;
   }
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QGuiApplication application_;
+  ApplicationObject<QGuiApplication> application_;
 
  protected:
   Notebook guest_;

@@ -6,16 +6,16 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+#include "tests/support/application_object.h"
+
 namespace tavi {
 namespace {
 
 class WatchdogTest : public testing::Test {
  protected:
-  WatchdogTest() : application_(argument_count_, arguments_) {}
+  WatchdogTest() = default;
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
   std::atomic<int> bites_{0};
 };
 

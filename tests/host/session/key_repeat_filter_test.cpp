@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 // Events as text: "down 30" or "up 30", with "again" for a repeat.
 class KeyRepeats : public testing::Test {
  protected:
-  KeyRepeats() : clock_(InstallClock()), application_(argument_count_, arguments_) {}
+  KeyRepeats() : clock_(InstallClock()) {}
 
   void Take(QEvent::Type type, quint32 scancode, ulong timestamp, bool repeat = false) {
     QKeyEvent event(type, 0, Qt::NoModifier, scancode, 1, 0, QString(), repeat);
@@ -36,9 +37,7 @@ class KeyRepeats : public testing::Test {
   VirtualEventDispatcher* clock_;
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
   QStringList passed_;
 
  protected:

@@ -9,6 +9,7 @@
 
 #include "host/session/keymap_watch.h"
 #include "keymapmanager/keymap_file.h"
+#include "tests/support/application_object.h"
 #include "tests/support/run_until.h"
 #include "tests/support/system/make_pipe.h"
 
@@ -76,7 +77,7 @@ TEST_F(KeymapSourceTest, APipeIsNotWaitedFor) {
 
 class KeymapWatchTest : public KeymapSourceTest {
  protected:
-  KeymapWatchTest() : application_(argument_count_, arguments_) {
+  KeymapWatchTest() {
     QObject::connect(&watch_, &KeymapWatch::Changed, &watch_, [this] { told_ += "changed"; });
     QObject::connect(&watch_, &KeymapWatch::Vanished, &watch_, [this] { told_ += "vanished"; });
   }
@@ -88,9 +89,7 @@ class KeymapWatchTest : public KeymapSourceTest {
   }
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 
  protected:
   KeymapWatch watch_;

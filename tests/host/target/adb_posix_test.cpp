@@ -12,6 +12,7 @@
 
 #include "host/target/guest_targets.h"
 #include "test_folders.h"
+#include "tests/support/application_object.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
@@ -22,7 +23,7 @@ using taviinputmanager::RunEventsUntil;
 
 class Adb : public testing::Test {
  protected:
-  Adb() : application_(argument_count_, arguments_) {
+  Adb() {
     qputenv("PHONE", QFile::encodeName(folder_.path()));
     qputenv("PATH", TAVI_SOURCE_DIR "/tests/host/target:" + qgetenv("PATH"));
     QObject::connect(&targets_, &GuestTargets::Message, &targets_,
@@ -56,9 +57,7 @@ class Adb : public testing::Test {
   void Send(const QByteArray& line) { targets_.Send((line + '\n').constData(), line.size() + 1); }
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 
  protected:
   QTemporaryDir folder_;

@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 
 #include "host/target/guest_targets.h"
+#include "tests/support/application_object.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
@@ -26,7 +27,7 @@ using taviinputmanager::RunEventsUntil;
 
 class GuestTargetsTest : public testing::Test {
  protected:
-  GuestTargetsTest() : application_(argument_count_, arguments_) {
+  GuestTargetsTest() {
     QObject::connect(&targets_, &GuestTargets::Message, &targets_,
                      [this](const QString& text) { messages_.append(text); });
   }
@@ -63,9 +64,7 @@ class GuestTargetsTest : public testing::Test {
   void SendText(const QByteArray& text) { targets_.Send(text.constData(), text.size() + 1); }
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 
  protected:
   QTemporaryDir folder_;

@@ -9,6 +9,7 @@
 
 #include "host/picture/overlay_marks.h"
 #include "keymapmanager/keymap_file.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -46,9 +47,7 @@ int LargestDifference(const QImage& a, const QImage& b) {
 
 class DrawnOverlayTest : public testing::Test {
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QGuiApplication application_{argument_count_, arguments_};
+  ApplicationObject<QGuiApplication> application_;
 
  protected:
   DrawnOverlayTest() { drawn_.SetMarks(Marks("{type: Click, key: A, point: [0.5, 0.5]}")); }

@@ -11,6 +11,7 @@
 #include "guest/line/timeline_line.h"
 #include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -19,8 +20,7 @@ using Source = TimelineEntry::Source;
 
 class LineLogTest : public testing::Test {
  protected:
-  LineLogTest()
-      : clock_(InstallClock()), application_(argument_count_, arguments_), log_(std::make_unique<LineLog>()) {}
+  LineLogTest() : clock_(InstallClock()), log_(std::make_unique<LineLog>()) {}
 
   void Push(const QString& name) {
     for (QToolButton* button : log_->findChildren<QToolButton*>()) {
@@ -43,9 +43,7 @@ class LineLogTest : public testing::Test {
     return clock;
   }
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QApplication application_;
+  ApplicationObject<QApplication> application_;
 
  protected:
   std::unique_ptr<LineLog> log_;

@@ -15,13 +15,14 @@
 #include "host/mirror/mirror_message.h"
 #include "host/mirror/mirror_targets.h"
 #include "host/session/live_host.h"
+#include "tests/support/application_object.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
 
 class Mirror : public testing::Test {
  protected:
-  Mirror() : application_(argument_count_, arguments_) {
+  Mirror() {
     const MirrorTargets* targets = MirrorTargets::GetInstance();
     QObject::connect(targets, &MirrorTargets::Reached, &context_, [this] { ++reached_; });
     QObject::connect(targets, &MirrorTargets::Lost, &context_, [this](const QString& name, const QString& problem) {
@@ -61,9 +62,7 @@ class Mirror : public testing::Test {
   QStringList lost_;  // names of those that do not, each with the reason
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QApplication application_;
+  ApplicationObject<QApplication> application_;
   QObject context_;
 };
 

@@ -12,6 +12,7 @@
 
 #include "host/simulation/platform_events.h"
 #include "host/simulation/virtual_event_dispatcher.h"
+#include "tests/support/application_object.h"
 
 namespace tavi {
 namespace {
@@ -43,8 +44,7 @@ struct FakeLock : PointerLock {
 // A view whose middle is at 150, 100 on the screen, and which has the focus.
 class PointerCaptureTest : public testing::Test {
  protected:
-  PointerCaptureTest()
-      : clock_(InstallClock()), application_(argument_count_, arguments_), view_(std::make_unique<QWidget>()) {
+  PointerCaptureTest() : clock_(InstallClock()), view_(std::make_unique<QWidget>()) {
     view_->setGeometry(100, 50, 101, 101);
     view_->setMouseTracking(true);
     view_->show();
@@ -71,15 +71,13 @@ class PointerCaptureTest : public testing::Test {
     QCoreApplication::setEventDispatcher(clock);
     return clock;
   }
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
 
  protected:
   const PlatformEvents events_;
   VirtualEventDispatcher* clock_;  // owned by the application
 
  private:
-  QApplication application_;
+  ApplicationObject<QApplication> application_;
 
  protected:
   std::unique_ptr<QWidget> view_;

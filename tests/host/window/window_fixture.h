@@ -21,6 +21,7 @@
 #include "host/window/main_window.h"
 #include "host/window/view/guest_display.h"
 #include "host/window/view/guest_view.h"
+#include "tests/support/application_object.h"
 #include "tests/support/system/native_key.h"
 
 namespace tavi {
@@ -31,7 +32,7 @@ constexpr int kA = 30;
 
 class WindowFixture : public testing::Test {
  protected:
-  WindowFixture() : clock_(InstallClock()), application_(argument_count_, arguments_) {
+  WindowFixture() : clock_(InstallClock()) {
     window_ = std::make_unique<MainWindow>();
     window_->Display()->SetSize(QSize(1280, 720));
     window_->show();
@@ -101,9 +102,7 @@ class WindowFixture : public testing::Test {
     return clock;
   }
 
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QApplication application_;
+  ApplicationObject<QApplication> application_;
 
  protected:
   std::unique_ptr<MainWindow> window_;

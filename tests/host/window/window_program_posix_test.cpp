@@ -17,6 +17,7 @@
 #include "host/mirror/mirror_message.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "test_folders.h"
+#include "tests/support/application_object.h"
 #include "tests/support/run_until.h"
 
 namespace tavi {
@@ -31,7 +32,7 @@ constexpr char kHeld[] = R"~({"info": {"total_running_time": 3600000}, "actions"
 
 class WindowProgram : public testing::Test {
  protected:
-  WindowProgram() : application_(argument_count_, arguments_) {
+  WindowProgram() {
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_.filePath("config")));
@@ -72,9 +73,7 @@ class WindowProgram : public testing::Test {
   }
 
  private:
-  int argument_count_ = 0;
-  char* arguments_[1] = {nullptr};
-  QCoreApplication application_;
+  ApplicationObject<QCoreApplication> application_;
 
  protected:
   QTemporaryDir folder_;
