@@ -1,18 +1,17 @@
 // A host that calls the library from inside every function that the library calls: nothing may crash or stay pressed.
 #include <QFile>
 #include <QSet>
-#include <QTemporaryDir>
 
 #include "host/simulation/script_player.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
+#include "tests/soak/record_soak.h"
 #include "tests/support/from_environment.h"
 #include "tests/support/interruptions.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
 #include "tests/support/random_input.h"
-#include "tests/support/story.h"
 
 namespace taviinputmanager {
 namespace {
@@ -24,7 +23,7 @@ class ReenteringHost;
 ReenteringHost* host = nullptr;  // functions of the host have no place for it
 
 // TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run; the events are those from outside.
-class ReenteringHost : public Story {
+class ReenteringHost : public RecordSoak {
  protected:
   static constexpr int kUsualSeed = 1;
   static constexpr int kUsualEvents = 15000;
@@ -163,21 +162,6 @@ class ReenteringHost : public Story {
       default: return random_.OneIn(4) ? StopAllReplay() : void();
     }
   }
-  QString RecordPath(int id) const { return records_.filePath(QStringLiteral("%1.json").arg(id)); }
-
-  // The last replay is stopped by the user, which releases everything that replays hold.
-  void EndReplays() {
-    StopAllReplay();
-    QFile last(RecordPath(kRecords));
-    ASSERT_TRUE(last.open(QIODevice::WriteOnly));
-    last.write(R"({"info":{"package_name":"x"},"actions":[]})");
-    last.close();
-    StartReplay(0, kRecords, QString(), last.fileName(), {});
-    Wait(1);
-    StopReplay(kRecords, last.fileName(), true);
-    Wait(1);
-    in_replay_.clear();
-  }
 
   void PlayKeymap(int events) {
     for (int i = 0; i < events; ++i) {
@@ -197,7 +181,8 @@ class ReenteringHost : public Story {
   void LetGoOfEverything() {
     is_quiet_ = true;
     Host().text_input = false;
-    EndReplays();
+    EndReplays(kRecords);
+    in_replay_.clear();
     for (const auto& key : random_.Keys()) {
       ScriptCommand command;
       command.kind = Kind::kKeyUp;
@@ -226,7 +211,6 @@ class ReenteringHost : public Story {
   tavi::ScriptPlayer player_;
   ModelGuest guest_;
   ModelGuest mirror_;
-  QTemporaryDir records_;
   QSet<int> in_replay_;  // numbers of records
   ScriptCommand last_;   // from outside
   int depth_ = 0;

@@ -2,25 +2,24 @@
 #include <malloc.h>
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include "host/simulation/script_player.h"
 #include "host/simulation/virtual_event_dispatcher.h"
 #include "keymapmanager/keymap_file.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "test_folders.h"
+#include "tests/soak/record_soak.h"
 #include "tests/support/allocation_count.h"
 #include "tests/support/from_environment.h"
 #include "tests/support/keymap_source.h"
 #include "tests/support/model_guest.h"
 #include "tests/support/random_input.h"
-#include "tests/support/story.h"
 
 namespace taviinputmanager {
 namespace {
 
 // TAVI_SOAK_SEED and TAVI_SOAK_EVENTS choose another run.
-class Soak : public Story {
+class Soak : public RecordSoak {
  protected:
   static constexpr int kUsualSeed = 1;
   static constexpr int kUsualEvents = 200000;
@@ -108,7 +107,6 @@ class Soak : public Story {
         return Wait(1), in_replay_.clear();
     }
   }
-  QString RecordPath(int id) const { return records_.filePath(QStringLiteral("%1.json").arg(id)); }
   // Does not merge merged records endlessly: those that grow too large are excluded.
   void MergeSomeRecords(const QString& target) {
     QVector<MergeParam> parts;
@@ -119,25 +117,12 @@ class Soak : public Story {
     }
     MergeRecord(target, parts);
   }
-  // The last one is stopped by the user, which releases everything that replays hold.
-  void EndReplays() {
-    StopAllReplay();
-    QFile last(RecordPath(kRecords));
-    ASSERT_TRUE(last.open(QIODevice::WriteOnly));
-    last.write(R"({"info":{"package_name":"x"},"actions":[]})");
-    last.close();
-    StartReplay(0, kRecords, QString(), last.fileName(), {});
-    Wait(1);
-    StopReplay(kRecords, last.fileName(), true);
-    Wait(1);
-  }
-
   // Nothing is replayed or recorded, no timer of a gesture runs, and the keymaps are always the same.
   void ComeToRest() {
     LoadKeymap(random_.Keymaps().first());
     LoadJoystickKeymap(random_.JoystickKeymaps().first());
     StopRecord("com.example.game", RecordPath(kRecords));
-    EndReplays();
+    EndReplays(kRecords);
     in_replay_.clear();
     Wait(kQuietMs);
     Listen();
@@ -178,7 +163,6 @@ class Soak : public Story {
   RandomInput random_;
   int display_ = 1;
   ModelGuest guest_;
-  QTemporaryDir records_;
   QSet<int> in_replay_;  // numbers of records
 };
 
@@ -197,7 +181,7 @@ TEST_F(Soak, NothingStaysDown) {
     if (OneIn(100)) RecordOrReplay();
     if (i % 1000 == 0) Listen();
   }
-  EndReplays();
+  EndReplays(kRecords);
   UpdateDisplayId(display_);
   Wait(kQuietMs);  // running timers may still send
   UpdateDisplayId(display_);
