@@ -140,7 +140,7 @@ TEST_F(TransparentGamepad, WithoutAnAnswerOfTheHostLayoutAHolds) {
 
 TEST_F(TransparentGamepad, EachButtonGoesDownAndUpUnderItsCode) {
   for (const ButtonRow& row : kButtons) {
-    if (row.code == 312 || row.code == 313 || row.code == 272) continue;  // told below
+    if (row.code == 312 || row.code == 313 || row.code == 272) continue;  // tested below
     Host().joystick_type = kKindOfLayoutB;
     EXPECT_TRUE(Press(row.number_b));
     EXPECT_TRUE(Release(row.number_b));

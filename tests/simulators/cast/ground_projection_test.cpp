@@ -96,7 +96,7 @@ TEST(GroundProjection, LandsWhereThePointerStandsOnTheGround) {
 TEST(GroundProjection, TurnsIntoTheFrameOfTheForwardDirection) {
   SpellConfigItem item = Item(kPerspective, 100);
   item.character_rel_x = 0.75;  // pixel 960, x = 0.5: on the ground (0.5, 0)
-  // Forward: y = 0.8 gives Y = 4, X = 0.5 * 5 = 2.5, so that it runs along (2, 4). The pointer at (0.5, 0.5) stands at
+  // Forward: y = 0.8 gives Y = 4, X = 0.5 * 5 = 2.5, so that it runs along (2, 4). The pointer at (0.5, 0.5) is at
   // (1, 1): r = (0.5, 1), straight ahead, sqrt(1.25) = 1.118 long. The finger goes straight up by 111.8.
   EXPECT_EQ(ProjectOnGround(item, {960, 180}, kButton, kDisplay), QPoint(640, 248));
 }

@@ -13,7 +13,7 @@ namespace keywords = tavikeymapmanager::keywords;
 class SpellPointer : public SpellStory {
  protected:
   SpellConfigItem* AddAimed() { return AddSpell(keywords::kTriggerOnRelease, keywords::kLocationMouse); }
-  // With the character in the middle. On the ground the pointer stands where it is seen, and half a display to the
+  // With the character in the middle. On the ground the pointer is where it is seen, and half a display to the
   // right of the character, or above it, is 0.5 * 200 = 100 pixels away from the button, to the left or upwards.
   SpellConfigItem* AddProjected() {
     SpellConfigItem* item = AddAimed();
