@@ -21,8 +21,8 @@ class VirtualKeyboardEvent : public QKeyEvent {
                   count),
         slot_index(slot) {}
 
-  // `code` is the key, the native scan code and the native virtual key. A template, so that a modifier, which converts to
-  // any number, is not taken for a pointer.
+  // `code` is the key, the native scan code and the native virtual key. A template, so that a modifier, which converts
+  // to any number, is not taken for a pointer.
   template <typename Slot, typename = std::enable_if_t<std::is_integral_v<Slot>>>
   VirtualKeyboardEvent(QEvent::Type type, int code, Slot slot)
       : VirtualKeyboardEvent(type, code, Qt::NoModifier, static_cast<quint32>(code), static_cast<quint32>(code), 0,
