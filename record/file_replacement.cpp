@@ -119,13 +119,13 @@ bool MakeFile(const QString& path, const FileContent& content) {
 
 }  // namespace
 
-bool ReplaceFile(const QString& path, const FileContent& content) {
+bool ReplaceContent(const QString& path, const FileContent& content) {
   const QFileInfo present(path);
   if (!present.exists()) return MakeFile(path, content);
   if (!present.isFile()) return WriteInPlace(path, content) != Written::kRefused;
   return WriteOver(present.canonicalFilePath(), content);
 }
 
-bool ReplaceFile(const QString& path, const QByteArray& bytes) { return ReplaceFile(path, ContentOf(bytes)); }
+bool ReplaceContent(const QString& path, const QByteArray& bytes) { return ReplaceContent(path, ContentOf(bytes)); }
 
 }  // namespace taviinputmanager

@@ -32,8 +32,8 @@ using FileContent = std::function<bool(QIODevice* target)>;
 //
 // Returns false and changes nothing if the file cannot be opened for writing. Errors of the writing itself are not
 // reported.
-bool ReplaceFile(const QString& path, const FileContent& content);
-bool ReplaceFile(const QString& path, const QByteArray& bytes);
+bool ReplaceContent(const QString& path, const FileContent& content);
+bool ReplaceContent(const QString& path, const QByteArray& bytes);
 
 }  // namespace taviinputmanager
 

@@ -82,7 +82,7 @@ std::optional<bool> MergeByCopying(const QString& file, const QVector<MergeParam
     header.Add(writer.LastInfo(), param);
   }
   const QJsonObject info = header.Json();
-  const bool is_written = ReplaceFile(file, [&](QIODevice* target) { return writer.Write(info, target); });
+  const bool is_written = ReplaceContent(file, [&](QIODevice* target) { return writer.Write(info, target); });
   if (writer.HasChangedSource()) return std::nullopt;
   return is_written;
 }
@@ -100,7 +100,7 @@ bool MergeByLibrary(const QString& file, const QVector<MergeParam>& params) {
     items.append(QJsonObject{{kControl, utils->WriteControlParam(param)}, {list, source.value(list)}});
   }
   const QJsonDocument document(QJsonObject{{kInfo, header.Json()}, {kMergedActions, items}});
-  return ReplaceFile(file, qt::JsonText(document));
+  return ReplaceContent(file, qt::JsonText(document));
 }
 
 // The same two cases.
@@ -109,7 +109,7 @@ bool StampByCopying(const QString& path, const QByteArray& create_time) {
   if (!source.Find(FileLayout::Writer::kPoco) || !source.Places().create_time) return false;
   const ByteRange before{0, source.Places().create_time->begin};
   const ByteRange behind{source.Places().create_time->end, source.Places().end};
-  ReplaceFile(path, [&](QIODevice* target) {
+  ReplaceContent(path, [&](QIODevice* target) {
     JsonOutput output(target);
     if (!source.Copy(before, 0, &output)) return false;
     output.Add({create_time.constData(), static_cast<std::size_t>(create_time.size())});
@@ -125,7 +125,7 @@ void StampByLibrary(const QString& path, qint64 create_time) {
   file.close();
   if (bytes.isEmpty()) return;
   const std::optional<std::string> stamped = poco_json::Stamped(bytes.toStdString(), create_time);
-  if (stamped) ReplaceFile(path, QByteArray::fromStdString(*stamped));
+  if (stamped) ReplaceContent(path, QByteArray::fromStdString(*stamped));
 }
 
 }  // namespace
@@ -165,7 +165,7 @@ int RecordFileUtils::SaveRecord(const QString& package_name, const QString& file
   QJsonObject header = WriteRecordInfo(info);
   header.insert(kTotalRunningTime, total);  // signed: negative if the clock was set back meanwhile
   const auto content = [&](QIODevice* target) { return WriteRecord(header, actions, target); };
-  return ReplaceFile(file, content) ? kSaved : kOpenFailed;
+  return ReplaceContent(file, content) ? kSaved : kOpenFailed;
 }
 
 void RecordFileUtils::UpdateRecordTimestamp(const QString& path) {

@@ -58,14 +58,14 @@ class FileReplacementOnPosix : public testing::Test, protected RecordFiles {
 };
 
 TEST_F(FileReplacementOnPosix, ANewFileIsForWhomEveryNewFileIs) {
-  EXPECT_TRUE(ReplaceFile(Path("new"), "after"));
+  EXPECT_TRUE(ReplaceContent(Path("new"), "after"));
   EXPECT_EQ(ModeOf(Put("usual", "")), ModeOf(Path("new")));
 }
 
 TEST_F(FileReplacementOnPosix, KeepsWhoMayReadIt) {
   const QString file = Put("record", "before");
   SetMode(file, 0640);
-  EXPECT_TRUE(ReplaceFile(file, "after"));
+  EXPECT_TRUE(ReplaceContent(file, "after"));
   EXPECT_EQ(0640U, ModeOf(file));
 }
 
@@ -73,7 +73,7 @@ TEST_F(FileReplacementOnPosix, AFullDiskLeavesTheOldFile) {
   const QString file = Put("record", "before");
   {
     const FullDisk full(64);
-    EXPECT_TRUE(ReplaceFile(file, QByteArray(100000, 'x'))) << "what becomes of the writing is not told";
+    EXPECT_TRUE(ReplaceContent(file, QByteArray(100000, 'x'))) << "what becomes of the writing is not told";
   }
   EXPECT_EQ("before", Bytes(file));
   EXPECT_EQ("record", Names().join(' ').toStdString()) << "half a file beside it is removed";
@@ -82,7 +82,7 @@ TEST_F(FileReplacementOnPosix, AFullDiskLeavesTheOldFile) {
 TEST_F(FileReplacementOnPosix, AFullDiskMakesNoHalfAFile) {
   {
     const FullDisk full(64);
-    EXPECT_TRUE(ReplaceFile(Path("new"), QByteArray(100000, 'x')));
+    EXPECT_TRUE(ReplaceContent(Path("new"), QByteArray(100000, 'x')));
   }
   EXPECT_EQ("", Names().join(' ').toStdString());
 }
@@ -93,7 +93,7 @@ TEST_F(FileReplacementOnPosix, AFileThatTakesAPartOnlyIsReplacedByItsCopy) {
   SetMode(file, 0640);
   SteppedProcess save([&] {
     std::signal(SIGXFSZ, SIG_IGN);
-    ReplaceFile(file, "and after");
+    ReplaceContent(file, "and after");
   });
   if (!save.CanBeStepped()) GTEST_SKIP() << "this system lets nobody stop a process";
   while (Bytes(file) == "before") ASSERT_TRUE(save.Step());
@@ -110,7 +110,7 @@ TEST_F(FileReplacementOnPosix, AFileThatIsNotWholeAndCannotBeMovedAwayKeepsItsCo
   SetMode(Path("."), 01777);
   SteppedProcess save([&] {
     const PlainUser user;
-    ReplaceFile(file, "and after");
+    ReplaceContent(file, "and after");
   });
   if (!save.CanBeStepped()) GTEST_SKIP() << "this system lets nobody stop a process";
   while (Bytes(file) == "before") {
@@ -124,8 +124,8 @@ TEST_F(FileReplacementOnPosix, AFileThatIsNotWholeAndCannotBeMovedAwayKeepsItsCo
 }
 
 TEST_F(FileReplacementOnPosix, WhatIsNoPlainFileIsWrittenInPlace) {
-  EXPECT_TRUE(ReplaceFile("/dev/null", "after"));
-  EXPECT_TRUE(ReplaceFile("/dev/full", QByteArray(100000, 'x'))) << "it can be opened";
+  EXPECT_TRUE(ReplaceContent("/dev/null", "after"));
+  EXPECT_TRUE(ReplaceContent("/dev/full", QByteArray(100000, 'x'))) << "it can be opened";
   EXPECT_FALSE(QFileInfo("/dev/null").isFile());
   EXPECT_FALSE(QFileInfo("/dev/full").isFile());
 }
@@ -133,14 +133,14 @@ TEST_F(FileReplacementOnPosix, WhatIsNoPlainFileIsWrittenInPlace) {
 TEST_F(FileReplacementOnPosix, ALinkStaysOneAndItsTargetIsReplaced) {
   const QString target = Put("target", "before");
   ASSERT_TRUE(QFile::link(target, Path("link")));
-  EXPECT_TRUE(ReplaceFile(Path("link"), "after"));
+  EXPECT_TRUE(ReplaceContent(Path("link"), "after"));
   EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
   EXPECT_EQ("after", Bytes(target));
 }
 
 TEST_F(FileReplacementOnPosix, ALinkToNothingMakesItsTarget) {
   ASSERT_TRUE(QFile::link(Path("target"), Path("link")));
-  EXPECT_TRUE(ReplaceFile(Path("link"), "after"));
+  EXPECT_TRUE(ReplaceContent(Path("link"), "after"));
   EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
   EXPECT_EQ("after", Bytes(Path("target")));
 }
@@ -151,7 +151,7 @@ TEST_F(FileReplacementOnPosix, AWriteProtectedFileIsRefused) {
   SetMode(Path("."), 0777);
   {
     const PlainUser user;
-    EXPECT_FALSE(ReplaceFile(file, "after"));
+    EXPECT_FALSE(ReplaceContent(file, "after"));
   }
   EXPECT_EQ("before", Bytes(file));
 }
@@ -162,8 +162,8 @@ TEST_F(FileReplacementOnPosix, WhereNoFileCanBeMadeBesideItIsWrittenInPlace) {
   SetMode(Path("."), 0555);
   {
     const PlainUser user;
-    EXPECT_TRUE(ReplaceFile(file, "after"));
-    EXPECT_FALSE(ReplaceFile(Path("new"), "after"));
+    EXPECT_TRUE(ReplaceContent(file, "after"));
+    EXPECT_FALSE(ReplaceContent(Path("new"), "after"));
   }
   SetMode(Path("."), 0777);
   EXPECT_EQ("after", Bytes(file));
@@ -181,7 +181,7 @@ TEST_F(FileReplacementOnPosix, WhereAFileCannotBeMovedAwayIsWrittenInPlace) {
     if (!in_place.open(QIODevice::WriteOnly)) GTEST_SKIP() << "this system forbids that too";
     in_place.write("before");
     in_place.close();
-    EXPECT_TRUE(ReplaceFile(file, "after"));
+    EXPECT_TRUE(ReplaceContent(file, "after"));
   }
   EXPECT_EQ("after", Bytes(file));
 }

@@ -14,14 +14,14 @@ namespace {
 class FileReplacement : public testing::Test, protected RecordFiles {};
 
 TEST_F(FileReplacement, MakesAFile) {
-  EXPECT_TRUE(ReplaceFile(Path("new"), "after"));
+  EXPECT_TRUE(ReplaceContent(Path("new"), "after"));
   EXPECT_EQ("after", Bytes(Path("new")));
   EXPECT_EQ("new", Names().join(' ').toStdString()) << "nothing else is left in the folder";
 }
 
 TEST_F(FileReplacement, TakesThePlaceOfAFile) {
   const QString file = Put("record", QByteArray(5000, 'x'));
-  EXPECT_TRUE(ReplaceFile(file, "after"));
+  EXPECT_TRUE(ReplaceContent(file, "after"));
   EXPECT_EQ("after", Bytes(file));
   EXPECT_EQ("record", Names().join(' ').toStdString());
 }
@@ -29,7 +29,7 @@ TEST_F(FileReplacement, TakesThePlaceOfAFile) {
 TEST_F(FileReplacement, WhoHoldsItOpenReadsWhatIsNew) {
   QFile reader(Put("record", "before"));
   ASSERT_TRUE(reader.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(ReplaceFile(reader.fileName(), "after"));
+  EXPECT_TRUE(ReplaceContent(reader.fileName(), "after"));
   EXPECT_EQ("after", reader.readAll());
 }
 
@@ -40,8 +40,8 @@ TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
     return false;
   };
   const QString file = Put("record", "before");
-  EXPECT_TRUE(ReplaceFile(file, half));
-  EXPECT_TRUE(ReplaceFile(Path("new"), half));
+  EXPECT_TRUE(ReplaceContent(file, half));
+  EXPECT_TRUE(ReplaceContent(Path("new"), half));
   EXPECT_EQ("before", Bytes(file));
   EXPECT_EQ("record", Names().join(' ').toStdString());
 }
@@ -50,7 +50,7 @@ TEST_F(FileReplacement, AContentThatCannotBeMadeLeavesTheOldFile) {
 // impossible.
 TEST_F(FileReplacement, AContentMayBeMadeOfTheFileItself) {
   for (const QString& file : {Put("record", "before"), Put(QString(255, 'n'), "before")}) {
-    EXPECT_TRUE(ReplaceFile(file, [&](QIODevice* target) {
+    EXPECT_TRUE(ReplaceContent(file, [&](QIODevice* target) {
       const QByteArray twice = Bytes(file).repeated(2);
       return target->write(twice) == twice.size();
     }));
@@ -66,29 +66,29 @@ TEST_F(FileReplacement, FilesOfOthersStay) {
     Put(name, "other");
   }
   const QStringList names = Names();
-  EXPECT_TRUE(ReplaceFile(file, "after"));
+  EXPECT_TRUE(ReplaceContent(file, "after"));
   EXPECT_EQ(names, Names());
   ASSERT_TRUE(QDir().mkdir(Path("record.tavi-copy-abcdef")));
-  EXPECT_TRUE(ReplaceFile(file, "again"));
+  EXPECT_TRUE(ReplaceContent(file, "again"));
   EXPECT_EQ(names.size() + 1, Names().size());
 }
 
 TEST_F(FileReplacement, AFolderIsRefused) {
   ASSERT_TRUE(QDir().mkdir(Path("folder")));
-  EXPECT_FALSE(ReplaceFile(Path("folder"), "after"));
-  EXPECT_FALSE(ReplaceFile(Path("none/record"), "after"));
-  EXPECT_FALSE(ReplaceFile("", "after"));
+  EXPECT_FALSE(ReplaceContent(Path("folder"), "after"));
+  EXPECT_FALSE(ReplaceContent(Path("none/record"), "after"));
+  EXPECT_FALSE(ReplaceContent("", "after"));
   EXPECT_EQ("folder", Names().join(' ').toStdString());
 }
 
 // A copy beside it would have a longer name, which is impossible.
 TEST_F(FileReplacement, AFileOfTheLongestNameIsWrittenInPlace) {
   const QString file = Path(QString(255, 'n'));
-  EXPECT_TRUE(ReplaceFile(file, "first"));
+  EXPECT_TRUE(ReplaceContent(file, "first"));
   EXPECT_EQ("first", Bytes(file));
-  EXPECT_TRUE(ReplaceFile(file, "second"));
+  EXPECT_TRUE(ReplaceContent(file, "second"));
   EXPECT_EQ("second", Bytes(file));
-  EXPECT_FALSE(ReplaceFile(Path(QString(256, 'n')), "none"));
+  EXPECT_FALSE(ReplaceContent(Path(QString(256, 'n')), "none"));
 }
 
 }  // namespace

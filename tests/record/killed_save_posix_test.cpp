@@ -54,7 +54,7 @@ TEST_F(KilledSave, AtEachStepTheFileOrTheCopyIsWhole) {
   for (bool is_over = false; !is_over; ++step) {
     ASSERT_LT(step, kManySteps);
     const QString file = Afresh(before_);
-    SteppedProcess save([&] { ReplaceFile(file, after_); });
+    SteppedProcess save([&] { ReplaceContent(file, after_); });
     is_over = !save.Step(step);
     save.Kill();
     const QByteArray content = Bytes(file);
@@ -62,7 +62,7 @@ TEST_F(KilledSave, AtEachStepTheFileOrTheCopyIsWhole) {
     EXPECT_TRUE(is_whole || Copies().contains(after_)) << step;
     saved_by_copy += is_whole ? 0 : 1;
 
-    EXPECT_TRUE(ReplaceFile(file, "again"));
+    EXPECT_TRUE(ReplaceContent(file, "again"));
     EXPECT_EQ("again", Bytes(file)) << step;
     EXPECT_EQ("record", Names().join(' ').toStdString()) << step << ": what was left is gone with the next save";
   }
@@ -75,7 +75,7 @@ TEST_F(KilledSave, InTheMiddleOfAWriteTheFileOrTheCopyIsWhole) {
   for (int step = 0; !is_over; ++step) {
     ASSERT_LT(step, kManySteps);
     const QString file = Afresh(before_);
-    SteppedProcess save([&] { ReplaceFile(file, after_); });
+    SteppedProcess save([&] { ReplaceContent(file, after_); });
     is_over = !save.Step(step) || save.FinishWithin(7);
     const QByteArray content = Bytes(file);
     half_files += content == "afteraf" ? 1 : 0;
@@ -90,7 +90,7 @@ TEST_F(KilledSave, WhatAnEarlierDeathLeftStaysUntilTheFileIsWhole) {
     ASSERT_LT(step, kManySteps);
     const QString file = Afresh("bef");
     const QString left = Put("record.tavi-copy-AbCdEf", before_);
-    SteppedProcess save([&] { ReplaceFile(file, after_); });
+    SteppedProcess save([&] { ReplaceContent(file, after_); });
     is_over = !save.Step(step);
     save.Kill();
     EXPECT_TRUE(QFile::exists(left) || Bytes(file) == after_) << step;
@@ -109,9 +109,9 @@ TEST_F(KilledSave, TwoSavesOfOneFileDoNotSpoilEachOther) {
     for (int later = 0; !is_over_later; later += 2 * kCall) {
       ASSERT_LT(step + later, kManySteps);
       const QString file = Afresh(before_);
-      SteppedProcess save([&] { ReplaceFile(file, after_); });
+      SteppedProcess save([&] { ReplaceContent(file, after_); });
       is_over = !save.Step(step);
-      EXPECT_TRUE(ReplaceFile(file, other));
+      EXPECT_TRUE(ReplaceContent(file, other));
       is_over_later = !save.Step(later);
       save.Kill();
       EXPECT_TRUE(IsAnywhere(after_) || IsAnywhere(other)) << step << " and " << later;
@@ -140,13 +140,13 @@ std::string DiskCalls(const std::function<void()>& save) {
 // the copy is removed.
 TEST_F(KilledSave, EachStepIsOnTheDiskBeforeTheNext) {
   const QString file = Afresh(before_);
-  EXPECT_EQ("sync sync cut sync remove", DiskCalls([&] { ReplaceFile(file, after_); }));
-  EXPECT_EQ("sync sync", DiskCalls([&] { ReplaceFile(Path("new"), after_); }));
+  EXPECT_EQ("sync sync cut sync remove", DiskCalls([&] { ReplaceContent(file, after_); }));
+  EXPECT_EQ("sync sync", DiskCalls([&] { ReplaceContent(Path("new"), after_); }));
 }
 
 TEST_F(KilledSave, ACopyIsForItsOwnerAlone) {
   const QString file = Afresh(before_);
-  SteppedProcess save([&] { ReplaceFile(file, after_); });
+  SteppedProcess save([&] { ReplaceContent(file, after_); });
   while (CopyNames().isEmpty()) ASSERT_TRUE(save.Step());
   const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
   EXPECT_FALSE(QFile::permissions(Path(CopyNames().first())) & others);
@@ -156,7 +156,7 @@ TEST_F(KilledSave, OfALinkTheCopyIsBesideTheFile) {
   const QString file = Afresh(before_);
   ASSERT_TRUE(QDir().mkdir(Path("links")));
   ASSERT_TRUE(QFile::link(file, Path("links/link")));
-  SteppedProcess save([&] { ReplaceFile(Path("links/link"), after_); });
+  SteppedProcess save([&] { ReplaceContent(Path("links/link"), after_); });
   while (Bytes(file) == before_) ASSERT_TRUE(save.Step());
   save.Kill();
   EXPECT_EQ(QList<QByteArray>{after_}, Copies());
@@ -168,7 +168,7 @@ TEST_F(KilledSave, ANewFileIsWholeOrNotThere) {
     ASSERT_LT(step, kManySteps);
     const QString file = Afresh({});
     QFile::remove(file);
-    SteppedProcess save([&] { ReplaceFile(file, after_); });
+    SteppedProcess save([&] { ReplaceContent(file, after_); });
     is_over = !save.Step(step);
     save.Kill();
     EXPECT_TRUE(!QFile::exists(file) || Bytes(file) == after_) << step;

@@ -121,7 +121,7 @@ class ChangingSource : public RecordCopies {
     MergedWriter writer;
     EXPECT_TRUE(writer.Add(source_, {}));
     change();
-    EXPECT_TRUE(ReplaceFile(target_, [&](QIODevice* target) { return writer.Write({}, target); }));
+    EXPECT_TRUE(ReplaceContent(target_, [&](QIODevice* target) { return writer.Write({}, target); }));
     EXPECT_EQ(!writer.HasChangedSource(), QFile::exists(target_)) << "nothing is made of half a source";
     return writer.HasChangedSource();
   }
