@@ -1,4 +1,5 @@
-// Stories of the workers of rapid taps without a run: their signals.
+// Stories of the workers of rapid taps without a run: their signals. In a generic lambda, clang counts "this" as unused
+// unless it is written.
 #ifndef TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
 #define TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
 
@@ -10,15 +11,15 @@ class BunchWorkerStory : public Story {
  protected:
   template <typename Worker>
   void ListenToContinue(Worker* worker) {
-    QObject::connect(worker, &Worker::BunchTapPressed, [this](auto... what) { Add("press", what...); });
-    QObject::connect(worker, &Worker::BunchTapReleased, [this](auto... what) { Add("release", what...); });
-    QObject::connect(worker, &Worker::BunchTapFinished, [this](auto... what) { Add("finish", what...); });
+    QObject::connect(worker, &Worker::BunchTapPressed, [this](auto... what) { this->Add("press", what...); });
+    QObject::connect(worker, &Worker::BunchTapReleased, [this](auto... what) { this->Add("release", what...); });
+    QObject::connect(worker, &Worker::BunchTapFinished, [this](auto... what) { this->Add("finish", what...); });
   }
   template <typename Worker>
   void ListenToOneOff(Worker* worker) {
-    QObject::connect(worker, &Worker::OneOffBunchTapPressed, [this](auto... what) { Add("press", what...); });
-    QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](auto... what) { Add("release", what...); });
-    QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](auto... what) { Add("finish", what...); });
+    QObject::connect(worker, &Worker::OneOffBunchTapPressed, [this](auto... what) { this->Add("press", what...); });
+    QObject::connect(worker, &Worker::OneOffBunchTapReleased, [this](auto... what) { this->Add("release", what...); });
+    QObject::connect(worker, &Worker::OneOffBunchTapFinished, [this](auto... what) { this->Add("finish", what...); });
   }
   // A held run and a single tap, of an item that changes after they were created.
   template <typename ContinueWorker, typename OneOffWorker, typename Item>

@@ -8,16 +8,16 @@ namespace taviinputmanager {
 namespace {
 
 const char* const kGood[] = {
-    "{'info':{'package_name':'p','resolution_x':8,'create_time':5,'total_running_time':6},"
-    " 'control':{'repeat_times':2,'repeat_delay':3,'speed_ratio':1.5},"
-    " 'actions':[{'timing':7,'type':'vcontrol','data':'{\\'params\\':{\\'app\\':\\'A\\'}}','extra1':'','extra2':''},"
-    " {'timing':-9,'type':'touch','data':'release','extra1':'2','extra2':'\\u4f60 \\ud83d\\ude00'},"
-    " {'timing':2147483648,'type':'touch','data':'\xe4\xbd\xa0/\xf0\x9f\x98\x80','extra1':'2:3'}]}",
-    "{'info':{'package_name':'p'},'control':{'repeat_times':2},'merged_actions':["
-    " {'control':{'till_next_item_delay':4,'repeat_times':2},'actions':[{'timing':7,'data':'marker'}]},"
-    " {'merged_actions':[{'actions':[{'type':'touch','data':'a'}]},{'actions':[]}]}]}",
-    "{'actions':[{'data':5,'timing':'x','type':null,'extra1':true,'extra2':[{}],'more':{'deep':[1,2.5,-0.0,1e3]}}],"
-    " 'info':{'create_time':9007199254740993,'mine':[[]]},'merged_actions':[{'actions':[]}],'other':-0}",
+    ("{'info':{'package_name':'p','resolution_x':8,'create_time':5,'total_running_time':6},"
+     " 'control':{'repeat_times':2,'repeat_delay':3,'speed_ratio':1.5},"
+     " 'actions':[{'timing':7,'type':'vcontrol','data':'{\\'params\\':{\\'app\\':\\'A\\'}}','extra1':'','extra2':''},"
+     " {'timing':-9,'type':'touch','data':'release','extra1':'2','extra2':'\\u4f60 \\ud83d\\ude00'},"
+     " {'timing':2147483648,'type':'touch','data':'\xe4\xbd\xa0/\xf0\x9f\x98\x80','extra1':'2:3'}]}"),
+    ("{'info':{'package_name':'p'},'control':{'repeat_times':2},'merged_actions':["
+     " {'control':{'till_next_item_delay':4,'repeat_times':2},'actions':[{'timing':7,'data':'marker'}]},"
+     " {'merged_actions':[{'actions':[{'type':'touch','data':'a'}]},{'actions':[]}]}]}"),
+    ("{'actions':[{'data':5,'timing':'x','type':null,'extra1':true,'extra2':[{}],'more':{'deep':[1,2.5,-0.0,1e3]}}],"
+     " 'info':{'create_time':9007199254740993,'mine':[[]]},'merged_actions':[{'actions':[]}],'other':-0}"),
 };
 
 // The tokens of JSON, unusual ones, and the words of records.
