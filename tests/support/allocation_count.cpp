@@ -17,8 +17,9 @@ thread_local std::int64_t allocation_count = 0;
 
 }  // namespace
 
-// Override the functions of the C library, which operator new and Qt's containers call. The names that they call are
-// glibc's own.
+// Override the functions of the C library, which operator new and Qt's containers call; so they are exported even where
+// everything else is hidden. The names that they call are glibc's own.
+#pragma GCC visibility push(default)
 extern "C" {
 
 void* __libc_malloc(std::size_t size);
@@ -41,6 +42,7 @@ void* realloc(void* block, std::size_t size) noexcept {
 }
 
 }  // extern "C"
+#pragma GCC visibility pop
 
 namespace taviinputmanager::test {
 
