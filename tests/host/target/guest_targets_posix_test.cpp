@@ -384,7 +384,7 @@ TEST_F(GuestTargetsTest, ACommandThatCannotBeFoundIsToldOf) {
 }
 
 TEST_F(GuestTargetsTest, ACommandThatShutsItsInputIsNotWrittenToAnyMore) {
-  Reach("exec:exec <&-; sleep 1000");
+  Reach("exec:exec <&-; exec sleep 1000");
   ASSERT_TRUE(Becomes(State::kEnded));
   EXPECT_EQ(targets_.StatusOf(0).reason, QString("it stopped reading lines"));
 }
