@@ -23,9 +23,12 @@ QStringList Candidates() {
   return folders;
 }
 
+// A folder whose room is unknown, such as one in a chroot, which has no mount of its own, is taken to be roomy.
 qint64 RoomIn(const QString& folder) {
   const bool is_usable = QDir().mkpath(folder) && QFileInfo(folder).isWritable();
-  return is_usable ? QStorageInfo(folder).bytesAvailable() : 0;
+  if (!is_usable) return 0;
+  const QStorageInfo disk(folder);
+  return disk.isValid() ? disk.bytesAvailable() : kPlentyBytes;
 }
 
 }  // namespace
