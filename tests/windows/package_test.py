@@ -57,7 +57,8 @@ def setUpModule():
 class Package(unittest.TestCase):
     def test_holds_libraries_program_headers_and_documents(self):
         for name in ["bin/tavi.exe", "bin/libtaviinputmanager.dll", "bin/libtavi-keymapmanager.dll", "bin/Qt5Widgets.dll",
-                     "plugins/platforms/qwindows.dll", "lib/libtaviinputmanager.dll.a", "lib/libtavi-keymapmanager.dll.a",
+                     "plugins/platforms/qwindows.dll", "plugins/imageformats/qjpeg.dll", "lib/libtaviinputmanager.dll.a",
+                     "lib/libtavi-keymapmanager.dll.a",
                      "lib/cmake/taviinputmanager/taviinputmanagerConfig.cmake",
                      "include/taviinputmanager/taviinputmanager.h", "include/keymap/keymap_functions.h",
                      "share/doc/taviinputmanager/docs/keymap.md", "share/doc/taviinputmanager/docs/embedding.md"]:
