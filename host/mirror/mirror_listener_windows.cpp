@@ -1,3 +1,5 @@
+#include <windows.h>
+
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -8,13 +10,11 @@ namespace tavi {
 
 namespace {
 
-constexpr int kProbeMs = 200;
-
-// Two programs may listen on pipes with the same name.
+// Two programs may listen on pipes with the same name. The check makes no connection, which the other would count.
 bool IsInUse(const QString& address) {
-  QLocalSocket probe;
-  probe.connectToServer(address);
-  return probe.waitForConnected(kProbeMs);
+  const QString pipe = QStringLiteral("\\\\.\\pipe\\") + address;
+  return WaitNamedPipeW(reinterpret_cast<const wchar_t*>(pipe.utf16()), NMPWAIT_NOWAIT) != FALSE ||
+         GetLastError() != ERROR_FILE_NOT_FOUND;
 }
 
 }  // namespace

@@ -69,7 +69,9 @@ void MirrorTargets::Add(const QString& name) {
   connect(socket, &QLocalSocket::disconnected, this, [this, name] { Drop(name, kGone); });
   connect(socket, &QLocalSocket::errorOccurred, this,
           [this, name, socket](QLocalSocket::LocalSocketError) { Drop(name, ProblemOf(*socket)); });
-  socket->connectToServer(MirrorAddressOf(name), QIODevice::WriteOnly);
+  // It says nothing; on Windows, only a socket that reads notices the other end closing.
+  connect(socket, &QLocalSocket::readyRead, this, [socket] { socket->readAll(); });
+  socket->connectToServer(MirrorAddressOf(name));
 }
 
 void MirrorTargets::Remove(const QString& name) {
