@@ -4,7 +4,7 @@
 
 namespace taviinputmanager {
 
-// Of this process, with those of its libraries and of a sanitizer.
+// Of this process, with those of its libraries and of a sanitizer; on Windows, without the system's own helpers.
 int CountThreads();
 
 // Whether at most `count` are left. Qt reports that a thread has finished a moment before it is gone.
