@@ -338,7 +338,7 @@ class BunchTapLog : public BunchTap {
 
   int CountOfEnds() {
     QFile file(QStringLiteral("input_looger.txt_%1").arg(QCoreApplication::applicationPid()));
-    if (!file.open(QIODevice::ReadOnly)) return 0;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return 0;
     return QString::fromUtf8(file.readAll()).count("on bunch tap finished\n");
   }
 

@@ -1,6 +1,6 @@
-#include "handlers/keymap_origin.h"
-
 #include <gtest/gtest.h>
+
+#include "handlers/keymap_origin.h"
 
 namespace taviinputmanager {
 namespace {
