@@ -15,6 +15,7 @@
 #include "keymap/joystick_event.h"
 #include "taviinputmanager/joystick_event.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/system/data_folder.h"
 #include "tests/support/system/full_disk.h"
 #include "tests/support/system/native_key.h"
 
@@ -589,13 +590,13 @@ TEST_F(EditingInTheWindow, AFullDiskLeavesTheKeymapThatWasThere) {
 }
 
 TEST_F(EditingInTheWindow, EditsThatNobodyIsAskedAboutAreKept) {
-  qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
+  const DataFolder data(folder_.filePath("data"));
   EXPECT_EQ(Window()->LeaveWithoutAsking(), QStringList());
   Edit();
   DragFrom(At(0.25, 0.75), At(0.5, 0.25));
   const QString news = Window()->LeaveWithoutAsking().value(0);
   const QString told = "the edits of keymap.yaml were saved as ";
-  ASSERT_TRUE(news.startsWith(told + folder_.filePath("data/tavi/"))) << news.toStdString();
+  ASSERT_TRUE(news.startsWith(told + data.Path() + "/")) << news.toStdString();
   QFile kept(news.mid(told.size()));
   ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
   EXPECT_EQ(kept.readAll(), Document()->Text());

@@ -14,6 +14,7 @@
 #include "host/window/view/guest_screen.h"
 #include "taviinputmanager/taviinputmanager.h"
 #include "tests/host/window/window_fixture.h"
+#include "tests/support/system/data_folder.h"
 #include "tests/support/system/full_disk.h"
 #include "tests/support/system/make_pipe.h"
 
@@ -49,7 +50,6 @@ int PointerShape() { return QApplication::overrideCursor() ? QApplication::overr
 class RecordsInTheWindow : public WindowFixture {
  protected:
   RecordsInTheWindow() {
-    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));  // where recordings are kept
     Records()->SetAsk([this](const QString& question, const QVector<Answer>& /*answers*/) {
       questions_ += question;
       return answers_.isEmpty() ? QMessageBox::Cancel : answers_.takeFirst();
@@ -96,13 +96,21 @@ class RecordsInTheWindow : public WindowFixture {
     return taviinputmanager::GetRecordInfo(file, &info);
   }
   // The recordings that have no final file yet.
-  QStringList Kept() const { return QDir(folder_.filePath("data/tavi")).entryList(QDir::Dirs | QDir::NoDotAndDotDot); }
+  QStringList Kept() const { return data_.NewFolders(); }
   QByteArray Text(const QString& file) const {
     QFile opened(file);
     EXPECT_TRUE(opened.open(QIODevice::ReadOnly));
     return opened.readAll();
   }
 
+  // A tap while a recording runs whose folder has gone.
+  void BeginATapWithoutAPlace() {
+    QDir(folder_.path()).mkdir("gone");
+    BeginATap(Path("gone/tap.json"));
+    QDir(folder_.path()).rmdir("gone");
+  }
+
+  const DataFolder data_{folder_.filePath("data")};  // where recordings are kept
   QString news_;
   QString problem_;
   QStringList questions_;
@@ -340,7 +348,7 @@ TEST_F(RecordsInTheWindow, WhatCannotBeSavedIsTriedAgain) {
 }
 
 TEST_F(RecordsInTheWindow, TheWindowStaysUntilTheRecordingIsSavedOrDropped) {
-  BeginATap(kFull);
+  BeginATapWithoutAPlace();
   EXPECT_FALSE(Window()->close());  // Cancel
   EXPECT_TRUE(Window()->isVisible());
   EXPECT_TRUE(Recorder::GetInstance()->HasRecording());
@@ -356,7 +364,7 @@ TEST_F(RecordsInTheWindow, TheWindowStaysUntilTheRecordingIsSavedOrDropped) {
 
 // The button saves the kept recording; a new one would replace it.
 TEST_F(RecordsInTheWindow, WhatIsKeptIsSavedBeforeAnythingElseIsRecorded) {
-  BeginATap(kFull);
+  BeginATapWithoutAPlace();
   Records()->ToggleRecording();  // Cancel
   Records()->SetTarget(Path("tap.json"));
   Records()->ToggleRecording();
