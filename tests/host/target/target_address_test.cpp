@@ -13,26 +13,25 @@ using Kind = TargetAddress::Kind;
 using State = TargetStatus::State;
 
 TEST(TargetAddress, IsWhatAPersonWrites) {
+  const QString file = QDir::tempPath() + "/guest";
   const struct {
-    const char* text;
+    QString text;
     Kind kind;
     QString place;
     int port;
   } rows[] = {
-      {"exec:cat > lines", Kind::kCommand, "cat > lines", 0},
-      {"exec: ssh phone 'a:b' ", Kind::kCommand, "ssh phone 'a:b'", 0},
-      {"unix:/run/guest", Kind::kSocketFile, "/run/guest", 0},
+      {"unix:" + file, Kind::kSocketFile, file, 0},
       {"unix:guest:1", Kind::kSocketFile, QDir::currentPath() + "/guest:1", 0},
       {"tcp:localhost:7000", Kind::kTcp, "localhost", 7000},
       {"tcp:127.0.0.9:1", Kind::kTcp, "127.0.0.9", 1},
       {"tcp:[::1]:65535", Kind::kTcp, "::1", 65535},
   };
   for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
+    SCOPED_TRACE(row.text.toStdString());
     const ParsedTarget parsed = ParseTarget(row.text, false);
     EXPECT_EQ(parsed.problem, QString());
     EXPECT_EQ(parsed.address.kind, row.kind);
-    EXPECT_EQ(parsed.address.text, QString(row.text));
+    EXPECT_EQ(parsed.address.text, row.text);
     EXPECT_EQ(parsed.address.place, row.place);
     EXPECT_EQ(parsed.address.port, row.port);
     EXPECT_FALSE(parsed.address.may_be_remote);
