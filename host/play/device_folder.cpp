@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include "host/play/evdev_device.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -12,7 +13,7 @@ namespace {
 
 const QString kPrefix = QStringLiteral("event");
 
-int NumberOf(const QString& name) { return name.midRef(kPrefix.size()).toInt(); }
+int NumberOf(const QString& name) { return qt::ToInt(QStringView(name).mid(kPrefix.size())); }
 
 }  // namespace
 

@@ -4,10 +4,10 @@
 #include <unistd.h>
 
 #include <QLocalSocket>
-#include <QProcess>
 
 #include "host/target/command_link.h"
 #include "host/target/socket_link.h"
+#include "qt/child_process.h"
 
 namespace tavi {
 
@@ -15,26 +15,17 @@ namespace {
 
 constexpr int kLongestSaid = 2000;  // of a reported line; longer ones are reported in parts
 
-// Starts the command with one end of a socket pair as its standard input.
-class Command : public QProcess {
- public:
-  void SetInput(int file) { input_ = file; }
-
- protected:
-  // In the child, between fork and exec.
-  void setupChildProcess() override {
-    dup2(input_, STDIN_FILENO);
-    for (const int number : {SIGINT, SIGQUIT, SIGHUP}) std::signal(number, SIG_IGN);
-    std::signal(SIGPIPE, SIG_DFL);
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none,
-                nullptr);  // this program waits for signals on a thread, and blocks them on the others
-  }
-
- private:
-  int input_ = -1;
-};
+// In the child, between fork and exec: `input` becomes the command's standard input, and the command leaves the signals
+// of the terminal to this program, which then ends it.
+void PrepareCommand(int input) {
+  dup2(input, STDIN_FILENO);
+  for (const int number : {SIGINT, SIGQUIT, SIGHUP}) std::signal(number, SIG_IGN);
+  std::signal(SIGPIPE, SIG_DFL);
+  sigset_t none;
+  sigemptyset(&none);
+  // This program waits for signals on a thread, and blocks them on the others.
+  sigprocmask(SIG_SETMASK, &none, nullptr);
+}
 
 class CommandLink : public SocketLink<QLocalSocket> {
  public:
@@ -67,7 +58,7 @@ class CommandLink : public SocketLink<QLocalSocket> {
   void Open() override {
     int files[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, files) != 0) return End(qt_error_string(errno));
-    process_.SetInput(files[1]);
+    process_.setChildProcessModifier([input = files[1]] { PrepareCommand(input); });
     process_.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command_});
     close(files[1]);
     if (!socket_.setSocketDescriptor(files[0])) {
@@ -112,7 +103,7 @@ class CommandLink : public SocketLink<QLocalSocket> {
   }
 
   const QString command_;
-  Command process_;
+  qt::ChildProcess process_;
   QTimer terminate_;
   QTimer kill_;
   bool is_finishing_ = false;
