@@ -25,7 +25,7 @@ std::vector<QByteArray> ReadKeymapTexts() {
   const QDir folder(TAVI_SOURCE_DIR "/examples/keymaps");
   for (const QFileInfo& info : folder.entryInfoList({"*.yaml"}, QDir::Files, QDir::Name)) paths.append(info.filePath());
   std::vector<QByteArray> texts;
-  for (const QString& path : qAsConst(paths)) {
+  for (const QString& path : std::as_const(paths)) {
     QFile file(path);
     Check(file.open(QIODevice::ReadOnly), "the tree contains its keymaps: " + path);
     texts.push_back(file.readAll());

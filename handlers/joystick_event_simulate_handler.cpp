@@ -52,7 +52,7 @@ JoystickEventSimulateHandler* JoystickEventSimulateHandler::GetInstance() {
 
 ConfigItem* JoystickEventSimulateHandler::FindItem(const ConfigKey& key) const {
   if (!joystick_config_) return nullptr;
-  for (ConfigItem* item : qAsConst(joystick_config_->items)) {
+  for (ConfigItem* item : std::as_const(joystick_config_->items)) {
     if (!item || dynamic_cast<const TipConfigItem*>(item) || !item->IsKeyMatch(key)) continue;
     if (callbacks_ && callbacks_->OnMappedDeviceUsed) callbacks_->OnMappedDeviceUsed(false);
     return item;

@@ -69,7 +69,7 @@ void QtWheelEventSimulateHandler::SendPlainWheel(const QWheelEvent* event) {
 // Unlike keys and buttons, does not report that a mapped device is in use.
 ConfigItem* QtWheelEventSimulateHandler::FindItem(const ConfigKey& key) const {
   if (!config_) return nullptr;
-  for (ConfigItem* item : qAsConst(config_->items)) {
+  for (ConfigItem* item : std::as_const(config_->items)) {
     if (item && item->IsKeyMatch(key) && IsSingleKeyItem(item)) return item;
   }
   return nullptr;

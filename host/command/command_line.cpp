@@ -33,7 +33,7 @@ class ArgumentReader {
  private:
   void ReadWord(const QString& word) {
     if (word == QLatin1String("--")) {
-      for (const QString& rest : qAsConst(words_)) TakePositional(rest);
+      for (const QString& rest : std::as_const(words_)) TakePositional(rest);
       words_.clear();
       return;
     }

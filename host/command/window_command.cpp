@@ -194,7 +194,7 @@ QString ReadMirrors(const ParsedArguments& arguments, WindowOptions* options) {
   options->mirror = arguments.options.value(kMirror).split(QLatin1Char(','), Qt::SkipEmptyParts);
   const QString listening = arguments.options.contains(kListen) ? MirrorNameProblem(options->listen) : QString();
   if (!listening.isEmpty()) return QStringLiteral("%1: %2").arg(kListen, listening);
-  for (const QString& name : qAsConst(options->mirror)) {
+  for (const QString& name : std::as_const(options->mirror)) {
     const QString problem = MirrorNameProblem(name);
     if (!problem.isEmpty()) return QStringLiteral("%1: %2").arg(kMirror, problem);
   }
@@ -425,7 +425,7 @@ int Run(const Invocation& invocation) {
   WindowMemory memory(options.is_fresh ? QString() : WindowMemory::UsualFile());
   QStringList news;
   options = Remember(arguments, memory, &news);
-  for (const QString& text : qAsConst(news)) Tell(text);
+  for (const QString& text : std::as_const(news)) Tell(text);
   return ShowWindow(options, news, &memory);
 }
 

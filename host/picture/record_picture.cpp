@@ -174,7 +174,7 @@ class PictureWriter {
       const QPointF place = Place(contacts[i].points.first().point);
       cells[{static_cast<int>(place.y() / kLabelCell), static_cast<int>(place.x() / kLabelCell)}].append(i + 1);
     }
-    for (const QVector<int>& numbers : qAsConst(cells)) {
+    for (const QVector<int>& numbers : std::as_const(cells)) {
       const QPointF place = Place(contacts[numbers.first() - 1].points.first().point);
       const QString label = JoinNumbers(numbers);
       const double x = place.x() + kUpRadius + 3;

@@ -22,7 +22,7 @@ QStringList DeviceFolder::Paths() const {
   QStringList names = folder.entryList({kPrefix + QLatin1Char('*')}, QDir::System | QDir::Files);
   std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) { return NumberOf(a) < NumberOf(b); });
   QStringList paths;
-  for (const QString& name : qAsConst(names)) paths += folder.filePath(name);
+  for (const QString& name : std::as_const(names)) paths += folder.filePath(name);
   return paths;
 }
 

@@ -73,7 +73,7 @@ void PlayDevices::Look() {
   for (const auto& [path, device] : devices_) {
     if (!there.contains(path)) gone += path;
   }
-  for (const QString& path : qAsConst(gone)) Remove(path);
+  for (const QString& path : std::as_const(gone)) Remove(path);
   for (const QString& path : paths) {
     if (devices_.count(path) == 0 && !passed_over_.contains(path)) TryToTake(path);
   }

@@ -166,7 +166,7 @@ void PlaySession::TellFindings(const KeymapSource& source) {
     }
   }
   if (source.KeepsEarlierState()) findings += QStringLiteral("The previous version of the keymap stays in use.");
-  for (const QString& finding : qAsConst(findings)) Q_EMIT Told(finding);
+  for (const QString& finding : std::as_const(findings)) Q_EMIT Told(finding);
 }
 
 // Contacts must be released at the size at which they were pressed.

@@ -53,10 +53,10 @@ QString KeyMatcher::MatchPad(const HostEvent& event) {
   const QString& name = event.key.text;
   if (event.kind == Kind::kRelease) held_buttons_.removeAll(name);
   QStringList texts;
-  for (const QString& held : qAsConst(held_buttons_)) texts += held + QLatin1Char('+') + name;
+  for (const QString& held : std::as_const(held_buttons_)) texts += held + QLatin1Char('+') + name;
   texts += name;
   if (event.kind == Kind::kPress && !held_buttons_.contains(name)) held_buttons_ += name;
-  for (const QString& text : qAsConst(texts)) {
+  for (const QString& text : std::as_const(texts)) {
     if (const km::ConfigItem* item = joystick_.index.FindAlone(km::JoystickKey(text))) return joystick_.Describe(item);
   }
   return {};

@@ -51,7 +51,7 @@ void MacroEventSimulator::StopWorkers(bool all) {
     (all || at.value()->HasUntilRelease() ? ended : kept).insert(at.key(), at.value());
   }
   workers_ = std::move(kept);
-  for (MacroSequentialTapAsyncWorker* worker : qAsConst(ended)) worker->Discard();
+  for (MacroSequentialTapAsyncWorker* worker : std::as_const(ended)) worker->Discard();
 }
 
 }  // namespace taviinputmanager

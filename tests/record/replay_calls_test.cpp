@@ -82,7 +82,7 @@ TEST_F(ReplayCalls, RequestsKeepTheirOrder) {
   StartReplay(0, 7, QString(), file, {});
   ASSERT_TRUE(program_.RunUntilTold("stopped"));
   QStringList order;
-  for (const Told& told : qAsConst(program_.told)) {
+  for (const Told& told : std::as_const(program_.told)) {
     if (told.task_id == 7) order.append(told.what);
   }
   EXPECT_EQ("started paused resumed started stopped", order.join(' ').toStdString());

@@ -123,7 +123,7 @@ class ReplayLoops : public testing::Test {
   // Counts the host's calls, and discards them: a long run must not fill the memory.
   void Listen() {
     program_.told += TheEar().Take();
-    for (const Told& told : qAsConst(program_.told)) {
+    for (const Told& told : std::as_const(program_.told)) {
       if (told.what.contains(':')) {
         guest_.Read(told.what);
       } else {

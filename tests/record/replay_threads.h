@@ -111,7 +111,7 @@ class Program {
 
   int Count(const QString& what) const {
     int count = 0;
-    for (const Told& entry : qAsConst(told)) count += entry.what == what;
+    for (const Told& entry : std::as_const(told)) count += entry.what == what;
     return count;
   }
   QVector<Told> Of(const QString& what) const {

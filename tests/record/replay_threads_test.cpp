@@ -209,7 +209,7 @@ TEST_F(RealReplayStress, RequestsInAnyOrderLeaveNothingBehind) {
   ASSERT_TRUE(program_.RunUntilTold("2:SLOTRELEASEALL", sweeps + 1));
   ASSERT_TRUE(program_.RunUntil([this] { return CountThreads() == threads_; }));
   ModelGuest guest;
-  for (const Told& told : qAsConst(program_.told)) {
+  for (const Told& told : std::as_const(program_.told)) {
     if (told.what.contains(':')) guest.Read(told.what);
   }
   EXPECT_EQ("", guest.WhatIsDown().toStdString());

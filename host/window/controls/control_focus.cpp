@@ -57,7 +57,7 @@ void ControlFocus::SetBars(const QVector<QToolBar*>& bars) {
 
 void ControlFocus::Take() {
   if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) return;
-  for (const QToolBar* bar : qAsConst(bars_)) {
+  for (const QToolBar* bar : std::as_const(bars_)) {
     for (QWidget* button : ButtonsOf(bar)) {
       if (button->isVisible() && button->isEnabled()) return button->setFocus(Qt::ShortcutFocusReason);
     }

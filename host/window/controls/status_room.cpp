@@ -33,8 +33,8 @@ void StatusRoom::Arrange() {
   const QString message = bar_->currentMessage();
   const int usual = qMin(usual_->sizeHint().width(), bar_->width() / kUsualPart);
   int wanted = kAround + (message.isEmpty() ? usual : bar_->fontMetrics().horizontalAdvance(message));
-  for (const QLabel* label : qAsConst(waiting_)) wanted += WidthOf(label);
-  for (QLabel* label : qAsConst(waiting_)) {
+  for (const QLabel* label : std::as_const(waiting_)) wanted += WidthOf(label);
+  for (QLabel* label : std::as_const(waiting_)) {
     const bool steps_back = wanted > bar_->width();
     if (steps_back) wanted -= WidthOf(label);
     label->setMaximumWidth(steps_back ? 0 : QWIDGETSIZE_MAX);

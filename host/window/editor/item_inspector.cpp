@@ -251,7 +251,8 @@ void ItemInspector::LeavePart() {
 
 // The signal that led here may come from an editor that is deleted now.
 void ItemInspector::BuildFields(const QVector<FieldInfo>& fields) {
-  for (FieldEditor* editor : qAsConst(editors_)) editor->disconnect(this);  // its text is still that of another item
+  // Their texts are still those of another item.
+  for (FieldEditor* editor : std::as_const(editors_)) editor->disconnect(this);
   built_.clear();
   if (QWidget* before = scroll_->takeWidget()) {
     before->hide();

@@ -558,7 +558,7 @@ TEST_F(EditingInTheWindow, AForeignSaveCanBeLeftAloneByAnotherName) {
   Editor()->SetAskForName([this](const SaveQuestion&) { return folder_.filePath("mine.yaml"); });
   EXPECT_TRUE(Editor()->Save());
   QStringList texts;
-  for (const Answer& answer : qAsConst(answers_)) texts += answer.text;
+  for (const Answer& answer : std::as_const(answers_)) texts += answer.text;
   EXPECT_EQ(texts, (QStringList{"Overwrite", "Reload", "Save as\u2026", ""}));
   EXPECT_EQ(FileText(), foreign);
   EXPECT_EQ(Document()->Path(), folder_.filePath("mine.yaml"));
