@@ -1,7 +1,6 @@
 #include "host/command/draw_command.h"
 
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImageReader>
 
@@ -12,6 +11,7 @@
 #include "host/system/console.h"
 #include "host/system/window_system.h"
 #include "keymapmanager/keymap_file.h"
+#include "qt/fonts.h"
 
 namespace tavi {
 
@@ -112,7 +112,7 @@ int Draw(const DrawOptions& options) {
   if (!options.joystick_keymap.isEmpty() && !AddKeymap(options.joystick_keymap, &drawing)) return kExitUsage;
   if (!options.background.isEmpty() && !TakeBackground(options.background, &drawing)) return kExitUsage;
   drawing.size = SizeOf(options, drawing.background);
-  if (QFontDatabase().families().isEmpty()) {
+  if (qt::FontFamilies().isEmpty()) {
     PrintError(QStringLiteral("tavi draw: there are no fonts to write the keys with (Debian: fonts-dejavu-core)\n"));
     return kExitProblem;
   }
