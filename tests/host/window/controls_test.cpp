@@ -1,9 +1,11 @@
 // The window without a mouse: every control has a name, and keys reach each control and return to the guest.
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <memory>
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -88,6 +90,14 @@ void ExpectNamesInMenu(const QMenu* menu) {
     EXPECT_FALSE(action->text().isEmpty()) << Told(action);
     if (action->menu() != nullptr) ExpectNamesInMenu(action->menu());
   }
+}
+
+bool HasPlace(const QAction* action) {
+  for (const QWidget* widget : QApplication::allWidgets()) {
+    const QList<QAction*> actions = widget->actions();
+    if (std::find(actions.begin(), actions.end(), action) != actions.end()) return true;
+  }
+  return false;
 }
 
 class Controls : public WindowFixture {
@@ -181,7 +191,7 @@ TEST_F(Controls, EachActionHasANameAndAPlace) {
     const bool is_menu = action->menu() != nullptr;
     const bool is_of_qt = action->objectName().startsWith("_q_") || action->objectName().startsWith("qt_");
     if (is_menu || is_of_qt) continue;
-    EXPECT_FALSE(action->associatedWidgets().isEmpty()) << Told(action) << action->text().toStdString();
+    EXPECT_TRUE(HasPlace(action)) << Told(action) << action->text().toStdString();
   }
   for (const QMenu* menu : Window()->findChildren<QMenu*>()) ExpectNamesInMenu(menu);
 }

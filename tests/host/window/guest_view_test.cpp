@@ -194,16 +194,11 @@ TEST_F(GuestViewTest, TouchesAreFingers) {
 
 class GuestViewTouch : public GuestViewTest {
  protected:
-  using Point = QTouchEvent::TouchPoint;
-
-  Point Finger(int id, double x, double y, Qt::TouchPointState state) const {
-    Point finger(id);
-    finger.setPos(At(x, y));
-    finger.setState(state);
-    return finger;
+  qt::TouchPoint Finger(int id, double x, double y, Qt::TouchPointState state) const {
+    return qt::MakeTouchPoint(id, state, At(x, y));
   }
-  void Touch(QEvent::Type type, const QList<Point>& fingers) {
-    QTouchEvent event(type, nullptr, Qt::NoModifier, Qt::TouchPointMoved, fingers);
+  void Touch(QEvent::Type type, const QList<qt::TouchPoint>& fingers) {
+    QTouchEvent event = qt::MakeTouchEvent(type, Qt::NoModifier, fingers);
     Send(&event);
   }
   void PutTwoDown() {
