@@ -6,6 +6,7 @@
 
 #include "host/system/console.h"
 #include "keymapmanager/nearest_word.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -104,7 +105,7 @@ ParsedArguments ParseArguments(const QStringList& arguments, const QVector<Optio
 
 std::optional<int> ParseWholeNumber(const QString& text, int least) {
   bool is_number = false;
-  const int number = text.toInt(&is_number);
+  const int number = qt::ToInt(text, &is_number);
   return is_number && number >= least ? std::optional<int>(number) : std::nullopt;
 }
 
@@ -118,7 +119,7 @@ QSize ParseSize(const QString& text) {
   const QStringList sides = text.split(QLatin1Char('x'));
   if (sides.size() != 2) return {};
   const auto side = [](const QString& number) {
-    const int value = number.toInt();
+    const int value = qt::ToInt(number);
     return value >= 1 && value <= kLongestSide ? value : 0;
   };
   const QSize size(side(sides[0]), side(sides[1]));

@@ -26,6 +26,7 @@
 #include "host/window/view/guest_display.h"
 #include "host/window/window_memory.h"
 #include "qt/high_dpi.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -226,7 +227,7 @@ QString ReadOptions(const ParsedArguments& arguments, WindowOptions* options) {
   if (!problem.isEmpty()) return problem;
   options->picture = arguments.options.value(kPicture);
   bool is_number = true;
-  if (arguments.options.contains(kAfter)) options->after_ms = arguments.options[kAfter].toInt(&is_number);
+  if (arguments.options.contains(kAfter)) options->after_ms = qt::ToInt(arguments.options[kAfter], &is_number);
   if (!is_number || options->after_ms < 0) return QStringLiteral("%1 needs a time in milliseconds").arg(kAfter);
   if (arguments.options.contains(kAfter) && options->picture.isEmpty()) {
     return QStringLiteral("%1 needs %2").arg(kAfter, kPicture);

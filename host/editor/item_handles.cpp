@@ -7,6 +7,7 @@
 #include <QPoint>
 #include <QSize>
 
+#include "host/guest/rounding.h"
 #include "keymapmanager/item_types.h"
 
 namespace tavi {
@@ -116,7 +117,7 @@ HandleValue ValueAt(const ItemHandle& handle, const QPointF& place, const QSizeF
 QPointF NudgedPoint(const QPointF& point, const QPoint& steps, const QSize& guest) {
   const auto nudged = [](double at, int step, int size) {
     if (step == 0) return at;  // as in the file
-    return qBound(0, qRound(at * size) + step, size) / static_cast<double>(size);
+    return qBound(0, Rounded(at * size) + step, size) / static_cast<double>(size);
   };
   return {nudged(point.x(), steps.x(), guest.width()), nudged(point.y(), steps.y(), guest.height())};
 }

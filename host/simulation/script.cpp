@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include "host/guest/rounding.h"
 #include "keymap/keywords.h"
 #include "keymapmanager/key_names.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -68,7 +70,7 @@ Problem ReadPoint(Words* words, ScriptCommand* command) {
 Problem ReadNumber(Words* words, ScriptCommand* command) {
   const QString word = words->TakeWord();
   bool is_number = false;
-  command->number = word.toInt(&is_number);
+  command->number = qt::ToInt(word, &is_number);
   return is_number ? Problem() : QStringLiteral("expected a whole number, found \"%1\"").arg(word);
 }
 
@@ -82,7 +84,8 @@ Problem ReadSize(Words* words, ScriptCommand* command) {
   const QString word = words->TakeWord();
   const auto size = ParsePair(word, QLatin1Char('x'));
   if (!size) return QStringLiteral("expected a size such as 1280x720, found \"%1\"").arg(word);
-  command->size = size->toPoint().isNull() ? QSize(0, 0) : QSize(size->toPoint().x(), size->toPoint().y());
+  const QPoint sides = Rounded(*size);
+  command->size = QSize(sides.x(), sides.y());
   return {};
 }
 
@@ -150,7 +153,7 @@ Problem ReadTouches(Words* words, ScriptCommand* command) {
     const int colon = word.indexOf(QLatin1Char(':'));
     bool is_id = false;
     ScriptTouch touch;
-    touch.id = word.left(colon).toInt(&is_id);
+    touch.id = qt::ToInt(word.left(colon), &is_id);
     const auto point = ParsePair(word.mid(colon + 1), QLatin1Char(','));
     if (colon < 0 || !is_id || !point)
       return QStringLiteral("expected a touch such as 1:640,360, found \"%1\"").arg(word);

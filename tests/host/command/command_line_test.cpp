@@ -92,6 +92,8 @@ TEST(CommandLine, AValueThatIsWrongIsToldAndLeftOut) {
 
 TEST(CommandLine, ReadsNumbers) {
   EXPECT_EQ(ParseWholeNumber("1", 1), 1);
+  EXPECT_EQ(ParseWholeNumber(QStringLiteral(u"\u00A0-1"), -1), -1);  // blanks and signs are those of Unicode
+  EXPECT_EQ(ParseWholeNumber(QStringLiteral(u"\u22121"), -1), -1);
   for (const char* wrong : {"", "0", "-3", "1.5", "one", "2147483648"}) {
     EXPECT_EQ(ParseWholeNumber(QLatin1String(wrong), 1), std::nullopt) << wrong;
   }
@@ -104,6 +106,7 @@ TEST(CommandLine, ReadsNumbers) {
 TEST(CommandLine, ReadsSizes) {
   EXPECT_EQ(ParseSize("1280x720"), QSize(1280, 720));
   EXPECT_EQ(ParseSize("1x16384"), QSize(1, 16384));
+  EXPECT_EQ(ParseSize(QStringLiteral(u"1\u00A0x\u20092")), QSize(1, 2));
   for (const char* wrong : {"", "1280", "1280x", "x720", "0x720", "-1x5", "1280x720x1", "16385x1", "axb"}) {
     EXPECT_TRUE(ParseSize(QLatin1String(wrong)).isEmpty()) << wrong;
   }

@@ -98,6 +98,7 @@ TEST(NudgedPoint, IsAPixelOfTheGuestAside) {
   EXPECT_EQ(NudgedPoint({0.5008, 0.5}, {1, 0}, guest), QPointF(642 / 1280.0, 0.5));  // 0.5008 is pixel 641, rounded
   EXPECT_EQ(NudgedPoint({0.5, 0}, {0, -10}, guest), QPointF(0.5, 0));
   EXPECT_EQ(NudgedPoint({0.5, 0.7201}, {1, 0}, guest), QPointF(641 / 1280.0, 0.7201));  // not onto pixel 518 on the way
+  EXPECT_EQ(NudgedPoint({-0.05, 0}, {1, 0}, {10, 10}), QPointF(0.1, 0));  // halves are rounded up, below 0 too
 }
 
 TEST(KeyCapture, OneKeyIsTakenAtOnceWhereThereAreNoChords) {

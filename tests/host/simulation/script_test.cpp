@@ -44,6 +44,13 @@ TEST(Script, ReadsTheMouse) {
   EXPECT_EQ(QPointF(5, -3), One("rel 5,-3").point);
 }
 
+// The same script is read alike on every Qt: the results are those of Qt 5.15.
+TEST(Script, ReadsUnusualNumbers) {
+  EXPECT_EQ(-2, One(u8"display \u22122").number);  // the minus sign of mathematics
+  EXPECT_EQ(-3, One(u8"touch begin \u22123:1,2").touches.value(0).id);
+  EXPECT_EQ(QSize(0, -1), One("window -0.5x-1.5").size);  // halves are rounded up
+}
+
 TEST(Script, ReadsTouches) {
   const ScriptCommand begin = One("touch begin 1:100,200 2:300,400");
   ASSERT_EQ(2, begin.touches.size());
