@@ -7,6 +7,7 @@
 #include <QCursor>
 #include <QDateTime>
 #include <QThread>
+#include <QTimeZone>
 
 #include "taviinputmanager/virtual_time.h"
 
@@ -39,7 +40,7 @@ qint64 Clock::NowMs() {
 
 QTime Clock::TimeOfDay() {
   const VirtualTime* time = virtual_time.load();
-  return time ? QDateTime::fromMSecsSinceEpoch(time->NowMs(), Qt::UTC).time() : QTime::currentTime();
+  return time ? QDateTime::fromMSecsSinceEpoch(time->NowMs(), QTimeZone::utc()).time() : QTime::currentTime();
 }
 
 void Clock::Sleep(int ms) {

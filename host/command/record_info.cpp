@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QMap>
+#include <QTimeZone>
 
 #include "host/command/command_line.h"
 #include "host/record/record_file.h"
@@ -118,7 +119,8 @@ QString AppText(const QString& name, const RecordPart& root) {
 
 QString CreatedText(qint64 create_time) {
   if (create_time == 0) return QStringLiteral("-");
-  return QDateTime::fromMSecsSinceEpoch(create_time, Qt::UTC).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss 'UTC'"));
+  return QDateTime::fromMSecsSinceEpoch(create_time, QTimeZone::utc())
+      .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss 'UTC'"));
 }
 
 bool TellAbout(const QString& name) {
