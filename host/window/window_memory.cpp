@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QSettings>
 #include <QStandardPaths>
 
 #include "host/look/theme.h"
@@ -15,6 +14,7 @@
 #include "host/window/main_tool_bar.h"
 #include "host/window/main_window.h"
 #include "host/window/view/guest_display.h"
+#include "qt/ini_file.h"
 
 namespace tavi {
 
@@ -65,7 +65,7 @@ QString WindowMemory::UsualFile() {
 QSize WindowMemory::FirstSize(const QSize& available) { return kFirstSize.boundedTo(available - kFrame); }
 
 WindowMemory::WindowMemory(const QString& file)
-    : settings_(file.isEmpty() ? nullptr : std::make_unique<QSettings>(file, QSettings::IniFormat)) {}
+    : settings_(file.isEmpty() ? nullptr : std::make_unique<qt::IniFile>(file)) {}
 
 WindowMemory::~WindowMemory() = default;
 
