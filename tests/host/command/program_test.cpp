@@ -63,7 +63,7 @@ TEST_F(Program, RefusesWhatItDoesNotKnow) {
        "tavi window: --guest: a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"wide\"\nTry \"tavi "
        "window --help\".\n"},
       {"window with a guest elsewhere",
-       {"window", "--guest", "exec:cat", "--guest", "tcp:10.0.0.1:7000"},
+       {"window", "--guest", "tcp:localhost:7000", "--guest", "tcp:10.0.0.1:7000"},
        "tavi window: --guest: 10.0.0.1 is another machine, and anyone on the network path can read what you type; "
        "--allow-remote allows it\nTry \"tavi window --help\".\n"},
       {"a time of no picture",

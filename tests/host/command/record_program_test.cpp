@@ -63,7 +63,7 @@ TEST_F(RecordProgram, RefusesWhatItDoesNotKnow) {
        "tavi record play: --guest: a guest is exec:COMMAND, unix:PATH, tcp:HOST:PORT or uinput, not \"big\"\nTry "
        "\"tavi record play --help\".\n"},
       {"play for a guest without time",
-       {"record", "play", "a", "--guest", "exec:cat"},
+       {"record", "play", "a", "--guest", "tcp:localhost:7000"},
        "tavi record play: --guest needs --live\nTry \"tavi record play --help\".\n"},
       {"merge without target",
        {"record", "merge", "a"},

@@ -397,9 +397,10 @@ TEST_F(RecordsInTheWindow, AFullDiskLeavesTheRecordThatWasThere) {
 }
 
 TEST_F(RecordsInTheWindow, WithoutAskingItIsSavedOrKept) {
-  BeginATap(kFull);
+  BeginATapWithoutAPlace();
   const QStringList news = Window()->LeaveWithoutAsking();
-  EXPECT_EQ(news, QStringList("/dev/full cannot be written: No space left on device; the recording was saved as " +
+  EXPECT_EQ(news, QStringList(Path("gone/tap.json") +
+                              " cannot be written: No such file or directory; the recording was saved as " +
                               Recorder::GetInstance()->KeptFile()));
   EXPECT_TRUE(IsRecord(Recorder::GetInstance()->KeptFile()));
   Records()->SetTarget(Path("tap.json"));

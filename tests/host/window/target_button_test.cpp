@@ -1,8 +1,12 @@
 // The guests of a window: the input that they get, their status, and their menu.
 #include "host/window/target_button.h"
 
+#include <map>
+#include <string>
+
 #include <QAction>
-#include <QFile>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QMenu>
 #include <QStatusBar>
 
@@ -14,21 +18,44 @@
 namespace tavi {
 namespace {
 
+// A guest that reads its lines when the host has left. It waits in real time, which the window's clock does not know.
+class PatientGuest {
+ public:
+  explicit PatientGuest(const QString& path) { EXPECT_TRUE(server_.listen(path)); }
+
+  void TakeConnection() {
+    EXPECT_TRUE(server_.waitForNewConnection(kLimitMs));
+    socket_ = server_.nextPendingConnection();
+    ASSERT_NE(socket_, nullptr);
+  }
+  QByteArray Lines() {
+    while (socket_->waitForReadyRead(kLimitMs)) {
+    }
+    return socket_->readAll();
+  }
+
+ private:
+  static constexpr int kLimitMs = 30000;
+
+  QLocalServer server_;
+  QLocalSocket* socket_ = nullptr;  // owned by the server
+};
+
 class TargetButtonTest : public WindowFixture {
  protected:
   ~TargetButtonTest() override { LiveHost::GetInstance()->Targets()->Close(); }
 
-  // A guest that writes the lines to a file, which are complete once it was closed.
-  void AddGuest(const char* file) {
-    Window()->Targets()->Add(ParseTarget("exec:cat > '" + folder_.filePath(file) + "'", false).address);
+  void AddGuest(const char* name) {
+    const QString path = folder_.filePath(name);
+    PatientGuest& guest = guests_.try_emplace(name, path).first->second;
+    Window()->Targets()->Add(ParseTarget("unix:" + path, false).address);
+    guest.TakeConnection();
     clock_->Settle();
     clock_->Advance(1);
   }
-  QByteArray LinesOf(const char* file) {
+  QByteArray LinesOf(const char* name) {
     LiveHost::GetInstance()->Targets()->Close();
-    QFile lines(folder_.filePath(file));
-    EXPECT_TRUE(lines.open(QIODevice::ReadOnly));
-    return lines.readAll();
+    return guests_.at(name).Lines();
   }
   QAction* Entry(const QString& text) {
     QMenu* menu = Window()->Targets()->menu();
@@ -39,6 +66,9 @@ class TargetButtonTest : public WindowFixture {
     ADD_FAILURE() << text.toStdString();
     return nullptr;
   }
+
+ private:
+  std::map<std::string, PatientGuest> guests_;
 };
 
 constexpr char kTap[] = "{type: Click, key: Space, point: [0.5, 0.5]}";
