@@ -6,6 +6,7 @@
 #include <QStringView>
 
 #include "core/line_buffer.h"
+#include "qt/numbers.h"
 
 namespace taviinputmanager {
 
@@ -23,7 +24,7 @@ QPointF ReadPoint(const QString& text) {
   if (!text.startsWith(QLatin1Char('(')) || !text.endsWith(QLatin1Char(')'))) return {};
   const QList<QStringView> parts = QStringView(text).split(QLatin1Char(','));
   if (parts.size() != 2) return {};
-  return {parts.at(0).mid(1).toDouble(), parts.at(1).chopped(1).toDouble()};
+  return {qt::ToDouble(parts.at(0).mid(1)), qt::ToDouble(parts.at(1).chopped(1))};
 }
 
 }  // namespace taviinputmanager

@@ -111,7 +111,7 @@ std::optional<int> ParseWholeNumber(const QString& text, int least) {
 
 std::optional<double> ParseFactor(const QString& text) {
   bool is_number = false;
-  const double number = text.toDouble(&is_number);
+  const double number = qt::ToDouble(text, &is_number);
   return is_number && std::isfinite(number) && number > 0 ? std::optional<double>(number) : std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 #include "keymap/tavikeymapmanager.h"
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -60,7 +61,8 @@ QVector<QPointF> PathOf(const km::CurveConfigItem& item) {
   if (item.curve_straight) return {item.curve_start, item.curve_end};
   QVector<QPointF> path;
   for (const QString& entry : item.curve_points.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-    path.append({entry.section(QLatin1Char(','), 0, 0).toDouble(), entry.section(QLatin1Char(','), 1, 1).toDouble()});
+    path.append(
+        {qt::ToDouble(entry.section(QLatin1Char(','), 0, 0)), qt::ToDouble(entry.section(QLatin1Char(','), 1, 1))});
   }
   return path;
 }

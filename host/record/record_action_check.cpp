@@ -40,7 +40,7 @@ PointText ReadPoint(const QString& text) {
   }
   bool is_x = false;
   bool is_y = false;
-  const QPointF point(parts[0].mid(1).toDouble(&is_x), parts[1].chopped(1).toDouble(&is_y));
+  const QPointF point(qt::ToDouble(parts[0].mid(1), &is_x), qt::ToDouble(parts[1].chopped(1), &is_y));
   if (point.isNull()) return {point, true, is_x && is_y ? kCorner : kNoPoint.arg(text)};
   return {point, false, is_x && is_y ? QString() : kNoCoordinate.arg(text)};
 }

@@ -54,7 +54,7 @@ std::optional<QPointF> ParsePair(const QString& text, QLatin1Char separator) {
   if (parts.size() != 2) return std::nullopt;
   bool is_x = false;
   bool is_y = false;
-  const QPointF point(parts[0].toDouble(&is_x), parts[1].toDouble(&is_y));
+  const QPointF point(qt::ToDouble(parts[0], &is_x), qt::ToDouble(parts[1], &is_y));
   if (!is_x || !is_y) return std::nullopt;
   return point;
 }

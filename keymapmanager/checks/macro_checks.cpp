@@ -54,7 +54,7 @@ bool HasBlank(const QString& text) {
 
 bool IsNumber(const QString& text) {
   bool is_number = false;
-  text.toDouble(&is_number);
+  qt::ToDouble(text, &is_number);
   return is_number;
 }
 
@@ -63,8 +63,8 @@ std::optional<QPointF> PointOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("\\A\\(([^,()]+),([^,()]+)\\)\\z"));
   const QRegularExpressionMatch match = form.match(text);
   if (!match.hasMatch() || !IsNumber(match.captured(1)) || !IsNumber(match.captured(2))) return {};
-  const double x = match.captured(1).toDouble();
-  const double y = match.captured(2).toDouble();
+  const double x = qt::ToDouble(match.captured(1));
+  const double y = qt::ToDouble(match.captured(2));
   if (x == 0 && y == 0) return {};
   return QPointF(x, y);
 }

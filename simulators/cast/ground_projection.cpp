@@ -6,6 +6,7 @@
 
 #include "core/numbers.h"
 #include "keymap/spell_config_item.h"
+#include "qt/numbers.h"
 
 namespace taviinputmanager {
 
@@ -33,7 +34,7 @@ std::optional<GroundView> GroundView::Parse(const QString& text) {
   GroundView view;
   for (int row = 0; row < kRows; ++row) {
     for (int column = 0; column < kRows; ++column) {
-      view.m_[kRows * row + column] = parts[kRows * column + row].toDouble();
+      view.m_[kRows * row + column] = qt::ToDouble(parts[kRows * column + row]);
     }
   }
   return view;

@@ -5,6 +5,7 @@
 
 #include "core/numbers.h"
 #include "keymap/curve_config_item.h"
+#include "qt/numbers.h"
 
 namespace taviinputmanager {
 namespace {
@@ -14,7 +15,7 @@ constexpr int kDigits = 6;
 
 // Qt accepts "nan" as a number; it is not one here.
 double NumberOf(const QString& text) {
-  const double number = text.toDouble();
+  const double number = qt::ToDouble(text);
   return std::isnan(number) ? 0.0 : number;
 }
 

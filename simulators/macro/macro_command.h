@@ -22,7 +22,7 @@ struct MacroCommand {
   MacroPoints points;  // the argument of a command with points
 
   int Integer() const { return integer; }
-  double Number() const { return argument.toDouble(); }
+  double Number() const { return qt::ToDouble(argument); }
 };
 
 // Nothing for a command that is skipped: an unknown word, or one whose argument is missing or has several parts. Case

@@ -6,6 +6,7 @@
 
 #include "core/clock.h"
 #include "core/display_geometry.h"
+#include "qt/numbers.h"
 
 namespace taviinputmanager {
 namespace {
@@ -19,7 +20,7 @@ QPointF ReadPair(const QString& element) {
   if (!element.startsWith(QLatin1Char('(')) || !element.endsWith(QLatin1Char(')'))) return {};
   const QList<QStringView> parts = QStringView(element).mid(1, element.size() - 2).split(QLatin1Char(','));
   if (parts.size() != 2) return {};
-  return {parts[0].toDouble(), parts[1].toDouble()};
+  return {qt::ToDouble(parts[0]), qt::ToDouble(parts[1])};
 }
 
 QPointF ReadPointer() {

@@ -27,7 +27,7 @@ void CompareReading(const std::string& text) {
   EXPECT_EQ(our_whole.value_or(0), whole);
 
   bool is_number = false;
-  const double number = text_of_qt.toDouble(&is_number);
+  const double number = qt::ToDouble(text_of_qt, &is_number);
   is_number = is_number && std::isfinite(number);
   const std::optional<double> our_number = ReadNumber(text);
   ASSERT_EQ(our_number.has_value(), is_number);

@@ -1,7 +1,9 @@
-// Integers in texts are read alike on both Qt versions: the expected values are those of Qt 5.15.
+// Numbers in texts are read alike on both Qt versions: the expected values are those of Qt 5.15.
 #include "qt/numbers.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 
 #include <QString>
@@ -53,5 +55,37 @@ const Row kRows[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, WholeNumbers, testing::ValuesIn(kRows));
+
+TEST(Numbers, AreReadAsQt5ReadsThem) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const struct {
+    const char* name;
+    std::u16string text;
+    double number;
+    bool is_number;
+  } rows[] = {
+      {"digits", u"640.5", 640.5, true},
+      {"signs", u"-1e+3", -1000, true},
+      {"minus zero", u"-0", -0.0, true},
+      {"the minus sign of mathematics", u"\u22121.5", -1.5, true},
+      {"the same in an exponent", u"15e\u22121", 1.5, true},
+      {"blanks around it", u" \u00A01.5\t", 1.5, true},
+      {"a blank inside", u"1 .5", 0, false},
+      {"a zero character behind", std::u16string(u"1.5\0", 4), 0, false},
+      {"groups", u"1,000", 0, false},
+      {"too large", u"-1e400", -infinity, false},
+      {"too small", u"-1e-400", 0, false},
+      {"nothing", u"", 0, false},
+  };
+  for (const auto& row : rows) {
+    const QString text = QString::fromStdU16String(row.text);
+    bool is_number = !row.is_number;
+    const double number = qt::ToDouble(text, &is_number);
+    EXPECT_EQ(number, row.number) << row.name;
+    EXPECT_EQ(std::signbit(number), std::signbit(row.number)) << row.name;
+    EXPECT_EQ(is_number, row.is_number) << row.name;
+    EXPECT_EQ(qt::ToDouble(text), row.number) << row.name;
+  }
+}
 
 }  // namespace
