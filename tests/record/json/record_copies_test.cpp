@@ -56,6 +56,14 @@ class RecordCopies : public Story, protected RecordFiles {
     }
     EXPECT_EQ(expected, Bytes(file).toStdString());
   }
+  // `target` is "source.json" by one of its names.
+  void ExpectMergedOverItself(const QString& target) {
+    MergeParam param;
+    param.file_name = Put("source.json", LongRecord(5000));
+    const QByteArray expected = MergedByLibrary({param, param}, Time().NowMs());
+    ASSERT_TRUE(MergeRecord(target, {param, param}));
+    EXPECT_EQ(expected, Bytes(param.file_name));
+  }
   // A record of this many actions, in the library's format.
   QByteArray LongRecord(int actions) const {
     QByteArray list;
@@ -95,14 +103,15 @@ TEST_F(RecordCopies, AStampedAndAMergedRecordAreMergedAgain) {
 }
 
 // The target is one of the sources: itself, through a link, or without the possibility of a copy beside it.
-TEST_F(RecordCopies, OfTheFileItself) {
-  MergeParam param;
-  param.file_name = Put("source.json", LongRecord(5000));
-  const QByteArray expected = MergedByLibrary({param, param}, Time().NowMs());
-  ASSERT_TRUE(QFile::link(param.file_name, Path("link.json")));
-  ASSERT_TRUE(MergeRecord(Path("link.json"), {param, param}));
-  EXPECT_EQ(expected, Bytes(param.file_name));
+TEST_F(RecordCopies, OfTheFileItself) { ExpectMergedOverItself(Path("source.json")); }
 
+TEST_F(RecordCopies, OfTheFileItselfThroughALink) {
+  ASSERT_TRUE(QFile::link(Put("source.json", {}), Path("link.json")));
+  ExpectMergedOverItself(Path("link.json"));
+}
+
+TEST_F(RecordCopies, OfTheFileItselfWithTheLongestName) {
+  MergeParam param;
   const QString longest = Path(QString(255, 'n'));  // a copy's longer name is impossible
   ASSERT_TRUE(QFile::rename(Put("other.json", LongRecord(5000)), longest));
   param.file_name = longest;
