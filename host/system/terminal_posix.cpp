@@ -3,27 +3,13 @@
 #include <pthread.h>
 #include <thread>
 #include <unistd.h>
-#include <utility>
 
+#include "host/system/interruption.h"
 #include "host/system/terminal.h"
 
 namespace tavi {
 
 namespace {
-
-struct Reactions {
-  std::mutex mutex;  // of both, locked while one runs
-  std::function<void()> clean_up;
-  std::function<void(int)> take;
-};
-
-std::once_flag waits;  // for signals
-
-// Never destroyed: the thread that waits for signals outlives everything.
-Reactions* GetReactions() {
-  static auto* reactions = new Reactions;
-  return reactions;
-}
 
 sigset_t SignalsToTake() {
   sigset_t signals;
@@ -52,16 +38,7 @@ void EndBySignal(int number) {
 
 void WaitForSignals(sigset_t signals) {
   int number = 0;
-  while (sigwait(&signals, &number) == 0) {
-    Reactions* reactions = GetReactions();
-    const std::lock_guard<std::mutex> lock(reactions->mutex);
-    if (reactions->take) {
-      reactions->take(number);
-      continue;
-    }
-    if (reactions->clean_up) reactions->clean_up();
-    EndBySignal(number);
-  }
+  while (sigwait(&signals, &number) == 0) React(number, EndBySignal);
 }
 
 void StartWaiting() {
@@ -70,25 +47,18 @@ void StartWaiting() {
   std::thread(WaitForSignals, signals).detach();
 }
 
-// The first call starts a thread that waits for signals.
-template <typename Reaction>
-void SetReaction(Reaction Reactions::*which, Reaction reaction) {
-  std::call_once(waits, StartWaiting);
-  const std::lock_guard<std::mutex> lock(GetReactions()->mutex);
-  GetReactions()->*which = std::move(reaction);
-}
-
 }  // namespace
+
+void ListenForInterruptions() {
+  static std::once_flag waits;
+  std::call_once(waits, StartWaiting);
+}
 
 void EndWithReader() { Unblock(SIGPIPE); }
 
 void GoOnWithoutReader() { std::signal(SIGPIPE, SIG_IGN); }
 
 bool IsErrorTerminal() { return isatty(STDERR_FILENO) == 1; }
-
-void SetCleanUp(std::function<void()> clean_up) { SetReaction(&Reactions::clean_up, std::move(clean_up)); }
-
-void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&Reactions::take, std::move(take)); }
 
 void MakeStreamsPlain() {}
 

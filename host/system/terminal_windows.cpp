@@ -5,53 +5,49 @@
 #include <fcntl.h>
 #include <io.h>
 #include <mutex>
-#include <utility>
 
+#include "host/system/interruption.h"
 #include "host/system/terminal.h"
 
 namespace tavi {
 
 namespace {
 
-std::once_flag listens;  // for the console's events
-std::mutex reactions_mutex;
-std::function<void()> clean_up_reaction;
-std::function<void(int)> take_reaction;
+UINT encoding_before = 0;  // the console's code page, restored at the end: the console outlives this program
+
+void RestoreEncoding() {
+  if (encoding_before != 0) SetConsoleOutputCP(encoding_before);
+}
 
 // As the corresponding POSIX signals.
 int SignalOf(DWORD kind) { return kind == CTRL_C_EVENT || kind == CTRL_BREAK_EVENT ? SIGINT : SIGTERM; }
 
-// After any event but Ctrl+C the system ends the program as soon as this returns; the handler may end it earlier.
+// With the status that the system uses, by which a batch file asks whether to go on. As after a signal, nothing else
+// runs: another thread may be in the middle of anything.
+void EndByEvent(int /*number*/) {
+  RestoreEncoding();
+  TerminateProcess(GetCurrentProcess(), static_cast<UINT>(STATUS_CONTROL_C_EXIT));
+}
+
+// After any event but these two the system ends the program as soon as its handler returns; the program may end
+// earlier.
 void WaitForTheEnd(DWORD kind) {
   if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) Sleep(INFINITE);
 }
 
-// Runs on a thread that the system starts. Returning FALSE ends the program.
-BOOL WINAPI TakeInterrupt(DWORD kind) {
-  {
-    const std::lock_guard<std::mutex> lock(reactions_mutex);
-    if (!take_reaction) {
-      if (clean_up_reaction) clean_up_reaction();
-      return FALSE;
-    }
-    take_reaction(SignalOf(kind));
-  }
+// Runs on a thread that the system starts.
+BOOL WINAPI TakeEvent(DWORD kind) {
+  React(SignalOf(kind), EndByEvent);
   WaitForTheEnd(kind);
   return TRUE;
 }
 
-UINT encoding_before = 0;  // the console's code page, restored at exit: the console outlives this program
-
-void RestoreEncoding() { SetConsoleOutputCP(encoding_before); }
-
-template <typename Reaction>
-void SetReaction(Reaction* which, Reaction reaction) {
-  std::call_once(listens, [] { SetConsoleCtrlHandler(TakeInterrupt, TRUE); });
-  const std::lock_guard<std::mutex> lock(reactions_mutex);
-  *which = std::move(reaction);
-}
-
 }  // namespace
+
+void ListenForInterruptions() {
+  static std::once_flag listens;
+  std::call_once(listens, [] { SetConsoleCtrlHandler(TakeEvent, TRUE); });
+}
 
 void EndWithReader() {}  // Windows has no such signal: the write fails
 
@@ -59,14 +55,11 @@ void GoOnWithoutReader() {}
 
 bool IsErrorTerminal() { return _isatty(_fileno(stderr)) != 0; }
 
-void SetCleanUp(std::function<void()> clean_up) { SetReaction(&clean_up_reaction, std::move(clean_up)); }
-
-void SetInterruptionTaker(std::function<void(int)> take) { SetReaction(&take_reaction, std::move(take)); }
-
 // Binary mode: line ends are not translated, and Ctrl+Z does not end the input.
 void MakeStreamsPlain() {
   for (FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
   encoding_before = GetConsoleOutputCP();
+  ListenForInterruptions();
   if (encoding_before == 0 || !SetConsoleOutputCP(CP_UTF8)) return;  // no console
   std::atexit(RestoreEncoding);
 }
