@@ -23,6 +23,10 @@ QString MoveOver(const QString& from, const QString& to);
 // Gives `file` the permissions of `model` and, as far as allowed, its owner.
 void TakeOwnership(const QString& model, const QString& file);
 
+// Removes a folder and its files, also those that another thread has open; that thread cannot write to them afterwards.
+// For a program that ends.
+void RemoveFolderInUse(const QString& folder);
+
 }  // namespace tavi
 
 #endif  // HOST_SYSTEM_FILE_COMMIT_H_

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -60,5 +61,7 @@ void TakeOwnership(const QString& model, const QString& file) {
   const bool is_same_owner = chown(name.constData(), of_model.st_uid, of_model.st_gid) == 0;
   chmod(name.constData(), of_model.st_mode & (is_same_owner ? kAllPermissions : kPlainPermissions));
 }
+
+void RemoveFolderInUse(const QString& folder) { QDir(folder).removeRecursively(); }
 
 }  // namespace tavi

@@ -124,7 +124,7 @@ QString WholeFile::MakeFolder() {
   }
   if (!folder_->isValid()) return folder_->errorString();
   working_name_ = folder_->filePath(info.fileName());
-  SetCleanUp([path = folder_->path()] { QDir(path).removeRecursively(); });
+  SetCleanUp([path = folder_->path()] { RemoveFolderInUse(path); });
   return {};
 }
 

@@ -1,13 +1,10 @@
 // Files are written whole or not at all, even with signals, links, other owners, devices and size limits.
-#include <atomic>
 #include <csignal>
-#include <thread>
 #include <unistd.h>
 
 #include <QFileInfo>
 
 #include "host/system/file_commit.h"
-#include "host/system/terminal.h"
 #include "host/system/whole_file.h"
 #include "tests/host/system/whole_file_story.h"
 #include "tests/support/system/full_disk.h"
@@ -15,22 +12,6 @@
 
 namespace tavi {
 namespace {
-
-// The work is interrupted, by Ctrl+C or by a termination signal.
-TEST_F(WholeFileTest, IsGoneWhenTheProgramIsInterrupted) {
-  Fill(Path("day.json"), "before");
-  for (const int signal : {SIGINT, SIGTERM}) {
-    const auto work = [&] {
-      const WholeFile file(Path("day.json"));
-      Fill(file.WorkingName(), "a part");
-      kill(getpid(), signal);
-      for (;;) pause();
-    };
-    EXPECT_EXIT(work(), testing::KilledBySignal(signal), "");
-    EXPECT_EQ(FilesIn(folder_.path()), QStringList("day.json"));
-    EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
-  }
-}
 
 // This is how a script starts a background job.
 TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
@@ -42,21 +23,6 @@ TEST_F(WholeFileTest, WhoIgnoresInterruptionsIsNotInterrupted) {
     std::_Exit(file.Keep() ? 0 : 1);
   };
   EXPECT_EXIT(work(), testing::ExitedWithCode(0), "");
-  EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
-}
-
-// Between two tasks nothing is cleaned up, and Ctrl+C ends the program all the same.
-TEST_F(WholeFileTest, WhatIsKeptStaysWhenTheProgramIsInterruptedLater) {
-  const auto work = [&] {
-    {
-      WholeFile file(Path("day.json"));
-      Fill(file.WorkingName(), "whole");
-      file.Keep();
-    }
-    kill(getpid(), SIGINT);
-    for (;;) pause();
-  };
-  EXPECT_EXIT(work(), testing::KilledBySignal(SIGINT), "");
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("whole"));
 }
 
@@ -125,20 +91,6 @@ TEST_F(WholeFileTest, RoomIsMadeBeforeAFileIsWrittenOver) {
   EXPECT_EQ(ReserveRoom(&file, 101), QString("File too large"));
   EXPECT_EQ(ContentOf(Path("day.json")), QByteArray("before"));
   EXPECT_EQ(ReserveRoom(&file, 100), QString());
-}
-
-// A program with a window ends by itself, after it has saved its data.
-TEST_F(WholeFileTest, WhoTakesInterruptionsIsNotEndedByThem) {
-  const auto work = [&] {
-    static std::atomic<int> taken{0};
-    alarm(60);  // a child that is never interrupted ends all the same
-    SetInterruptionTaker([](int number) { taken = number; });
-    const WholeFile file(Path("day.json"));
-    kill(getpid(), SIGTERM);
-    while (taken == 0) std::this_thread::yield();
-    std::_Exit(ExitStatusOfSignal(taken));
-  };
-  EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGTERM), "");
 }
 
 // The library reports success then.

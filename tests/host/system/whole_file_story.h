@@ -34,8 +34,21 @@ inline QByteArray ContentOf(const QString& name) {
 
 class WholeFileTest : public testing::Test {
  protected:
+  ~WholeFileTest() override { qunsetenv(kSharedFolder); }
+
   QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+
+  // In a folder that the child processes of this test's death tests use too. On some systems such a process runs the
+  // test from its start, and has another folder_.
+  QString SharedPath(const char* name) const {
+    if (!qEnvironmentVariableIsSet(kSharedFolder)) qputenv(kSharedFolder, QFile::encodeName(folder_.path()));
+    return QFile::decodeName(qgetenv(kSharedFolder)) + QLatin1Char('/') + QLatin1String(name);
+  }
+
   QTemporaryDir folder_;
+
+ private:
+  static constexpr char kSharedFolder[] = "TAVI_TEST_FOLDER";
 };
 
 class WholeRecords : public Program {};
