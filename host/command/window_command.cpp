@@ -12,6 +12,7 @@
 #include "host/command/guest_option.h"
 #include "host/look/theme.h"
 #include "host/mirror/mirror_address.h"
+#include "host/mirror/mirror_targets.h"
 #include "host/picture/picture_file.h"
 #include "host/session/live_host.h"
 #include "host/system/console.h"
@@ -280,11 +281,14 @@ class InterruptionWatch {
   }
 };
 
-// However the window ends, nothing is down afterwards in the guests that got its lines.
+// However the window ends, nothing is down afterwards in the guests and instances that got its lines.
 class TargetsInUse {
  public:
   TargetsInUse() = default;
-  ~TargetsInUse() { LiveHost::GetInstance()->Targets()->Close(); }
+  ~TargetsInUse() {
+    LiveHost::GetInstance()->Targets()->Close();
+    MirrorTargets::GetInstance()->Finish();
+  }
   TargetsInUse(const TargetsInUse&) = delete;
   TargetsInUse& operator=(const TargetsInUse&) = delete;
 };

@@ -1,5 +1,6 @@
 #include "host/mirror/mirror_targets.h"
 
+#include <QDeadlineTimer>
 #include <QLocalSocket>
 
 #include "host/mirror/mirror_address.h"
@@ -12,6 +13,7 @@ namespace {
 
 // A target that stops reading must not make this instance's memory grow without limit.
 constexpr qint64 kMaxWaitingBytes = 1 << 20;
+constexpr int kFinishLimitMs = 1000;  // all targets together
 
 const QString kGone = QStringLiteral("it disconnected");
 
@@ -83,6 +85,17 @@ QStringList MirrorTargets::Names() const {
   QStringList names;
   for (const auto& entry : sockets_) names.append(entry.first);
   return names;
+}
+
+void MirrorTargets::Finish() {
+  const QDeadlineTimer limit(kFinishLimitMs);
+  for (const auto& entry : sockets_) {
+    QLocalSocket* socket = entry.second.get();
+    socket->blockSignals(true);  // a failure must not change the list
+    while (socket->bytesToWrite() > 0 && socket->waitForBytesWritten(static_cast<int>(limit.remainingTime()))) {
+    }
+    socket->blockSignals(false);
+  }
 }
 
 void MirrorTargets::Drop(const QString& name, const QString& problem) {

@@ -31,6 +31,9 @@ class MirrorTargets : public QObject {
   void Remove(const QString& name);
   // The targets that are connected or being tried.
   QStringList Names() const;
+  // Waits until the lines of all targets are sent, for a limited time: a program that ends would take the last ones
+  // with it on Windows.
+  void Finish();
 
   // While one exists, nothing is sent: lines that came from another instance are not passed on, so that two instances
   // that mirror each other do not loop.

@@ -1,112 +1,23 @@
-// The window as a program: how it ends when something outside ends it.
+// The window as a program: what it remembers, and what happens where nobody reads or nothing can be written.
 #include <csignal>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QCoreApplication>
-#include <QDataStream>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLocalServer>
-#include <QLocalSocket>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include "host/mirror/mirror_address.h"
-#include "host/mirror/mirror_message.h"
+#include "host/system/terminal.h"
 #include "taviinputmanager/taviinputmanager.h"
-#include "test_folders.h"
-#include "tests/support/application_object.h"
-#include "tests/support/run_until.h"
+#include "tests/host/window/window_program_story.h"
 
 namespace tavi {
 namespace {
 
-using taviinputmanager::RunEventsUntil;
-
-// A finger that is put down at once and stays for an hour.
-constexpr char kHeld[] = R"~({"info": {"total_running_time": 3600000}, "actions": [
-  {"timing": 0, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "2"},
-  {"timing": 3600000, "type": "touch", "data": "release", "extra1": "2"}]})~";
-
-class WindowProgram : public testing::Test {
- protected:
-  WindowProgram() {
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder_.path()));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.filePath("data")));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_.filePath("config")));
-    QFile record(Path("held.json"));
-    EXPECT_TRUE(record.open(QIODevice::WriteOnly));
-    record.write(kHeld);
-    record.close();
-    EXPECT_TRUE(guest_.listen(MirrorAddressOf("guest")));
-  }
-  ~WindowProgram() override {
-    if (program_.state() == QProcess::NotRunning) return;
-    program_.kill();
-    program_.waitForFinished();
-  }
-
-  QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
-
-  // Starts a window that replays the record with the finger, and waits until the finger is down.
-  void StartWithAFingerDown(const QStringList& options) {
-    const QStringList usual{"window", "-platform", "offscreen", "--replay", Path("held.json"), "--mirror", "guest"};
-    program_.start(TAVI_PROGRAM, usual + options);
-    ASSERT_TRUE(RunEventsUntil([&] { return HasSaid("SLOTPRESS"); })) << program_.readAllStandardError().toStdString();
-  }
-
-  // What the window sends to the instance that it mirrors to, which is this test.
-  bool HasSaid(const char* part) {
-    if (!socket_) socket_ = guest_.nextPendingConnection();
-    MirrorMessage message;
-    while (socket_ && ReadMirrorMessage(socket_, &message) == MirrorReading::kMessage) said_ += message.line;
-    return !said_.filter(QLatin1String(part)).isEmpty();
-  }
-
-  int EndBy(int number) {
-    kill(static_cast<pid_t>(program_.processId()), number);
-    EXPECT_TRUE(RunEventsUntil([&] { return program_.state() == QProcess::NotRunning; }));
-    EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
-    return program_.exitCode();
-  }
-
- private:
-  ApplicationObject<QCoreApplication> application_;
-
- protected:
-  QTemporaryDir folder_;
-  QProcess program_;
-  QLocalServer guest_;
-  QLocalSocket* socket_ = nullptr;  // owned by the server
-  QStringList said_;
-};
-
-TEST_F(WindowProgram, ASignalEndsItInOrder) {
-  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-    SCOPED_TRACE(number);
-    said_.clear();
-    socket_ = nullptr;
-    const QString record = Path("record.json");
-    StartWithAFingerDown({"--listen", "window", "--record", record});
-    EXPECT_TRUE(QFileInfo::exists(MirrorAddressOf("window")));
-    EXPECT_EQ(EndBy(number), 128 + number);
-    EXPECT_TRUE(RunEventsUntil([&] { return HasSaid("RELEASE"); }));
-    EXPECT_FALSE(QFileInfo::exists(MirrorAddressOf("window")));
-    RecordInfo info;
-    EXPECT_TRUE(taviinputmanager::GetRecordInfo(record, &info));
-    EXPECT_TRUE(QFile::remove(record));
-  }
-}
+constexpr ProgramEnd kTermination = {"SIGTERM", SIGTERM, SIGTERM};
 
 TEST_F(WindowProgram, ASignalLiftsWhatItsGuestsHaveDown) {
-  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-    SCOPED_TRACE(number);
-    said_.clear();
-    socket_ = nullptr;
+  for (const ProgramEnd& end : ProgramEnds()) {
+    SCOPED_TRACE(end.name);
     StartWithAFingerDown({"--guest", "exec:cat > '" + Path("lines") + "'"});
-    EXPECT_EQ(EndBy(number), 128 + number);
+    EXPECT_EQ(EndBy(end), ExitStatusOfSignal(end.number));
     QFile lines(Path("lines"));
     ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
     const QByteArray got = lines.readAll();
@@ -120,24 +31,18 @@ TEST_F(WindowProgram, ASignalLiftsWhatItsGuestsHaveDown) {
 TEST_F(WindowProgram, ItRemembersUnlessItIsFresh) {
   const QString file = Path("config/tavi/window.ini");
   StartWithAFingerDown({"--fresh", "--size", "800x600"});
-  EndBy(SIGTERM);
+  EndBy(kTermination);
   EXPECT_FALSE(QFileInfo::exists(file));
-  socket_ = nullptr;
-  said_.clear();
   StartWithAFingerDown({"--guest", "800x600"});  // the former name of --size
   EXPECT_TRUE(HasSaid(":400:300"));              // the middle
-  EndBy(SIGTERM);
+  EndBy(kTermination);
   EXPECT_TRUE(QFileInfo::exists(file));
-  socket_ = nullptr;
-  said_.clear();
   StartWithAFingerDown({});
   EXPECT_TRUE(HasSaid(":400:300"));
-  EndBy(SIGTERM);
-  socket_ = nullptr;
-  said_.clear();
+  EndBy(kTermination);
   StartWithAFingerDown({"--fresh"});
   EXPECT_TRUE(HasSaid(":640:360"));
-  EndBy(SIGTERM);
+  EndBy(kTermination);
 }
 
 TEST_F(WindowProgram, WhatIsRememberedAndMakesNoSenseCountsForNothing) {
@@ -148,26 +53,24 @@ TEST_F(WindowProgram, WhatIsRememberedAndMakesNoSenseCountsForNothing) {
   settings.close();
   StartWithAFingerDown({});
   EXPECT_TRUE(HasSaid(":640:360"));
-  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
+  EXPECT_EQ(EndBy(kTermination), 128 + SIGTERM);
 }
 
 // In the last session F11 was the pause key; now it is the panic key.
 TEST_F(WindowProgram, WhatIsRememberedAndDoesNotGoWithTheRestIsLeftOutAlone) {
   StartWithAFingerDown({"--guest", "800x600", "--pause-key", "F11"});
-  EndBy(SIGTERM);
+  EndBy(kTermination);
   program_.readAllStandardError();
-  socket_ = nullptr;
-  said_.clear();
   StartWithAFingerDown({"--panic-key", "F11"});
   EXPECT_TRUE(HasSaid(":400:300"));
-  EndBy(SIGTERM);
+  EndBy(kTermination);
   EXPECT_TRUE(program_.readAllStandardError().contains(
       "--pause-key F11 from the last session is ignored: --pause-key and --panic-key use the same key"));
 }
 
 TEST_F(WindowProgram, ARecordingThatCannotBeSavedIsKept) {
   StartWithAFingerDown({"--record", "/dev/full"});
-  EXPECT_EQ(EndBy(SIGTERM), 128 + SIGTERM);
+  EXPECT_EQ(EndBy(kTermination), 128 + SIGTERM);
   const QString told = QString::fromUtf8(program_.readAllStandardError());
   const QString start =
       "tavi window: /dev/full cannot be written: No space left on device; the recording was saved as ";
