@@ -11,9 +11,7 @@ if(NOT cache)
   set(cache $ENV{HOME}/.cache/tavi)
 endif()
 set(CMAKE_SYSROOT ${cache}/arm64)
-# With -L, qemu opens files of the sysroot first, but does not list its folders; so Qt does not find its plugins there.
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${CMAKE_SYSROOT}
-  -E QT_PLUGIN_PATH=${CMAKE_SYSROOT}/usr/lib/aarch64-linux-gnu/qt5/plugins)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/run_arm64)
 
 # Libraries, headers and packages come from the sysroot, programs from this machine.
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
