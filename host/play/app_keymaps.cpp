@@ -4,11 +4,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include "keymapmanager/keymap_file.h"
-#include "qt/ini_file.h"
 
 namespace tavi {
 
@@ -63,13 +63,13 @@ QStringList AppKeymaps::Apps() const {
 }
 
 QString AppKeymaps::LastApp() const {
-  return memory_.isEmpty() ? QString() : qt::IniFile(memory_).value(KeyOf(folder_)).toString();
+  return memory_.isEmpty() ? QString() : QSettings(memory_, QSettings::IniFormat).value(KeyOf(folder_)).toString();
 }
 
 QString AppKeymaps::Remember(const QString& app) const {
   if (memory_.isEmpty()) return {};
-  qt::IniFile memory(memory_);
-  memory.setValue(KeyOf(folder_), app);
+  QSettings memory(memory_, QSettings::IniFormat);
+  memory.setValue(KeyOf(folder_), app.toUtf8());  // as text, each Qt has an encoding of its own
   memory.sync();
   if (memory.status() == QSettings::NoError) return {};
   return QStringLiteral("cannot write %1: %2 is not remembered").arg(memory_, app);

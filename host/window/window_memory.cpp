@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include "host/look/theme.h"
@@ -14,7 +15,6 @@
 #include "host/window/main_tool_bar.h"
 #include "host/window/main_window.h"
 #include "host/window/view/guest_display.h"
-#include "qt/ini_file.h"
 
 namespace tavi {
 
@@ -65,7 +65,7 @@ QString WindowMemory::UsualFile() {
 QSize WindowMemory::FirstSize(const QSize& available) { return kFirstSize.boundedTo(available - kFrame); }
 
 WindowMemory::WindowMemory(const QString& file)
-    : settings_(file.isEmpty() ? nullptr : std::make_unique<qt::IniFile>(file)) {}
+    : settings_(file.isEmpty() ? nullptr : std::make_unique<QSettings>(file, QSettings::IniFormat)) {}
 
 WindowMemory::~WindowMemory() = default;
 
@@ -115,7 +115,8 @@ void WindowMemory::Save(const MainWindow& window) {
   settings_->setValue(QLatin1String(kLayout), window.saveState(kVersion));
   settings_->setValue(QLatin1String(kDocks), shown);
   settings_->setValue(QLatin1String(kOverlay), window.Tools()->Overlay()->isChecked());
-  settings_->setValue(QLatin1String(kKeymap), AbsolutePath(window.Editor()->Document()->Path()));
+  // As text, each Qt has an encoding of its own; the options have one that both share.
+  settings_->setValue(QLatin1String(kKeymap), AbsolutePath(window.Editor()->Document()->Path()).toUtf8());
   settings_->setValue(QLatin1String(kOptions), options);
   settings_->sync();
 }

@@ -209,6 +209,25 @@ TEST_F(Control, AnAppHasItsOwnKeymapAndTheLastOneIsRemembered) {
   EXPECT_EQ(apps_->LastApp(), QString("com.example.two"));
 }
 
+// Qt would give this process what it has in memory of a file, so each is read under a new name.
+TEST_F(Control, TheLastAppIsReadAsThisVersionAndOlderOnesWriteIt) {
+  const QString app = QStringLiteral("com.example.\u9375\U0001F3AE");
+  EXPECT_EQ(AppKeymaps(folder_.path(), folder_.filePath("play.ini")).Remember(app), QString());
+  QFile written(folder_.filePath("play.ini"));
+  ASSERT_TRUE(written.copy(folder_.filePath("copy.ini")));
+  EXPECT_EQ(AppKeymaps(folder_.path(), folder_.filePath("copy.ini")).LastApp(), app);
+
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  QByteArray text = written.readAll();
+  const auto begin = text.indexOf('=') + 1;
+  text.replace(begin, text.size() - begin, "com.example.\\x9375\\xd83c\\xdfae\n");
+  QFile old(folder_.filePath("old.ini"));
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write(text);
+  old.close();
+  EXPECT_EQ(AppKeymaps(folder_.path(), old.fileName()).LastApp(), app);
+}
+
 // A folder with the file's name cannot be written to by anyone.
 TEST_F(Control, AnAppThatCannotBeRememberedIsPlayedAndThatIsTold) {
   Write("one.yaml", kOtherTap, "package: com.example.one");

@@ -149,6 +149,16 @@ TEST_F(WindowMemoryTest, KeymapsAndOptionsAreKeptAsACommandLineHasThem) {
   EXPECT_EQ(memory.Options()["--size"], "view");
 }
 
+// Versions for Qt 5 alone had the keymap's path as text with escapes.
+TEST_F(WindowMemoryTest, AKeymapIsReadAsOlderVersionsWroteIt) {
+  const QString keymap = Write("caf\u00E9 \u9375\U0001F3AE.yaml", "");
+  QFile file(File());
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("[General]\nkeymap=" + folder_.path().toUtf8() + "/caf\\xe9 \\x9375\\xd83c\\xdfae.yaml\n");
+  file.close();
+  EXPECT_EQ(WindowMemory(File()).Keymap(), keymap);
+}
+
 TEST_F(WindowMemoryTest, FilesThatAreGoneAreForgotten) {
   Load("");
   LoadJoystick("");
