@@ -5,6 +5,7 @@
 
 #include "host/target/command_link.h"
 #include "host/target/uinput_link.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -16,6 +17,7 @@ const QString kCommand = QStringLiteral("exec:");
 const QString kSocketFile = QStringLiteral("unix:");
 const QString kTcp = QStringLiteral("tcp:");
 const QString kUinput = QStringLiteral("uinput");
+constexpr int kMostPort = 65535;
 
 bool IsThisMachine(const QString& host) {
   return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
@@ -38,15 +40,15 @@ QString TakeSocketFile(const QString& rest, TargetAddress* address) {
 QString TakeTcp(const QString& rest, TargetAddress* address) {
   address->kind = Kind::kTcp;
   const int colon = rest.lastIndexOf(QLatin1Char(':'));
-  bool is_number = false;
-  address->port = rest.mid(colon + 1).toUShort(&is_number);
+  const int port = qt::ToInt(rest.mid(colon + 1));  // 0 if it is no number
   address->place = rest.left(qMax(colon, 0));
   const bool has_brackets = address->place.startsWith(QLatin1Char('[')) && address->place.endsWith(QLatin1Char(']'));
   if (has_brackets) address->place = address->place.mid(1).chopped(1);
   const bool is_split = has_brackets || !address->place.contains(QLatin1Char(':'));
-  if (address->place.isEmpty() || !is_split || !is_number || address->port == 0) {
+  if (address->place.isEmpty() || !is_split || port < 1 || port > kMostPort) {
     return QStringLiteral("tcp: needs HOST:PORT such as localhost:7000, not \"%1\"").arg(rest);
   }
+  address->port = static_cast<quint16>(port);
   if (address->may_be_remote || IsThisMachine(address->place)) return {};
   return QStringLiteral(
              "%1 is another machine, and anyone on the network path can read what you type; --allow-remote "

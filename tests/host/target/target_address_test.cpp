@@ -25,6 +25,7 @@ TEST(TargetAddress, IsWhatAPersonWrites) {
       {"tcp:localhost:7000", Kind::kTcp, "localhost", 7000},
       {"tcp:127.0.0.9:1", Kind::kTcp, "127.0.0.9", 1},
       {"tcp:[::1]:65535", Kind::kTcp, "::1", 65535},
+      {"tcp:localhost: +7000\u00A0", Kind::kTcp, "localhost", 7000},  // with blanks, as in any number
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text.toStdString());
@@ -51,6 +52,7 @@ TEST(TargetAddress, IsToldWhatIsWrongWithIt) {
       {"tcp:7000", "tcp: needs HOST:PORT such as localhost:7000, not \"7000\""},
       {"tcp:localhost:", "tcp: needs HOST:PORT such as localhost:7000, not \"localhost:\""},
       {"tcp:localhost:0", "tcp: needs HOST:PORT such as localhost:7000, not \"localhost:0\""},
+      {"tcp:localhost:-1", "tcp: needs HOST:PORT such as localhost:7000, not \"localhost:-1\""},
       {"tcp:localhost:65536", "tcp: needs HOST:PORT such as localhost:7000, not \"localhost:65536\""},
       {"tcp:::1:7000", "tcp: needs HOST:PORT such as localhost:7000, not \"::1:7000\""},
       {"tcp:[]:7000", "tcp: needs HOST:PORT such as localhost:7000, not \"[]:7000\""},
