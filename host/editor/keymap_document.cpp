@@ -8,6 +8,7 @@
 #include "host/system/plain_file.h"
 #include "host/system/whole_file.h"
 #include "keymap/tavikeymapmanager.h"
+#include "qt/numbers.h"
 
 namespace tavi {
 
@@ -72,7 +73,7 @@ std::optional<QPointF> PairOf(const QString& text) {
   const QRegularExpressionMatch match = form.match(text);
   bool is_x = false;
   bool is_y = false;
-  const QPointF pair(match.captured(1).toDouble(&is_x), match.captured(2).toDouble(&is_y));
+  const QPointF pair(qt::ToDouble(match.captured(1), &is_x), qt::ToDouble(match.captured(2), &is_y));
   return is_x && is_y ? std::make_optional(pair) : std::nullopt;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QRegularExpression>
 
+#include "qt/numbers.h"
+
 namespace tavikeymapmanager {
 
 namespace {
@@ -68,7 +70,7 @@ double PlainNumber(const QString& text) {
   if (IsNanWord(text)) return std::numeric_limits<double>::quiet_NaN();
   const double infinity = std::numeric_limits<double>::infinity();
   if (IsInfinityWord(text)) return text.startsWith(QLatin1Char('-')) ? -infinity : infinity;
-  return text.toDouble();  // independent of the locale; infinite on overflow
+  return qt::ToDouble(text);  // infinite if it is too large
 }
 
 }  // namespace

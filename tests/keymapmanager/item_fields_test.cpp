@@ -1,4 +1,6 @@
 // Every class and every field of the contract can be read: each gets a value of its own, which is then checked.
+#include <cmath>
+
 #include "tests/keymapmanager/keymap_text.h"
 
 namespace tavikeymapmanager {
@@ -90,6 +92,14 @@ TEST(ItemFields, Curve) {
   EXPECT_EQ(QPointF(-0.5, 0.5), item.curve_start);
   EXPECT_EQ(QPointF(0.25, -1), item.curve_end);
   EXPECT_EQ(14, item.curve_first_delay_ms);
+}
+
+TEST(ItemFields, NumbersTooSmallForADoubleAreZero) {
+  const auto item = OneItem("type: Curve, key: W, point: [-1e-400, 0.75], curve_points: [[-1e-400, 0], [1, 1e-400]]")
+                        .As<CurveConfigItem>();
+  ExpectPoint(item, 0, 0.75);
+  EXPECT_FALSE(std::signbit(item.rel_x));
+  EXPECT_EQ("0,0;1,0", item.curve_points.toStdString());
 }
 
 TEST(ItemFields, Wheel) {

@@ -55,6 +55,7 @@ TEST_F(KeymapDocumentTest, WhatWouldNotLoadIsRefusedInTheLoadersWords) {
       {"key", "", "Click without 'key'"},
       {"point", "0.5, 2", "'point': expected a number from 0 to 1, got the number 2"},
       {"point", "the middle", "'point': expected [x, y], both from 0 to 1, got the text 'the middle'"},
+      {"point", "-1e-400, 0.5", "'point': expected [x, y], both from 0 to 1, got the text '-1e-400, 0.5'"},
       {"type", "Clik", "unknown item type: the text 'Clik'; did you mean 'Click'?"},
       {"radius", "0.5",
        "unknown field 'radius' of Click; it belongs to items of type Swipehold, VirtualLeftStick and "
