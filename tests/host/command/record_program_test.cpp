@@ -1,7 +1,13 @@
 // `tavi record`, and records made by `tavi simulate`, as users start them.
+#include <memory>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QSemaphore>
+#include <QThread>
 #include <QXmlStreamReader>
 
 #include "tests/host/record/record_text.h"
@@ -248,6 +254,38 @@ QByteArray SentBytes(const QString& timeline) {
   return bytes;
 }
 
+// A guest that takes the lines of one host, while this thread waits for that host.
+class Guest {
+ public:
+  explicit Guest(const QString& path) : thread_(QThread::create([this, path] { Listen(path); })) {
+    thread_->start();
+    listens_.acquire();
+  }
+  // After the host has left.
+  QByteArray Lines() {
+    EXPECT_TRUE(thread_->wait(2 * kLimitMs));
+    return lines_;
+  }
+
+ private:
+  static constexpr int kLimitMs = 30000;
+
+  void Listen(const QString& path) {
+    QLocalServer server;
+    EXPECT_TRUE(server.listen(path));
+    listens_.release();
+    if (!server.waitForNewConnection(kLimitMs)) return;
+    QLocalSocket* host = server.nextPendingConnection();
+    while (host->waitForReadyRead(kLimitMs)) {
+    }
+    lines_ = host->readAll();
+  }
+
+  QSemaphore listens_;
+  QByteArray lines_;  // of the thread, until it has ended
+  std::unique_ptr<QThread> thread_;
+};
+
 TEST_F(RecordProgram, PlaySendsToGuestsWhatItPlays) {
   Write("typed.json", WithActions(R"~({"timing": 40, "type": "touch", "data": "press_rel:(0.5,0.5)", "extra1": "11"},
       {"timing": 80, "type": "touch", "data": "release", "extra1": "11"},
@@ -258,12 +296,15 @@ TEST_F(RecordProgram, PlaySendsToGuestsWhatItPlays) {
                           .constData());
   const QByteArray expected = SentBytes(Run({"record", "play", "typed.json"}).output);
   ASSERT_TRUE(expected.contains(QByteArray("TEXT:a\nb:c\0", 11))) << expected.toStdString();
-  const Outcome outcome = Run({"record", "play", "--live", "typed.json", "--guest", "exec:cat > first.lines", "--guest",
-                               "exec:cat > second.lines"});
+  const QString paths[] = {Folder() + "/first", Folder() + "/second"};
+  Guest first(paths[0]);
+  Guest second(paths[1]);
+  const Outcome outcome =
+      Run({"record", "play", "--live", "typed.json", "--guest", "unix:" + paths[0], "--guest", "unix:" + paths[1]});
   EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
-  EXPECT_EQ(Content("first.lines"), SentBytes(outcome.output));
-  EXPECT_EQ(Content("second.lines"), SentBytes(outcome.output));
-  EXPECT_EQ(Content("first.lines"), expected);
+  EXPECT_EQ(SentBytes(outcome.output), expected);
+  EXPECT_EQ(first.Lines(), expected);
+  EXPECT_EQ(second.Lines(), expected);
 }
 
 TEST_F(RecordProgram, PlayTellsOfAGuestThatIsNotThere) {
