@@ -10,7 +10,7 @@
 namespace tavi {
 
 // For this process and its children, while it exists: a folder in `place`, or on Windows, where that cannot be chosen,
-// the user's own. Then other tests that have one wait.
+// the user's own. Then other tests that have one wait, and in the end its new folders are removed.
 class DataFolder {
  public:
   explicit DataFolder(const QString& place);

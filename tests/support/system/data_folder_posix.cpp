@@ -5,8 +5,16 @@
 
 namespace tavi {
 
-DataFolder::DataFolder(const QString& place) : leave_([] {}), path_(place + QStringLiteral("/tavi")) {
-  qputenv("XDG_DATA_HOME", QFile::encodeName(place));
+namespace {
+
+constexpr char kVariable[] = "XDG_DATA_HOME";
+
+}  // namespace
+
+DataFolder::DataFolder(const QString& place) : path_(place + QStringLiteral("/tavi")) {
+  const bool was_set = qEnvironmentVariableIsSet(kVariable);
+  leave_ = [was_set, before = qgetenv(kVariable)] { was_set ? qputenv(kVariable, before) : qunsetenv(kVariable); };
+  qputenv(kVariable, QFile::encodeName(place));
 }
 
 QStringList DataFolder::NewFolders() const { return QDir(path_).entryList(QDir::Dirs | QDir::NoDotAndDotDot); }

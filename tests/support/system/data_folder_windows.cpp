@@ -17,7 +17,10 @@ DataFolder::DataFolder(const QString& /*place*/)
     : path_(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/tavi")) {
   const HANDLE turn = CreateMutexW(nullptr, FALSE, L"tavi-tests-data-folder");
   WaitForSingleObject(turn, INFINITE);
-  leave_ = [turn] {
+  const bool was_there = QDir(path_).exists();
+  leave_ = [this, turn, was_there] {
+    for (const QString& folder : NewFolders()) QDir(path_ + QLatin1Char('/') + folder).removeRecursively();
+    if (!was_there) QDir().rmdir(path_);
     ReleaseMutex(turn);
     CloseHandle(turn);
   };
