@@ -75,6 +75,8 @@ TEST(Numbers, AreReadAsQt5ReadsThem) {
       {"groups", u"1,000", 0, false},
       {"too large", u"-1e400", -infinity, false},
       {"too small", u"-1e-400", 0, false},
+      {"infinity", u"inf", infinity, true},
+      {"infinity below", u"-inf", -infinity, true},
       {"nothing", u"", 0, false},
   };
   for (const auto& row : rows) {
@@ -86,6 +88,13 @@ TEST(Numbers, AreReadAsQt5ReadsThem) {
     EXPECT_EQ(is_number, row.is_number) << row.name;
     EXPECT_EQ(qt::ToDouble(text), row.number) << row.name;
   }
+}
+
+// It equals nothing, so it is not in the table.
+TEST(Numbers, MayBeNan) {
+  bool is_number = false;
+  EXPECT_TRUE(std::isnan(qt::ToDouble(u"nan", &is_number)));
+  EXPECT_TRUE(is_number);
 }
 
 }  // namespace
