@@ -1,6 +1,9 @@
 #include "host/simulation/script.h"
 
+#include <cmath>
+#include <limits>
 #include <optional>
+#include <utility>
 
 #include "host/guest/rounding.h"
 #include "keymap/keywords.h"
@@ -80,10 +83,14 @@ Problem ReadDuration(Words* words, ScriptCommand* command) {
   return command->number >= 0 ? Problem() : QStringLiteral("a time in milliseconds is not negative");
 }
 
+// Not of NaN.
+bool FitsInt(double v) { return std::abs(v) <= std::numeric_limits<int>::max(); }
+
 Problem ReadSize(Words* words, ScriptCommand* command) {
   const QString word = words->TakeWord();
   const auto size = ParsePair(word, QLatin1Char('x'));
-  if (!size) return QStringLiteral("expected a size such as 1280x720, found \"%1\"").arg(word);
+  const bool is_size = size && FitsInt(size->x()) && FitsInt(size->y());
+  if (!is_size) return QStringLiteral("expected a size such as 1280x720, found \"%1\"").arg(word);
   const QPoint sides = Rounded(*size);
   command->size = QSize(sides.x(), sides.y());
   return {};

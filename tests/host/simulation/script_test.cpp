@@ -131,6 +131,9 @@ TEST(Script, RefusesWhatItDoesNotUnderstand) {
       {"joy down", "expected a text"},
       {"reset all", "expected full or nothing, found \"all\""},
       {"window 640", "expected a size such as 1280x720, found \"640\""},
+      {"window 1e300x5", "expected a size such as 1280x720, found \"1e300x5\""},
+      {"guest 5x-2147483648", "expected a size such as 1280x720, found \"5x-2147483648\""},
+      {"touchpanel nanx5", "expected a size such as 1280x720, found \"nanx5\""},
       {"textfield yes", "expected on or off, found \"yes\""},
       {"downW", "unknown command \"downW\""},
   };
