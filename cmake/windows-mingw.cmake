@@ -8,11 +8,11 @@ set(CMAKE_C_COMPILER ${tavi_mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${tavi_mingw}-g++-posix)
 set(CMAKE_RC_COMPILER ${tavi_mingw}-windres)
 
-set(cache $ENV{TAVI_CACHE})
-if(NOT cache)
-  set(cache $ENV{HOME}/.cache/tavi)
+set(tavi_cache $ENV{TAVI_CACHE})
+if(NOT tavi_cache)
+  set(tavi_cache $ENV{HOME}/.cache/tavi)
 endif()
-set(tavi_windows_root ${cache}/windows/root)
+set(tavi_windows_root ${tavi_cache}/windows/root)
 
 # Libraries, headers and packages are those for Windows, programs those of this machine.
 set(CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH} ${tavi_windows_root} /usr/${tavi_mingw})
