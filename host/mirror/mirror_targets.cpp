@@ -71,7 +71,7 @@ void MirrorTargets::Add(const QString& name) {
   connect(socket, &QLocalSocket::disconnected, this, [this, name] { Drop(name, kGone); });
   connect(socket, &QLocalSocket::errorOccurred, this,
           [this, name, socket](QLocalSocket::LocalSocketError) { Drop(name, ProblemOf(*socket)); });
-  // It says nothing; on Windows, only a socket that reads notices the other end closing.
+  // The other end never writes; on Windows only a socket that reads notices that it has closed.
   connect(socket, &QLocalSocket::readyRead, this, [socket] { socket->readAll(); });
   socket->connectToServer(MirrorAddressOf(name));
 }

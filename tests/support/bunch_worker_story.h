@@ -1,7 +1,8 @@
-// Stories of the workers of rapid taps without a run: their signals. In a generic lambda, clang counts "this" as unused
-// unless it is written.
+// Stories of the workers of rapid taps without a run: their signals.
 #ifndef TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
 #define TESTS_SUPPORT_BUNCH_WORKER_STORY_H_
+
+#include <utility>
 
 #include "tests/support/story.h"
 
@@ -9,6 +10,7 @@ namespace taviinputmanager {
 
 class BunchWorkerStory : public Story {
  protected:
+  // "this" is written in these lambdas because clang counts it as unused in a generic one otherwise.
   template <typename Worker>
   void ListenToContinue(Worker* worker) {
     QObject::connect(worker, &Worker::BunchTapPressed, [this](auto... what) { this->Add("press", what...); });

@@ -32,7 +32,7 @@ const void* StartOf(DWORD thread) {
 }
 
 // Threads of the program start in Qt or in the C runtime. There are helpers besides, which come and go: the system has
-// one for exact timers, and googletest one that watches threads with failures.
+// one for exact timers, and googletest has one for each thread in which an assertion failed or a scope was traced.
 bool IsOfTheProgram(DWORD thread) {
   static const HMODULE starters[] = {ModuleOf(reinterpret_cast<const void*>(&qVersion)),
                                      ModuleOf(reinterpret_cast<const void*>(&_beginthreadex))};
