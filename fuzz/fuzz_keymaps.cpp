@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <random>
+#include <utility>
 #include <vector>
 
 #include <QDir>

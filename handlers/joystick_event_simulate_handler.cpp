@@ -1,5 +1,7 @@
 #include "handlers/joystick_event_simulate_handler.h"
 
+#include <utility>
+
 #include <QPointF>
 
 #include "core/input_manager.h"

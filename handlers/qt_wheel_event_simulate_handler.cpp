@@ -1,5 +1,7 @@
 #include "handlers/qt_wheel_event_simulate_handler.h"
 
+#include <utility>
+
 #include <QWheelEvent>
 
 #include "core/clock.h"

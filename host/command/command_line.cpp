@@ -1,6 +1,7 @@
 #include "host/command/command_line.h"
 
 #include <cmath>
+#include <utility>
 
 #include <QRegularExpression>
 

@@ -1,6 +1,7 @@
 #include "host/command/window_command.h"
 
 #include <optional>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>

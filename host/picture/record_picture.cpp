@@ -1,6 +1,7 @@
 #include "host/picture/record_picture.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QPair>
 #include <QSizeF>

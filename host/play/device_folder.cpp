@@ -1,6 +1,7 @@
 #include "host/play/device_folder.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QDir>
 

@@ -1,5 +1,7 @@
 #include "host/play/play_session.h"
 
+#include <utility>
+
 #include <QCursor>
 #include <QFileInfo>
 

@@ -1,5 +1,7 @@
 #include "host/session/key_matcher.h"
 
+#include <utility>
+
 #include "keymap/keywords.h"
 #include "keymapmanager/key_names.h"
 #include "keymapmanager/keymap_file.h"

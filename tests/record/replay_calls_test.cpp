@@ -1,4 +1,6 @@
 // What a host may do on the thread of a replay, and in parallel on the main thread.
+#include <utility>
+
 #include <QSemaphore>
 
 #include "tests/record/replay_threads.h"

@@ -1,5 +1,6 @@
 // Short records that are played in loops, and a host that makes a request in every line and callback.
 #include <random>
+#include <utility>
 
 #include "tests/record/replay_threads.h"
 #include "tests/support/from_environment.h"

@@ -3,6 +3,7 @@
 
 #include <random>
 #include <set>
+#include <utility>
 
 #include "tests/support/model_guest.h"
 

@@ -1,5 +1,7 @@
 #include "host/window/controls/control_focus.h"
 
+#include <utility>
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDockWidget>

@@ -1,5 +1,7 @@
 #include "host/window/controls/status_room.h"
 
+#include <utility>
+
 #include <QEvent>
 #include <QLabel>
 #include <QStatusBar>

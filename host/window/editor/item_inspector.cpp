@@ -1,6 +1,7 @@
 #include "host/window/editor/item_inspector.h"
 
 #include <iterator>
+#include <utility>
 
 #include <QCheckBox>
 #include <QFormLayout>

@@ -3,6 +3,7 @@
 #define QT_5_QT_CHILD_PROCESS_H_
 
 #include <functional>
+#include <utility>
 
 #include <QProcess>
 

@@ -1,6 +1,8 @@
 // Editing in the window: a user drags, presses keys and saves, and the file changes only there.
 #include "host/window/editor/keymap_editor.h"
 
+#include <utility>
+
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
