@@ -8,7 +8,7 @@
 namespace qt {
 
 // Reads like Qt 5. QStringView::toInt ignores everything after a NUL character, and accepts neither the minus sign
-// U+2212 nor blanks outside ASCII; from 6.8 on, toDouble does not accept that sign either.
+// U+2212 nor blanks outside ASCII; in 6.8, toDouble does not accept that sign either.
 inline const QLocale& ReadingLocale() {
   static const QLocale locale = [] {
     QLocale c(QLocale::C);
