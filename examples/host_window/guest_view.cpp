@@ -1,7 +1,6 @@
 #include "guest_view.h"
 
 #include <cstdio>
-#include <keymap/scan_codes.h>
 #include <taviinputmanager/taviinputmanager.h>
 
 #include <QCursor>
@@ -10,6 +9,7 @@
 #include <QPainter>
 
 #include "guest_events.h"
+#include "scan_code.h"
 
 namespace tavi = taviinputmanager;
 
@@ -22,17 +22,6 @@ constexpr int kTextKey = Qt::Key_F11;  // simulates a guest that reports its tex
 constexpr int kNotch = 120;            // of the wheel, in eighths of a degree
 
 GuestView* view = nullptr;
-
-// Qt returns a key's native code: on Windows the one that the library expects, under X11 and Wayland that of X11. 0 if
-// the key has no scan code.
-quint32 WindowsScanCode(const QKeyEvent& event) {
-#ifdef Q_OS_WIN
-  return event.nativeScanCode();
-#else
-  const int linux_code = static_cast<int>(event.nativeScanCode()) - tavikeymapmanager::kX11KeyOffset;
-  return static_cast<quint32>(tavikeymapmanager::ScanCodeOfLinuxKey(linux_code));
-#endif
-}
 
 }  // namespace
 
