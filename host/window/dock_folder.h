@@ -40,7 +40,7 @@ class DockFolder : public QObject {
 
  private:
   struct Entry {
-    QDockWidget* dock;
+    QDockWidget* dock = nullptr;
     bool is_crowded = false;  // the window is too small for it
     bool is_folded = false;   // hidden because of that
   };
