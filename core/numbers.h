@@ -33,12 +33,14 @@ Wide TruncateTo(double v) {
 }
 
 // Rounds to nearest, halves up: -0.5 gives 0, -1.5 gives -1. The same limits as Truncate.
+// NOLINTBEGIN(bugprone-incorrect-roundings): this is how Qt 5 rounds
 inline int Round(double v) {
   constexpr int kHighest = std::numeric_limits<int>::max();
   if (v >= 0) return v + 0.5 < kHighest ? static_cast<int>(v + 0.5) : kHighest;
   const double k = Truncate(v - 1);
   return Truncate(static_cast<double>(Truncate(v - k + 0.5)) + k);
 }
+// NOLINTEND(bugprone-incorrect-roundings)
 
 // Counts wrap at the range of an int, modulo 2^32.
 inline int AddWrapped(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b)); }
