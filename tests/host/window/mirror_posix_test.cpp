@@ -6,6 +6,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
@@ -154,6 +155,39 @@ TEST_F(Mirror, ATargetThatReadsNothingIsDropped) {
   }
   EXPECT_EQ(lost_, QStringList({"silent", "it stopped reading lines"}));
   EXPECT_TRUE(targets->Names().isEmpty());
+  close(silent);
+}
+
+TEST_F(Mirror, AtTheEndTheLastLinesAreSentWithoutTheEventLoop) {
+  sockaddr_un address{};
+  const int listening = BindTo("last", &address);
+  ASSERT_EQ(listen(listening, 1), 0);
+  Reach({"last"});
+  const int peer = accept(listening, nullptr, nullptr);
+  char bytes[100];
+  taviinputmanager::OnInputRawEventData("KBDRL:30:0\n", LiveHost::kDisplay);
+  EXPECT_EQ(recv(peer, bytes, sizeof bytes, MSG_DONTWAIT), -1);  // not yet
+  MirrorTargets::GetInstance()->Finish();
+  EXPECT_GT(recv(peer, bytes, sizeof bytes, MSG_DONTWAIT), 0);
+  close(peer);
+  close(listening);
+}
+
+TEST_F(Mirror, ATargetThatReadsNothingDelaysTheEndByASecondAtMost) {
+  sockaddr_un address{};
+  const int silent = BindTo("silent", &address);
+  ASSERT_EQ(listen(silent, 1), 0);
+  MirrorTargets* targets = MirrorTargets::GetInstance();
+  Reach({"silent"});
+  // 60 kB each: more than the system buffers, and less than the 1 MB for which a target is dropped.
+  for (int i = 0; i < 14; ++i) taviinputmanager::OnInputRawTextData("TEXT:" + QString(30000, 'a') + "\n");
+  QElapsedTimer time;
+  time.start();
+  targets->Finish();
+  EXPECT_GE(time.elapsed(), 900);
+  EXPECT_LT(time.elapsed(), 20000);  // on a busy machine
+  EXPECT_EQ(lost_, QStringList());
+  EXPECT_EQ(targets->Names(), QStringList{"silent"});
   close(silent);
 }
 
