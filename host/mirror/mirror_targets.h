@@ -31,8 +31,8 @@ class MirrorTargets : public QObject {
   void Remove(const QString& name);
   // The targets that are connected or being tried.
   QStringList Names() const;
-  // Waits until the lines of all targets are sent, for a limited time: a program that ends would take the last ones
-  // with it on Windows.
+  // Waits until all lines are sent, for at most a second in total: on Windows, lines that are still queued are lost
+  // when the program ends.
   void Finish();
 
   // While one exists, nothing is sent: lines that came from another instance are not passed on, so that two instances

@@ -14,11 +14,12 @@ namespace {
 
 QString LastProblem() { return qt_error_string(static_cast<int>(GetLastError())); }
 
-// The system counts handles in steps of 4 and gives free numbers again. This program has some hundred at once.
+// Handles are multiples of 4, and the system reuses them. This program has a few hundred open at once.
 constexpr UINT_PTR kHandleStep = 4;
 constexpr UINT_PTR kLastHandle = 1 << 16;
 
-// An empty name if it is not a file's. A pipe's handle may not even be asked while a thread waits for data from it.
+// Empty if the handle is not a file's. The standard handles may be pipes: asking about a pipe blocks while a thread
+// waits for data from it.
 std::wstring NameOf(HANDLE handle) {
   for (const DWORD standard : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
     if (handle == GetStdHandle(standard)) return {};

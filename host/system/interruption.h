@@ -8,7 +8,7 @@ namespace tavi {
 // ends the program; until then, other threads wait if they set a clean-up or a taker.
 void React(int number, void (*end)(int number));
 
-// From now on the system's interruptions call React, on a thread of their own. For a second call it does nothing.
+// From now on the system's interruptions call React, on a thread of their own. Further calls do nothing.
 void ListenForInterruptions();
 
 }  // namespace tavi

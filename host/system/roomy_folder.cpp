@@ -23,7 +23,7 @@ QStringList Candidates() {
   return folders;
 }
 
-// A folder whose room is unknown, such as one in a chroot, which has no mount of its own, is taken to be roomy.
+// If the space is unknown, as in a chroot whose root is not a mount, the folder is taken to have plenty.
 qint64 RoomIn(const QString& folder) {
   const bool is_usable = QDir().mkpath(folder) && QFileInfo(folder).isWritable();
   if (!is_usable) return 0;
